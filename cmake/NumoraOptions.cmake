@@ -1,0 +1,22 @@
+# Compiler settings that every target of the project takes by linking numora_options.
+# A user's build shows warnings; CI (NUMORA_WERROR) does not let one pass.
+add_library(numora_options INTERFACE)
+# Headers are named from the top folder, so that an include shows which subsystem it comes from.
+target_include_directories(numora_options INTERFACE "${CMAKE_SOURCE_DIR}")
+target_compile_options(numora_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(NUMORA_WERROR)
+    target_compile_options(numora_options INTERFACE -Werror)
+endif()
+if(NUMORA_SANITIZE)
+    target_compile_options(numora_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(numora_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# The same for code that uses Qt, without Qt's silent conversions.
+add_library(numora_qt_options INTERFACE)
+target_link_libraries(numora_qt_options INTERFACE numora_options)
+target_compile_definitions(numora_qt_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_NO_KEYWORDS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
