@@ -1,0 +1,299 @@
+#include "bignum/Expression.h"
+
+#include "bignum/ExpressionArithmetic.h"
+#include "bignum/ExpressionFunctions.h"
+#include "bignum/ExpressionTokenizer.h"
+#include "bignum/NumberText.h"
+
+#include <chrono>
+#include <utility>
+#include <vector>
+
+namespace bignum {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// What one evaluation may use of a caller's patience and of the stack.
+constexpr std::chrono::seconds kPatience{2};
+constexpr int kMaxDepth = 1000;
+
+/// A text longer than this is refused unread; a sheet's longest cell is far below.
+constexpr std::size_t kMaxText = 1'000'000;
+
+/// Binding strength of operators, from loose to tight.
+enum Strength { Any = 0, Additive = 1, Multiplicative = 2, Prefix = 3, Power = 4, Postfix = 5 };
+
+/// A value, or a power that is not formed yet because a "%" may follow and make it a modular one.
+template <typename Number>
+struct Operand
+{
+    Number value;    ///< of a pending power: its base
+    Number exponent; ///< of a pending power
+    bool pending = false;
+    bool negated = false; ///< of a pending power: a sign stands before it
+
+    Operand(Number number) : value(std::move(number)) {}
+};
+
+/// Precedence climbing (Vaughan Pratt, "Top Down Operator Precedence", 1973): `parse(strength)`
+/// reads an operand and then every operator that binds at least so strongly.
+template <typename Number>
+class Evaluator
+{
+public:
+    explicit Evaluator(std::string_view text) : m_tokens(text), m_token(m_tokens.next()) {}
+
+    Number evaluate()
+    {
+        Number value = settled(parse(Any));
+        require(m_token.kind == TokenKind::End);
+        return value;
+    }
+
+private:
+    using Value = Operand<Number>;
+
+    static void require(bool condition)
+    {
+        if (!condition)
+            throw NoValue();
+    }
+
+    void advance()
+    {
+        m_previous = m_token.kind;
+        m_token = m_tokens.next();
+    }
+
+    /// Called before an operation on values of some size: many of them make a long evaluation.
+    void checkPatience(const Number &a, const Number &b) const
+    {
+        constexpr std::size_t small = 4096;
+        if (arithmetic::bits(a) + arithmetic::bits(b) > small)
+            require(Clock::now() < m_deadline);
+    }
+
+    Number settled(Value operand) const
+    {
+        if (!operand.pending)
+            return std::move(operand.value);
+        checkPatience(operand.value, operand.exponent);
+        Number value = arithmetic::power(operand.value, operand.exponent);
+        return operand.negated ? Number(-value) : value;
+    }
+
+    Value parse(int strength)
+    {
+        require(++m_depth <= kMaxDepth);
+        Value left = parseOperand();
+        while (true) {
+            if (m_token.is(TokenKind::Operator, '!')) {
+                left = arithmetic::factorial(settled(std::move(left)));
+                advance();
+                continue;
+            }
+            const char symbol = pendingOperator();
+            if (symbol == '\0' || strengthOf(symbol) < strength)
+                break;
+            left = applyBinary(symbol, std::move(left));
+        }
+        --m_depth;
+        return left;
+    }
+
+    /// The binary operator at hand, '*' for a product whose sign is left out, NUL for none.
+    char pendingOperator() const
+    {
+        if (m_token.kind == TokenKind::Operator)
+            return m_token.text.front();
+        const bool opens = m_token.kind == TokenKind::Open;
+        const bool operand =
+            opens || m_token.kind == TokenKind::Number || m_token.kind == TokenKind::Name;
+        const bool implicit = (m_previous == TokenKind::Close && operand) ||
+                              (m_previous == TokenKind::Number && opens);
+        return implicit ? '*' : '\0';
+    }
+
+    static int strengthOf(char symbol)
+    {
+        if (symbol == '+' || symbol == '-')
+            return Additive;
+        return symbol == '^' ? Power : Multiplicative;
+    }
+
+    Value applyBinary(char symbol, Value left)
+    {
+        if (m_token.kind == TokenKind::Operator)
+            advance();
+        if (symbol == '^') {
+            // The same strength again: powers are read from right to left.
+            Value result(settled(std::move(left)));
+            result.exponent = settled(parse(Power));
+            result.pending = true;
+            return result;
+        }
+        Number right = settled(parse(strengthOf(symbol) + 1));
+        if (symbol == '%' && isWholePower(left) && arithmetic::isWhole(right))
+            return modularPower(left, right);
+        return apply(symbol, settled(std::move(left)), right);
+    }
+
+    static bool isWholePower(const Value &operand)
+    {
+        return operand.pending && arithmetic::isWhole(operand.value) &&
+               arithmetic::isWhole(operand.exponent);
+    }
+
+    Number modularPower(const Value &left, const Number &modulus) const
+    {
+        checkPatience(left.value, modulus);
+        const mpz_class &m = arithmetic::whole(modulus);
+        require(m != 0);
+        const mpz_class &exponent = arithmetic::whole(left.exponent);
+        // A negative exponent is no inverse here: 2^-1 is a half, and a half has no remainder.
+        if (exponent < 0)
+            return arithmetic::remainder(settled(left), modulus);
+        mpz_class result = arithmetic::modularPower(arithmetic::whole(left.value), exponent, m);
+        if (left.negated)
+            result = arithmetic::remainder(mpz_class(-result), m);
+        return Number(result);
+    }
+
+    Number apply(char symbol, const Number &a, const Number &b) const
+    {
+        checkPatience(a, b);
+        switch (symbol) {
+        case '+':
+            return arithmetic::sum(a, b);
+        case '-':
+            return arithmetic::sum(a, Number(-b));
+        case '*':
+            return arithmetic::product(a, b);
+        case '/':
+            return arithmetic::quotient(a, b);
+        default:
+            return arithmetic::remainder(a, b);
+        }
+    }
+
+    Value parseOperand()
+    {
+        const Token token = m_token;
+        switch (token.kind) {
+        case TokenKind::Number:
+            advance();
+            return arithmetic::literal<Number>(token.text);
+        case TokenKind::Name:
+            return parseCall();
+        case TokenKind::Open:
+            return parseBracketed();
+        case TokenKind::Operator:
+            return parseSigned();
+        default:
+            throw NoValue();
+        }
+    }
+
+    Value parseSigned()
+    {
+        const bool minus = m_token.text.front() == '-';
+        require(minus || m_token.text.front() == '+');
+        advance();
+        Value operand = parse(Prefix);
+        if (minus && operand.pending)
+            operand.negated = !operand.negated;
+        else if (minus)
+            operand.value = -operand.value;
+        return operand;
+    }
+
+    Value parseBracketed()
+    {
+        const char closing = closingFor(m_token.text.front());
+        advance();
+        Value inside = parse(Any);
+        require(m_token.is(TokenKind::Close, closing));
+        advance();
+        return inside;
+    }
+
+    static char closingFor(char opening)
+    {
+        if (opening == '(')
+            return ')';
+        return opening == '[' ? ']' : '}';
+    }
+
+    Number parseCall()
+    {
+        const ExpressionFunction *function = findFunction(m_token.text);
+        require(function != nullptr);
+        advance();
+        require(m_token.kind == TokenKind::Open);
+        const char closing = closingFor(m_token.text.front());
+        std::vector<Number> arguments;
+        do {
+            advance();
+            arguments.push_back(settled(parse(Any)));
+        } while (m_token.kind == TokenKind::Separator);
+        require(m_token.is(TokenKind::Close, closing));
+        advance();
+        require(arguments.size() >= function->minArguments &&
+                arguments.size() <= function->maxArguments);
+        return call(*function, arguments);
+    }
+
+    Number call(const ExpressionFunction &function, const std::vector<Number> &arguments) const
+    {
+        require(Clock::now() < m_deadline);
+        if (function.ofWholes) {
+            std::vector<mpz_class> wholes;
+            for (const Number &argument : arguments)
+                wholes.push_back(arithmetic::whole(argument));
+            return Number(function.ofWholes(wholes));
+        }
+        std::vector<mpq_class> rationals(arguments.begin(), arguments.end());
+        const mpq_class &result = function.ofRationals(rationals);
+        if constexpr (std::is_same_v<Number, mpz_class>)
+            return arithmetic::whole(result);
+        else
+            return result;
+    }
+
+    ExpressionTokenizer m_tokens;
+    Token m_token;
+    TokenKind m_previous = TokenKind::End;
+    int m_depth = 0;
+    Clock::time_point m_deadline = Clock::now() + kPatience;
+};
+
+template <typename Number>
+std::optional<std::string> evaluate(std::string_view text)
+{
+    if (text.size() > kMaxText)
+        return std::nullopt;
+    try {
+        std::string result = toText(Evaluator<Number>(text).evaluate());
+        if (result.size() >= kExpressionBuffer)
+            return std::nullopt;
+        return result;
+    } catch (const NoValue &) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+std::optional<std::string> evaluateInteger(std::string_view text)
+{
+    return evaluate<mpz_class>(text);
+}
+
+std::optional<std::string> evaluateRational(std::string_view text)
+{
+    return evaluate<mpq_class>(text);
+}
+
+} // namespace bignum

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <gmpxx.h>
+#include <span>
+#include <string_view>
+
+namespace bignum {
+
+/// A function of the expression language: one row of the table that parser and help share.
+struct ExpressionFunction
+{
+    std::string_view spanish;
+    std::string_view international;
+    std::size_t minArguments;
+    std::size_t maxArguments;
+    std::string_view description; ///< Spanish, for the student
+    /// One of the two: a function of whole numbers, or of any.
+    mpz_class (*ofWholes)(std::span<const mpz_class> arguments);
+    const mpq_class &(*ofRationals)(std::span<mpq_class> arguments);
+};
+
+std::span<const ExpressionFunction> expressionFunctions();
+
+/// The function of that name, letter case ignored; null when there is none.
+const ExpressionFunction *findFunction(std::string_view name);
+
+} // namespace bignum

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace bignum {
+
+enum class TokenKind {
+    Number,    ///< digits, perhaps with a decimal part
+    Name,      ///< of a function
+    Operator,  ///< + - * / % ^ !
+    Open,      ///< ( [ {
+    Close,     ///< ) ] }
+    Separator, ///< ;
+    End,
+    Invalid
+};
+
+/// One token; `text` points into the expression.
+struct Token
+{
+    TokenKind kind;
+    std::string_view text;
+
+    bool is(TokenKind other, char symbol) const { return kind == other && text.front() == symbol; }
+};
+
+/// Splits an expression into tokens, one call at a time, without a copy.
+class ExpressionTokenizer
+{
+public:
+    explicit ExpressionTokenizer(std::string_view expression) : m_rest(expression) {}
+
+    /// The next token; End for ever at the end of the text.
+    Token next();
+
+private:
+    Token take(TokenKind kind, std::size_t length);
+    Token takeNumber();
+    std::size_t digitsFrom(std::size_t position) const;
+
+    std::string_view m_rest;
+};
+
+} // namespace bignum

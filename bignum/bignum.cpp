@@ -1,0 +1,322 @@
+#include "bignum.h"
+
+#include "Decimal.h"
+#include "Expression.h"
+#include "Factorization.h"
+#include "ModularArithmetic.h"
+#include "NumberText.h"
+#include "Primality.h"
+#include "PrimeList.h"
+#include "RandomPrime.h"
+#include "TextCheck.h"
+
+#include <algorithm>
+#include <atomic>
+#include <initializer_list>
+
+using namespace bignum;
+
+namespace {
+
+constexpr int kDefaultPrecision = 100;
+constexpr int kMaxPrecision = 1000;
+constexpr unsigned kMaxPrimeSearchBits = 10000;
+
+std::atomic<int> precision = kDefaultPrecision;
+
+std::string_view textOf(const char *text)
+{
+    return text == nullptr ? std::string_view() : std::string_view(text);
+}
+
+std::optional<mpz_class> integerOf(const char *text)
+{
+    return parseInteger(textOf(text));
+}
+
+void clear(std::initializer_list<char *> buffers)
+{
+    for (char *buffer : buffers)
+        writeText({}, buffer, 1);
+}
+
+/// What `operation` returns, or `failure` where it throws: no exception may cross the interface.
+template <typename Operation>
+int32_t guarded(int32_t failure, Operation operation) noexcept
+{
+    try {
+        return static_cast<int32_t>(operation());
+    } catch (...) {
+        return failure;
+    }
+}
+
+/// Writes the optional text or number that `operation` gives; nothing is a failure.
+template <typename Operation>
+int32_t writeResult(char *out, std::size_t capacity, Operation operation) noexcept
+{
+    clear({out});
+    return guarded(0, [&] {
+        const auto result = operation();
+        if (!result)
+            return false;
+        if constexpr (requires { toText(*result); })
+            return writeText(toText(*result), out, capacity);
+        else
+            return writeText(*result, out, capacity);
+    });
+}
+
+/// The same for an operation on two integers.
+template <typename Operation>
+int32_t writeResultOf(const char *a, const char *b, char *out, Operation operation) noexcept
+{
+    return writeResult(out, kNumberBuffer, [&]() -> std::optional<mpz_class> {
+        const auto x = integerOf(a);
+        const auto y = integerOf(b);
+        if (!x || !y)
+            return std::nullopt;
+        return operation(*x, *y);
+    });
+}
+
+bool isInPrimeSearchRange(const mpz_class &n)
+{
+    return mpz_sizeinbase(n.get_mpz_t(), 2) <= kMaxPrimeSearchBits;
+}
+
+/// Two arrays of `count` buffers that take a factorization, entry by entry.
+struct FactorBuffers
+{
+    char *const *bases;
+    char *const *exponents;
+    std::size_t count;
+
+    void clear() const
+    {
+        for (char *const *array : {bases, exponents})
+            for (std::size_t i = 0; array != nullptr && i < count; ++i)
+                writeText({}, array[i], 1);
+    }
+
+    bool write(const std::vector<PrimePower> &powers) const
+    {
+        if (powers.size() > count || (count > 0 && (bases == nullptr || exponents == nullptr)))
+            return false;
+        for (std::size_t i = 0; i < powers.size(); ++i) {
+            const std::string exponent = std::to_string(powers[i].exponent);
+            if (!writeText(toText(powers[i].base), bases[i], kNumberBuffer)
+                || !writeText(exponent, exponents[i], kNumberBuffer))
+                return false;
+        }
+        return true;
+    }
+};
+
+} // namespace
+
+int32_t InitBignum(int32_t digits)
+{
+    precision = std::clamp<int>(digits, 1, kMaxPrecision);
+    return 1;
+}
+
+int32_t EndBignum(void)
+{
+    precision = kDefaultPrecision;
+    return 1;
+}
+
+int32_t IsPrime(const char *n)
+{
+    return guarded(0, [&] {
+        const auto number = integerOf(n);
+        return number && isPrime(*number);
+    });
+}
+
+int32_t NumBits(const char *n)
+{
+    return guarded(0, [&]() -> std::size_t {
+        const auto number = integerOf(n);
+        if (!number || *number == 0)
+            return 0;
+        return mpz_sizeinbase(number->get_mpz_t(), 2);
+    });
+}
+
+int32_t NextPrime(const char *n, char *out)
+{
+    return writeResult(out, kNumberBuffer, [&]() -> std::optional<mpz_class> {
+        const auto number = integerOf(n);
+        if (!number || (*number > 0 && !isInPrimeSearchRange(*number)))
+            return std::nullopt;
+        return nextPrime(*number);
+    });
+}
+
+int32_t RndPrimo(int32_t bits, char *out)
+{
+    return writeResult(out, kNumberBuffer, [&]() -> std::optional<mpz_class> {
+        if (bits < 2 || bits > static_cast<int32_t>(kMaxPrimeSearchBits))
+            return std::nullopt;
+        return randomPrime(static_cast<unsigned>(bits));
+    });
+}
+
+int32_t ListPrimes(int32_t limit)
+{
+    return guarded(0, [&] { return countPrimes(limit); });
+}
+
+int32_t PrimesUpTo(int64_t limit, BignumPrimeBlock block, void *context)
+{
+    return guarded(0, [&] {
+        return block != nullptr
+               && streamPrimes(limit, [&](std::span<const std::uint64_t> primes) {
+                      return block(primes.data(), static_cast<int64_t>(primes.size()), context) != 0;
+                  });
+    });
+}
+
+int32_t Factors(const char *n, char *const *primes, char *const *exponents, int32_t count)
+{
+    const FactorBuffers buffers{primes, exponents, count < 0 ? 0 : static_cast<std::size_t>(count)};
+    buffers.clear();
+    return guarded(0, [&] {
+        const auto number = integerOf(n);
+        if (!number)
+            return false;
+        const Factorization factors = factorize(*number, Effort::Full);
+        if (buffers.write(factors.powers))
+            return factors.complete;
+        buffers.clear();
+        return false;
+    });
+}
+
+int32_t EulerFi(const char *n, char *out)
+{
+    return writeResult(out, kNumberBuffer, [&]() -> std::optional<mpz_class> {
+        const auto number = integerOf(n);
+        if (!number)
+            return std::nullopt;
+        return eulerPhi(*number, Effort::Full);
+    });
+}
+
+int32_t BMcd(const char *a, const char *b, char *out)
+{
+    return writeResultOf(a, b, out, [](const mpz_class &x, const mpz_class &y) -> mpz_class {
+        return gcd(x, y);
+    });
+}
+
+int32_t BExMcd(const char *a, const char *b, char *d, char *x, char *y)
+{
+    clear({d, x, y});
+    return guarded(0, [&] {
+        const auto first = integerOf(a);
+        const auto second = integerOf(b);
+        if (!first || !second)
+            return false;
+        const ExtendedGcd result = extendedGcd(*first, *second);
+        if (writeText(toText(result.gcd), d, kNumberBuffer)
+            && writeText(toText(result.x), x, kNumberBuffer)
+            && writeText(toText(result.y), y, kNumberBuffer))
+            return true;
+        clear({d, x, y});
+        return false;
+    });
+}
+
+int32_t BMod(const char *a, const char *m, char *out)
+{
+    return writeResultOf(a, m, out, modulo);
+}
+
+int32_t PowMod(const char *base, const char *exponent, const char *modulus, char *out)
+{
+    return writeResult(out, kNumberBuffer, [&]() -> std::optional<mpz_class> {
+        const auto b = integerOf(base);
+        const auto e = integerOf(exponent);
+        const auto m = integerOf(modulus);
+        if (!b || !e || !m)
+            return std::nullopt;
+        return powerMod(*b, *e, *m);
+    });
+}
+
+int32_t InvMod(const char *a, const char *n, char *out)
+{
+    return writeResultOf(a, n, out, inverse);
+}
+
+int32_t CRT(const char *const *remainders, const char *const *moduli, int32_t count, char *out)
+{
+    return writeResult(out, kNumberBuffer, [&]() -> std::optional<mpz_class> {
+        if (remainders == nullptr || moduli == nullptr)
+            return std::nullopt;
+        std::vector<Congruence> congruences;
+        for (int32_t i = 0; i < count; ++i) {
+            const auto remainder = integerOf(remainders[i]);
+            const auto modulus = integerOf(moduli[i]);
+            if (!remainder || !modulus)
+                return std::nullopt;
+            congruences.push_back({*remainder, *modulus});
+        }
+        return chineseRemainder(congruences);
+    });
+}
+
+int32_t ToBasis(int32_t base, const char *n, char *out)
+{
+    return writeResult(out, kNumberBuffer, [&]() -> std::optional<std::string> {
+        const auto number = integerOf(n);
+        if (!number || base < 2 || base > 36)
+            return std::nullopt;
+        return number->get_str(base);
+    });
+}
+
+int32_t ToDecimal(const char *q, char *out)
+{
+    return writeResult(out, kDecimalBuffer, [&]() -> std::optional<std::string> {
+        const auto value = parseRational(textOf(q));
+        if (!value)
+            return std::nullopt;
+        return toDecimal(*value, precision);
+    });
+}
+
+int32_t ZEval(const char *expression, char *out)
+{
+    return writeResult(out, kExpressionBuffer, [&] { return evaluateInteger(textOf(expression)); });
+}
+
+int32_t QEval(const char *expression, char *out)
+{
+    return writeResult(out, kExpressionBuffer,
+                       [&] { return evaluateRational(textOf(expression)); });
+}
+
+int32_t BMax(const char *a, const char *b)
+{
+    const auto valueOf = [](std::string_view text) {
+        return text.empty() ? std::optional<mpq_class>(0) : parseRational(text);
+    };
+    return guarded(-1, [&] {
+        const auto first = valueOf(trimmed(textOf(a)));
+        const auto second = valueOf(trimmed(textOf(b)));
+        if (!first || !second)
+            return -1;
+        if (*first == *second)
+            return 0;
+        return *second > *first ? 2 : 1;
+    });
+}
+
+int32_t IsText(const char *s)
+{
+    return guarded(0, [&] { return isPlainText(textOf(s)) ? -1 : 0; });
+}

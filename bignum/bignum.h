@@ -1,0 +1,157 @@
+/*
+ * libbignum: arithmetic on integers and rationals of any size, exchanged as texts of decimal digits.
+ *
+ * This header is plain C: it can be used from C, from C++ and through a foreign-function interface.
+ *
+ * Texts. A number is optional blanks (space, tab, CR, LF), an optional sign and at most 24575
+ * decimal digits; a rational is such a number, or two of them with "/" between and the second
+ * positive. Anything else is no number. A null pointer counts as the empty text.
+ *
+ * Results. Unless told otherwise the returned value is a flag: 1 for success, 0 for failure. A
+ * result is written with its final NUL into a buffer of the caller's, whose size is fixed for each
+ * operation: 24576 bytes for ZEval and QEval, 16384 for ToDecimal, 8192 for every other output. A
+ * result that does not fit is a failure; so is a null buffer. A failure leaves the empty text in
+ * every output buffer. Numbers are written without a leading "+", zeros or blanks.
+ *
+ * Nothing is thrown through this interface. All operations may be called from several threads at
+ * once; what waits for the one quadratic sieve takes turns. The only state kept between calls is
+ * the precision of ToDecimal.
+ */
+#ifndef BIGNUM_H
+#define BIGNUM_H
+
+#include <stdint.h>
+
+#if defined(_WIN32) && defined(BIGNUM_BUILDING)
+#define BIGNUM_API __declspec(dllexport)
+#elif defined(_WIN32)
+#define BIGNUM_API __declspec(dllimport)
+#else
+#define BIGNUM_API __attribute__((visibility("default")))
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Start and end ----------------------------------------------------------------------- */
+
+/* Starts the library. `precision` is the number of significant decimal digits that ToDecimal
+ * gives; values outside 1..1000 are taken as the nearer end. Until the first call it is 100.
+ * Returns 1. */
+BIGNUM_API int32_t InitBignum(int32_t precision);
+
+/* Gives back what the library keeps between calls; the precision is 100 again. The library may
+ * still be used afterwards. Returns 1. */
+BIGNUM_API int32_t EndBignum(void);
+
+/* ---- Primes ------------------------------------------------------------------------------ */
+
+/* 1 when n is prime, else 0 (also for 0, 1, negative numbers and texts that are no number). Proven
+ * below 2^64. Above, the Baillie-PSW test, for which no composite that passes is known; no error
+ * bound for it is proven, so a Miller-Rabin round with a random base is added, which lets any given
+ * composite pass with a chance of at most 1/4 (and a random one of 512 bits or more below
+ * 2^-56, Damgaard, Landrock and Pomerance, 1993). */
+BIGNUM_API int32_t IsPrime(const char *n);
+
+/* The number of binary digits of |n|: 0 for 0, 1 for 1, 10 for 1023. 0 for a text that is no
+ * number. */
+BIGNUM_API int32_t NumBits(const char *n);
+
+/* The least prime above n, which is 2 for every n below 2. Failure above 10 000 bits, which keeps a
+ * call within about half a minute. */
+BIGNUM_API int32_t NextPrime(const char *n, char *out);
+
+/* A prime of exactly `bits` bits, drawn uniformly from all of them with random bits of the operating
+ * system. Failure below 2 and above 10 000 bits. */
+BIGNUM_API int32_t RndPrimo(int32_t bits, char *out);
+
+/* Returns the number of primes not above `limit`. */
+BIGNUM_API int32_t ListPrimes(int32_t limit);
+
+/* Receives `count` consecutive primes; `primes` is valid during the call only. Returns nonzero to
+ * go on, 0 to end the list. */
+typedef int32_t (*BignumPrimeBlock)(const uint64_t *primes, int64_t count, void *context);
+
+/* Hands the primes not above `limit` to `block`, in ascending order and in blocks of bounded size,
+ * so that memory does not grow with the limit. `context` is passed on untouched. Returns 1 when all
+ * primes were handed over, 0 when `block` ended the list or is null. */
+BIGNUM_API int32_t PrimesUpTo(int64_t limit, BignumPrimeBlock block, void *context);
+
+/* The prime factors of |n| in ascending order and their exponents, into two arrays of `count`
+ * buffers each; the entries after the last factor become empty texts. 0 and 1 have no factors.
+ * Returns 1 when every entry is prime. Returns 0 when a composite could not be split, which then
+ * stands last, and on failure: n is no number, it has more than `count` different factors, a
+ * pointer is null; all entries are then empty.
+ * The effort is bounded: a product of two 34-digit primes is split (composites of up to 70 digits
+ * are), larger ones yield factors of up to about 30 digits; a composite out of reach comes back
+ * unsplit within about two minutes. */
+BIGNUM_API int32_t Factors(const char *n, char *const *primes, char *const *exponents,
+                           int32_t count);
+
+/* Euler's function of n; EulerFi("1") is 1. Failure for n < 1, and where Factors could not split
+ * n. */
+BIGNUM_API int32_t EulerFi(const char *n, char *out);
+
+/* ---- Modular arithmetic ------------------------------------------------------------------ */
+
+/* The greatest common divisor, never negative; that of 0 and 0 is 0. */
+BIGNUM_API int32_t BMcd(const char *a, const char *b, char *out);
+
+/* d = gcd(a, b) >= 0 with a x + b y = d. The coefficients are the least ones: |x| <= |b| / 2d and
+ * |y| <= |a| / 2d, save where no such pair exists (one divides the other). For 0 and 0 all three
+ * are 0. */
+BIGNUM_API int32_t BExMcd(const char *a, const char *b, char *d, char *x, char *y);
+
+/* The remainder of a in 0 <= r < |m|. Failure for m = 0. */
+BIGNUM_API int32_t BMod(const char *a, const char *m, char *out);
+
+/* base^exponent modulo |modulus|, in 0 <= r < |modulus|; 0^0 counts as 1. A negative exponent takes
+ * the inverse of the base. Failure for modulus 0, for a negative exponent of a base that has no
+ * inverse, and for an exponent of more than 4096 bits with a modulus of more than 8191 digits. */
+BIGNUM_API int32_t PowMod(const char *base, const char *exponent, const char *modulus, char *out);
+
+/* The inverse of a modulo |n|, in 0 <= r < |n| (0 for |n| = 1). Failure when there is none, n = 0
+ * included. */
+BIGNUM_API int32_t InvMod(const char *a, const char *n, char *out);
+
+/* The least x >= 0 with x = remainders[i] modulo |moduli[i]| for all `count` congruences. The
+ * moduli need not be coprime. Failure when the congruences contradict each other, for a modulus
+ * 0, for count < 1, and when the least common multiple of the moduli exceeds 24575 digits. */
+BIGNUM_API int32_t CRT(const char *const *remainders, const char *const *moduli, int32_t count,
+                       char *out);
+
+/* ---- Notations and expressions ----------------------------------------------------------- */
+
+/* n in base 2 to 36, with the digits 0-9 and a-z and "-" before a negative n. Failure for any
+ * other base. */
+BIGNUM_API int32_t ToBasis(int32_t base, const char *n, char *out);
+
+/* The rational q as a decimal fraction with "." as its point. The integer part is given whole. An
+ * expansion that ends is given exactly where it fits; any other is rounded (half to even) to the
+ * precision of InitBignum in significant digits, without trailing zeros. */
+BIGNUM_API int32_t ToDecimal(const char *q, char *out);
+
+/* The value of an expression over the integers: + - * / % ^ !, brackets () [] {}, and the functions
+ * mcd, mcm, abs, raiz, fi, fib, primo, sigprimo, min, max with arguments separated by ";". "/" and
+ * "%" are Euclid's quotient and remainder. Division by zero, a value that does not fit and a text
+ * that is no expression are failures. */
+BIGNUM_API int32_t ZEval(const char *expression, char *out);
+
+/* The same over the rationals, in lowest terms: "/" is exact and "%" needs whole operands. */
+BIGNUM_API int32_t QEval(const char *expression, char *out);
+
+/* Compares two rationals: 2 when b > a, 1 when a > b, 0 when they are equal, -1 when one of them is
+ * no number. The empty text counts as 0 here. */
+BIGNUM_API int32_t BMax(const char *a, const char *b);
+
+/* -1 when every byte of `s` is a character of Windows-1252 (0x81, 0x8D, 0x8F, 0x90 and 0x9D are
+ * none) and no control character (0x00-0x1F, 0x7F) but tab, line feed and carriage return; else 0.
+ * The empty text qualifies. */
+BIGNUM_API int32_t IsText(const char *s);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
