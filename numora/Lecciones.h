@@ -1,0 +1,7 @@
+#pragma once
+
+#include "shell/Leccion.h"
+
+/// The lessons of the program, in the order of the menu, and the scenes of its gallery. A lesson
+/// without a factory has its row disabled.
+Contenido contenidoDelPrograma();

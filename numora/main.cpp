@@ -1,0 +1,80 @@
+#include "numora/Lecciones.h"
+#include "shell/FormPrincipal.h"
+#include "shell/Galeria.h"
+#include "shell/InstanciaUnica.h"
+#include "shell/Main.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+void describe(QCommandLineParser &opciones)
+{
+    opciones.setApplicationDescription(u"Numora: matemática discreta, paso a paso"_s);
+    opciones.addOption({{u"h"_s, u"help"_s}, u"Muestra esta ayuda."_s});
+    opciones.addOption({{u"v"_s, u"version"_s}, u"Muestra la versión."_s});
+    opciones.addOption({u"i"_s, u"Idioma de los textos, como en -i:English."_s, u"idioma"_s});
+    opciones.addOption(
+        {u"galeria"_s, u"Guarda imágenes de todas las ventanas en la carpeta DIR."_s, u"DIR"_s});
+    opciones.addOption({u"tamano"_s, u"Tamaño de la ventana en la galería, como 1366x768."_s,
+                        u"ANCHOxALTO"_s, u"1366x768"_s});
+    opciones.addOption({u"oscuro"_s, u"Colores oscuros en la galería."_s});
+}
+
+QSize tamano(const QString &texto)
+{
+    const QStringList lados = texto.split(u'x');
+    const QSize leido(lados.value(0).toInt(), lados.value(1).toInt());
+    return leido.expandedTo({640, 480}).boundedTo({8192, 8192});
+}
+
+void presentaPrograma()
+{
+    QCoreApplication::setApplicationName(u"Numora"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(NUMORA_VERSION));
+    QGuiApplication::setApplicationDisplayName(u"Numora"_s);
+    QGuiApplication::setDesktopFileName(u"numora"_s);
+}
+
+/// Answers --help and --version, which need neither a display nor a settings store.
+void contestaSinVentanas(int argc, char *argv[])
+{
+    QStringList palabras;
+    for (int i = 0; i < argc; ++i)
+        palabras << QString::fromLocal8Bit(argv[i]);
+    if (!palabras.contains(u"--help"_s) && !palabras.contains(u"-h"_s)
+        && !palabras.contains(u"--version"_s) && !palabras.contains(u"-v"_s))
+        return;
+    const QCoreApplication aplicacion(argc, argv);
+    QCommandLineParser opciones;
+    describe(opciones);
+    opciones.parse(palabras);
+    if (opciones.isSet(u"help"_s))
+        opciones.showHelp();
+    opciones.showVersion();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    presentaPrograma();
+    contestaSinVentanas(argc, argv);
+    const QApplication aplicacion(argc, argv);
+
+    QCommandLineParser opciones;
+    describe(opciones);
+    opciones.parse(QApplication::arguments());
+    if (opciones.isSet(u"galeria"_s))
+        return Galeria(contenidoDelPrograma(), {.carpeta = opciones.value(u"galeria"_s),
+                                                .tamano = tamano(opciones.value(u"tamano"_s)),
+                                                .oscuro = opciones.isSet(u"oscuro"_s)});
+
+    const QString linea = QApplication::arguments().sliced(1).join(u' ');
+    const ProgramaEnMarcha programa = Main(linea, contenidoDelPrograma());
+    return programa.principal ? QApplication::exec() : 0;
+}

@@ -1,0 +1,47 @@
+#include "shell/Archivos.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+ErrorEjecucion errorDeArchivo(const QFileDevice &archivo, const QString &ruta)
+{
+    const QFileInfo info(ruta);
+    ErrorEjecucion::Numero numero = ErrorEjecucion::ErrorDeArchivo;
+    if (archivo.error() == QFileDevice::ResourceError)
+        numero = ErrorEjecucion::DiscoLleno;
+    else if (!info.absoluteDir().exists())
+        numero = ErrorEjecucion::RutaNoEncontrada;
+    else if (archivo.error() == QFileDevice::PermissionsError
+             || !QFileInfo(info.absolutePath()).isWritable())
+        numero = ErrorEjecucion::PermisoDenegado;
+    return ErrorEjecucion(numero, QDir::toNativeSeparators(ruta) + u'\n' + archivo.errorString());
+}
+
+void escribeArchivo(const QString &ruta, const QByteArray &contenido, bool privado)
+{
+    QSaveFile archivo(ruta);
+    if (!archivo.open(QIODevice::WriteOnly))
+        throw errorDeArchivo(archivo, ruta);
+    if (privado && !archivo.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner))
+        throw errorDeArchivo(archivo, ruta);
+    if (archivo.write(contenido) != contenido.size() || !archivo.commit())
+        throw errorDeArchivo(archivo, ruta);
+}
+
+QByteArray leeArchivo(const QString &ruta, qint64 maximo)
+{
+    const QFileInfo info(ruta);
+    if (!info.exists())
+        throw ErrorEjecucion(ErrorEjecucion::ArchivoNoEncontrado, QDir::toNativeSeparators(ruta));
+    if (!info.isReadable())
+        throw ErrorEjecucion(ErrorEjecucion::PermisoDenegado, QDir::toNativeSeparators(ruta));
+    QFile archivo(ruta);
+    if (!info.isFile() || !archivo.open(QIODevice::ReadOnly))
+        throw errorDeArchivo(archivo, ruta);
+    const QByteArray bytes = archivo.read(maximo + 1);
+    if (bytes.size() > maximo || archivo.error() != QFileDevice::NoError)
+        throw errorDeArchivo(archivo, ruta);
+    return bytes;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+class QApplication;
+
+/// The one look of the program: style, palette, type size, and the colours that mean something.
+namespace Aspecto
+{
+
+enum class Tema {
+    Sistema,
+    Claro,
+    Oscuro
+};
+
+/// Applies style and palette. `Sistema` follows the palette that the desktop gave at the first call.
+void aplica(Tema tema);
+Tema tema();
+bool esOscuro();
+
+/// The type size in points: the desktop's plus `pasos`, between 6 and 32.
+void ponPasosDeLetra(int pasos);
+int pasosDeLetra();
+
+/// Margin around the contents of a panel, and space between groups, in pixels at 100 %.
+inline constexpr int Margen = 12;
+inline constexpr int Espacio = 8;
+
+QColor acento();
+QColor exito();
+QColor error();
+QColor atenuado();
+/// The ground on which pictures and animations stand; the clip art is drawn on the same colour.
+QColor lienzo();
+
+} // namespace Aspecto

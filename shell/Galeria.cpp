@@ -1,0 +1,166 @@
+#include "shell/Galeria.h"
+
+#include "bignum/ModBignum.h"
+#include "shell/Aspecto.h"
+#include "shell/FormLeccion.h"
+#include "shell/FormPrincipal.h"
+#include "shell/Imagenes.h"
+#include "shell/Interlocutor.h"
+#include "shell/Main.h"
+#include "shell/ModGlobal.h"
+#include "shell/Rutas.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTabBar>
+#include <QTextStream>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+/// Answers every question by silence, so that no box stands in the way of a picture.
+class Callado : public Interlocutor
+{
+public:
+    void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
+    bool confirma(QWidget *, const QString &, const QString &) override { return false; }
+    Respuesta preguntaSiGuarda(QWidget *, const QString &, const QString &) override
+    {
+        return Respuesta::Descartar;
+    }
+    QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
+    QString pideCarpeta(QWidget *, const QString &, const QString &, const QString &) override
+    {
+        return {};
+    }
+    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &) override
+    {
+        return {};
+    }
+    QString pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
+                                   const QString &) override
+    {
+        return {};
+    }
+    void abre(const QString &) override {}
+    bool lanzaAlguno(const QList<QStringList> &) override { return true; }
+};
+
+class Fotografo
+{
+public:
+    Fotografo(const Contenido &contenido, const OpcionesDeGaleria &opciones)
+        : m_contenido(contenido), m_carpeta(opciones.carpeta), m_principal(contenido)
+    {
+        m_principal.resize(opciones.tamano);
+    }
+
+    bool retrataTodo()
+    {
+        m_principal.show();
+        QWidget *acercaDe = m_principal.muestraAcercaDe(false);
+        espera(600ms);
+        retrata(*acercaDe, u"acercade"_s);
+        acercaDe->close();
+        retrata(m_principal, u"principal"_s);
+        for (const Escena &escena : m_contenido.escenas)
+            retrata(escena);
+        return m_bien;
+    }
+
+private:
+    static void espera(std::chrono::milliseconds tiempo)
+    {
+        const QDeadlineTimer fin(tiempo);
+        while (!fin.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+
+    void retrata(QWidget &ventana, const QString &nombre)
+    {
+        m_bien = ventana.grab().save(m_carpeta.filePath(nombre + u".png"_s)) && m_bien;
+    }
+
+    void retrata(const Escena &escena)
+    {
+        FormLeccion *leccion = m_principal.abreLeccion(escena.fila);
+        if (!leccion)
+            return;
+        auto *temas = leccion->findChild<QTabBar *>(u"tsTema"_s);
+        for (int i = 0; i < temas->count(); ++i) {
+            if (temas->tabData(i).toString() == escena.tema)
+                temas->setCurrentIndex(i);
+        }
+        espera(50ms);
+        if (escena.durante) {
+            QTimer::singleShot(1500ms, leccion, [this, leccion, &escena] {
+                retrata(m_principal, escena.nombre);
+                leccion->detenCorrida();
+            });
+        }
+        for (const Paso &paso : escena.pasos)
+            da(paso, *leccion);
+        espera(400ms);
+        if (!escena.durante)
+            retrata(m_principal, escena.nombre);
+        leccion->cierra();
+        espera(20ms);
+    }
+
+    static void da(const Paso &paso, const QWidget &ventana)
+    {
+        auto *control = ventana.findChild<QWidget *>(paso.control);
+        if (auto *campo = qobject_cast<QLineEdit *>(control))
+            campo->setText(paso.valor);
+        else if (auto *texto = qobject_cast<QPlainTextEdit *>(control))
+            texto->setPlainText(paso.valor);
+        else if (auto *boton = qobject_cast<QAbstractButton *>(control))
+            boton->click();
+        else
+            qWarning("no such control in the scene: %s", qPrintable(paso.control));
+    }
+
+    const Contenido &m_contenido;
+    QDir m_carpeta;
+    FormPrincipal m_principal;
+    bool m_bien = true;
+};
+
+} // namespace
+
+int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
+{
+    QTextStream errores(stderr);
+    if (!ExisteFichero(Sesión().carpeta() + u"\\ClipArt\\escudo.avi"_s)) {
+        errores << u"No se encuentra la carpeta de trabajo."_s << Qt::endl;
+        return 1;
+    }
+    const QString destino = QDir::current().absoluteFilePath(opciones.carpeta);
+    if (!QDir().mkpath(destino)) {
+        errores << u"No se puede crear la carpeta: "_s << destino << Qt::endl;
+        return 1;
+    }
+    preparaAplicacion();
+    Aspecto::aplica(opciones.oscuro ? Aspecto::Tema::Oscuro : Aspecto::Tema::Claro);
+    QDir::setCurrent(rutaExistente(Sesión().carpeta()));
+    ImgSiguiente() = Icono(u"SIGUIENTE"_s);
+    ImgStop() = Icono(u"STOP"_s);
+    IniciaBignum(Sesión().Precisión());
+    const auto anterior = ponInterlocutor(std::make_unique<Callado>());
+
+    OpcionesDeGaleria absolutas = opciones;
+    absolutas.carpeta = destino;
+    if (!Fotografo(contenido, absolutas).retrataTodo()) {
+        errores << u"No se puede escribir en la carpeta: "_s << destino << Qt::endl;
+        return 1;
+    }
+    return 0;
+}

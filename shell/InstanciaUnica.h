@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+/// The rule that one user runs one copy of the program at a time: a lock on a file beside the
+/// user's settings. The kernel holds it, so that it cannot outlive the process, crashed or not; two
+/// settings folders are two users.
+class InstanciaUnica
+{
+public:
+    explicit InstanciaUnica(const QString &archivo);
+    ~InstanciaUnica();
+    InstanciaUnica(const InstanciaUnica &) = delete;
+    InstanciaUnica &operator=(const InstanciaUnica &) = delete;
+
+    /// Whether another process holds the lock. A file that cannot be made does not count: a
+    /// read-only home must not keep a student out.
+    bool hayOtra() const { return m_hayOtra; }
+
+private:
+    int m_descriptor = -1;
+    bool m_hayOtra = false;
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <functional>
+
+class FormLeccion;
+class QWidget;
+
+/// A window that the main window can open.
+struct Leccion
+{
+    QString icono;  ///< resource name
+    QString rotulo; ///< caption in the menu, Spanish
+    /// Makes the window; empty while the lesson does not exist, and its row is then disabled.
+    std::function<FormLeccion *(QWidget *padre)> crea;
+};
+
+/// One step of a scene of the gallery: what a student would do to bring a window into a state.
+struct Paso
+{
+    QString control; ///< objectName of a control of the window
+    QString valor;   ///< the text to write, or empty for a click
+};
+
+/// A picture of the gallery: a lesson, one of its topics, and the steps before the picture is taken.
+struct Escena
+{
+    QString nombre; ///< file name without extension
+    int fila;       ///< row of the lesson menu; -1 is the spreadsheet
+    QString tema;   ///< key of the topic
+    QList<Paso> pasos = {};
+    /// The last step starts a run: the picture is taken while it runs, and then it is stopped.
+    bool durante = false;
+};
+
+/// What the program is made of. `main.cpp` writes it down; the shell knows no lesson by name.
+struct Contenido
+{
+    QList<Leccion> lecciones; ///< the rows of the menu, top to bottom
+    Leccion hojaDeCalculo;
+    QList<Escena> escenas;
+};

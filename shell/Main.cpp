@@ -1,0 +1,100 @@
+#include "shell/Main.h"
+
+#include "bignum/ModBignum.h"
+#include "shell/Aspecto.h"
+#include "shell/Evento.h"
+#include "shell/FormPrincipal.h"
+#include "shell/Imagenes.h"
+#include "shell/InstanciaUnica.h"
+#include "shell/Interlocutor.h"
+#include "shell/ModGlobal.h"
+#include "shell/Rutas.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+bool hayCarpetaDeTrabajo(clsSesión &sesion)
+{
+    return ExisteFichero(sesion.carpeta() + u"\\ClipArt\\escudo.avi"_s);
+}
+
+void instalaTextosDeQt()
+{
+    // Any language but Spanish leaves Qt's own English texts.
+    if (Idioma() != u"Español"_s)
+        return;
+    auto *textos = new QTranslator(qApp);
+    if (textos->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(textos);
+}
+
+void avisaDeCota(const QString &cota)
+{
+    interlocutor().mensaje(QApplication::activeWindow(), Interlocutor::Icono::Informacion,
+                           Traduce(u"El mayor número permitido es "_s) + cota,
+                           Traduce(u"Número demasiado grande"_s));
+}
+
+} // namespace
+
+QString idiomaDeLinea(const QString &lineaDeOrdenes)
+{
+    if (!lineaDeOrdenes.contains(u"-i:"_s))
+        return u"Español"_s;
+    return lineaDeOrdenes.split(u' ').constLast().mid(3);
+}
+
+bool encuentraCarpetaDeTrabajo(clsSesión &sesion, const std::function<QString()> &pregunta)
+{
+    constexpr int preguntas = 2;
+    for (int i = 1; i <= preguntas && !hayCarpetaDeTrabajo(sesion); ++i)
+        sesion.ponCarpeta(pregunta());
+    return hayCarpetaDeTrabajo(sesion);
+}
+
+void preparaAplicacion()
+{
+    InstalaAvisoDeCota(avisaDeCota);
+    Aspecto::aplica(static_cast<Aspecto::Tema>(Sesión().recuerda(u"Ventana/Tema"_s, 0).toInt()));
+    Aspecto::ponPasosDeLetra(Sesión().recuerda(u"Ventana/Letra"_s, 0).toInt());
+    instalaTextosDeQt();
+}
+
+ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido)
+{
+    ProgramaEnMarcha programa;
+    programa.instancia = std::make_unique<InstanciaUnica>(Sesión().carpetaDeAjustes()
+                                                          + u"/Numora.lock"_s);
+    if (programa.instancia->hayOtra()) {
+        interlocutor().mensaje(nullptr, Interlocutor::Icono::Informacion,
+                               u"Ya hay abierta una sesión del sistema Numora"_s,
+                               u"En ejecución"_s);
+        return {};
+    }
+    const auto pregunta = [] {
+        return interlocutor().pideTexto(
+            nullptr, u"¿Dónde se encuentran los ficheros del sistema Numora?"_s,
+            u"Carpeta de trabajo"_s);
+    };
+    if (!encuentraCarpetaDeTrabajo(Sesión(), pregunta))
+        return {};
+
+    Idioma() = idiomaDeLinea(lineaDeOrdenes);
+    preparaAplicacion();
+    QDir::setCurrent(rutaExistente(Sesión().carpeta()));
+    ImgSiguiente() = Icono(u"SIGUIENTE"_s);
+    ImgStop() = Icono(u"STOP"_s);
+
+    programa.principal = std::make_unique<FormPrincipal>(contenido);
+    programa.principal->muestraAcercaDe(/*presentacion*/ true);
+    QCoreApplication::processEvents();
+    evento(programa.principal.get(), [] { IniciaBignum(Sesión().Precisión()); });
+    return programa;
+}

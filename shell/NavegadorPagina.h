@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QTextBrowser>
+
+/// Shows a local page of introduction (`wbIntro`). The page is read when the browser is first seen,
+/// links to other pages open here, web addresses in the system's browser, and the colours follow
+/// the palette.
+class NavegadorPagina : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit NavegadorPagina(QWidget *padre = nullptr);
+
+    /// Navigates to a page, given with any separators and without regard to case. A missing page
+    /// shows a notice with its name.
+    void navega(const QString &ruta);
+
+protected:
+    void showEvent(QShowEvent *suceso) override;
+    void changeEvent(QEvent *suceso) override;
+
+private:
+    void muestra();
+    void sigueEnlace(const QUrl &enlace);
+
+    QString m_ruta;
+    bool m_pendiente = false;
+};

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <QWidget>
+
+class QMediaPlayer;
+class QVideoSink;
+
+/// Plays a short AVI animation without sound, scaled to fit on a rounded ground. Until the first
+/// frame comes, and for good where a codec or the file is missing, it shows a still picture.
+class ReproductorAVI : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// What `estado()` gives while the animation plays.
+    static constexpr int Reproduciendo = 2;
+    static constexpr int Parado = 0;
+
+    explicit ReproductorAVI(QWidget *padre = nullptr);
+
+    /// The file to play, relative to the working folder or absolute, with any separators; and the
+    /// resource name of its still picture. Stops what was playing. Nothing is opened before
+    /// `reproduce`, because starting the media machinery costs more than opening a lesson.
+    void carga(const QString &ruta, const QString &imagenFija);
+
+    enum class Modo {
+        UnaVez,
+        Continuo
+    };
+    void reproduce(Modo modo);
+    void para();
+
+    /// Reproduciendo from `reproduce` until `para` or the end of the file, whether or not the
+    /// machine can decode it.
+    int estado() const { return m_estado; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    void terminada();
+
+protected:
+    void paintEvent(QPaintEvent *suceso) override;
+
+private:
+    void preparaMotor();
+    void fin();
+
+    QString m_ruta;
+    QString m_imagenFija;
+    QImage m_fotograma;
+    QMediaPlayer *m_motor = nullptr;
+    QVideoSink *m_salida = nullptr;
+    Modo m_modo = Modo::UnaVez;
+    int m_estado = Parado;
+};

@@ -1,0 +1,8 @@
+#pragma once
+
+class QWidget;
+
+/// Puts the translation of every text that the form of a window holds in its place: captions,
+/// labels, tooltips, placeholders, tabs, menus, accessible names. Called once, after the form is
+/// set up and before texts are made at run time. Fields that the user fills are left alone.
+void traduceVentana(QWidget *ventana);
