@@ -3,7 +3,8 @@
 #include <cstdint>
 
 /// A real in [0, 1) from a generator that is seeded from the clock at each call, so that no two
-/// runs of the program draw the same exercises. Not for secrets: `PrimoAleatorio` has its own source.
+/// runs of the program draw the same exercises. Not for secrets: `PrimoAleatorio` has its own
+/// source.
 double AzarUnitario();
 
 /// A uniform whole number in a..b (a ≤ b), from AzarUnitario. Throws Desbordamiento when b - a + 1

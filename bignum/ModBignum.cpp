@@ -8,8 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int BuferExpresion = 24576;
 constexpr int BuferDecimal = 16384;
@@ -199,8 +198,8 @@ std::int32_t Factoriza(const QString &n, QStringList &primos, QStringList &expon
         p.push_back(buferes[2 * i].datos());
         e.push_back(buferes[2 * i + 1].datos());
     }
-    const auto exito = Factors(paraBignum(n).constData(), p.data(), e.data(),
-                               static_cast<std::int32_t>(cuantos));
+    const auto exito =
+        Factors(paraBignum(n).constData(), p.data(), e.data(), static_cast<std::int32_t>(cuantos));
     for (std::size_t i = 0; i < cuantos; ++i) {
         primos[static_cast<qsizetype>(i)] = buferes[2 * i].cortado();
         exponentes[static_cast<qsizetype>(i)] = buferes[2 * i + 1].cortado();
@@ -246,8 +245,7 @@ bool McdExtendido(const QString &a, const QString &b, QString &d, QString &x, QS
 {
     Bufer bd, bx, by;
     const bool exito = BExMcd(paraBignum(a).constData(), paraBignum(b).constData(), bd.datos(),
-                              bx.datos(), by.datos())
-                       != 0;
+                              bx.datos(), by.datos()) != 0;
     d = exito ? bd.cortado() : bd.completo();
     x = exito ? bx.cortado() : bx.completo();
     y = exito ? by.cortado() : by.completo();

@@ -22,10 +22,7 @@ void InstalaAvisoDeCota(AvisoDeCota aviso);
 void IniciaBignum(std::int32_t precision);
 void TerminaBignum();
 
-enum class Aritmetica {
-    Racional,
-    Entera
-};
+enum class Aritmetica { Racional, Entera };
 
 /// Replaces the word "mod", where it stands between blanks, digits and brackets, by "%". After
 /// each occurrence the scan goes on three characters further in the rewritten text. Throws

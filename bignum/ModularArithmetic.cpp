@@ -1,6 +1,6 @@
-#include "ModularArithmetic.h"
+#include "bignum/ModularArithmetic.h"
 
-#include "NumberText.h"
+#include "bignum/NumberText.h"
 
 namespace bignum {
 

@@ -29,9 +29,9 @@ std::optional<mpz_class> modulo(const mpz_class &a, const mpz_class &m);
 /// The inverse of a in [0, |n|); nothing where there is none.
 std::optional<mpz_class> inverse(const mpz_class &a, const mpz_class &n);
 
-/// base^exponent in [0, |modulus|), a negative exponent by way of the inverse; nothing for a modulus
-/// 0, a base without inverse, and what would take minutes (an exponent of more than 4096 bits with a
-/// modulus of more than 8191 digits).
+/// base^exponent in [0, |modulus|), a negative exponent by way of the inverse; nothing for a
+/// modulus 0, a base without inverse, and what would take minutes (an exponent of more than 4096
+/// bits with a modulus of more than 8191 digits).
 std::optional<mpz_class> powerMod(const mpz_class &base, const mpz_class &exponent,
                                   const mpz_class &modulus);
 

@@ -5,8 +5,7 @@
 #include <cmath>
 #include <limits>
 
-namespace
-{
+namespace {
 
 __extension__ using Entero128 = __int128;
 
@@ -17,8 +16,8 @@ __extension__ using Entero128 = __int128;
 
 Moneda comprobada(Entero128 diezmilesimas)
 {
-    if (diezmilesimas > std::numeric_limits<std::int64_t>::max()
-        || diezmilesimas < std::numeric_limits<std::int64_t>::min())
+    if (diezmilesimas > std::numeric_limits<std::int64_t>::max() ||
+        diezmilesimas < std::numeric_limits<std::int64_t>::min())
         desborda();
     return Moneda::deDiezmilesimas(static_cast<std::int64_t>(diezmilesimas));
 }

@@ -6,9 +6,9 @@
 #include <cstdint>
 #include <optional>
 
-/// A fixed-point number: 64 bits, four decimal places, -922337203685477,5808 to 922337203685477,5807.
-/// The lessons' type for whole numbers of machine size. Every operation is checked: a result out of
-/// range throws ErrorEjecucion::Desbordamiento.
+/// A fixed-point number: 64 bits, four decimal places, -922337203685477,5808 to
+/// 922337203685477,5807. The lessons' type for whole numbers of machine size. Every operation is
+/// checked: a result out of range throws ErrorEjecucion::Desbordamiento.
 class Moneda
 {
 public:

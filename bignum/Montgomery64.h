@@ -10,8 +10,7 @@ namespace bignum {
 class Montgomery64
 {
 public:
-    explicit Montgomery64(std::uint64_t n)
-        : m_n(n), m_inverse(n), m_one((0 - n) % n)
+    explicit Montgomery64(std::uint64_t n) : m_n(n), m_inverse(n), m_one((0 - n) % n)
     {
         // Newton's iteration: n is its own inverse modulo 8, and each step doubles the bits.
         for (int bits = 3; bits < 64; bits *= 2)

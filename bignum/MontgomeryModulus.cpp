@@ -1,11 +1,12 @@
-#include "MontgomeryModulus.h"
+#include "bignum/MontgomeryModulus.h"
 
 #include <algorithm>
 
 namespace bignum {
 
 MontgomeryModulus::MontgomeryModulus(const mpz_class &n)
-    : m_n(n), m_size(static_cast<mp_size_t>(mpz_size(n.get_mpz_t()))),
+    : m_n(n),
+      m_size(static_cast<mp_size_t>(mpz_size(n.get_mpz_t()))),
       m_product(2 * mpz_size(n.get_mpz_t()))
 {
     const mp_limb_t low = mpz_getlimbn(n.get_mpz_t(), 0);
@@ -49,7 +50,8 @@ void MontgomeryModulus::reduceInto(Residue &result)
     const mp_limb_t *modulus = mpz_limbs_read(m_n.get_mpz_t());
     mp_limb_t *low = m_product.data();
     mp_limb_t *high = low + m_size;
-    // Each step makes the lowest limb zero; its place keeps the carry, which belongs m_size limbs up.
+    // Each step makes the lowest limb zero; its place keeps the carry, which belongs m_size limbs
+    // up.
     for (mp_size_t i = 0; i < m_size; ++i)
         low[i] = mpn_addmul_1(low + i, modulus, m_size, low[i] * m_negativeInverse);
     const mp_limb_t carry = mpn_add_n(result.data(), high, low, m_size);

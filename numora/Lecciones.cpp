@@ -5,8 +5,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 template <typename Ventana>
 FormLeccion *crea(QWidget *padre)

@@ -1,16 +1,15 @@
+#include "shell/Main.h"
 #include "numora/Lecciones.h"
 #include "shell/FormPrincipal.h"
 #include "shell/Galeria.h"
 #include "shell/InstanciaUnica.h"
-#include "shell/Main.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 void describe(QCommandLineParser &opciones)
 {
@@ -46,10 +45,11 @@ void contestaSinVentanas(int argc, char *argv[])
     QStringList palabras;
     for (int i = 0; i < argc; ++i)
         palabras << QString::fromLocal8Bit(argv[i]);
-    if (!palabras.contains(u"--help"_s) && !palabras.contains(u"-h"_s)
-        && !palabras.contains(u"--version"_s) && !palabras.contains(u"-v"_s))
+    if (!palabras.contains(u"--help"_s) && !palabras.contains(u"-h"_s) &&
+        !palabras.contains(u"--version"_s) && !palabras.contains(u"-v"_s))
         return;
     const QCoreApplication aplicacion(argc, argv);
+    instalaTextosDeQt();
     QCommandLineParser opciones;
     describe(opciones);
     opciones.parse(palabras);

@@ -13,8 +13,8 @@ ErrorEjecucion errorDeArchivo(const QFileDevice &archivo, const QString &ruta)
         numero = ErrorEjecucion::DiscoLleno;
     else if (!info.absoluteDir().exists())
         numero = ErrorEjecucion::RutaNoEncontrada;
-    else if (archivo.error() == QFileDevice::PermissionsError
-             || !QFileInfo(info.absolutePath()).isWritable())
+    else if (archivo.error() == QFileDevice::PermissionsError ||
+             !QFileInfo(info.absolutePath()).isWritable())
         numero = ErrorEjecucion::PermisoDenegado;
     return ErrorEjecucion(numero, QDir::toNativeSeparators(ruta) + u'\n' + archivo.errorString());
 }

@@ -2,13 +2,37 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QLabel>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
+namespace {
+
+/// Fusion with room to breathe: its buttons and fields are tight for a finger or a far projector.
+class Estilo : public QProxyStyle
 {
+public:
+    Estilo() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
+
+    QSize sizeFromContents(ContentsType tipo, const QStyleOption *opcion, const QSize &contenido,
+                           const QWidget *control) const override
+    {
+        QSize tamano = QProxyStyle::sizeFromContents(tipo, opcion, contenido, control);
+        if (tipo == CT_PushButton)
+            tamano += QSize(16, 8);
+        else if (tipo == CT_LineEdit || tipo == CT_SpinBox || tipo == CT_ComboBox)
+            tamano += QSize(0, 6);
+        else if (tipo == CT_TabBarTab)
+            tamano += QSize(8, 6);
+        return tamano;
+    }
+};
+
+/// Where a heading keeps by how much it is larger than ordinary text.
+constexpr auto PropiedadFactor = "factorDeLetra";
 
 struct Estado
 {
@@ -86,7 +110,7 @@ QPalette oscura()
 void Aspecto::aplica(Tema tema)
 {
     estado().tema = tema;
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new Estilo);
     QApplication::setPalette(esOscuro() ? oscura() : clara());
 }
 
@@ -97,8 +121,8 @@ Aspecto::Tema Aspecto::tema()
 
 bool Aspecto::esOscuro()
 {
-    return estado().tema == Tema::Oscuro
-           || (estado().tema == Tema::Sistema && estado().sistemaOscuro);
+    return estado().tema == Tema::Oscuro ||
+           (estado().tema == Tema::Sistema && estado().sistemaOscuro);
 }
 
 void Aspecto::ponPasosDeLetra(int pasos)
@@ -109,11 +133,26 @@ void Aspecto::ponPasosDeLetra(int pasos)
     QFont letra = QApplication::font();
     letra.setPointSizeF(puntos);
     QApplication::setFont(letra);
+    // A font of its own does not follow the application's.
+    const auto controles = QApplication::allWidgets();
+    for (QWidget *control : controles) {
+        auto *rotulo = qobject_cast<QLabel *>(control);
+        if (rotulo && rotulo->property(PropiedadFactor).isValid())
+            destaca(rotulo, rotulo->property(PropiedadFactor).toReal());
+    }
 }
 
 int Aspecto::pasosDeLetra()
 {
     return estado().pasos;
+}
+
+void Aspecto::destaca(QLabel *rotulo, qreal factor)
+{
+    rotulo->setProperty(PropiedadFactor, factor);
+    QFont letra = rotulo->font();
+    letra.setPointSizeF(QApplication::font().pointSizeF() * factor);
+    rotulo->setFont(letra);
 }
 
 QColor Aspecto::acento()

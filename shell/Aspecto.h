@@ -3,19 +3,15 @@
 #include <QColor>
 #include <QPalette>
 
-class QApplication;
+class QLabel;
 
 /// The one look of the program: style, palette, type size, and the colours that mean something.
-namespace Aspecto
-{
+namespace Aspecto {
 
-enum class Tema {
-    Sistema,
-    Claro,
-    Oscuro
-};
+enum class Tema { Sistema, Claro, Oscuro };
 
-/// Applies style and palette. `Sistema` follows the palette that the desktop gave at the first call.
+/// Applies style and palette. `Sistema` follows the palette that the desktop gave at the first
+/// call.
 void aplica(Tema tema);
 Tema tema();
 bool esOscuro();
@@ -27,6 +23,9 @@ int pasosDeLetra();
 /// Margin around the contents of a panel, and space between groups, in pixels at 100 %.
 inline constexpr int Margen = 12;
 inline constexpr int Espacio = 8;
+
+/// Makes a label a heading, `factor` times as large as ordinary text whatever the type size.
+void destaca(QLabel *rotulo, qreal factor = 1.3);
 
 QColor acento();
 QColor exito();

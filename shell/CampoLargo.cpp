@@ -7,8 +7,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 QString enUnaLinea(QString texto)
 {
@@ -68,9 +67,9 @@ void CampoLargo::focusInEvent(QFocusEvent *suceso)
 {
     m_textoAlEntrar = text();
     QPlainTextEdit::focusInEvent(suceso);
-    const bool porTeclado = suceso->reason() == Qt::TabFocusReason
-                            || suceso->reason() == Qt::BacktabFocusReason
-                            || suceso->reason() == Qt::ShortcutFocusReason;
+    const bool porTeclado = suceso->reason() == Qt::TabFocusReason ||
+                            suceso->reason() == Qt::BacktabFocusReason ||
+                            suceso->reason() == Qt::ShortcutFocusReason;
     if (porTeclado)
         selectAll();
 }

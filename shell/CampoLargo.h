@@ -2,9 +2,9 @@
 
 #include <QPlainTextEdit>
 
-/// A text field for numbers of hundreds of digits: one line of text in meaning, wrapped over as many
-/// lines as it needs on screen. Line breaks in a pasted text are dropped, so that a number copied
-/// from a wrapped page arrives whole.
+/// A text field for numbers of hundreds of digits: one line of text in meaning, wrapped over as
+/// many lines as it needs on screen. Line breaks in a pasted text are dropped, so that a number
+/// copied from a wrapped page arrives whole.
 class CampoLargo : public QPlainTextEdit
 {
     Q_OBJECT

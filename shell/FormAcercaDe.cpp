@@ -15,7 +15,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-formAcercaDe::formAcercaDe(QWidget *padre) : QDialog(padre), ui(std::make_unique<Ui::formAcercaDe>())
+formAcercaDe::formAcercaDe(QWidget *padre)
+    : QDialog(padre), ui(std::make_unique<Ui::formAcercaDe>())
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -29,16 +30,13 @@ formAcercaDe::formAcercaDe(QWidget *padre) : QDialog(padre), ui(std::make_unique
     const QString titulo = QApplication::applicationDisplayName();
     setWindowTitle(Traduce(u"Acerca de "_s) + titulo);
     const auto version = QVersionNumber::fromString(QApplication::applicationVersion());
-    ui->lblVersion->setText(Traduce(u"Versión beta "_s)
-                            + u"%1.%2 Rev. %3"_s.arg(version.majorVersion())
-                                  .arg(version.minorVersion())
-                                  .arg(version.microVersion()));
+    ui->lblVersion->setText(Traduce(u"Versión beta "_s) +
+                            u"%1.%2 Rev. %3"_s.arg(version.majorVersion())
+                                .arg(version.minorVersion())
+                                .arg(version.microVersion()));
     ui->lblTitle->setText(titulo);
 
-    QFont grande = font();
-    grande.setPointSizeF(grande.pointSizeF() * 2.4);
-    grande.setBold(true);
-    ui->lblTitle->setFont(grande);
+    Aspecto::destaca(ui->lblTitle, 2.4);
     ui->AniEscudo->carga(u"ClipArt\\escudo.avi"_s, u"ESCUDO"_s);
     ui->AniEscudo->setMinimumSize(ui->AniEscudo->sizeHint());
 
@@ -108,8 +106,8 @@ void formAcercaDe::closeEvent(QCloseEvent *suceso)
 
 bool formAcercaDe::eventFilter(QObject *objeto, QEvent *suceso)
 {
-    const bool tecla = suceso->type() == QEvent::KeyPress
-                       && static_cast<QKeyEvent *>(suceso)->key() == Qt::Key_Space;
+    const bool tecla = suceso->type() == QEvent::KeyPress &&
+                       static_cast<QKeyEvent *>(suceso)->key() == Qt::Key_Space;
     if (objeto == ui->lblDisclaimer && (tecla || suceso->type() == QEvent::MouseButtonRelease)) {
         evento(this, [this] { lblDisclaimer_Click(); });
         return true;

@@ -19,7 +19,9 @@
 using namespace Qt::Literals::StringLiterals;
 
 FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
-    : QWidget(padre), m_pagina(pagina), m_tsTema(new QTabBar(this)),
+    : QWidget(padre),
+      m_pagina(pagina),
+      m_tsTema(new QTabBar(this)),
       m_paneles(new QStackedWidget(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -131,8 +133,7 @@ void FormLeccion::desaparece()
     // window goes out of sight now and is closed for good from the event queue after they are gone.
     marco()->hide();
     m_corrida.detener();
-    m_corrida.alTerminar(
-        [this] { QTimer::singleShot(0, this, &FormLeccion::cierra); });
+    m_corrida.alTerminar([this] { QTimer::singleShot(0, this, &FormLeccion::cierra); });
 }
 
 QWidget *FormLeccion::marco()
@@ -155,8 +156,8 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         evento(this, [this] { muestraAyuda(); });
         return true;
     }
-    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape
-        && m_corrida.enCurso()) {
+    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
+        m_corrida.enCurso()) {
         evento(this, [this] { detenCorrida(); });
         return true;
     }

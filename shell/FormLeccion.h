@@ -11,9 +11,9 @@ class QStackedWidget;
 class QTabBar;
 
 /// The frame of every lesson window: a strip of topics (`tsTema`), one panel a topic (`PanelFicha`)
-/// of which the selected one is in front, the introduction page (`wbIntro`), help on F1, and the run
-/// that its computations share. The window may be closed during a run: it disappears at once, the
-/// run is told to stop, and the window is unloaded when the run has returned.
+/// of which the selected one is in front, the introduction page (`wbIntro`), help on F1, and the
+/// run that its computations share. The window may be closed during a run: it disappears at once,
+/// the run is told to stop, and the window is unloaded when the run has returned.
 class FormLeccion : public QWidget
 {
     Q_OBJECT

@@ -24,9 +24,12 @@ using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
 FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
-    : QMainWindow(padre), ui(std::make_unique<Ui::FormPrincipal>()),
-      m_lecciones(contenido.lecciones), m_hojaDeCalculo(contenido.hojaDeCalculo),
-      m_timerPresentacion(new QTimer(this)), m_timerLogo(new QTimer(this))
+    : QMainWindow(padre),
+      ui(std::make_unique<Ui::FormPrincipal>()),
+      m_lecciones(contenido.lecciones),
+      m_hojaDeCalculo(contenido.hojaDeCalculo),
+      m_timerPresentacion(new QTimer(this)),
+      m_timerLogo(new QTimer(this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -232,10 +235,14 @@ void FormPrincipal::TimerLogo_Timer()
 
 void FormPrincipal::Calculadora_Click()
 {
-    static const QList<QStringList> calculadoras{{u"gnome-calculator"_s}, {u"kcalc"_s},
-                                                 {u"qalculate-gtk"_s},    {u"qalculate-qt"_s},
-                                                 {u"mate-calc"_s},        {u"galculator"_s},
-                                                 {u"speedcrunch"_s},      {u"deepin-calculator"_s},
+    static const QList<QStringList> calculadoras{{u"gnome-calculator"_s},
+                                                 {u"kcalc"_s},
+                                                 {u"qalculate-gtk"_s},
+                                                 {u"qalculate-qt"_s},
+                                                 {u"mate-calc"_s},
+                                                 {u"galculator"_s},
+                                                 {u"speedcrunch"_s},
+                                                 {u"deepin-calculator"_s},
                                                  {u"xcalc"_s}};
     if (!interlocutor().lanzaAlguno(calculadoras))
         interlocutor().mensaje(this, Interlocutor::Icono::Informacion,

@@ -12,8 +12,7 @@ class FormLeccion;
 class MenuLecciones;
 class MenuVentana;
 
-namespace Ui
-{
+namespace Ui {
 class FormPrincipal;
 }
 

@@ -11,9 +11,9 @@ QString formatoEntero(const QString &digitos)
     // only the separator is its.
     const bool negativo = digitos.startsWith(u'-');
     const QStringView magnitud = QStringView(digitos).sliced(negativo ? 1 : 0);
-    const bool esNumero = !magnitud.isEmpty()
-                          && std::all_of(magnitud.begin(), magnitud.end(),
-                                         [](QChar c) { return c >= u'0' && c <= u'9'; });
+    const bool esNumero =
+        !magnitud.isEmpty() && std::all_of(magnitud.begin(), magnitud.end(),
+                                           [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (!esNumero)
         return digitos;
     const QString separador = QLocale().groupSeparator();

@@ -23,8 +23,7 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace
-{
+namespace {
 
 /// Answers every question by silence, so that no box stands in the way of a picture.
 class Callado : public Interlocutor

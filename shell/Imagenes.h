@@ -2,6 +2,7 @@
 
 #include <QCursor>
 #include <QIcon>
+#include <QImage>
 #include <QPixmap>
 #include <QString>
 
@@ -11,6 +12,10 @@ QIcon Icono(const QString &nombre);
 
 /// A picture `lado` device-independent pixels high, for a screen of the given scale.
 QPixmap Imagen(const QString &nombre, int alto, qreal escala);
+
+/// The picture in an SVG file in its own size, for a screen of the given scale; null when there is
+/// none.
+QImage ImagenDeArchivo(const QString &ruta, qreal escala);
 
 /// A mouse pointer, with its hot spot in device-independent pixels.
 QCursor Cursor(const QString &nombre, QPoint puntoActivo);

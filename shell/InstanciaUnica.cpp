@@ -13,8 +13,8 @@ InstanciaUnica::InstanciaUnica(const QString &archivo)
     QDir().mkpath(QFileInfo(archivo).absolutePath());
     // Close-on-exec: a calculator started from the toolbar must not inherit the lock.
     m_descriptor = open(QFile::encodeName(archivo).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    m_hayOtra = m_descriptor >= 0 && flock(m_descriptor, LOCK_EX | LOCK_NB) != 0
-                && errno == EWOULDBLOCK;
+    m_hayOtra =
+        m_descriptor >= 0 && flock(m_descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 InstanciaUnica::~InstanciaUnica()

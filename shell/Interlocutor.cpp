@@ -16,8 +16,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 std::unique_ptr<Interlocutor> &puesto()
 {

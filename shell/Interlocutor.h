@@ -12,11 +12,7 @@ class QWidget;
 class Interlocutor
 {
 public:
-    enum class Icono {
-        Informacion,
-        Exclamacion,
-        Critico
-    };
+    enum class Icono { Informacion, Exclamacion, Critico };
 
     virtual ~Interlocutor();
 
@@ -25,11 +21,7 @@ public:
     /// A question answered by yes or no.
     virtual bool confirma(QWidget *padre, const QString &texto, const QString &titulo);
 
-    enum class Respuesta {
-        Guardar,
-        Descartar,
-        Cancelar
-    };
+    enum class Respuesta { Guardar, Descartar, Cancelar };
     /// What to do with unsaved work.
     virtual Respuesta preguntaSiGuarda(QWidget *padre, const QString &texto, const QString &titulo);
 

@@ -23,7 +23,8 @@ struct Paso
     QString valor;   ///< the text to write, or empty for a click
 };
 
-/// A picture of the gallery: a lesson, one of its topics, and the steps before the picture is taken.
+/// A picture of the gallery: a lesson, one of its topics, and the steps before the picture is
+/// taken.
 struct Escena
 {
     QString nombre; ///< file name without extension

@@ -17,22 +17,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 bool hayCarpetaDeTrabajo(clsSesión &sesion)
 {
     return ExisteFichero(sesion.carpeta() + u"\\ClipArt\\escudo.avi"_s);
-}
-
-void instalaTextosDeQt()
-{
-    // Any language but Spanish leaves Qt's own English texts.
-    if (Idioma() != u"Español"_s)
-        return;
-    auto *textos = new QTranslator(qApp);
-    if (textos->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(textos);
 }
 
 void avisaDeCota(const QString &cota)
@@ -59,6 +48,16 @@ bool encuentraCarpetaDeTrabajo(clsSesión &sesion, const std::function<QString()
     return hayCarpetaDeTrabajo(sesion);
 }
 
+void instalaTextosDeQt()
+{
+    // Any language but Spanish leaves Qt's own English texts.
+    if (Idioma() != u"Español"_s)
+        return;
+    auto *textos = new QTranslator(qApp);
+    if (textos->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(textos);
+}
+
 void preparaAplicacion()
 {
     InstalaAvisoDeCota(avisaDeCota);
@@ -70,8 +69,8 @@ void preparaAplicacion()
 ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido)
 {
     ProgramaEnMarcha programa;
-    programa.instancia = std::make_unique<InstanciaUnica>(Sesión().carpetaDeAjustes()
-                                                          + u"/Numora.lock"_s);
+    programa.instancia =
+        std::make_unique<InstanciaUnica>(Sesión().carpetaDeAjustes() + u"/Numora.lock"_s);
     if (programa.instancia->hayOtra()) {
         interlocutor().mensaje(nullptr, Interlocutor::Icono::Informacion,
                                u"Ya hay abierta una sesión del sistema Numora"_s,
@@ -79,9 +78,9 @@ ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido)
         return {};
     }
     const auto pregunta = [] {
-        return interlocutor().pideTexto(
-            nullptr, u"¿Dónde se encuentran los ficheros del sistema Numora?"_s,
-            u"Carpeta de trabajo"_s);
+        return interlocutor().pideTexto(nullptr,
+                                        u"¿Dónde se encuentran los ficheros del sistema Numora?"_s,
+                                        u"Carpeta de trabajo"_s);
     };
     if (!encuentraCarpetaDeTrabajo(Sesión(), pregunta))
         return {};

@@ -26,9 +26,12 @@ struct ProgramaEnMarcha
     std::unique_ptr<FormPrincipal> principal;
 };
 
-/// The start routine: refuses a second instance, finds the working folder, takes the language, loads
-/// the main window without showing it, shows the splash, and starts the big-number service.
+/// The start routine: refuses a second instance, finds the working folder, takes the language,
+/// loads the main window without showing it, shows the splash, and starts the big-number service.
 ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido);
+
+/// Qt's own texts ("Aceptar", "Opciones:") in Spanish, where that is the language.
+void instalaTextosDeQt();
 
 /// Style, palette, type size and Qt's own texts, as the user's settings have them.
 void preparaAplicacion();

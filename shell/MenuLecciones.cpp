@@ -74,8 +74,8 @@ void PintorDeMenu::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
     const auto grupo = activo ? QPalette::Normal : QPalette::Disabled;
     pintor->setPen(paleta.color(grupo, resaltado ? QPalette::HighlightedText : QPalette::Text));
     const QRect letrero = cuadro.adjusted(lado + 18, 0, -6, 0);
-    const QString texto = opcion.fontMetrics.elidedText(indice.data().toString(), Qt::ElideRight,
-                                                        letrero.width());
+    const QString texto =
+        opcion.fontMetrics.elidedText(indice.data().toString(), Qt::ElideRight, letrero.width());
     pintor->drawText(letrero, Qt::AlignVCenter | Qt::AlignLeft, texto);
     pintor->restore();
 }

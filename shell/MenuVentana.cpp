@@ -17,8 +17,7 @@ MenuVentana::MenuVentana(QMenu *menu, QMdiArea *area) : QObject(menu), m_menu(me
         m_fijas << accion;
         return accion;
     };
-    agrega(u"&Siguiente"_s, &QMdiArea::activateNextSubWindow)
-        ->setShortcut(Qt::CTRL | Qt::Key_Tab);
+    agrega(u"&Siguiente"_s, &QMdiArea::activateNextSubWindow)->setShortcut(Qt::CTRL | Qt::Key_Tab);
     agrega(u"&Anterior"_s, &QMdiArea::activatePreviousSubWindow)
         ->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab);
     m_menu->addSeparator();
@@ -42,8 +41,7 @@ void MenuVentana::rellena()
     for (QMdiSubWindow *ventana : ventanas) {
         if (!ventana->isVisible())
             continue;
-        QAction *accion
-            = m_menu->addAction(u"&%1  %2"_s.arg(++numero).arg(ventana->windowTitle()));
+        QAction *accion = m_menu->addAction(u"&%1  %2"_s.arg(++numero).arg(ventana->windowTitle()));
         accion->setCheckable(true);
         accion->setChecked(ventana == m_area->activeSubWindow());
         connect(accion, &QAction::triggered, ventana,

@@ -12,8 +12,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// The table of translations, read again only when the file on disk has changed.
 const Perfil &tablaDeTextos()
@@ -36,8 +35,8 @@ const Perfil &tablaDeTextos()
 
 std::int32_t comprobado(double entero)
 {
-    if (!(entero <= std::numeric_limits<std::int32_t>::max()
-          && entero >= std::numeric_limits<std::int32_t>::min()))
+    if (!(entero <= std::numeric_limits<std::int32_t>::max() &&
+          entero >= std::numeric_limits<std::int32_t>::min()))
         throw ErrorEjecucion(ErrorEjecucion::Desbordamiento);
     return static_cast<std::int32_t>(entero);
 }
@@ -69,12 +68,12 @@ bool EsNumerico(const QString &texto)
 {
     static const QRegularExpression forma(
         u"^\\s*[+-]?(\\d+([.,]\\d*)?|[.,]\\d+)([eEdD][+-]?\\d+)?\\s*$"_s);
-    return forma.match(texto).hasMatch()
-           && std::isfinite(QString(texto)
-                                .replace(u',', u'.')
-                                .replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive)
-                                .trimmed()
-                                .toDouble());
+    return forma.match(texto).hasMatch() &&
+           std::isfinite(QString(texto)
+                             .replace(u',', u'.')
+                             .replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive)
+                             .trimmed()
+                             .toDouble());
 }
 
 double NumVal(const QString &texto)

@@ -21,7 +21,10 @@ bool EsNumerico(const QString &texto);
 /// The value of the leading number of a numeric text (decimal point ".", exponent E or D); 0 when
 /// the whole is not numeric.
 double NumVal(const QString &texto);
-inline double NumVal(double valor) { return valor; }
+inline double NumVal(double valor)
+{
+    return valor;
+}
 
 /// Whether the path names a file or a folder.
 bool ExisteFichero(const QString &ruta);

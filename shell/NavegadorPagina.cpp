@@ -1,6 +1,7 @@
 #include "shell/NavegadorPagina.h"
 
 #include "shell/Aspecto.h"
+#include "shell/Imagenes.h"
 #include "shell/Interlocutor.h"
 #include "shell/ModGlobal.h"
 #include "shell/Rutas.h"
@@ -31,16 +32,26 @@ void NavegadorPagina::navega(const QString &ruta)
 void NavegadorPagina::muestra()
 {
     m_pendiente = false;
-    document()->setDefaultStyleSheet(
-        u"a { color: %1; } h1, h2, h3 { color: %2; }"_s.arg(palette().link().color().name(),
-                                                           Aspecto::acento().name()));
+    document()->setDefaultStyleSheet(u"a { color: %1; } h1, h2, h3 { color: %2; }"_s.arg(
+        palette().link().color().name(), Aspecto::acento().name()));
     const QString archivo = QDir::current().absoluteFilePath(rutaExistente(m_ruta));
     if (QFileInfo(archivo).isFile()) {
         setSource(QUrl::fromLocalFile(archivo));
         return;
     }
-    setPlainText(Traduce(u"No se encuentra la página de introducción."_s) + u"\n\n"_s
-                 + QDir::toNativeSeparators(archivo));
+    setPlainText(Traduce(u"No se encuentra la página de introducción."_s) + u"\n\n"_s +
+                 QDir::toNativeSeparators(archivo));
+}
+
+QVariant NavegadorPagina::loadResource(int tipo, const QUrl &nombre)
+{
+    const QUrl direccion = source().resolved(nombre);
+    const bool dibujo = tipo == QTextDocument::ImageResource && direccion.isLocalFile() &&
+                        direccion.path().endsWith(u".svg"_s, Qt::CaseInsensitive);
+    if (!dibujo)
+        return QTextBrowser::loadResource(tipo, nombre);
+    const QImage imagen = ImagenDeArchivo(direccion.toLocalFile(), devicePixelRatioF());
+    return imagen.isNull() ? QVariant() : QVariant(imagen);
 }
 
 void NavegadorPagina::sigueEnlace(const QUrl &enlace)

@@ -16,6 +16,9 @@ public:
     /// shows a notice with its name.
     void navega(const QString &ruta);
 
+    /// Pictures are drawn as sharp as the screen is.
+    QVariant loadResource(int tipo, const QUrl &nombre) override;
+
 protected:
     void showEvent(QShowEvent *suceso) override;
     void changeEvent(QEvent *suceso) override;

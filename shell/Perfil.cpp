@@ -17,8 +17,7 @@ struct Perfil::Datos
     CSimpleIniA ini;
 };
 
-namespace
-{
+namespace {
 
 QByteArray comoUtf8(const QByteArray &bytes)
 {
@@ -29,8 +28,8 @@ QByteArray comoUtf8(const QByteArray &bytes)
 
 QString sinComillas(const QString &valor)
 {
-    const bool entrecomillado = valor.size() >= 2 && valor.front() == valor.back()
-                                && (valor.front() == u'"' || valor.front() == u'\'');
+    const bool entrecomillado = valor.size() >= 2 && valor.front() == valor.back() &&
+                                (valor.front() == u'"' || valor.front() == u'\'');
     return entrecomillado ? valor.sliced(1, valor.size() - 2) : valor;
 }
 
@@ -73,8 +72,8 @@ Perfil::Lectura Perfil::leeBytes(const QByteArray &bytes)
 QString Perfil::valor(const QString &seccion, const QString &clave, const QString &defecto,
                       int maximo) const
 {
-    const char *hallado = m_datos->ini.GetValue(seccion.toUtf8().constData(),
-                                                clave.toUtf8().constData());
+    const char *hallado =
+        m_datos->ini.GetValue(seccion.toUtf8().constData(), clave.toUtf8().constData());
     const QString valor = hallado ? sinComillas(QString::fromUtf8(hallado)) : defecto;
     return valor.left(maximo - 1);
 }

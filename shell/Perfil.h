@@ -11,11 +11,7 @@
 class Perfil
 {
 public:
-    enum class Lectura {
-        Correcta,
-        NoExiste,
-        Ilegible
-    };
+    enum class Lectura { Correcta, NoExiste, Ilegible };
 
     /// The longest file that is read, in bytes: a profile is a few kilobytes, so what is longer is
     /// not one.
@@ -40,10 +36,7 @@ public:
     QStringList claves(const QString &seccion) const;
 
     using Entradas = QList<QPair<QString, QString>>;
-    enum class Acceso {
-        Publico,
-        Privado
-    };
+    enum class Acceso { Publico, Privado };
 
     /// Writes one section with its keys in the given order, whole or not at all, lines ended by
     /// CR LF; a private file is readable by its owner alone from its first byte on. Throws

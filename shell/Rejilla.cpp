@@ -41,9 +41,9 @@ QString Rejilla::seleccion(FormaDeCopia forma) const
         rango = selectionModel()->selection().constFirst();
     const bool todo = !rango.isValid() || rango.width() * rango.height() == 1;
     if (todo) {
-        rango = QItemSelectionRange(model()->index(0, 0),
-                                    model()->index(model()->rowCount() - 1,
-                                                   model()->columnCount() - 1));
+        rango =
+            QItemSelectionRange(model()->index(0, 0), model()->index(model()->rowCount() - 1,
+                                                                     model()->columnCount() - 1));
     }
     QList<QStringList> filas;
     if (todo || rango.height() == model()->rowCount()) {
@@ -72,7 +72,8 @@ void Rejilla::keyPressEvent(QKeyEvent *suceso)
         QTableView::keyPressEvent(suceso);
         return;
     }
-    const auto elegidas = selectionModel() ? selectionModel()->selectedIndexes() : QModelIndexList();
+    const auto elegidas =
+        selectionModel() ? selectionModel()->selectedIndexes() : QModelIndexList();
     if (elegidas.size() == 1)
         QApplication::clipboard()->setText(elegidas.constFirst().data().toString());
     else

@@ -59,8 +59,8 @@ void ReproductorAVI::preparaMotor()
         update();
     });
     connect(m_motor, &QMediaPlayer::mediaStatusChanged, this, [this](auto estadoDelMedio) {
-        const bool acabada = estadoDelMedio == QMediaPlayer::EndOfMedia
-                             || estadoDelMedio == QMediaPlayer::InvalidMedia;
+        const bool acabada = estadoDelMedio == QMediaPlayer::EndOfMedia ||
+                             estadoDelMedio == QMediaPlayer::InvalidMedia;
         if (acabada && m_estado == Reproduciendo && m_modo == Modo::UnaVez)
             fin();
     });

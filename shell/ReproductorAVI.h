@@ -25,10 +25,7 @@ public:
     /// `reproduce`, because starting the media machinery costs more than opening a lesson.
     void carga(const QString &ruta, const QString &imagenFija);
 
-    enum class Modo {
-        UnaVez,
-        Continuo
-    };
+    enum class Modo { UnaVez, Continuo };
     void reproduce(Modo modo);
     void para();
 

@@ -5,8 +5,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// The entry of `carpeta` called `nombre` but for case; `nombre` itself when there is none.
 QString entradaSinCaja(const QString &carpeta, const QString &nombre)

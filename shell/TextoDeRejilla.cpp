@@ -4,8 +4,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 QString celdaDeTexto(QString celda)
 {
@@ -14,8 +13,8 @@ QString celdaDeTexto(QString celda)
 
 QString celdaDeCSV(const QString &celda, QChar separador)
 {
-    const bool entrecomillada = celda.contains(separador) || celda.contains(u'"')
-                                || celda.contains(u'\n') || celda.contains(u'\r');
+    const bool entrecomillada = celda.contains(separador) || celda.contains(u'"') ||
+                                celda.contains(u'\n') || celda.contains(u'\r');
     return entrecomillada ? u'"' + QString(celda).replace(u'"', u"\"\""_s) + u'"' : celda;
 }
 
@@ -71,8 +70,8 @@ QString lineas(const QList<QStringList> &filas, const QString &separador, const 
 QString tablaTeX(const QList<QStringList> &filas)
 {
     const qsizetype columnas = filas.isEmpty() ? 0 : filas.constFirst().size();
-    return u"\\begin{tabular}{%1}\n"_s.arg(QString(columnas, u'r'))
-           + lineas(filas, u" & "_s, u" \\\\\n"_s, celdaDeTeX) + u"\\end{tabular}\n"_s;
+    return u"\\begin{tabular}{%1}\n"_s.arg(QString(columnas, u'r')) +
+           lineas(filas, u" & "_s, u" \\\\\n"_s, celdaDeTeX) + u"\\end{tabular}\n"_s;
 }
 
 } // namespace

@@ -16,8 +16,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// The properties that hold texts of the interface, in whatever class has them.
 constexpr std::array propiedades{"windowTitle", "toolTip",        "statusTip",
@@ -40,8 +39,8 @@ void traduceObjeto(QObject *objeto)
         if (objeto->metaObject()->indexOfProperty(propiedad) >= 0)
             traducePropiedad(objeto, propiedad);
     }
-    const bool rotulo = qobject_cast<QLabel *>(objeto) || qobject_cast<QAbstractButton *>(objeto)
-                        || qobject_cast<QAction *>(objeto);
+    const bool rotulo = qobject_cast<QLabel *>(objeto) || qobject_cast<QAbstractButton *>(objeto) ||
+                        qobject_cast<QAction *>(objeto);
     if (rotulo)
         traducePropiedad(objeto, "text");
     if (auto *fichas = qobject_cast<QTabWidget *>(objeto)) {

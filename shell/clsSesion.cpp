@@ -16,14 +16,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 // Public pages in Spanish about discrete mathematics; both can be replaced in the settings store.
-constexpr QStringView DptoPorDefecto
-    = u"https://es.wikipedia.org/wiki/Matem%C3%A1tica_discreta";
-constexpr QStringView TarvoPorDefecto
-    = u"https://es.wikipedia.org/wiki/Teor%C3%ADa_de_n%C3%BAmeros";
+constexpr QStringView DptoPorDefecto = u"https://es.wikipedia.org/wiki/Matem%C3%A1tica_discreta";
+constexpr QStringView TarvoPorDefecto =
+    u"https://es.wikipedia.org/wiki/Teor%C3%ADa_de_n%C3%BAmeros";
 
 /// The name of one of `variantes` animations: eleven equally likely values folded by `variantes`.
 QString animacionAlAzar(QStringView nombre, int variantes)
