@@ -38,7 +38,7 @@ formAcercaDe::formAcercaDe(QWidget *padre)
 
     Aspecto::destaca(ui->lblTitle, 2.4);
     ui->AniEscudo->carga(u"ClipArt\\escudo.avi"_s, u"ESCUDO"_s);
-    ui->AniEscudo->setMinimumSize(ui->AniEscudo->sizeHint());
+    ui->AniEscudo->setMinimumSize(ui->AniEscudo->sizeHint() * 1.5);
 
     conecta(ui->cmdOK, &QPushButton::clicked, this, &formAcercaDe::cmdOK_Click);
     conecta(ui->cmdSysInfo, &QPushButton::clicked, this, &formAcercaDe::cmdSysInfo_Click);

@@ -119,7 +119,10 @@ void FormPrincipal::recuperaTamano()
 {
     const QSize pantalla = screen()->availableSize();
     resize(pantalla * 0.85);
-    restoreGeometry(Sesión().recuerda(u"Ventana/Geometria"_s).toByteArray());
+    const QByteArray geometria = Sesión().recuerda(u"Ventana/Geometria"_s).toByteArray();
+    constexpr int pantallaPequena = 1440;
+    if (!restoreGeometry(geometria) && pantalla.width() <= pantallaPequena)
+        setWindowState(Qt::WindowMaximized);
     ui->Divisor->setStretchFactor(0, 0);
     ui->Divisor->setStretchFactor(1, 1);
     const QByteArray division = Sesión().recuerda(u"Ventana/Division"_s).toByteArray();

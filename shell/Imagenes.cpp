@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 using namespace Qt::Literals::StringLiterals;
@@ -41,10 +42,18 @@ QPixmap Imagen(const QString &nombre, int alto, qreal escala)
     return QPixmap::fromImage(pintada(dibujo, natural * (alto / natural.height()), escala));
 }
 
-QImage ImagenDeArchivo(const QString &ruta, qreal escala)
+QPixmap ImagenDeArchivo(const QString &ruta, qreal escala)
 {
+    // Drawing the figures is the better part of opening a page.
+    const QString clave = u"%1@%2"_s.arg(ruta).arg(escala);
+    QPixmap imagen;
+    if (QPixmapCache::find(clave, &imagen))
+        return imagen;
     QSvgRenderer dibujo(ruta);
-    return dibujo.isValid() ? pintada(dibujo, dibujo.defaultSize(), escala) : QImage();
+    if (dibujo.isValid())
+        imagen = QPixmap::fromImage(pintada(dibujo, dibujo.defaultSize(), escala));
+    QPixmapCache::insert(clave, imagen);
+    return imagen;
 }
 
 QCursor Cursor(const QString &nombre, QPoint puntoActivo)

@@ -2,7 +2,6 @@
 
 #include <QCursor>
 #include <QIcon>
-#include <QImage>
 #include <QPixmap>
 #include <QString>
 
@@ -15,7 +14,7 @@ QPixmap Imagen(const QString &nombre, int alto, qreal escala);
 
 /// The picture in an SVG file in its own size, for a screen of the given scale; null when there is
 /// none.
-QImage ImagenDeArchivo(const QString &ruta, qreal escala);
+QPixmap ImagenDeArchivo(const QString &ruta, qreal escala);
 
 /// A mouse pointer, with its hot spot in device-independent pixels.
 QCursor Cursor(const QString &nombre, QPoint puntoActivo);

@@ -50,7 +50,7 @@ QVariant NavegadorPagina::loadResource(int tipo, const QUrl &nombre)
                         direccion.path().endsWith(u".svg"_s, Qt::CaseInsensitive);
     if (!dibujo)
         return QTextBrowser::loadResource(tipo, nombre);
-    const QImage imagen = ImagenDeArchivo(direccion.toLocalFile(), devicePixelRatioF());
+    const QPixmap imagen = ImagenDeArchivo(direccion.toLocalFile(), devicePixelRatioF());
     return imagen.isNull() ? QVariant() : QVariant(imagen);
 }
 

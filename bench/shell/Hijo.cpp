@@ -1,0 +1,151 @@
+#include "bench/shell/Hijo.h"
+
+#include "numora/Lecciones.h"
+#include "shell/Corrida.h"
+#include "shell/FormLeccion.h"
+#include "shell/FormPrincipal.h"
+#include "shell/InstanciaUnica.h"
+#include "shell/Main.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTextStream>
+#include <QWidget>
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <thread>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+using Reloj = std::chrono::steady_clock;
+
+double milisegundosDesde(Reloj::time_point inicio)
+{
+    return std::chrono::duration<double, std::milli>(Reloj::now() - inicio).count();
+}
+
+long memoriaResidente()
+{
+    QFile estado(QStringLiteral("/proc/self/statm"));
+    if (!estado.open(QIODevice::ReadOnly))
+        return 0;
+    return estado.readAll().split(' ').value(1).toLong() * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+void imprime(double numero)
+{
+    QTextStream(stdout) << numero << Qt::endl;
+}
+
+/// Ends the process when a top-level window has painted for the first time.
+class HastaPintar : public QObject
+{
+public:
+    bool eventFilter(QObject *objeto, QEvent *suceso) override
+    {
+        auto *ventana = qobject_cast<QWidget *>(objeto);
+        if (suceso->type() != QEvent::Paint || !ventana || !ventana->isWindow())
+            return false;
+        imprime(static_cast<double>(memoriaResidente()));
+        _exit(0);
+    }
+};
+
+ProgramaEnMarcha programa()
+{
+    ProgramaEnMarcha enMarcha = Main(QString(), contenidoDelPrograma());
+    enMarcha.principal->show();
+    QCoreApplication::processEvents();
+    return enMarcha;
+}
+
+} // namespace
+
+int hijo::desnudo(int argc, char *argv[])
+{
+    QApplication aplicacion(argc, argv);
+    HastaPintar espera;
+    aplicacion.installEventFilter(&espera);
+    QWidget ventana;
+    ventana.show();
+    return QApplication::exec();
+}
+
+int hijo::presentacion(int argc, char *argv[])
+{
+    QApplication aplicacion(argc, argv);
+    HastaPintar espera;
+    aplicacion.installEventFilter(&espera);
+    const ProgramaEnMarcha enMarcha = Main(QString(), contenidoDelPrograma());
+    return QApplication::exec();
+}
+
+int hijo::lecciones(int argc, char *argv[])
+{
+    QApplication aplicacion(argc, argv);
+    const ProgramaEnMarcha enMarcha = programa();
+    double peor = 0;
+    for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < 9; ++fila) {
+        for (int vez = 1; vez <= 2; ++vez) {
+            const auto inicio = Reloj::now();
+            FormLeccion *leccion = enMarcha.principal->abreLeccion(fila);
+            if (!leccion)
+                continue;
+            QCoreApplication::processEvents();
+            if (vez == 2)
+                peor = std::max(peor, milisegundosDesde(inicio));
+            leccion->cierra();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+    }
+    imprime(peor);
+    return 0;
+}
+
+int hijo::memoria(int argc, char *argv[])
+{
+    QApplication aplicacion(argc, argv);
+    const ProgramaEnMarcha enMarcha = programa();
+    for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < 9; ++fila)
+        enMarcha.principal->abreLeccion(fila);
+    const auto fin = Reloj::now() + 2s;
+    while (Reloj::now() < fin)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    imprime(static_cast<double>(memoriaResidente()));
+    return 0;
+}
+
+int hijo::atencion(int argc, char *argv[])
+{
+    QApplication aplicacion(argc, argv);
+    Corrida corrida;
+    std::atomic<double> peor = 0;
+    std::atomic<bool> fin = false;
+    QObject destino;
+    std::thread otro([&] {
+        while (!fin) {
+            const auto pedido = Reloj::now();
+            QMetaObject::invokeMethod(
+                &destino, [&, pedido] { peor = std::max(peor.load(), milisegundosDesde(pedido)); },
+                Qt::QueuedConnection);
+            std::this_thread::sleep_for(3ms);
+        }
+    });
+    // Steps of nanoseconds, then of a tenth of a millisecond, as when numbers grow.
+    const auto inicio = Reloj::now();
+    volatile double x = 1;
+    while (milisegundosDesde(inicio) < 3000) {
+        const int trabajo = milisegundosDesde(inicio) < 1500 ? 1 : 30'000;
+        for (int i = 0; i < trabajo; ++i)
+            x = x * 1.0000001;
+        corrida.ceder();
+    }
+    fin = true;
+    otro.join();
+    imprime(peor);
+    return 0;
+}

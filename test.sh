@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds and runs every test: formatting, the release build with warnings
+# as errors, the same under AddressSanitizer and UBSan, and a short run of the fuzz targets.
+set -euo pipefail
+cd "$(dirname "$0")"
+source scripts/paquetes.sh
+instala_paquetes test fuzz
+
+scripts/formato.sh --check
+
+scripts/fuzz.sh "${NUMORA_FUZZ_SECONDS:-10}"
+
+cmake --preset asan
+cmake --build --preset asan
+ctest --preset asan
+
+cmake --preset ci
+cmake --build --preset ci
+ctest --preset ci
