@@ -4,6 +4,7 @@
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QTextOption>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -84,5 +85,6 @@ void CampoLargo::focusOutEvent(QFocusEvent *suceso)
 void CampoLargo::insertFromMimeData(const QMimeData *datos)
 {
     const QString linea = enUnaLinea(datos->text());
-    insertPlainText(linea.left(LongitudMaxima - document()->characterCount()));
+    const int sitio = LongitudMaxima - document()->characterCount();
+    insertPlainText(linea.left(std::max(sitio, 0)));
 }

@@ -14,6 +14,7 @@
 #include "ui_FormPrincipal.h"
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QMouseEvent>
@@ -108,7 +109,8 @@ void FormPrincipal::preparaAspecto()
         accion->setChecked(tema == Aspecto::tema());
         conecta(accion, &QAction::triggered, this, [this, tema = tema] {
             Aspecto::aplica(tema);
-            ui->AreaDeTrabajo->setBackground(palette().alternateBase());
+            // The windows' own palettes follow a moment later.
+            ui->AreaDeTrabajo->setBackground(QApplication::palette().alternateBase());
             Sesión().anota(u"Ventana/Tema"_s, static_cast<int>(tema));
         });
     }

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QTextStream>
+#include <QTimer>
 #include <QWidget>
 #include <algorithm>
 #include <atomic>
@@ -55,11 +56,21 @@ public:
     }
 };
 
+void sirveEventosDurante(std::chrono::milliseconds tiempo)
+{
+    const auto fin = Reloj::now() + tiempo;
+    while (Reloj::now() < fin)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+}
+
+/// The program with its main window open and at rest: the logo has played.
 ProgramaEnMarcha programa()
 {
     ProgramaEnMarcha enMarcha = Main(QString(), contenidoDelPrograma());
     enMarcha.principal->show();
-    QCoreApplication::processEvents();
+    QTimer tictac; // wakes the loop where nothing else happens
+    tictac.start(20ms);
+    sirveEventosDurante(7s);
     return enMarcha;
 }
 
@@ -112,9 +123,7 @@ int hijo::memoria(int argc, char *argv[])
     const ProgramaEnMarcha enMarcha = programa();
     for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < 9; ++fila)
         enMarcha.principal->abreLeccion(fila);
-    const auto fin = Reloj::now() + 2s;
-    while (Reloj::now() < fin)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    QCoreApplication::processEvents();
     imprime(static_cast<double>(memoriaResidente()));
     return 0;
 }

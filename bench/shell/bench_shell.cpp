@@ -69,8 +69,8 @@ int padre(int argc, char *argv[])
     unaVez(u"presentacion"_s);
     const Medida desnudo = mediana(u"desnudo"_s, 15);
     const Medida presentacion = mediana(u"presentacion"_s, 15);
-    const Medida lecciones = mediana(u"lecciones"_s, 3);
-    const Medida memoria = mediana(u"memoria"_s, 3);
+    const Medida lecciones = mediana(u"lecciones"_s, 1);
+    const Medida memoria = mediana(u"memoria"_s, 1);
     const Medida atencion = unaVez(u"atencion"_s);
 
     QTextStream(stdout)

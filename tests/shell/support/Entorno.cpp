@@ -1,0 +1,148 @@
+#include "tests/shell/support/Entorno.h"
+
+#include "bignum/ModBignum.h"
+#include "shell/Main.h"
+#include "shell/ModGlobal.h"
+
+#include <QDir>
+#include <QLocale>
+#include <QSettings>
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QTemporaryDir *ajustes = nullptr;
+QtMessageHandler anterior = nullptr;
+
+/// Warnings that a machine without display or sound gives whatever the program does.
+bool esInofensivo(const QString &texto)
+{
+    static const QStringList conocidos{u"propagateSizeHints"_s, u"RHI backend"_s,
+                                       u"XDG_RUNTIME_DIR"_s,    u"PulseAudio"_s,
+                                       u"GStreamer"_s,          u"does not support raise"_s,
+                                       u"QObject::startTimer"_s};
+    return std::any_of(conocidos.begin(), conocidos.end(),
+                       [&](const QString &conocido) { return texto.contains(conocido); });
+}
+
+void vigila(QtMsgType tipo, const QMessageLogContext &contexto, const QString &texto)
+{
+    anterior(tipo, contexto, texto);
+    if (tipo == QtWarningMsg && !esInofensivo(texto))
+        QTest::qFail(qPrintable(u"unexpected warning: "_s + texto), __FILE__, __LINE__);
+}
+
+std::unique_ptr<QApplication> aplicacion;
+
+} // namespace
+
+Grabadora::Mensaje Grabadora::unico()
+{
+    if (mensajes.size() != 1) {
+        QTest::qFail(qPrintable(u"%1 messages instead of one"_s.arg(mensajes.size())), __FILE__,
+                     __LINE__);
+        return {};
+    }
+    return mensajes.takeFirst();
+}
+
+void Grabadora::mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo)
+{
+    mensajes << Mensaje{icono, texto, titulo};
+}
+
+bool Grabadora::confirma(QWidget *, const QString &, const QString &)
+{
+    return !respuesta().isEmpty();
+}
+
+Interlocutor::Respuesta Grabadora::preguntaSiGuarda(QWidget *, const QString &, const QString &)
+{
+    const QString dada = respuesta();
+    if (dada == u"guardar"_s)
+        return Respuesta::Guardar;
+    return dada == u"descartar"_s ? Respuesta::Descartar : Respuesta::Cancelar;
+}
+
+QString Grabadora::pideTexto(QWidget *, const QString &, const QString &)
+{
+    return respuesta();
+}
+
+QString Grabadora::pideCarpeta(QWidget *, const QString &, const QString &, const QString &)
+{
+    return respuesta();
+}
+
+QString Grabadora::pideArchivoParaAbrir(QWidget *, const QString &, const QString &)
+{
+    return respuesta();
+}
+
+QString Grabadora::pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
+                                          const QString &)
+{
+    return respuesta();
+}
+
+void Grabadora::abre(const QString &direccion)
+{
+    abiertas << direccion;
+}
+
+bool Grabadora::lanzaAlguno(const QList<QStringList> &ordenes)
+{
+    lanzadas << ordenes.constFirst();
+    return hayProgramas;
+}
+
+QString Grabadora::respuesta()
+{
+    return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
+}
+
+Entorno::Entorno(int argc, char *argv[])
+{
+    static int argumentos = argc;
+    ajustes = new QTemporaryDir;
+    qputenv("XDG_CONFIG_HOME", ajustes->path().toLocal8Bit());
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+    aplicacion = std::make_unique<QApplication>(argumentos, argv);
+    QApplication::setApplicationDisplayName(u"Numora"_s);
+    QApplication::setApplicationVersion(u"1.5.40"_s);
+    anterior = qInstallMessageHandler(vigila);
+    QDir::setCurrent(carpetaDeTrabajo());
+    preparaAplicacion();
+    limpia();
+}
+
+Entorno::~Entorno()
+{
+    qInstallMessageHandler(anterior);
+    ponInterlocutor(nullptr);
+    aplicacion.reset();
+    delete ajustes;
+}
+
+void Entorno::limpia()
+{
+    Idioma() = u"Español"_s;
+    QSettings(QSettings::IniFormat, QSettings::UserScope, u"Numora"_s, u"Numora"_s).clear();
+    Sesión().ponCarpeta(carpetaDeTrabajo());
+    ponInterlocutor(std::make_unique<Grabadora>());
+    IniciaBignum(100);
+}
+
+Grabadora &Entorno::grabadora()
+{
+    return static_cast<Grabadora &>(interlocutor());
+}
+
+QString Entorno::carpetaDeTrabajo()
+{
+    return QStringLiteral(CARPETA_DE_TRABAJO);
+}

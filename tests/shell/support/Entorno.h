@@ -1,0 +1,79 @@
+#pragma once
+
+#include "shell/Interlocutor.h"
+
+#include <QApplication>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+#include <functional>
+
+/// What the program said to the user or the desktop, instead of saying it. A box that no test
+/// expects fails it.
+class Grabadora : public Interlocutor
+{
+public:
+    struct Mensaje
+    {
+        Icono icono;
+        QString texto;
+        QString titulo;
+    };
+
+    QList<Mensaje> mensajes;
+    QStringList abiertas;        ///< addresses given to the desktop
+    QList<QStringList> lanzadas; ///< programs asked for, the first of each list
+    QStringList respuestas;      ///< answers to give, in order; empty text when they run out
+    bool hayProgramas = true;
+
+    /// The only message, which is then forgotten; fails the test when there is none or several.
+    Mensaje unico();
+
+    void mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo) override;
+    bool confirma(QWidget *, const QString &, const QString &) override;
+    Respuesta preguntaSiGuarda(QWidget *, const QString &, const QString &) override;
+    QString pideTexto(QWidget *, const QString &, const QString &) override;
+    QString pideCarpeta(QWidget *, const QString &, const QString &, const QString &) override;
+    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &) override;
+    QString pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
+                                   const QString &) override;
+    void abre(const QString &direccion) override;
+    bool lanzaAlguno(const QList<QStringList> &ordenes) override;
+
+private:
+    QString respuesta();
+};
+
+/// One place for a test to stand on: settings of its own, the working folder as shipped, no
+/// display, the Spanish locale, and a recorder in place of every dialog. An unexpected warning of
+/// Qt fails the test.
+class Entorno
+{
+public:
+    Entorno(int argc, char *argv[]);
+    ~Entorno();
+
+    /// Called in a test's init(): settings, language and recorder as new.
+    static void limpia();
+    static Grabadora &grabadora();
+    static QString carpetaDeTrabajo();
+};
+
+/// The control of that name; the test fails by name when there is none.
+template <typename Control>
+Control *control(const QObject *ventana, const QString &nombre)
+{
+    auto *hallado = ventana->findChild<Control *>(nombre);
+    if (!hallado)
+        qFatal("there is no control %s", qPrintable(nombre));
+    return hallado;
+}
+
+/// main() of a test of windows.
+#define NUMORA_TEST_MAIN(Clase)                                                                    \
+    int main(int argc, char *argv[])                                                               \
+    {                                                                                              \
+        Entorno entorno(argc, argv);                                                               \
+        Clase prueba;                                                                              \
+        return QTest::qExec(&prueba, argc, argv);                                                  \
+    }

@@ -1,0 +1,128 @@
+#include "bignum/ErrorEjecucion.h"
+#include "shell/Archivos.h"
+#include "shell/Perfil.h"
+#include "shell/Rutas.h"
+#include "shell/TextoDeRejilla.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestArchivos : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void leePerfil_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("valor");
+        QTest::newRow("plain") << "[RSA]\r\nq(0)=12\r\n"_ba << u"12"_s;
+        QTest::newRow("blanks, LF, case") << "[rsa]\nQ(0) = 12 \n"_ba << u"12"_s;
+        QTest::newRow("byte-order mark") << "\xEF\xBB\xBF[RSA]\r\nq(0)=12\r\n"_ba << u"12"_s;
+        QTest::newRow("quotes") << "[RSA]\nq(0)=\" 12 \"\n"_ba << u" 12 "_s;
+        QTest::newRow("first of two counts") << "[RSA]\nq(0)=12\nq(0)=13\n"_ba << u"12"_s;
+        QTest::newRow("Windows-1252") << "[RSA]\nq(0)=a\xF1o\n"_ba << u"año"_s;
+        QTest::newRow("UTF-8") << "[RSA]\nq(0)=a\xC3\xB1o\n"_ba << u"año"_s;
+        QTest::newRow("no line end") << "[RSA]\nq(0)=12"_ba << u"12"_s;
+        QTest::newRow("other section") << "[R]\nq(0)=12\n"_ba << u"falta"_s;
+        QTest::newRow("no section") << "q(0)=12\n"_ba << u"falta"_s;
+        QTest::newRow("zeros") << QByteArray(100, '\0') << u"falta"_s;
+    }
+    void leePerfil()
+    {
+        QFETCH(QByteArray, bytes);
+        Perfil perfil;
+        perfil.leeBytes(bytes);
+        QTEST(perfil.valor(u"RSA"_s, u"q(0)"_s, u"falta"_s), "valor");
+    }
+
+    void limitesDelPerfil()
+    {
+        Perfil perfil;
+        QCOMPARE(perfil.leeBytes("[a]\nb=" + QByteArray(9000, '7') + "\n"),
+                 Perfil::Lectura::Correcta);
+        QCOMPARE(perfil.valor(u"a"_s, u"b"_s).size(), 8191);
+        QCOMPARE(perfil.leeBytes(QByteArray(Perfil::TamanoMaximo + 1, 'x')),
+                 Perfil::Lectura::Ilegible);
+        QCOMPARE(perfil.valor(u"a"_s, u"b"_s), QString());
+        QCOMPARE(perfil.lee(m_carpeta.filePath(u"no existe"_s)), Perfil::Lectura::NoExiste);
+        QCOMPARE(perfil.lee(m_carpeta.path()), Perfil::Lectura::Ilegible);
+    }
+
+    void escribePerfil()
+    {
+        const QString ruta = m_carpeta.filePath(u"yo.RSA"_s);
+        Perfil::escribe(ruta, u"RSA"_s, {{u"r"_s, u"1"_s}, {u"q(0)"_s, u"33"_s}},
+                        Perfil::Acceso::Privado);
+        QCOMPARE(leeArchivo(ruta, 100), "[RSA]\r\nr=1\r\nq(0)=33\r\n"_ba);
+        const auto dueno =
+            QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+        QCOMPARE(QFileInfo(ruta).permissions() & ~dueno, QFile::Permissions());
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
+                                 Perfil::escribe(ruta, u"RSA"_s, {{u"r"_s, u"1\n[Otra]"_s}}));
+        QCOMPARE(leeArchivo(ruta, 100), "[RSA]\r\nr=1\r\nq(0)=33\r\n"_ba);
+    }
+
+    void erroresDeArchivo()
+    {
+        const QString archivo = m_carpeta.filePath(u"archivo"_s);
+        escribeArchivo(archivo, "1");
+        QCOMPARE(numeroDe([&] { escribeArchivo(archivo + u"/dentro"_s, "2"); }),
+                 int(ErrorEjecucion::RutaNoEncontrada));
+        QCOMPARE(numeroDe([&] { leeArchivo(m_carpeta.filePath(u"nada"_s), 10); }),
+                 int(ErrorEjecucion::ArchivoNoEncontrado));
+        QCOMPARE(numeroDe([&] { leeArchivo(u"/dev/zero"_s, 10); }),
+                 int(ErrorEjecucion::ErrorDeArchivo));
+        escribeArchivo(archivo, "123456789");
+        QCOMPARE(numeroDe([&] { leeArchivo(archivo, 8); }), int(ErrorEjecucion::ErrorDeArchivo));
+        QCOMPARE(leeArchivo(archivo, 9), "123456789"_ba);
+    }
+
+    void rutas()
+    {
+        QDir(m_carpeta.path()).mkpath(u"Doc/Más"_s);
+        escribeArchivo(m_carpeta.filePath(u"Doc/Más/Clave.RSA"_s), "x");
+        const QString esperada = m_carpeta.path() + u"/Doc/Más/Clave.RSA"_s;
+        QCOMPARE(rutaExistente(m_carpeta.path() + u"\\DOC\\más\\clave.rsa"_s), esperada);
+        QCOMPARE(rutaExistente(esperada), esperada);
+        QCOMPARE(rutaExistente(m_carpeta.path() + u"\\doc\\Nuevo.txt"_s),
+                 m_carpeta.path() + u"/Doc/Nuevo.txt"_s);
+        for (const QString &malo :
+             {QString(), u"."_s, u".."_s, u"a/b"_s, u"a\\b"_s, u"C:x"_s, QString(QChar(u'\0'))})
+            QVERIFY2(!esNombreSimple(malo), qPrintable(malo));
+        QVERIFY(esNombreSimple(u"maría.lópez"_s));
+    }
+
+    void textoDeRejilla()
+    {
+        const QList<QStringList> filas{{u"n"_s, u"50%"_s}, {u"1;2"_s, u"di \"sí\""_s}};
+        QCOMPARE(::textoDeRejilla(filas, FormaDeCopia::Texto), u"n\t50%\n1;2\tdi \"sí\"\n"_s);
+        QCOMPARE(::textoDeRejilla(filas, FormaDeCopia::CSV),
+                 u"n;50%\r\n\"1;2\";\"di \"\"sí\"\"\"\r\n"_s);
+        QCOMPARE(::textoDeRejilla(filas, FormaDeCopia::CSV, false),
+                 u"n,50%\r\n1;2,\"di \"\"sí\"\"\"\r\n"_s);
+        QCOMPARE(::textoDeRejilla(filas, FormaDeCopia::TeX),
+                 u"\\begin{tabular}{rr}\nn & 50\\% \\\\\n1;2 & di \"sí\" \\\\\n\\end{tabular}\n"_s);
+    }
+
+private:
+    template <typename Accion>
+    static int numeroDe(Accion accion)
+    {
+        try {
+            accion();
+        } catch (const ErrorEjecucion &error) {
+            return error.numero();
+        }
+        return 0;
+    }
+
+    QTemporaryDir m_carpeta;
+};
+
+QTEST_GUILESS_MAIN(TestArchivos)
+#include "tst_Archivos.moc"

@@ -1,0 +1,235 @@
+#include "shell/Aspecto.h"
+#include "shell/FormLeccion.h"
+#include "shell/FormPrincipal.h"
+#include "shell/MenuLecciones.h"
+#include "shell/ModGlobal.h"
+#include "shell/ReproductorAVI.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QListView>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A lesson with one field, under whatever name.
+class FormPrueba : public FormLeccion
+{
+public:
+    explicit FormPrueba(const QString &nombre) : FormLeccion(nombre + u".html"_s)
+    {
+        setObjectName(u"Form"_s + nombre);
+        setWindowTitle(nombre);
+        agregaTema(u"Tema"_s, u"tema"_s, new QLineEdit(this));
+    }
+};
+
+Contenido contenidoDePrueba()
+{
+    Contenido contenido;
+    for (const QString &nombre :
+         {u"Cero"_s, u"Uno"_s, u"Dos"_s, u"Tres"_s, u"Cuatro"_s, u"Cinco"_s})
+        contenido.lecciones << Leccion{u"PRIMOS"_s, nombre,
+                                       [nombre](QWidget *) { return new FormPrueba(nombre); }};
+    contenido.lecciones << Leccion{u"RSA"_s, u"Futura"_s, {}};
+    return contenido;
+}
+
+} // namespace
+
+class TestFormPrincipal : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_principal = std::make_unique<FormPrincipal>(contenidoDePrueba());
+        m_principal->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_principal.get()));
+        m_menu = control<QListView>(m_principal.get(), u"FlexMenu"_s);
+        m_area = control<QMdiArea>(m_principal.get(), u"AreaDeTrabajo"_s);
+    }
+    void cleanup() { m_principal.reset(); }
+
+    void elRatonResaltaUnaFila()
+    {
+        mueveA(2);
+        mueveA(5);
+        QCOMPARE(resaltadas(), QList<int>{5});
+        QTest::mouseMove(m_menu->viewport(), {5, m_menu->viewport()->height() - 2});
+        QCOMPARE(resaltadas(), QList<int>{5});
+    }
+
+    void elClicAbreUnaSolaVentana()
+    {
+        pulsa(2);
+        QCOMPARE(titulos(), QStringList{u"Dos"_s});
+        pulsa(4);
+        pulsa(2);
+        QCOMPARE(titulos(), (QStringList{u"Dos"_s, u"Cuatro"_s}));
+        QCOMPARE(m_principal->leccionActiva()->windowTitle(), u"Dos"_s);
+        pulsa(6);
+        QTest::mouseClick(m_menu->viewport(), Qt::LeftButton, {},
+                          {5, m_menu->viewport()->height() - 2});
+        QCOMPARE(titulos().size(), 2);
+        QVERIFY(!m_principal->abreLeccion(-2));
+        QVERIFY(!m_principal->abreLeccion(99));
+        QVERIFY(!m_principal->abreLeccion(FormPrincipal::FilaHojaDeCalculo));
+    }
+
+    void elMenuSeLlevaConElTeclado()
+    {
+        m_menu->setFocus();
+        m_menu->setCurrentIndex(m_menu->model()->index(0, 0));
+        QTest::keyClick(m_menu, Qt::Key_Down);
+        QCOMPARE(resaltadas(), QList<int>{1});
+        QTest::keyClick(m_menu, Qt::Key_Return);
+        QCOMPARE(titulos(), QStringList{u"Uno"_s});
+    }
+
+    void teclasDeVentanas()
+    {
+        for (int fila : {0, 1, 2})
+            m_principal->abreLeccion(fila);
+        auto *campo = m_principal->leccionActiva()->findChild<QLineEdit *>();
+        campo->setFocus();
+        QTest::keyClick(campo, Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(m_principal->leccionActiva()->windowTitle(), u"Cero"_s);
+        QTest::keyClick(m_principal.get(), Qt::Key_Backtab,
+                        Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(m_principal->leccionActiva()->windowTitle(), u"Dos"_s);
+        QTest::keyClick(campo, Qt::Key_W, Qt::ControlModifier);
+        QTRY_COMPARE(titulos(), (QStringList{u"Cero"_s, u"Uno"_s}));
+        QTest::keyClick(m_principal.get(), Qt::Key_F4, Qt::ControlModifier);
+        QTRY_COMPARE(titulos().size(), 1);
+    }
+
+    void F6VaYVuelve()
+    {
+        m_principal->abreLeccion(0);
+        auto *campo = m_principal->leccionActiva()->findChild<QLineEdit *>();
+        campo->setFocus();
+        QTest::keyClick(campo, Qt::Key_F6);
+        QVERIFY(m_menu->hasFocus());
+        QTest::keyClick(m_menu, Qt::Key_F6);
+        QVERIFY(campo->hasFocus());
+    }
+
+    void elTamanoDeLaLetra()
+    {
+        const qreal normal = QApplication::font().pointSizeF();
+        QTest::keyClick(m_principal.get(), Qt::Key_Plus, Qt::ControlModifier);
+        QTest::keyClick(m_principal.get(), Qt::Key_Plus, Qt::ControlModifier);
+        QCOMPARE(QApplication::font().pointSizeF(), normal + 2);
+        QTest::keyClick(m_principal.get(), Qt::Key_Minus, Qt::ControlModifier);
+        QCOMPARE(QApplication::font().pointSizeF(), normal + 1);
+        QCOMPARE(Sesión().recuerda(u"Ventana/Letra"_s).toInt(), 1);
+        QTest::keyClick(m_principal.get(), Qt::Key_0, Qt::ControlModifier);
+        QCOMPARE(QApplication::font().pointSizeF(), normal);
+        for (int i = 0; i < 60; ++i)
+            QTest::keyClick(m_principal.get(), Qt::Key_Plus, Qt::ControlModifier);
+        QCOMPARE(QApplication::font().pointSizeF(), 32.0);
+        QTest::keyClick(m_principal.get(), Qt::Key_0, Qt::ControlModifier);
+    }
+
+    void elLogotipo()
+    {
+        auto *logo = control<ReproductorAVI>(m_principal.get(), u"AniLogo"_s);
+        QCOMPARE(logo->toolTip(), u"Ir a la página web del Departamento"_s);
+        QTest::mouseClick(logo, Qt::LeftButton);
+        QCOMPARE(Entorno::grabadora().abiertas, QStringList{Sesión().DptoURL()});
+        logo->para();
+        QTest::mousePress(logo, Qt::RightButton);
+        const QImage parado = logo->cursor().pixmap().toImage();
+        logo->reproduce(ReproductorAVI::Modo::Continuo);
+        QTest::mousePress(logo, Qt::RightButton);
+        QVERIFY(logo->cursor().pixmap().toImage() != parado);
+        QCOMPARE(Entorno::grabadora().abiertas.size(), 1);
+        Sesión().guarda(u"Enlaces"_s, u"Departamento"_s, QString());
+        QTest::mouseClick(logo, Qt::LeftButton);
+        QCOMPARE(Entorno::grabadora().abiertas.size(), 1);
+    }
+
+    void lasHerramientas()
+    {
+        Entorno::grabadora().hayProgramas = false;
+        control<QAction>(m_principal.get(), u"Calculadora"_s)->trigger();
+        QCOMPARE(Entorno::grabadora().unico().texto,
+                 u"No se encuentra ninguna calculadora en este equipo."_s);
+        QVERIFY(!control<QAction>(m_principal.get(), u"calc"_s)->isEnabled());
+
+        auto *ayuda = control<QAction>(m_principal.get(), u"Algoritmos"_s);
+        ayuda->trigger();
+        QVERIFY(Entorno::grabadora().abiertas.isEmpty());
+        FormLeccion *leccion = m_principal->abreLeccion(3);
+        ayuda->trigger();
+        QCOMPARE(Entorno::grabadora().abiertas, QStringList{leccion->URL()});
+        QCOMPARE(leccion->URL(), Entorno::carpetaDeTrabajo() + u"\\Doc\\Tres.html"_s);
+        leccion->setObjectName(u"FormNavegador"_s);
+        ayuda->trigger();
+        QCOMPARE(Entorno::grabadora().abiertas.size(), 1);
+    }
+
+    void recuerdaElTamanoDeCadaLeccion()
+    {
+        FormLeccion *leccion = m_principal->abreLeccion(1);
+        const QSize tamano(420, 310);
+        leccion->parentWidget()->resize(tamano);
+        leccion->cierra();
+        QTRY_VERIFY(titulos().isEmpty());
+        QCOMPARE(m_principal->abreLeccion(1)->parentWidget()->size(), tamano);
+    }
+
+    void losColores()
+    {
+        control<QAction>(m_principal.get(), u"mnuTemaOscuro"_s)->trigger();
+        QTRY_VERIFY(m_principal->palette().window().color().lightness() < 100);
+        QVERIFY(m_area->background().color().lightness() < 100);
+        control<QAction>(m_principal.get(), u"mnuTemaClaro"_s)->trigger();
+        QTRY_VERIFY(m_principal->palette().window().color().lightness() > 200);
+        QVERIFY(m_area->background().color().lightness() > 200);
+        QCOMPARE(Sesión().recuerda(u"Ventana/Tema"_s).toInt(), int(Aspecto::Tema::Claro));
+    }
+
+private:
+    QPoint centroDe(int fila) const
+    {
+        return m_menu->visualRect(m_menu->model()->index(fila, 0)).center();
+    }
+    void mueveA(int fila) const { QTest::mouseMove(m_menu->viewport(), centroDe(fila)); }
+    void pulsa(int fila) const
+    {
+        QTest::mouseClick(m_menu->viewport(), Qt::LeftButton, {}, centroDe(fila));
+    }
+    QList<int> resaltadas() const
+    {
+        QList<int> filas;
+        for (int f = 0; f < m_menu->model()->rowCount(); ++f) {
+            if (m_menu->model()->index(f, 0).data(MenuLecciones::PapelResaltado).toBool())
+                filas << f;
+        }
+        return filas;
+    }
+    QStringList titulos() const
+    {
+        QStringList todos;
+        const auto ventanas = m_area->subWindowList();
+        for (const QMdiSubWindow *ventana : ventanas)
+            todos << ventana->windowTitle();
+        return todos;
+    }
+
+    std::unique_ptr<FormPrincipal> m_principal;
+    QListView *m_menu = nullptr;
+    QMdiArea *m_area = nullptr;
+};
+
+NUMORA_TEST_MAIN(TestFormPrincipal)
+#include "tst_FormPrincipal.moc"
