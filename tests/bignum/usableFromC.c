@@ -1,0 +1,19 @@
+/* That this compiles as C with all warnings on is the test of the header. */
+#include "bignum/bignum.h"
+
+int32_t addUp(const uint64_t *primes, int64_t count, void *context);
+int32_t sumOfPrimesUpTo10(void);
+
+int32_t addUp(const uint64_t *primes, int64_t count, void *context)
+{
+    int32_t *sum = context;
+    for (int64_t i = 0; i < count; ++i)
+        *sum += (int32_t)primes[i];
+    return 1;
+}
+
+int32_t sumOfPrimesUpTo10(void)
+{
+    int32_t sum = 0;
+    return PrimesUpTo(10, addUp, &sum) == 1 ? sum : -1;
+}
