@@ -1,0 +1,130 @@
+#include "bignum/bignum.h"
+
+#include <QTest>
+#include <gmpxx.h>
+#include <random>
+#include <string>
+
+namespace {
+
+std::string decimal(const std::string &rational)
+{
+    std::string buffer(16384 + 16, '\x5a');
+    const bool success = ToDecimal(rational.c_str(), buffer.data()) != 0;
+    if (buffer.find_first_not_of('\x5a', 16384) != std::string::npos)
+        return "overrun";
+    return success ? buffer.c_str() : "fails";
+}
+
+/// The value of a decimal text.
+mpq_class valueOf(const std::string &text)
+{
+    const auto point = text.find('.');
+    std::string digits = text;
+    mpz_class denominator = 1;
+    if (point != std::string::npos) {
+        digits.erase(point, 1);
+        mpz_ui_pow_ui(denominator.get_mpz_t(), 10, text.size() - point - 1);
+    }
+    mpq_class value(mpz_class(digits, 10), denominator);
+    value.canonicalize();
+    return value;
+}
+
+} // namespace
+
+class TestDecimal : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { InitBignum(100); }
+
+    void values_data()
+    {
+        QTest::addColumn<int>("precision");
+        QTest::addColumn<QByteArray>("rational");
+        QTest::addColumn<QByteArray>("expected");
+        const auto row = [](const char *name, int precision, const char *rational,
+                            const char *expected) {
+            QTest::newRow(name) << precision << QByteArray(rational) << QByteArray(expected);
+        };
+        row("whole", 5, "1234567", "1234567");
+        row("zero", 5, "0", "0");
+        row("exact", 100, "-49/4", "-12.25");
+        row("below one", 100, "1/2", "0.5");
+        row("third", 5, "1/3", "0.33333");
+        row("two thirds", 5, "-2/3", "-0.66667");
+        row("zeros do not count", 3, "1/700000", "0.00000143");
+        row("carry", 3, "9996/10000", "1");
+        row("carry to the left", 3, "99996/1000", "100");
+        row("tie to even, down", 2, "25/1000", "0.025");
+        row("tie to even 1", 1, "25/100", "0.2");
+        row("tie to even 2", 1, "35/100", "0.4");
+        row("just above a tie", 1, "2500000001/10000000000", "0.3");
+        row("integer part is whole", 3, "123456/10", "12346");
+        row("tie of the integer part", 1, "25/2", "12");
+        row("precision 0 is 1", 0, "1/3", "0.3");
+        row("precision -5 is 1", -5, "1/3", "0.3");
+        row("no trailing zeros", 5, "10000001/100000000", "0.1");
+        row("not a number", 5, "1/0", "fails");
+        row("negative denominator", 5, "1/-2", "fails");
+        row("text", 5, "x", "fails");
+    }
+    void values()
+    {
+        QFETCH(int, precision);
+        QFETCH(QByteArray, rational);
+        InitBignum(precision);
+        QTEST(QByteArray::fromStdString(decimal(rational.toStdString())), "expected");
+    }
+
+    void precisionIsClamped()
+    {
+        InitBignum(5000);
+        QCOMPARE(decimal("1/3").size(), std::size_t(1002));
+        QCOMPARE(ToDecimal("1/3", nullptr), 0);
+    }
+
+    void theBufferIsTheLimit()
+    {
+        InitBignum(10);
+        QCOMPARE(decimal(std::string(16383, '7')), std::string(16383, '7'));
+        QCOMPARE(decimal(std::string(16384, '7')), "fails");
+        QCOMPARE(decimal("1/1" + std::string(16381, '0')).size(), std::size_t(16383));
+        QCOMPARE(decimal("1/1" + std::string(16382, '0')), "fails");
+    }
+
+    /// The text is the nearest of its length, and among the two nearest the even one.
+    void randomFractions()
+    {
+        std::mt19937_64 random(11);
+        for (int i = 0; i < 2000; ++i) {
+            const int precision = 1 + static_cast<int>(random() % 60);
+            InitBignum(precision);
+            mpq_class q(mpz_class(std::to_string(random() >> (random() % 64))),
+                        mpz_class(std::to_string((random() >> (random() % 64)) + 1)));
+            q.canonicalize();
+            const std::string text = decimal(q.get_str());
+            const mpz_class whole = q.get_num() / q.get_den();
+            mpz_class unit = 1; // 1 / unit is the last place that may be given
+            if (whole == 0 && q != 0) {
+                while (q * unit < 1)
+                    unit *= 10;
+                for (int p = 1; p < precision; ++p)
+                    unit *= 10;
+            } else {
+                for (int p = static_cast<int>(whole.get_str().size()); p < precision; ++p)
+                    unit *= 10;
+            }
+            const mpq_class error = abs(valueOf(text) - q) * unit;
+            QVERIFY2(error <= mpq_class(1, 2), (q.get_str() + " " + text).c_str());
+            if (error == mpq_class(1, 2))
+                QVERIFY(mpz_even_p(mpz_class(valueOf(text) * unit).get_mpz_t()) != 0);
+            QVERIFY(text.find('.') == std::string::npos || text.back() != '0');
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDecimal)
+#include "tst_Decimal.moc"
