@@ -1,0 +1,12 @@
+#pragma once
+
+#include "shell/FormLeccion.h"
+
+/// The lesson on primes.
+class FormPrimos : public FormLeccion
+{
+    Q_OBJECT
+
+public:
+    explicit FormPrimos(QWidget *padre = nullptr);
+};
