@@ -44,8 +44,6 @@ protected:
     /// Adds a topic behind the others. The panel becomes the window's and is named PanelFicha_<n>,
     /// counted from 0.
     void agregaTema(const QString &rotulo, const QString &clave, QWidget *panel);
-    void quitaTema(const QString &clave);
-    bool tieneTema(const QString &clave) const;
 
     /// The first topic of every lesson: its page of introduction.
     void agregaIntroduccion(const QString &rotulo);
@@ -61,7 +59,6 @@ protected:
 
 private:
     void tsTema_Click(int indice);
-    int indiceDeTema(const QString &clave) const;
     void desaparece();
     QWidget *marco();
 

@@ -30,25 +30,7 @@ class Callado : public Interlocutor
 {
 public:
     void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
-    bool confirma(QWidget *, const QString &, const QString &) override { return false; }
-    Respuesta preguntaSiGuarda(QWidget *, const QString &, const QString &) override
-    {
-        return Respuesta::Descartar;
-    }
     QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
-    QString pideCarpeta(QWidget *, const QString &, const QString &, const QString &) override
-    {
-        return {};
-    }
-    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &) override
-    {
-        return {};
-    }
-    QString pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
-                                   const QString &) override
-    {
-        return {};
-    }
     void abre(const QString &) override {}
     bool lanzaAlguno(const QList<QStringList> &) override { return true; }
 };

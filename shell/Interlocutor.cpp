@@ -4,11 +4,8 @@
 #include "shell/Rutas.h"
 
 #include <QDesktopServices>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
-#include <QLabel>
-#include <QLayout>
 #include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
@@ -49,55 +46,9 @@ void Interlocutor::mensaje(QWidget *padre, Icono icono, const QString &texto, co
     caja.exec();
 }
 
-bool Interlocutor::confirma(QWidget *padre, const QString &texto, const QString &titulo)
-{
-    return QMessageBox::question(padre, titulo, texto) == QMessageBox::Yes;
-}
-
-Interlocutor::Respuesta Interlocutor::preguntaSiGuarda(QWidget *padre, const QString &texto,
-                                                       const QString &titulo)
-{
-    const auto botones = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
-    switch (QMessageBox::question(padre, titulo, texto, botones, QMessageBox::Save)) {
-    case QMessageBox::Save:
-        return Respuesta::Guardar;
-    case QMessageBox::Discard:
-        return Respuesta::Descartar;
-    default:
-        return Respuesta::Cancelar;
-    }
-}
-
 QString Interlocutor::pideTexto(QWidget *padre, const QString &pregunta, const QString &titulo)
 {
     return QInputDialog::getText(padre, titulo, pregunta);
-}
-
-QString Interlocutor::pideCarpeta(QWidget *padre, const QString &inicio, const QString &aviso1,
-                                  const QString &aviso2)
-{
-    QFileDialog dialogo(padre, aviso1, inicio);
-    dialogo.setFileMode(QFileDialog::Directory);
-    dialogo.setOption(QFileDialog::ShowDirsOnly);
-    // The desktop's own dialog has no place for the two notices.
-    dialogo.setOption(QFileDialog::DontUseNativeDialog);
-    auto *avisos = new QLabel(aviso1 + u'\n' + aviso2, &dialogo);
-    avisos->setWordWrap(true);
-    dialogo.layout()->addWidget(avisos);
-    const bool elegida = dialogo.exec() == QDialog::Accepted && !dialogo.selectedFiles().isEmpty();
-    return elegida ? dialogo.selectedFiles().constFirst() : QString();
-}
-
-QString Interlocutor::pideArchivoParaAbrir(QWidget *padre, const QString &titulo,
-                                           const QString &filtros)
-{
-    return QFileDialog::getOpenFileName(padre, titulo, {}, filtros);
-}
-
-QString Interlocutor::pideArchivoParaGuardar(QWidget *padre, const QString &titulo,
-                                             const QString &propuesta, const QString &filtros)
-{
-    return QFileDialog::getSaveFileName(padre, titulo, propuesta, filtros);
 }
 
 void Interlocutor::abre(const QString &direccion)

@@ -7,7 +7,7 @@
 class QWidget;
 
 /// Everything by which the program speaks to the user or the desktop outside its own windows:
-/// message boxes, questions, file dialogs, the system's browser, other programs. One object stands
+/// message boxes, questions, the system's browser, other programs. One object stands
 /// behind it; the gallery and the tests put their own there.
 class Interlocutor
 {
@@ -18,26 +18,8 @@ public:
 
     virtual void mensaje(QWidget *padre, Icono icono, const QString &texto, const QString &titulo);
 
-    /// A question answered by yes or no.
-    virtual bool confirma(QWidget *padre, const QString &texto, const QString &titulo);
-
-    enum class Respuesta { Guardar, Descartar, Cancelar };
-    /// What to do with unsaved work.
-    virtual Respuesta preguntaSiGuarda(QWidget *padre, const QString &texto, const QString &titulo);
-
     /// A line of text; empty when the user cancels.
     virtual QString pideTexto(QWidget *padre, const QString &pregunta, const QString &titulo);
-
-    /// An existing folder, chosen in a dialog that starts at `inicio` and shows both notices; empty
-    /// when the user cancels.
-    virtual QString pideCarpeta(QWidget *padre, const QString &inicio, const QString &aviso1,
-                                const QString &aviso2);
-
-    /// A file to open or to write; empty when the user cancels. `filtros` as in "Hojas (*.numora)".
-    virtual QString pideArchivoParaAbrir(QWidget *padre, const QString &titulo,
-                                         const QString &filtros);
-    virtual QString pideArchivoParaGuardar(QWidget *padre, const QString &titulo,
-                                           const QString &propuesta, const QString &filtros);
 
     /// Asks the desktop to open a web address or a local file (the path of a file may have
     /// back-slashes). Failures are the desktop's to report.

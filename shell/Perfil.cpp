@@ -78,17 +78,6 @@ QString Perfil::valor(const QString &seccion, const QString &clave, const QStrin
     return valor.left(maximo - 1);
 }
 
-QStringList Perfil::claves(const QString &seccion) const
-{
-    CSimpleIniA::TNamesDepend nombres;
-    m_datos->ini.GetAllKeys(seccion.toUtf8().constData(), nombres);
-    nombres.sort(CSimpleIniA::Entry::LoadOrder());
-    QStringList claves;
-    for (const auto &nombre : nombres)
-        claves << QString::fromUtf8(nombre.pItem);
-    return claves;
-}
-
 void Perfil::escribe(const QString &ruta, const QString &seccion, const Entradas &entradas,
                      Acceso acceso)
 {

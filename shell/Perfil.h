@@ -33,8 +33,6 @@ public:
     QString valor(const QString &seccion, const QString &clave, const QString &defecto = {},
                   int maximo = 8192) const;
 
-    QStringList claves(const QString &seccion) const;
-
     using Entradas = QList<QPair<QString, QString>>;
     enum class Acceso { Publico, Privado };
 

@@ -53,38 +53,9 @@ void Grabadora::mensaje(QWidget *, Icono icono, const QString &texto, const QStr
     mensajes << Mensaje{icono, texto, titulo};
 }
 
-bool Grabadora::confirma(QWidget *, const QString &, const QString &)
-{
-    return !respuesta().isEmpty();
-}
-
-Interlocutor::Respuesta Grabadora::preguntaSiGuarda(QWidget *, const QString &, const QString &)
-{
-    const QString dada = respuesta();
-    if (dada == u"guardar"_s)
-        return Respuesta::Guardar;
-    return dada == u"descartar"_s ? Respuesta::Descartar : Respuesta::Cancelar;
-}
-
 QString Grabadora::pideTexto(QWidget *, const QString &, const QString &)
 {
-    return respuesta();
-}
-
-QString Grabadora::pideCarpeta(QWidget *, const QString &, const QString &, const QString &)
-{
-    return respuesta();
-}
-
-QString Grabadora::pideArchivoParaAbrir(QWidget *, const QString &, const QString &)
-{
-    return respuesta();
-}
-
-QString Grabadora::pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
-                                          const QString &)
-{
-    return respuesta();
+    return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
 }
 
 void Grabadora::abre(const QString &direccion)
@@ -96,11 +67,6 @@ bool Grabadora::lanzaAlguno(const QList<QStringList> &ordenes)
 {
     lanzadas << ordenes.constFirst();
     return hayProgramas;
-}
-
-QString Grabadora::respuesta()
-{
-    return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
 }
 
 Entorno::Entorno(int argc, char *argv[])

@@ -30,18 +30,9 @@ public:
     Mensaje unico();
 
     void mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo) override;
-    bool confirma(QWidget *, const QString &, const QString &) override;
-    Respuesta preguntaSiGuarda(QWidget *, const QString &, const QString &) override;
     QString pideTexto(QWidget *, const QString &, const QString &) override;
-    QString pideCarpeta(QWidget *, const QString &, const QString &, const QString &) override;
-    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &) override;
-    QString pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
-                                   const QString &) override;
     void abre(const QString &direccion) override;
     bool lanzaAlguno(const QList<QStringList> &ordenes) override;
-
-private:
-    QString respuesta();
 };
 
 /// One place for a test to stand on: settings of its own, the working folder as shipped, no
