@@ -10,10 +10,7 @@ class Deadline
 public:
     using Clock = std::chrono::steady_clock;
 
-    explicit Deadline(Clock::duration fromNow)
-        : m_end(Clock::now() + fromNow)
-    {
-    }
+    explicit Deadline(Clock::duration fromNow) : m_end(Clock::now() + fromNow) {}
 
     bool passed() const { return Clock::now() >= m_end; }
     Clock::duration left() const { return m_end - Clock::now(); }

@@ -67,13 +67,14 @@ std::optional<std::string> toDecimal(const mpq_class &value, int precision)
 
     std::size_t decimals = 0;
     if (d != 1 && integerPart == 0) {
-        decimals = leadingZeros(n, d) + significant;
+        const std::size_t zeros = leadingZeros(n, d);
+        if (zeros >= kDecimalBuffer)
+            return std::nullopt;
+        decimals = zeros + significant;
     } else if (d != 1) {
         const std::size_t integerDigits = toText(integerPart).size();
         decimals = significant > integerDigits ? significant - integerDigits : 0;
     }
-    if (decimals >= kDecimalBuffer)
-        return std::nullopt;
     std::string text =
         sign + withPoint(toText(roundedQuotient(n * powerOfTen(decimals), d)), decimals);
     if (text.size() >= kDecimalBuffer)

@@ -1,4 +1,4 @@
-#include "EllipticCurves.h"
+#include "bignum/EllipticCurves.h"
 
 #include <ecm.h>
 
@@ -43,9 +43,9 @@ public:
 
         mpz_class number = n; // not const in the interface
         mpz_class factor;
-        const int found =
-            ecm_factor(factor.get_mpz_t(), number.get_mpz_t(), bound, m_parameters);
-        if (found > 0 && factor > 1 && factor < n && mpz_divisible_p(n.get_mpz_t(), factor.get_mpz_t()))
+        const int found = ecm_factor(factor.get_mpz_t(), number.get_mpz_t(), bound, m_parameters);
+        if (found > 0 && factor > 1 && factor < n &&
+            mpz_divisible_p(n.get_mpz_t(), factor.get_mpz_t()))
             return factor;
         return std::nullopt;
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Deadline.h"
+#include "bignum/Deadline.h"
 
 #include <gmpxx.h>
 #include <optional>
@@ -15,9 +15,9 @@ struct CurveLevel
     int curves;
 };
 
-/// A proper factor of the odd composite n, looked for with elliptic curves (H. W. Lenstra, "Factoring
-/// integers with elliptic curves", 1987) level by level; nothing when the levels are through or the
-/// deadline has passed.
+/// A proper factor of the odd composite n, looked for with elliptic curves (H. W. Lenstra,
+/// "Factoring integers with elliptic curves", 1987) level by level; nothing when the levels are
+/// through or the deadline has passed.
 std::optional<mpz_class> curveFactor(const mpz_class &n, std::span<const CurveLevel> levels,
                                      const Deadline &deadline);
 

@@ -19,6 +19,10 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::seconds kPatience{2};
 constexpr int kMaxDepth = 1000;
 
+/// What the arguments of all function calls may have together: "2^80000;" is a short text for ten
+/// kilobytes, and a list of them would exhaust memory.
+constexpr std::size_t kMaxArgumentBits = 10'000'000;
+
 /// A text longer than this is refused unread; a sheet's longest cell is far below.
 constexpr std::size_t kMaxText = 1'000'000;
 
@@ -29,10 +33,9 @@ enum Strength { Any = 0, Additive = 1, Multiplicative = 2, Prefix = 3, Power = 4
 template <typename Number>
 struct Operand
 {
-    Number value;    ///< of a pending power: its base
-    Number exponent; ///< of a pending power
-    bool pending = false;
-    bool negated = false; ///< of a pending power: a sign stands before it
+    Number value;                   ///< of a pending power: its base
+    std::optional<Number> exponent; ///< of a pending power
+    bool negated = false;           ///< of a pending power: a sign stands before it
 
     Operand(Number number) : value(std::move(number)) {}
 };
@@ -77,10 +80,10 @@ private:
 
     Number settled(Value operand) const
     {
-        if (!operand.pending)
+        if (!operand.exponent)
             return std::move(operand.value);
-        checkPatience(operand.value, operand.exponent);
-        Number value = arithmetic::power(operand.value, operand.exponent);
+        checkPatience(operand.value, *operand.exponent);
+        Number value = arithmetic::power(operand.value, *operand.exponent);
         return operand.negated ? Number(-value) : value;
     }
 
@@ -131,7 +134,6 @@ private:
             // The same strength again: powers are read from right to left.
             Value result(settled(std::move(left)));
             result.exponent = settled(parse(Power));
-            result.pending = true;
             return result;
         }
         Number right = settled(parse(strengthOf(symbol) + 1));
@@ -142,8 +144,8 @@ private:
 
     static bool isWholePower(const Value &operand)
     {
-        return operand.pending && arithmetic::isWhole(operand.value) &&
-               arithmetic::isWhole(operand.exponent);
+        return operand.exponent && arithmetic::isWhole(operand.value) &&
+               arithmetic::isWhole(*operand.exponent);
     }
 
     Number modularPower(const Value &left, const Number &modulus) const
@@ -151,7 +153,7 @@ private:
         checkPatience(left.value, modulus);
         const mpz_class &m = arithmetic::whole(modulus);
         require(m != 0);
-        const mpz_class &exponent = arithmetic::whole(left.exponent);
+        const mpz_class &exponent = arithmetic::whole(*left.exponent);
         // A negative exponent is no inverse here: 2^-1 is a half, and a half has no remainder.
         if (exponent < 0)
             return arithmetic::remainder(settled(left), modulus);
@@ -202,7 +204,7 @@ private:
         require(minus || m_token.text.front() == '+');
         advance();
         Value operand = parse(Prefix);
-        if (minus && operand.pending)
+        if (minus && operand.exponent)
             operand.negated = !operand.negated;
         else if (minus)
             operand.value = -operand.value;
@@ -237,6 +239,8 @@ private:
         do {
             advance();
             arguments.push_back(settled(parse(Any)));
+            m_argumentBits += arithmetic::bits(arguments.back());
+            require(m_argumentBits <= kMaxArgumentBits);
         } while (m_token.kind == TokenKind::Separator);
         require(m_token.is(TokenKind::Close, closing));
         advance();
@@ -266,6 +270,7 @@ private:
     Token m_token;
     TokenKind m_previous = TokenKind::End;
     int m_depth = 0;
+    std::size_t m_argumentBits = 0;
     Clock::time_point m_deadline = Clock::now() + kPatience;
 };
 

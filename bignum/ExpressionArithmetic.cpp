@@ -74,7 +74,9 @@ void checkSize(const mpz_class &value)
 
 void checkSize(const mpq_class &value)
 {
-    require(bits(value) <= kMaxBits);
+    // The one bit more is that of a whole number's denominator: whole numbers have the same bound
+    // in both evaluators.
+    require(bits(value) <= kMaxBits + 1);
 }
 
 template <>
@@ -115,7 +117,9 @@ const mpz_class &whole(const mpq_class &value)
 mpz_class product(const mpz_class &a, const mpz_class &b)
 {
     require(bits(a) + bits(b) <= kMaxBits + 1);
-    return a * b;
+    mpz_class result = a * b;
+    checkSize(result);
+    return result;
 }
 
 mpq_class product(const mpq_class &a, const mpq_class &b)

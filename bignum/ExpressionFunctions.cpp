@@ -21,8 +21,8 @@ constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
 constexpr std::size_t kMaxBitsToTest = 10'000;
 constexpr std::size_t kMaxBitsToSearch = 2'500;
 
-/// F(117590) is the largest Fibonacci number with no more digits than a value may have.
-constexpr unsigned long kMaxFibonacci = 117'590;
+/// F(117592) is the largest Fibonacci number with no more digits than a value may have.
+constexpr unsigned long kMaxFibonacci = 117'592;
 
 void require(bool condition)
 {
@@ -117,9 +117,11 @@ std::string lowered(std::string_view name)
         if (c >= 'A' && c <= 'Z')
             c = static_cast<char>(c | 0x20);
     }
-    // "raíz" as it comes in Windows-1252 and in UTF-8.
-    if (result == "ra\xEDz" || result == "ra\xC3\xADz")
-        return "raiz";
+    // "raíz" and "RAÍZ" as they come in Windows-1252 and in UTF-8.
+    for (const std::string_view accented : {"ra\xEDz", "ra\xCDz", "ra\xC3\xADz", "ra\xC3\x8Dz"}) {
+        if (result == accented)
+            return "raiz";
+    }
     return result;
 }
 

@@ -10,6 +10,8 @@ namespace bignum {
 class Montgomery64
 {
 public:
+    using Residue = std::uint64_t;
+
     explicit Montgomery64(std::uint64_t n) : m_n(n), m_inverse(n), m_one((0 - n) % n)
     {
         // Newton's iteration: n is its own inverse modulo 8, and each step doubles the bits.

@@ -1,5 +1,5 @@
-#include "Primality.h"
-#include "SmallPrimes.h"
+#include "bignum/Primality.h"
+#include "bignum/SmallPrimes.h"
 
 #include <algorithm>
 #include <primesieve.hpp>

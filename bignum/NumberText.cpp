@@ -1,7 +1,6 @@
-#include "NumberText.h"
+#include "bignum/NumberText.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace bignum {
 
@@ -73,7 +72,7 @@ bool writeText(std::string_view text, char *buffer, std::size_t capacity)
         buffer[0] = '\0';
         return false;
     }
-    std::memcpy(buffer, text.data(), text.size());
+    text.copy(buffer, text.size());
     buffer[text.size()] = '\0';
     return true;
 }

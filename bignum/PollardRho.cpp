@@ -1,6 +1,7 @@
-#include "PollardRho.h"
+#include "bignum/PollardRho.h"
 
-#include "Montgomery64.h"
+#include "bignum/Montgomery128.h"
+#include "bignum/Montgomery64.h"
 
 #include <algorithm>
 #include <numeric>
@@ -9,47 +10,83 @@ namespace bignum {
 
 namespace {
 
-/// One walk x -> x² + c. Returns a divisor of n above 1, which is n itself when the walk failed.
-std::uint64_t walk(std::uint64_t n, std::uint64_t c)
+std::uint64_t gcdOf(std::uint64_t a, std::uint64_t b)
 {
-    constexpr std::uint64_t batch = 128; // differences multiplied together between two gcds
-    const Montgomery64 modulus(n);
-    const auto step = [&](std::uint64_t x) { return modulus.add(modulus.multiply(x, x), c); };
+    return std::gcd(a, b);
+}
 
-    std::uint64_t fast = modulus.one();
-    for (std::uint64_t length = 1;; length *= 2) {
-        const std::uint64_t slow = fast;
+mpz_class toInteger(Uint128 value)
+{
+    mpz_class result;
+    mpz_import(result.get_mpz_t(), 1, -1, sizeof value, 0, 0, &value);
+    return result;
+}
+
+Uint128 toWord(const mpz_class &value)
+{
+    return Uint128{mpz_getlimbn(value.get_mpz_t(), 1)} << 64 | mpz_getlimbn(value.get_mpz_t(), 0);
+}
+
+Uint128 gcdOf(Uint128 a, Uint128 b)
+{
+    return toWord(gcd(toInteger(a), toInteger(b)));
+}
+
+/// One walk x -> x² + c, of about so many steps. Returns a divisor of n: n itself when the walk ran
+/// into all factors at once, 1 when it was too short.
+template <typename Modulus>
+typename Modulus::Residue walk(typename Modulus::Residue n, unsigned c, std::uint64_t steps)
+{
+    using Residue = typename Modulus::Residue;
+    constexpr std::uint64_t batch = 128; // differences multiplied together between two gcds
+    const Modulus modulus(n);
+    const auto step = [&](Residue x) { return modulus.add(modulus.multiply(x, x), c); };
+
+    Residue fast = modulus.one();
+    // Up to the end of a round its length has been gone four times.
+    for (std::uint64_t length = 1; length <= steps / 4; length *= 2) {
+        const Residue slow = fast;
         for (std::uint64_t i = 0; i < length; ++i)
             fast = step(fast);
         for (std::uint64_t done = 0; done < length; done += batch) {
-            const std::uint64_t start = fast;
-            std::uint64_t product = modulus.one();
+            const Residue start = fast;
+            Residue product = modulus.one();
             for (std::uint64_t i = std::min(batch, length - done); i > 0; --i) {
                 fast = step(fast);
                 product = modulus.multiply(product, modulus.subtract(fast, slow));
             }
-            if (std::gcd(product, n) == 1)
+            if (gcdOf(product, n) == 1)
                 continue;
             // The batch hides the first meeting: go through it again one by one.
-            for (std::uint64_t x = start;;) {
+            for (Residue x = start;;) {
                 x = step(x);
-                const std::uint64_t divisor = std::gcd(modulus.subtract(x, slow), n);
+                const Residue divisor = gcdOf(modulus.subtract(x, slow), n);
                 if (divisor != 1)
                     return divisor;
             }
         }
     }
+    return 1;
 }
 
 } // namespace
 
 std::uint64_t rhoFactor(std::uint64_t n)
 {
-    for (std::uint64_t c = 1;; ++c) {
-        const std::uint64_t divisor = walk(n, c);
+    constexpr auto noLimit = std::uint64_t{1} << 63;
+    for (unsigned c = 1;; ++c) {
+        const std::uint64_t divisor = walk<Montgomery64>(n, c, noLimit);
         if (divisor != n)
             return divisor;
     }
+}
+
+std::optional<mpz_class> shortRhoFactor(const mpz_class &n, std::uint64_t steps)
+{
+    const mpz_class divisor = toInteger(walk<Montgomery128>(toWord(n), 1, steps));
+    if (divisor == 1 || divisor == n)
+        return std::nullopt;
+    return divisor;
 }
 
 } // namespace bignum

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <gmpxx.h>
+#include <optional>
 
 namespace bignum {
 
@@ -8,5 +10,11 @@ namespace bignum {
 /// Pollard, "A Monte Carlo method for factorization", 1975; R. P. Brent, "An improved Monte Carlo
 /// factorization algorithm", 1980), in about p^(1/2) steps for the least prime factor p.
 std::uint64_t rhoFactor(std::uint64_t n);
+
+/// The most bits of n for shortRhoFactor.
+constexpr std::size_t kShortRhoBits = 126;
+
+/// The same for an n of two words, but at most so many steps.
+std::optional<mpz_class> shortRhoFactor(const mpz_class &n, std::uint64_t steps);
 
 } // namespace bignum

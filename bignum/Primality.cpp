@@ -1,7 +1,7 @@
-#include "Primality.h"
+#include "bignum/Primality.h"
 
-#include "PrimalityTests.h"
-#include "SystemRandom.h"
+#include "bignum/PrimalityTests.h"
+#include "bignum/SystemRandom.h"
 
 namespace bignum {
 

@@ -5,8 +5,9 @@
 
 namespace bignum {
 
-/// Whether n is prime. Proven below 2^64; above, a composite that passes is not known (and for one
-/// chosen without regard to the random bases the chance is below 4^-rounds, see Primality.cpp).
+/// Whether n is prime. Proven below 2^64. Above, the Baillie-PSW test, which no known composite
+/// passes, and a strong test to a random base, which any given composite passes with a chance of at
+/// most 1/4. Throws std::system_error where the system gives no random bits.
 bool isPrime(const mpz_class &n);
 
 /// Whether n is prime, proven.

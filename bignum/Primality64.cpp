@@ -1,6 +1,6 @@
-#include "Montgomery64.h"
-#include "Primality.h"
-#include "PrimalityTests.h"
+#include "bignum/Montgomery64.h"
+#include "bignum/Primality.h"
+#include "bignum/PrimalityTests.h"
 
 #include <array>
 #include <bit>
@@ -89,8 +89,8 @@ bool isPrime(std::uint64_t n)
     constexpr std::uint64_t nextDivisor = 53;
     if (n < nextDivisor * nextDivisor)
         return true;
-    // No composite below 2^64 passes both: they were tried on the list of all pseudoprimes to base 2
-    // (J. Feitsma, W. Galway, "Tables of pseudoprimes and related data", 2013).
+    // No composite below 2^64 passes both: they were tried on the list of all pseudoprimes to base
+    // 2 (J. Feitsma, W. Galway, "Tables of pseudoprimes and related data", 2013).
     return passesStrongTestToBase2(n) && passesLucasTest64(n);
 }
 

@@ -1,6 +1,6 @@
-#include "PrimalityTests.h"
+#include "bignum/PrimalityTests.h"
 
-#include "MontgomeryModulus.h"
+#include "bignum/MontgomeryModulus.h"
 
 #include <algorithm>
 

@@ -10,8 +10,8 @@ namespace bignum {
 /// The strong test to one base (G. L. Miller 1976, M. O. Rabin 1980).
 bool passesStrongTest(const mpz_class &n, const mpz_class &base);
 
-/// The strong Lucas test with Q = 1 and the least P > 2 for which P²-4 is no square modulo n ("extra
-/// strong" without the condition on U: Z. Mo, J. P. Jones 1993; J. Grantham, "Frobenius
+/// The strong Lucas test with Q = 1 and the least P > 2 for which P²-4 is no square modulo n
+/// ("extra strong" without the condition on U: Z. Mo, J. P. Jones 1993; J. Grantham, "Frobenius
 /// pseudoprimes", 2001).
 bool passesLucasTest(const mpz_class &n);
 

@@ -1,4 +1,4 @@
-#include "PrimeList.h"
+#include "bignum/PrimeList.h"
 
 #include <primesieve.hpp>
 #include <vector>

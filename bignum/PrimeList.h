@@ -9,8 +9,8 @@ namespace bignum {
 /// The number of primes not above `limit`.
 std::int64_t countPrimes(std::int64_t limit);
 
-/// Hands the primes not above `limit` to `block` in ascending order, some thousands at a time, until
-/// it returns false. True if all were handed over.
+/// Hands the primes not above `limit` to `block` in ascending order, some thousands at a time,
+/// until it returns false. True if all were handed over.
 bool streamPrimes(std::int64_t limit,
                   const std::function<bool(std::span<const std::uint64_t>)> &block);
 

@@ -1,8 +1,8 @@
-#include "RandomPrime.h"
+#include "bignum/RandomPrime.h"
 
-#include "Primality.h"
-#include "SmallPrimes.h"
-#include "SystemRandom.h"
+#include "bignum/Primality.h"
+#include "bignum/SmallPrimes.h"
+#include "bignum/SystemRandom.h"
 
 namespace bignum {
 

@@ -1,4 +1,4 @@
-#include "SmallPrimes.h"
+#include "bignum/SmallPrimes.h"
 
 #include <limits>
 #include <primesieve.hpp>

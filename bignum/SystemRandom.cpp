@@ -1,4 +1,4 @@
-#include "SystemRandom.h"
+#include "bignum/SystemRandom.h"
 
 #include <cerrno>
 #include <sys/random.h>

@@ -1,4 +1,4 @@
-#include "TextCheck.h"
+#include "bignum/TextCheck.h"
 
 #include <algorithm>
 

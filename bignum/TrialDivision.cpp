@@ -1,13 +1,20 @@
-#include "TrialDivision.h"
+#include "bignum/TrialDivision.h"
 
-#include "SmallPrimes.h"
+#include "bignum/PollardRho.h"
+#include "bignum/SmallPrimes.h"
 
 namespace bignum {
 
 namespace {
 
-/// What fits a word is left to the rho method from here on, which is quicker.
-constexpr unsigned long kWordLimit = 400;
+/// Where the rho method is quicker at what is left.
+unsigned long divisionLimit(const mpz_class &n)
+{
+    const std::size_t bits = mpz_sizeinbase(n.get_mpz_t(), 2);
+    if (bits <= 64)
+        return 400;
+    return bits <= kShortRhoBits ? 1U << 13 : kSmallPrimeLimit;
+}
 
 } // namespace
 
@@ -23,9 +30,7 @@ std::vector<PrimePower> removeSmallFactors(mpz_class &n)
     const SmallPrimes &table = smallPrimes();
     for (const PrimeGroup &group : table.groups) {
         const unsigned long first = table.primes[group.first];
-        if (n < first * first)
-            break; // n is 1 or a prime
-        if (first > kWordLimit && mpz_sizeinbase(n.get_mpz_t(), 2) <= 64)
+        if (n < first * first || first > divisionLimit(n))
             break;
         const mp_limb_t residue = mpz_fdiv_ui(n.get_mpz_t(), group.product);
         for (std::uint32_t i = 0; i < group.count; ++i) {

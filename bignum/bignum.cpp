@@ -1,14 +1,15 @@
-#include "bignum.h"
+#include "bignum/bignum.h"
 
-#include "Decimal.h"
-#include "Expression.h"
-#include "Factorization.h"
-#include "ModularArithmetic.h"
-#include "NumberText.h"
-#include "Primality.h"
-#include "PrimeList.h"
-#include "RandomPrime.h"
-#include "TextCheck.h"
+#include "bignum/Decimal.h"
+#include "bignum/Expression.h"
+#include "bignum/Factorization.h"
+#include "bignum/ModularArithmetic.h"
+#include "bignum/NumberText.h"
+#include "bignum/Primality.h"
+#include "bignum/PrimeList.h"
+#include "bignum/QuadraticSieve.h"
+#include "bignum/RandomPrime.h"
+#include "bignum/TextCheck.h"
 
 #include <algorithm>
 #include <atomic>
@@ -105,8 +106,8 @@ struct FactorBuffers
             return false;
         for (std::size_t i = 0; i < powers.size(); ++i) {
             const std::string exponent = std::to_string(powers[i].exponent);
-            if (!writeText(toText(powers[i].base), bases[i], kNumberBuffer)
-                || !writeText(exponent, exponents[i], kNumberBuffer))
+            if (!writeText(toText(powers[i].base), bases[i], kNumberBuffer) ||
+                !writeText(exponent, exponents[i], kNumberBuffer))
                 return false;
         }
         return true;
@@ -124,7 +125,10 @@ int32_t InitBignum(int32_t digits)
 int32_t EndBignum(void)
 {
     precision = kDefaultPrecision;
-    return 1;
+    return guarded(0, [] {
+        stopSieve();
+        return true;
+    });
 }
 
 int32_t IsPrime(const char *n)
@@ -172,10 +176,9 @@ int32_t ListPrimes(int32_t limit)
 int32_t PrimesUpTo(int64_t limit, BignumPrimeBlock block, void *context)
 {
     return guarded(0, [&] {
-        return block != nullptr
-               && streamPrimes(limit, [&](std::span<const std::uint64_t> primes) {
-                      return block(primes.data(), static_cast<int64_t>(primes.size()), context) != 0;
-                  });
+        return block != nullptr && streamPrimes(limit, [&](std::span<const std::uint64_t> primes) {
+                   return block(primes.data(), static_cast<int64_t>(primes.size()), context) != 0;
+               });
     });
 }
 
@@ -207,9 +210,8 @@ int32_t EulerFi(const char *n, char *out)
 
 int32_t BMcd(const char *a, const char *b, char *out)
 {
-    return writeResultOf(a, b, out, [](const mpz_class &x, const mpz_class &y) -> mpz_class {
-        return gcd(x, y);
-    });
+    return writeResultOf(
+        a, b, out, [](const mpz_class &x, const mpz_class &y) -> mpz_class { return gcd(x, y); });
 }
 
 int32_t BExMcd(const char *a, const char *b, char *d, char *x, char *y)
@@ -221,9 +223,9 @@ int32_t BExMcd(const char *a, const char *b, char *d, char *x, char *y)
         if (!first || !second)
             return false;
         const ExtendedGcd result = extendedGcd(*first, *second);
-        if (writeText(toText(result.gcd), d, kNumberBuffer)
-            && writeText(toText(result.x), x, kNumberBuffer)
-            && writeText(toText(result.y), y, kNumberBuffer))
+        if (writeText(toText(result.gcd), d, kNumberBuffer) &&
+            writeText(toText(result.x), x, kNumberBuffer) &&
+            writeText(toText(result.y), y, kNumberBuffer))
             return true;
         clear({d, x, y});
         return false;

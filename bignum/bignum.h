@@ -1,5 +1,6 @@
 /*
- * libbignum: arithmetic on integers and rationals of any size, exchanged as texts of decimal digits.
+ * libbignum: arithmetic on integers and rationals of any size, exchanged as texts of decimal
+ * digits.
  *
  * This header is plain C: it can be used from C, from C++ and through a foreign-function interface.
  *
@@ -59,11 +60,11 @@ BIGNUM_API int32_t IsPrime(const char *n);
 BIGNUM_API int32_t NumBits(const char *n);
 
 /* The least prime above n, which is 2 for every n below 2. Failure above 10 000 bits, which keeps a
- * call within about half a minute. */
+ * call at about half a minute on average, mostly far below. */
 BIGNUM_API int32_t NextPrime(const char *n, char *out);
 
-/* A prime of exactly `bits` bits, drawn uniformly from all of them with random bits of the operating
- * system. Failure below 2 and above 10 000 bits. */
+/* A prime of exactly `bits` bits, drawn uniformly from all of them with random bits of the
+ * operating system. Failure below 2 and above 10 000 bits. */
 BIGNUM_API int32_t RndPrimo(int32_t bits, char *out);
 
 /* Returns the number of primes not above `limit`. */
@@ -84,7 +85,7 @@ BIGNUM_API int32_t PrimesUpTo(int64_t limit, BignumPrimeBlock block, void *conte
  * stands last, and on failure: n is no number, it has more than `count` different factors, a
  * pointer is null; all entries are then empty.
  * The effort is bounded: a product of two 34-digit primes is split (composites of up to 70 digits
- * are), larger ones yield factors of up to about 30 digits; a composite out of reach comes back
+ * are), larger ones yield factors of up to 25 or 30 digits; a composite out of reach comes back
  * unsplit within about two minutes. */
 BIGNUM_API int32_t Factors(const char *n, char *const *primes, char *const *exponents,
                            int32_t count);

@@ -31,6 +31,34 @@ mpq_class valueOf(const std::string &text)
     return value;
 }
 
+/// Of either sign, tiny, middling or huge; every other one has an expansion that ends.
+mpq_class randomFraction(std::mt19937_64 &random)
+{
+    const auto natural = [&] { return mpz_class(std::to_string(random() >> (random() % 64))); };
+    mpz_class denominator = natural() + 1;
+    if (random() % 2 == 0)
+        mpz_ui_pow_ui(denominator.get_mpz_t(), 2, random() % 64);
+    mpz_class scale;
+    mpz_ui_pow_ui(scale.get_mpz_t(), 10, random() % 3 == 0 ? random() % 80 : 0);
+    mpq_class value(natural(), denominator);
+    value.canonicalize();
+    value = random() % 2 == 0 ? mpq_class(value * scale) : mpq_class(value / scale);
+    return random() % 2 == 0 ? value : mpq_class(-value);
+}
+
+/// The power of ten whose inverse is the last place that may be given of a value >= 0.
+mpz_class unitOfLastPlace(const mpq_class &value, int precision)
+{
+    const mpz_class whole = value.get_num() / value.get_den();
+    mpz_class unit = 1;
+    int given = whole == 0 ? 1 : static_cast<int>(whole.get_str().size());
+    while (value != 0 && value * unit < 1)
+        unit *= 10;
+    for (; given < precision; ++given)
+        unit *= 10;
+    return unit;
+}
+
 } // namespace
 
 class TestDecimal : public QObject
@@ -81,6 +109,8 @@ private Q_SLOTS:
 
     void precisionIsClamped()
     {
+        EndBignum();
+        QCOMPARE(decimal("1/3").size(), std::size_t(102));
         InitBignum(5000);
         QCOMPARE(decimal("1/3").size(), std::size_t(1002));
         QCOMPARE(ToDecimal("1/3", nullptr), 0);
@@ -99,30 +129,38 @@ private Q_SLOTS:
     void randomFractions()
     {
         std::mt19937_64 random(11);
-        for (int i = 0; i < 2000; ++i) {
+        int ties = 0;
+        for (int i = 0; i < 4000; ++i) {
             const int precision = 1 + static_cast<int>(random() % 60);
             InitBignum(precision);
-            mpq_class q(mpz_class(std::to_string(random() >> (random() % 64))),
-                        mpz_class(std::to_string((random() >> (random() % 64)) + 1)));
-            q.canonicalize();
+            const mpq_class q = randomFraction(random);
             const std::string text = decimal(q.get_str());
-            const mpz_class whole = q.get_num() / q.get_den();
-            mpz_class unit = 1; // 1 / unit is the last place that may be given
-            if (whole == 0 && q != 0) {
-                while (q * unit < 1)
-                    unit *= 10;
-                for (int p = 1; p < precision; ++p)
-                    unit *= 10;
-            } else {
-                for (int p = static_cast<int>(whole.get_str().size()); p < precision; ++p)
-                    unit *= 10;
-            }
+            const mpz_class unit = unitOfLastPlace(abs(q), precision);
             const mpq_class error = abs(valueOf(text) - q) * unit;
             QVERIFY2(error <= mpq_class(1, 2), (q.get_str() + " " + text).c_str());
-            if (error == mpq_class(1, 2))
+            if (error == mpq_class(1, 2)) {
+                ++ties;
                 QVERIFY(mpz_even_p(mpz_class(valueOf(text) * unit).get_mpz_t()) != 0);
+            }
             QVERIFY(text.find('.') == std::string::npos || text.back() != '0');
+            QCOMPARE(text.starts_with('-'), q < 0);
         }
+        QVERIFY(ties > 10);
+    }
+
+    /// Digit by digit as on paper, where nothing has to be rounded.
+    void longDivision()
+    {
+        InitBignum(1000);
+        std::string digits;
+        for (int rest = 1, i = 0; i < 999; ++i) {
+            rest *= 10;
+            digits += static_cast<char>('0' + rest / 17);
+            rest %= 17;
+        }
+        const std::string text = decimal("1/17");
+        QCOMPARE(text.substr(2, 999), digits);
+        QCOMPARE(text.size(), std::size_t(2 + 1001)); // a zero, then 1000 digits
     }
 };
 
