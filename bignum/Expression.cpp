@@ -71,14 +71,24 @@ private:
     }
 
     /// Called before an operation on values of some size: many of them make a long evaluation.
-    void checkPatience(const Number &a, const Number &b) const
+    void checkPatience(const Number &a, const Number &b)
     {
         constexpr std::size_t small = 4096;
         if (arithmetic::bits(a) + arithmetic::bits(b) > small)
-            require(Clock::now() < m_deadline);
+            checkPatience();
     }
 
-    Number settled(Value operand) const
+    /// Patience begins with the first operation that may take long: to ask the clock costs as much
+    /// as several short ones.
+    void checkPatience()
+    {
+        const auto now = Clock::now();
+        if (!m_deadline)
+            m_deadline = now + kPatience;
+        require(now < *m_deadline);
+    }
+
+    Number settled(Value operand)
     {
         if (!operand.exponent)
             return std::move(operand.value);
@@ -148,7 +158,7 @@ private:
                arithmetic::isWhole(*operand.exponent);
     }
 
-    Number modularPower(const Value &left, const Number &modulus) const
+    Number modularPower(const Value &left, const Number &modulus)
     {
         checkPatience(left.value, modulus);
         const mpz_class &m = arithmetic::whole(modulus);
@@ -163,16 +173,16 @@ private:
         return Number(result);
     }
 
-    Number apply(char symbol, const Number &a, const Number &b) const
+    Number apply(char symbol, Number a, const Number &b)
     {
         checkPatience(a, b);
         switch (symbol) {
         case '+':
-            return arithmetic::sum(a, b);
+            return arithmetic::sum(std::move(a), b);
         case '-':
-            return arithmetic::sum(a, Number(-b));
+            return arithmetic::difference(std::move(a), b);
         case '*':
-            return arithmetic::product(a, b);
+            return arithmetic::product(std::move(a), b);
         case '/':
             return arithmetic::quotient(a, b);
         default:
@@ -186,7 +196,7 @@ private:
         switch (token.kind) {
         case TokenKind::Number:
             advance();
-            return arithmetic::literal<Number>(token.text);
+            return arithmetic::literal<Number>(token.text, token.point);
         case TokenKind::Name:
             return parseCall();
         case TokenKind::Open:
@@ -249,9 +259,9 @@ private:
         return call(*function, arguments);
     }
 
-    Number call(const ExpressionFunction &function, const std::vector<Number> &arguments) const
+    Number call(const ExpressionFunction &function, const std::vector<Number> &arguments)
     {
-        require(Clock::now() < m_deadline);
+        checkPatience();
         if (function.ofWholes) {
             std::vector<mpz_class> wholes;
             for (const Number &argument : arguments)
@@ -271,7 +281,7 @@ private:
     TokenKind m_previous = TokenKind::End;
     int m_depth = 0;
     std::size_t m_argumentBits = 0;
-    Clock::time_point m_deadline = Clock::now() + kPatience;
+    std::optional<Clock::time_point> m_deadline;
 };
 
 template <typename Number>

@@ -5,6 +5,7 @@
 
 #include <limits>
 #include <string>
+#include <utility>
 
 namespace bignum::arithmetic {
 
@@ -41,6 +42,14 @@ mpz_class wholeLiteral(std::string_view digits)
     }
     require(digits.size() <= kMaxInputDigits);
     return mpz_class(std::string(digits), 10);
+}
+
+/// The value, unless it is too large.
+template <typename Number>
+Number checked(Number value)
+{
+    checkSize(value);
+    return value;
 }
 
 /// base^exponent for |base| >= 2, refused before it is computed where it cannot fit.
@@ -80,9 +89,8 @@ void checkSize(const mpq_class &value)
 }
 
 template <>
-mpq_class literal<mpq_class>(std::string_view digits)
+mpq_class literal<mpq_class>(std::string_view digits, std::size_t point)
 {
-    const auto point = digits.find_first_of(".,");
     if (point == std::string_view::npos)
         return mpq_class(wholeLiteral(digits));
     require(digits.size() <= kMaxInputDigits);
@@ -96,11 +104,11 @@ mpq_class literal<mpq_class>(std::string_view digits)
 }
 
 template <>
-mpz_class literal<mpz_class>(std::string_view digits)
+mpz_class literal<mpz_class>(std::string_view digits, std::size_t point)
 {
-    if (digits.find_first_of(".,") == std::string_view::npos)
+    if (point == std::string_view::npos)
         return wholeLiteral(digits);
-    return whole(literal<mpq_class>(digits));
+    return whole(literal<mpq_class>(digits, point));
 }
 
 const mpz_class &whole(const mpz_class &value)
@@ -114,35 +122,43 @@ const mpz_class &whole(const mpq_class &value)
     return value.get_num();
 }
 
-mpz_class product(const mpz_class &a, const mpz_class &b)
+mpz_class product(mpz_class a, const mpz_class &b)
 {
     require(bits(a) + bits(b) <= kMaxBits + 1);
-    mpz_class result = a * b;
-    checkSize(result);
-    return result;
+    a *= b;
+    return checked(std::move(a));
 }
 
-mpq_class product(const mpq_class &a, const mpq_class &b)
+mpq_class product(mpq_class a, const mpq_class &b)
 {
     // Common factors cancel, so the product of two values of full size may yet fit; both are
     // bounded, and so is the work.
-    mpq_class result = a * b;
-    checkSize(result);
-    return result;
+    a *= b;
+    return checked(std::move(a));
 }
 
-mpz_class sum(const mpz_class &a, const mpz_class &b)
+mpz_class sum(mpz_class a, const mpz_class &b)
 {
-    mpz_class result = a + b;
-    checkSize(result);
-    return result;
+    a += b;
+    return checked(std::move(a));
 }
 
-mpq_class sum(const mpq_class &a, const mpq_class &b)
+mpq_class sum(mpq_class a, const mpq_class &b)
 {
-    mpq_class result = a + b;
-    checkSize(result);
-    return result;
+    a += b;
+    return checked(std::move(a));
+}
+
+mpz_class difference(mpz_class a, const mpz_class &b)
+{
+    a -= b;
+    return checked(std::move(a));
+}
+
+mpq_class difference(mpq_class a, const mpq_class &b)
+{
+    a -= b;
+    return checked(std::move(a));
 }
 
 mpz_class quotient(const mpz_class &a, const mpz_class &b)

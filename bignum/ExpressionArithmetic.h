@@ -15,15 +15,19 @@ struct NoValue
 /// large is computed, because GMP ends the process when it runs out of memory.
 namespace arithmetic {
 
-/// The number that a token of digits, perhaps with a decimal part, stands for.
+/// The number that a text of digits stands for, with a decimal part behind the position `point`
+/// unless that is npos.
 template <typename Number>
-Number literal(std::string_view digits);
+Number literal(std::string_view digits, std::size_t point);
 
-mpz_class product(const mpz_class &a, const mpz_class &b);
-mpq_class product(const mpq_class &a, const mpq_class &b);
+mpz_class product(mpz_class a, const mpz_class &b);
+mpq_class product(mpq_class a, const mpq_class &b);
 
-mpz_class sum(const mpz_class &a, const mpz_class &b);
-mpq_class sum(const mpq_class &a, const mpq_class &b);
+mpz_class sum(mpz_class a, const mpz_class &b);
+mpq_class sum(mpq_class a, const mpq_class &b);
+
+mpz_class difference(mpz_class a, const mpz_class &b);
+mpq_class difference(mpq_class a, const mpq_class &b);
 
 /// Euclid's quotient over the integers, the exact one over the rationals.
 mpz_class quotient(const mpz_class &a, const mpz_class &b);

@@ -61,7 +61,9 @@ Token ExpressionTokenizer::takeNumber()
         return take(TokenKind::Number, whole);
     const std::size_t end = digitsFrom(whole + 1);
     // A point without decimals is a slip of the pen, not a number.
-    return take(end > whole + 1 ? TokenKind::Number : TokenKind::Invalid, end);
+    Token token = take(end > whole + 1 ? TokenKind::Number : TokenKind::Invalid, end);
+    token.point = whole;
+    return token;
 }
 
 Token ExpressionTokenizer::next()

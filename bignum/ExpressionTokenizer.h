@@ -21,6 +21,7 @@ struct Token
 {
     TokenKind kind;
     std::string_view text;
+    std::size_t point = std::string_view::npos; ///< where the decimal point of a number stands
 
     bool is(TokenKind other, char symbol) const { return kind == other && text.front() == symbol; }
 };

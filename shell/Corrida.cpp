@@ -19,8 +19,8 @@ void Corrida::cederYa()
 void Corrida::miraElReloj()
 {
     // Steps may take nanoseconds or milliseconds, and change as numbers grow: the distance between
-    // two readings follows them. 64 steps already make a reading cost less than a nanosecond a step,
-    // and more would be too many when steps suddenly grow long.
+    // two readings follows them. 64 steps already make a reading cost less than a nanosecond a
+    // step, and more would be too many when steps suddenly grow long.
     constexpr int maximoDePasos = 64;
     const auto ahora = Reloj::now();
     const auto transcurrido = ahora - m_ultimaLectura;

@@ -25,8 +25,8 @@ public:
     void permitir() { m_detenida = false; }
     bool detenida() const { return m_detenida; }
 
-    /// Yields when Plazo has passed since the last yield. Nearly always this only counts down to the
-    /// next reading of the clock.
+    /// Yields when Plazo has passed since the last yield. Nearly always this only counts down to
+    /// the next reading of the clock.
     void ceder()
     {
         if (--m_pasosHastaReloj <= 0)

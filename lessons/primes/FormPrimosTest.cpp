@@ -10,8 +10,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString MaximoDeBits = u"2000"_s;
 
@@ -71,9 +70,8 @@ void FormPrimosTest::txtNumero_Change()
     ui->cmdSigPrimo->setEnabled(hayNumero);
     ui->cmdEsPrimo->setText(Traduce(u"¿Es primo?"_s));
     // Blanks count here, though they enable no button: something has been typed.
-    ui->LabelPrimo->setText(Traduce(texto.isEmpty()
-                                        ? u"Introduzca un número para ver si es primo"_s
-                                        : u"Pulse en el botón para ver si es primo"_s));
+    ui->LabelPrimo->setText(Traduce(texto.isEmpty() ? u"Introduzca un número para ver si es primo"_s
+                                                    : u"Pulse en el botón para ver si es primo"_s));
 }
 
 void FormPrimosTest::cmdEsPrimo_Click()

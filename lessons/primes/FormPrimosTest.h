@@ -3,8 +3,7 @@
 #include <QWidget>
 #include <memory>
 
-namespace Ui
-{
+namespace Ui {
 class FormPrimosTest;
 }
 
