@@ -46,13 +46,13 @@ template <typename Number>
 class Evaluator
 {
 public:
-    explicit Evaluator(std::string_view text) : m_tokens(text), m_token(m_tokens.next()) {}
+    explicit Evaluator(std::string_view text) : m_tokens(text) { m_tokens.next(m_token); }
 
     Number evaluate()
     {
-        Number value = settled(parse(Any));
+        Value result = parseSettled(Any);
         require(m_token.kind == TokenKind::End);
-        return value;
+        return std::move(result.value);
     }
 
 private:
@@ -67,14 +67,14 @@ private:
     void advance()
     {
         m_previous = m_token.kind;
-        m_token = m_tokens.next();
+        m_tokens.next(m_token);
     }
 
     /// Called before an operation on values of some size: many of them make a long evaluation.
     void checkPatience(const Number &a, const Number &b)
     {
         constexpr std::size_t small = 4096;
-        if (arithmetic::bits(a) + arithmetic::bits(b) > small)
+        if (arithmetic::wordBits(a) + arithmetic::wordBits(b) > small)
             checkPatience();
     }
 
@@ -88,13 +88,24 @@ private:
         require(now < *m_deadline);
     }
 
-    Number settled(Value operand)
+    /// Forms the power that may be pending, for all but a modular one.
+    void settle(Value &operand)
     {
         if (!operand.exponent)
-            return std::move(operand.value);
+            return;
         checkPatience(operand.value, *operand.exponent);
-        Number value = arithmetic::power(operand.value, *operand.exponent);
-        return operand.negated ? Number(-value) : value;
+        operand.value = arithmetic::power(operand.value, *operand.exponent);
+        if (operand.negated)
+            operand.value = -operand.value;
+        operand.exponent.reset();
+        operand.negated = false;
+    }
+
+    Value parseSettled(int strength)
+    {
+        Value operand = parse(strength);
+        settle(operand);
+        return operand;
     }
 
     Value parse(int strength)
@@ -103,14 +114,15 @@ private:
         Value left = parseOperand();
         while (true) {
             if (m_token.is(TokenKind::Operator, '!')) {
-                left = arithmetic::factorial(settled(std::move(left)));
+                settle(left);
+                left.value = arithmetic::factorial(left.value);
                 advance();
                 continue;
             }
             const char symbol = pendingOperator();
             if (symbol == '\0' || strengthOf(symbol) < strength)
                 break;
-            left = applyBinary(symbol, std::move(left));
+            applyBinary(symbol, left);
         }
         --m_depth;
         return left;
@@ -136,67 +148,73 @@ private:
         return symbol == '^' ? Power : Multiplicative;
     }
 
-    Value applyBinary(char symbol, Value left)
+    /// Reads the right operand of the operator and puts the result in place of the left one.
+    void applyBinary(char symbol, Value &left)
     {
         if (m_token.kind == TokenKind::Operator)
             advance();
         if (symbol == '^') {
+            settle(left);
             // The same strength again: powers are read from right to left.
-            Value result(settled(std::move(left)));
-            result.exponent = settled(parse(Power));
-            return result;
+            left.exponent = parseSettled(Power).value;
+            return;
         }
-        Number right = settled(parse(strengthOf(symbol) + 1));
-        if (symbol == '%' && isWholePower(left) && arithmetic::isWhole(right))
-            return modularPower(left, right);
-        return apply(symbol, settled(std::move(left)), right);
+        const Value right = parseSettled(strengthOf(symbol) + 1);
+        if (symbol == '%' && isLargePower(left) && arithmetic::isWhole(right.value)) {
+            modularPower(left, right.value);
+            return;
+        }
+        settle(left);
+        apply(symbol, left.value, right.value);
     }
 
-    static bool isWholePower(const Value &operand)
+    /// Whether a pending power is better not formed before it is reduced. A negative exponent is no
+    /// inverse here: 2^-1 is a half, and a half has no remainder.
+    static bool isLargePower(const Value &operand)
     {
-        return operand.exponent && arithmetic::isWhole(operand.value) &&
-               arithmetic::isWhole(*operand.exponent);
+        constexpr int smallExponent = 16;
+        constexpr std::size_t smallBase = 512;
+        return operand.exponent && *operand.exponent > 0 &&
+               arithmetic::isWhole(*operand.exponent) && arithmetic::isWhole(operand.value) &&
+               (*operand.exponent > smallExponent ||
+                arithmetic::wordBits(operand.value) > smallBase);
     }
 
-    Number modularPower(const Value &left, const Number &modulus)
+    void modularPower(Value &power, const Number &modulus)
     {
-        checkPatience(left.value, modulus);
+        checkPatience(power.value, modulus);
         const mpz_class &m = arithmetic::whole(modulus);
-        require(m != 0);
-        const mpz_class &exponent = arithmetic::whole(*left.exponent);
-        // A negative exponent is no inverse here: 2^-1 is a half, and a half has no remainder.
-        if (exponent < 0)
-            return arithmetic::remainder(settled(left), modulus);
-        mpz_class result = arithmetic::modularPower(arithmetic::whole(left.value), exponent, m);
-        if (left.negated)
-            result = arithmetic::remainder(mpz_class(-result), m);
-        return Number(result);
+        power.value = arithmetic::modularPower(arithmetic::whole(power.value),
+                                               arithmetic::whole(*power.exponent), m);
+        if (power.negated)
+            power.value = -power.value;
+        arithmetic::reduce(power.value, modulus);
+        power.exponent.reset();
+        power.negated = false;
     }
 
-    Number apply(char symbol, Number a, const Number &b)
+    void apply(char symbol, Number &a, const Number &b)
     {
         checkPatience(a, b);
         switch (symbol) {
         case '+':
-            return arithmetic::sum(std::move(a), b);
+            return arithmetic::add(a, b);
         case '-':
-            return arithmetic::difference(std::move(a), b);
+            return arithmetic::subtract(a, b);
         case '*':
-            return arithmetic::product(std::move(a), b);
+            return arithmetic::multiply(a, b);
         case '/':
-            return arithmetic::quotient(a, b);
+            return arithmetic::divide(a, b);
         default:
-            return arithmetic::remainder(a, b);
+            return arithmetic::reduce(a, b);
         }
     }
 
     Value parseOperand()
     {
-        const Token token = m_token;
-        switch (token.kind) {
+        switch (m_token.kind) {
         case TokenKind::Number:
-            advance();
-            return arithmetic::literal<Number>(token.text, token.point);
+            return parseNumber();
         case TokenKind::Name:
             return parseCall();
         case TokenKind::Open:
@@ -206,6 +224,13 @@ private:
         default:
             throw NoValue();
         }
+    }
+
+    Value parseNumber()
+    {
+        Value value = arithmetic::literal<Number>(m_token.text, m_token.point);
+        advance();
+        return value;
     }
 
     Value parseSigned()
@@ -248,7 +273,7 @@ private:
         std::vector<Number> arguments;
         do {
             advance();
-            arguments.push_back(settled(parse(Any)));
+            arguments.push_back(parseSettled(Any).value);
             m_argumentBits += arithmetic::bits(arguments.back());
             require(m_argumentBits <= kMaxArgumentBits);
         } while (m_token.kind == TokenKind::Separator);

@@ -5,7 +5,6 @@
 
 #include <limits>
 #include <string>
-#include <utility>
 
 namespace bignum::arithmetic {
 
@@ -44,14 +43,6 @@ mpz_class wholeLiteral(std::string_view digits)
     return mpz_class(std::string(digits), 10);
 }
 
-/// The value, unless it is too large.
-template <typename Number>
-Number checked(Number value)
-{
-    checkSize(value);
-    return value;
-}
-
 /// base^exponent for |base| >= 2, refused before it is computed where it cannot fit.
 mpz_class largePower(const mpz_class &base, const mpz_class &exponent)
 {
@@ -78,14 +69,14 @@ std::size_t bits(const mpq_class &value)
 
 void checkSize(const mpz_class &value)
 {
-    require(bits(value) <= kMaxBits);
+    require(wordBits(value) <= kMaxBits || bits(value) <= kMaxBits);
 }
 
 void checkSize(const mpq_class &value)
 {
     // The one bit more is that of a whole number's denominator: whole numbers have the same bound
     // in both evaluators.
-    require(bits(value) <= kMaxBits + 1);
+    require(wordBits(value) <= kMaxBits || bits(value) <= kMaxBits + 1);
 }
 
 template <>
@@ -122,72 +113,70 @@ const mpz_class &whole(const mpq_class &value)
     return value.get_num();
 }
 
-mpz_class product(mpz_class a, const mpz_class &b)
+void multiply(mpz_class &a, const mpz_class &b)
 {
-    require(bits(a) + bits(b) <= kMaxBits + 1);
+    require(wordBits(a) + wordBits(b) <= kMaxBits || bits(a) + bits(b) <= kMaxBits + 1);
     a *= b;
-    return checked(std::move(a));
+    checkSize(a);
 }
 
-mpq_class product(mpq_class a, const mpq_class &b)
+void multiply(mpq_class &a, const mpq_class &b)
 {
     // Common factors cancel, so the product of two values of full size may yet fit; both are
     // bounded, and so is the work.
     a *= b;
-    return checked(std::move(a));
+    checkSize(a);
 }
 
-mpz_class sum(mpz_class a, const mpz_class &b)
+void add(mpz_class &a, const mpz_class &b)
 {
     a += b;
-    return checked(std::move(a));
+    checkSize(a);
 }
 
-mpq_class sum(mpq_class a, const mpq_class &b)
+void add(mpq_class &a, const mpq_class &b)
 {
     a += b;
-    return checked(std::move(a));
+    checkSize(a);
 }
 
-mpz_class difference(mpz_class a, const mpz_class &b)
+void subtract(mpz_class &a, const mpz_class &b)
 {
     a -= b;
-    return checked(std::move(a));
+    checkSize(a);
 }
 
-mpq_class difference(mpq_class a, const mpq_class &b)
+void subtract(mpq_class &a, const mpq_class &b)
 {
     a -= b;
-    return checked(std::move(a));
+    checkSize(a);
 }
 
-mpz_class quotient(const mpz_class &a, const mpz_class &b)
+void divide(mpz_class &a, const mpz_class &b)
 {
-    const mpz_class r = remainder(a, b);
-    mpz_class q = a - r;
-    mpz_divexact(q.get_mpz_t(), q.get_mpz_t(), b.get_mpz_t());
-    return q;
+    mpz_class r = a;
+    reduce(r, b);
+    a -= r;
+    mpz_divexact(a.get_mpz_t(), a.get_mpz_t(), b.get_mpz_t());
 }
 
-mpq_class quotient(const mpq_class &a, const mpq_class &b)
+void divide(mpq_class &a, const mpq_class &b)
 {
     require(b != 0);
-    mpq_class result = a / b;
-    checkSize(result);
-    return result;
+    a /= b;
+    checkSize(a);
 }
 
-mpz_class remainder(const mpz_class &a, const mpz_class &m)
+void reduce(mpz_class &a, const mpz_class &m)
 {
     require(m != 0);
-    mpz_class r;
-    mpz_mod(r.get_mpz_t(), a.get_mpz_t(), m.get_mpz_t());
-    return r;
+    mpz_mod(a.get_mpz_t(), a.get_mpz_t(), m.get_mpz_t());
 }
 
-mpq_class remainder(const mpq_class &a, const mpq_class &m)
+void reduce(mpq_class &a, const mpq_class &m)
 {
-    return mpq_class(remainder(whole(a), whole(m)));
+    require(isWhole(a));
+    reduce(a.get_num(), whole(m));
 }
 
 mpz_class power(const mpz_class &base, const mpz_class &exponent)

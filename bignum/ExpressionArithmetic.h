@@ -20,22 +20,23 @@ namespace arithmetic {
 template <typename Number>
 Number literal(std::string_view digits, std::size_t point);
 
-mpz_class product(mpz_class a, const mpz_class &b);
-mpq_class product(mpq_class a, const mpq_class &b);
+/// The binary operations put their result in place of `a`.
+void multiply(mpz_class &a, const mpz_class &b);
+void multiply(mpq_class &a, const mpq_class &b);
 
-mpz_class sum(mpz_class a, const mpz_class &b);
-mpq_class sum(mpq_class a, const mpq_class &b);
+void add(mpz_class &a, const mpz_class &b);
+void add(mpq_class &a, const mpq_class &b);
 
-mpz_class difference(mpz_class a, const mpz_class &b);
-mpq_class difference(mpq_class a, const mpq_class &b);
+void subtract(mpz_class &a, const mpz_class &b);
+void subtract(mpq_class &a, const mpq_class &b);
 
 /// Euclid's quotient over the integers, the exact one over the rationals.
-mpz_class quotient(const mpz_class &a, const mpz_class &b);
-mpq_class quotient(const mpq_class &a, const mpq_class &b);
+void divide(mpz_class &a, const mpz_class &b);
+void divide(mpq_class &a, const mpq_class &b);
 
-/// In [0, |m|); over the rationals both must be whole.
-mpz_class remainder(const mpz_class &a, const mpz_class &m);
-mpq_class remainder(const mpq_class &a, const mpq_class &m);
+/// To the remainder in [0, |m|); over the rationals both must be whole.
+void reduce(mpz_class &a, const mpz_class &m);
+void reduce(mpq_class &a, const mpq_class &m);
 
 mpz_class power(const mpz_class &base, const mpz_class &exponent);
 mpq_class power(const mpq_class &base, const mpq_class &exponent);
@@ -67,6 +68,16 @@ void checkSize(const mpq_class &value);
 /// The bits of a value, of numerator and denominator together.
 std::size_t bits(const mpz_class &value);
 std::size_t bits(const mpq_class &value);
+
+/// An upper bound of `bits` that costs next to nothing.
+inline std::size_t wordBits(const mpz_class &value)
+{
+    return mpz_size(value.get_mpz_t()) * GMP_NUMB_BITS;
+}
+inline std::size_t wordBits(const mpq_class &value)
+{
+    return wordBits(value.get_num()) + wordBits(value.get_den());
+}
 
 } // namespace arithmetic
 

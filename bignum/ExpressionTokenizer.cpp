@@ -24,25 +24,38 @@ bool isLetter(char c)
 
 TokenKind kindOfSymbol(char c)
 {
-    constexpr std::string_view operators = "+-*/%^!";
-    constexpr std::string_view opening = "([{";
-    constexpr std::string_view closing = ")]}";
-    if (operators.find(c) != std::string_view::npos)
+    switch (c) {
+    case '+':
+    case '-':
+    case '*':
+    case '/':
+    case '%':
+    case '^':
+    case '!':
         return TokenKind::Operator;
-    if (opening.find(c) != std::string_view::npos)
+    case '(':
+    case '[':
+    case '{':
         return TokenKind::Open;
-    if (closing.find(c) != std::string_view::npos)
+    case ')':
+    case ']':
+    case '}':
         return TokenKind::Close;
-    return c == ';' ? TokenKind::Separator : TokenKind::Invalid;
+    case ';':
+        return TokenKind::Separator;
+    default:
+        return TokenKind::Invalid;
+    }
 }
 
 } // namespace
 
-Token ExpressionTokenizer::take(TokenKind kind, std::size_t length)
+void ExpressionTokenizer::take(Token &token, TokenKind kind, std::size_t length)
 {
-    const Token token{kind, m_rest.substr(0, length)};
+    token.kind = kind;
+    token.text = m_rest.substr(0, length);
+    token.point = std::string_view::npos;
     m_rest.remove_prefix(length);
-    return token;
 }
 
 std::size_t ExpressionTokenizer::digitsFrom(std::size_t position) const
@@ -53,34 +66,37 @@ std::size_t ExpressionTokenizer::digitsFrom(std::size_t position) const
     return end;
 }
 
-Token ExpressionTokenizer::takeNumber()
+void ExpressionTokenizer::takeNumber(Token &token)
 {
     const std::size_t whole = digitsFrom(0);
     const bool point = whole < m_rest.size() && (m_rest[whole] == '.' || m_rest[whole] == ',');
-    if (!point)
-        return take(TokenKind::Number, whole);
+    if (!point) {
+        take(token, TokenKind::Number, whole);
+        return;
+    }
     const std::size_t end = digitsFrom(whole + 1);
     // A point without decimals is a slip of the pen, not a number.
-    Token token = take(end > whole + 1 ? TokenKind::Number : TokenKind::Invalid, end);
+    take(token, end > whole + 1 ? TokenKind::Number : TokenKind::Invalid, end);
     token.point = whole;
-    return token;
 }
 
-Token ExpressionTokenizer::next()
+void ExpressionTokenizer::next(Token &token)
 {
     while (!m_rest.empty() && isBlank(m_rest.front()))
         m_rest.remove_prefix(1);
-    if (m_rest.empty())
-        return {TokenKind::End, {}};
+    if (m_rest.empty()) {
+        take(token, TokenKind::End, 0);
+        return;
+    }
     const char first = m_rest.front();
-    if (isDigit(first) || first == '.' || first == ',')
-        return takeNumber();
-    if (!isLetter(first))
-        return take(kindOfSymbol(first), 1);
+    if (isDigit(first) || first == '.' || first == ',') {
+        takeNumber(token);
+        return;
+    }
     std::size_t end = 1;
-    while (end < m_rest.size() && isLetter(m_rest[end]))
+    while (isLetter(first) && end < m_rest.size() && isLetter(m_rest[end]))
         ++end;
-    return take(TokenKind::Name, end);
+    take(token, isLetter(first) ? TokenKind::Name : kindOfSymbol(first), end);
 }
 
 } // namespace bignum

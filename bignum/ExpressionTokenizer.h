@@ -19,7 +19,7 @@ enum class TokenKind {
 /// One token; `text` points into the expression.
 struct Token
 {
-    TokenKind kind;
+    TokenKind kind = TokenKind::End;
     std::string_view text;
     std::size_t point = std::string_view::npos; ///< where the decimal point of a number stands
 
@@ -32,12 +32,12 @@ class ExpressionTokenizer
 public:
     explicit ExpressionTokenizer(std::string_view expression) : m_rest(expression) {}
 
-    /// The next token; End for ever at the end of the text.
-    Token next();
+    /// Reads the next token; End for ever at the end of the text.
+    void next(Token &token);
 
 private:
-    Token take(TokenKind kind, std::size_t length);
-    Token takeNumber();
+    void take(Token &token, TokenKind kind, std::size_t length);
+    void takeNumber(Token &token);
     std::size_t digitsFrom(std::size_t position) const;
 
     std::string_view m_rest;

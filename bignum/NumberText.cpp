@@ -56,7 +56,11 @@ std::optional<mpq_class> parseRational(std::string_view text)
 
 std::string toText(const mpz_class &value)
 {
-    return value.get_str();
+    // Room for a sign and a NUL; short numbers need no memory from the heap.
+    std::string text(mpz_sizeinbase(value.get_mpz_t(), 10) + 2, '\0');
+    mpz_get_str(text.data(), 10, value.get_mpz_t());
+    text.resize(std::strlen(text.c_str()));
+    return text;
 }
 
 std::string toText(const mpq_class &value)

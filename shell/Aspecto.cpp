@@ -29,6 +29,14 @@ public:
             tamano += QSize(8, 6);
         return tamano;
     }
+
+    int styleHint(StyleHint consejo, const QStyleOption *opcion, const QWidget *control,
+                  QStyleHintReturn *vuelta) const override
+    {
+        if (consejo == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0;
+        return QProxyStyle::styleHint(consejo, opcion, control, vuelta);
+    }
 };
 
 /// Where a heading keeps by how much it is larger than ordinary text.

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QLibraryInfo>
+#include <QPointer>
 #include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
@@ -50,10 +51,12 @@ bool encuentraCarpetaDeTrabajo(clsSesión &sesion, const std::function<QString()
 
 void instalaTextosDeQt()
 {
+    static QPointer<QTranslator> textos;
+    delete textos;
     // Any language but Spanish leaves Qt's own English texts.
     if (Idioma() != u"Español"_s)
         return;
-    auto *textos = new QTranslator(qApp);
+    textos = new QTranslator(QCoreApplication::instance());
     if (textos->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(textos);
 }
@@ -63,11 +66,13 @@ void preparaAplicacion()
     InstalaAvisoDeCota(avisaDeCota);
     Aspecto::aplica(static_cast<Aspecto::Tema>(Sesión().recuerda(u"Ventana/Tema"_s, 0).toInt()));
     Aspecto::ponPasosDeLetra(Sesión().recuerda(u"Ventana/Letra"_s, 0).toInt());
+    QApplication::setWindowIcon(Icono(u"NUMORA"_s));
     instalaTextosDeQt();
 }
 
 ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido)
 {
+    preparaAplicacion();
     ProgramaEnMarcha programa;
     programa.instancia =
         std::make_unique<InstanciaUnica>(Sesión().carpetaDeAjustes() + u"/Numora.lock"_s);
@@ -86,7 +91,7 @@ ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido)
         return {};
 
     Idioma() = idiomaDeLinea(lineaDeOrdenes);
-    preparaAplicacion();
+    instalaTextosDeQt();
     QDir::setCurrent(rutaExistente(Sesión().carpeta()));
     ImgSiguiente() = Icono(u"SIGUIENTE"_s);
     ImgStop() = Icono(u"STOP"_s);
