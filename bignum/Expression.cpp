@@ -37,7 +37,8 @@ struct Operand
     std::optional<Number> exponent; ///< of a pending power
     bool negated = false;           ///< of a pending power: a sign stands before it
 
-    Operand(Number number) : value(std::move(number)) {}
+    Operand() = default;
+    explicit Operand(Number number) : value(std::move(number)) {}
 };
 
 /// Precedence climbing (Vaughan Pratt, "Top Down Operator Precedence", 1973): `parse(strength)`
@@ -216,7 +217,7 @@ private:
         case TokenKind::Number:
             return parseNumber();
         case TokenKind::Name:
-            return parseCall();
+            return Value(parseCall());
         case TokenKind::Open:
             return parseBracketed();
         case TokenKind::Operator:
@@ -228,9 +229,10 @@ private:
 
     Value parseNumber()
     {
-        Value value = arithmetic::literal<Number>(m_token.text, m_token.point);
+        Value operand;
+        arithmetic::read(operand.value, m_token.text, m_token.point);
         advance();
-        return value;
+        return operand;
     }
 
     Value parseSigned()

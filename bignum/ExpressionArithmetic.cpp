@@ -29,18 +29,10 @@ mpz_class powerOfTen(std::size_t exponent)
     return result;
 }
 
-mpz_class wholeLiteral(std::string_view digits)
+void readWhole(mpz_class &value, std::string_view digits)
 {
-    // Below 19 digits the number fits a machine word, which spares most expressions the copy that
-    // GMP's conversion needs.
-    if (digits.size() < 19) {
-        unsigned long value = 0;
-        for (const char c : digits)
-            value = 10 * value + static_cast<unsigned long>(c - '0');
-        return mpz_class(value);
-    }
     require(digits.size() <= kMaxInputDigits);
-    return mpz_class(std::string(digits), 10);
+    readDigits(value, digits);
 }
 
 /// base^exponent for |base| >= 2, refused before it is computed where it cannot fit.
@@ -79,27 +71,30 @@ void checkSize(const mpq_class &value)
     require(wordBits(value) <= kMaxBits || bits(value) <= kMaxBits + 1);
 }
 
-template <>
-mpq_class literal<mpq_class>(std::string_view digits, std::size_t point)
+void read(mpq_class &value, std::string_view digits, std::size_t point)
 {
-    if (point == std::string_view::npos)
-        return mpq_class(wholeLiteral(digits));
-    require(digits.size() <= kMaxInputDigits);
+    if (point == std::string_view::npos) {
+        readWhole(value.get_num(), digits);
+        return;
+    }
     const std::string_view decimals = digits.substr(point + 1);
     std::string all(digits.substr(0, point));
     all += decimals;
-    mpq_class value(mpz_class(all, 10), powerOfTen(decimals.size()));
+    readWhole(value.get_num(), all);
+    value.get_den() = powerOfTen(decimals.size());
     value.canonicalize();
     checkSize(value);
-    return value;
 }
 
-template <>
-mpz_class literal<mpz_class>(std::string_view digits, std::size_t point)
+void read(mpz_class &value, std::string_view digits, std::size_t point)
 {
-    if (point == std::string_view::npos)
-        return wholeLiteral(digits);
-    return whole(literal<mpq_class>(digits, point));
+    if (point == std::string_view::npos) {
+        readWhole(value, digits);
+        return;
+    }
+    mpq_class fraction;
+    read(fraction, digits, point);
+    value = whole(fraction);
 }
 
 const mpz_class &whole(const mpz_class &value)

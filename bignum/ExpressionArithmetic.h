@@ -15,10 +15,10 @@ struct NoValue
 /// large is computed, because GMP ends the process when it runs out of memory.
 namespace arithmetic {
 
-/// The number that a text of digits stands for, with a decimal part behind the position `point`
-/// unless that is npos.
-template <typename Number>
-Number literal(std::string_view digits, std::size_t point);
+/// Gives `value` the number that a text of digits stands for, with a decimal part behind the
+/// position `point` unless that is npos.
+void read(mpz_class &value, std::string_view digits, std::size_t point);
+void read(mpq_class &value, std::string_view digits, std::size_t point);
 
 /// The binary operations put their result in place of `a`.
 void multiply(mpz_class &a, const mpz_class &b);

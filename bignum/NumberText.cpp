@@ -1,6 +1,8 @@
 #include "bignum/NumberText.h"
 
 #include <algorithm>
+#include <cstring>
+#include <vector>
 
 namespace bignum {
 
@@ -22,6 +24,26 @@ std::string_view trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+void readDigits(mpz_class &value, std::string_view digits)
+{
+    constexpr std::size_t digitsOfWord = 18;
+    if (digits.size() <= digitsOfWord) {
+        unsigned long word = 0;
+        for (const char c : digits)
+            word = 10 * word + static_cast<unsigned long>(c - '0');
+        value = word;
+        return;
+    }
+    // What mpz_set_str does, without its look at each character. A limb takes 19 digits.
+    std::vector<unsigned char> bytes(digits.size());
+    std::ranges::transform(digits, bytes.begin(),
+                           [](char c) { return static_cast<unsigned char>(c - '0'); });
+    const std::size_t limbs = digits.size() / 19 + 2;
+    mp_limb_t *const data = mpz_limbs_write(value.get_mpz_t(), static_cast<mp_size_t>(limbs));
+    const mp_size_t used = mpn_set_str(data, bytes.data(), bytes.size(), 10);
+    mpz_limbs_finish(value.get_mpz_t(), used);
+}
+
 std::optional<mpz_class> parseInteger(std::string_view text)
 {
     text = trimmed(text);
@@ -31,7 +53,8 @@ std::optional<mpz_class> parseInteger(std::string_view text)
     if (text.empty() || text.size() > kMaxInputDigits || !std::ranges::all_of(text, isDigit))
         return std::nullopt;
 
-    mpz_class value(std::string(text), 10);
+    mpz_class value;
+    readDigits(value, text);
     if (negative)
         value = -value;
     return value;
@@ -56,7 +79,9 @@ std::optional<mpq_class> parseRational(std::string_view text)
 
 std::string toText(const mpz_class &value)
 {
-    // Room for a sign and a NUL; short numbers need no memory from the heap.
+    if (value.fits_slong_p())
+        return std::to_string(value.get_si());
+    // Room for a sign and a NUL.
     std::string text(mpz_sizeinbase(value.get_mpz_t(), 10) + 2, '\0');
     mpz_get_str(text.data(), 10, value.get_mpz_t());
     text.resize(std::strlen(text.c_str()));

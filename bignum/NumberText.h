@@ -20,6 +20,9 @@ constexpr std::size_t kMaxInputDigits = kExpressionBuffer - 1;
 /// `text` without the blanks (space, tab, CR, LF) at its ends.
 std::string_view trimmed(std::string_view text);
 
+/// Gives `value` the number that `digits`, at least one decimal digit and nothing else, stands for.
+void readDigits(mpz_class &value, std::string_view digits);
+
 /// The integer written in `text`: blanks around it, one sign and at most kMaxInputDigits decimal
 /// digits. Nothing if the text is anything else, the empty text included.
 std::optional<mpz_class> parseInteger(std::string_view text);

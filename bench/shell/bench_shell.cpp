@@ -60,7 +60,8 @@ int padre(int argc, char *argv[])
     const QTemporaryDir ajustes;
     qputenv("XDG_CONFIG_HOME", ajustes.path().toLocal8Bit());
     qputenv("XDG_RUNTIME_DIR", ajustes.path().toLocal8Bit());
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
+        qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QSettings almacen(ajustes.filePath(u"Numora/Numora.ini"_s), QSettings::IniFormat);
     almacen.setValue(u"Programa/Carpeta"_s, QStringLiteral(CARPETA_DE_TRABAJO));

@@ -65,3 +65,21 @@ inline std::string magnitudeOf(const std::string &text)
 {
     return text.starts_with('-') ? text.substr(1) : text;
 }
+
+/// Whether the expression may ask for Euler's function, which factors: how far that comes within
+/// its time depends on luck and on the load of the machine.
+inline bool mayFactor(std::string expression)
+{
+    for (char &c : expression)
+        c = static_cast<char>(c | 0x20);
+    return expression.find("fi") != std::string::npos ||
+           expression.find("phi") != std::string::npos;
+}
+
+/// Whether an expression is left out: factors of large numbers take a second each, time that is
+/// better spent on a thousand other inputs.
+inline bool isSlow(const std::string &expression)
+{
+    constexpr std::size_t longest = 32;
+    return expression.size() > longest && mayFactor(expression);
+}

@@ -2,23 +2,11 @@
 
 #include <chrono>
 
-namespace {
-
-/// Whether the expression may ask for a factorization: how far that comes within its time depends
-/// on luck and on the load of the machine.
-bool mayFactor(std::string expression)
-{
-    for (char &c : expression)
-        c = static_cast<char>(c | 0x20);
-    return expression.find("fi") != std::string::npos ||
-           expression.find("phi") != std::string::npos;
-}
-
-} // namespace
-
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const std::string expression(reinterpret_cast<const char *>(data), size);
+    if (isSlow(expression))
+        return 0;
     const auto value = integerValueOf(expression);
     if (!value)
         return 0;
