@@ -55,13 +55,14 @@ Moneda Moneda::deEntero(std::int64_t valor)
 
 Moneda Moneda::deReal(double valor)
 {
-    // nearbyint rounds halves to even in the default rounding mode. 2^63 itself is out of range and
-    // exact in a double, so the comparison needs no margin.
-    const double escalado = std::nearbyint(valor * Escala);
-    constexpr double limite = 9223372036854775808.0;
-    if (!(escalado < limite && escalado >= -limite))
+    constexpr double limite = static_cast<double>(MaximoEntero) + 1;
+    if (!(std::abs(valor) <= limite))
         desborda();
-    return Moneda(static_cast<std::int64_t>(escalado));
+    // The whole part apart, because ten thousand times a large whole value is rounded. nearbyint
+    // rounds halves to even in the default rounding mode.
+    const double entera = std::trunc(valor);
+    const double resto = std::nearbyint((valor - entera) * Escala);
+    return comprobada(Entero128(entera) * Escala + static_cast<std::int64_t>(resto));
 }
 
 std::optional<Moneda> Moneda::deTexto(QStringView texto)

@@ -32,7 +32,13 @@ public:
     static std::optional<Moneda> deTexto(QStringView texto);
 
     constexpr std::int64_t diezmilesimas() const { return m_valor; }
-    constexpr double real() const { return static_cast<double>(m_valor) / Escala; }
+    /// The nearest double; exact for whole values. The ten-thousandths themselves can need more
+    /// bits than a double has, so the whole part goes apart.
+    constexpr double real() const
+    {
+        return static_cast<double>(m_valor / Escala) +
+               static_cast<double>(m_valor % Escala) / Escala;
+    }
     constexpr bool esEntero() const { return m_valor % Escala == 0; }
 
     /// The whole part, toward zero.

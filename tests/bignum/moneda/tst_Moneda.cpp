@@ -4,6 +4,7 @@
 
 #include <QTest>
 #include <limits>
+#include <random>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -98,6 +99,25 @@ private Q_SLOTS:
         QFETCH(qint64, b);
         QFETCH(qint64, resto);
         QCOMPARE(ModCy(Moneda::deEntero(a), Moneda::deEntero(b)), Moneda::deEntero(resto));
+    }
+
+    /// Ten-thousandths of large whole numbers do not fit the mantissa of a double; the numbers
+    /// themselves do, and must come out whole.
+    void losEnterosGrandesSonExactos()
+    {
+        std::mt19937_64 azar(7);
+        std::uniform_int_distribution<qint64> grande(1, Moneda::MaximoEntero);
+        for (int i = 0; i < 20'000; ++i) {
+            const qint64 a = grande(azar), b = grande(azar) >> (i % 48);
+            const Moneda monedaA = Moneda::deEntero(a);
+            QCOMPARE(Moneda::deReal(monedaA.real()), monedaA);
+            if (b == 0)
+                continue;
+            QCOMPARE(ModCy(monedaA, Moneda::deEntero(b)), Moneda::deEntero(a % b));
+            const qint64 multiplo = a - a % b;
+            QCOMPARE(cociente(Moneda::deEntero(multiplo), Moneda::deEntero(b)),
+                     Moneda::deEntero(multiplo / b));
+        }
     }
 
     void dividirPorCero()
