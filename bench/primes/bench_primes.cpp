@@ -79,7 +79,7 @@ void measureTrialDivisions()
     }
     {
         constexpr int times = 100;
-        const Moneda prime = Moneda::deEntero(9'663'676'417);
+        const Moneda prime = Moneda::deEntero(9'663'873'007);
         const auto steps = times * static_cast<double>(improvedLoop(prime));
         const Pair best = bestOf(
             [&] {

@@ -37,18 +37,30 @@ public:
 private:
     static constexpr std::size_t CandidatosPorBloque = 2 * ValoresPorBloque;
 
+    /// A prime that strikes, and where it goes on: the places, counted over all blocks, of its next
+    /// multiples by 6m - 1 and by 6m + 1.
+    struct Tachador
+    {
+        std::uint64_t primo;
+        std::array<std::uint64_t, 2> lugares;
+    };
+
     void generaBloque(std::int64_t limite, Corrida &corrida);
     void cribaBloque(std::int64_t limite, Corrida &corrida, const Avance &avance);
-    void tacha(std::uint64_t primo);
+    void informa(std::uint64_t fin, std::uint64_t limite, const Avance &avance);
+    std::uint64_t primo(std::size_t orden, std::size_t &lugar) const;
+    static Tachador tachadorDe(std::uint64_t primo);
+    void tacha(Tachador &tachador);
     std::uint64_t ultimo() const;
     void vuelcaBloque(std::uint64_t cotaDeSeguros);
 
     std::vector<std::uint32_t> m_numeros;
+    std::vector<Tachador> m_tachadores;
     std::size_t m_seguros = 0;
 
-    // The block in work: candidate i is 6k ± 1 of the k-th value, the lesser first.
+    // The block in work: its candidates are 6k - 1, 6k + 1 for k from m_k on.
     std::array<bool, CandidatosPorBloque> m_vivo{};
-    std::size_t m_candidatos = 0; ///< those of the block that do not exceed the limit
-    std::uint64_t m_k = 1;        ///< the first k of the next block
-    int m_porcentaje = 0;
+    std::size_t m_candidatos = 0; ///< those that do not exceed the limit
+    std::uint64_t m_k = 1;
+    std::uint64_t m_porcentaje = 0;
 };

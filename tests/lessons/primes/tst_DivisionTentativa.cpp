@@ -121,11 +121,12 @@ private Q_SLOTS:
         const auto factoriza = [&](std::int64_t n) {
             return errorDe([&] { FactorizaMejorado(Moneda::deEntero(n), corrida); });
         };
-        // 98299 is the last prime below the divisor 98305, at which the counter overflows.
-        QCOMPARE(factoriza(std::int64_t(98'299) * 98'299), 0);
-        QCOMPARE(factoriza(9'663'676'417), 0); // a prime below 98305 squared
+        // The 32 768th divisor that does not divide is 98305: the primes on either side of its
+        // square, and the squares of the primes on either side of it.
+        QCOMPARE(mejorado(9'663'873'007), u"9663873007^1"_s);
+        QCOMPARE(factoriza(9'663'873'041), ErrorEjecucion::Desbordamiento);
+        QCOMPARE(mejorado(std::int64_t(98'299) * 98'299), u"98299^2"_s);
         QCOMPARE(factoriza(std::int64_t(98'317) * 98'317), ErrorEjecucion::Desbordamiento);
-        QCOMPARE(factoriza(10'000'000'019), ErrorEjecucion::Desbordamiento);
     }
 
     void elIngenuoSeDetiene()
