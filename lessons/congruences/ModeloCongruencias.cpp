@@ -96,7 +96,8 @@ QVariant ModeloCongruencias::headerData(int seccion, Qt::Orientation orientacion
 
 Qt::ItemFlags ModeloCongruencias::flags(const QModelIndex &indice) const
 {
-    return QAbstractTableModel::flags(indice) | Qt::ItemIsEditable;
+    const auto base = QAbstractTableModel::flags(indice);
+    return indice.isValid() ? base | Qt::ItemIsEditable : base;
 }
 
 bool ModeloCongruencias::setData(const QModelIndex &indice, const QVariant &valor, int rol)

@@ -47,8 +47,8 @@ QString factor(std::int64_t valor)
 
 Moneda mayorNumero(AlgoritmoEuclides algoritmo)
 {
-    const Moneda mayor = Moneda::deEntero(Moneda::MaximoEntero);
-    return algoritmo == AlgoritmoEuclides::Estandar ? mayor : cociente(mayor, Moneda::deEntero(5));
+    constexpr std::int64_t mayor = Moneda::MaximoEntero * Moneda::Escala;
+    return Moneda::deDiezmilesimas(algoritmo == AlgoritmoEuclides::Estandar ? mayor : mayor / 5);
 }
 
 TablaEuclides::TablaEuclides(Moneda dividendo, Moneda divisor, AlgoritmoEuclides algoritmo)
