@@ -7,26 +7,25 @@ using namespace Qt::Literals::StringLiterals;
 
 void ModeloEuclides::pon(const TablaEuclides &tabla)
 {
-    // Rows come and go at the end: the editor of the first row, which asked for this, stays valid.
-    const int antes = rowCount();
+    // Rows come and go at the end, without a reset: the editor of the first row, which asked for
+    // this, and the current cell stay.
     const int ahora = std::max(1, static_cast<int>(tabla.divisiones().size()));
-    if (ahora > antes) {
-        beginInsertRows({}, antes, ahora - 1);
-        m_tabla = tabla;
+    if (ahora > m_filas) {
+        beginInsertRows({}, m_filas, ahora - 1);
+        m_filas = ahora;
         endInsertRows();
-    } else if (ahora < antes) {
-        beginRemoveRows({}, ahora, antes - 1);
-        m_tabla = tabla;
+    } else if (ahora < m_filas) {
+        beginRemoveRows({}, ahora, m_filas - 1);
+        m_filas = ahora;
         endRemoveRows();
-    } else {
-        m_tabla = tabla;
     }
-    Q_EMIT dataChanged(index(0, 0), index(ahora - 1, NumColumnas - 1));
+    m_tabla = tabla;
+    Q_EMIT dataChanged(index(0, 0), index(m_filas - 1, NumColumnas - 1));
 }
 
 int ModeloEuclides::rowCount(const QModelIndex &padre) const
 {
-    return padre.isValid() ? 0 : std::max(1, static_cast<int>(m_tabla.divisiones().size()));
+    return padre.isValid() ? 0 : m_filas;
 }
 
 int ModeloEuclides::columnCount(const QModelIndex &padre) const
@@ -91,10 +90,10 @@ bool ModeloEuclides::esEditable(const QModelIndex &indice)
 QString ModeloEuclides::texto(int fila, int columna) const
 {
     // Without divisions only the two numbers stand there.
-    if (m_tabla.divisiones().isEmpty()) {
-        if (columna == Dividendo)
+    if (fila >= m_tabla.divisiones().size()) {
+        if (fila == 0 && columna == Dividendo)
             return formatoEntero(m_tabla.dividendo());
-        return columna == Divisor ? formatoEntero(m_tabla.divisor()) : QString();
+        return fila == 0 && columna == Divisor ? formatoEntero(m_tabla.divisor()) : QString();
     }
     const DivisionEuclides &d = m_tabla.divisiones()[fila];
     switch (columna) {

@@ -36,5 +36,6 @@ private:
     QString textoParaEditar(int columna) const;
 
     TablaEuclides m_tabla;
+    int m_filas = 1;
     std::array<QString, 2> m_textosTecleados;
 };
