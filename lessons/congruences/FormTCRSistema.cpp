@@ -68,9 +68,9 @@ void FormTCRSistema::preparaRejilla()
 {
     ui->FlexTCR->setModel(m_modelo);
     ui->FlexTCR->setItemDelegate(new MarcaDefectos(this));
-    ui->FlexTCR->setEditTriggers(
-        QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
-        QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+    ui->FlexTCR->setEditTriggers(QAbstractItemView::DoubleClicked |
+                                 QAbstractItemView::EditKeyPressed |
+                                 QAbstractItemView::AnyKeyPressed);
     ui->FlexTCR->verticalHeader()->show();
     new ColumnasRepartidas(ui->FlexTCR);
     ui->FlexTCR->setCurrentIndex(m_modelo->index(0, 0));

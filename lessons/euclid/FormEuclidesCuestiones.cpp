@@ -1,6 +1,7 @@
 #include "lessons/euclid/FormEuclidesCuestiones.h"
 
 #include "lessons/euclid/EvaluaEntero.h"
+#include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
@@ -28,8 +29,8 @@ FormEuclidesCuestiones::FormEuclidesCuestiones(QWidget *leccion)
     ui->setupUi(this);
     traduceVentana(this);
     ui->cmdProblema->setIcon(Icono(u"COMPROBAR"_s));
-    // The question stands there until there is an answer.
-    ui->ccrpAnimation->carga({}, u"AYUDA"_s);
+    Aspecto::destaca(ui->lblVeredicto);
+    ui->ccrpAnimation->carga({}, u"EUREKA0"_s);
 
     conecta(ui->cmdProblema, &QPushButton::clicked, this,
             &FormEuclidesCuestiones::cmdProblema_Click);
@@ -56,6 +57,6 @@ void FormEuclidesCuestiones::muestraVeredicto(bool acierto)
                              acierto ? u"EUREKA"_s : u"ERROR"_s);
     ui->ccrpAnimation->reproduce(ReproductorAVI::Modo::UnaVez);
     const QString veredicto = Traduce(acierto ? u"Correcto"_s : u"No es correcto"_s);
-    ui->ccrpAnimation->setToolTip(veredicto);
     ui->ccrpAnimation->setAccessibleName(veredicto);
+    ui->lblVeredicto->setText(veredicto);
 }

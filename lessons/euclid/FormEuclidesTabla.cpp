@@ -33,14 +33,20 @@ FormEuclidesTabla::FormEuclidesTabla(QWidget *leccion)
     traduceVentana(this);
     Aspecto::destaca(ui->lblExtEuclides);
     ui->FlexEuclides->setModel(m_modelo);
-    ui->FlexEuclides->setEditTriggers(
-        QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
-        QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+    ui->FlexEuclides->setEditTriggers(QAbstractItemView::DoubleClicked |
+                                      QAbstractItemView::EditKeyPressed |
+                                      QAbstractItemView::AnyKeyPressed);
     new ColumnasRepartidas(ui->FlexEuclides);
     preparaStatusBar();
 
-    conecta(m_modelo, &ModeloEuclides::celdaEditada, this,
-            &FormEuclidesTabla::FlexEuclides_AfterEdit);
+    // From the event queue, once the editor is closed: a message box on top of an open editor would
+    // take the focus away from the grid for good.
+    connect(
+        m_modelo, &ModeloEuclides::celdaEditada, this,
+        [this](int columna, const QString &texto) {
+            evento(this, [&] { FlexEuclides_AfterEdit(columna, texto); });
+        },
+        Qt::QueuedConnection);
     conecta(m_panelAlgoritmo, &QToolButton::clicked, this,
             &FormEuclidesTabla::StatusBar_PanelClick);
     rehazTabla(DividendoInicial, DivisorInicial);
