@@ -30,10 +30,12 @@ void ColumnasRepartidas::reparte()
     QHeaderView *cabecera = m_rejilla->horizontalHeader();
     // QTableView hides this function of its base.
     const QAbstractItemView *vista = m_rejilla;
-    int sobra = m_rejilla->viewport()->width();
+    const int todo = m_rejilla->viewport()->width();
+    int sobra = todo;
     QList<int> anchos;
     for (int c = 0; c < cabecera->count(); ++c) {
-        anchos << std::max(vista->sizeHintForColumn(c), cabecera->sectionSizeHint(c));
+        const int necesario = std::max(vista->sizeHintForColumn(c), cabecera->sectionSizeHint(c));
+        anchos << std::min(necesario, todo);
         sobra -= anchos.constLast();
     }
     sobra = std::max(sobra, 0);
