@@ -55,14 +55,14 @@ Moneda Moneda::deEntero(std::int64_t valor)
 
 Moneda Moneda::deReal(double valor)
 {
-    constexpr double limite = static_cast<double>(MaximoEntero) + 1;
-    if (!(std::abs(valor) <= limite))
+    if (!(std::abs(valor) <= static_cast<double>(MaximoEntero + 1)))
         desborda();
-    // The whole part apart, because ten thousand times a large whole value is rounded. nearbyint
-    // rounds halves to even in the default rounding mode.
-    const double entera = std::trunc(valor);
-    const double resto = std::nearbyint((valor - entera) * Escala);
-    return comprobada(Entero128(entera) * Escala + static_cast<std::int64_t>(resto));
+    // Scaled as a whole, a whole number beyond 9·10^11 would be rounded. nearbyint rounds halves to
+    // even in the default rounding mode, and the scale is even, so the sum is rounded so too.
+    const double entero = std::trunc(valor);
+    const double decimales = std::nearbyint((valor - entero) * Escala);
+    return comprobada(Entero128(static_cast<std::int64_t>(entero)) * Escala +
+                      static_cast<std::int64_t>(decimales));
 }
 
 std::optional<Moneda> Moneda::deTexto(QStringView texto)

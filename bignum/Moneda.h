@@ -32,8 +32,8 @@ public:
     static std::optional<Moneda> deTexto(QStringView texto);
 
     constexpr std::int64_t diezmilesimas() const { return m_valor; }
-    /// The nearest double; exact for whole values. The ten-thousandths themselves can need more
-    /// bits than a double has, so the whole part goes apart.
+    /// The value as a double, exact for whole numbers: the ten-thousandths of one beyond 9·10^11
+    /// need more than the 53 bits of a double, so whole part and decimals are converted apart.
     constexpr double real() const
     {
         return static_cast<double>(m_valor / Escala) +

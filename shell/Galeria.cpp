@@ -11,6 +11,7 @@
 #include "shell/Rutas.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -105,8 +106,19 @@ private:
             texto->setPlainText(paso.valor);
         else if (auto *boton = qobject_cast<QAbstractButton *>(control))
             boton->click();
+        else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
+            escribe(*rejilla, paso.valor);
         else
             qWarning("no such control in the scene: %s", qPrintable(paso.control));
+    }
+
+    /// "row,column:text", both counted from 0.
+    static void escribe(const QAbstractItemView &rejilla, const QString &valor)
+    {
+        const QString casilla = valor.section(u':', 0, 0);
+        const QModelIndex indice = rejilla.model()->index(casilla.section(u',', 0, 0).toInt(),
+                                                          casilla.section(u',', 1).toInt());
+        rejilla.model()->setData(indice, valor.section(u':', 1), Qt::EditRole);
     }
 
     const Contenido &m_contenido;

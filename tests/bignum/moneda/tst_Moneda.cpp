@@ -90,6 +90,10 @@ private Q_SLOTS:
             << qint64(922337203685477) << qint64(922337203685476) << qint64(1);
         QTest::newRow("just below a multiple")
             << qint64(3) * 307445734561825 - 1 << qint64(3) << qint64(2);
+        QTest::newRow("by one, where ten-thousandths fill 63 bits")
+            << qint64(461168601842741) << qint64(1) << qint64(0);
+        QTest::newRow("a remainder whose ten-thousandths fill 52 bits")
+            << qint64(900000000000002) << qint64(500000000000001) << qint64(400000000000001);
         QTest::newRow("large prime")
             << qint64(922337203685477) << qint64(999983) << qint64(922337203685477 % 999983);
     }
