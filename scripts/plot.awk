@@ -18,7 +18,7 @@ END {
         y = 30 + i * row
         printf "<text x=\"%d\" y=\"%d\" text-anchor=\"end\" fill=\"#22304a\">%s</text>\n", left - 10, y + 13, name[i]
         printf "<rect x=\"%d\" y=\"%d\" width=\"%.1f\" height=\"16\" fill=\"#1f6f8b\"/>\n", left, y, x(ratio[i]) - left
-        printf "<text x=\"%.1f\" y=\"%d\" fill=\"#22304a\">%s</text>\n", x(ratio[i]) + 6, y + 13, ratio[i]
+        printf "<text x=\"780\" y=\"%d\" text-anchor=\"end\" fill=\"#22304a\">%s</text>\n", y + 13, ratio[i]
         if (bound[i] > 0)
             printf "<line x1=\"%.1f\" y1=\"%d\" x2=\"%.1f\" y2=\"%d\" stroke=\"#c8452b\" stroke-width=\"2\"/>\n", x(bound[i]), y - 2, x(bound[i]), y + 18
     }
