@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTextStream>
 #include <QTimer>
 
@@ -105,6 +106,8 @@ private:
             texto->setPlainText(paso.valor);
         else if (auto *boton = qobject_cast<QAbstractButton *>(control))
             boton->click();
+        else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
+            pestanas->setCurrentIndex(paso.valor.toInt());
         else
             qWarning("no such control in the scene: %s", qPrintable(paso.control));
     }

@@ -20,7 +20,7 @@ struct Leccion
 struct Paso
 {
     QString control; ///< objectName of a control of the window
-    QString valor;   ///< the text to write, or empty for a click
+    QString valor;   ///< the text to write, the index of a tab, or empty for a click
 };
 
 /// A picture of the gallery: a lesson, one of its topics, and the steps before the picture is
