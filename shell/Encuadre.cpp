@@ -35,8 +35,7 @@ void Encuadre::amplia(qreal factor, QPointF pixel)
                        lado(m_visible.height(), m_limites.height()));
     const qreal x = (centro.x() - m_visible.left()) / m_visible.width();
     const qreal y = (centro.y() - m_visible.top()) / m_visible.height();
-    m_visible = QRectF(
-        centro - QPointF(x * nuevo.width(), y * nuevo.height()), nuevo);
+    m_visible = QRectF(centro - QPointF(x * nuevo.width(), y * nuevo.height()), nuevo);
     recorta();
 }
 
@@ -49,10 +48,12 @@ void Encuadre::desplaza(QPointF pixeles)
 
 void Encuadre::recorta()
 {
-    m_visible.moveLeft(std::clamp(m_visible.left(), m_limites.left(),
-                                  std::max(m_limites.left(), m_limites.right() - m_visible.width())));
-    m_visible.moveTop(std::clamp(m_visible.top(), m_limites.top(),
-                                 std::max(m_limites.top(), m_limites.bottom() - m_visible.height())));
+    m_visible.moveLeft(
+        std::clamp(m_visible.left(), m_limites.left(),
+                   std::max(m_limites.left(), m_limites.right() - m_visible.width())));
+    m_visible.moveTop(
+        std::clamp(m_visible.top(), m_limites.top(),
+                   std::max(m_limites.top(), m_limites.bottom() - m_visible.height())));
 }
 
 QList<qint64> Encuadre::marcas(qreal desde, qreal hasta, int maximo)

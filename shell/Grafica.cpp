@@ -128,7 +128,8 @@ void Grafica::coloca()
     const int alto = fontMetrics().height() + EjeDeGrafica::Muesca + 4;
     const int anchoDeNumero = std::max(
         fontMetrics().horizontalAdvance(formatoEntero(std::llround(m_encuadre.visible().top()))),
-        fontMetrics().horizontalAdvance(formatoEntero(std::llround(m_encuadre.visible().bottom()))));
+        fontMetrics().horizontalAdvance(
+            formatoEntero(std::llround(m_encuadre.visible().bottom()))));
     const int ancho = anchoDeNumero + EjeDeGrafica::Muesca + Aspecto::Espacio;
     // Half a number stands out beyond either end of an axis.
     QRect lienzo = rect().adjusted(ancho, fontMetrics().height(),
@@ -177,9 +178,9 @@ void Grafica::sigue(QPointF pixel)
                    l.bottom() + EjeDeGrafica::Muesca);
     m_labelY->move(std::max(0, l.left() - EjeDeGrafica::Muesca - m_labelY->width()),
                    p.y() - m_labelY->height() / 2);
-    for (QWidget *control : {static_cast<QWidget *>(m_reglaHorizontal),
-                             static_cast<QWidget *>(m_reglaVertical),
-                             static_cast<QWidget *>(m_labelX), static_cast<QWidget *>(m_labelY)})
+    for (QWidget *control :
+         {static_cast<QWidget *>(m_reglaHorizontal), static_cast<QWidget *>(m_reglaVertical),
+          static_cast<QWidget *>(m_labelX), static_cast<QWidget *>(m_labelY)})
         control->show();
     senala(puntoCercano(mundo.x()));
 }
@@ -239,8 +240,7 @@ int Grafica::puntoCercano(qreal x) const
     if (siguiente == m_puntos.cbegin())
         return 0;
     const auto anterior = siguiente - 1;
-    const bool esAnterior =
-        siguiente == m_puntos.cend() || x - anterior->x() <= siguiente->x() - x;
+    const bool esAnterior = siguiente == m_puntos.cend() || x - anterior->x() <= siguiente->x() - x;
     return static_cast<int>((esAnterior ? anterior : siguiente) - m_puntos.cbegin());
 }
 
@@ -259,10 +259,12 @@ void Grafica::paintEvent(QPaintEvent *)
     if (m_tramoHasta > m_tramoDesde) {
         QColor fondo = Aspecto::acento();
         fondo.setAlpha(34);
-        const QRectF tramo(m_encuadre.aPixel({m_tramoDesde, 0}), m_encuadre.aPixel({m_tramoHasta, 0}));
-        pintor.fillRect(QRectF(QPointF(tramo.left(), lienzo.top()),
-                               QPointF(tramo.right(), lienzo.bottom())) & lienzo,
-                        fondo);
+        const QRectF tramo(m_encuadre.aPixel({m_tramoDesde, 0}),
+                           m_encuadre.aPixel({m_tramoHasta, 0}));
+        pintor.fillRect(
+            QRectF(QPointF(tramo.left(), lienzo.top()), QPointF(tramo.right(), lienzo.bottom())) &
+                lienzo,
+            fondo);
     }
     pintaRejilla(pintor);
     pintaFuncion(pintor);
@@ -370,9 +372,15 @@ void Grafica::keyPressEvent(QKeyEvent *suceso)
 {
     const int ultimo = static_cast<int>(m_puntos.size()) - 1;
     switch (ultimo < 0 ? 0 : suceso->key()) {
-    case Qt::Key_Plus: amplia(PasoDeZoom); break;
-    case Qt::Key_Minus: amplia(1 / PasoDeZoom); break;
-    case Qt::Key_Home: muestraTodo(); break;
+    case Qt::Key_Plus:
+        amplia(PasoDeZoom);
+        break;
+    case Qt::Key_Minus:
+        amplia(1 / PasoDeZoom);
+        break;
+    case Qt::Key_Home:
+        muestraTodo();
+        break;
     case Qt::Key_Left:
         senala(std::max(0, m_senalado - 1));
         muestraPunto();
@@ -381,7 +389,8 @@ void Grafica::keyPressEvent(QKeyEvent *suceso)
         senala(std::min(ultimo, m_senalado + 1));
         muestraPunto();
         break;
-    default: QWidget::keyPressEvent(suceso);
+    default:
+        QWidget::keyPressEvent(suceso);
     }
 }
 

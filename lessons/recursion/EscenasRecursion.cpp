@@ -46,28 +46,27 @@ QList<Escena> escenasRecursion3(int fila)
     const Paso ack{u"cmdAck"_s, {}};
     const Paso hail{u"cmdHail"_s, {}};
     const Paso cap{u"cmdCap"_s, {}};
-    const QString largo = QString(2000, u'7');
-    return {
-        {u"recursion3-introduccion"_s, fila, u"intro"_s},
-        funciones(u"recursion3-ackermann"_s, fila, {EnAckermann}),
-        funciones(u"recursion3-ackermann-2-3"_s, fila, {EnAckermann, ack}),
-        funciones(u"recursion3-ackermann-4-1"_s, fila,
-                  {EnAckermann, {u"TxtX"_s, u"4"_s}, {u"TxtY"_s, u"1"_s}, ack}),
-        funciones(u"recursion3-ackermann-calculando"_s, fila,
-                  {EnAckermann,
-                   {u"TxtX"_s, u"4"_s},
-                   {u"TxtY"_s, u"1"_s},
-                   {u"txtMaxAck"_s, u"70000"_s},
-                   ack},
-                  true),
-        funciones(u"recursion3-hailstone"_s, fila, {EnHailstone}),
-        funciones(u"recursion3-hailstone-27"_s, fila,
-                  {EnHailstone, {u"TxtInicial"_s, u"27"_s}, hail}),
-        funciones(u"recursion3-hailstone-calculando"_s, fila,
-                  {EnHailstone, {u"TxtInicial"_s, largo}, hail}, true),
-        funciones(u"recursion3-capicuas"_s, fila, {EnCapicuas}),
-        funciones(u"recursion3-capicuas-89"_s, fila,
-                  {EnCapicuas, {u"TxtCapInicial"_s, u"89"_s}, cap}),
-        funciones(u"recursion3-capicuas-calculando"_s, fila,
-                  {EnCapicuas, {u"TxtCapInicial"_s, u"196"_s}, cap}, true)};
+    const QString largo = u"27182818284590452353602874713526624977572470936999"_s.repeated(200);
+    return {{u"recursion3-introduccion"_s, fila, u"intro"_s},
+            funciones(u"recursion3-ackermann"_s, fila, {EnAckermann}),
+            funciones(u"recursion3-ackermann-2-3"_s, fila, {EnAckermann, ack}),
+            funciones(u"recursion3-ackermann-4-1"_s, fila,
+                      {EnAckermann, {u"TxtX"_s, u"4"_s}, {u"TxtY"_s, u"1"_s}, ack}),
+            funciones(u"recursion3-ackermann-calculando"_s, fila,
+                      {EnAckermann,
+                       {u"TxtX"_s, u"4"_s},
+                       {u"TxtY"_s, u"2"_s},
+                       {u"txtMaxAck"_s, u"999999"_s},
+                       ack},
+                      true),
+            funciones(u"recursion3-hailstone"_s, fila, {EnHailstone}),
+            funciones(u"recursion3-hailstone-27"_s, fila,
+                      {EnHailstone, {u"TxtInicial"_s, u"27"_s}, hail}),
+            funciones(u"recursion3-hailstone-calculando"_s, fila,
+                      {EnHailstone, {u"TxtInicial"_s, largo}, hail}, true),
+            funciones(u"recursion3-capicuas"_s, fila, {EnCapicuas}),
+            funciones(u"recursion3-capicuas-89"_s, fila,
+                      {EnCapicuas, {u"TxtCapInicial"_s, u"89"_s}, cap}),
+            funciones(u"recursion3-capicuas-calculando"_s, fila,
+                      {EnCapicuas, {u"TxtCapInicial"_s, u"196"_s}, cap}, true)};
 }

@@ -31,6 +31,7 @@ FormRecursion2Representacion::FormRecursion2Representacion(QWidget *leccion)
     ui->cmdCalcular->setIcon(Icono(u"CALCULAR"_s));
     ui->PicFunción->ponTextoVacio(
         Traduce(u"Elija un módulo y pulse «Calcular» para ver los 250 primeros valores"_s));
+    ui->TxtMódulo->setMinimumWidth(fontMetrics().horizontalAdvance(u"000000000"_s));
     QSizePolicy conSitio = ui->ImgEureka->sizePolicy();
     conSitio.setRetainSizeWhenHidden(true);
     ui->ImgEureka->setSizePolicy(conSitio);

@@ -47,6 +47,6 @@ private:
     std::unique_ptr<Ui::FormRecursion2Representacion> ui;
     DefinicionRecurrente m_definicion;
     std::optional<SucesionModular> m_sucesion;
-    QTimer m_timerEureka;
+    QTimer m_timerEureka{this};
     int m_fotograma = 0;
 };

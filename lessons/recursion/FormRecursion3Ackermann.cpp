@@ -55,6 +55,7 @@ FormRecursion3Ackermann::FormRecursion3Ackermann(Corrida &corrida, QWidget *padr
     ui->cmdAck->setToolTip(consejo);
     ui->imgAck->setImagen(u"TRABAJANDO0"_s);
     Aspecto::destaca(ui->lblResultado, 1.15);
+    ui->txtAck->setMinimumWidth(fontMetrics().horizontalAdvance(u"Ack(000, 0000000) "_s));
     conservaSuSitio(ui->imgAck);
     conservaSuSitio(ui->LabelAck1);
     ui->FlexAck->setModel(&m_modelo);

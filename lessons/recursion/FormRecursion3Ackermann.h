@@ -43,8 +43,8 @@ private:
     MemoriaAck m_memoria;
     ModeloAck m_modelo;
     std::optional<Ack> m_ack;
-    QTimer m_timerAck;
-    QTimer m_pantalla;
+    QTimer m_timerAck{this};
+    QTimer m_pantalla{this};
     QElapsedTimer m_reloj;
     int m_fotograma = 0;
 };

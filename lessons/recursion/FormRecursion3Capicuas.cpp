@@ -35,8 +35,7 @@ FormRecursion3Capicuas::FormRecursion3Capicuas(Corrida &corrida, QWidget *padre)
     conecta(ui->cmdCap, &QPushButton::clicked, this, &FormRecursion3Capicuas::cmdCap_Click);
     conecta(ui->TxtCapInicial, &CampoLargo::textoCambiado, this,
             &FormRecursion3Capicuas::TxtCapInicial_Change);
-    conecta(ui->TxtCapInicial, &CampoLargo::returnPressed, this,
-            &FormRecursion3Capicuas::empieza);
+    conecta(ui->TxtCapInicial, &CampoLargo::returnPressed, this, &FormRecursion3Capicuas::empieza);
     conecta(&m_pantalla, &QTimer::timeout, this, &FormRecursion3Capicuas::muestraAvance);
     TxtCapInicial_Change();
 }
@@ -108,7 +107,7 @@ void FormRecursion3Capicuas::muestraAvance()
         return;
     ui->TxtCapFinal->setText(m_capicua.actual());
     ui->lblAvance->setText(
-        Traduce(u"%1 sumas · %2 cifras"_s)
+        Traduce(u"Sumas: %1 · Cifras: %2"_s)
             .arg(formatoEntero(m_capicua.numSumas()), formatoEntero(m_capicua.actual().size())));
 }
 
@@ -121,9 +120,10 @@ void FormRecursion3Capicuas::muestraFin(Capicua::Fin fin)
         return;
     }
     if (fin == Capicua::Fin::SinNumero) {
-        ui->lblAvance->setText(m_capicua.numSumas() == 0
-                                   ? Traduce(u"El valor inicial no es un número positivo."_s)
-                                   : Traduce(u"%1 sumas: el número siguiente tiene demasiadas cifras."_s)
-                                         .arg(formatoEntero(m_capicua.numSumas())));
+        ui->lblAvance->setText(
+            m_capicua.numSumas() == 0
+                ? Traduce(u"El valor inicial no es un número positivo."_s)
+                : Traduce(u"Sumas: %1. El número siguiente tiene demasiadas cifras."_s)
+                      .arg(formatoEntero(m_capicua.numSumas())));
     }
 }

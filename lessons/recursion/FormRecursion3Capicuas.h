@@ -37,6 +37,6 @@ private:
     std::unique_ptr<Ui::FormRecursion3Capicuas> ui;
     Corrida &m_corrida;
     Capicua m_capicua;
-    QTimer m_pantalla;
+    QTimer m_pantalla{this};
     bool m_calculando = false;
 };

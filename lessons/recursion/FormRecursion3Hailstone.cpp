@@ -56,7 +56,8 @@ FormRecursion3Hailstone::FormRecursion3Hailstone(Corrida &corrida, QWidget *padr
     ui->FlexHail->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     auto *cabecera = ui->FlexHail->horizontalHeader();
     cabecera->setSectionResizeMode(ModeloGranizo::Valor, QHeaderView::Stretch);
-    cabecera->resizeSection(ModeloGranizo::Paso, fontMetrics().horizontalAdvance(u"000000000000"_s));
+    cabecera->resizeSection(ModeloGranizo::Paso,
+                            fontMetrics().horizontalAdvance(u"000000000000"_s));
     m_pantalla.setInterval(PasoDePantalla);
 
     conecta(ui->cmdHail, &QPushButton::clicked, this, &FormRecursion3Hailstone::cmdHail_Click);
@@ -116,10 +117,9 @@ void FormRecursion3Hailstone::muestraAvance()
     m_modelo.publica();
     if (alFinal)
         ui->FlexHail->scrollToBottom();
-    ui->lblAvance->setText(
-        Traduce(u"Paso %1 · %2 cifras"_s)
-            .arg(formatoEntero(m_historia.ultimo()),
-                 formatoEntero(m_historia.valor(m_historia.ultimo()).size())));
+    ui->lblAvance->setText(Traduce(u"Paso: %1 · Cifras: %2"_s)
+                               .arg(formatoEntero(m_historia.ultimo()),
+                                    formatoEntero(m_historia.valor(m_historia.ultimo()).size())));
 }
 
 void FormRecursion3Hailstone::muestraFin(const QString &inicio, FinDeGranizo fin)
@@ -134,6 +134,7 @@ void FormRecursion3Hailstone::muestraFin(const QString &inicio, FinDeGranizo fin
                                    ? Traduce(u"«%1» no es un número entero."_s).arg(inicio)
                                    : Traduce(u"El número siguiente tiene demasiadas cifras."_s));
         break;
-    case FinDeGranizo::Detenido: break;
+    case FinDeGranizo::Detenido:
+        break;
     }
 }

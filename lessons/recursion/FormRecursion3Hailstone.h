@@ -37,6 +37,6 @@ private:
     Corrida &m_corrida;
     HistoriaGranizo m_historia;
     ModeloGranizo m_modelo;
-    QTimer m_pantalla;
+    QTimer m_pantalla{this};
     bool m_calculando = false;
 };

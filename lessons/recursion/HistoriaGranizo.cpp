@@ -62,8 +62,7 @@ QString HistoriaGranizo::valor(qint64 paso) const
     const qint64 pasoDelHito = m_primerHito + hito * m_distancia;
     const bool aMano = paso >= m_vistos.inicio && pasoDelHito < m_vistos.fin();
     if (!aMano) {
-        m_vistos = {pasoDelHito,
-                    {QString::fromLatin1(m_hitos.at(static_cast<std::size_t>(hito)))}};
+        m_vistos = {pasoDelHito, {QString::fromLatin1(m_hitos.at(static_cast<std::size_t>(hito)))}};
     }
     while (m_vistos.fin() <= paso)
         m_vistos.agrega(siguienteGranizo(m_vistos.valores.constLast()));

@@ -30,11 +30,15 @@ QVariant ModeloAck::data(const QModelIndex &indice, int papel) const
         const std::int32_t valor = m_memoria.lee(m, n);
         return valor == 0 ? QVariant() : QString::number(valor);
     }
-    case Qt::TextAlignmentRole: return {Qt::AlignRight | Qt::AlignVCenter};
-    case Qt::BackgroundRole: return destacada ? QBrush(QColor(0, 255, 255)) : QVariant();
+    case Qt::TextAlignmentRole:
+        return {Qt::AlignRight | Qt::AlignVCenter};
+    case Qt::BackgroundRole:
+        return destacada ? QBrush(QColor(0, 255, 255)) : QVariant();
     // Cyan is bright in either theme, so its text is dark in both.
-    case Qt::ForegroundRole: return destacada ? QBrush(Qt::black) : QVariant();
-    default: return {};
+    case Qt::ForegroundRole:
+        return destacada ? QBrush(Qt::black) : QVariant();
+    default:
+        return {};
     }
 }
 

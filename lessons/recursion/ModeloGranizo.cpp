@@ -34,7 +34,7 @@ QVariant ModeloGranizo::data(const QModelIndex &indice, int papel) const
         return QString::number(paso);
     const QString valor = m_historia.valor(paso);
     return papel == Qt::DisplayRole ? valor
-                                    : Traduce(u"%1 cifras"_s).arg(formatoEntero(valor.size()));
+                                    : Traduce(u"Cifras: %1"_s).arg(formatoEntero(valor.size()));
 }
 
 QVariant ModeloGranizo::headerData(int seccion, Qt::Orientation orientacion, int papel) const

@@ -41,8 +41,7 @@ SucesionModular::SucesionModular(const DefinicionRecurrente &definicion, std::in
     m_valores[0] = reduce(definicion.f1, modulo);
     m_valores[1] = reduce(definicion.f2, modulo);
     for (std::size_t k = 2; k < m_valores.size(); ++k) {
-        m_valores[k] =
-            suma(producto(alfa, m_valores[k - 1]), producto(beta, m_valores[k - 2])) % m;
+        m_valores[k] = suma(producto(alfa, m_valores[k - 1]), producto(beta, m_valores[k - 2])) % m;
     }
 }
 
