@@ -83,7 +83,7 @@ private:
         }
         espera(50ms);
         if (escena.durante) {
-            QTimer::singleShot(1500ms, leccion, [this, leccion, &escena] {
+            QTimer::singleShot(escena.tras, leccion, [this, leccion, &escena] {
                 retrata(m_principal, escena.nombre);
                 leccion->detenCorrida();
             });

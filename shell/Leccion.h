@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <chrono>
 #include <functional>
 
 class FormLeccion;
@@ -33,6 +34,8 @@ struct Escena
     QList<Paso> pasos = {};
     /// The last step starts a run: the picture is taken while it runs, and then it is stopped.
     bool durante = false;
+    /// How long after its start the picture of a run is taken; 0 for a run that is over at once.
+    std::chrono::milliseconds tras{1500};
 };
 
 /// What the program is made of. `main.cpp` writes it down; the shell knows no lesson by name.
