@@ -52,6 +52,14 @@ FormRecursion2Representacion::FormRecursion2Representacion(QWidget *leccion)
 
 FormRecursion2Representacion::~FormRecursion2Representacion() = default;
 
+/// Where there is no room for them side by side, the period stands below the modulus.
+void FormRecursion2Representacion::resizeEvent(QResizeEvent *suceso)
+{
+    QWidget::resizeEvent(suceso);
+    const bool cabenJuntos = width() > fontMetrics().horizontalAdvance(u'0') * 80;
+    ui->filaPaneles->setDirection(cabenJuntos ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
 void FormRecursion2Representacion::ponDefinicion(const DefinicionRecurrente &definicion)
 {
     m_definicion = definicion;

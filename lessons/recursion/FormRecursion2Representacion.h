@@ -28,6 +28,9 @@ public:
     /// Nothing until a modulus is accepted.
     const std::optional<SucesionModular> &sucesion() const { return m_sucesion; }
 
+protected:
+    void resizeEvent(QResizeEvent *suceso) override;
+
 Q_SIGNALS:
     /// There is another sequence, or none.
     void sucesionCambiada();

@@ -49,6 +49,7 @@ FormRecursion3Hailstone::FormRecursion3Hailstone(Corrida &corrida, QWidget *padr
     traduceVentana(this);
     muestraCalcular(ui->cmdHail);
     Aspecto::destaca(ui->lblPregunta, 1.15);
+    ui->LabelHail->viewport()->setAutoFillBackground(false);
     ui->FlexHail->setModel(&m_modelo);
     ui->FlexHail->setItemDelegate(new PintorDeNumeros(this));
     ui->FlexHail->setTextElideMode(Qt::ElideMiddle);
