@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTextStream>
 #include <QTimer>
 
@@ -83,7 +84,7 @@ private:
         }
         espera(50ms);
         if (escena.durante) {
-            QTimer::singleShot(500ms, leccion, [this, leccion, &escena] {
+            QTimer::singleShot(escena.tras, leccion, [this, leccion, &escena] {
                 retrata(m_principal, escena.nombre);
                 leccion->detenCorrida();
             });
@@ -108,6 +109,8 @@ private:
             boton->click();
         else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
             escribe(*rejilla, paso.valor);
+        else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
+            pestanas->setCurrentIndex(paso.valor.toInt());
         else
             qWarning("no such control in the scene: %s", qPrintable(paso.control));
     }

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <chrono>
 #include <functional>
 
 class FormLeccion;
@@ -20,7 +21,8 @@ struct Leccion
 struct Paso
 {
     QString control; ///< objectName of a control of the window
-    QString valor;   ///< the text to write, in a grid "row,column:text"; or empty for a click
+    /// The text to write, in a grid "row,column:text"; the index of a tab; or empty for a click.
+    QString valor;
 };
 
 /// A picture of the gallery: a lesson, one of its topics, and the steps before the picture is
@@ -33,6 +35,8 @@ struct Escena
     QList<Paso> pasos = {};
     /// The last step starts a run: the picture is taken while it runs, and then it is stopped.
     bool durante = false;
+    /// How long after its start the picture of a run is taken; 0 for a run that is over at once.
+    std::chrono::milliseconds tras{1500};
 };
 
 /// What the program is made of. `main.cpp` writes it down; the shell knows no lesson by name.
