@@ -17,8 +17,10 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSettings>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 
@@ -134,6 +136,9 @@ private:
 
 int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
 {
+    // Windows that are closed note their sizes: not among the settings of the user.
+    const QTemporaryDir ajustes;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ajustes.path());
     QTextStream errores(stderr);
     if (!ExisteFichero(Sesión().carpeta() + u"\\ClipArt\\escudo.avi"_s)) {
         errores << u"No se encuentra la carpeta de trabajo."_s << Qt::endl;
