@@ -21,8 +21,8 @@ class HojaDeCalculo
 public:
     /// The longest expression of a cell, in characters.
     static constexpr int LongitudMaxima = 100'000;
-    /// The longest text that is evaluated after names have been replaced. The service refuses longer
-    /// ones too, but they would first have to be built.
+    /// The longest text that is evaluated after names have been replaced. The service refuses
+    /// longer ones too, but they would first have to be built.
     static constexpr qsizetype LongitudMaximaSustituida = 1'000'000;
 
     HojaDeCalculo();
@@ -88,7 +88,10 @@ private:
 
     static std::size_t lugar(int fila, int columna);
     Casilla &casilla(Celda celda) { return m_casillas[lugar(celda.fila, celda.columna)]; }
-    const Casilla &casilla(Celda celda) const { return m_casillas[lugar(celda.fila, celda.columna)]; }
+    const Casilla &casilla(Celda celda) const
+    {
+        return m_casillas[lugar(celda.fila, celda.columna)];
+    }
 
     void muestra(bool expresiones);
     QString evalua(const QString &expresion) const;

@@ -4,11 +4,11 @@
 
 #include <QList>
 
-// Going through all names for each expression would make a full sheet quadratic. It is enough to look
-// at each letter of the expression once: a name begins with its only letter and no value has one, so
-// replacing a name can neither make nor break an occurrence that begins at another letter. Of the two
-// names that may begin at a letter ("A1" and "A12") the one that comes first in the collection would
-// have been replaced first, and then the letter is gone.
+// Going through all names for each expression would make a full sheet quadratic. It is enough to
+// look at each letter of the expression once: a name begins with its only letter and no value has
+// one, so replacing a name can neither make nor break an occurrence that begins at another letter.
+// Of the two names that may begin at a letter ("A1" and "A12") the one that comes first in the
+// collection would have been replaced first, and then the letter is gone.
 
 namespace {
 

@@ -2,6 +2,9 @@
 
 #include "lessons/primes/EscenasPrimos.h"
 #include "lessons/primes/FormPrimos.h"
+#include "minical/EscenasMiniCal.h"
+#include "minical/FormCalc.h"
+#include "shell/FormPrincipal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -27,7 +30,8 @@ Contenido contenidoDelPrograma()
                            {u"RECURSION"_s, u"Recursión y complejidad"_s, {}},
                            {u"RECURMOD"_s, u"Recursión modular"_s, {}},
                            {u"FUNREC"_s, u"Funciones recursivas"_s, {}}};
-    contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, {}};
+    contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
     contenido.escenas = escenasPrimos(2);
+    contenido.escenas += escenasMiniCal(FormPrincipal::FilaHojaDeCalculo);
     return contenido;
 }

@@ -11,6 +11,7 @@
 #include "shell/Rutas.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -31,6 +32,21 @@ class Callado : public Interlocutor
 public:
     void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
     QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
+    Guardado preguntaSiGuarda(QWidget *, const QString &, const QString &) override
+    {
+        return Guardado::Descartar;
+    }
+    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &,
+                                 const QStringList &) override
+    {
+        return {};
+    }
+    Archivo pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
+                                   const QStringList &) override
+    {
+        return {};
+    }
+    bool pideImpresora(QWidget *, QPrinter &, const QString &) override { return false; }
     void abre(const QString &) override {}
     bool lanzaAlguno(const QList<QStringList> &) override { return true; }
 };
@@ -96,6 +112,17 @@ private:
         espera(20ms);
     }
 
+    /// `valor` is "row column text", counted from 1.
+    static void escribeEnRejilla(QAbstractItemView &rejilla, const QString &valor)
+    {
+        const int fila = valor.section(u' ', 0, 0).toInt();
+        const int columna = valor.section(u' ', 1, 1).toInt();
+        const QModelIndex casilla = rejilla.model()->index(fila - 1, columna - 1);
+        rejilla.setCurrentIndex(casilla);
+        if (const QString texto = valor.section(u' ', 2); !texto.isEmpty())
+            rejilla.model()->setData(casilla, texto);
+    }
+
     static void da(const Paso &paso, const QWidget &ventana)
     {
         auto *control = ventana.findChild<QWidget *>(paso.control);
@@ -103,6 +130,8 @@ private:
             campo->setText(paso.valor);
         else if (auto *texto = qobject_cast<QPlainTextEdit *>(control))
             texto->setPlainText(paso.valor);
+        else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
+            escribeEnRejilla(*rejilla, paso.valor);
         else if (auto *boton = qobject_cast<QAbstractButton *>(control))
             boton->click();
         else

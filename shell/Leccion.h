@@ -20,7 +20,9 @@ struct Leccion
 struct Paso
 {
     QString control; ///< objectName of a control of the window
-    QString valor;   ///< the text to write, or empty for a click
+    /// The text to write, or empty for a click; of a grid "row column text", counted from 1, which
+    /// makes that cell the current one.
+    QString valor;
 };
 
 /// A picture of the gallery: a lesson, one of its topics, and the steps before the picture is

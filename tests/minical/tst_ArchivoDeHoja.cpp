@@ -104,9 +104,7 @@ private Q_SLOTS:
         QTest::addColumn<Motivo>("motivo");
         QTest::addColumn<int>("linea");
         const auto fila = [](const char *nombre, const QByteArray &bytes, Motivo motivo,
-                             int linea) {
-            QTest::newRow(nombre) << bytes << motivo << linea;
-        };
+                             int linea) { QTest::newRow(nombre) << bytes << motivo << linea; };
         fila("nothing", {}, Motivo::NoEsUnaHoja, 0);
         fila("something else", "PK\x03\x04\n", Motivo::NoEsUnaHoja, 1);
         fila("binary without lines", QByteArray(5000, '\xff'), Motivo::NoEsUnaHoja, 0);
