@@ -22,7 +22,8 @@ QList<Paso> hojaDeMuestra()
             en(u"3 4 fib(100)"_s),
             en(u"1 5 1/7"_s),
             Paso{u"ValorDecimal"_s, {}},
-            en(u"2 2 A4^2-2"_s)};
+            en(u"2 2 A4^2-2"_s),
+            en(u"4 1"_s)};
 }
 
 } // namespace

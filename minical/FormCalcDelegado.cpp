@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr auto PropiedadHaciaArriba = "haciaArriba";
+constexpr auto PropiedadSalto = "salto";
 
 /// How far a column is widened to fit its texts, in characters; a number of thousands of digits
 /// would push all others out of sight.
@@ -38,9 +38,9 @@ void ensancha(QLineEdit *editor, int minimo)
 
 } // namespace
 
-bool FormCalcDelegado::haciaArriba(const QWidget *editor)
+int FormCalcDelegado::salto(const QWidget *editor)
 {
-    return editor->property(PropiedadHaciaArriba).toBool();
+    return editor->property(PropiedadSalto).toInt();
 }
 
 QWidget *FormCalcDelegado::createEditor(QWidget *padre, const QStyleOptionViewItem &opcion,
@@ -89,7 +89,9 @@ bool FormCalcDelegado::eventFilter(QObject *objeto, QEvent *suceso)
 {
     if (suceso->type() == QEvent::KeyPress) {
         const auto *tecla = static_cast<QKeyEvent *>(suceso);
-        objeto->setProperty(PropiedadHaciaArriba, tecla->modifiers() == Qt::ShiftModifier);
+        const bool intro = tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter;
+        const int sentido = tecla->modifiers() & Qt::ShiftModifier ? -1 : 1;
+        objeto->setProperty(PropiedadSalto, intro ? sentido : 0);
     }
     return QStyledItemDelegate::eventFilter(objeto, suceso);
 }

@@ -10,8 +10,9 @@ class FormCalcDelegado : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// Where an edit that was ended by Enter leads: up with the Shift key, else down.
-    static bool haciaArriba(const QWidget *editor);
+    /// By how many rows the edit that has ended moves on: one down after Enter, one up after Enter
+    /// with the Shift key, none when it ended otherwise.
+    static int salto(const QWidget *editor);
 
     QWidget *createEditor(QWidget *padre, const QStyleOptionViewItem &opcion,
                           const QModelIndex &indice) const override;

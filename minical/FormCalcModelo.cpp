@@ -137,7 +137,8 @@ QVariant FormCalcModelo::headerData(int seccion, Qt::Orientation orientacion, in
 
 Qt::ItemFlags FormCalcModelo::flags(const QModelIndex &indice) const
 {
-    return QAbstractTableModel::flags(indice) | Qt::ItemIsEditable;
+    const Qt::ItemFlags ninguna;
+    return indice.isValid() ? QAbstractTableModel::flags(indice) | Qt::ItemIsEditable : ninguna;
 }
 
 bool FormCalcModelo::setData(const QModelIndex &indice, const QVariant &valor, int papel)

@@ -129,7 +129,7 @@ bool FormCalcRejilla::edit(const QModelIndex &indice, EditTrigger motivo, QEvent
 
 void FormCalcRejilla::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint consejo)
 {
-    const bool arriba = FormCalcDelegado::haciaArriba(editor);
+    const int salto = FormCalcDelegado::salto(editor);
     const QScopedValueRollback<bool> guardia(m_terminando, true);
     // The cell beside it becomes current, but no edit begins there.
     Rejilla::closeEditor(editor, QAbstractItemDelegate::NoHint);
@@ -137,8 +137,8 @@ void FormCalcRejilla::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEdi
         mueve(MoveNext);
     else if (consejo == QAbstractItemDelegate::EditPreviousItem)
         mueve(MovePrevious);
-    else if (consejo == QAbstractItemDelegate::SubmitModelCache)
-        mueveFilas(arriba ? -1 : 1);
+    else if (consejo == QAbstractItemDelegate::SubmitModelCache && salto != 0)
+        mueveFilas(salto);
 }
 
 void FormCalcRejilla::mueve(CursorAction accion)
@@ -164,6 +164,9 @@ void FormCalcRejilla::keyPressEvent(QKeyEvent *suceso)
 {
     const int tecla = suceso->key();
     const bool intro = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+    // The field of an edit lets Enter through; its end comes from the event queue.
+    if (intro && state() == EditingState)
+        return;
     const bool escribe = tecla == Qt::Key_F2 || !suceso->text().trimmed().isEmpty();
     // A new sheet has no current cell yet: the first key goes to A1.
     if (!currentIndex().isValid() && model() && (intro || escribe))
