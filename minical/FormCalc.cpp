@@ -70,11 +70,12 @@ void FormCalc::preparaBarra()
     m_txtPrecision->setObjectName(u"txtPrecisión"_s);
     m_txtPrecision->setFont(letraDeHoja());
     m_txtPrecision->setText(QString::number(Sesión().Precisión()));
-    m_txtPrecision->setToolTip(Traduce(u"Precisión: cifras de los valores decimales, hasta 1000"_s));
+    m_txtPrecision->setToolTip(
+        Traduce(u"Precisión: cifras de los valores decimales, hasta 1000"_s));
     m_txtPrecision->setAccessibleName(Traduce(u"Precisión"_s));
     constexpr int anchoDeMuestra = 9;
-    m_txtPrecision->setMaximumWidth(m_txtPrecision->fontMetrics().horizontalAdvance(
-        QString(anchoDeMuestra, u'0')));
+    m_txtPrecision->setMaximumWidth(
+        m_txtPrecision->fontMetrics().horizontalAdvance(QString(anchoDeMuestra, u'0')));
 
     for (const Orden &orden : ordenes()) {
         if (orden.clave == u"ValidarPrecisión"_s) {

@@ -83,8 +83,7 @@ void FormCalc::abreArchivo(const QString &ruta)
     if (const auto *fallo = std::get_if<FalloDeHoja>(&leida)) {
         interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
                                Traduce(u"No se puede abrir la hoja:"_s) + u'\n' +
-                                   QDir::toNativeSeparators(ruta) + u"\n\n"_s +
-                                   explicacion(*fallo),
+                                   QDir::toNativeSeparators(ruta) + u"\n\n"_s + explicacion(*fallo),
                                titulo());
         return;
     }
@@ -110,9 +109,10 @@ void FormCalc::GuardarComo()
 
 bool FormCalc::guardaComo()
 {
-    const QString propuesta = m_ruta.isEmpty() ? carpetaPropuesta() + u'/' + nombreDeHoja() : m_ruta;
-    const auto elegido = interlocutor().pideArchivoParaGuardar(
-        this, Traduce(u"Guardar la hoja"_s), propuesta, filtrosDeHoja());
+    const QString propuesta =
+        m_ruta.isEmpty() ? carpetaPropuesta() + u'/' + nombreDeHoja() : m_ruta;
+    const auto elegido = interlocutor().pideArchivoParaGuardar(this, Traduce(u"Guardar la hoja"_s),
+                                                               propuesta, filtrosDeHoja());
     return !elegido.ruta.isEmpty() && guardaEn(elegido.ruta);
 }
 

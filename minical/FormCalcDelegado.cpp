@@ -29,8 +29,8 @@ QString loVisible(const QString &texto, int ancho, const QFontMetrics &medidas)
 void ensancha(QLineEdit *editor, int minimo)
 {
     constexpr int margen = 12;
-    const QString visible = loVisible(editor->text(), editor->parentWidget()->width(),
-                                      editor->fontMetrics());
+    const QString visible =
+        loVisible(editor->text(), editor->parentWidget()->width(), editor->fontMetrics());
     const int pide = editor->fontMetrics().horizontalAdvance(visible) + margen;
     const int cabe = editor->parentWidget()->width() - editor->x();
     editor->resize(std::max(minimo, std::min(pide, cabe)), editor->height());

@@ -6,8 +6,8 @@
 
 class HojaDeCalculo;
 
-/// The data cells of a sheet for its grid, headers left out: row 0 and column 0 of the model are A1.
-/// What is written into it is an edit that has ended.
+/// The data cells of a sheet for its grid, headers left out: row 0 and column 0 of the model are
+/// A1. What is written into it is an edit that has ended.
 class FormCalcModelo : public QAbstractTableModel
 {
     Q_OBJECT

@@ -18,8 +18,7 @@ constexpr int PuntosAlAbrir = 24;
 
 } // namespace
 
-FormZoom::FormZoom(QWidget *hoja)
-    : QWidget(hoja, Qt::Tool), ui(std::make_unique<Ui::FormZoom>())
+FormZoom::FormZoom(QWidget *hoja) : QWidget(hoja, Qt::Tool), ui(std::make_unique<Ui::FormZoom>())
 {
     ui->setupUi(this);
     traduceVentana(this);

@@ -19,6 +19,9 @@ public:
         m_ventana->resize(900, 600);
         m_ventana->show();
         m_ventana->activateWindow();
+        // Shortcuts need an active window.
+        if (!QTest::qWaitForWindowActive(m_ventana.get()))
+            qFatal("the window does not become active");
         m_rejilla = control<QTableView>(m_ventana.get(), QStringLiteral("FlexCalc"));
         m_rejilla->setFocus();
     }
@@ -35,8 +38,8 @@ public:
     QString texto(QStringView nombre) const { return indice(nombre).data().toString(); }
     QString actual() const
     {
-        return NombreCelda({m_rejilla->currentIndex().row() + 1,
-                            m_rejilla->currentIndex().column() + 1});
+        return NombreCelda(
+            {m_rejilla->currentIndex().row() + 1, m_rejilla->currentIndex().column() + 1});
     }
     void ve(QStringView nombre) { m_rejilla->setCurrentIndex(indice(nombre)); }
 
@@ -69,7 +72,10 @@ public:
     }
     void boton(const QString &clave) { control<QAbstractButton>(ventana(), clave)->click(); }
 
-    QPoint lugar(QStringView nombre) const { return m_rejilla->visualRect(indice(nombre)).center(); }
+    QPoint lugar(QStringView nombre) const
+    {
+        return m_rejilla->visualRect(indice(nombre)).center();
+    }
     void pincha(QStringView nombre, Qt::MouseButton con = Qt::LeftButton)
     {
         QTest::mouseClick(m_rejilla->viewport(), con, {}, lugar(nombre));

@@ -143,13 +143,16 @@ private Q_SLOTS:
         m->entra(u"B3", u"1/2"_s);
         m->pincha(u"B3", Qt::RightButton);
         QCOMPARE(m->actual(), u"B3"_s);
+        QVERIFY(m->editor());
         QCOMPARE(m->editor()->text(), u"1/2"_s);
         // A click on another cell takes what has been typed.
         m->editor()->setText(u"1/4"_s);
         m->pincha(u"C1");
         QCOMPARE(m->texto(u"B3"), u"1/4"_s);
         QCOMPARE(m->actual(), u"C1"_s);
+        m->pincha(u"B3");
         QTest::mouseDClick(m->rejilla()->viewport(), Qt::LeftButton, {}, m->lugar(u"B3"));
+        QVERIFY(m->editor());
         QCOMPARE(m->editor()->text(), u"1/4"_s);
         m->pulsa(Qt::Key_Escape);
         for (const auto boton : {Qt::LeftButton, Qt::RightButton}) {
