@@ -14,6 +14,8 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMenu>
+#include <QShowEvent>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -30,6 +32,15 @@ FormCalc::FormCalc(QWidget *padre) : FormLeccion(u"MiniCal.html"_s, padre)
 }
 
 FormCalc::~FormCalc() = default;
+
+void FormCalc::showEvent(QShowEvent *suceso)
+{
+    FormLeccion::showEvent(suceso);
+    // The keys go to the sheet as soon as the window is open; while it opens, its frame takes the
+    // focus for itself.
+    if (!suceso->spontaneous())
+        QTimer::singleShot(0, m_rejilla, qOverload<>(&QWidget::setFocus));
+}
 
 void FormCalc::preparaHoja()
 {

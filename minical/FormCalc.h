@@ -26,6 +26,7 @@ public:
 protected:
     QAbstractButton *botonDeParada() const override;
     bool permiteCerrar() override;
+    void showEvent(QShowEvent *suceso) override;
     void closeEvent(QCloseEvent *suceso) override;
 
 private:

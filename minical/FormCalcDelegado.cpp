@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -51,7 +52,6 @@ QWidget *FormCalcDelegado::createEditor(QWidget *padre, const QStyleOptionViewIt
     editor->setAccessibleName(Traduce(u"Expresión de la celda"_s));
     editor->setFont(padre->font());
     editor->setMaxLength(HojaDeCalculo::LongitudMaxima);
-    editor->setFrame(false);
     editor->setAutoFillBackground(true);
     editor->setMinimumHeight(opcion.rect.height());
     QObject::connect(editor, &QLineEdit::textChanged, editor,
@@ -64,6 +64,18 @@ void FormCalcDelegado::updateEditorGeometry(QWidget *editor, const QStyleOptionV
 {
     editor->setGeometry(opcion.rect);
     ensancha(static_cast<QLineEdit *>(editor), opcion.rect.width());
+}
+
+void FormCalcDelegado::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
+                             const QModelIndex &indice) const
+{
+    QStyledItemDelegate::paint(pintor, opcion, indice);
+    // The style's own lines cannot be seen on a dark ground.
+    pintor->save();
+    pintor->setPen(opcion.palette.color(QPalette::Mid));
+    pintor->drawLine(opcion.rect.topRight(), opcion.rect.bottomRight());
+    pintor->drawLine(opcion.rect.bottomLeft(), opcion.rect.bottomRight());
+    pintor->restore();
 }
 
 QSize FormCalcDelegado::sizeHint(const QStyleOptionViewItem &opcion,

@@ -18,6 +18,8 @@ public:
                           const QModelIndex &indice) const override;
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &opcion,
                               const QModelIndex &indice) const override;
+    void paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
+               const QModelIndex &indice) const override;
     QSize sizeHint(const QStyleOptionViewItem &opcion, const QModelIndex &indice) const override;
 
 protected:

@@ -24,6 +24,7 @@ FormCalcRejilla::FormCalcRejilla(QWidget *padre) : Rejilla(padre)
     setFont(letraDeHoja());
     setItemDelegate(new FormCalcDelegado(this));
     setAlternatingRowColors(false);
+    setShowGrid(false);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setTabKeyNavigation(true);
     setVerticalScrollMode(ScrollPerPixel);

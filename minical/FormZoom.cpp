@@ -15,6 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int PuntosAlAbrir = 24;
+/// How far from the corner, in pixels: the scroll bars stay free.
+constexpr int Rincon = 24;
 
 } // namespace
 
@@ -23,7 +25,12 @@ FormZoom::FormZoom(QWidget *hoja) : QWidget(hoja, Qt::Tool), ui(std::make_unique
     ui->setupUi(this);
     traduceVentana(this);
     setWindowIcon(Icono(u"ZOOM"_s));
+    // The keys stay with the sheet, whose cells are what one looks at here.
+    setAttribute(Qt::WA_ShowWithoutActivating);
     resize(hoja->size() / 3);
+    // In the corner of the sheet where it hides the least of what is in use.
+    move(hoja->mapToGlobal(hoja->rect().bottomRight()) - rect().bottomRight() -
+         QPoint(Rincon, Rincon));
     ui->txtZoom->setFont(letraDeHoja());
     // Nothing but an arbitrary place breaks a number.
     ui->txtZoom->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
