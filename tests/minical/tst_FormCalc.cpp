@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QTabBar>
+#include <QTextBrowser>
 #include <QToolBar>
 
 using namespace Qt::Literals::StringLiterals;
@@ -281,12 +282,28 @@ private Q_SLOTS:
         QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"Parte de lo que"_s));
     }
 
-    void losEjemplosDeLaAyuda()
+    void laAyuda()
     {
-        control<QTabBar>(m->ventana(), u"tsTema"_s)->setCurrentIndex(1);
-        QVERIFY(control<QWidget>(m->ventana(), u"wbIntro"_s)->isVisible());
         QTest::keyRelease(m->rejilla(), Qt::Key_F1);
         QCOMPARE(Entorno::grabadora().abiertas, QStringList({(*m)->URL()}));
+    }
+
+    void unEjemploDeLaAyudaSeCopiaEnLaHoja()
+    {
+        auto *temas = control<QTabBar>(m->ventana(), u"tsTema"_s);
+        auto *pagina = control<QTextBrowser>(m->ventana(), u"wbIntro"_s);
+        temas->setCurrentIndex(1);
+        QTextCursor elegido = pagina->document()->find(u"(A1+2/A1)/2"_s);
+        const QTextCursor ultimo = pagina->document()->find(u"(A5+2/A5)/2"_s);
+        QVERIFY(!elegido.isNull() && !ultimo.isNull());
+        elegido.setPosition(elegido.selectionStart());
+        elegido.setPosition(ultimo.selectionEnd(), QTextCursor::KeepAnchor);
+        pagina->setTextCursor(elegido);
+        pagina->copy();
+        temas->setCurrentIndex(0);
+        m->entra(u"A1", u"1"_s);
+        m->pulsa(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(m->texto(u"A6"), u"886731088897/627013566048"_s);
     }
 
 private:
