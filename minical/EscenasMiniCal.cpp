@@ -8,13 +8,21 @@ namespace {
 QList<Paso> hojaDeMuestra()
 {
     const auto en = [](const QString &casillaYTexto) { return Paso{u"FlexCalc"_s, casillaYTexto}; };
-    return {en(u"1 1 1"_s),           en(u"2 1 (A1+2/A1)/2"_s),
-            en(u"3 1 (A2+2/A2)/2"_s), en(u"4 1 (A3+2/A3)/2"_s),
-            en(u"1 3 2^64"_s),        en(u"2 3 100!"_s),
-            en(u"3 3 mcd(240;46)"_s), en(u"1 4 100 mod 7"_s),
-            en(u"2 4 1/(C3-2)"_s),    en(u"3 4 fib(100)"_s),
-            en(u"1 5 1/7"_s),         Paso{u"ValorDecimal"_s, {}},
-            en(u"2 2 A4^2-2"_s),      en(u"4 1"_s)};
+    return {en(u"0,0:1"_s),
+            en(u"1,0:(A1+2/A1)/2"_s),
+            en(u"2,0:(A2+2/A2)/2"_s),
+            en(u"3,0:(A3+2/A3)/2"_s),
+            en(u"0,2:2^64"_s),
+            en(u"1,2:100!"_s),
+            en(u"2,2:mcd(240;46)"_s),
+            en(u"0,3:100 mod 7"_s),
+            en(u"1,3:1/(C3-2)"_s),
+            en(u"2,3:fib(100)"_s),
+            en(u"0,4:1/7"_s),
+            en(u"0,4"_s),
+            Paso{u"ValorDecimal"_s, {}},
+            en(u"1,1:A4^2-2"_s),
+            en(u"3,0"_s)};
 }
 
 } // namespace

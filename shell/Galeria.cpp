@@ -98,7 +98,7 @@ private:
         }
         espera(50ms);
         if (escena.durante) {
-            QTimer::singleShot(1500ms, leccion, [this, leccion, &escena] {
+            QTimer::singleShot(500ms, leccion, [this, leccion, &escena] {
                 retrata(m_principal, escena.nombre);
                 leccion->detenCorrida();
             });
@@ -112,17 +112,6 @@ private:
         espera(20ms);
     }
 
-    /// `valor` is "row column text", counted from 1.
-    static void escribeEnRejilla(QAbstractItemView &rejilla, const QString &valor)
-    {
-        const int fila = valor.section(u' ', 0, 0).toInt();
-        const int columna = valor.section(u' ', 1, 1).toInt();
-        const QModelIndex casilla = rejilla.model()->index(fila - 1, columna - 1);
-        rejilla.setCurrentIndex(casilla);
-        if (const QString texto = valor.section(u' ', 2); !texto.isEmpty())
-            rejilla.model()->setData(casilla, texto);
-    }
-
     static void da(const Paso &paso, const QWidget &ventana)
     {
         auto *control = ventana.findChild<QWidget *>(paso.control);
@@ -130,12 +119,24 @@ private:
             campo->setText(paso.valor);
         else if (auto *texto = qobject_cast<QPlainTextEdit *>(control))
             texto->setPlainText(paso.valor);
-        else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
-            escribeEnRejilla(*rejilla, paso.valor);
         else if (auto *boton = qobject_cast<QAbstractButton *>(control))
             boton->click();
+        else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
+            escribe(*rejilla, paso.valor);
         else
             qWarning("no such control in the scene: %s", qPrintable(paso.control));
+    }
+
+    /// "row,column:text", or "row,column" for the cell to become current; both counted from 0.
+    static void escribe(QAbstractItemView &rejilla, const QString &valor)
+    {
+        const QString casilla = valor.section(u':', 0, 0);
+        const QModelIndex indice = rejilla.model()->index(casilla.section(u',', 0, 0).toInt(),
+                                                          casilla.section(u',', 1).toInt());
+        if (casilla == valor)
+            rejilla.setCurrentIndex(indice);
+        else
+            rejilla.model()->setData(indice, valor.section(u':', 1), Qt::EditRole);
     }
 
     const Contenido &m_contenido;

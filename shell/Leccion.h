@@ -20,8 +20,8 @@ struct Leccion
 struct Paso
 {
     QString control; ///< objectName of a control of the window
-    /// The text to write, or empty for a click; of a grid "row column text", counted from 1, which
-    /// makes that cell the current one.
+    /// The text to write; in a grid "row,column:text", or "row,column" to make that cell the
+    /// current one, both counted from 0; empty for a click.
     QString valor;
 };
 
