@@ -4,6 +4,7 @@
 #include "minical/LineasDeHoja.h"
 #include "shell/ModGlobal.h"
 
+#include <QFileInfo>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPrinter>
@@ -16,6 +17,13 @@ constexpr int Puntos = 10;
 constexpr int MinimoDeCaracteres = 20;
 /// Lines of a page for the title, the number and the space beside the two.
 constexpr int LineasDeMargen = 4;
+
+/// Whether the file of a printer that prints into one can be written.
+bool puedeEscribir(const QPrinter &impresora)
+{
+    const QFileInfo archivo(impresora.outputFileName());
+    return archivo.filePath().isEmpty() || QFileInfo(archivo.absolutePath()).isWritable();
+}
 
 void imprimePagina(QPainter &pintor, const QStringList &lineas, const QString &titulo,
                    const QString &numero)
@@ -36,7 +44,7 @@ void imprimePagina(QPainter &pintor, const QStringList &lineas, const QString &t
 bool imprimeHoja(QPrinter &impresora, const HojaDeCalculo &hoja, const QString &titulo)
 {
     QPainter pintor;
-    if (!pintor.begin(&impresora))
+    if (!puedeEscribir(impresora) || !pintor.begin(&impresora))
         return false;
     QFont letra = letraDeHoja();
     letra.setPointSize(Puntos);
