@@ -9,6 +9,9 @@
 #include "lessons/recursion/EscenasRecursion.h"
 #include "lessons/recursion/FormRecursion2.h"
 #include "lessons/recursion/FormRecursion3.h"
+#include "minical/EscenasMiniCal.h"
+#include "minical/FormCalc.h"
+#include "shell/FormPrincipal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,8 +37,9 @@ Contenido contenidoDelPrograma()
                            {u"RECURSION"_s, u"Recursión y complejidad"_s, {}},
                            {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>},
                            {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>}};
-    contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, {}};
+    contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
     contenido.escenas = escenasEuclides(1) + escenasPrimos(2) + escenasTCR(5) +
-                        escenasRecursion2(7) + escenasRecursion3(8);
+                        escenasRecursion2(7) + escenasRecursion3(8) +
+                        escenasMiniCal(FormPrincipal::FilaHojaDeCalculo);
     return contenido;
 }

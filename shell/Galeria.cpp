@@ -35,6 +35,21 @@ class Callado : public Interlocutor
 public:
     void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
     QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
+    Guardado preguntaSiGuarda(QWidget *, const QString &, const QString &) override
+    {
+        return Guardado::Descartar;
+    }
+    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &,
+                                 const QStringList &) override
+    {
+        return {};
+    }
+    Archivo pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
+                                   const QStringList &) override
+    {
+        return {};
+    }
+    bool pideImpresora(QWidget *, QPrinter &, const QString &) override { return false; }
     void abre(const QString &) override {}
     bool lanzaAlguno(const QList<QStringList> &) override { return true; }
 };
@@ -117,13 +132,16 @@ private:
             qWarning("no such control in the scene: %s", qPrintable(paso.control));
     }
 
-    /// "row,column:text", both counted from 0.
-    static void escribe(const QAbstractItemView &rejilla, const QString &valor)
+    /// "row,column:text", or "row,column" for the cell to become current; both counted from 0.
+    static void escribe(QAbstractItemView &rejilla, const QString &valor)
     {
         const QString casilla = valor.section(u':', 0, 0);
         const QModelIndex indice = rejilla.model()->index(casilla.section(u',', 0, 0).toInt(),
                                                           casilla.section(u',', 1).toInt());
-        rejilla.model()->setData(indice, valor.section(u':', 1), Qt::EditRole);
+        if (casilla == valor)
+            rejilla.setCurrentIndex(indice);
+        else
+            rejilla.model()->setData(indice, valor.section(u':', 1), Qt::EditRole);
     }
 
     const Contenido &m_contenido;
