@@ -6,6 +6,9 @@
 #include "lessons/euclid/FormEuclides.h"
 #include "lessons/primes/EscenasPrimos.h"
 #include "lessons/primes/FormPrimos.h"
+#include "lessons/recursion/EscenasRecursion.h"
+#include "lessons/recursion/FormRecursion2.h"
+#include "lessons/recursion/FormRecursion3.h"
 #include "minical/EscenasMiniCal.h"
 #include "minical/FormCalc.h"
 #include "shell/FormPrincipal.h"
@@ -32,10 +35,11 @@ Contenido contenidoDelPrograma()
                            {u"RSA"_s, u"Criptografía RSA"_s, {}},
                            {u"TCR"_s, u"Teorema chino del resto"_s, crea<FormTCR>},
                            {u"RECURSION"_s, u"Recursión y complejidad"_s, {}},
-                           {u"RECURMOD"_s, u"Recursión modular"_s, {}},
-                           {u"FUNREC"_s, u"Funciones recursivas"_s, {}}};
+                           {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>},
+                           {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>}};
     contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
     contenido.escenas = escenasEuclides(1) + escenasPrimos(2) + escenasTCR(5) +
+                        escenasRecursion2(7) + escenasRecursion3(8) +
                         escenasMiniCal(FormPrincipal::FilaHojaDeCalculo);
     return contenido;
 }

@@ -17,7 +17,10 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSettings>
 #include <QTabBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 
@@ -98,7 +101,7 @@ private:
         }
         espera(50ms);
         if (escena.durante) {
-            QTimer::singleShot(500ms, leccion, [this, leccion, &escena] {
+            QTimer::singleShot(escena.tras, leccion, [this, leccion, &escena] {
                 retrata(m_principal, escena.nombre);
                 leccion->detenCorrida();
             });
@@ -123,6 +126,8 @@ private:
             boton->click();
         else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
             escribe(*rejilla, paso.valor);
+        else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
+            pestanas->setCurrentIndex(paso.valor.toInt());
         else
             qWarning("no such control in the scene: %s", qPrintable(paso.control));
     }
@@ -149,6 +154,9 @@ private:
 
 int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
 {
+    // Windows that are closed note their sizes: not among the settings of the user.
+    const QTemporaryDir ajustes;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ajustes.path());
     QTextStream errores(stderr);
     if (!ExisteFichero(Sesión().carpeta() + u"\\ClipArt\\escudo.avi"_s)) {
         errores << u"No se encuentra la carpeta de trabajo."_s << Qt::endl;

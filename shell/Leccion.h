@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <chrono>
 #include <functional>
 
 class FormLeccion;
@@ -21,7 +22,7 @@ struct Paso
 {
     QString control; ///< objectName of a control of the window
     /// The text to write; in a grid "row,column:text", or "row,column" to make that cell the
-    /// current one, both counted from 0; empty for a click.
+    /// current one, both counted from 0; the index of a tab; or empty for a click.
     QString valor;
 };
 
@@ -35,6 +36,8 @@ struct Escena
     QList<Paso> pasos = {};
     /// The last step starts a run: the picture is taken while it runs, and then it is stopped.
     bool durante = false;
+    /// How long after its start the picture of a run is taken; 0 for a run that is over at once.
+    std::chrono::milliseconds tras{1500};
 };
 
 /// What the program is made of. `main.cpp` writes it down; the shell knows no lesson by name.

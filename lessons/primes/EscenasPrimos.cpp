@@ -1,6 +1,7 @@
 #include "lessons/primes/EscenasPrimos.h"
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 QList<Escena> escenasPrimos(int fila)
 {
@@ -12,7 +13,8 @@ QList<Escena> escenasPrimos(int fila)
          fila,
          u"criba"_s,
          {{u"txtMaxPrimo"_s, u"10^8"_s}, {u"BtnCriba"_s, {}}},
-         true},
+         true,
+         100ms},
         {u"primos-criba"_s, fila, u"criba"_s, {{u"BtnCriba"_s, {}}}},
         {u"primos-test-vacio"_s, fila, u"test"_s},
         {u"primos-test-compuesto"_s,

@@ -1,0 +1,141 @@
+#include "lessons/recursion/FormRecursion3Hailstone.h"
+
+#include "bignum/ModBignum.h"
+#include "lessons/recursion/BotonDeCalculo.h"
+#include "shell/Aspecto.h"
+#include "shell/Evento.h"
+#include "shell/Formatos.h"
+#include "shell/ModGlobal.h"
+#include "shell/Textos.h"
+#include "ui_FormRecursion3Hailstone.h"
+
+#include <QHeaderView>
+#include <QScopeGuard>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto PasoDePantalla = 50ms;
+
+/// Draws the ends of a long number: measuring thousands of digits a cell would take longer than the
+/// steps between two pictures. Copying takes the whole.
+class PintorDeNumeros : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant &valor, const QLocale &) const override
+    {
+        constexpr int extremo = 200;
+        const QString texto = valor.toString();
+        return texto.size() <= 2 * extremo ? texto
+                                           : texto.left(extremo) + u'…' + texto.right(extremo);
+    }
+};
+
+} // namespace
+
+FormRecursion3Hailstone::FormRecursion3Hailstone(Corrida &corrida, QWidget *padre)
+    : QWidget(padre),
+      ui(std::make_unique<Ui::FormRecursion3Hailstone>()),
+      m_corrida(corrida),
+      m_modelo(m_historia)
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    muestraCalcular(ui->cmdHail);
+    Aspecto::destaca(ui->lblPregunta, 1.15);
+    ui->LabelHail->viewport()->setAutoFillBackground(false);
+    ui->FlexHail->setModel(&m_modelo);
+    ui->FlexHail->setItemDelegate(new PintorDeNumeros(this));
+    ui->FlexHail->setTextElideMode(Qt::ElideMiddle);
+    ui->FlexHail->ponTextoVacio(Traduce(u"Aquí aparecerá la sucesión, un paso por fila"_s));
+    ui->FlexHail->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    auto *cabecera = ui->FlexHail->horizontalHeader();
+    cabecera->setSectionResizeMode(ModeloGranizo::Valor, QHeaderView::Stretch);
+    cabecera->resizeSection(ModeloGranizo::Paso,
+                            fontMetrics().horizontalAdvance(u"000000000000"_s));
+    m_pantalla.setInterval(PasoDePantalla);
+
+    conecta(ui->cmdHail, &QPushButton::clicked, this, &FormRecursion3Hailstone::cmdHail_Click);
+    conecta(ui->TxtInicial, &CampoLargo::returnPressed, this, &FormRecursion3Hailstone::empieza);
+    conecta(&m_pantalla, &QTimer::timeout, this, &FormRecursion3Hailstone::muestraAvance);
+}
+
+FormRecursion3Hailstone::~FormRecursion3Hailstone() = default;
+
+QAbstractButton *FormRecursion3Hailstone::botonDeParada() const
+{
+    return m_calculando ? ui->cmdHail : nullptr;
+}
+
+void FormRecursion3Hailstone::cmdHail_Click()
+{
+    if (!m_calculando) {
+        empieza();
+        return;
+    }
+    ui->LabelHail->clear();
+    m_corrida.detener();
+    m_calculando = false;
+    muestraCalcular(ui->cmdHail);
+}
+
+void FormRecursion3Hailstone::empieza()
+{
+    // A run that was told to stop must see the flag before it is cleared for another.
+    const bool parando = m_corrida.enCurso() && m_corrida.detenida();
+    if (m_calculando || parando)
+        return;
+    m_corrida.permitir();
+    const Corrida::Tramo tramo(m_corrida);
+    const auto alFinal = qScopeGuard([this] { termina(); });
+    ui->LabelHail->clear();
+    m_calculando = true;
+    muestraDetener(ui->cmdHail);
+    m_modelo.reinicia();
+    m_pantalla.start();
+    const QString inicio = ui->TxtInicial->text().trimmed();
+    muestraFin(inicio, correGranizo(inicio, m_historia, m_corrida));
+}
+
+void FormRecursion3Hailstone::termina()
+{
+    muestraAvance();
+    m_pantalla.stop();
+    m_calculando = false;
+    muestraCalcular(ui->cmdHail);
+}
+
+void FormRecursion3Hailstone::muestraAvance()
+{
+    const QScrollBar *barra = ui->FlexHail->verticalScrollBar();
+    const bool alFinal = barra->value() == barra->maximum();
+    m_modelo.publica();
+    if (alFinal)
+        ui->FlexHail->scrollToBottom();
+    ui->lblAvance->setText(Traduce(u"Paso: %1 · Cifras: %2"_s)
+                               .arg(formatoEntero(m_historia.ultimo()),
+                                    formatoEntero(m_historia.valor(m_historia.ultimo()).size())));
+}
+
+void FormRecursion3Hailstone::muestraFin(const QString &inicio, FinDeGranizo fin)
+{
+    switch (fin) {
+    case FinDeGranizo::EnUno:
+        ui->LabelHail->setText(Traduce(u"Con "_s) + inicio + Traduce(u" se llega a 1 en "_s) +
+                               QString::number(m_historia.ultimo()) + Traduce(u" iteraciones."_s));
+        break;
+    case FinDeGranizo::Error:
+        ui->LabelHail->setText(m_historia.ultimo() == 1
+                                   ? Traduce(u"El valor inicial no es un número entero."_s)
+                                   : Traduce(u"El número siguiente tiene demasiadas cifras."_s));
+        break;
+    case FinDeGranizo::Detenido:
+        break;
+    }
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+/// The values of Ackermann's function that are known, as a grid with a column an m and a row an n.
+/// Only what has been written takes memory: a column is as long as its largest n, and the recursion
+/// fills every column from 0 without gaps.
+class MemoriaAck
+{
+public:
+    /// The most rows and the most columns; a view could not draw many more.
+    static constexpr std::int32_t MaximoDeLineas = 1'000'000;
+
+    MemoriaAck(std::int32_t filas, std::int32_t columnas) : m_filas(filas), m_columnas(columnas) {}
+
+    std::int32_t filas() const { return m_filas; }
+    std::int32_t columnas() const { return m_columnas; }
+
+    /// Widens and lengthens the grid until it has the cell. Throws Desbordamiento beyond
+    /// MaximoDeLineas, with the call in the detail.
+    void hazSitio(std::int32_t m, std::int32_t n);
+
+    /// The value of a cell; 0, which the function never takes, when it is empty.
+    std::int32_t lee(std::int32_t m, std::int32_t n) const;
+    void escribe(std::int32_t m, std::int32_t n, std::int32_t valor);
+
+    /// Forgets the values and keeps the size.
+    void vacia();
+
+private:
+    std::int32_t m_filas;
+    std::int32_t m_columnas;
+    std::vector<std::vector<std::int32_t>> m_valores;
+};

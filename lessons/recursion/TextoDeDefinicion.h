@@ -1,0 +1,8 @@
+#pragma once
+
+#include "lessons/recursion/SucesionModular.h"
+
+#include <QString>
+
+/// A definition as a student writes it: "f(n) = 2 f(n-1) - 3 f(n-2),  f(1) = 1,  f(2) = 1".
+QString textoDeDefinicion(const DefinicionRecurrente &definicion);

@@ -1,0 +1,222 @@
+#include "lessons/recursion/FormRecursion2.h"
+#include "shell/Dibujo.h"
+#include "shell/Grafica.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableView>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The lesson on modular recurrences, by its controls.
+class TestFormRecursion2 : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_ventana = std::make_unique<FormRecursión2>();
+        m_modulo = control<QLineEdit>(m_ventana.get(), u"TxtMódulo"_s);
+        m_calcula = control<QPushButton>(m_ventana.get(), u"cmdCalcular"_s);
+        m_inicio = control<QLineEdit>(m_ventana.get(), u"txtInicioPeriodo"_s);
+        m_periodo = control<QLineEdit>(m_ventana.get(), u"TxtPeriodo"_s);
+        m_valores = control<QTableView>(m_ventana.get(), u"FlexValores"_s);
+        m_grafica = control<Grafica>(m_ventana.get(), u"PicFunción"_s);
+    }
+    void cleanup() { m_ventana.reset(); }
+
+    void alAbrir()
+    {
+        QStringList temas;
+        const auto *tsTema = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
+        for (int i = 0; i < tsTema->count(); ++i)
+            temas << tsTema->tabText(i);
+        QCOMPARE(temas.join(u'|'), u"Función|Representación|Valores|Cuestiones"_s);
+        QCOMPARE(m_valores->model()->rowCount(), 0);
+        QCOMPARE(m_valores->toolTip(), u"Pulse para copiar un valor"_s);
+        QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\Recursión2.html"_s));
+    }
+
+    void fibonacciModulo10()
+    {
+        calcula(u"10"_s);
+        QCOMPARE(m_inicio->text(), u"1"_s);
+        QCOMPARE(m_periodo->text(), u"60"_s);
+        QCOMPARE(m_valores->model()->rowCount(), 250);
+        QCOMPARE(valor(60), u"0"_s);
+        QCOMPARE(valor(250), u"5"_s);
+        QCOMPARE(m_grafica->encuadre().visible(), QRectF(0, 0, 250, 9));
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        QCOMPARE(m_modulo->toolTip(), u"10"_s);
+    }
+
+    void elConsejoDelModulo_data()
+    {
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<QString>("consejo");
+        QTest::newRow("number") << u"91"_s << u"91"_s;
+        QTest::newRow("expression") << u"7*13"_s << u"7*13=91"_s;
+        QTest::newRow("mod as typed") << u"100 mod 7"_s << u"100 mod 7=2"_s;
+    }
+    void elConsejoDelModulo()
+    {
+        QFETCH(QString, texto);
+        calcula(texto);
+        QTEST(m_modulo->toolTip(), "consejo");
+    }
+
+    void periodoGrande()
+    {
+        calcula(u"10"_s);
+        calcula(u"1000"_s);
+        const auto mensaje = Entorno::grabadora().unico();
+        QCOMPARE(mensaje.texto,
+                 u"El periodo es mayor que el conjunto de valores que se examina."_s);
+        QCOMPARE(mensaje.titulo, u"Periodo grande"_s);
+        QCOMPARE(mensaje.icono, Interlocutor::Icono::Informacion);
+        QCOMPARE(m_inicio->text() + m_periodo->text(), QString());
+        QCOMPARE(valor(17), u"597"_s);
+    }
+
+    void desbordamiento()
+    {
+        calcula(u"10"_s);
+        const QString consejo = m_modulo->toolTip();
+        calcula(u"2^31-1"_s);
+        QCOMPARE(Entorno::grabadora().unico().texto,
+                 u"Desbordamiento.\nf(48) se sale de los 32 bits con este módulo."_s);
+        QCOMPARE(m_valores->model()->rowCount(), 0);
+        QCOMPARE(m_periodo->text(), QString());
+        QCOMPARE(m_modulo->toolTip(), consejo);
+    }
+
+    void unModuloQueNoLoEsSeIgnora()
+    {
+        calcula(u"10"_s);
+        for (const QString &texto : {u"0"_s, u"-7"_s, u"1/2"_s, u"abc"_s, QString()}) {
+            calcula(texto);
+            QCOMPARE(m_periodo->text(), u"60"_s);
+            QCOMPARE(m_modulo->toolTip(), u"10"_s);
+        }
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+    }
+
+    void otraFuncion()
+    {
+        calcula(u"10"_s);
+        acepta(u"2"_s, u"-1"_s, u"5+5"_s, u"11"_s);
+        QCOMPARE(m_valores->model()->rowCount(), 0);
+        QCOMPARE(m_periodo->text(), QString());
+        calcula(u"100"_s);
+        QCOMPARE(valor(1), u"10"_s);
+        QCOMPARE(valor(250), u"59"_s);
+        QCOMPARE(m_periodo->text(), u"100"_s);
+        // The first values are kept as they were accepted, not reduced by an earlier modulus.
+        calcula(u"7"_s);
+        calcula(u"100"_s);
+        QCOMPARE(valor(1), u"10"_s);
+    }
+
+    void unCampoQueNoValeNoCambiaNada()
+    {
+        m_ventana->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
+        calcula(u"10"_s);
+        acepta(u"2"_s, u"1/2"_s, u"mod"_s, u"1"_s);
+        QCOMPARE(m_ventana->focusWidget(), control<QLineEdit>(m_ventana.get(), u"TxtBeta"_s));
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        QCOMPARE(m_periodo->text(), u"60"_s);
+        calcula(u"10"_s);
+        QCOMPARE(m_periodo->text(), u"60"_s);
+    }
+
+    void alSalirDelCampoUnaSolaVez()
+    {
+        auto *temas = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
+        temas->setCurrentIndex(1);
+        m_ventana->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
+        m_modulo->setFocus();
+        QTest::keyClicks(m_modulo, u"1000"_s);
+        QTest::keyClick(m_modulo, Qt::Key_Tab);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Periodo grande"_s);
+        m_modulo->setFocus();
+        QTest::keyClicks(m_modulo, u"0"_s);
+        QTest::mouseClick(m_calcula, Qt::LeftButton);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Periodo grande"_s);
+        QTest::keyClick(m_modulo, Qt::Key_Return);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Periodo grande"_s);
+        QTest::keyClick(m_modulo, Qt::Key_Tab);
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+    }
+
+    void copiarUnValor()
+    {
+        calcula(u"10000"_s);
+        Entorno::grabadora().mensajes.clear();
+        QApplication::clipboard()->setText(u"antes"_s);
+        Q_EMIT m_valores->clicked(m_valores->model()->index(19, 0));
+        QCOMPARE(QApplication::clipboard()->text(), u"antes"_s);
+        Q_EMIT m_valores->clicked(m_valores->model()->index(19, 1));
+        QCOMPARE(QApplication::clipboard()->text(), u"6.765"_s);
+    }
+
+    void eureka()
+    {
+        auto *temas = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
+        temas->setCurrentIndex(1);
+        m_ventana->show();
+        const auto *luz = control<Dibujo>(m_ventana.get(), u"ImgEureka"_s);
+        QVERIFY(!luz->isVisible());
+        calcula(u"10"_s);
+        QVERIFY(luz->isVisible());
+        QCOMPARE(luz->imagen(), u"EUREKA0"_s);
+        QTRY_COMPARE(luz->imagen(), u"EUREKA2"_s);
+        calcula(u"1000"_s);
+        Entorno::grabadora().mensajes.clear();
+        QVERIFY(!luz->isVisible());
+    }
+
+    void elPuntoSenalado()
+    {
+        calcula(u"10000"_s);
+        Entorno::grabadora().mensajes.clear();
+        for (int i = 0; i < 20; ++i)
+            QTest::keyClick(m_grafica, Qt::Key_Right);
+        QCOMPARE(control<QLabel>(m_ventana.get(), u"lblPunto"_s)->text(), u"f(20) = 6.765"_s);
+    }
+
+private:
+    void calcula(const QString &modulo)
+    {
+        m_modulo->setText(modulo);
+        m_calcula->click();
+    }
+
+    void acepta(const QString &alfa, const QString &beta, const QString &f1, const QString &f2)
+    {
+        control<QLineEdit>(m_ventana.get(), u"txtAlfa"_s)->setText(alfa);
+        control<QLineEdit>(m_ventana.get(), u"TxtBeta"_s)->setText(beta);
+        control<QLineEdit>(m_ventana.get(), u"TxtF1"_s)->setText(f1);
+        control<QLineEdit>(m_ventana.get(), u"txtF2"_s)->setText(f2);
+        control<QPushButton>(m_ventana.get(), u"cmdFunción"_s)->click();
+    }
+
+    QString valor(int n) const { return m_valores->model()->index(n - 1, 1).data().toString(); }
+
+    std::unique_ptr<FormRecursión2> m_ventana;
+    QLineEdit *m_modulo = nullptr, *m_inicio = nullptr, *m_periodo = nullptr;
+    QPushButton *m_calcula = nullptr;
+    QTableView *m_valores = nullptr;
+    Grafica *m_grafica = nullptr;
+};
+
+NUMORA_TEST_MAIN(TestFormRecursion2)
+#include "tst_FormRecursion2.moc"

@@ -1,0 +1,218 @@
+#include "bignum/ErrorEjecucion.h"
+#include "lessons/recursion/EntradaNumerica.h"
+#include "lessons/recursion/ModeloValores.h"
+#include "lessons/recursion/SucesionModular.h"
+#include "lessons/recursion/TextoDeDefinicion.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QAbstractItemModelTester>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+DefinicionRecurrente definicion(qint64 alfa, qint64 beta, qint64 f1, qint64 f2)
+{
+    return {Moneda::deEntero(alfa), Moneda::deEntero(beta), Moneda::deEntero(f1),
+            Moneda::deEntero(f2)};
+}
+
+/// The number of the error that an action ends in; 0 when it ends well.
+template <typename Accion>
+int error(Accion accion)
+{
+    try {
+        accion();
+    } catch (const ErrorEjecucion &e) {
+        return e.numero();
+    }
+    return 0;
+}
+
+} // namespace
+
+/// Linear recurrences modulo m without a window.
+class TestSucesionModular : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { Entorno::limpia(); }
+
+    /// D. D. Wall, "Fibonacci Series Modulo m", Amer. Math. Monthly 67 (1960); sequence A001175 of
+    /// the On-Line Encyclopedia of Integer Sequences.
+    void periodosDePisano()
+    {
+        constexpr int tabla[] = {
+            1,   3,   8,  6,  20,  24,  16,  12,  24,  60,  10,  24,  28,  48,  40,  24,  36,
+            24,  18,  60, 16, 30,  48,  24,  100, 84,  72,  48,  14,  120, 30,  48,  40,  36,
+            80,  24,  76, 18, 56,  60,  40,  48,  88,  30,  120, 48,  32,  24,  112, 300, 72,
+            84,  108, 72, 20, 48,  72,  42,  58,  120, 60,  30,  48,  96,  140, 120, 136, 36,
+            48,  240, 70, 24, 148, 228, 200, 18,  80,  168, 78,  120, 216, 120, 168, 48,  180,
+            264, 56,  60, 44, 120, 112, 48,  120, 96,  180, 48,  196, 336, 120, 300};
+        std::int32_t m = 0;
+        for (const int longitud : tabla) {
+            const auto periodo = SucesionModular(definicion(1, 1, 1, 1), ++m).periodo();
+            const bool cabe = longitud + 1 <= SucesionModular::NumValores - 1;
+            QCOMPARE(periodo.has_value(), cabe);
+            if (cabe)
+                QCOMPARE(*periodo, (PeriodoModular{1, longitud}));
+        }
+    }
+
+    void periodos_data()
+    {
+        QTest::addColumn<qint64>("alfa");
+        QTest::addColumn<qint64>("beta");
+        QTest::addColumn<qint64>("f1");
+        QTest::addColumn<qint64>("f2");
+        QTest::addColumn<int>("m");
+        QTest::addColumn<int>("inicio");
+        QTest::addColumn<int>("longitud");
+        QTest::newRow("one value") << 1LL << 1LL << 1LL << 1LL << 1 << 1 << 1;
+        QTest::newRow("one value before") << 1LL << 2LL << 1LL << 1LL << 12 << 2 << 6;
+        QTest::newRow("powers of 2 modulo 12") << 2LL << 0LL << 1LL << 2LL << 12 << 3 << 2;
+        QTest::newRow("dies out") << 2LL << 0LL << 1LL << 2LL << 1024 << 11 << 1;
+        QTest::newRow("largest found") << 2LL << -1LL << 0LL << 1LL << 248 << 1 << 248;
+        QTest::newRow("one too large") << 2LL << -1LL << 0LL << 1LL << 249 << 0 << 0;
+        QTest::newRow("huge coefficient")
+            << 922'337'203'685'477LL << 0LL << 1LL << 7LL << 10 << 1 << 4;
+        QTest::newRow("all pairs but one") << 2LL << 2LL << 1LL << 1LL << 7 << 1 << 48;
+    }
+    void periodos()
+    {
+        QFETCH(qint64, alfa);
+        QFETCH(qint64, beta);
+        QFETCH(qint64, f1);
+        QFETCH(qint64, f2);
+        QFETCH(int, m);
+        const auto periodo = SucesionModular(definicion(alfa, beta, f1, f2), m)
+                                 .periodo()
+                                 .value_or(PeriodoModular{0, 0});
+        QTEST(periodo.inicio, "inicio");
+        QTEST(periodo.longitud, "longitud");
+    }
+
+    /// What a period is, looked at directly, for many sequences with and without a start.
+    void elPeriodoEsElMenor()
+    {
+        for (int i = 0; i < 2000; ++i) {
+            const int m = 1 + i % 37;
+            const SucesionModular s(definicion(i % 11 - 5, i / 11 % 13 - 6, i % 7, i % 5), m);
+            const auto periodo = s.periodo();
+            if (!periodo)
+                continue;
+            const auto igual = [&](int a, int b) {
+                return s.valor(a) == s.valor(b) && s.valor(a + 1) == s.valor(b + 1);
+            };
+            const auto [inicio, longitud] = *periodo;
+            for (int n = inicio; n + longitud < SucesionModular::NumValores; ++n)
+                QVERIFY(igual(n, n + longitud));
+            for (int corta = 1; corta < longitud; ++corta)
+                QVERIFY(!igual(inicio, inicio + corta));
+            QVERIFY(inicio == 1 || !igual(inicio - 1, inicio - 1 + longitud));
+        }
+    }
+
+    void coeficientesNegativos()
+    {
+        const SucesionModular s(definicion(-3, 2, -1, 25), 10);
+        const QList<int> esperados{9, 5, 3, 1, 3, 3, 7};
+        for (int n = 1; n <= esperados.size(); ++n)
+            QCOMPARE(s.valor(n), esperados.at(n - 1));
+    }
+
+    void elDesbordamiento()
+    {
+        // With all of them m - 1, the first step is 2 (m - 1)^2.
+        const auto calcula = [](std::int32_t m) { SucesionModular(definicion(-1, -1, -1, -1), m); };
+        QCOMPARE(error([&] { calcula(32'768); }), 0);
+        QCOMPARE(error([&] { calcula(32'769); }), int{ErrorEjecucion::Desbordamiento});
+        QCOMPARE(error([&] { calcula(INT_MAX); }), int{ErrorEjecucion::Desbordamiento});
+        QCOMPARE(error([] { SucesionModular(definicion(1, 0, 5, 5), INT_MAX); }), 0);
+    }
+
+    void moduloCero() { QCOMPARE(SucesionModular(definicion(1, 1, 1, 1), 0).valor(1), 0); }
+
+    void elModulo_data()
+    {
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<int>("modulo");
+        QTest::addColumn<int>("numero");
+        QTest::addColumn<bool>("aviso");
+        QTest::newRow("number") << u"10"_s << 10 << 0 << false;
+        QTest::newRow("expression") << u"7*13"_s << 91 << 0 << false;
+        QTest::newRow("with mod") << u"100 mod 7"_s << 2 << 0 << false;
+        QTest::newRow("zero") << u"0"_s << 0 << 0 << false;
+        QTest::newRow("negative") << u"-3"_s << 0 << 0 << false;
+        QTest::newRow("fraction") << u"7/2"_s << 0 << 0 << false;
+        QTest::newRow("empty") << u" "_s << 0 << 0 << false;
+        QTest::newRow("letters") << u"abc"_s << 0 << 0 << false;
+        QTest::newRow("largest") << u"2^31-1"_s << INT_MAX << 0 << false;
+        QTest::newRow("beyond 32 bits") << u"2^31"_s << 0 << 6 << false;
+        QTest::newRow("beyond the bound") << u"922337203685478"_s << 0 << 0 << true;
+        QTest::newRow("begins with mod") << u"mod 5"_s << 0 << 5 << false;
+    }
+    void elModulo()
+    {
+        QFETCH(QString, texto);
+        QFETCH(bool, aviso);
+        std::int32_t modulo = 0;
+        const int numero = error([&] { modulo = evaluaModulo(texto).value_or(0); });
+        QTEST(modulo, "modulo");
+        QTEST(numero, "numero");
+        QCOMPARE(Entorno::grabadora().mensajes.size(), aviso ? 1 : 0);
+        if (aviso) {
+            QCOMPARE(Entorno::grabadora().unico().texto,
+                     u"El mayor número permitido es 922337203685477"_s);
+        }
+    }
+
+    void numerosSueltos_data()
+    {
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<int>("valor");
+        QTest::addColumn<int>("numero");
+        QTest::newRow("plain") << u"5000"_s << 5000 << 0;
+        QTest::newRow("blanks") << u" 7 "_s << 7 << 0;
+        QTest::newRow("half to even, down") << u"2,5"_s << 2 << 0;
+        QTest::newRow("half to even, up") << u"3.5"_s << 4 << 0;
+        QTest::newRow("exponent") << u"1,5e3"_s << 1500 << 0;
+        QTest::newRow("letters") << u"abc"_s << 0 << 13;
+        QTest::newRow("expression") << u"2*3"_s << 0 << 13;
+        QTest::newRow("empty") << QString() << 0 << 13;
+        QTest::newRow("beyond 32 bits") << u"3000000000"_s << 0 << 6;
+        QTest::newRow("beyond fixed point") << u"1e300"_s << 0 << 6;
+    }
+    void numerosSueltos()
+    {
+        QFETCH(QString, texto);
+        int valor = 0;
+        const int numero = error([&] { valor = enteroDeTexto(texto, u"x"_s); });
+        QTEST(valor, "valor");
+        QTEST(numero, "numero");
+    }
+
+    void comoSeEscribe()
+    {
+        QCOMPARE(textoDeDefinicion(definicion(1, 1, 1, 1)),
+                 u"f(n) = f(n-1) + f(n-2),  f(1) = 1,  f(2) = 1"_s);
+        QCOMPARE(textoDeDefinicion(definicion(-2, -3, 0, -5)),
+                 u"f(n) = -2 f(n-1) - 3 f(n-2),  f(1) = 0,  f(2) = -5"_s);
+    }
+
+    void laTabla()
+    {
+        ModeloValores modelo;
+        const QAbstractItemModelTester probador(&modelo);
+        QCOMPARE(modelo.rowCount(), 0);
+        modelo.pon(SucesionModular(definicion(1, 1, 1, 1), 10'000));
+        QCOMPARE(modelo.rowCount(), 250);
+        QCOMPARE(modelo.index(19, 0).data().toString(), u"20"_s);
+        QCOMPARE(modelo.index(19, 1).data().toString(), u"6.765"_s);
+        QCOMPARE(modelo.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), u"f(n)"_s);
+    }
+};
+
+NUMORA_TEST_MAIN(TestSucesionModular)
+#include "tst_SucesionModular.moc"
