@@ -12,8 +12,10 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QShowEvent>
 #include <QTimer>
 #include <QToolBar>
@@ -56,6 +58,7 @@ void FormCalc::preparaHoja()
     auto *columna = new QVBoxLayout(panel);
     columna->setContentsMargins(0, 0, 0, 0);
     columna->addWidget(m_rejilla);
+    columna->addWidget(preparaAviso(panel));
     agregaTema(u"Hoja de cálculo"_s, u"hoja"_s, panel);
 
     conecta(m_modelo, &FormCalcModelo::evaluada, this, [this](Celda celda) {
@@ -67,6 +70,22 @@ void FormCalc::preparaHoja()
     conecta(m_rejilla, &FormCalcRejilla::borrar, this, &FormCalc::FlexCalc_Borrar);
     conecta(m_rejilla, &FormCalcRejilla::pegar, this, &FormCalc::FlexCalc_Pegar);
     conecta(m_rejilla, &FormCalcRejilla::menuPedido, this, &FormCalc::FlexCalc_Menu);
+}
+
+/// What stands below the grid while a long paste is going on.
+QWidget *FormCalc::preparaAviso(QWidget *panel)
+{
+    m_aviso = new QWidget(panel);
+    m_aviso->hide();
+    m_cmdDetener = new QPushButton(ImgStop(), Traduce(u"D&etener"_s), m_aviso);
+    m_cmdDetener->setObjectName(u"cmdDetener"_s);
+    m_cmdDetener->setToolTip(Traduce(u"Deja de pegar; lo pegado se queda"_s));
+    conecta(m_cmdDetener, &QPushButton::clicked, this, [this] { corrida().detener(); });
+    auto *fila = new QHBoxLayout(m_aviso);
+    fila->addWidget(new QLabel(Traduce(u"Calculando lo que se ha pegado…"_s), m_aviso));
+    fila->addStretch();
+    fila->addWidget(m_cmdDetener);
+    return m_aviso;
 }
 
 void FormCalc::preparaBarra()
@@ -100,13 +119,6 @@ void FormCalc::preparaBarra()
     guardar->setPopupMode(QToolButton::MenuButtonPopup);
     guardar->addAction(accion(u"GuardarComo"_s));
     conecta(m_txtPrecision, &QLineEdit::returnPressed, this, &FormCalc::ValidarPrecision);
-
-    auto *parar = new QAction(ImgStop(), Traduce(u"Detener"_s), this);
-    parar->setVisible(false);
-    m_acciones.insert(u"Detener"_s, parar);
-    m_barra->addAction(parar);
-    m_barra->widgetForAction(parar)->setObjectName(u"cmdDetener"_s);
-    conecta(parar, &QAction::triggered, this, [this] { corrida().detener(); });
 }
 
 QAction *FormCalc::agregaOrden(const Orden &orden)
@@ -134,7 +146,7 @@ QAction *FormCalc::agregaOrden(const Orden &orden)
 
 QAbstractButton *FormCalc::botonDeParada() const
 {
-    return qobject_cast<QAbstractButton *>(m_barra->widgetForAction(accion(u"Detener"_s)));
+    return m_cmdDetener;
 }
 
 void FormCalc::Toolbar_ButtonClick(const Orden &orden)

@@ -11,6 +11,7 @@ class FormCalcRejilla;
 class FormZoom;
 class QAction;
 class QLineEdit;
+class QPushButton;
 class QToolBar;
 
 /// The spreadsheet: a grid of exact expressions, its commands, its page of help, and a zoom of the
@@ -36,6 +37,7 @@ private:
     void preparaBarra();
     QAction *agregaOrden(const Orden &orden);
     void preparaHoja();
+    QWidget *preparaAviso(QWidget *panel);
     QAction *accion(const QString &clave) const { return m_acciones.value(clave); }
 
     void Toolbar_ButtonClick(const Orden &orden);
@@ -62,6 +64,7 @@ private:
     void FlexCalc_Menu(const QPoint &donde);
 
     void copia(bool expresiones);
+    void ponPegando(bool pegando);
     void enfocaCambiadas(const QList<Celda> &celdas);
     void alCambiarHoja();
     void actualizaZoom(Celda celda);
@@ -78,6 +81,8 @@ private:
     HojaDeCalculo m_hoja;
     FormCalcModelo *m_modelo = nullptr;
     FormCalcRejilla *m_rejilla = nullptr;
+    QWidget *m_aviso = nullptr;
+    QPushButton *m_cmdDetener = nullptr;
     QToolBar *m_barra = nullptr;
     QLineEdit *m_txtPrecision = nullptr;
     FormZoom *m_zoom = nullptr;

@@ -161,7 +161,8 @@ void FormCalc::Imprimir()
 
 bool FormCalc::confirmaDescarte()
 {
-    if (!m_hoja.historial().modificado())
+    // What is being pasted becomes a step only at its end.
+    if (!m_hoja.historial().modificado() && !corrida().enCurso())
         return true;
     const auto respuesta = interlocutor().preguntaSiGuarda(
         this, Traduce(u"La hoja tiene cambios sin guardar. ¿Quiere guardarlos?"_s), titulo());

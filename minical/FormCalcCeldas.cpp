@@ -11,11 +11,12 @@
 #include "shell/ModGlobal.h"
 #include "shell/TextoDeRejilla.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QToolBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -129,6 +130,20 @@ void FormCalc::FlexCalc_Borrar()
     alCambiarHoja();
 }
 
+/// A large block takes its time: only the stop button answers meanwhile.
+void FormCalc::ponPegando(bool pegando)
+{
+    m_rejilla->setDisabled(pegando);
+    m_barra->setDisabled(pegando);
+    for (QAction *orden : std::as_const(m_acciones))
+        orden->setDisabled(pegando);
+    m_aviso->setVisible(pegando);
+    if (pegando)
+        m_cmdDetener->setFocus();
+    else
+        m_rejilla->setFocus();
+}
+
 void FormCalc::FlexCalc_Pegar()
 {
     const QString texto = QApplication::clipboard()->text();
@@ -138,18 +153,9 @@ void FormCalc::FlexCalc_Pegar()
         m_rejilla->setCurrentIndex(m_modelo->index(0, 0));
     const Corrida::Tramo tramo(corrida());
     corrida().permitir();
-    // A large block takes its time: only the stop button answers meanwhile.
-    for (QAction *orden : std::as_const(m_acciones))
-        orden->setDisabled(orden != accion(u"Detener"_s));
-    m_rejilla->setEnabled(false);
-    accion(u"Detener"_s)->setVisible(true);
-    botonDeParada()->setFocus();
+    ponPegando(true);
     const bool todo = m_hoja.pega(m_rejilla->actual(), bloqueDe(texto), corrida());
-    accion(u"Detener"_s)->setVisible(false);
-    m_rejilla->setEnabled(true);
-    for (QAction *orden : std::as_const(m_acciones))
-        orden->setEnabled(true);
-    m_rejilla->setFocus();
+    ponPegando(false);
     actualizaZoom(m_rejilla->actual());
     alCambiarHoja();
     if (!todo)

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QTabBar>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QToolBar>
 
 using namespace Qt::Literals::StringLiterals;
@@ -280,6 +281,27 @@ private Q_SLOTS:
         m->pulsa(Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(m->texto(u"Y99"), u"2"_s);
         QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"Parte de lo que"_s));
+    }
+
+    void unPegadoLargoSeDetiene()
+    {
+        const QStringList fila(25, u"fib(100000)"_s);
+        QApplication::clipboard()->setText((fila.join(u'\t') + u'\n').repeated(99));
+        QTimer::singleShot(0, m->ventana(), [&] {
+            auto *boton = control<QAbstractButton>(m->ventana(), u"cmdDetener"_s);
+            QVERIFY(boton->isVisible() && boton->hasFocus());
+            QVERIFY(!m->rejilla()->isEnabled());
+            QVERIFY(!control<QAbstractButton>(m->ventana(), u"Abrir"_s)->isEnabled());
+            QTest::keyClick(boton, Qt::Key_Escape);
+        });
+        m->pulsa(Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(!m->texto(u"A1").isEmpty());
+        QCOMPARE(m->texto(u"Y99"), QString());
+        QVERIFY(m->rejilla()->hasFocus());
+        QVERIFY(!control<QAbstractButton>(m->ventana(), u"cmdDetener"_s)->isVisible());
+        QVERIFY(control<QAbstractButton>(m->ventana(), u"Abrir"_s)->isEnabled());
+        m->boton(u"Deshacer"_s);
+        QCOMPARE(m->texto(u"A1"), QString());
     }
 
     void laAyuda()
