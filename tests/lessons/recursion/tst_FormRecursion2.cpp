@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTableView>
@@ -153,6 +154,20 @@ private Q_SLOTS:
         QTest::keyClick(m_modulo, Qt::Key_Return);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"Periodo grande"_s);
         QTest::keyClick(m_modulo, Qt::Key_Tab);
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+    }
+
+    void cerrarNoEsSalirDelCampo()
+    {
+        auto *ventana = m_ventana.release();
+        control<QTabBar>(ventana, u"tsTema"_s)->setCurrentIndex(1);
+        ventana->show();
+        QVERIFY(QTest::qWaitForWindowActive(ventana));
+        m_modulo->setFocus();
+        QTest::keyClicks(m_modulo, u"1000"_s);
+        const QPointer<QWidget> testigo = ventana;
+        ventana->close();
+        QTRY_VERIFY(!testigo);
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
     }
 
