@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QPointer>
 #include <QPushButton>
 #include <QTabBar>
@@ -159,14 +160,17 @@ private Q_SLOTS:
 
     void cerrarNoEsSalirDelCampo()
     {
+        QMdiArea area;
         auto *ventana = m_ventana.release();
+        area.addSubWindow(ventana);
         control<QTabBar>(ventana, u"tsTema"_s)->setCurrentIndex(1);
+        area.show();
         ventana->show();
-        QVERIFY(QTest::qWaitForWindowActive(ventana));
+        QVERIFY(QTest::qWaitForWindowActive(&area));
         m_modulo->setFocus();
         QTest::keyClicks(m_modulo, u"1000"_s);
         const QPointer<QWidget> testigo = ventana;
-        ventana->close();
+        ventana->cierra();
         QTRY_VERIFY(!testigo);
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
     }
