@@ -103,7 +103,7 @@ QSize Grafica::minimumSizeHint() const
 /// Gives axes and plot their places: the axes are as wide as their largest number needs.
 void Grafica::coloca()
 {
-    const int alto = fontMetrics().height() + EjeDeGrafica::Muesca + 4;
+    const int alto = fontMetrics().height() + EjeDeGrafica::Muesca + Aspecto::Espacio;
     const int anchoDeNumero = std::max(
         fontMetrics().horizontalAdvance(formatoEntero(std::llround(m_encuadre.visible().top()))),
         fontMetrics().horizontalAdvance(
@@ -172,9 +172,11 @@ void Grafica::colocaPunto()
     m_punto->setVisible(m_encuadre.lienzo().adjusted(-1, -1, 1, 1).contains(centro));
 }
 
-/// Pans just as far as the marked point needs to be seen.
-void Grafica::muestraPunto()
+/// Marks a point that the keyboard has chosen, and pans just as far as it needs to be seen.
+void Grafica::eligePunto(int indice)
 {
+    m_reglas.oculta();
+    senala(indice);
     const QPointF punto = m_encuadre.aPixel(m_puntos.at(m_senalado));
     const QRectF &l = m_encuadre.lienzo();
     const QPointF cerca(std::clamp(punto.x(), l.left(), l.right()),
@@ -283,12 +285,10 @@ void Grafica::keyPressEvent(QKeyEvent *suceso)
         muestraTodo();
         break;
     case Qt::Key_Left:
-        senala(std::max(0, m_senalado - 1));
-        muestraPunto();
+        eligePunto(std::max(0, m_senalado - 1));
         break;
     case Qt::Key_Right:
-        senala(std::min(ultimo, m_senalado + 1));
-        muestraPunto();
+        eligePunto(std::min(ultimo, m_senalado + 1));
         break;
     default:
         QWidget::keyPressEvent(suceso);

@@ -62,7 +62,7 @@ private:
     void quitaReglas();
     void senala(int indice);
     void colocaPunto();
-    void muestraPunto();
+    void eligePunto(int indice);
     int puntoCercano(qreal x) const;
 
     Encuadre m_encuadre;
