@@ -55,13 +55,14 @@ Moneda Moneda::deEntero(std::int64_t valor)
 
 Moneda Moneda::deReal(double valor)
 {
-    // nearbyint rounds halves to even in the default rounding mode. 2^63 itself is out of range and
-    // exact in a double, so the comparison needs no margin.
-    const double escalado = std::nearbyint(valor * Escala);
-    constexpr double limite = 9223372036854775808.0;
-    if (!(escalado < limite && escalado >= -limite))
+    if (!(std::abs(valor) <= static_cast<double>(MaximoEntero + 1)))
         desborda();
-    return Moneda(static_cast<std::int64_t>(escalado));
+    // Scaled as a whole, a whole number beyond 9·10^11 would be rounded. nearbyint rounds halves to
+    // even in the default rounding mode, and the scale is even, so the sum is rounded so too.
+    const double entero = std::trunc(valor);
+    const double decimales = std::nearbyint((valor - entero) * Escala);
+    return comprobada(Entero128(static_cast<std::int64_t>(entero)) * Escala +
+                      static_cast<std::int64_t>(decimales));
 }
 
 std::optional<Moneda> Moneda::deTexto(QStringView texto)

@@ -32,7 +32,13 @@ public:
     static std::optional<Moneda> deTexto(QStringView texto);
 
     constexpr std::int64_t diezmilesimas() const { return m_valor; }
-    constexpr double real() const { return static_cast<double>(m_valor) / Escala; }
+    /// The value as a double, exact for whole numbers: the ten-thousandths of one beyond 9·10^11
+    /// need more than the 53 bits of a double, so whole part and decimals are converted apart.
+    constexpr double real() const
+    {
+        return static_cast<double>(m_valor / Escala) +
+               static_cast<double>(m_valor % Escala) / Escala;
+    }
     constexpr bool esEntero() const { return m_valor % Escala == 0; }
 
     /// The whole part, toward zero.

@@ -1,5 +1,9 @@
 #include "numora/Lecciones.h"
 
+#include "lessons/congruences/EscenasTCR.h"
+#include "lessons/congruences/FormTCR.h"
+#include "lessons/euclid/EscenasEuclides.h"
+#include "lessons/euclid/FormEuclides.h"
 #include "lessons/primes/EscenasPrimos.h"
 #include "lessons/primes/FormPrimos.h"
 #include "lessons/recursion/EscenasRecursion.h"
@@ -22,15 +26,16 @@ Contenido contenidoDelPrograma()
 {
     Contenido contenido;
     contenido.lecciones = {{u"FIBONACCI"_s, u"Fibonacci"_s, {}},
-                           {u"EUCLIDES"_s, u"Algoritmo de Euclides"_s, {}},
+                           {u"EUCLIDES"_s, u"Algoritmo de Euclides"_s, crea<FormEuclides>},
                            {u"PRIMOS"_s, u"Primos"_s, crea<FormPrimos>},
                            {u"UNIDADES"_s, u"Unidades"_s, {}},
                            {u"RSA"_s, u"Criptografía RSA"_s, {}},
-                           {u"TCR"_s, u"Teorema chino del resto"_s, {}},
+                           {u"TCR"_s, u"Teorema chino del resto"_s, crea<FormTCR>},
                            {u"RECURSION"_s, u"Recursión y complejidad"_s, {}},
                            {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>},
                            {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>}};
     contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, {}};
-    contenido.escenas = escenasPrimos(2) + escenasRecursion2(7) + escenasRecursion3(8);
+    contenido.escenas = escenasEuclides(1) + escenasPrimos(2) + escenasTCR(5) +
+                        escenasRecursion2(7) + escenasRecursion3(8);
     return contenido;
 }

@@ -58,7 +58,9 @@ QSize CampoLargo::minimumSizeHint() const
 void CampoLargo::keyPressEvent(QKeyEvent *suceso)
 {
     if (suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter) {
-        Q_EMIT returnPressed();
+        // A key held down counts once, so that Enter does not start and stop a run in turns.
+        if (!suceso->isAutoRepeat() && !suceso->modifiers().testFlag(Qt::ShiftModifier))
+            Q_EMIT returnPressed();
         return;
     }
     QPlainTextEdit::keyPressEvent(suceso);

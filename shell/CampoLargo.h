@@ -29,7 +29,7 @@ public:
 
 Q_SIGNALS:
     void textoCambiado(const QString &texto);
-    /// Enter was pressed.
+    /// Enter was pressed without Shift.
     void returnPressed();
     /// The field lost the focus after its text had been changed by the user.
     void editingFinished();

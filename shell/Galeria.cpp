@@ -11,13 +11,16 @@
 #include "shell/Rutas.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSettings>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 
@@ -106,10 +109,21 @@ private:
             texto->setPlainText(paso.valor);
         else if (auto *boton = qobject_cast<QAbstractButton *>(control))
             boton->click();
+        else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
+            escribe(*rejilla, paso.valor);
         else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
             pestanas->setCurrentIndex(paso.valor.toInt());
         else
             qWarning("no such control in the scene: %s", qPrintable(paso.control));
+    }
+
+    /// "row,column:text", both counted from 0.
+    static void escribe(const QAbstractItemView &rejilla, const QString &valor)
+    {
+        const QString casilla = valor.section(u':', 0, 0);
+        const QModelIndex indice = rejilla.model()->index(casilla.section(u',', 0, 0).toInt(),
+                                                          casilla.section(u',', 1).toInt());
+        rejilla.model()->setData(indice, valor.section(u':', 1), Qt::EditRole);
     }
 
     const Contenido &m_contenido;
@@ -122,6 +136,9 @@ private:
 
 int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
 {
+    // Windows that are closed note their sizes: not among the settings of the user.
+    const QTemporaryDir ajustes;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ajustes.path());
     QTextStream errores(stderr);
     if (!ExisteFichero(Sesión().carpeta() + u"\\ClipArt\\escudo.avi"_s)) {
         errores << u"No se encuentra la carpeta de trabajo."_s << Qt::endl;

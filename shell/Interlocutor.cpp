@@ -34,13 +34,32 @@ QMessageBox::Icon iconoDeCaja(Interlocutor::Icono icono)
     return QMessageBox::NoIcon;
 }
 
+/// A box does not break words: a number of thousands of digits would make it wider than the screen.
+/// What is longer than a screenful is cut in the middle.
+QString paraLaCaja(QString texto)
+{
+    constexpr qsizetype maximo = 2000;
+    constexpr qsizetype palabra = 70;
+    if (texto.size() > maximo)
+        texto = texto.first(maximo / 2) + u" … "_s + texto.last(maximo / 2);
+    qsizetype seguidos = 0;
+    for (qsizetype i = 0; i < texto.size(); ++i) {
+        seguidos = texto[i].isSpace() ? 0 : seguidos + 1;
+        if (seguidos > palabra) {
+            texto.insert(i, u'\n');
+            seguidos = 0;
+        }
+    }
+    return texto;
+}
+
 } // namespace
 
 Interlocutor::~Interlocutor() = default;
 
 void Interlocutor::mensaje(QWidget *padre, Icono icono, const QString &texto, const QString &titulo)
 {
-    QMessageBox caja(iconoDeCaja(icono), titulo, texto, QMessageBox::Ok, padre);
+    QMessageBox caja(iconoDeCaja(icono), titulo, paraLaCaja(texto), QMessageBox::Ok, padre);
     caja.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     caja.setTextFormat(Qt::PlainText);
     caja.exec();

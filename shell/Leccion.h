@@ -21,7 +21,8 @@ struct Leccion
 struct Paso
 {
     QString control; ///< objectName of a control of the window
-    QString valor;   ///< the text to write, the index of a tab, or empty for a click
+    /// The text to write, in a grid "row,column:text"; the index of a tab; or empty for a click.
+    QString valor;
 };
 
 /// A picture of the gallery: a lesson, one of its topics, and the steps before the picture is

@@ -58,6 +58,9 @@ QString Rejilla::seleccion(FormaDeCopia forma) const
             fila << model()->index(f, c).data().toString();
         filas << fila;
     }
+    // Of a grid to write in, the empty rows at its end are no contents.
+    while (todo && filas.size() > 1 && filas.constLast().join(QString()).isEmpty())
+        filas.removeLast();
     return textoDeRejilla(filas, forma, QLocale().decimalPoint() == u","_s);
 }
 

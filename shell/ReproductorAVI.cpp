@@ -16,6 +16,9 @@
 ReproductorAVI::ReproductorAVI(QWidget *padre) : QWidget(padre)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    m_arranque.setSingleShot(true);
+    m_arranque.setInterval(250);
+    connect(&m_arranque, &QTimer::timeout, this, &ReproductorAVI::arranca);
 }
 
 void ReproductorAVI::carga(const QString &ruta, const QString &imagenFija)
@@ -31,8 +34,16 @@ void ReproductorAVI::reproduce(Modo modo)
 {
     m_modo = modo;
     m_estado = Reproduciendo;
+    if (modo == Modo::UnaVez)
+        arranca();
+    else
+        m_arranque.start();
+}
+
+void ReproductorAVI::arranca()
+{
     preparaMotor();
-    m_motor->setLoops(modo == Modo::Continuo ? QMediaPlayer::Infinite : QMediaPlayer::Once);
+    m_motor->setLoops(m_modo == Modo::Continuo ? QMediaPlayer::Infinite : QMediaPlayer::Once);
     const QString archivo = QDir::current().absoluteFilePath(rutaExistente(m_ruta));
     m_motor->setSource(QUrl::fromLocalFile(archivo));
     m_motor->play();
@@ -41,6 +52,7 @@ void ReproductorAVI::reproduce(Modo modo)
 void ReproductorAVI::para()
 {
     m_estado = Parado;
+    m_arranque.stop();
     if (m_motor)
         m_motor->stop();
 }
@@ -85,6 +97,8 @@ QSize ReproductorAVI::minimumSizeHint() const
 
 void ReproductorAVI::paintEvent(QPaintEvent *)
 {
+    if (m_imagenFija.isEmpty())
+        return; // nothing was loaded yet
     QPainter pintor(this);
     pintor.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const int lado = std::min(width(), height());

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QString>
+#include <QTimer>
 #include <QWidget>
 
 class QMediaPlayer;
@@ -25,6 +26,8 @@ public:
     /// `reproduce`, because starting the media machinery costs more than opening a lesson.
     void carga(const QString &ruta, const QString &imagenFija);
 
+    /// An animation that goes on as long as some work does (`Continuo`) starts after a quarter of a
+    /// second, so that short work does not wait for the media machinery.
     enum class Modo { UnaVez, Continuo };
     void reproduce(Modo modo);
     void para();
@@ -43,6 +46,7 @@ protected:
     void paintEvent(QPaintEvent *suceso) override;
 
 private:
+    void arranca();
     void preparaMotor();
     void fin();
 
@@ -51,6 +55,7 @@ private:
     QImage m_fotograma;
     QMediaPlayer *m_motor = nullptr;
     QVideoSink *m_salida = nullptr;
+    QTimer m_arranque;
     Modo m_modo = Modo::UnaVez;
     int m_estado = Parado;
 };

@@ -1,16 +1,34 @@
 #include "lessons/primes/FormPrimos.h"
 
+#include "lessons/primes/FormPrimosCriba.h"
+#include "lessons/primes/FormPrimosCuestiones.h"
+#include "lessons/primes/FormPrimosFactorizacion.h"
 #include "lessons/primes/FormPrimosTest.h"
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-FormPrimos::FormPrimos(QWidget *padre) : FormLeccion(u"Primos.html"_s, padre)
+FormPrimos::FormPrimos(QWidget *padre)
+    : FormLeccion(u"Primos.html"_s, padre),
+      m_criba(new FormPrimosCriba(this)),
+      m_factorizacion(new FormPrimosFactorizacion(this))
 {
     setObjectName(u"FormPrimos"_s);
     setWindowTitle(Traduce(u"Primos"_s));
     setWindowIcon(Icono(u"PRIMOS"_s));
     agregaIntroduccion(u"Introducción"_s);
+    agregaTema(u"Criba de Eratóstenes"_s, u"criba"_s, m_criba);
     agregaTema(u"Test de primos"_s, u"test"_s, new FormPrimosTest(this));
+    agregaTema(u"Factorización"_s, u"factorizacion"_s, m_factorizacion);
+    agregaTema(u"Cuestiones"_s, u"cuestiones"_s, new FormPrimosCuestiones(this));
+    // The time of a factorization stands in the panel of the sieve as well, to be compared.
+    connect(m_factorizacion, &FormPrimosFactorizacion::tiempoMedido, m_criba,
+            &FormPrimosCriba::muestraTiempo);
+}
+
+QAbstractButton *FormPrimos::botonDeParada() const
+{
+    QAbstractButton *boton = m_criba->botonDeParada();
+    return boton ? boton : m_factorizacion->botonDeParada();
 }

@@ -2,6 +2,9 @@
 
 #include "shell/FormLeccion.h"
 
+class FormPrimosCriba;
+class FormPrimosFactorizacion;
+
 /// The lesson on primes.
 class FormPrimos : public FormLeccion
 {
@@ -9,4 +12,11 @@ class FormPrimos : public FormLeccion
 
 public:
     explicit FormPrimos(QWidget *padre = nullptr);
+
+protected:
+    QAbstractButton *botonDeParada() const override;
+
+private:
+    FormPrimosCriba *m_criba;
+    FormPrimosFactorizacion *m_factorizacion;
 };

@@ -4,6 +4,7 @@
 
 #include <QTest>
 #include <limits>
+#include <random>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -89,6 +90,10 @@ private Q_SLOTS:
             << qint64(922337203685477) << qint64(922337203685476) << qint64(1);
         QTest::newRow("just below a multiple")
             << qint64(3) * 307445734561825 - 1 << qint64(3) << qint64(2);
+        QTest::newRow("by one, where ten-thousandths fill 63 bits")
+            << qint64(461168601842741) << qint64(1) << qint64(0);
+        QTest::newRow("a remainder whose ten-thousandths fill 52 bits")
+            << qint64(900000000000002) << qint64(500000000000001) << qint64(400000000000001);
         QTest::newRow("large prime")
             << qint64(922337203685477) << qint64(999983) << qint64(922337203685477 % 999983);
     }
@@ -98,6 +103,25 @@ private Q_SLOTS:
         QFETCH(qint64, b);
         QFETCH(qint64, resto);
         QCOMPARE(ModCy(Moneda::deEntero(a), Moneda::deEntero(b)), Moneda::deEntero(resto));
+    }
+
+    /// Ten-thousandths of large whole numbers do not fit the mantissa of a double; the numbers
+    /// themselves do, and must come out whole.
+    void losEnterosGrandesSonExactos()
+    {
+        std::mt19937_64 azar(7);
+        std::uniform_int_distribution<qint64> grande(1, Moneda::MaximoEntero);
+        for (int i = 0; i < 20'000; ++i) {
+            const qint64 a = grande(azar), b = grande(azar) >> (i % 48);
+            const Moneda monedaA = Moneda::deEntero(a);
+            QCOMPARE(Moneda::deReal(monedaA.real()), monedaA);
+            if (b == 0)
+                continue;
+            QCOMPARE(ModCy(monedaA, Moneda::deEntero(b)), Moneda::deEntero(a % b));
+            const qint64 multiplo = a - a % b;
+            QCOMPARE(cociente(Moneda::deEntero(multiplo), Moneda::deEntero(b)),
+                     Moneda::deEntero(multiplo / b));
+        }
     }
 
     void dividirPorCero()

@@ -92,7 +92,8 @@ private Q_SLOTS:
         calcula(u"10"_s);
         const QString consejo = m_modulo->toolTip();
         calcula(u"2^31-1"_s);
-        QCOMPARE(Entorno::grabadora().unico().texto, u"Desbordamiento."_s);
+        QCOMPARE(Entorno::grabadora().unico().texto,
+                 u"Desbordamiento.\nf(47) se sale de los 32 bits con este módulo."_s);
         QCOMPARE(m_valores->model()->rowCount(), 0);
         QCOMPARE(m_periodo->text(), QString());
         QCOMPARE(m_modulo->toolTip(), consejo);

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "bignum/Moneda.h"
+
+/// The two trial divisions of the lesson as bare loops, without yields, stop flag or collection:
+/// what the real ones are measured against. Each gives the number of divisors tried.
+long naiveLoop(Moneda n);
+long improvedLoop(Moneda n);

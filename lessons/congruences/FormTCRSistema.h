@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+class ModeloCongruencias;
+
+namespace Ui {
+class FormTCRSistema;
+}
+
+/// The topic with the tool: a system of congruences, posed at random or written by the student, its
+/// solution, and the student's answer.
+class FormTCRSistema : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FormTCRSistema(QWidget *leccion);
+    ~FormTCRSistema() override;
+
+private:
+    void preparaRejilla();
+    bool hayQueResolver();
+    void abreRespuesta();
+    void cierraRespuesta(const QString &solucion);
+    void borraCeldas();
+    void pegaCeldas();
+
+    void cmdProblema1_Click();
+    void cmdResolver1_Click();
+    void cmdSol1_Click();
+    void FlexTCR_Change();
+
+    std::unique_ptr<Ui::FormTCRSistema> ui;
+    ModeloCongruencias *m_modelo;
+};

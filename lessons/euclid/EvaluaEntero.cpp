@@ -1,0 +1,9 @@
+#include "lessons/euclid/EvaluaEntero.h"
+
+#include "bignum/ModBignum.h"
+
+Moneda EvaluaEntero(const QString &expresion, Moneda maximo)
+{
+    const Moneda valor = EvaluaMoneda(expresion, maximo);
+    return valor.esEntero() ? valor : Moneda();
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "lessons/euclid/clsExtMCD.h"
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class FormEuclidesCuestiones;
+}
+
+/// The topic "Cuestiones": find two numbers for which the algorithm makes exactly n divisions.
+class FormEuclidesCuestiones : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FormEuclidesCuestiones(QWidget *leccion);
+    ~FormEuclidesCuestiones() override;
+
+private:
+    void cmdProblema_Click();
+    void muestraVeredicto(bool acierto);
+
+    std::unique_ptr<Ui::FormEuclidesCuestiones> ui;
+    clsExtMCD m_mcd;
+};

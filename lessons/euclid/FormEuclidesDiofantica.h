@@ -1,0 +1,34 @@
+#pragma once
+
+#include "lessons/euclid/EcuacionDiofantica.h"
+
+#include <QWidget>
+#include <memory>
+
+class ModeloSoluciones;
+class QLineEdit;
+
+namespace Ui {
+class FormEuclidesDiofantica;
+}
+
+/// The topic "Ecuación diofántica": all ways to change an amount into notes of two values, found
+/// anew at every change of a field.
+class FormEuclidesDiofantica : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FormEuclidesDiofantica(QWidget *leccion);
+    ~FormEuclidesDiofantica() override;
+
+private:
+    void muestra(const SolucionesDiofanticas &soluciones);
+    void ResuelveEcuacion();
+    void txtN_Change(int indice);
+
+    std::unique_ptr<Ui::FormEuclidesDiofantica> ui;
+    QList<QLineEdit *> m_txtN; ///< a, b, c
+    ModeloSoluciones *m_modelo;
+    EcuacionDiofantica m_ecuacion;
+};

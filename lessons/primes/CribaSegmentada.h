@@ -1,0 +1,66 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <vector>
+
+class Corrida;
+
+/// The sieve of Eratosthenes over the numbers 6k ± 1, in blocks of 1000 values of k: a block of
+/// 2000 candidates is listed, then the multiples of each prime found so far are struck out of it,
+/// so that earlier blocks are never looked at again. (Carter Bays and Richard Hudson, "The
+/// segmented sieve of Eratosthenes and primes in arithmetic progressions to 10^12", 1977, for the
+/// segments.)
+class CribaSegmentada
+{
+public:
+    static constexpr int ValoresPorBloque = 1000;
+
+    /// Told how much of the range has been listed, in percent, whenever that grows.
+    using Avance = std::function<void(int porcentaje)>;
+
+    /// Lists the primes up to `limite`, at most 2^32 - 6001, yielding once for each k and once for
+    /// each prime that strikes. 2 and 3 are always listed, even beyond the limit. The list keeps
+    /// what a stopped run had listed.
+    void criba(std::int64_t limite, Corrida &corrida, const Avance &avance);
+
+    /// The numbers listed, ascending. After a run that was stopped the last block may hold
+    /// composites that were not struck yet.
+    const std::vector<std::uint32_t> &numeros() const { return m_numeros; }
+
+    /// The numbers at the beginning of the list that are certainly primes; all of them after a run
+    /// that was not stopped.
+    std::span<const std::uint32_t> primos() const { return std::span(m_numeros).first(m_seguros); }
+
+private:
+    static constexpr std::size_t CandidatosPorBloque = 2 * ValoresPorBloque;
+
+    /// A prime that strikes, and where it goes on: the places, counted over all blocks, of its next
+    /// multiples by 6m - 1 and by 6m + 1.
+    struct Tachador
+    {
+        std::uint64_t primo;
+        std::array<std::uint64_t, 2> lugares;
+    };
+
+    void generaBloque(std::int64_t limite, Corrida &corrida);
+    void cribaBloque(std::int64_t limite, Corrida &corrida, const Avance &avance);
+    void informa(std::uint64_t fin, std::uint64_t limite, const Avance &avance);
+    std::uint64_t primo(std::size_t orden, std::size_t &lugar) const;
+    static Tachador tachadorDe(std::uint64_t primo);
+    void tacha(Tachador &tachador);
+    std::uint64_t ultimo() const;
+    void vuelcaBloque(std::uint64_t cotaDeSeguros);
+
+    std::vector<std::uint32_t> m_numeros;
+    std::vector<Tachador> m_tachadores;
+    std::size_t m_seguros = 0;
+
+    // The block in work: its candidates are 6k - 1, 6k + 1 for k from m_k on.
+    std::array<bool, CandidatosPorBloque> m_vivo{};
+    std::size_t m_candidatos = 0; ///< those that do not exceed the limit
+    std::uint64_t m_k = 1;
+    std::uint64_t m_porcentaje = 0;
+};

@@ -1,0 +1,71 @@
+#include "lessons/primes/DivisionTentativa.h"
+
+#include "bignum/ErrorEjecucion.h"
+#include "shell/Corrida.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+const Moneda Cero, Uno = Moneda::deEntero(1), Dos = Moneda::deEntero(2), Tres = Moneda::deEntero(3);
+
+void extrae(Moneda &n, Moneda primo, ColFactores &factores)
+{
+    while (ModCy(n, primo) == Cero) {
+        factores.Add(primo, 1);
+        n = cociente(n, primo);
+    }
+}
+
+std::int16_t siguiente(std::int16_t paso)
+{
+    if (paso == std::numeric_limits<std::int16_t>::max())
+        throw ErrorEjecucion(ErrorEjecucion::Desbordamiento);
+    return static_cast<std::int16_t>(paso + 1);
+}
+
+} // namespace
+
+ColFactores FactorizaIngenuo(Moneda &n, Corrida &corrida)
+{
+    ColFactores factores;
+    Moneda d = Dos;
+    while (n > Uno && !corrida.detenida()) {
+        corrida.ceder();
+        if (ModCy(n, d) != Cero) {
+            d = d == Dos ? Tres : d + Dos;
+        } else {
+            factores.Add(d, 1);
+            n = cociente(n, d);
+        }
+    }
+    return factores;
+}
+
+ColFactores FactorizaMejorado(Moneda n, Corrida &corrida)
+{
+    ColFactores factores;
+    if (n < Uno)
+        return factores;
+    extrae(n, Dos, factores);
+    extrae(n, Tres, factores);
+    Moneda d = Moneda::deEntero(5);
+    std::int16_t k = 0;
+    while (n > Uno) {
+        corrida.ceder();
+        if (std::sqrt(n.real()) < d.real()) {
+            factores.Add(n, 1);
+            break;
+        }
+        if (ModCy(n, d) == Cero) {
+            factores.Add(d, 1);
+            n = cociente(n, d);
+            continue;
+        }
+        // From 6m - 1 to 6m + 1 it is two, from there to the next 6m - 1 four.
+        d = d + Moneda::deEntero(k % 2 == 0 ? 2 : 4);
+        k = siguiente(k);
+    }
+    return factores;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "bignum/Moneda.h"
+#include "lessons/primes/ColFactores.h"
+
+class Corrida;
+
+/// Factors a whole number by all divisors 2, 3, 5, 7, 9, …, without the bound of the square root:
+/// for a prime it tries every odd number up to itself, which is what the student is to see. `n` is
+/// divided down in place. A stopped run gives the factors found so far. For n < 2 there are none.
+ColFactores FactorizaIngenuo(Moneda &n, Corrida &corrida);
+
+/// Factors a whole number by 2, 3 and the numbers 6m ± 1 up to its square root (Leonardo of Pisa,
+/// "Liber Abaci", 1202, for the bound). The stop flag is not looked at. For n < 1 there are none.
+/// Throws Desbordamiento at the 32 768th divisor (98305) that does not divide, because the steps
+/// are counted in 16 bits.
+ColFactores FactorizaMejorado(Moneda n, Corrida &corrida);

@@ -1,0 +1,188 @@
+#include "lessons/congruences/FormTCR.h"
+#include "shell/CampoLargo.h"
+#include "shell/Rejilla.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QClipboard>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The window of the Chinese remainder theorem, by its controls.
+class TestFormTCR : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_ventana = std::make_unique<FormTCR>();
+        m_ventana->resize(960, 600);
+        m_ventana->show();
+        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(1);
+        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
+        m_rejilla = control<Rejilla>(m_ventana.get(), u"FlexTCR"_s);
+        m_ecuaciones = control<QLineEdit>(m_ventana.get(), u"txtNumEcuaciones"_s);
+        m_solucion = control<CampoLargo>(m_ventana.get(), u"txtSol1"_s);
+        m_comprueba = control<QPushButton>(m_ventana.get(), u"cmdSol1"_s);
+        m_plantea = control<QPushButton>(m_ventana.get(), u"cmdProblema1"_s);
+        m_resuelve = control<QPushButton>(m_ventana.get(), u"cmdResolver1"_s);
+    }
+    void cleanup() { m_ventana.reset(); }
+
+    void alAbrir()
+    {
+        QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\TCR.html"_s));
+        QVERIFY(!control<QTimer>(m_ventana.get(), u"TimerTCR"_s)->isActive());
+        QVERIFY(!m_comprueba->icon().isNull());
+        QCOMPARE(m_rejilla->model()->headerData(0, Qt::Horizontal).toString(), u"n da resto"_s);
+        QCOMPARE(m_rejilla->model()->headerData(1, Qt::Horizontal).toString(),
+                 u"al dividirlo entre"_s);
+        m_resuelve->click();
+        m_comprueba->click();
+        QCOMPARE(m_solucion->text(), QString());
+        QVERIFY(m_comprueba->isEnabled());
+    }
+
+    void planteaYResuelve()
+    {
+        m_ecuaciones->setText(u"6*2"_s);
+        m_plantea->click();
+        QCOMPARE(m_rejilla->model()->rowCount(), 13);
+        QCOMPARE(QApplication::focusWidget(), m_ecuaciones);
+        QTRY_COMPARE(m_rejilla->horizontalScrollBar()->maximum(), 0);
+        m_resuelve->click();
+        QVERIFY(m_solucion->text().size() > 60);
+        QVERIFY(m_solucion->isReadOnly() && !m_comprueba->isEnabled());
+        QCOMPARE(m_solucion->viewport()->backgroundRole(), QPalette::Button);
+        m_ecuaciones->setText(u"1"_s);
+        m_plantea->click();
+        QVERIFY(!m_solucion->isReadOnly() && m_comprueba->isEnabled());
+        QCOMPARE(m_solucion->text(), QString());
+        QCOMPARE(m_solucion->viewport()->backgroundRole(), QPalette::Base);
+        QVERIFY(celda(1, 0).data().toString().isEmpty());
+    }
+
+    void cuantasEcuaciones_data()
+    {
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<int>("avisos");
+        QTest::newRow("none") << u"0"_s << 0;
+        QTest::newRow("empty") << QString() << 0;
+        QTest::newRow("negative") << u"-3"_s << 0;
+        QTest::newRow("no number") << u"doce"_s << 0;
+        QTest::newRow("too many") << u"13"_s << 1;
+        QTest::newRow("far too few") << u"-10^30"_s << 0;
+    }
+    void cuantasEcuaciones()
+    {
+        QFETCH(QString, texto);
+        escribe({u"2"_s, u"3"_s});
+        m_ecuaciones->setText(texto);
+        m_plantea->click();
+        QTEST(int(Entorno::grabadora().mensajes.size()), "avisos");
+        QCOMPARE(celda(0, 1).data().toString(), u"3"_s);
+    }
+
+    void filasDelAlumno()
+    {
+        m_rejilla->setCurrentIndex(celda(0, 0));
+        m_rejilla->setFocus();
+        for (const QString &texto : {u"2"_s, u"3"_s, u"3"_s, u"5"_s, u"2"_s, u"7"_s}) {
+            QTest::keyClicks(QApplication::focusWidget(), texto);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        m_rejilla->setFocus();
+        m_resuelve->click();
+        QCOMPARE(m_solucion->text(), u"23"_s);
+        // Another row: the solution that was shown is none of it.
+        escribe({u"1"_s, u"2"_s}, 3);
+        QVERIFY(m_comprueba->isEnabled());
+        QCOMPARE(m_solucion->text(), QString());
+        m_resuelve->click();
+        QCOMPARE(m_solucion->text(), u"23"_s);
+    }
+
+    void sinSolucion()
+    {
+        escribe({u"1"_s, u"6"_s, u"8"_s, u"10"_s});
+        m_resuelve->click();
+        QCOMPARE(m_solucion->text(), u"Error"_s);
+    }
+
+    void filaConDefecto()
+    {
+        escribe({u"2"_s, u"3"_s, u"1"_s, u"0"_s});
+        for (QPushButton *boton : {m_resuelve, m_comprueba}) {
+            boton->click();
+            const auto mensaje = Entorno::grabadora().unico();
+            QCOMPARE(mensaje.titulo, u"Sistema no válido"_s);
+            QCOMPARE(mensaje.texto,
+                     u"Fila 2: El módulo tiene que ser un número entero mayor que 0."_s);
+            QCOMPARE(m_rejilla->currentIndex(), celda(1, 1));
+        }
+        QCOMPARE(m_solucion->text(), QString());
+    }
+
+    /// The button says nothing, whether the answer is right, wrong or no number at all.
+    void comprobarNoDaVeredicto()
+    {
+        escribe({u"2"_s, u"3"_s});
+        for (const QString &respuesta : {u"2"_s, u"5"_s, u"hola"_s}) {
+            m_solucion->setText(respuesta);
+            m_comprueba->click();
+            QCOMPARE(m_solucion->text(), respuesta);
+            QVERIFY(m_comprueba->isEnabled());
+        }
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+    }
+
+    void copiarPegarBorrar()
+    {
+        QApplication::clipboard()->setText(u"2\t3\r\n3\t5\r\n2\t1.001\t9\r\n"_s);
+        m_rejilla->setCurrentIndex(celda(0, 0));
+        m_rejilla->setFocus();
+        QTest::keyClick(m_rejilla, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(celda(2, 1).data(Qt::EditRole).toString(), u"1001"_s);
+        m_rejilla->selectionModel()->select({celda(0, 0), celda(1, 1)},
+                                            QItemSelectionModel::ClearAndSelect);
+        QTest::keyClick(m_rejilla, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), u"2\t3\n3\t5\n"_s);
+        m_rejilla->clearSelection();
+        QCOMPARE(m_rejilla->seleccion(FormaDeCopia::Texto),
+                 u"n da resto\tal dividirlo entre\n2\t3\n3\t5\n2\t1.001\n"_s);
+        m_rejilla->selectionModel()->select({celda(0, 0), celda(1, 1)},
+                                            QItemSelectionModel::ClearAndSelect);
+        QTest::keyClick(m_rejilla, Qt::Key_Delete);
+        QCOMPARE(celda(1, 1).data().toString(), QString());
+        m_resuelve->click();
+        QCOMPARE(m_solucion->text(), u"2"_s);
+    }
+
+private:
+    QModelIndex celda(int fila, int columna) const
+    {
+        return m_rejilla->model()->index(fila, columna);
+    }
+
+    /// Remainders and moduli in turn, from a row on.
+    void escribe(const QStringList &textos, int fila = 0)
+    {
+        for (int i = 0; i < textos.size(); ++i)
+            m_rejilla->model()->setData(celda(fila + i / 2, i % 2), textos[i], Qt::EditRole);
+    }
+
+    std::unique_ptr<FormTCR> m_ventana;
+    Rejilla *m_rejilla = nullptr;
+    QLineEdit *m_ecuaciones = nullptr;
+    CampoLargo *m_solucion = nullptr;
+    QPushButton *m_comprueba = nullptr, *m_plantea = nullptr, *m_resuelve = nullptr;
+};
+
+NUMORA_TEST_MAIN(TestFormTCR)
+#include "tst_FormTCR.moc"

@@ -1,0 +1,311 @@
+#include "lessons/euclid/FormEuclides.h"
+#include "shell/Rejilla.h"
+#include "shell/ReproductorAVI.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QAbstractItemModelTester>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QStringList cabecera(const QAbstractItemModel *modelo)
+{
+    QStringList rotulos;
+    for (int c = 0; c < modelo->columnCount(); ++c)
+        rotulos << modelo->headerData(c, Qt::Horizontal).toString();
+    return rotulos;
+}
+
+QString fila(const QAbstractItemModel *modelo, int f)
+{
+    QStringList celdas;
+    for (int c = 0; c < modelo->columnCount(); ++c)
+        celdas << modelo->index(f, c).data().toString();
+    return celdas.join(u' ');
+}
+
+} // namespace
+
+/// The window of Euclid's algorithm, by its controls.
+class TestFormEuclides : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_ventana = std::make_unique<FormEuclides>();
+        m_ventana->resize(960, 600);
+        m_ventana->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
+        m_rejilla = control<Rejilla>(m_ventana.get(), u"FlexEuclides"_s);
+        m_resultado = control<QLabel>(m_ventana.get(), u"lblExtEuclides"_s);
+        m_algoritmo = control<QToolButton>(control<QStatusBar>(m_ventana.get(), u"StatusBar"_s),
+                                           u"StatusBar_1"_s);
+        m_soluciones = control<Rejilla>(m_ventana.get(), u"FlexEcuación"_s);
+        for (const Rejilla *rejilla : {m_rejilla, m_soluciones})
+            new QAbstractItemModelTester(rejilla->model(), m_ventana.get());
+    }
+    void cleanup() { m_ventana.reset(); }
+
+    void alAbrir()
+    {
+        const auto *temas = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
+        QStringList claves, rotulos;
+        for (int i = 0; i < temas->count(); ++i) {
+            claves << temas->tabData(i).toString();
+            rotulos << temas->tabText(i);
+        }
+        QCOMPARE(claves.join(u' '), u"intro euclides diofantica cuestiones"_s);
+        QCOMPARE(rotulos.join(u'|'),
+                 u"Introducción|Algoritmo de Euclides|Ecuación diofántica|Cuestiones"_s);
+        QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\Euclides.html"_s));
+        QCOMPARE(cabecera(m_rejilla->model()).join(u'|'),
+                 u"Iteración|Dividendo|Divisor|Cociente|Resto|Coef. 1|Coef. 2"_s);
+        QCOMPARE(fila(m_rejilla->model(), 0), u"1 240 46 5 10 1 -5"_s);
+        QCOMPARE(m_resultado->text(), u"(-9) · 240 + 47 · 46 = 2"_s);
+        QCOMPARE(m_algoritmo->text(), u"Algoritmo estándard"_s);
+        QCOMPARE(m_algoritmo->toolTip(), u"Decide si usa o no el método de los restos reducidos"_s);
+        QVERIFY(!m_ventana->RestosReducidos());
+        QCOMPARE(cabecera(m_soluciones->model()).join(u'|'),
+                 u"Sol. Nº|x billetes de importe a|y billetes de importe b"_s);
+    }
+
+    void loTecleadoVuelveAlEditar()
+    {
+        edita(2, u"2^10"_s);
+        QCOMPARE(m_rejilla->model()->index(0, 2).data().toString(), u"1.024"_s);
+        QCOMPARE(m_resultado->text(), u"(-17) · 240 + 4 · 1.024 = 16"_s);
+        QCOMPARE(empiezaAEditar(2)->text(), u"2^10"_s);
+        QTest::keyClick(editor(), Qt::Key_Escape);
+        QTRY_VERIFY(!editor());
+        QCOMPARE(empiezaAEditar(1)->text(), u"240"_s);
+    }
+
+    void soloSeEditanDosCasillas()
+    {
+        const QAbstractItemModel *modelo = m_rejilla->model();
+        for (int f = 0; f < modelo->rowCount(); ++f) {
+            for (int c = 0; c < modelo->columnCount(); ++c)
+                QCOMPARE(modelo->index(f, c).flags().testFlag(Qt::ItemIsEditable),
+                         f == 0 && (c == 1 || c == 2));
+        }
+    }
+
+    void elCambioDeAlgoritmoEsperaALaEdicion()
+    {
+        QTest::mouseClick(m_algoritmo, Qt::LeftButton);
+        QVERIFY(m_ventana->RestosReducidos());
+        QCOMPARE(m_algoritmo->text(), u"Algoritmo de los restos reducidos"_s);
+        QCOMPARE(m_algoritmo->property("Tag").toString(), u"1"_s);
+        QCOMPARE(m_rejilla->model()->rowCount(), 5);
+        QCOMPARE(m_resultado->text(), u"(-9) · 240 + 47 · 46 = 2"_s);
+        edita(1, u"240"_s);
+        QCOMPARE(m_rejilla->model()->rowCount(), 4);
+        QCOMPARE(fila(m_rejilla->model(), 1), u"2 46 10 5 -4 -5 26"_s);
+        QCOMPARE(m_resultado->text(), u"El MCD es 2"_s);
+        QTest::mouseClick(m_algoritmo, Qt::LeftButton);
+        QVERIFY(!m_ventana->RestosReducidos());
+        QCOMPARE(m_algoritmo->property("Tag").toString(), QString());
+        QCOMPARE(m_resultado->text(), u"El MCD es 2"_s);
+    }
+
+    void numerosRechazados_data()
+    {
+        QTest::addColumn<bool>("reducidos");
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<QString>("aviso");
+        QTest::addColumn<QString>("fila1");
+        const QString cero = u" 240 0    "_s;
+        QTest::newRow("largest") << false << u"922337203685477"_s << QString()
+                                 << u"1 240 922.337.203.685.477 0 240 1 0"_s;
+        QTest::newRow("one more") << false << u"922337203685478"_s
+                                  << u"El mayor número permitido es 922337203685477"_s << cero;
+        QTest::newRow("largest, reduced") << true << u"184467440737095"_s << QString()
+                                          << u"1 240 184.467.440.737.095 0 240 1 0"_s;
+        QTest::newRow("one more, reduced")
+            << true << u"184467440737096"_s << u"El mayor número permitido es 184467440737095,4"_s
+            << cero;
+        QTest::newRow("no number") << false << u"hola"_s << QString() << cero;
+        QTest::newRow("empty") << false << QString() << QString() << cero;
+        QTest::newRow("fraction") << false << u"25/2"_s << QString() << cero;
+        QTest::newRow("huge") << false << u"9^9^9^9"_s << QString() << cero;
+        QTest::newRow("mod first")
+            << false << u"mod 5"_s << u"Argumento no válido."_s << u"1 240 46 5 10 1 -5"_s;
+        QTest::newRow("below the range")
+            << false << u"-10^20"_s << u"Desbordamiento."_s << u"1 240 46 5 10 1 -5"_s;
+    }
+    void numerosRechazados()
+    {
+        QFETCH(bool, reducidos);
+        QFETCH(QString, texto);
+        QFETCH(QString, aviso);
+        m_ventana->ponRestosReducidos(reducidos);
+        edita(2, texto);
+        QTEST(fila(m_rejilla->model(), 0), "fila1");
+        if (aviso.isEmpty())
+            QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        else
+            QCOMPARE(Entorno::grabadora().unico().texto, aviso);
+        if (!texto.isEmpty())
+            QCOMPARE(empiezaAEditar(2)->text(), texto);
+    }
+
+    /// The widest table that there can be, at the width of the window when it opens on a small
+    /// screen.
+    void columnasEnterasALaVista()
+    {
+        abreTema(1);
+        edita(1, u"922337203685477"_s);
+        edita(2, u"570035741062561"_s);
+        const QAbstractItemModel *modelo = m_rejilla->model();
+        for (int c = 0; c < modelo->columnCount(); ++c) {
+            const QAbstractItemView *vista = m_rejilla;
+            QTRY_VERIFY(m_rejilla->columnWidth(c) >= vista->sizeHintForColumn(c));
+            QCOMPARE(modelo->index(0, c).data(Qt::TextAlignmentRole).toInt(),
+                     int(Qt::AlignRight | Qt::AlignVCenter));
+        }
+        QCOMPARE(m_rejilla->horizontalScrollBar()->maximum(), 0);
+    }
+
+    void ecuacionAlEscribir()
+    {
+        abreTema(2);
+        const auto *cuenta = control<QLabel>(m_ventana.get(), u"lblSoluciones"_s);
+        const auto *general = control<QPlainTextEdit>(m_ventana.get(), u"TxtSoluciones"_s);
+        QTest::keyClicks(campo(u"txtNº_0"_s), u"6"_s);
+        QCOMPARE(cabecera(m_soluciones->model()).join(u'|'),
+                 u"Sol. Nº|Nº de billetes de 6|y billetes de importe b"_s);
+        QCOMPARE(cuenta->text(), u"Soluciones"_s);
+        QTest::keyClicks(campo(u"txtNº_1"_s), u"5+5"_s);
+        QTest::keyClicks(campo(u"txtNº_2"_s), u"10"_s);
+        QCOMPARE(cabecera(m_soluciones->model()).constLast(), u"Nº de billetes de 5+5"_s);
+        QCOMPARE(cuenta->text(), u"Solución única"_s);
+        QCOMPARE(general->toPlainText(), u"x = 0\ny = 1"_s);
+        QTest::keyClicks(campo(u"txtNº_2"_s), u"0"_s);
+        QCOMPARE(cuenta->text(), u"4 soluciones"_s);
+        QCOMPARE(m_soluciones->model()->rowCount(), 4);
+        QCOMPARE(fila(m_soluciones->model(), 1), u"2 5 7"_s);
+        QTest::keyClicks(campo(u"txtNº_2"_s), u"1"_s);
+        QCOMPARE(cuenta->text(), u"Sin soluciones positivas"_s);
+        QCOMPARE(general->toPlainText(), QString());
+        QCOMPARE(m_soluciones->model()->rowCount(), 0);
+    }
+
+    void listaCortada()
+    {
+        abreTema(2);
+        escribeEcuacion(u"1"_s, u"1"_s, u"2000"_s);
+        QCOMPARE(m_soluciones->model()->rowCount(), 1001);
+        const QString puntos(43, u'·');
+        QCOMPARE(fila(m_soluciones->model(), 500), puntos + u' ' + puntos + u' ' + puntos);
+        QCOMPARE(fila(m_soluciones->model(), 501), u"1.502 1.501 499"_s);
+        QTRY_COMPARE(m_soluciones->horizontalScrollBar()->maximum(), 0);
+    }
+
+    /// Nothing of the numbers before stays in sight.
+    void ecuacionQueDesborda()
+    {
+        escribeEcuacion(u"3"_s, u"5"_s, u"8"_s);
+        campo(u"txtNº_2"_s)->setText(u"10^14"_s);
+        const auto mensaje = Entorno::grabadora().unico();
+        QCOMPARE(mensaje.titulo, u"Error en tiempo de ejecución"_s);
+        QCOMPARE(mensaje.texto, u"Desbordamiento."_s);
+        QCOMPARE(m_soluciones->model()->rowCount(), 0);
+        QCOMPARE(control<QLabel>(m_ventana.get(), u"lblSoluciones"_s)->text(), u"Soluciones"_s);
+    }
+
+    void cuestiones_data()
+    {
+        QTest::addColumn<QString>("a");
+        QTest::addColumn<QString>("b");
+        QTest::addColumn<QString>("n");
+        QTest::addColumn<QString>("veredicto");
+        const QString bien = u"Correcto"_s, mal = u"No es correcto"_s;
+        QTest::newRow("seven") << u"34"_s << u"21"_s << u"7"_s << bien;
+        QTest::newRow("the other way round") << u"21"_s << u"34"_s << u"7"_s << mal;
+        QTest::newRow("44") << u"1836311903"_s << u"1134903170"_s << u"50-6"_s << bien;
+        QTest::newRow("nothing typed") << QString() << u" "_s << QString() << bien;
+        QTest::newRow("no number") << u"hola"_s << u"5"_s << u"1"_s << mal;
+    }
+    void cuestiones()
+    {
+        QFETCH(QString, a);
+        QFETCH(QString, b);
+        QFETCH(QString, n);
+        campo(u"txtP1_0"_s)->setText(a);
+        campo(u"txtP1_1"_s)->setText(b);
+        campo(u"TxtN"_s)->setText(n);
+        control<QPushButton>(m_ventana.get(), u"cmdProblema"_s)->click();
+        const auto *animacion = control<ReproductorAVI>(m_ventana.get(), u"ccrpAnimation"_s);
+        QCOMPARE(animacion->estado(), ReproductorAVI::Reproduciendo);
+        QTEST(control<QLabel>(m_ventana.get(), u"lblVeredicto"_s)->text(), "veredicto");
+    }
+
+    void demasiadasIteraciones()
+    {
+        campo(u"TxtN"_s)->setText(u"101"_s);
+        control<QPushButton>(m_ventana.get(), u"cmdProblema"_s)->click();
+        QCOMPARE(Entorno::grabadora().unico().texto, u"El mayor número permitido es 100"_s);
+    }
+
+private:
+    QLineEdit *campo(const QString &nombre) const
+    {
+        return control<QLineEdit>(m_ventana.get(), nombre);
+    }
+
+    void abreTema(int indice)
+    {
+        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(indice);
+    }
+
+    QLineEdit *editor() const { return m_rejilla->viewport()->findChild<QLineEdit *>(); }
+
+    /// Opens the editor of a cell of the first row as the F2 key does.
+    QLineEdit *empiezaAEditar(int columna)
+    {
+        abreTema(1);
+        m_rejilla->setCurrentIndex(m_rejilla->model()->index(0, columna));
+        m_rejilla->setFocus();
+        QTest::keyClick(m_rejilla, Qt::Key_F2);
+        return editor();
+    }
+
+    void edita(int columna, const QString &texto)
+    {
+        QLineEdit *abierto = empiezaAEditar(columna);
+        abierto->selectAll();
+        if (texto.isEmpty())
+            QTest::keyClick(abierto, Qt::Key_Delete);
+        QTest::keyClicks(abierto, texto);
+        QTest::keyClick(abierto, Qt::Key_Return);
+        QTRY_VERIFY(!editor());
+        QCoreApplication::processEvents();
+    }
+
+    void escribeEcuacion(const QString &a, const QString &b, const QString &c)
+    {
+        campo(u"txtNº_0"_s)->setText(a);
+        campo(u"txtNº_1"_s)->setText(b);
+        campo(u"txtNº_2"_s)->setText(c);
+    }
+
+    std::unique_ptr<FormEuclides> m_ventana;
+    Rejilla *m_rejilla = nullptr, *m_soluciones = nullptr;
+    QLabel *m_resultado = nullptr;
+    QToolButton *m_algoritmo = nullptr;
+};
+
+NUMORA_TEST_MAIN(TestFormEuclides)
+#include "tst_FormEuclides.moc"

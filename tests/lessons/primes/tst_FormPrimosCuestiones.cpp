@@ -1,0 +1,136 @@
+#include "lessons/primes/CuestionDosPrimos.h"
+#include "lessons/primes/FormPrimos.h"
+#include "shell/CampoLargo.h"
+#include "shell/ReproductorAVI.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <set>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The exercise of the lesson: its logic, and its window by the controls.
+class TestFormPrimosCuestiones : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_ventana = std::make_unique<FormPrimos>();
+        m_primos = {control<CampoLargo>(m_ventana.get(), u"txtPrimo_0"_s),
+                    control<CampoLargo>(m_ventana.get(), u"txtPrimo_1"_s)};
+        m_producto = control<CampoLargo>(m_ventana.get(), u"txtProducto"_s);
+        m_veredicto = control<QLabel>(m_ventana.get(), u"lblVeredicto"_s);
+    }
+    void cleanup() { m_ventana.reset(); }
+
+    void digitosPedidos()
+    {
+        std::set<int> vistos;
+        for (int i = 0; i < 400; ++i)
+            vistos.insert(CuestionDosPrimos().digitosPedidos());
+        QVERIFY(*vistos.begin() >= 100 && *vistos.rbegin() <= 200);
+        QVERIFY(vistos.size() > 50);
+    }
+
+    void juicios()
+    {
+        using Juicio = CuestionDosPrimos::Juicio;
+        const CuestionDosPrimos cuestion;
+        const QString justo(cuestion.digitosPedidos(), u'1');
+        const auto cifras = [](int n) { return QString(n, u'7'); };
+        QCOMPARE(cuestion.juzga(cifras(16), cifras(17), justo), Juicio::Acertada);
+        QCOMPARE(cuestion.juzga(cifras(17), cifras(16), justo), Juicio::Acertada);
+        QCOMPARE(cuestion.juzga(cifras(15), cifras(17), justo), Juicio::Lejanos);
+        QCOMPARE(cuestion.juzga(cifras(16), cifras(16), justo + u'0'), Juicio::OtraLongitud);
+    }
+
+    void enunciado()
+    {
+        const QString texto = control<QLabel>(m_ventana.get(), u"LabelEnunciado1"_s)->text();
+        const QRegularExpression forma(
+            u"^Busca dos primos lo mas cercanos posible, de modo que la expresión binaria de su "
+            "producto tenga (1\\d\\d|200) dígitos\\.$"_s);
+        QVERIFY2(forma.match(texto).hasMatch(), qPrintable(texto));
+        QVERIFY(m_producto->isReadOnly());
+    }
+
+    /// sigprimo(2^k) has k + 1 bits and starts with a one and zeros: two of them make a product of
+    /// exactly the sum of the exponents plus one.
+    void respuestaAcertada()
+    {
+        const int pedidos = digitosDelEnunciado();
+        const int mitad = (pedidos - 1) / 2;
+        responde(u"sigprimo(2^%1)"_s.arg(mitad), u"sigprimo(2^%1)"_s.arg(pedidos - 1 - mitad));
+        QCOMPARE(m_producto->text().size(), pedidos);
+        QVERIFY(m_veredicto->text().startsWith(u"✓"_s));
+        QCOMPARE(control<QLabel>(m_ventana.get(), u"LabelProducto"_s)->text(),
+                 u"Expresión binaria del producto: %1 dígitos"_s.arg(pedidos));
+        QCOMPARE(control<ReproductorAVI>(m_ventana.get(), u"ccrpAniEureka"_s)->estado(),
+                 ReproductorAVI::Reproduciendo);
+        m_primos[0]->setText(u"3"_s);
+        QVERIFY(m_veredicto->text().isEmpty());
+    }
+
+    void respuestaErronea()
+    {
+        responde(u"5"_s, u"3"_s);
+        QCOMPARE(m_producto->text(), u"1111"_s);
+        QVERIFY(m_veredicto->text().startsWith(u"✗"_s));
+    }
+
+    void sinPrimo_data()
+    {
+        QTest::addColumn<QString>("primo1");
+        QTest::addColumn<QString>("primo2");
+        QTest::addColumn<int>("foco");
+        QTest::addColumn<QString>("aviso");
+        QTest::newRow("composite") << u"7*13"_s << u"3"_s << 0 << u"El número 91 no es primo"_s;
+        QTest::newRow("second") << u"3"_s << u"2^10"_s << 1 << u"El número 1024 no es primo"_s;
+        QTest::newRow("empty") << u"3"_s << QString() << 1 << QString();
+        QTest::newRow("no expression") << u"3+"_s << u"4"_s << 0 << QString();
+    }
+    void sinPrimo()
+    {
+        QFETCH(QString, primo1);
+        QFETCH(QString, primo2);
+        QFETCH(int, foco);
+        QFETCH(QString, aviso);
+        responde(primo1, primo2);
+        QCOMPARE(m_ventana->focusWidget(), m_primos[static_cast<std::size_t>(foco)]);
+        QVERIFY(m_producto->text().isEmpty());
+        if (aviso.isEmpty()) {
+            QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+            return;
+        }
+        const auto mensaje = Entorno::grabadora().unico();
+        QCOMPARE(mensaje.texto, aviso);
+        QCOMPARE(mensaje.titulo, u"Solución errónea"_s);
+    }
+
+private:
+    int digitosDelEnunciado() const
+    {
+        const QString texto = control<QLabel>(m_ventana.get(), u"LabelEnunciado1"_s)->text();
+        return QRegularExpression(u"\\d+"_s).match(texto).captured().toInt();
+    }
+
+    void responde(const QString &primo1, const QString &primo2)
+    {
+        m_primos[0]->setText(primo1);
+        m_primos[1]->setText(primo2);
+        control<QPushButton>(m_ventana.get(), u"cmdProblema"_s)->click();
+    }
+
+    std::unique_ptr<FormPrimos> m_ventana;
+    std::array<CampoLargo *, 2> m_primos{};
+    CampoLargo *m_producto = nullptr;
+    QLabel *m_veredicto = nullptr;
+};
+
+NUMORA_TEST_MAIN(TestFormPrimosCuestiones)
+#include "tst_FormPrimosCuestiones.moc"
