@@ -31,6 +31,8 @@ class Callado : public Interlocutor
 public:
     void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
     QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
+    QString pideCarpeta(QWidget *, const QString &, const QString &) override { return {}; }
+    bool confirma(QWidget *, const QString &, const QString &) override { return false; }
     void abre(const QString &) override {}
     bool lanzaAlguno(const QList<QStringList> &) override { return true; }
 };

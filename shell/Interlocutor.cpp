@@ -4,8 +4,11 @@
 #include "shell/Rutas.h"
 
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
@@ -49,6 +52,31 @@ void Interlocutor::mensaje(QWidget *padre, Icono icono, const QString &texto, co
 QString Interlocutor::pideTexto(QWidget *padre, const QString &pregunta, const QString &titulo)
 {
     return QInputDialog::getText(padre, titulo, pregunta);
+}
+
+QString Interlocutor::pideCarpeta(QWidget *padre, const QString &pregunta, const QString &inicial)
+{
+    QFileDialog dialogo(padre, Traduce(u"Seleccionar carpeta"_s), rutaExistente(inicial));
+    dialogo.setFileMode(QFileDialog::Directory);
+    dialogo.setOption(QFileDialog::ShowDirsOnly);
+    // The desktop's own dialog has no place for the question.
+    dialogo.setOption(QFileDialog::DontUseNativeDialog);
+    if (auto *rejilla = qobject_cast<QGridLayout *>(dialogo.layout())) {
+        auto *rotulo = new QLabel(pregunta, &dialogo);
+        rotulo->setTextFormat(Qt::PlainText);
+        rotulo->setWordWrap(true);
+        rejilla->addWidget(rotulo, rejilla->rowCount(), 0, 1, rejilla->columnCount());
+    }
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
+}
+
+bool Interlocutor::confirma(QWidget *padre, const QString &pregunta, const QString &titulo)
+{
+    QMessageBox caja(QMessageBox::Question, titulo, pregunta, QMessageBox::Yes | QMessageBox::No,
+                     padre);
+    caja.setDefaultButton(QMessageBox::No);
+    caja.setTextFormat(Qt::PlainText);
+    return caja.exec() == QMessageBox::Yes;
 }
 
 void Interlocutor::abre(const QString &direccion)

@@ -58,6 +58,18 @@ QString Grabadora::pideTexto(QWidget *, const QString &, const QString &)
     return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
 }
 
+QString Grabadora::pideCarpeta(QWidget *, const QString &, const QString &inicial)
+{
+    carpetasPedidas << inicial;
+    return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
+}
+
+bool Grabadora::confirma(QWidget *, const QString &pregunta, const QString &)
+{
+    confirmaciones << pregunta;
+    return respondeSi;
+}
+
 void Grabadora::abre(const QString &direccion)
 {
     abiertas << direccion;

@@ -24,6 +24,9 @@ public:
     QStringList abiertas;        ///< addresses given to the desktop
     QList<QStringList> lanzadas; ///< programs asked for, the first of each list
     QStringList respuestas;      ///< answers to give, in order; empty text when they run out
+    QStringList carpetasPedidas; ///< where the questions for a folder began; answered like the rest
+    QStringList confirmaciones;  ///< questions asked for yes or no
+    bool respondeSi = false;
     bool hayProgramas = true;
 
     /// The only message, which is then forgotten; fails the test when there is none or several.
@@ -31,6 +34,8 @@ public:
 
     void mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo) override;
     QString pideTexto(QWidget *, const QString &, const QString &) override;
+    QString pideCarpeta(QWidget *, const QString &, const QString &inicial) override;
+    bool confirma(QWidget *, const QString &pregunta, const QString &) override;
     void abre(const QString &direccion) override;
     bool lanzaAlguno(const QList<QStringList> &ordenes) override;
 };
