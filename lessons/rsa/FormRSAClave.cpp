@@ -100,9 +100,11 @@ void FormRSAClave::ponEstado(bool bien, const QString &texto)
 void FormRSAClave::muestraVeredicto(bool bien, const QString &mensaje)
 {
     ponEstado(bien, mensaje);
-    if (bien)
+    if (bien) {
+        ui->lblFichero->show();
         ui->lblFichero->setText(Traduce(u"Su clave privada se guarda en %1"_s)
                                     .arg(rutaDePlataforma(m_clave.FicheroClavePrivada())));
+    }
 }
 
 /// Says at each key what a validation would object to, before it is asked for.
