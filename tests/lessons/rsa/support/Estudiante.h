@@ -26,11 +26,13 @@ public:
     }
     QString enBuzon(const QString &nombre) const { return buzon() + u'/' + nombre; }
 
-    /// Writes a file of the mailbox, making its folder.
+    /// Writes a file of the mailbox, making its folder; without the care that costs time.
     void escribe(const QString &nombre, const QByteArray &bytes) const
     {
         QDir().mkpath(QFileInfo(enBuzon(nombre)).absolutePath());
-        escribeArchivo(enBuzon(nombre), bytes);
+        QFile archivo(enBuzon(nombre));
+        if (!archivo.open(QIODevice::WriteOnly) || archivo.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(nombre));
     }
     static QByteArray lee(const QString &ruta) { return leeArchivo(ruta, 100'000'000); }
 
