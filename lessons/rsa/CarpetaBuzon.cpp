@@ -1,9 +1,9 @@
 #include "lessons/rsa/CarpetaBuzon.h"
 
 #include "bignum/ErrorEjecucion.h"
+#include "shell/ModGlobal.h"
 #include "shell/Rutas.h"
 
-#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <algorithm>
@@ -61,8 +61,7 @@ ErrorEjecucion::Numero numeroDeErrno(int codigo)
 
 [[noreturn]] void falla(const QString &ruta, int codigo = errno)
 {
-    throw ErrorEjecucion(numeroDeErrno(codigo),
-                         QDir::toNativeSeparators(ruta) + u'\n' + qt_error_string(codigo));
+    throw ErrorEjecucion(numeroDeErrno(codigo), rutaDePlataforma(ruta));
 }
 
 /// Calls `visita` with each entry of a folder but "." and "..": its name, and whether it is a
@@ -212,8 +211,7 @@ CarpetaBuzon::Descriptor CarpetaBuzon::abreArchivo(const QString &nombre) const
     Descriptor archivo(::openat(fd(), QFile::encodeName(nombreReal(nombre)).constData(),
                                 O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (!archivo.abierto() && errno == ENOENT)
-        throw ErrorEjecucion(ErrorEjecucion::ArchivoNoEncontrado,
-                             QDir::toNativeSeparators(rutaDe(nombre)));
+        throw ErrorEjecucion(ErrorEjecucion::ArchivoNoEncontrado, rutaDePlataforma(rutaDe(nombre)));
     struct stat estado;
     if (!archivo.abierto() || ::fstat(archivo.fd(), &estado) != 0)
         falla(rutaDe(nombre));
@@ -245,7 +243,9 @@ QByteArray CarpetaBuzon::lee(const QString &nombre, qint64 maximo) const
 {
     QByteArray bytes = leePrincipio(nombre, maximo + 1);
     if (bytes.size() > maximo)
-        falla(rutaDe(nombre), EFBIG);
+        throw ErrorEjecucion(ErrorEjecucion::ErrorDeArchivo,
+                             rutaDePlataforma(rutaDe(nombre)) + u'\n' +
+                                 Traduce(u"El archivo es demasiado grande."_s));
     return bytes;
 }
 
