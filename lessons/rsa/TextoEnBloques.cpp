@@ -11,6 +11,17 @@ namespace {
 
 constexpr int CifrasPorCaracter = 3;
 
+QLatin1StringView tresCifras(uchar codigo)
+{
+    static const QByteArray todas = [] {
+        QByteArray cifras;
+        for (int i = 0; i < 256; ++i)
+            cifras += QByteArray::number(i).rightJustified(CifrasPorCaracter, '0');
+        return cifras;
+    }();
+    return QLatin1StringView(todas.constData() + CifrasPorCaracter * codigo, CifrasPorCaracter);
+}
+
 /// The first character that Windows-1252 lacks, and its place counted from 1.
 std::pair<QString, int> primeroInadmisible(const QString &texto)
 {
@@ -54,7 +65,7 @@ QStringList bloquesDeTexto(const QString &texto, int r)
         QString numero;
         numero.reserve(CifrasPorCaracter * r);
         for (const char caracter : QByteArrayView(completo).sliced(inicio, r))
-            numero += u"%1"_s.arg(static_cast<uchar>(caracter), CifrasPorCaracter, 10, QChar(u'0'));
+            numero += tresCifras(static_cast<uchar>(caracter));
         numeros << numero;
     }
     return numeros;
