@@ -27,9 +27,7 @@ constexpr qsizetype CifrasAlVuelo = 700;
 void soloLectura(CampoLargo *campo)
 {
     campo->setReadOnly(true);
-    QPalette paleta = campo->palette();
-    paleta.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
-    campo->setPalette(paleta);
+    campo->viewport()->setBackgroundRole(QPalette::Window);
 }
 
 } // namespace
@@ -89,17 +87,35 @@ void FormRSAClave::muestraClave()
     ui->txtR->setText(QString::number(m_clave.r()));
 }
 
-void FormRSAClave::ponEstado(bool bien, const QString &texto)
+void FormRSAClave::ponEstado(Estado estado, const QString &texto)
 {
-    QPalette paleta = ui->lblEstado->palette();
-    paleta.setColor(QPalette::WindowText, bien ? Aspecto::exito() : Aspecto::error());
+    const QString signo = estado == Estado::Bien  ? u"✓ "_s
+                          : estado == Estado::Mal ? u"✗ "_s
+                                                  : u""_s;
+    m_estado = estado;
+    ui->lblEstado->setText(signo + abreviaNumeros(texto));
+    coloreaEstado();
+}
+
+void FormRSAClave::coloreaEstado()
+{
+    QPalette paleta = palette();
+    if (m_estado != Estado::Neutro)
+        paleta.setColor(QPalette::WindowText,
+                        m_estado == Estado::Bien ? Aspecto::exito() : Aspecto::error());
     ui->lblEstado->setPalette(paleta);
-    ui->lblEstado->setText((bien ? u"✓ "_s : u"✗ "_s) + abreviaNumeros(texto));
+}
+
+void FormRSAClave::changeEvent(QEvent *suceso)
+{
+    QWidget::changeEvent(suceso);
+    if (suceso->type() == QEvent::PaletteChange)
+        coloreaEstado();
 }
 
 void FormRSAClave::muestraVeredicto(bool bien, const QString &mensaje)
 {
-    ponEstado(bien, mensaje);
+    ponEstado(bien ? Estado::Bien : Estado::Mal, mensaje);
     if (bien) {
         ui->lblFichero->show();
         ui->lblFichero->setText(Traduce(u"Su clave privada se guarda en %1"_s)
@@ -120,15 +136,15 @@ void FormRSAClave::muestraObjecion()
     escrita.pons(ui->txtS->text());
     const QString objecion = cabe ? escrita.Objecion() : QString();
     if (!objecion.isEmpty()) {
-        ponEstado(false, objecion);
+        ponEstado(Estado::Mal, objecion);
         return;
     }
-    ui->lblEstado->setPalette(palette());
     const bool completa =
         !escrita.q(1).isEmpty() && !escrita.q(2).isEmpty() && !escrita.s().isEmpty();
-    ui->lblEstado->setText(
-        completa ? Traduce(u"Pulse Intro para comprobar y guardar la clave."_s)
-                 : Traduce(u"Escriba dos primos, q(1) y q(2), y un número s primo con φ(q)."_s));
+    ponEstado(Estado::Neutro,
+              completa
+                  ? Traduce(u"Pulse Intro para comprobar y guardar la clave."_s)
+                  : Traduce(u"Escriba dos primos, q(1) y q(2), y un número s primo con φ(q)."_s));
 }
 
 void FormRSAClave::txtQ_Return(int i)
@@ -194,7 +210,7 @@ void FormRSAClave::cmdPublicarClave_Click()
     if (m_clave.DirMensajes().isEmpty())
         return;
     m_clave.PublicaClave();
-    ponEstado(true, Traduce(u"Clave publicada en el buzón: ya le pueden escribir."_s));
+    ponEstado(Estado::Bien, Traduce(u"Clave publicada en el buzón: ya le pueden escribir."_s));
 }
 
 void FormRSAClave::muestraBuzon(bool sePuedePublicar)

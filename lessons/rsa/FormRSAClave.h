@@ -29,9 +29,14 @@ public:
     /// Shows the mailbox folder, and whether the key can be published in it.
     void muestraBuzon(bool sePuedePublicar);
 
+protected:
+    void changeEvent(QEvent *suceso) override;
+
 private:
     CampoLargo *txtQ(int i) const;
-    void ponEstado(bool bien, const QString &texto);
+    enum class Estado { Neutro, Bien, Mal };
+    void ponEstado(Estado estado, const QString &texto);
+    void coloreaEstado();
     void muestraObjecion();
 
     void txtQ_Validate(int i);
@@ -46,4 +51,5 @@ private:
 
     std::unique_ptr<Ui::FormRSAClave> ui;
     ClsRSA &m_clave;
+    Estado m_estado = Estado::Neutro;
 };

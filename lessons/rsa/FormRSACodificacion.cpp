@@ -1,6 +1,7 @@
 #include "lessons/rsa/FormRSACodificacion.h"
 
 #include "lessons/rsa/BotonDeParada.h"
+#include "lessons/rsa/PintorDeBloques.h"
 #include "lessons/rsa/TextoEnBloques.h"
 #include "shell/Evento.h"
 #include "shell/FormLeccion.h"
@@ -29,7 +30,11 @@ FormRSACodificacion::FormRSACodificacion(ClsRSA &clave, FormLeccion *leccion)
     ui->cmdDescodificar->setIcon(Icono(u"DESCODIFICAR"_s));
     ui->FlexTextoCodificado->setModel(&m_bloques);
     ui->FlexTextoCodificado->ponTextoVacio(Traduce(u"Aquí aparece un número por cada paquete"_s));
-    ui->FlexTextoCodificado->horizontalHeader()->setStretchLastSection(true);
+    ui->FlexTextoCodificado->setItemDelegate(new PintorDeBloques(ui->FlexTextoCodificado));
+    QHeaderView *columna = ui->FlexTextoCodificado->horizontalHeader();
+    columna->setSectionResizeMode(QHeaderView::Stretch);
+    ui->FlexTextoCodificado->verticalHeader()->setMinimumSectionSize(1);
+    conecta(columna, &QHeaderView::sectionResized, this, &FormRSACodificacion::ajustaFilas);
     conecta(ui->cmdCodificar, &QPushButton::clicked, this,
             &FormRSACodificacion::cmdCodificar_Click);
     conecta(ui->cmdDescodificar, &QPushButton::clicked, this,
@@ -42,6 +47,17 @@ void FormRSACodificacion::permiteCodificar(bool permitido)
 {
     ui->cmdCodificar->setEnabled(permitido);
     ui->cmdDescodificar->setEnabled(permitido);
+}
+
+/// All rows are as high as the longest number asks for: measuring each would take seconds.
+void FormRSACodificacion::ajustaFilas()
+{
+    qsizetype cifras = 0;
+    for (const QStringList &fila : m_bloques.filas())
+        cifras = std::max(cifras, fila.constFirst().size());
+    const Rejilla *rejilla = ui->FlexTextoCodificado;
+    rejilla->verticalHeader()->setDefaultSectionSize(
+        PintorDeBloques::alto(rejilla->fontMetrics(), cifras, rejilla->columnWidth(0)));
 }
 
 void FormRSACodificacion::cmdCodificar_Click()
@@ -83,7 +99,7 @@ void FormRSACodificacion::codifica()
     for (const QString &bloque : bloques)
         filas << QStringList{bloque};
     m_bloques.ponFilas(filas);
-    ui->FlexTextoCodificado->resizeColumnToContents(0);
+    ajustaFilas();
     ui->lblEstadoCodigo->setText(Traduce(u"Paquetes: %1"_s).arg(formatoEntero(bloques.size())));
 }
 

@@ -29,6 +29,7 @@ public:
     QAbstractButton *botonDeParada() const { return m_parada; }
 
 private:
+    void ajustaFilas();
     void codifica();
     void descodifica();
     void cmdCodificar_Click();
