@@ -147,7 +147,9 @@ private Q_SLOTS:
         ponClave(u"257"_s, u"263"_s, u"5"_s);
         campo(u"txtQ_1"_s)->setFocus();
         QTest::keyClicks(campo(u"txtQ_1"_s), u"1"_s);
-        m_ventana.reset();
+        m_ventana->close();
+        m_ventana.release(); // it deletes itself
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
         QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
     }
 
