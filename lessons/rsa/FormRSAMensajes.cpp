@@ -200,7 +200,9 @@ void FormRSAMensajes::revisa()
         try {
             const int ilegibles =
                 revisaBuzon(m_clave.DirMensajes(), m_mensajes, m_leccion->corrida());
-            estado = Traduce(u"Mensajes: %1"_s).arg(formatoEntero(m_mensajes.Count()));
+            if (m_leccion->corrida().detenida())
+                estado = Traduce(u"Revisión detenida"_s) + u". "_s;
+            estado += Traduce(u"Mensajes: %1"_s).arg(formatoEntero(m_mensajes.Count()));
             if (ilegibles > 0)
                 estado += u". "_s + Traduce(u"No se han podido leer: %1"_s).arg(ilegibles);
         } catch (const ErrorEjecucion &) {
