@@ -2,6 +2,7 @@
 
 #include "bignum/ErrorEjecucion.h"
 #include "lessons/rsa/ArchivoMensaje.h"
+#include "lessons/rsa/Borrador.h"
 #include "lessons/rsa/CarpetaBuzon.h"
 #include "lessons/rsa/ColMensajes.h"
 #include "lessons/rsa/FicheroDeClave.h"
@@ -110,7 +111,7 @@ QString dejaMensaje(const QString &dirMensajes, const QString &destinatario,
                     const QByteArray &contenido)
 {
     const CarpetaBuzon carpeta = CarpetaBuzon(dirMensajes).subcarpetaCreada(destinatario);
-    CarpetaBuzon::Borrador borrador(carpeta, contenido);
+    Borrador borrador(carpeta, contenido);
     QSet<QString> ocupados;
     for (const QString &nombre : carpeta.entradas())
         ocupados.insert(nombre.toUpper());

@@ -1,68 +1,23 @@
 #include "lessons/rsa/CarpetaBuzon.h"
 
 #include "bignum/ErrorEjecucion.h"
+#include "lessons/rsa/Borrador.h"
+#include "lessons/rsa/Descriptor.h"
 #include "shell/ModGlobal.h"
 #include "shell/Rutas.h"
 
 #include <QFile>
-#include <QRandomGenerator>
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
-
-/// An open file or folder, closed when it goes out of scope.
-class CarpetaBuzon::Descriptor
-{
-public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    ~Descriptor() { cierra(); }
-    Descriptor(Descriptor &&otro) noexcept : m_fd(std::exchange(otro.m_fd, -1)) {}
-    Descriptor &operator=(Descriptor &&) = delete;
-
-    int fd() const { return m_fd; }
-    bool abierto() const { return m_fd >= 0; }
-    bool cierra() { return m_fd < 0 || ::close(std::exchange(m_fd, -1)) == 0; }
-
-private:
-    int m_fd;
-};
 
 namespace {
 
 constexpr int SoloCarpeta = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-
-ErrorEjecucion::Numero numeroDeErrno(int codigo)
-{
-    switch (codigo) {
-    case ENOENT:
-    case ENOTDIR:
-        return ErrorEjecucion::RutaNoEncontrada;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-    case ELOOP: // a link where none is followed
-        return ErrorEjecucion::PermisoDenegado;
-    case ENOSPC:
-    case EDQUOT:
-        return ErrorEjecucion::DiscoLleno;
-    case EEXIST:
-        return ErrorEjecucion::ArchivoYaExiste;
-    default:
-        return ErrorEjecucion::ErrorDeArchivo;
-    }
-}
-
-[[noreturn]] void falla(const QString &ruta, int codigo = errno)
-{
-    throw ErrorEjecucion(numeroDeErrno(codigo), rutaDePlataforma(ruta));
-}
 
 /// Calls `visita` with each entry of a folder but "." and "..": its name, and whether it is a
 /// folder (a link is none).
@@ -93,20 +48,6 @@ void recorre(int carpeta, const QString &ruta, Visita visita)
         if (QFile::encodeName(texto) == nombre)
             visita(texto, esCarpeta);
     }
-}
-
-bool escribeTodo(int fd, const QByteArray &contenido)
-{
-    for (qsizetype escrito = 0; escrito < contenido.size();) {
-        const auto n = ::write(fd, contenido.constData() + escrito,
-                               static_cast<std::size_t>(contenido.size() - escrito));
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            return false;
-        escrito += n;
-    }
-    return ::fsync(fd) == 0;
 }
 
 } // namespace
@@ -205,7 +146,7 @@ QStringList CarpetaBuzon::entradas() const
     return nombres;
 }
 
-CarpetaBuzon::Descriptor CarpetaBuzon::abreArchivo(const QString &nombre) const
+Descriptor CarpetaBuzon::abreArchivo(const QString &nombre) const
 {
     // Without O_NONBLOCK, opening a pipe would wait for its writer.
     Descriptor archivo(::openat(fd(), QFile::encodeName(nombreReal(nombre)).constData(),
@@ -253,56 +194,4 @@ void CarpetaBuzon::sustituye(const QString &nombre, const QByteArray &contenido)
 {
     const QString real = nombreReal(nombre);
     Borrador(*this, contenido).nombra(real);
-}
-
-CarpetaBuzon::Borrador::Borrador(const CarpetaBuzon &carpeta, const QByteArray &contenido)
-    : m_carpeta(carpeta),
-      m_provisional(".numora-" + QByteArray::number(QRandomGenerator::system()->generate64(), 16) +
-                    ".tmp")
-{
-    Descriptor archivo(::openat(m_carpeta.fd(), m_provisional.constData(),
-                                O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-    if (!archivo.abierto())
-        falla(m_carpeta.m_ruta);
-    // Readable by whoever may read the folder, whatever the mask of this account.
-    const mode_t permisos = 0600 | (m_carpeta.modo() & 0444);
-    static_cast<void>(::fchmod(archivo.fd(), permisos));
-    if (escribeTodo(archivo.fd(), contenido) && archivo.cierra())
-        return;
-    const int codigo = errno;
-    ::unlinkat(m_carpeta.fd(), m_provisional.constData(), 0);
-    falla(m_carpeta.m_ruta, codigo);
-}
-
-CarpetaBuzon::Borrador::~Borrador()
-{
-    if (!m_provisional.isEmpty())
-        ::unlinkat(m_carpeta.fd(), m_provisional.constData(), 0);
-}
-
-bool CarpetaBuzon::Borrador::nombraSiLibre(const QString &nombre)
-{
-    const int fd = m_carpeta.fd();
-    const QByteArray definitivo = QFile::encodeName(nombre);
-    if (::linkat(fd, m_provisional.constData(), fd, definitivo.constData(), 0) == 0)
-        return true;
-    // A file system without hard links (a memory stick) can rename without replacing instead.
-    const bool sinEnlaces = errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS;
-    if (sinEnlaces && ::renameat2(fd, m_provisional.constData(), fd, definitivo.constData(),
-                                  RENAME_NOREPLACE) == 0) {
-        m_provisional.clear();
-        return true;
-    }
-    if (errno == EEXIST)
-        return false;
-    falla(m_carpeta.rutaDe(nombre));
-}
-
-void CarpetaBuzon::Borrador::nombra(const QString &nombre)
-{
-    const QByteArray definitivo = QFile::encodeName(nombre);
-    if (::renameat(m_carpeta.fd(), m_provisional.constData(), m_carpeta.fd(),
-                   definitivo.constData()) != 0)
-        falla(m_carpeta.rutaDe(nombre));
-    m_provisional.clear();
 }

@@ -4,8 +4,9 @@
 #include <QString>
 #include <QStringList>
 #include <memory>
-#include <optional>
 #include <sys/types.h>
+
+class Descriptor;
 
 /// A folder of the mailbox, held open: what happens to its path meanwhile changes nothing. Anybody
 /// may have written what lies in it, so names are plain names, links are not followed, only
@@ -37,35 +38,16 @@ public:
     /// Writes a file in the place of the one of that name, whole or not at all.
     void sustituye(const QString &nombre, const QByteArray &contenido) const;
 
-    /// A file that is being written under a name that nobody looks for, and goes away again unless
-    /// it is given a name of its own.
-    class Borrador
-    {
-    public:
-        Borrador(const CarpetaBuzon &carpeta, const QByteArray &contenido);
-        ~Borrador();
-        Borrador(const Borrador &) = delete;
-        Borrador &operator=(const Borrador &) = delete;
-
-        /// Gives the finished file its name in one step; false when the name is taken, which is
-        /// never replaced.
-        bool nombraSiLibre(const QString &nombre);
-        /// Gives it a name whether taken or not.
-        void nombra(const QString &nombre);
-
-    private:
-        const CarpetaBuzon &m_carpeta;
-        QByteArray m_provisional;
-    };
+    /// What the classes that work inside the folder need of it.
+    int fd() const;
+    const QString &ruta() const { return m_ruta; }
+    QString rutaDe(const QString &nombre) const;
+    mode_t modo() const;
 
 private:
-    class Descriptor;
     CarpetaBuzon(std::shared_ptr<Descriptor> carpeta, const QString &ruta);
 
-    int fd() const;
-    QString rutaDe(const QString &nombre) const;
     QString nombreReal(const QString &nombre) const;
-    mode_t modo() const;
     Descriptor abreArchivo(const QString &nombre) const;
 
     std::shared_ptr<Descriptor> m_carpeta;

@@ -1,4 +1,5 @@
 #include "lessons/rsa/ArchivoMensaje.h"
+#include "lessons/rsa/Borrador.h"
 #include "lessons/rsa/Buzon.h"
 #include "lessons/rsa/CarpetaBuzon.h"
 #include "lessons/rsa/ColMensajes.h"
@@ -130,7 +131,7 @@ private Q_SLOTS:
         m_yo->escribe(u"ana/RSA1.msg"_s, "primero");
         const CarpetaBuzon carpeta = CarpetaBuzon(m_yo->buzon()).subcarpeta(u"ana"_s);
         {
-            CarpetaBuzon::Borrador borrador(carpeta, "segundo");
+            Borrador borrador(carpeta, "segundo");
             QVERIFY(!borrador.nombraSiLibre(u"RSA1.msg"_s));
             QVERIFY(borrador.nombraSiLibre(u"RSA2.msg"_s));
         }
