@@ -164,7 +164,7 @@ private Q_SLOTS:
         }
         // A reader at work meanwhile never meets half a message.
         ColMensajes mensajes;
-        while (!remitentes.front()->waitForFinished(20)) {
+        while (!remitentes.front()->waitForFinished(200)) {
             if (QFile::exists(m_yo->enBuzon(u"ana"_s)))
                 QCOMPARE(revisaBuzon(m_yo->buzon(), mensajes, m_corrida), 0);
             if (mensajes.Count() > 0)
