@@ -50,6 +50,8 @@ public:
         return {};
     }
     bool pideImpresora(QWidget *, QPrinter &, const QString &) override { return false; }
+    QString pideCarpeta(QWidget *, const QString &, const QString &) override { return {}; }
+    bool confirma(QWidget *, const QString &, const QString &) override { return false; }
     void abre(const QString &) override {}
     bool lanzaAlguno(const QList<QStringList> &) override { return true; }
 };

@@ -7,7 +7,9 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -145,6 +147,31 @@ bool Interlocutor::pideImpresora(QWidget *padre, QPrinter &impresora, const QStr
     QPrintDialog dialogo(&impresora, padre);
     dialogo.setWindowTitle(titulo);
     return dialogo.exec() == QDialog::Accepted;
+}
+
+QString Interlocutor::pideCarpeta(QWidget *padre, const QString &pregunta, const QString &inicial)
+{
+    QFileDialog dialogo(padre, Traduce(u"Seleccionar carpeta"_s), rutaExistente(inicial));
+    dialogo.setFileMode(QFileDialog::Directory);
+    dialogo.setOption(QFileDialog::ShowDirsOnly);
+    // The desktop's own dialog has no place for the question.
+    dialogo.setOption(QFileDialog::DontUseNativeDialog);
+    if (auto *rejilla = qobject_cast<QGridLayout *>(dialogo.layout())) {
+        auto *rotulo = new QLabel(pregunta, &dialogo);
+        rotulo->setTextFormat(Qt::PlainText);
+        rotulo->setWordWrap(true);
+        rejilla->addWidget(rotulo, rejilla->rowCount(), 0, 1, rejilla->columnCount());
+    }
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
+}
+
+bool Interlocutor::confirma(QWidget *padre, const QString &pregunta, const QString &titulo)
+{
+    QMessageBox caja(QMessageBox::Question, titulo, pregunta, QMessageBox::Yes | QMessageBox::No,
+                     padre);
+    caja.setDefaultButton(QMessageBox::No);
+    caja.setTextFormat(Qt::PlainText);
+    return caja.exec() == QMessageBox::Yes;
 }
 
 void Interlocutor::abre(const QString &direccion)

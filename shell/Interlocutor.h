@@ -46,6 +46,13 @@ public:
     /// Lets the user choose a printer and its settings; false when the user cancels.
     virtual bool pideImpresora(QWidget *padre, QPrinter &impresora, const QString &titulo);
 
+    /// An existing folder, looked for from `inicial` on, under the lines of `pregunta`; empty when
+    /// the user cancels.
+    virtual QString pideCarpeta(QWidget *padre, const QString &pregunta, const QString &inicial);
+
+    /// Whether the user says yes to a question; the answer at hand is no.
+    virtual bool confirma(QWidget *padre, const QString &pregunta, const QString &titulo);
+
     /// Asks the desktop to open a web address or a local file (the path of a file may have
     /// back-slashes). Failures are the desktop's to report.
     virtual void abre(const QString &direccion);

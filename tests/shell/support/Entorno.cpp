@@ -85,6 +85,18 @@ bool Grabadora::pideImpresora(QWidget *, QPrinter &impresora, const QString &)
     return !impresion.isEmpty();
 }
 
+QString Grabadora::pideCarpeta(QWidget *, const QString &, const QString &inicial)
+{
+    carpetasPedidas << inicial;
+    return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
+}
+
+bool Grabadora::confirma(QWidget *, const QString &pregunta, const QString &)
+{
+    confirmaciones << pregunta;
+    return respondeSi;
+}
+
 void Grabadora::abre(const QString &direccion)
 {
     abiertas << direccion;
