@@ -67,7 +67,8 @@ private:
     {
         QTest::addColumn<int>("fila");
         QTest::addColumn<int>("tema");
-        for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < m_contenido.lecciones.size(); ++fila) {
+        for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < m_contenido.lecciones.size();
+             ++fila) {
             const Leccion &leccion = leccionDe(fila);
             if (!leccion.crea)
                 continue;
@@ -105,7 +106,8 @@ private:
         return hallados;
     }
 
-    /// A part of a control that Qt makes, such as the viewport of a grid or the editor of a spin box.
+    /// A part of a control that Qt makes, such as the viewport of a grid or the editor of a spin
+    /// box.
     static bool esInterior(const QWidget *control)
     {
         return control->objectName().startsWith(u"qt_"_s);

@@ -41,7 +41,8 @@ private Q_SLOTS:
         QVERIFY(QDir(ajustes.path()).mkdir(u"Numora"_s));
         QFile archivo(ajustes.filePath(u"Numora/Numora.ini"_s));
         QVERIFY(archivo.open(QIODevice::WriteOnly));
-        archivo.write(QByteArray("[Programa]\nPrecisi%F3n=mucha\nVentana=@Variant(\0\xff\n[[[\n", 52));
+        archivo.write(
+            QByteArray("[Programa]\nPrecisi%F3n=mucha\nVentana=@Variant(\0\xff\n[[[\n", 52));
         archivo.close();
         m_entorno.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         m_entorno.insert(u"XDG_CONFIG_HOME"_s, ajustes.path());
