@@ -55,7 +55,8 @@ QString Traduce(const QString &texto)
     if (clave.isEmpty() || Idioma().isEmpty())
         return texto;
     QString entrada = clave;
-    entrada.replace(u"\n"_s, u"\\n"_s);
+    // A key ends at the first "=" of its line.
+    entrada.replace(u"\n"_s, u"\\n"_s).replace(u"="_s, u"\\e"_s);
     QString hallado = tablaDeTextos().valor(Idioma(), entrada, {}, 1024);
     if (hallado.isEmpty())
         return texto;

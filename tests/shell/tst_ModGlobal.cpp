@@ -64,13 +64,14 @@ private Q_SLOTS:
     {
         QCOMPARE(::Traduce(u"Primos"_s), u"Primos"_s);
         escribeTabla("[English]\r\nPrimos = Primes\r\nEl mayor es=The largest is\r\n"
-                     "Uno\\ndos=One\\ntwo\r\nLargo=" +
+                     "Uno\\ndos=One\\ntwo\r\nx \\e 1=y = 1\r\nLargo=" +
                      QByteArray(3000, 'x') + "\r\n[Français]\nPrimos=Premiers\n");
         QCOMPARE(::Traduce(u"Primos"_s), u"Primos"_s);
         Idioma() = u"english"_s;
         QCOMPARE(::Traduce(u"Primos"_s), u"Primes"_s);
         QCOMPARE(::Traduce(u"El mayor es "_s), u"The largest is "_s);
         QCOMPARE(::Traduce(u"Uno\ndos"_s), u"One\ntwo"_s);
+        QCOMPARE(::Traduce(u"x = 1"_s), u"y = 1"_s);
         QCOMPARE(::Traduce(u"Largo"_s).size(), 1023);
         QCOMPARE(::Traduce(u"Sin entrada"_s), u"Sin entrada"_s);
         Idioma() = u"Français"_s;
