@@ -9,6 +9,8 @@
 #include "lessons/recursion/EscenasRecursion.h"
 #include "lessons/recursion/FormRecursion2.h"
 #include "lessons/recursion/FormRecursion3.h"
+#include "lessons/units/EscenasUnidades.h"
+#include "lessons/units/FormUnidades.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,14 +30,14 @@ Contenido contenidoDelPrograma()
     contenido.lecciones = {{u"FIBONACCI"_s, u"Fibonacci"_s, {}},
                            {u"EUCLIDES"_s, u"Algoritmo de Euclides"_s, crea<FormEuclides>},
                            {u"PRIMOS"_s, u"Primos"_s, crea<FormPrimos>},
-                           {u"UNIDADES"_s, u"Unidades"_s, {}},
+                           {u"UNIDADES"_s, u"Unidades"_s, crea<FormUnidades>},
                            {u"RSA"_s, u"Criptografía RSA"_s, {}},
                            {u"TCR"_s, u"Teorema chino del resto"_s, crea<FormTCR>},
                            {u"RECURSION"_s, u"Recursión y complejidad"_s, {}},
                            {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>},
                            {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>}};
     contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, {}};
-    contenido.escenas = escenasEuclides(1) + escenasPrimos(2) + escenasTCR(5) +
+    contenido.escenas = escenasEuclides(1) + escenasPrimos(2) + escenasUnidades(3) + escenasTCR(5) +
                         escenasRecursion2(7) + escenasRecursion3(8);
     return contenido;
 }
