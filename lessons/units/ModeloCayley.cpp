@@ -68,7 +68,7 @@ QColor ModeloCayley::tinta(std::int32_t valor) const
 QString ModeloCayley::explicacion(const QModelIndex &indice) const
 {
     return u"%1 %2 %3 ≡ %4 (mod %5)"_s.arg(m_elementos[indice.row()])
-        .arg(m_operacion == Operacion::Suma ? u'+' : u'·')
+        .arg(QChar(m_operacion == Operacion::Suma ? u'+' : u'·'))
         .arg(m_elementos[indice.column()])
         .arg(resultado(indice))
         .arg(m_n);

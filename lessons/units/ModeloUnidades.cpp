@@ -63,11 +63,13 @@ QVariant ModeloUnidades::data(const QModelIndex &indice, int rol) const
 
 QVariant ModeloUnidades::headerData(int seccion, Qt::Orientation orientacion, int rol) const
 {
-    static const QStringList rotulos{u"Unidad"_s, u"Inverso"_s, u"Orden"_s, u"Raíz primitiva"_s};
+    static const QStringList rotulos{u"Unidad"_s, u"Inverso"_s, u"Orden"_s, u"Primitiva"_s};
     if (orientacion != Qt::Horizontal)
         return {};
     if (rol == Qt::DisplayRole)
         return Traduce(rotulos.value(seccion));
+    if (rol == Qt::ToolTipRole && seccion == RaizPrimitiva)
+        return Traduce(u"Raíz primitiva: sus potencias son todas las unidades"_s);
     if (rol == Qt::TextAlignmentRole)
         return seccion == RaizPrimitiva ? QVariant(Qt::AlignCenter)
                                         : QVariant(Qt::AlignRight | Qt::AlignVCenter);
