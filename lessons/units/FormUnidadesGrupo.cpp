@@ -26,6 +26,7 @@ FormUnidadesGrupo::FormUnidadesGrupo(QWidget *leccion)
     ui->setupUi(this);
     traduceVentana(this);
     Aspecto::destaca(ui->lblResumen, 1.1);
+    ui->txtElemento->setMinimumWidth(fontMetrics().horizontalAdvance(u"0000000"_s));
     preparaRejillas();
 
     conecta(ui->cmdUnidades, &QPushButton::clicked, this, &FormUnidadesGrupo::cmdUnidades_Click);
