@@ -82,7 +82,8 @@ void FormUnidadesGrandes::cmdInverso_Click()
         return;
     const auto a = elemento();
     if (!a) {
-        ui->lblMcd->setText(Traduce(u"El elemento a es un número entero."_s));
+        ui->lblMcd->setText(
+            Traduce(u"El elemento a es un número entero de 2000 cifras como mucho."_s));
         ui->txtAGrande->setFocus();
         return;
     }

@@ -216,13 +216,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("aviso");
         const QString deN =
             u"El módulo n es un número entero positivo de 1000 cifras como mucho."_s;
-        const QString deA = u"El elemento a es un número entero."_s;
+        const QString deA = u"El elemento a es un número entero de 2000 cifras como mucho."_s;
         QTest::newRow("no n") << QString() << u"5"_s << deN;
         QTest::newRow("zero") << u"0"_s << u"5"_s << deN;
         QTest::newRow("negative") << u"-10^50"_s << u"5"_s << deN;
         QTest::newRow("too long") << u"10^1000"_s << u"5"_s << deN;
         QTest::newRow("fraction") << u"10/3"_s << u"5"_s << deN;
         QTest::newRow("no a") << u"10^999"_s << QString() << deA;
+        QTest::newRow("too long a") << u"10^999"_s << u"10^2000"_s << deA;
         QTest::newRow("absurd a") << u"10^999"_s << u"9^9^9^9"_s << deA;
     }
     void grandesRechazados()
