@@ -11,6 +11,7 @@ construccion=$(cd "${1:-$proyecto/build/release}" && pwd)
 command -v debootstrap >/dev/null || { echo "debootstrap is missing." >&2; exit 1; }
 
 raiz=$(mktemp -d)
+chmod 755 "$raiz" # it will be "/" to an ordinary user
 limpia() {
     # Nothing that is mounted inside may go with the folder.
     mountpoint -q "$raiz/proc" && umount "$raiz/proc"
