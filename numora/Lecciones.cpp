@@ -11,6 +11,8 @@
 #include "lessons/recursion/FormRecursion3.h"
 #include "lessons/rsa/EscenasRSA.h"
 #include "lessons/rsa/FormRSA.h"
+#include "lessons/units/EscenasUnidades.h"
+#include "lessons/units/FormUnidades.h"
 #include "minical/EscenasMiniCal.h"
 #include "minical/FormCalc.h"
 #include "shell/FormPrincipal.h"
@@ -33,15 +35,15 @@ Contenido contenidoDelPrograma()
     contenido.lecciones = {{u"FIBONACCI"_s, u"Fibonacci"_s, {}},
                            {u"EUCLIDES"_s, u"Algoritmo de Euclides"_s, crea<FormEuclides>},
                            {u"PRIMOS"_s, u"Primos"_s, crea<FormPrimos>},
-                           {u"UNIDADES"_s, u"Unidades"_s, {}},
+                           {u"UNIDADES"_s, u"Unidades"_s, crea<FormUnidades>},
                            {u"RSA"_s, u"Criptografía RSA"_s, crea<FormRSA>},
                            {u"TCR"_s, u"Teorema chino del resto"_s, crea<FormTCR>},
                            {u"RECURSION"_s, u"Recursión y complejidad"_s, {}},
                            {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>},
                            {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>}};
     contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
-    contenido.escenas = escenasEuclides(1) + escenasPrimos(2) + escenasRSA(4) + escenasTCR(5) +
-                        escenasRecursion2(7) + escenasRecursion3(8) +
+    contenido.escenas = escenasEuclides(1) + escenasPrimos(2) + escenasUnidades(3) + escenasRSA(4) +
+                        escenasTCR(5) + escenasRecursion2(7) + escenasRecursion3(8) +
                         escenasMiniCal(FormPrincipal::FilaHojaDeCalculo);
     return contenido;
 }

@@ -11,7 +11,8 @@ QString &Idioma();
 
 /// The translation of a Spanish interface text into the current language: the entry of Numora.txt
 /// beside the program, at most 1023 characters; the text itself when there is none. Blanks at the
-/// ends of a text are not part of its key and are kept; a line break stands in the file as "\n", and
+/// ends of a text are not part of its key and are kept; a line break stands in the file as "\n",
+/// and
 /// "=" in a key as "\e".
 QString Traduce(const QString &texto);
 

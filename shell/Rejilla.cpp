@@ -47,13 +47,15 @@ QString Rejilla::seleccion(FormaDeCopia forma) const
     }
     QList<QStringList> filas;
     if (todo || rango.height() == model()->rowCount()) {
-        QStringList cabecera;
+        QStringList cabecera(m_rotulosDeFila ? 1 : 0);
         for (int c = rango.left(); c <= rango.right(); ++c)
             cabecera << model()->headerData(c, Qt::Horizontal).toString();
         filas << cabecera;
     }
     for (int f = rango.top(); f <= rango.bottom(); ++f) {
         QStringList fila;
+        if (m_rotulosDeFila)
+            fila << model()->headerData(f, Qt::Vertical).toString();
         for (int c = rango.left(); c <= rango.right(); ++c)
             fila << model()->index(f, c).data().toString();
         filas << fila;

@@ -17,6 +17,9 @@ public:
     /// What is shown in the middle of the grid while it has no rows.
     void ponTextoVacio(const QString &texto);
 
+    /// Whether copies bear the labels of the rows in front; not so at first.
+    void ponRotulosDeFilaEnCopia(bool con) { m_rotulosDeFila = con; }
+
     /// The selected cells (all when none or one is selected), in their form.
     QString seleccion(FormaDeCopia forma) const;
 
@@ -29,4 +32,5 @@ private:
     void copia(FormaDeCopia forma) const;
 
     QString m_textoVacio;
+    bool m_rotulosDeFila = false;
 };

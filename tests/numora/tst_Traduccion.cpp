@@ -73,7 +73,8 @@ QStringList textosDe(QObject *objeto)
         for (int i = 0; i < tira->count(); ++i)
             textos << tira->tabText(i);
     }
-    if (const auto *rejilla = qobject_cast<QAbstractItemView *>(objeto); rejilla && rejilla->model()) {
+    if (const auto *rejilla = qobject_cast<QAbstractItemView *>(objeto);
+        rejilla && rejilla->model()) {
         for (int c = 0; c < rejilla->model()->columnCount(); ++c)
             textos << rejilla->model()->headerData(c, Qt::Horizontal).toString();
     }
@@ -124,7 +125,8 @@ private Q_SLOTS:
                 const auto lugar = lugares.next();
                 QStringList textos;
                 if (formulario)
-                    textos << lugar.captured(1).replace(u"&amp;"_s, u"&"_s).replace(u"&lt;"_s, u"<"_s);
+                    textos
+                        << lugar.captured(1).replace(u"&amp;"_s, u"&"_s).replace(u"&lt;"_s, u"<"_s);
                 else
                     textos = literales(codigo, lugar.capturedEnd());
                 if (lugar.captured() == u"agregaTema("_s)
@@ -142,10 +144,11 @@ private Q_SLOTS:
         QStringList faltan;
         const Contenido contenido = contenidoDelPrograma();
         comparaVentanas([&] { return std::make_unique<FormPrincipal>(contenido); }, faltan);
-        for (const Leccion &leccion : contenido.lecciones + QList<Leccion>{contenido.hojaDeCalculo}) {
+        for (const Leccion &leccion :
+             contenido.lecciones + QList<Leccion>{contenido.hojaDeCalculo}) {
             if (leccion.crea)
-                comparaVentanas(
-                    [&] { return std::unique_ptr<QWidget>(leccion.crea(nullptr)); }, faltan);
+                comparaVentanas([&] { return std::unique_ptr<QWidget>(leccion.crea(nullptr)); },
+                                faltan);
         }
         faltan.removeDuplicates();
         QVERIFY2(faltan.isEmpty(), qPrintable(u'\n' + faltan.join(u'\n')));

@@ -1,0 +1,22 @@
+#include "lessons/units/FormUnidades.h"
+
+#include "lessons/units/FormUnidadesCayley.h"
+#include "lessons/units/FormUnidadesCuestiones.h"
+#include "lessons/units/FormUnidadesGrandes.h"
+#include "lessons/units/FormUnidadesGrupo.h"
+#include "shell/Imagenes.h"
+#include "shell/ModGlobal.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+FormUnidades::FormUnidades(QWidget *padre) : FormLeccion(u"Unidades.html"_s, padre)
+{
+    setObjectName(u"FormUnidades"_s);
+    setWindowTitle(Traduce(u"Unidades"_s));
+    setWindowIcon(Icono(u"UNIDADES"_s));
+    agregaIntroduccion(u"Introducción"_s);
+    agregaTema(u"Unidades"_s, u"unidades"_s, new FormUnidadesGrupo(this));
+    agregaTema(u"Tabla de Cayley"_s, u"cayley"_s, new FormUnidadesCayley(this));
+    agregaTema(u"Números grandes"_s, u"grandes"_s, new FormUnidadesGrandes(this));
+    agregaTema(u"Cuestiones"_s, u"cuestiones"_s, new FormUnidadesCuestiones(this));
+}

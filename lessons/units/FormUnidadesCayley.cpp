@@ -1,0 +1,72 @@
+#include "lessons/units/FormUnidadesCayley.h"
+
+#include "lessons/units/CasillasCuadradas.h"
+#include "lessons/units/EntradaEntera.h"
+#include "lessons/units/ModeloCayley.h"
+#include "shell/Aspecto.h"
+#include "shell/Evento.h"
+#include "shell/ModGlobal.h"
+#include "shell/Textos.h"
+#include "ui_FormUnidadesCayley.h"
+
+#include <QEvent>
+#include <QHeaderView>
+
+using namespace Qt::Literals::StringLiterals;
+
+FormUnidadesCayley::FormUnidadesCayley(QWidget *leccion)
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormUnidadesCayley>()),
+      m_modelo(new ModeloCayley(this))
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    Aspecto::destaca(ui->lblCelda, 1.1);
+    m_modelo->ponOscuro(Aspecto::esOscuro());
+    ui->FlexCayley->setModel(m_modelo);
+    ui->FlexCayley->verticalHeader()->show();
+    ui->FlexCayley->ponRotulosDeFilaEnCopia(true);
+    ui->FlexCayley->ponTextoVacio(Traduce(u"Escribe un módulo de 1 a 60 y pulsa «Mostrar»."_s));
+    new CasillasCuadradas(ui->FlexCayley);
+
+    conecta(ui->cmdCayley, &QPushButton::clicked, this, &FormUnidadesCayley::cmdCayley_Click);
+    conecta(ui->txtNCayley, &QLineEdit::returnPressed, this,
+            [this] { ui->cmdCayley->animateClick(); });
+    for (const QRadioButton *opcion : {ui->OptOperacion_0, ui->OptOperacion_1, ui->OptOperacion_2})
+        conecta(opcion, &QRadioButton::clicked, this, &FormUnidadesCayley::cmdCayley_Click);
+    conecta(ui->FlexCayley->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &FormUnidadesCayley::FlexCayley_CurrentChange);
+    cmdCayley_Click();
+}
+
+FormUnidadesCayley::~FormUnidadesCayley() = default;
+
+void FormUnidadesCayley::changeEvent(QEvent *suceso)
+{
+    if (suceso->type() == QEvent::PaletteChange)
+        m_modelo->ponOscuro(Aspecto::esOscuro());
+    QWidget::changeEvent(suceso);
+}
+
+void FormUnidadesCayley::cmdCayley_Click()
+{
+    using Operacion = ModeloCayley::Operacion;
+    const auto operacion = ui->OptOperacion_0->isChecked()   ? Operacion::ProductoDeUnidades
+                           : ui->OptOperacion_1->isChecked() ? Operacion::Producto
+                                                             : Operacion::Suma;
+    m_modelo->pon(0, operacion);
+    const auto n = evaluaPequeno(ui->txtNCayley->text(), ModeloCayley::MayorModulo);
+    if (!n || *n < 1) {
+        ui->lblCelda->setText(Traduce(u"El módulo es un número entero de 1 a 60."_s));
+        ui->txtNCayley->setFocus();
+        return;
+    }
+    m_modelo->pon(*n, operacion);
+    ui->lblCelda->setText(Traduce(u"Elige una casilla para leerla."_s));
+}
+
+void FormUnidadesCayley::FlexCayley_CurrentChange(const QModelIndex &actual)
+{
+    if (actual.isValid())
+        ui->lblCelda->setText(actual.data(Qt::ToolTipRole).toString());
+}

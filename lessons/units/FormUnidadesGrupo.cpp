@@ -1,0 +1,110 @@
+#include "lessons/units/FormUnidadesGrupo.h"
+
+#include "lessons/units/EntradaEntera.h"
+#include "lessons/units/ModeloPotencias.h"
+#include "lessons/units/ModeloUnidades.h"
+#include "lessons/units/ResumenUnidades.h"
+#include "shell/Aspecto.h"
+#include "shell/ColumnasRepartidas.h"
+#include "shell/Evento.h"
+#include "shell/ModGlobal.h"
+#include "shell/Textos.h"
+#include "ui_FormUnidadesGrupo.h"
+
+#include <QHeaderView>
+#include <QSortFilterProxyModel>
+
+using namespace Qt::Literals::StringLiterals;
+
+FormUnidadesGrupo::FormUnidadesGrupo(QWidget *leccion)
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormUnidadesGrupo>()),
+      m_unidades(new ModeloUnidades(this)),
+      m_ordenadas(new QSortFilterProxyModel(this)),
+      m_potencias(new ModeloPotencias(this))
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    Aspecto::destaca(ui->lblResumen, 1.1);
+    ui->txtElemento->setMinimumWidth(fontMetrics().horizontalAdvance(u"0000000"_s));
+    preparaRejillas();
+
+    conecta(ui->cmdUnidades, &QPushButton::clicked, this, &FormUnidadesGrupo::cmdUnidades_Click);
+    conecta(ui->txtN, &QLineEdit::returnPressed, this, [this] { ui->cmdUnidades->animateClick(); });
+    conecta(ui->cmdPotencias, &QPushButton::clicked, this, &FormUnidadesGrupo::cmdPotencias_Click);
+    conecta(ui->txtElemento, &QLineEdit::returnPressed, this,
+            [this] { ui->cmdPotencias->animateClick(); });
+    conecta(ui->FlexUnidades->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &FormUnidadesGrupo::FlexUnidades_CurrentChange);
+    cmdUnidades_Click();
+}
+
+FormUnidadesGrupo::~FormUnidadesGrupo() = default;
+
+void FormUnidadesGrupo::preparaRejillas()
+{
+    m_ordenadas->setSourceModel(m_unidades);
+    m_ordenadas->setSortRole(ModeloUnidades::RolValor);
+    ui->FlexUnidades->setModel(m_ordenadas);
+    ui->FlexUnidades->setSortingEnabled(true);
+    ui->FlexUnidades->sortByColumn(ModeloUnidades::Elemento, Qt::AscendingOrder);
+    ui->FlexUnidades->ponTextoVacio(
+        Traduce(u"Escribe un módulo de 1 a 10000 y pulsa «Mostrar»."_s));
+    new ColumnasRepartidas(ui->FlexUnidades);
+    ui->FlexPotencias->setModel(m_potencias);
+    ui->FlexPotencias->ponTextoVacio(
+        Traduce(u"Elige una unidad de la tabla, o escribe un elemento y pulsa «Potencias»."_s));
+    new ColumnasRepartidas(ui->FlexPotencias);
+}
+
+void FormUnidadesGrupo::cmdUnidades_Click()
+{
+    m_unidades->pon({});
+    borraPotencias();
+    const auto n = evaluaPequeno(ui->txtN->text(), GrupoUnidades::MayorModulo);
+    if (!n || *n < 1) {
+        ui->lblResumen->setText(Traduce(u"El módulo es un número entero de 1 a 10000."_s));
+        ui->txtN->setFocus();
+        return;
+    }
+    m_unidades->pon(GrupoUnidades(*n));
+    ui->lblResumen->setText(resumenDelGrupo(*m_unidades->grupo()));
+    ui->FlexUnidades->scrollToTop();
+}
+
+void FormUnidadesGrupo::cmdPotencias_Click()
+{
+    borraPotencias();
+    if (!m_unidades->grupo())
+        return;
+    const auto a = evaluaPequeno(ui->txtElemento->text(), 1'000'000'000);
+    if (a) {
+        muestraPotencias(*a);
+        return;
+    }
+    ui->lblPotencias->setText(Traduce(u"El elemento es un número entero."_s));
+    ui->txtElemento->setFocus();
+}
+
+void FormUnidadesGrupo::FlexUnidades_CurrentChange(const QModelIndex &actual)
+{
+    if (!actual.isValid())
+        return;
+    const auto a =
+        actual.siblingAtColumn(ModeloUnidades::Elemento).data(ModeloUnidades::RolValor).toInt();
+    ui->txtElemento->setText(QString::number(a));
+    muestraPotencias(a);
+}
+
+void FormUnidadesGrupo::muestraPotencias(std::int32_t a)
+{
+    m_potencias->pon(m_unidades->grupo()->potencias(a));
+    ui->FlexPotencias->scrollToTop();
+    ui->lblPotencias->setText(resumenDePotencias(*m_unidades->grupo(), a));
+}
+
+void FormUnidadesGrupo::borraPotencias()
+{
+    m_potencias->pon({});
+    ui->lblPotencias->clear();
+}

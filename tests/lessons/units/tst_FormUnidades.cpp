@@ -1,0 +1,348 @@
+#include "bignum/ModBignum.h"
+#include "lessons/units/FormUnidades.h"
+#include "shell/CampoLargo.h"
+#include "shell/Rejilla.h"
+#include "shell/ReproductorAVI.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QAbstractItemModelTester>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTabBar>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The window of the units, by its controls.
+class TestFormUnidades : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_ventana = std::make_unique<FormUnidades>();
+        m_ventana->resize(960, 640);
+        m_ventana->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
+        for (const QString &nombre : {u"FlexUnidades"_s, u"FlexPotencias"_s, u"FlexCayley"_s})
+            new QAbstractItemModelTester(rejilla(nombre)->model(), m_ventana.get());
+    }
+    void cleanup() { m_ventana.reset(); }
+
+    void alAbrir()
+    {
+        const auto *temas = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
+        QStringList claves, rotulos;
+        for (int i = 0; i < temas->count(); ++i) {
+            claves << temas->tabData(i).toString();
+            rotulos << temas->tabText(i);
+        }
+        QCOMPARE(claves.join(u' '), u"intro unidades cayley grandes cuestiones"_s);
+        QCOMPARE(rotulos.join(u'|'),
+                 u"Introducción|Unidades|Tabla de Cayley|Números grandes|Cuestiones"_s);
+        QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\Unidades.html"_s));
+        QCOMPARE(filas(u"FlexUnidades"_s),
+                 u"1 1 1 /3 5 6 ★ sí/5 3 6 ★ sí/9 11 3 /11 9 3 /13 13 2 "_s);
+        QCOMPARE(texto(u"lblResumen"_s),
+                 u"Z₁₄ tiene 6 unidades. El grupo es cíclico, con 2 raíces "
+                 u"primitivas.\n14 = 2 · 7; φ(14) = (2 − 1) · (7 − 1) = 6"_s);
+        QCOMPARE(filas(u"FlexPotencias"_s), QString());
+    }
+
+    void modulos_data()
+    {
+        QTest::addColumn<QString>("modulo");
+        QTest::addColumn<int>("unidades");
+        QTest::addColumn<QString>("resumen");
+        QTest::addColumn<QString>("aviso");
+        const QString no = u"El módulo es un número entero de 1 a 10000."_s;
+        const QString grande = u"El mayor número permitido es 10000"_s;
+        QTest::newRow("one") << u"1"_s << 1
+                             << u"Z₁ tiene una unidad. El grupo es cíclico, con una raíz "
+                                u"primitiva.\nφ(1) = 1"_s
+                             << QString();
+        QTest::newRow("prime")
+            << u"2^13 - 1"_s << 8190
+            << u"Z₈₁₉₁ tiene 8.190 unidades. El grupo es cíclico, con 1.728 "
+               u"raíces primitivas.\n8191 es primo; φ(8191) = (8191 − 1) = 8190"_s
+            << QString();
+        QTest::newRow("largest")
+            << u"10^4"_s << 4000
+            << u"Z₁₀₀₀₀ tiene 4.000 unidades. No hay raíces primitivas: el "
+               u"grupo no es cíclico, y el mayor orden es 500.\n"
+               u"10000 = 2^4 · 5^4; φ(10000) = 2^3·(2 − 1) · 5^3·(5 − 1) = 4000"_s
+            << QString();
+        QTest::newRow("one more") << u"10001"_s << 0 << no << grande;
+        QTest::newRow("absurd") << u"9^9^9^9"_s << 0 << no << QString();
+        QTest::newRow("zero") << u"0"_s << 0 << no << QString();
+        QTest::newRow("negative") << u"-5"_s << 0 << no << QString();
+        QTest::newRow("below 32 bits") << u"-10^30"_s << 0 << no << QString();
+        QTest::newRow("fraction") << u"7/2"_s << 0 << no << QString();
+        QTest::newRow("empty") << u" "_s << 0 << no << QString();
+        QTest::newRow("text") << u"hola"_s << 0 << no << QString();
+    }
+    void modulos()
+    {
+        QFETCH(QString, modulo);
+        QFETCH(QString, aviso);
+        muestra(u"14"_s);
+        rejilla(u"FlexUnidades"_s)->setCurrentIndex(celda(u"FlexUnidades"_s, 1, 0));
+        muestra(modulo);
+        QTEST(rejilla(u"FlexUnidades"_s)->model()->rowCount(), "unidades");
+        QTEST(texto(u"lblResumen"_s), "resumen");
+        QCOMPARE(filas(u"FlexPotencias"_s), QString());
+        if (aviso.isEmpty())
+            QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        else
+            QCOMPARE(Entorno::grabadora().unico().texto, aviso);
+    }
+
+    void potenciasDeLaElegida()
+    {
+        rejilla(u"FlexUnidades"_s)->setCurrentIndex(celda(u"FlexUnidades"_s, 3, 1));
+        QCOMPARE(campo(u"txtElemento"_s)->text(), u"9"_s);
+        QCOMPARE(filas(u"FlexPotencias"_s), u"0 1/1 9/2 11/3 1"_s);
+        QCOMPARE(texto(u"lblPotencias"_s),
+                 u"El orden de 9 es 3: sus potencias son 3 de las 6 unidades."_s);
+    }
+
+    void potenciasDeCualquiera_data()
+    {
+        QTest::addColumn<QString>("elemento");
+        QTest::addColumn<QString>("potencias");
+        QTest::addColumn<QString>("resumen");
+        QTest::newRow("root")
+            << u"-11"_s << u"0 1/1 3/2 9/3 13/4 11/5 5/6 1"_s
+            << u"3 es una raíz primitiva: su orden es 6 y sus potencias son todas "
+               u"las unidades."_s;
+        QTest::newRow("no unit") << u"4"_s << u"0 1/1 4/2 2/3 8/4 4"_s
+                                 << u"4 no es una unidad, porque mcd(4, 14) = 2: ninguna de sus "
+                                    u"potencias vuelve a ser 1."_s;
+        QTest::newRow("text") << u"a"_s << QString() << u"El elemento es un número entero."_s;
+    }
+    void potenciasDeCualquiera()
+    {
+        QFETCH(QString, elemento);
+        campo(u"txtElemento"_s)->setText(elemento);
+        pulsa(u"cmdPotencias"_s);
+        QTEST(filas(u"FlexPotencias"_s), "potencias");
+        QTEST(texto(u"lblPotencias"_s), "resumen");
+    }
+
+    /// Sorting goes by the numbers, and the chosen row stays the one that was clicked.
+    void ordenadasPorOrden()
+    {
+        muestra(u"11"_s);
+        Rejilla *tabla = rejilla(u"FlexUnidades"_s);
+        tabla->sortByColumn(2, Qt::DescendingOrder);
+        QCOMPARE(celda(u"FlexUnidades"_s, 0, 2).data().toString(), u"10"_s);
+        QCOMPARE(celda(u"FlexUnidades"_s, 9, 2).data().toString(), u"1"_s);
+        tabla->setCurrentIndex(celda(u"FlexUnidades"_s, 9, 0));
+        QCOMPARE(campo(u"txtElemento"_s)->text(), u"1"_s);
+    }
+
+    void tablaDeCayley()
+    {
+        campo(u"txtNCayley"_s)->setText(u"2^3"_s);
+        pulsa(u"cmdCayley"_s);
+        QCOMPARE(filas(u"FlexCayley"_s), u"1 3 5 7/3 1 7 5/5 7 1 3/7 5 3 1"_s);
+        Rejilla *tabla = rejilla(u"FlexCayley"_s);
+        tabla->setCurrentIndex(celda(u"FlexCayley"_s, 1, 2));
+        QCOMPARE(texto(u"lblCelda"_s), u"3 · 5 ≡ 7 (mod 8)"_s);
+        tabla->selectAll();
+        QTest::keyClick(tabla, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text().trimmed(),
+                 u"1\t3\t5\t7\n1\t1\t3\t5\t7\n3\t3\t1\t7\t5\n5\t5\t7\t1\t3\n7\t7\t5\t3\t1"_s);
+        control<QRadioButton>(m_ventana.get(), u"OptOperacion_2"_s)->click();
+        QCOMPARE(tabla->model()->rowCount(), 8);
+        campo(u"txtNCayley"_s)->setText(u"61"_s);
+        pulsa(u"cmdCayley"_s);
+        QCOMPARE(Entorno::grabadora().unico().texto, u"El mayor número permitido es 60"_s);
+        QCOMPARE(tabla->model()->rowCount(), 0);
+    }
+
+    /// Cells are squares, and those of a small table are all in sight.
+    void casillasCuadradas()
+    {
+        abreTema(2);
+        const Rejilla *tabla = rejilla(u"FlexCayley"_s);
+        const auto lado = [tabla] { return tabla->columnWidth(0); };
+        QTRY_VERIFY(lado() > 30);
+        QCOMPARE(tabla->rowHeight(0), lado());
+        QVERIFY(8 * lado() <= tabla->viewport()->height());
+        campo(u"txtNCayley"_s)->setText(u"59"_s);
+        pulsa(u"cmdCayley"_s);
+        QTRY_VERIFY(lado() < 30);
+        QCOMPARE(tabla->rowHeight(57), lado());
+        QVERIFY(lado() > tabla->fontMetrics().horizontalAdvance(u"58"_s));
+    }
+
+    void numerosGrandes()
+    {
+        escribeGrandes(u"2^521-1"_s, u"100!"_s);
+        pulsa(u"cmdInverso"_s);
+        const QString inverso = largo(u"txtInverso"_s)->text();
+        QCOMPARE(Evalua(u"100!*%1 mod (2^521-1)"_s.arg(inverso)), u"1"_s);
+        pulsa(u"cmdFi"_s);
+        const auto *pasos = control<QPlainTextEdit>(m_ventana.get(), u"txtFi"_s);
+        QVERIFY(pasos->toPlainText().endsWith(Evalua(u"2^521-2"_s)));
+        QVERIFY(texto(u"lblFi"_s).endsWith(u"a^φ(n) da 1 módulo n."_s));
+        // Results belong to the numbers that stood there.
+        largo(u"txtNGrande"_s)->setText(u"2^521-1 "_s);
+        QVERIFY(pasos->toPlainText().isEmpty());
+        QVERIFY(largo(u"txtInverso"_s)->text().isEmpty());
+    }
+
+    void sinInverso()
+    {
+        escribeGrandes(u"30"_s, u"-12"_s);
+        pulsa(u"cmdInverso"_s);
+        QCOMPARE(largo(u"txtInverso"_s)->text(), u"6"_s);
+        pulsa(u"cmdFi"_s);
+        QCOMPARE(texto(u"lblFi"_s), u"φ(n), paso a paso:"_s);
+    }
+
+    void grandesRechazados_data()
+    {
+        QTest::addColumn<QString>("n");
+        QTest::addColumn<QString>("a");
+        QTest::addColumn<QString>("aviso");
+        const QString deN =
+            u"El módulo n es un número entero positivo de 1000 cifras como mucho."_s;
+        const QString deA = u"El elemento a es un número entero de 2000 cifras como mucho."_s;
+        QTest::newRow("no n") << QString() << u"5"_s << deN;
+        QTest::newRow("zero") << u"0"_s << u"5"_s << deN;
+        QTest::newRow("negative") << u"-10^50"_s << u"5"_s << deN;
+        QTest::newRow("too long") << u"10^1000"_s << u"5"_s << deN;
+        QTest::newRow("fraction") << u"10/3"_s << u"5"_s << deN;
+        QTest::newRow("no a") << u"10^999"_s << QString() << deA;
+        QTest::newRow("too long a") << u"10^999"_s << u"10^2000"_s << deA;
+        QTest::newRow("absurd a") << u"10^999"_s << u"9^9^9^9"_s << deA;
+    }
+    void grandesRechazados()
+    {
+        QFETCH(QString, n);
+        QFETCH(QString, a);
+        QFETCH(QString, aviso);
+        escribeGrandes(n, a);
+        pulsa(u"cmdInverso"_s);
+        QCOMPARE(texto(u"lblMcd"_s), aviso);
+        QVERIFY(largo(u"txtInverso"_s)->text().isEmpty());
+    }
+
+    void ejemplo()
+    {
+        pulsa(u"cmdEjemplo"_s);
+        QCOMPARE(largo(u"txtNGrande"_s)->text().size(), 200);
+        QVERIFY(!largo(u"txtInverso"_s)->text().isEmpty());
+        pulsa(u"cmdFi"_s);
+        QVERIFY(texto(u"lblFi"_s).endsWith(u"a^φ(n) da 1 módulo n."_s));
+    }
+
+    void cuestiones()
+    {
+        for (const QString &i : {u"0"_s, u"1"_s}) {
+            const auto *animacion =
+                control<ReproductorAVI>(m_ventana.get(), u"ccrpAnimation_"_s + i);
+            responde(i, u"2/3"_s);
+            QCOMPARE(texto(u"lblVeredicto_"_s + i), u"La respuesta es un número entero."_s);
+            QCOMPARE(animacion->estado(), ReproductorAVI::Parado);
+            responde(i, u"-1"_s);
+            QVERIFY(texto(u"lblVeredicto_"_s + i).startsWith(u"✗ No es correcto. "_s));
+            QCOMPARE(animacion->estado(), ReproductorAVI::Reproduciendo);
+            const QString antes = texto(u"lblEnunciado_"_s + i);
+            for (int vez = 0; vez < 50 && texto(u"lblEnunciado_"_s + i) == antes; ++vez)
+                pulsa(u"cmdOtra_"_s + i);
+            QVERIFY(texto(u"lblEnunciado_"_s + i) != antes);
+            QVERIFY(texto(u"lblVeredicto_"_s + i).isEmpty());
+            QVERIFY(campo(u"txtRespuesta_"_s + i)->text().isEmpty());
+        }
+    }
+
+    /// A power is a question that the expression of its own text answers.
+    void aciertoDeUnaPotencia()
+    {
+        const QRegularExpression potencia(u"(\\d+\\^\\d+) al dividirlo entre (\\d+)"_s);
+        QRegularExpressionMatch hallada;
+        for (int vez = 0; vez < 200 && !hallada.hasMatch(); ++vez) {
+            pulsa(u"cmdOtra_1"_s);
+            hallada = potencia.match(texto(u"lblEnunciado_1"_s));
+        }
+        QVERIFY(hallada.hasMatch());
+        responde(u"1"_s, hallada.captured(1) + u" mod "_s + hallada.captured(2));
+        QCOMPARE(texto(u"lblVeredicto_1"_s), u"✓ ¡Correcto!"_s);
+        campo(u"txtRespuesta_1"_s)->setText(u"5"_s);
+        QVERIFY(texto(u"lblVeredicto_1"_s).isEmpty());
+    }
+
+private:
+    Rejilla *rejilla(const QString &nombre) const
+    {
+        return control<Rejilla>(m_ventana.get(), nombre);
+    }
+    QLineEdit *campo(const QString &nombre) const
+    {
+        return control<QLineEdit>(m_ventana.get(), nombre);
+    }
+    CampoLargo *largo(const QString &nombre) const
+    {
+        return control<CampoLargo>(m_ventana.get(), nombre);
+    }
+    QString texto(const QString &rotulo) const
+    {
+        return control<QLabel>(m_ventana.get(), rotulo)->text();
+    }
+    void pulsa(const QString &boton) const
+    {
+        control<QPushButton>(m_ventana.get(), boton)->click();
+    }
+    QModelIndex celda(const QString &nombre, int fila, int columna) const
+    {
+        return rejilla(nombre)->model()->index(fila, columna);
+    }
+    void abreTema(int indice) const
+    {
+        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(indice);
+    }
+    void muestra(const QString &modulo) const
+    {
+        campo(u"txtN"_s)->setText(modulo);
+        pulsa(u"cmdUnidades"_s);
+    }
+    void escribeGrandes(const QString &n, const QString &a) const
+    {
+        largo(u"txtNGrande"_s)->setText(n);
+        largo(u"txtAGrande"_s)->setText(a);
+    }
+    void responde(const QString &cuestion, const QString &respuesta) const
+    {
+        campo(u"txtRespuesta_"_s + cuestion)->setText(respuesta);
+        pulsa(u"cmdComprobar_"_s + cuestion);
+    }
+
+    /// The cells of a grid, blanks between columns and slashes between rows.
+    QString filas(const QString &nombre) const
+    {
+        const QAbstractItemModel *modelo = rejilla(nombre)->model();
+        QStringList lineas;
+        for (int f = 0; f < modelo->rowCount(); ++f) {
+            QStringList celdas;
+            for (int c = 0; c < modelo->columnCount(); ++c)
+                celdas << modelo->index(f, c).data().toString();
+            lineas << celdas.join(u' ');
+        }
+        return lineas.join(u'/');
+    }
+
+    std::unique_ptr<FormUnidades> m_ventana;
+};
+
+NUMORA_TEST_MAIN(TestFormUnidades)
+#include "tst_FormUnidades.moc"
