@@ -86,6 +86,7 @@ void Grafica::ponPuntos(const QList<QPointF> &puntos, const QRectF &limites)
 {
     m_puntos = puntos;
     m_tramoDesde = m_tramoHasta = 0;
+    m_rectaDesde = m_rectaHasta = {};
     m_encuadre.ponLimites(limites);
     m_ejeX->setVisible(!puntos.isEmpty());
     m_ejeY->setVisible(!puntos.isEmpty());
@@ -97,6 +98,13 @@ void Grafica::ponTramo(qreal desde, qreal hasta)
 {
     m_tramoDesde = desde;
     m_tramoHasta = hasta;
+    update();
+}
+
+void Grafica::ponRecta(QPointF desde, QPointF hasta)
+{
+    m_rectaDesde = desde;
+    m_rectaHasta = hasta;
     update();
 }
 
@@ -268,6 +276,7 @@ void Grafica::paintEvent(QPaintEvent *)
     }
     pintaRejilla(pintor);
     pintaFuncion(pintor);
+    pintaRecta(pintor);
     if (hasFocus()) {
         pintor.setClipping(false);
         pintor.setPen(QPen(palette().highlight().color(), 1));
@@ -315,6 +324,14 @@ void Grafica::pintaFuncion(QPainter &pintor) const
     pintor.setBrush(Aspecto::acento());
     for (const QPointF &punto : std::as_const(linea))
         pintor.drawEllipse(punto, radio, radio);
+}
+
+void Grafica::pintaRecta(QPainter &pintor) const
+{
+    if (m_rectaDesde == m_rectaHasta)
+        return;
+    pintor.setPen(QPen(Aspecto::error(), 2, Qt::DashLine));
+    pintor.drawLine(m_encuadre.aPixel(m_rectaDesde), m_encuadre.aPixel(m_rectaHasta));
 }
 
 void Grafica::resizeEvent(QResizeEvent *)

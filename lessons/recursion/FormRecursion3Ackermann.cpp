@@ -1,6 +1,6 @@
 #include "lessons/recursion/FormRecursion3Ackermann.h"
 
-#include "lessons/recursion/BotonDeCalculo.h"
+#include "shell/BotonDeCalculo.h"
 #include "lessons/recursion/EntradaNumerica.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"

@@ -1,6 +1,6 @@
 #include "lessons/recursion/FormRecursion3Capicuas.h"
 
-#include "lessons/recursion/BotonDeCalculo.h"
+#include "shell/BotonDeCalculo.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Formatos.h"

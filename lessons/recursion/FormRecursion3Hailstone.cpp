@@ -1,7 +1,7 @@
 #include "lessons/recursion/FormRecursion3Hailstone.h"
 
 #include "bignum/ModBignum.h"
-#include "lessons/recursion/BotonDeCalculo.h"
+#include "shell/BotonDeCalculo.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Formatos.h"
