@@ -1,5 +1,6 @@
 #include "lessons/complexity/FibonacciMedido.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <functional>
@@ -8,9 +9,11 @@ namespace {
 
 using Reloj = std::chrono::steady_clock;
 
-/// What fills less than this is done again: one computation may be shorter than a tick of the
-/// clock.
-constexpr std::chrono::milliseconds TiempoMinimo{2};
+/// One computation may be shorter than a tick of the clock, so that as many as fill this are timed
+/// together.
+constexpr std::chrono::microseconds TandaMinima{200};
+/// The fastest of as many turns as fill this counts: what else the machine does only delays.
+constexpr std::chrono::milliseconds TiempoMinimo{10};
 constexpr int MayorIndice = 92;
 
 qint64 recursivo(int n, qint64 &llamadas, Corrida &corrida)
@@ -83,18 +86,29 @@ Medida mideFibonacci(FormaDeCalculo forma, int n, Corrida &corrida)
     propia = &medida;
 
     Medida resultado;
-    qint64 veces = 0;
-    Reloj::duration tiempo{};
     // The compiler may not know that n is the same in every turn.
     volatile int indice = n;
-    const auto inicio = Reloj::now();
-    do {
-        resultado.pasos = 0;
-        resultado.valor = calcula(forma, indice, resultado.pasos, medida);
-        ++veces;
-        tiempo = Reloj::now() - inicio - cediendo;
-    } while (tiempo < TiempoMinimo && !medida.detenida());
+    const auto tanda = [&](qint64 veces) {
+        cediendo = {};
+        const auto inicio = Reloj::now();
+        for (qint64 i = 0; i < veces; ++i) {
+            resultado.pasos = 0;
+            resultado.valor = calcula(forma, indice, resultado.pasos, medida);
+        }
+        return Reloj::now() - inicio - cediendo;
+    };
+    qint64 veces = 1;
+    auto mejor = tanda(veces);
+    while (mejor < TandaMinima && !medida.detenida()) {
+        veces *= 2;
+        mejor = tanda(veces);
+    }
+    for (auto total = mejor; total < TiempoMinimo && !medida.detenida();) {
+        const auto otra = tanda(veces);
+        mejor = std::min(mejor, otra);
+        total += otra;
+    }
     resultado.nanosegundos =
-        std::chrono::duration<double, std::nano>(tiempo).count() / static_cast<double>(veces);
+        std::chrono::duration<double, std::nano>(mejor).count() / static_cast<double>(veces);
     return resultado;
 }

@@ -12,7 +12,7 @@ struct Medida
 {
     qint64 valor = 0;
     qint64 pasos = 0;
-    double nanosegundos = 0; ///< of one computation, the mean of as many as fill a few milliseconds
+    double nanosegundos = 0; ///< of one computation, at the fastest of several tries
 };
 
 /// F(n), F(0) = 0, F(1) = 1, for n up to 92, the last that fits 64 bits. Yields in the recursive

@@ -1,12 +1,12 @@
 #include "lessons/complexity/FormRecursion1Fibonacci.h"
 
-#include "lessons/complexity/TextoDeDuracion.h"
 #include "shell/BotonDeCalculo.h"
 #include "shell/ColumnasRepartidas.h"
 #include "shell/EnteroAcotado.h"
 #include "shell/Evento.h"
 #include "shell/Formatos.h"
 #include "shell/ModGlobal.h"
+#include "shell/TextoDeDuracion.h"
 #include "shell/Textos.h"
 #include "shell/Veredicto.h"
 #include "ui_FormRecursion1Fibonacci.h"

@@ -28,7 +28,7 @@ QString nombreDe(int palo)
 FormRecursion1Hanoi::FormRecursion1Hanoi(QWidget *padre)
     : QWidget(padre),
       ui(std::make_unique<Ui::FormRecursion1Hanoi>()),
-      m_modelo({Traduce(u"Movimiento"_s), Traduce(u"Disco"_s), Traduce(u"De"_s), Traduce(u"A"_s)})
+      m_modelo({Traduce(u"N.º"_s), Traduce(u"Disco"_s), Traduce(u"De"_s), Traduce(u"A"_s)})
 {
     ui->setupUi(this);
     traduceVentana(this);

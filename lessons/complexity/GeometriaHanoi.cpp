@@ -8,7 +8,7 @@ constexpr qreal AltoDeBase = 10;
 /// The share of the width of its third that the largest disc takes.
 constexpr qreal AnchoMayor = 0.92;
 constexpr qreal AnchoMenor = 0.22;
-constexpr qreal GrosorMayor = 34;
+constexpr qreal GrosorMayor = 48;
 
 } // namespace
 

@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int DecimalesDePhi = 60;
+constexpr int DecimalesDePhi = 40;
 
 QString textoDelError(const CocienteFibonacci &cociente)
 {
@@ -47,6 +47,14 @@ FormFibonacciAureo::FormFibonacciAureo(QWidget *padre)
 }
 
 FormFibonacciAureo::~FormFibonacciAureo() = default;
+
+/// Where there is no room for them side by side, the plot stands below the table.
+void FormFibonacciAureo::resizeEvent(QResizeEvent *suceso)
+{
+    QWidget::resizeEvent(suceso);
+    const bool cabenJuntos = width() > fontMetrics().horizontalAdvance(u'0') * 110;
+    ui->reparto->setOrientation(cabenJuntos ? Qt::Horizontal : Qt::Vertical);
+}
 
 void FormFibonacciAureo::cmdAureo_Click()
 {

@@ -19,6 +19,9 @@ public:
     explicit FormFibonacciAureo(QWidget *padre);
     ~FormFibonacciAureo() override;
 
+protected:
+    void resizeEvent(QResizeEvent *suceso) override;
+
 private:
     void cmdAureo_Click();
 

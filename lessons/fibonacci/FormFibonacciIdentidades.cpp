@@ -29,13 +29,13 @@ QString abreviado(const QString &numero)
 FormFibonacciIdentidades::FormFibonacciIdentidades(QWidget *padre)
     : QWidget(padre),
       ui(std::make_unique<Ui::FormFibonacciIdentidades>()),
-      m_modelo({Traduce(u"Identidad"_s), Traduce(u"Fórmula"_s), Traduce(u"Miembro izquierdo"_s),
-                Traduce(u"Miembro derecho"_s), Traduce(u"¿Se cumple?"_s)})
+      m_modelo({Traduce(u"Identidad"_s), Traduce(u"Fórmula"_s), Traduce(u"¿Se cumple?"_s),
+                Traduce(u"Miembro izquierdo"_s), Traduce(u"Miembro derecho"_s)})
 {
     ui->setupUi(this);
     traduceVentana(this);
     ui->cmdProbar->setIcon(Icono(u"COMPROBAR"_s));
-    m_modelo.ponColumnasDeTexto({0, 1, 4});
+    m_modelo.ponColumnasDeTexto({0, 1, 2});
     ui->FlexIdentidades->setModel(&m_modelo);
     ui->FlexIdentidades->setSelectionBehavior(QAbstractItemView::SelectRows);
     ui->FlexIdentidades->ponTextoVacio(
@@ -64,8 +64,8 @@ void FormFibonacciIdentidades::cmdProbar_Click()
     QList<QStringList> filas;
     for (const IdentidadProbada &identidad : std::as_const(m_identidades)) {
         filas << QStringList{Traduce(identidad.nombre), identidad.formula,
-                             abreviado(identidad.izquierda), abreviado(identidad.derecha),
-                             identidad.seCumple() ? Traduce(u"✓ Sí"_s) : Traduce(u"✗ No"_s)};
+                             identidad.seCumple() ? Traduce(u"✓ Sí"_s) : Traduce(u"✗ No"_s),
+                             abreviado(identidad.izquierda), abreviado(identidad.derecha)};
     }
     m_modelo.ponFilas(filas);
     ui->FlexIdentidades->selectRow(0);

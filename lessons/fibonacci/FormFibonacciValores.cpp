@@ -7,6 +7,7 @@
 #include "shell/Evento.h"
 #include "shell/Formatos.h"
 #include "shell/ModGlobal.h"
+#include "shell/TextoDeDuracion.h"
 #include "shell/Textos.h"
 #include "shell/Veredicto.h"
 #include "ui_FormFibonacciValores.h"
@@ -31,11 +32,6 @@ QString nombreDe(MetodoFibonacci metodo)
         return Traduce(u"Duplicación"_s);
     }
     return {};
-}
-
-QString segundos(qint64 nanosegundos)
-{
-    return QLocale().toString(static_cast<double>(nanosegundos) / 1e9, 'f', 4) + u" s"_s;
 }
 
 } // namespace
@@ -135,10 +131,10 @@ void FormFibonacciValores::calcula(MetodoFibonacci metodo, int n)
     const qint64 tiempo = m_reloj.nsecsElapsed();
     muestraValor(n, valor);
     const Esfuerzo &esfuerzo = m_calculo.esfuerzo();
-    m_comparacion.agrega({formatoEntero(qint64{n}), nombreDe(metodo),
-                          formatoEntero(esfuerzo.llamadas), formatoEntero(esfuerzo.sumas),
-                          formatoEntero(esfuerzo.productos),
-                          valor.isEmpty() ? Traduce(u"detenido"_s) : segundos(tiempo)});
+    m_comparacion.agrega(
+        {formatoEntero(qint64{n}), nombreDe(metodo), formatoEntero(esfuerzo.llamadas),
+         formatoEntero(esfuerzo.sumas), formatoEntero(esfuerzo.productos),
+         valor.isEmpty() ? Traduce(u"detenido"_s) : textoDeDuracion(static_cast<double>(tiempo))});
     ui->FlexComparacion->scrollToBottom();
 }
 

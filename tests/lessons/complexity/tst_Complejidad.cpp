@@ -3,8 +3,8 @@
 #include "lessons/complexity/CuestionesComplejidad.h"
 #include "lessons/complexity/FibonacciMedido.h"
 #include "lessons/complexity/GeometriaHanoi.h"
-#include "lessons/complexity/TextoDeDuracion.h"
 #include "lessons/complexity/TorresHanoi.h"
+#include "shell/TextoDeDuracion.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QSet>

@@ -152,8 +152,8 @@ private Q_SLOTS:
     void identidades()
     {
         pulsa(u"cmdProbar"_s);
-        QCOMPARE(columna(u"FlexIdentidades"_s, 2), u"1|8|832.040|6.764|10.803.704"_s);
-        QCOMPARE(columna(u"FlexIdentidades"_s, 4), u"✓ Sí|✓ Sí|✓ Sí|✓ Sí|✓ Sí"_s);
+        QCOMPARE(columna(u"FlexIdentidades"_s, 3), u"1|8|832.040|6.764|10.803.704"_s);
+        QCOMPARE(columna(u"FlexIdentidades"_s, 2), u"✓ Sí|✓ Sí|✓ Sí|✓ Sí|✓ Sí"_s);
         control<QTableView>(m_ventana.get(), u"FlexIdentidades"_s)->selectRow(2);
         QCOMPARE(largo(u"txtIzquierda"_s), u"832040"_s);
         QCOMPARE(largo(u"txtDerecha"_s), u"832040"_s);

@@ -1,4 +1,4 @@
-#include "lessons/complexity/TextoDeDuracion.h"
+#include "shell/TextoDeDuracion.h"
 
 #include <QLocale>
 #include <array>
