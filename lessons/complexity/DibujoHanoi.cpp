@@ -10,7 +10,7 @@ namespace {
 
 QColor colorDe(int disco, int discos)
 {
-    return QColor::fromHsv(300 * (disco - 1) / discos, 150, 225);
+    return QColor::fromHsv(300 * (disco - 1) / discos, 105, 240);
 }
 
 } // namespace

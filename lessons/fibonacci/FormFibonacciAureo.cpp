@@ -34,10 +34,12 @@ FormFibonacciAureo::FormFibonacciAureo(QWidget *padre)
     traduceVentana(this);
     ui->lblPhi->setText(u"φ = (1 + √5) / 2 = "_s + numeroAureo(DecimalesDePhi) + u'…');
     Aspecto::destaca(ui->lblPhi, 1.1);
+    m_modelo.ponColumnasDeTexto({3});
     ui->FlexCocientes->setModel(&m_modelo);
     new ColumnasRepartidas(ui->FlexCocientes);
     ui->reparto->setStretchFactor(0, 3);
     ui->reparto->setStretchFactor(1, 2);
+    ui->reparto->setSizes({600, 400});
 
     conecta(ui->cmdAureo, &QPushButton::clicked, this, &FormFibonacciAureo::cmdAureo_Click);
     conecta(ui->TxtHasta, &QLineEdit::returnPressed, this, &FormFibonacciAureo::cmdAureo_Click);

@@ -20,6 +20,13 @@ QString enSuperindice(int numero)
     return texto;
 }
 
+/// A decimal fraction of at most so many digits and a sign that there are more.
+QString recortado(const QString &decimal)
+{
+    constexpr int maximo = 26;
+    return decimal.size() <= maximo ? decimal : decimal.left(maximo) + u'…';
+}
+
 } // namespace
 
 QList<CocienteFibonacci> cocientesFibonacci(int hasta)
@@ -29,7 +36,8 @@ QList<CocienteFibonacci> cocientesFibonacci(int hasta)
     QString siguiente = u"1"_s;
     for (int n = 1; n <= hasta; ++n) {
         const double logError = -n * std::log10(std::numbers::phi) - std::log10(f.toDouble());
-        cocientes << CocienteFibonacci{n, f, siguiente, ADecimal(siguiente + u'/' + f), logError};
+        cocientes << CocienteFibonacci{n, f, siguiente, recortado(ADecimal(siguiente + u'/' + f)),
+                                       logError};
         QString suma = valorEntero(f + u'+' + siguiente);
         f = std::move(siguiente);
         siguiente = std::move(suma);

@@ -9,7 +9,8 @@ struct CocienteFibonacci
     int n = 0;
     QString f;         ///< F(n)
     QString siguiente; ///< F(n+1)
-    QString cociente;  ///< F(n+1) / F(n) as a decimal fraction, of the precision in force
+    /// F(n+1) / F(n) as a decimal fraction, cut off where more digits would say nothing.
+    QString cociente;
     /// The decimal logarithm of |F(n+1) / F(n) - φ|. From F(n+1) - φ F(n) = (1 - φ)^n the distance
     /// is φ^(-n) / F(n), which needs no subtraction of nearly equal numbers.
     double logError = 0;
