@@ -5,6 +5,7 @@
 #include "shell/EnteroAcotado.h"
 #include "shell/Evento.h"
 #include "shell/Formatos.h"
+#include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
 #include "shell/Textos.h"
 #include "shell/Veredicto.h"
@@ -34,6 +35,7 @@ FormFibonacciAureo::FormFibonacciAureo(QWidget *padre)
     traduceVentana(this);
     ui->lblPhi->setText(u"φ = (1 + √5) / 2 = "_s + numeroAureo(DecimalesDePhi) + u'…');
     Aspecto::destaca(ui->lblPhi, 1.1);
+    ui->cmdAureo->setIcon(Icono(u"CALCULAR"_s));
     m_modelo.ponColumnasDeTexto({3});
     ui->FlexCocientes->setModel(&m_modelo);
     new ColumnasRepartidas(ui->FlexCocientes);
