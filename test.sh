@@ -8,7 +8,7 @@ instala_paquetes test fuzz
 
 scripts/formato.sh --check
 
-scripts/fuzz.sh "${NUMORA_FUZZ_SECONDS:-10}"
+scripts/fuzz.sh "${NUMORA_FUZZ_SECONDS:-5}"
 
 cmake --preset asan
 cmake --build --preset asan

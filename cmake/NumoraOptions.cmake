@@ -27,3 +27,17 @@ target_compile_definitions(numora_qt_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_NO_KEYWORDS
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# Qt's headers compiled once for all (NUMORA_PCH): half the time of a build from nothing. A target takes
+# them by numora_precompile; its definitions must be those of this one and more.
+if(NUMORA_PCH)
+    file(WRITE "${CMAKE_BINARY_DIR}/precompiled.cpp" "")
+    add_library(numora_precompiled OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
+    target_link_libraries(numora_precompiled PRIVATE numora_qt_options Qt6::Widgets)
+    target_precompile_headers(numora_precompiled PRIVATE <QtWidgets>)
+endif()
+function(numora_precompile TARGET)
+    if(NUMORA_PCH)
+        target_precompile_headers(${TARGET} REUSE_FROM numora_precompiled)
+    endif()
+endfunction()

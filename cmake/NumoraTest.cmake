@@ -5,6 +5,9 @@ function(numora_test NAME)
     add_executable(${NAME} ${ARG_UNPARSED_ARGUMENTS})
     set_target_properties(${NAME} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_link_libraries(${NAME} PRIVATE numora_qt_options Qt6::Test ${ARG_LIBS})
+    if("numora_test_support" IN_LIST ARG_LIBS)
+        numora_precompile(${NAME})
+    endif()
     add_test(NAME ${NAME} COMMAND ${NAME})
     set_tests_properties(${NAME} PROPERTIES
         TIMEOUT 300

@@ -13,6 +13,11 @@
 #include "lessons/recursion/EscenasRecursion.h"
 #include "lessons/recursion/FormRecursion2.h"
 #include "lessons/recursion/FormRecursion3.h"
+#include "lessons/rsa/EscenasRSA.h"
+#include "lessons/rsa/FormRSA.h"
+#include "minical/EscenasMiniCal.h"
+#include "minical/FormCalc.h"
+#include "shell/FormPrincipal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -33,14 +38,15 @@ Contenido contenidoDelPrograma()
                            {u"EUCLIDES"_s, u"Algoritmo de Euclides"_s, crea<FormEuclides>},
                            {u"PRIMOS"_s, u"Primos"_s, crea<FormPrimos>},
                            {u"UNIDADES"_s, u"Unidades"_s, {}},
-                           {u"RSA"_s, u"Criptografía RSA"_s, {}},
+                           {u"RSA"_s, u"Criptografía RSA"_s, crea<FormRSA>},
                            {u"TCR"_s, u"Teorema chino del resto"_s, crea<FormTCR>},
                            {u"RECURSION"_s, u"Recursión y complejidad"_s, crea<FormRecursión1>},
                            {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>},
                            {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>}};
-    contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, {}};
+    contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
     contenido.escenas = escenasFibonacci(0) + escenasEuclides(1) + escenasPrimos(2) +
-                        escenasTCR(5) + escenasRecursion1(6) + escenasRecursion2(7) +
-                        escenasRecursion3(8);
+                        escenasRSA(4) + escenasTCR(5) + escenasRecursion1(6) +
+                        escenasRecursion2(7) + escenasRecursion3(8) +
+                        escenasMiniCal(FormPrincipal::FilaHojaDeCalculo);
     return contenido;
 }

@@ -69,6 +69,27 @@ void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidge
     m_tsTema->setTabData(indice, clave);
 }
 
+void FormLeccion::quitaTema(const QString &clave)
+{
+    const int indice = indiceDeTema(clave);
+    if (indice < 0)
+        return;
+    // The panel goes first: the strip tells which topic comes to the front once the tab is gone.
+    QWidget *panel = m_paneles->widget(indice);
+    m_paneles->removeWidget(panel);
+    panel->hide();
+    m_tsTema->removeTab(indice);
+}
+
+int FormLeccion::indiceDeTema(const QString &clave) const
+{
+    for (int i = 0; i < m_tsTema->count(); ++i) {
+        if (m_tsTema->tabData(i).toString() == clave)
+            return i;
+    }
+    return -1;
+}
+
 void FormLeccion::agregaIntroduccion(const QString &rotulo)
 {
     auto *panel = new QWidget(this);

@@ -45,6 +45,11 @@ protected:
     /// counted from 0.
     void agregaTema(const QString &rotulo, const QString &clave, QWidget *panel);
 
+    /// Takes a topic off the strip; its panel stays as it is, and may be added again. Nothing for a
+    /// key that no topic has.
+    void quitaTema(const QString &clave);
+    bool tieneTema(const QString &clave) const { return indiceDeTema(clave) >= 0; }
+
     /// The first topic of every lesson: its page of introduction.
     void agregaIntroduccion(const QString &rotulo);
 
@@ -58,6 +63,7 @@ protected:
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
+    int indiceDeTema(const QString &clave) const;
     void tsTema_Click(int indice);
     void desaparece();
     QWidget *marco();

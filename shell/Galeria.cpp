@@ -17,8 +17,10 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSettings>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 
@@ -33,6 +35,23 @@ class Callado : public Interlocutor
 public:
     void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
     QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
+    Guardado preguntaSiGuarda(QWidget *, const QString &, const QString &) override
+    {
+        return Guardado::Descartar;
+    }
+    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &,
+                                 const QStringList &) override
+    {
+        return {};
+    }
+    Archivo pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
+                                   const QStringList &) override
+    {
+        return {};
+    }
+    bool pideImpresora(QWidget *, QPrinter &, const QString &) override { return false; }
+    QString pideCarpeta(QWidget *, const QString &, const QString &) override { return {}; }
+    bool confirma(QWidget *, const QString &, const QString &) override { return false; }
     void abre(const QString &) override {}
     bool lanzaAlguno(const QList<QStringList> &) override { return true; }
 };
@@ -115,13 +134,16 @@ private:
             qWarning("no such control in the scene: %s", qPrintable(paso.control));
     }
 
-    /// "row,column:text", both counted from 0.
-    static void escribe(const QAbstractItemView &rejilla, const QString &valor)
+    /// "row,column:text", or "row,column" for the cell to become current; both counted from 0.
+    static void escribe(QAbstractItemView &rejilla, const QString &valor)
     {
         const QString casilla = valor.section(u':', 0, 0);
         const QModelIndex indice = rejilla.model()->index(casilla.section(u',', 0, 0).toInt(),
                                                           casilla.section(u',', 1).toInt());
-        rejilla.model()->setData(indice, valor.section(u':', 1), Qt::EditRole);
+        if (casilla == valor)
+            rejilla.setCurrentIndex(indice);
+        else
+            rejilla.model()->setData(indice, valor.section(u':', 1), Qt::EditRole);
     }
 
     const Contenido &m_contenido;
@@ -134,6 +156,9 @@ private:
 
 int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
 {
+    // Windows that are closed note their sizes: not among the settings of the user.
+    const QTemporaryDir ajustes;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ajustes.path());
     QTextStream errores(stderr);
     if (!ExisteFichero(Sesión().carpeta() + u"\\ClipArt\\escudo.avi"_s)) {
         errores << u"No se encuentra la carpeta de trabajo."_s << Qt::endl;

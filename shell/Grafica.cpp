@@ -4,10 +4,10 @@
 #include "shell/EjeDeGrafica.h"
 #include "shell/Formatos.h"
 #include "shell/ModGlobal.h"
+#include "shell/PintorDeGrafica.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -37,45 +37,23 @@ protected:
     }
 };
 
-template <typename Control>
-Control *adorno(Control *control, const QString &nombre)
-{
-    control->setObjectName(nombre);
-    control->setAttribute(Qt::WA_TransparentForMouseEvents);
-    control->hide();
-    return control;
-}
-
-QFrame *regla(QWidget *padre, QFrame::Shape forma, const QString &nombre)
-{
-    auto *linea = adorno(new QFrame(padre), nombre);
-    linea->setFrameStyle(forma | QFrame::Plain);
-    return linea;
-}
-
-QLabel *rotulo(QWidget *padre, const QString &nombre)
-{
-    auto *label = adorno(new QLabel(padre), nombre);
-    label->setMargin(2);
-    label->setAutoFillBackground(true);
-    label->setBackgroundRole(QPalette::ToolTipBase);
-    label->setForegroundRole(QPalette::ToolTipText);
-    label->setFrameStyle(QFrame::Box | QFrame::Plain);
-    return label;
-}
-
 } // namespace
 
 Grafica::Grafica(QWidget *padre)
     : QWidget(padre),
-      m_ejeX(adorno(new EjeDeGrafica(m_encuadre, Qt::Horizontal, this), u"EjeX"_s)),
-      m_ejeY(adorno(new EjeDeGrafica(m_encuadre, Qt::Vertical, this), u"EjeY"_s)),
-      m_punto(adorno(new Anillo(this), u"PuntoFunción"_s)),
-      m_reglaHorizontal(regla(this, QFrame::HLine, u"ReglaHorizontal"_s)),
-      m_reglaVertical(regla(this, QFrame::VLine, u"ReglaVertical"_s)),
-      m_labelX(rotulo(this, u"LabelX"_s)),
-      m_labelY(rotulo(this, u"LabelY"_s))
+      m_ejeX(new EjeDeGrafica(m_encuadre, Qt::Horizontal, this)),
+      m_ejeY(new EjeDeGrafica(m_encuadre, Qt::Vertical, this)),
+      m_punto(new Anillo(this)),
+      m_reglas(m_encuadre, this)
 {
+    m_ejeX->setObjectName(u"EjeX"_s);
+    m_ejeY->setObjectName(u"EjeY"_s);
+    m_punto->setObjectName(u"PuntoFunción"_s);
+    for (QWidget *adorno :
+         {static_cast<QWidget *>(m_ejeX), static_cast<QWidget *>(m_ejeY), m_punto}) {
+        adorno->setAttribute(Qt::WA_TransparentForMouseEvents);
+        adorno->hide();
+    }
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -133,7 +111,7 @@ QSize Grafica::minimumSizeHint() const
 /// Gives axes and plot their places: the axes are as wide as their largest number needs.
 void Grafica::coloca()
 {
-    const int alto = fontMetrics().height() + EjeDeGrafica::Muesca + 4;
+    const int alto = fontMetrics().height() + EjeDeGrafica::Muesca + Aspecto::Espacio;
     const int anchoDeNumero = std::max(
         fontMetrics().horizontalAdvance(formatoEntero(std::llround(m_encuadre.visible().top()))),
         fontMetrics().horizontalAdvance(
@@ -155,55 +133,30 @@ void Grafica::coloca()
 void Grafica::amplia(qreal factor)
 {
     m_encuadre.amplia(factor, m_encuadre.lienzo().center());
-    ocultaReglas();
+    m_reglas.oculta();
     coloca();
 }
 
 void Grafica::muestraTodo()
 {
     m_encuadre.muestraTodo();
-    ocultaReglas();
+    m_reglas.oculta();
     coloca();
 }
 
 void Grafica::sigue(QPointF pixel)
 {
-    const QRectF &lienzo = m_encuadre.lienzo();
-    if (m_puntos.isEmpty() || !lienzo.contains(pixel)) {
+    if (m_puntos.isEmpty() || !m_encuadre.lienzo().contains(pixel)) {
         quitaReglas();
         return;
     }
-    const QPoint p = pixel.toPoint();
-    const QRect l = lienzo.toRect();
-    m_reglaHorizontal->setGeometry(l.left(), p.y(), l.width(), 1);
-    m_reglaVertical->setGeometry(p.x(), l.top(), 1, l.height());
-    const QPointF mundo = m_encuadre.aMundo(pixel);
-    m_labelX->setText(formatoEntero(std::llround(mundo.x())));
-    m_labelY->setText(formatoEntero(std::llround(mundo.y())));
-    m_labelX->adjustSize();
-    m_labelY->adjustSize();
-    m_labelX->move(std::min(p.x() - m_labelX->width() / 2, width() - m_labelX->width()),
-                   l.bottom() + EjeDeGrafica::Muesca);
-    m_labelY->move(std::max(0, l.left() - EjeDeGrafica::Muesca - m_labelY->width()),
-                   p.y() - m_labelY->height() / 2);
-    for (QWidget *control :
-         {static_cast<QWidget *>(m_reglaHorizontal), static_cast<QWidget *>(m_reglaVertical),
-          static_cast<QWidget *>(m_labelX), static_cast<QWidget *>(m_labelY)})
-        control->show();
-    senala(puntoCercano(mundo.x()));
-}
-
-void Grafica::ocultaReglas()
-{
-    m_reglaHorizontal->hide();
-    m_reglaVertical->hide();
-    m_labelX->hide();
-    m_labelY->hide();
+    m_reglas.sigue(pixel);
+    senala(puntoCercano(m_encuadre.aMundo(pixel).x()));
 }
 
 void Grafica::quitaReglas()
 {
-    ocultaReglas();
+    m_reglas.oculta();
     senala(-1);
 }
 
@@ -227,9 +180,11 @@ void Grafica::colocaPunto()
     m_punto->setVisible(m_encuadre.lienzo().adjusted(-1, -1, 1, 1).contains(centro));
 }
 
-/// Pans just as far as the marked point needs to be seen.
-void Grafica::muestraPunto()
+/// Marks a point that the keyboard has chosen, and pans just as far as it needs to be seen.
+void Grafica::eligePunto(int indice)
 {
+    m_reglas.oculta();
+    senala(indice);
     const QPointF punto = m_encuadre.aPixel(m_puntos.at(m_senalado));
     const QRectF &l = m_encuadre.lienzo();
     const QPointF cerca(std::clamp(punto.x(), l.left(), l.right()),
@@ -255,83 +210,23 @@ int Grafica::puntoCercano(qreal x) const
 void Grafica::paintEvent(QPaintEvent *)
 {
     QPainter pintor(this);
-    pintor.setRenderHint(QPainter::Antialiasing);
     if (m_puntos.isEmpty()) {
         pintor.setPen(Aspecto::atenuado());
         pintor.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_textoVacio);
         return;
     }
-    const QRectF &lienzo = m_encuadre.lienzo();
-    pintor.fillRect(lienzo, palette().base());
-    pintor.setClipRect(lienzo.adjusted(-4, -4, 4, 4));
-    if (m_tramoHasta > m_tramoDesde) {
-        QColor fondo = Aspecto::acento();
-        fondo.setAlpha(34);
-        const QRectF tramo(m_encuadre.aPixel({m_tramoDesde, 0}),
-                           m_encuadre.aPixel({m_tramoHasta, 0}));
-        pintor.fillRect(
-            QRectF(QPointF(tramo.left(), lienzo.top()), QPointF(tramo.right(), lienzo.bottom())) &
-                lienzo,
-            fondo);
-    }
-    pintaRejilla(pintor);
-    pintaFuncion(pintor);
-    pintaRecta(pintor);
-    if (hasFocus()) {
-        pintor.setClipping(false);
-        pintor.setPen(QPen(palette().highlight().color(), 1));
-        pintor.setBrush(Qt::NoBrush);
-        pintor.drawRect(lienzo);
-    }
-}
-
-void Grafica::pintaRejilla(QPainter &pintor) const
-{
-    QColor raya = palette().color(QPalette::Mid);
-    raya.setAlpha(120);
-    pintor.setPen(QPen(raya, 1));
-    const QRectF &lienzo = m_encuadre.lienzo();
-    for (const qint64 marca : m_ejeX->marcas()) {
-        const qreal x = m_encuadre.aPixel({static_cast<qreal>(marca), 0}).x();
-        pintor.drawLine(QPointF(x, lienzo.top()), QPointF(x, lienzo.bottom()));
-    }
-    for (const qint64 marca : m_ejeY->marcas()) {
-        const qreal y = m_encuadre.aPixel({0, static_cast<qreal>(marca)}).y();
-        pintor.drawLine(QPointF(lienzo.left(), y), QPointF(lienzo.right(), y));
-    }
-}
-
-void Grafica::pintaFuncion(QPainter &pintor) const
-{
+    PintorDeGrafica dibujo(m_encuadre, palette(), pintor);
+    dibujo.fondo();
+    dibujo.tramo(m_tramoDesde, m_tramoHasta);
+    dibujo.rejilla(m_ejeX->marcas(), m_ejeY->marcas());
     // One point beyond either edge, so that the lines that lead out of the picture are drawn.
     const QRectF &visible = m_encuadre.visible();
     const int desde = std::max(0, puntoCercano(visible.left()) - 1);
-    const int hasta =
-        std::min(static_cast<int>(m_puntos.size()) - 1, puntoCercano(visible.right()) + 1);
-    QPolygonF linea;
-    for (int i = desde; i <= hasta; ++i)
-        linea << m_encuadre.aPixel(m_puntos.at(i));
-    QColor tenue = Aspecto::acento();
-    tenue.setAlpha(110);
-    pintor.setPen(QPen(tenue, 1));
-    pintor.setBrush(Qt::NoBrush);
-    pintor.drawPolyline(linea);
-    const qreal paso = linea.size() > 1 ? (linea.last().x() - linea.first().x()) /
-                                              static_cast<qreal>(linea.size() - 1)
-                                        : 8.0;
-    const qreal radio = std::clamp(paso * 0.4, 1.8, 4.0);
-    pintor.setPen(Qt::NoPen);
-    pintor.setBrush(Aspecto::acento());
-    for (const QPointF &punto : std::as_const(linea))
-        pintor.drawEllipse(punto, radio, radio);
-}
-
-void Grafica::pintaRecta(QPainter &pintor) const
-{
-    if (m_rectaDesde == m_rectaHasta)
-        return;
-    pintor.setPen(QPen(Aspecto::error(), 2, Qt::DashLine));
-    pintor.drawLine(m_encuadre.aPixel(m_rectaDesde), m_encuadre.aPixel(m_rectaHasta));
+    const int hasta = puntoCercano(visible.right()) + 2;
+    dibujo.funcion(m_puntos.mid(desde, hasta - desde));
+    dibujo.recta(m_rectaDesde, m_rectaHasta);
+    if (hasFocus())
+        dibujo.marcoDelFoco();
 }
 
 void Grafica::resizeEvent(QResizeEvent *)
@@ -399,12 +294,10 @@ void Grafica::keyPressEvent(QKeyEvent *suceso)
         muestraTodo();
         break;
     case Qt::Key_Left:
-        senala(std::max(0, m_senalado - 1));
-        muestraPunto();
+        eligePunto(std::max(0, m_senalado - 1));
         break;
     case Qt::Key_Right:
-        senala(std::min(ultimo, m_senalado + 1));
-        muestraPunto();
+        eligePunto(std::min(ultimo, m_senalado + 1));
         break;
     default:
         QWidget::keyPressEvent(suceso);

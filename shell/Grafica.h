@@ -1,13 +1,12 @@
 #pragma once
 
 #include "shell/Encuadre.h"
+#include "shell/ReglasDeGrafica.h"
 
-#include <QFrame>
 #include <QList>
 #include <QWidget>
 
 class EjeDeGrafica;
-class QLabel;
 
 /// A plot of a function of whole numbers: axes (`EjeX`, `EjeY`), points joined by thin lines, and
 /// under the mouse two rulers (`ReglaHorizontal`, `ReglaVertical`) with their coordinates
@@ -63,15 +62,11 @@ private:
     void amplia(qreal factor);
     void muestraTodo();
     void sigue(QPointF pixel);
-    void ocultaReglas();
     void quitaReglas();
     void senala(int indice);
     void colocaPunto();
-    void muestraPunto();
+    void eligePunto(int indice);
     int puntoCercano(qreal x) const;
-    void pintaRejilla(QPainter &pintor) const;
-    void pintaFuncion(QPainter &pintor) const;
-    void pintaRecta(QPainter &pintor) const;
 
     Encuadre m_encuadre;
     QList<QPointF> m_puntos;
@@ -84,6 +79,5 @@ private:
 
     EjeDeGrafica *m_ejeX, *m_ejeY;
     QWidget *m_punto;
-    QFrame *m_reglaHorizontal, *m_reglaVertical;
-    QLabel *m_labelX, *m_labelY;
+    ReglasDeGrafica m_reglas;
 };

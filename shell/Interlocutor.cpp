@@ -3,11 +3,18 @@
 #include "shell/ModGlobal.h"
 #include "shell/Rutas.h"
 
+#include <QAbstractButton>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -32,6 +39,27 @@ QMessageBox::Icon iconoDeCaja(Interlocutor::Icono icono)
         return QMessageBox::Critical;
     }
     return QMessageBox::NoIcon;
+}
+
+/// The extension that a filter such as "Hojas (*.minical)" gives, without its dot.
+QString extension(const QString &filtro)
+{
+    static const QRegularExpression forma(u"\\*\\.(\\w+)"_s);
+    return forma.match(filtro).captured(1);
+}
+
+/// Begins where `propuesta` says: in that folder, or at that file.
+void prepara(QFileDialog &dialogo, const QString &propuesta, const QStringList &filtros)
+{
+    const QFileInfo info(propuesta);
+    dialogo.setNameFilters(filtros);
+    if (info.isDir()) {
+        dialogo.setDirectory(propuesta);
+        return;
+    }
+    if (info.absoluteDir().exists())
+        dialogo.setDirectory(info.absolutePath());
+    dialogo.selectFile(info.fileName());
 }
 
 /// A box does not break words: a number of thousands of digits would make it wider than the screen.
@@ -68,6 +96,82 @@ void Interlocutor::mensaje(QWidget *padre, Icono icono, const QString &texto, co
 QString Interlocutor::pideTexto(QWidget *padre, const QString &pregunta, const QString &titulo)
 {
     return QInputDialog::getText(padre, titulo, pregunta);
+}
+
+Interlocutor::Guardado Interlocutor::preguntaSiGuarda(QWidget *padre, const QString &texto,
+                                                      const QString &titulo)
+{
+    QMessageBox caja(QMessageBox::Question, titulo, texto,
+                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, padre);
+    caja.setDefaultButton(QMessageBox::Save);
+    caja.setTextFormat(Qt::PlainText);
+    caja.button(QMessageBox::Discard)->setText(Traduce(u"&No guardar"_s));
+    switch (caja.exec()) {
+    case QMessageBox::Save:
+        return Guardado::Guardar;
+    case QMessageBox::Discard:
+        return Guardado::Descartar;
+    default:
+        return Guardado::Cancelar;
+    }
+}
+
+QString Interlocutor::pideArchivoParaAbrir(QWidget *padre, const QString &titulo,
+                                           const QString &propuesta, const QStringList &filtros)
+{
+    QFileDialog dialogo(padre, titulo);
+    dialogo.setFileMode(QFileDialog::ExistingFile);
+    prepara(dialogo, propuesta, filtros);
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().constFirst() : QString();
+}
+
+Interlocutor::Archivo Interlocutor::pideArchivoParaGuardar(QWidget *padre, const QString &titulo,
+                                                           const QString &propuesta,
+                                                           const QStringList &filtros)
+{
+    QFileDialog dialogo(padre, titulo);
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    prepara(dialogo, propuesta, filtros);
+    dialogo.setDefaultSuffix(extension(filtros.value(0)));
+    QObject::connect(
+        &dialogo, &QFileDialog::filterSelected, &dialogo,
+        [&dialogo](const QString &filtro) { dialogo.setDefaultSuffix(extension(filtro)); });
+    if (dialogo.exec() != QDialog::Accepted)
+        return {};
+    const auto filtro = static_cast<int>(filtros.indexOf(dialogo.selectedNameFilter()));
+    return {dialogo.selectedFiles().constFirst(), std::max(filtro, 0)};
+}
+
+bool Interlocutor::pideImpresora(QWidget *padre, QPrinter &impresora, const QString &titulo)
+{
+    QPrintDialog dialogo(&impresora, padre);
+    dialogo.setWindowTitle(titulo);
+    return dialogo.exec() == QDialog::Accepted;
+}
+
+QString Interlocutor::pideCarpeta(QWidget *padre, const QString &pregunta, const QString &inicial)
+{
+    QFileDialog dialogo(padre, Traduce(u"Seleccionar carpeta"_s), rutaExistente(inicial));
+    dialogo.setFileMode(QFileDialog::Directory);
+    dialogo.setOption(QFileDialog::ShowDirsOnly);
+    // The desktop's own dialog has no place for the question.
+    dialogo.setOption(QFileDialog::DontUseNativeDialog);
+    if (auto *rejilla = qobject_cast<QGridLayout *>(dialogo.layout())) {
+        auto *rotulo = new QLabel(pregunta, &dialogo);
+        rotulo->setTextFormat(Qt::PlainText);
+        rotulo->setWordWrap(true);
+        rejilla->addWidget(rotulo, rejilla->rowCount(), 0, 1, rejilla->columnCount());
+    }
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
+}
+
+bool Interlocutor::confirma(QWidget *padre, const QString &pregunta, const QString &titulo)
+{
+    QMessageBox caja(QMessageBox::Question, titulo, pregunta, QMessageBox::Yes | QMessageBox::No,
+                     padre);
+    caja.setDefaultButton(QMessageBox::No);
+    caja.setTextFormat(Qt::PlainText);
+    return caja.exec() == QMessageBox::Yes;
 }
 
 void Interlocutor::abre(const QString &direccion)

@@ -4,11 +4,12 @@
 #include <QStringList>
 #include <memory>
 
+class QPrinter;
 class QWidget;
 
 /// Everything by which the program speaks to the user or the desktop outside its own windows:
-/// message boxes, questions, the system's browser, other programs. One object stands
-/// behind it; the gallery and the tests put their own there.
+/// message boxes, questions, files to choose, the system's browser, other programs. One object
+/// stands behind it; the gallery and the tests put their own there.
 class Interlocutor
 {
 public:
@@ -20,6 +21,37 @@ public:
 
     /// A line of text; empty when the user cancels.
     virtual QString pideTexto(QWidget *padre, const QString &pregunta, const QString &titulo);
+
+    enum class Guardado { Guardar, Descartar, Cancelar };
+
+    /// Whether unsaved work is to be saved before it goes away. Closing the box is Cancelar.
+    virtual Guardado preguntaSiGuarda(QWidget *padre, const QString &texto, const QString &titulo);
+
+    struct Archivo
+    {
+        QString ruta;   ///< empty when the user cancels
+        int filtro = 0; ///< which of the filters was chosen
+    };
+
+    /// An existing file. `filtros` are "Hojas de MiniCal (*.minical)" and the like; `propuesta` is
+    /// a folder or a file, and may be empty.
+    virtual QString pideArchivoParaAbrir(QWidget *padre, const QString &titulo,
+                                         const QString &propuesta, const QStringList &filtros);
+
+    /// A file to write; the user has been asked about one that exists. A name without an extension
+    /// gets that of the chosen filter.
+    virtual Archivo pideArchivoParaGuardar(QWidget *padre, const QString &titulo,
+                                           const QString &propuesta, const QStringList &filtros);
+
+    /// Lets the user choose a printer and its settings; false when the user cancels.
+    virtual bool pideImpresora(QWidget *padre, QPrinter &impresora, const QString &titulo);
+
+    /// An existing folder, looked for from `inicial` on, under the lines of `pregunta`; empty when
+    /// the user cancels.
+    virtual QString pideCarpeta(QWidget *padre, const QString &pregunta, const QString &inicial);
+
+    /// Whether the user says yes to a question; the answer at hand is no.
+    virtual bool confirma(QWidget *padre, const QString &pregunta, const QString &titulo);
 
     /// Asks the desktop to open a web address or a local file (the path of a file may have
     /// back-slashes). Failures are the desktop's to report.

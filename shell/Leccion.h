@@ -21,7 +21,8 @@ struct Leccion
 struct Paso
 {
     QString control; ///< objectName of a control of the window
-    /// The text to write, in a grid "row,column:text"; the index of a tab; or empty for a click.
+    /// The text to write; in a grid "row,column:text", or "row,column" to make that cell the
+    /// current one, both counted from 0; the index of a tab; or empty for a click.
     QString valor;
 };
 

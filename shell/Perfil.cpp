@@ -78,11 +78,16 @@ QString Perfil::valor(const QString &seccion, const QString &clave, const QStrin
     return valor.left(maximo - 1);
 }
 
+QByteArray Perfil::contenido(const QString &seccion, const Entradas &entradas)
+{
+    QByteArray bytes = linea(u'[' + seccion + u']');
+    for (const auto &[clave, valor] : entradas)
+        bytes += linea(clave + u'=' + valor);
+    return bytes;
+}
+
 void Perfil::escribe(const QString &ruta, const QString &seccion, const Entradas &entradas,
                      Acceso acceso)
 {
-    QByteArray contenido = linea(u'[' + seccion + u']');
-    for (const auto &[clave, valor] : entradas)
-        contenido += linea(clave + u'=' + valor);
-    escribeArchivo(ruta, contenido, acceso == Acceso::Privado);
+    escribeArchivo(ruta, contenido(seccion, entradas), acceso == Acceso::Privado);
 }

@@ -36,10 +36,12 @@ public:
     using Entradas = QList<QPair<QString, QString>>;
     enum class Acceso { Publico, Privado };
 
-    /// Writes one section with its keys in the given order, whole or not at all, lines ended by
-    /// CR LF; a private file is readable by its owner alone from its first byte on. Throws
-    /// ErrorEjecucion naming the file, or ArgumentoNoValido for a key or value that no line can
-    /// hold.
+    /// The bytes of a profile of one section with its keys in the given order, lines ended by
+    /// CR LF. Throws ArgumentoNoValido for a key or value that no line can hold.
+    static QByteArray contenido(const QString &seccion, const Entradas &entradas);
+
+    /// Writes such a profile, whole or not at all; a private file is readable by its owner alone
+    /// from its first byte on. Throws ErrorEjecucion naming the file, and what `contenido` throws.
     static void escribe(const QString &ruta, const QString &seccion, const Entradas &entradas,
                         Acceso acceso = Acceso::Publico);
 

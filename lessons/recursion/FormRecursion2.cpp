@@ -26,6 +26,8 @@ FormRecursión2::FormRecursión2(QWidget *padre)
     conecta(funcion, &FormRecursion2Funcion::aceptada, this, &FormRecursión2::funcionAceptada);
     conecta(m_representacion, &FormRecursion2Representacion::sucesionCambiada, this,
             &FormRecursión2::moduloCambiado);
+    conecta(this, &FormLeccion::descargada, m_representacion,
+            &FormRecursion2Representacion::olvidaEdicion);
     funcionAceptada({});
 }
 

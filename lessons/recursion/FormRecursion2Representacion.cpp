@@ -87,11 +87,17 @@ void FormRecursion2Representacion::cmdCalcular_Click()
     ui->TxtMódulo->selectAll();
 }
 
-/// The field is left after it was edited. Enter and the button have accepted its text already.
+/// The field is left after it was edited. Enter and the button have accepted its text already;
+/// turning to another program is not leaving it.
 void FormRecursion2Representacion::TxtModulo_Validate()
 {
-    if (ui->TxtMódulo->isModified())
+    if (ui->TxtMódulo->isModified() && window()->isActiveWindow())
         aceptaModulo();
+}
+
+void FormRecursion2Representacion::olvidaEdicion()
+{
+    ui->TxtMódulo->setModified(false);
 }
 
 /// Whether the text of the field is a modulus, which is then the one in use.

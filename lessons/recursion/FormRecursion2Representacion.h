@@ -24,6 +24,9 @@ public:
     /// Another definition: what was computed with the one before goes away.
     void ponDefinicion(const DefinicionRecurrente &definicion);
 
+    /// The window closes: a modulus that was being edited is not wanted any more.
+    void olvidaEdicion();
+
     const DefinicionRecurrente &definicion() const { return m_definicion; }
     /// Nothing until a modulus is accepted.
     const std::optional<SucesionModular> &sucesion() const { return m_sucesion; }

@@ -8,6 +8,7 @@
 #include "shell/ModGlobal.h"
 
 #include <QAbstractButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -24,6 +25,8 @@ FormRecursión3::FormRecursión3(QWidget *padre)
     setWindowTitle(Traduce(u"Funciones recursivas"_s));
     setWindowIcon(Icono(u"FUNREC"_s));
     m_pestanas->setObjectName(u"SSTab1"_s);
+    m_pestanas->setAccessibleName(Traduce(u"Funciones"_s));
+    m_pestanas->tabBar()->setAccessibleName(m_pestanas->accessibleName());
     m_pestanas->addTab(m_ackermann, Traduce(u"Ackermann"_s));
     m_pestanas->addTab(m_hailstone, Traduce(u"Hailstone"_s));
     m_pestanas->addTab(m_capicuas, Traduce(u"Capicúas"_s));

@@ -132,7 +132,7 @@ void FormRecursion3Hailstone::muestraFin(const QString &inicio, FinDeGranizo fin
         break;
     case FinDeGranizo::Error:
         ui->LabelHail->setText(m_historia.ultimo() == 1
-                                   ? Traduce(u"«%1» no es un número entero."_s).arg(inicio)
+                                   ? Traduce(u"El valor inicial no es un número entero."_s)
                                    : Traduce(u"El número siguiente tiene demasiadas cifras."_s));
         break;
     case FinDeGranizo::Detenido:

@@ -1,9 +1,12 @@
 #include "lessons/recursion/SucesionModular.h"
 
 #include "bignum/ErrorEjecucion.h"
+#include "shell/ModGlobal.h"
 
 #include <QHash>
 #include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -12,20 +15,17 @@ std::int32_t reduce(Moneda valor, Moneda modulo)
     return static_cast<std::int32_t>(ModCy(valor, modulo).entero());
 }
 
-std::int32_t producto(std::int32_t a, std::int32_t b)
+/// alfa·a + beta·b in 32 bits; nothing when a product or the sum does not fit.
+std::optional<std::int32_t> combina(std::int32_t alfa, std::int32_t a, std::int32_t beta,
+                                    std::int32_t b)
 {
-    std::int32_t resultado = 0;
-    if (__builtin_mul_overflow(a, b, &resultado))
-        throw ErrorEjecucion(ErrorEjecucion::Desbordamiento);
-    return resultado;
-}
-
-std::int32_t suma(std::int32_t a, std::int32_t b)
-{
-    std::int32_t resultado = 0;
-    if (__builtin_add_overflow(a, b, &resultado))
-        throw ErrorEjecucion(ErrorEjecucion::Desbordamiento);
-    return resultado;
+    std::int32_t primero = 0;
+    std::int32_t segundo = 0;
+    std::int32_t suma = 0;
+    if (__builtin_mul_overflow(alfa, a, &primero) || __builtin_mul_overflow(beta, b, &segundo) ||
+        __builtin_add_overflow(primero, segundo, &suma))
+        return {};
+    return suma;
 }
 
 } // namespace
@@ -41,7 +41,13 @@ SucesionModular::SucesionModular(const DefinicionRecurrente &definicion, std::in
     m_valores[0] = reduce(definicion.f1, modulo);
     m_valores[1] = reduce(definicion.f2, modulo);
     for (std::size_t k = 2; k < m_valores.size(); ++k) {
-        m_valores[k] = suma(producto(alfa, m_valores[k - 1]), producto(beta, m_valores[k - 2])) % m;
+        const auto valor = combina(alfa, m_valores[k - 1], beta, m_valores[k - 2]);
+        if (!valor) {
+            throw ErrorEjecucion(
+                ErrorEjecucion::Desbordamiento,
+                Traduce(u"f(%1) se sale de los 32 bits con este módulo."_s).arg(k + 1));
+        }
+        m_valores[k] = *valor % m;
     }
 }
 

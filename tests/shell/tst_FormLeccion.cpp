@@ -34,6 +34,10 @@ public:
         conecta(boton, &QPushButton::clicked, this, &FormCorredor::boton_Click);
     }
 
+    using FormLeccion::agregaTema;
+    using FormLeccion::quitaTema;
+    using FormLeccion::tieneTema;
+
     QLineEdit *campo = new QLineEdit;
     QPushButton *boton = new QPushButton;
     bool acabada = false;
@@ -93,6 +97,24 @@ private Q_SLOTS:
         QVERIFY(pagina->toPlainText().contains(u"primo"_s));
         QTest::mouseClick(temas, Qt::LeftButton, {}, temas->tabRect(1).center());
         QVERIFY(!intro->isVisible() && correr->isVisible());
+        QCOMPARE(leccion.campo->text(), u"se queda"_s);
+    }
+
+    void unTemaVaYViene()
+    {
+        FormCorredor leccion;
+        muestra(leccion);
+        auto *temas = control<QTabBar>(&leccion, u"tsTema"_s);
+        QWidget *panel = leccion.boton->parentWidget();
+        leccion.campo->setText(u"se queda"_s);
+        leccion.quitaTema(u"no existe"_s);
+        leccion.quitaTema(u"correr"_s);
+        QVERIFY(!leccion.tieneTema(u"correr"_s) && !panel->isVisible());
+        QVERIFY(control<QWidget>(&leccion, u"PanelFicha_0"_s)->isVisible());
+        leccion.agregaTema(u"Correr"_s, u"correr"_s, panel);
+        QVERIFY(leccion.tieneTema(u"correr"_s) && !panel->isVisible());
+        temas->setCurrentIndex(1);
+        QVERIFY(panel->isVisible());
         QCOMPARE(leccion.campo->text(), u"se queda"_s);
     }
 

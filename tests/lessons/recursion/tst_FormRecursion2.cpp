@@ -6,6 +6,8 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTableView>
@@ -90,7 +92,8 @@ private Q_SLOTS:
         calcula(u"10"_s);
         const QString consejo = m_modulo->toolTip();
         calcula(u"2^31-1"_s);
-        QCOMPARE(Entorno::grabadora().unico().texto, u"Desbordamiento."_s);
+        QCOMPARE(Entorno::grabadora().unico().texto,
+                 u"Desbordamiento.\nf(47) se sale de los 32 bits con este módulo."_s);
         QCOMPARE(m_valores->model()->rowCount(), 0);
         QCOMPARE(m_periodo->text(), QString());
         QCOMPARE(m_modulo->toolTip(), consejo);
@@ -153,6 +156,23 @@ private Q_SLOTS:
         QTest::keyClick(m_modulo, Qt::Key_Return);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"Periodo grande"_s);
         QTest::keyClick(m_modulo, Qt::Key_Tab);
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+    }
+
+    void cerrarNoEsSalirDelCampo()
+    {
+        QMdiArea area;
+        auto *ventana = m_ventana.release();
+        area.addSubWindow(ventana);
+        control<QTabBar>(ventana, u"tsTema"_s)->setCurrentIndex(1);
+        area.show();
+        ventana->show();
+        QVERIFY(QTest::qWaitForWindowActive(&area));
+        m_modulo->setFocus();
+        QTest::keyClicks(m_modulo, u"1000"_s);
+        const QPointer<QWidget> testigo = ventana;
+        ventana->cierra();
+        QTRY_VERIFY(!testigo);
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
     }
 

@@ -24,13 +24,29 @@ public:
     QStringList abiertas;        ///< addresses given to the desktop
     QList<QStringList> lanzadas; ///< programs asked for, the first of each list
     QStringList respuestas;      ///< answers to give, in order; empty text when they run out
+    QStringList carpetasPedidas; ///< where the questions for a folder began; answered like the rest
+    QStringList confirmaciones;  ///< questions asked for yes or no
+    bool respondeSi = false;
     bool hayProgramas = true;
+    QList<Guardado> guardados;         ///< answers about unsaved work, in order; then Cancelar
+    QStringList preguntasSiGuarda;     ///< what was asked about it
+    QList<Archivo> archivos;           ///< files that are chosen, in order; then none
+    QList<QStringList> filtrosPedidos; ///< the filters that were offered with each
+    QString impresion;                 ///< the PDF file that is printed to; empty cancels
 
     /// The only message, which is then forgotten; fails the test when there is none or several.
     Mensaje unico();
 
     void mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo) override;
     QString pideTexto(QWidget *, const QString &, const QString &) override;
+    Guardado preguntaSiGuarda(QWidget *, const QString &texto, const QString &) override;
+    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &,
+                                 const QStringList &filtros) override;
+    Archivo pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
+                                   const QStringList &filtros) override;
+    bool pideImpresora(QWidget *, QPrinter &impresora, const QString &) override;
+    QString pideCarpeta(QWidget *, const QString &, const QString &inicial) override;
+    bool confirma(QWidget *, const QString &pregunta, const QString &) override;
     void abre(const QString &direccion) override;
     bool lanzaAlguno(const QList<QStringList> &ordenes) override;
 };

@@ -1,218 +1,19 @@
-#include "bignum/ErrorEjecucion.h"
-#include "bignum/ModBignum.h"
-#include "lessons/recursion/Ack.h"
 #include "lessons/recursion/Capicua.h"
 #include "lessons/recursion/Granizo.h"
-#include "lessons/recursion/ModeloAck.h"
 #include "lessons/recursion/ModeloGranizo.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>
-#include <map>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-/// The definition word by word, with the calls of C++ and a map for a memory.
-class AckPorDefinicion
-{
-public:
-    int calcula(int m, int n)
-    {
-        ++llamadas;
-        filas = std::max(filas, n + 1);
-        columnas = std::max(columnas, m + 1);
-        const auto conocido = valores.find({m, n});
-        if (conocido != valores.end())
-            return conocido->second;
-        int valor = n + 1;
-        if (m > 0)
-            valor = calcula(m - 1, n == 0 ? 1 : calcula(m, n - 1));
-        return valores[{m, n}] = valor;
-    }
-
-    std::map<std::pair<int, int>, int> valores;
-    int llamadas = 0;
-    int filas = 1, columnas = 1;
-};
-
-struct Prueba
-{
-    explicit Prueba(int corte = 1'000'000, Corrida::Cesion cesion = {})
-        : corrida(std::move(cesion)), memoria(1, 1), ack(memoria, corrida, corte)
-    {
-    }
-
-    Corrida corrida;
-    MemoriaAck memoria;
-    Ack ack;
-};
-
-} // namespace
-
-/// Ackermann's function, hailstone sequences and palindromes without a window.
-class TestFuncionesRecursivas : public QObject
+/// Hailstone sequences and the search for palindromes without a window.
+class TestSucesionesSinFin : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { Entorno::limpia(); }
-
-    void ackComoLaDefinicion_data()
-    {
-        QTest::addColumn<int>("m");
-        QTest::addColumn<int>("n");
-        QTest::addColumn<int>("valor");
-        QTest::newRow("0, 7") << 0 << 7 << 8;
-        QTest::newRow("1, 0") << 1 << 0 << 2;
-        QTest::newRow("1, 50") << 1 << 50 << 52;
-        QTest::newRow("2, 0") << 2 << 0 << 3;
-        QTest::newRow("2, 3") << 2 << 3 << 9;
-        QTest::newRow("2, 100") << 2 << 100 << 203;
-        QTest::newRow("3, 0") << 3 << 0 << 5;
-        QTest::newRow("3, 6") << 3 << 6 << 509;
-        QTest::newRow("3, 9") << 3 << 9 << 4093;
-        QTest::newRow("4, 0") << 4 << 0 << 13;
-    }
-    void ackComoLaDefinicion()
-    {
-        QFETCH(int, m);
-        QFETCH(int, n);
-        Prueba prueba;
-        QTEST(prueba.ack.calcula(m, n), "valor");
-        AckPorDefinicion definicion;
-        definicion.calcula(m, n);
-        QCOMPARE(prueba.ack.numLlamadas(), definicion.llamadas);
-        QCOMPARE(prueba.memoria.filas(), definicion.filas);
-        QCOMPARE(prueba.memoria.columnas(), definicion.columnas);
-        for (int columna = 0; columna < definicion.columnas; ++columna) {
-            for (int fila = 0; fila < definicion.filas; ++fila) {
-                const auto celda = definicion.valores.find({columna, fila});
-                const int esperado = celda == definicion.valores.end() ? 0 : celda->second;
-                QCOMPARE(prueba.memoria.lee(columna, fila), esperado);
-            }
-        }
-    }
-
-    /// The figure of the lesson's page: eight cells with m = 0, eight with 1, four with 2.
-    void celdasDeAck23()
-    {
-        Prueba prueba;
-        prueba.ack.calcula(2, 3);
-        QStringList columnas;
-        for (int m = 0; m <= 2; ++m) {
-            QStringList celdas;
-            for (int n = 0; n < prueba.memoria.filas(); ++n) {
-                if (prueba.memoria.lee(m, n) > 0)
-                    celdas << QString::number(n);
-            }
-            columnas << celdas.join(u' ');
-        }
-        QCOMPARE(columnas.join(u" | "_s), u"1 2 3 4 5 6 7 8 | 0 1 2 3 4 5 6 7 | 0 1 2 3"_s);
-        QCOMPARE(prueba.ack.numLlamadas(), 23);
-    }
-
-    void elCorte_data()
-    {
-        QTest::addColumn<int>("m");
-        QTest::addColumn<int>("n");
-        QTest::addColumn<int>("corte");
-        QTest::addColumn<int>("valor");
-        QTest::addColumn<int>("filas");
-        QTest::addColumn<int>("columnas");
-        QTest::newRow("argument at the cut-off") << 0 << 5000 << 5000 << 5001 << 5001 << 1;
-        QTest::newRow("argument beyond: the grid grows first")
-            << 0 << 6000 << 5000 << 0 << 6001 << 1;
-        QTest::newRow("m beyond") << 9 << 2 << 8 << 0 << 3 << 10;
-        QTest::newRow("just enough inside") << 3 << 5 << 252 << 253 << 253 << 4;
-        QTest::newRow("one too few inside") << 3 << 5 << 251 << 0 << 253 << 4;
-        QTest::newRow("4, 1 with the default") << 4 << 1 << 5000 << 0 << 5002 << 5;
-        QTest::newRow("negative") << 0 << 0 << -1 << 0 << 1 << 1;
-    }
-    void elCorte()
-    {
-        QFETCH(int, m);
-        QFETCH(int, n);
-        QFETCH(int, corte);
-        QFETCH(int, valor);
-        Prueba prueba(corte);
-        QCOMPARE(prueba.ack.calcula(m, n), valor);
-        QCOMPARE(prueba.ack.rendido(), valor == 0);
-        QCOMPARE(prueba.corrida.detenida(), valor == 0);
-        QTEST(prueba.memoria.filas(), "filas");
-        QTEST(prueba.memoria.columnas(), "columnas");
-    }
-
-    void unMillonDeFilas()
-    {
-        Prueba prueba(INT_MAX);
-        QCOMPARE(prueba.ack.calcula(1, 999'998), 1'000'000);
-        QCOMPARE(prueba.memoria.filas(), MemoriaAck::MaximoDeLineas);
-        for (const auto &[m, n] : {std::pair(1, 999'999), std::pair(4, 2), std::pair(0, INT_MAX),
-                                   std::pair(INT_MAX, 0), std::pair(6, 6)}) {
-            Prueba otra(INT_MAX);
-            try {
-                otra.ack.calcula(m, n);
-                QFAIL("no error");
-            } catch (const ErrorEjecucion &error) {
-                QCOMPARE(error.numero(), ErrorEjecucion::Desbordamiento);
-                QVERIFY(error.detalle().contains(u"1.000.000"_s));
-            }
-        }
-    }
-
-    void argumentosNegativos()
-    {
-        Prueba prueba;
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, prueba.ack.calcula(-1, 3));
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, prueba.ack.calcula(3, -1));
-    }
-
-    void ackDetenido()
-    {
-        Corrida *corrida = nullptr;
-        Prueba prueba(INT_MAX, [&] { corrida->detener(); });
-        corrida = &prueba.corrida;
-        // A run of some 50 ms, over and over until a yield falls into it.
-        while (!prueba.corrida.detenida()) {
-            try {
-                QCOMPARE(prueba.ack.calcula(4, 2), 0);
-            } catch (const ErrorEjecucion &) {
-                prueba.memoria.vacia();
-            }
-        }
-        QVERIFY(!prueba.ack.rendido());
-        // What was found stays, and is right.
-        QVERIFY(prueba.memoria.lee(1, 10) == 12 && prueba.memoria.lee(3, 0) == 5);
-        prueba.corrida.permitir();
-        prueba.corrida.detener();
-        QCOMPARE(prueba.ack.calcula(0, 1), 0);
-    }
-
-    void laTablaDeAck()
-    {
-        Prueba prueba;
-        ModeloAck modelo(prueba.memoria);
-        const QAbstractItemModelTester probador(&modelo);
-        prueba.ack.calcula(2, 3);
-        QCOMPARE(modelo.rowCount(), 1);
-        modelo.publica();
-        QCOMPARE(modelo.rowCount(), 9);
-        QCOMPARE(modelo.columnCount(), 3);
-        QCOMPARE(modelo.index(3, 2).data().toString(), u"9"_s);
-        QCOMPARE(modelo.index(8, 2).data(), QVariant());
-        QCOMPARE(modelo.headerData(7, Qt::Vertical, Qt::DisplayRole).toInt(), 7);
-        QVERIFY(modelo.destaca({2, 3}).isValid());
-        QCOMPARE(modelo.index(3, 2).data(Qt::BackgroundRole).value<QBrush>().color(),
-                 QColor(0, 255, 255));
-        QVERIFY(!modelo.destaca({3, 3}).isValid());
-        prueba.memoria.vacia();
-        modelo.reinicia();
-        QCOMPARE(modelo.rowCount(), 9);
-        QCOMPARE(modelo.index(3, 2).data(), QVariant());
-        QCOMPARE(modelo.index(3, 2).data(Qt::BackgroundRole), QVariant());
-    }
 
     /// Sequence A006577 of the On-Line Encyclopedia of Integer Sequences, but for the start 1.
     void granizo_data()
@@ -413,5 +214,5 @@ private Q_SLOTS:
     }
 };
 
-NUMORA_TEST_MAIN(TestFuncionesRecursivas)
-#include "tst_FuncionesRecursivas.moc"
+NUMORA_TEST_MAIN(TestSucesionesSinFin)
+#include "tst_SucesionesSinFin.moc"

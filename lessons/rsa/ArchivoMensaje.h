@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+/// What a message file holds: a line with the sender, one with the subject, then a line a block.
+struct ContenidoMensaje
+{
+    QString remitente;
+    QString asunto;
+    QStringList bloques;
+};
+
+namespace ArchivoMensaje {
+
+/// The longest file that is written or read, in bytes, and the most blocks in it: 100 000
+/// characters for a key of 2000 bits.
+inline constexpr qint64 MaximoDeBytes = 64 * 1024 * 1024;
+inline constexpr qsizetype MaximoDeBloques = 1'000'000;
+
+/// The first two lines of a message take no more bytes than this.
+inline constexpr qint64 MaximoDeCabecera = 4096;
+
+/// The bytes of a file: Windows-1252, lines ended by CR LF, the subject without blanks at its ends.
+/// Throws ArgumentoNoValido for a line break in a line or a character outside Windows-1252, and
+/// ErrorDeArchivo for what is longer than may be read.
+QByteArray compone(const ContenidoMensaje &contenido);
+
+/// Reads such a file, with CR LF or LF as line ends; UTF-8 after a byte-order mark. Throws
+/// ErrorDeArchivo when there are too many bytes or blocks.
+ContenidoMensaje interpreta(const QByteArray &bytes);
+
+/// Sender and subject, from the first MaximoDeCabecera bytes of a file; nothing when they do not
+/// end within them, so that this is no message.
+std::optional<ContenidoMensaje> interpretaCabecera(const QByteArray &principio);
+
+} // namespace ArchivoMensaje

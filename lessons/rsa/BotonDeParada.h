@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QIcon>
+#include <QPointer>
+
+/// For as long as it lives, the button that started a run is the one that stops it: its picture,
+/// its caption and its tooltip say so.
+class BotonDeParada
+{
+public:
+    BotonDeParada(QAbstractButton *boton, const QString &consejo);
+    ~BotonDeParada();
+    BotonDeParada(const BotonDeParada &) = delete;
+    BotonDeParada &operator=(const BotonDeParada &) = delete;
+
+private:
+    QPointer<QAbstractButton> m_boton;
+    QIcon m_icono;
+    QString m_texto, m_consejo;
+};

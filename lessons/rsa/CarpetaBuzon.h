@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <memory>
+#include <sys/types.h>
+
+class Descriptor;
+
+/// A folder of the mailbox, held open: what happens to its path meanwhile changes nothing. Anybody
+/// may have written what lies in it, so names are plain names, links are not followed, only
+/// ordinary files are opened, and nothing is read beyond a limit. Names are found without regard to
+/// case. Failures throw ErrorEjecucion naming the path.
+class CarpetaBuzon
+{
+public:
+    /// Opens the mailbox itself, which may be reached through links.
+    explicit CarpetaBuzon(const QString &ruta);
+
+    /// Opens one of its sub-folders.
+    CarpetaBuzon subcarpeta(const QString &nombre) const;
+    /// The same, making it when it is missing, as open to others as the mailbox is.
+    CarpetaBuzon subcarpetaCreada(const QString &nombre) const;
+
+    /// The names of its sub-folders that are plain names; links are left out. In the order of the
+    /// alphabet without regard to case.
+    QStringList subcarpetas() const;
+
+    /// The names of all its entries that are no folders, in no order.
+    QStringList entradas() const;
+
+    /// The whole of a file of at most `maximo` bytes.
+    QByteArray lee(const QString &nombre, qint64 maximo) const;
+    /// The first bytes of a file, at most `maximo`.
+    QByteArray leePrincipio(const QString &nombre, qint64 maximo) const;
+
+    /// Writes a file in the place of the one of that name, whole or not at all.
+    void sustituye(const QString &nombre, const QByteArray &contenido) const;
+
+    /// What the classes that work inside the folder need of it.
+    int fd() const;
+    const QString &ruta() const { return m_ruta; }
+    QString rutaDe(const QString &nombre) const;
+    mode_t modo() const;
+
+private:
+    CarpetaBuzon(std::shared_ptr<Descriptor> carpeta, const QString &ruta);
+
+    QString nombreReal(const QString &nombre) const;
+    Descriptor abreArchivo(const QString &nombre) const;
+
+    std::shared_ptr<Descriptor> m_carpeta;
+    QString m_ruta;
+};

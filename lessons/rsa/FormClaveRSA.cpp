@@ -1,0 +1,65 @@
+#include "lessons/rsa/FormClaveRSA.h"
+
+#include "shell/Aspecto.h"
+#include "shell/Evento.h"
+#include "shell/Imagenes.h"
+#include "shell/ModGlobal.h"
+#include "shell/Textos.h"
+#include "ui_FormClaveRSA.h"
+
+#include <QScreen>
+
+using namespace Qt::Literals::StringLiterals;
+
+FormClaveRSA::FormClaveRSA(QWidget *padre)
+    : QWidget(padre, Qt::Tool | Qt::WindowStaysOnTopHint), ui(std::make_unique<Ui::FormClaveRSA>())
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    setWindowIcon(Icono(u"RSA"_s));
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    conecta(ui->TxtDestT, &CampoLargo::textoCambiado, this, &FormClaveRSA::TxtDestT_Change);
+}
+
+FormClaveRSA::~FormClaveRSA() = default;
+
+void FormClaveRSA::ponCorresponsal(const QString &usuario, const ClavePublica &clave,
+                                   const QString &t)
+{
+    setWindowTitle(Traduce(u"Clave de "_s) + usuario);
+    ui->txtDestQ->setText(clave.q);
+    ui->txtDestS->setText(clave.s);
+    ui->TxtDestT->setText(t);
+}
+
+void FormClaveRSA::muestra()
+{
+    if (!m_colocada) {
+        const QRect pantalla = screen()->availableGeometry();
+        resize(std::min(sizeHint().width(), pantalla.width() / 3), sizeHint().height());
+        const QPoint esquina(width() + 2 * Aspecto::Margen, height() + 6 * Aspecto::Margen);
+        move(pantalla.bottomRight() - esquina);
+        m_colocada = true;
+    }
+    show();
+}
+
+QString FormClaveRSA::q() const
+{
+    return ui->txtDestQ->text();
+}
+
+QString FormClaveRSA::s() const
+{
+    return ui->txtDestS->text();
+}
+
+QString FormClaveRSA::t() const
+{
+    return ui->TxtDestT->text();
+}
+
+void FormClaveRSA::TxtDestT_Change()
+{
+    Q_EMIT puedeRecibir(!t().trimmed().isEmpty());
+}

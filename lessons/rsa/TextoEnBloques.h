@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+/// The numbers that a text is encrypted as: `r` characters a number, three decimal digits a
+/// character (its Windows-1252 code, "000" to "255"), after spaces have filled up the last block.
+/// Throws DivisionPorCero for r = 0, ArgumentoNoValido for a negative r and for a character outside
+/// Windows-1252, which it names.
+QStringList bloquesDeTexto(const QString &texto, int r);
+
+/// The characters of a decrypted block number: its digits in groups of three from the right, of
+/// each group the low 8 bits. What follows a NUL is not part of the number.
+QString NumeroATexto(const QString &numero);
+
+/// Why a text cannot travel: a sentence for the user that names the first character outside
+/// Windows-1252 and its place. Nothing when all of them are in it.
+std::optional<QString> caracterInadmisible(const QString &texto);

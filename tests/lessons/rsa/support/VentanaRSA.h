@@ -1,0 +1,150 @@
+#pragma once
+
+#include "lessons/rsa/FormClaveRSA.h"
+#include "lessons/rsa/FormRSA.h"
+#include "shell/CampoLargo.h"
+#include "shell/Rejilla.h"
+#include "tests/lessons/rsa/support/Estudiante.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// A window of the lesson with a student before it; its controls by name.
+class VentanaRSA
+{
+public:
+    void nueva()
+    {
+        cierra();
+        m_yo = std::make_unique<Estudiante>();
+    }
+    void cierra() { m_ventana.reset(); }
+
+    void abre()
+    {
+        m_ventana.reset();
+        m_ventana = std::make_unique<FormRSA>();
+        m_ventana->resize(1100, 650);
+        m_ventana->show();
+        temasDe()->setCurrentIndex(1);
+    }
+
+    void preparaBuzon(const QString &q1 = u"257"_s, const QString &q2 = u"263"_s,
+                      const QString &s = u"5"_s)
+    {
+        abre();
+        ponClave(q1, q2, s);
+        eligeBuzon(m_yo->buzon());
+        temasDe()->setCurrentIndex(3);
+        QCoreApplication::processEvents();
+    }
+
+    void eligeBuzon(const QString &carpeta)
+    {
+        Entorno::grabadora().respuestas = {carpeta};
+        boton(u"cmdBuzon"_s)->click();
+    }
+
+    void ponClave(const QString &q1, const QString &q2, const QString &s)
+    {
+        // Each field is taken over as it is left; the last verdict is the one on the whole key.
+        const auto avisos = Entorno::grabadora().mensajes;
+        const QList<std::pair<QString, QString>> numeros{
+            {u"txtQ_1"_s, q1}, {u"txtQ_2"_s, q2}, {u"txtS"_s, s}};
+        for (const auto &[nombre, numero] : numeros) {
+            Entorno::grabadora().mensajes = avisos;
+            escribe(nombre, numero);
+        }
+    }
+
+    void escribe(const QString &nombre, const QString &texto)
+    {
+        campo(nombre)->setText(texto);
+        QTest::keyClick(campo(nombre), Qt::Key_Return);
+    }
+
+    void escribeMensaje(const QString &asunto, const QString &texto)
+    {
+        linea(u"txtAsunto"_s)->setText(asunto);
+        area(u"txtDestTextoOriginal"_s)->setPlainText(texto);
+    }
+
+    void eligeUsuario(const QString &usuario)
+    {
+        auto *combo = control<QComboBox>(m_ventana.get(), u"cmbDestinatario"_s);
+        combo->setCurrentText(usuario);
+        QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
+    }
+
+    void eligeFila(int fila)
+    {
+        auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s);
+        const QRect celda = rejilla->visualRect(rejilla->model()->index(fila, 0));
+        QTest::mouseClick(rejilla->viewport(), Qt::LeftButton, {}, celda.center());
+    }
+
+    QTabBar *temasDe() const { return control<QTabBar>(m_ventana.get(), u"tsTema"_s); }
+    QStringList temas() const
+    {
+        QStringList rotulos;
+        for (int i = 0; i < temasDe()->count(); ++i)
+            rotulos << temasDe()->tabText(i);
+        return rotulos;
+    }
+    /// The cells of the list of messages; empty when it is.
+    QString lista() const
+    {
+        const auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s);
+        return rejilla->model()->rowCount() == 0 ? QString() : todas(*rejilla->model());
+    }
+    static QString todas(const QAbstractItemModel &modelo)
+    {
+        QStringList lineas{QString()};
+        for (int c = 0; c < 3; ++c)
+            lineas[0] +=
+                modelo.headerData(c, Qt::Horizontal).toString() + (c < 2 ? u"\t"_s : u""_s);
+        for (int f = 0; f < modelo.rowCount(); ++f) {
+            lineas << QStringList({modelo.index(f, 0).data().toString(),
+                                   modelo.index(f, 1).data().toString(),
+                                   modelo.index(f, 2).data().toString()})
+                          .join(u'\t');
+        }
+        return lineas.join(u'\n') + u'\n';
+    }
+    FormClaveRSA *ventanaClave() const { return m_ventana->findChild<FormClaveRSA *>(); }
+    QString campoAjeno(const QString &nombre) const
+    {
+        return control<CampoLargo>(ventanaClave(), nombre)->text();
+    }
+    CampoLargo *campo(const QString &nombre) const
+    {
+        return control<CampoLargo>(m_ventana.get(), nombre);
+    }
+    QLineEdit *linea(const QString &nombre) const
+    {
+        return control<QLineEdit>(m_ventana.get(), nombre);
+    }
+    QPlainTextEdit *area(const QString &nombre) const
+    {
+        return control<QPlainTextEdit>(m_ventana.get(), nombre);
+    }
+    QAbstractButton *boton(const QString &nombre) const
+    {
+        return control<QAbstractButton>(m_ventana.get(), nombre);
+    }
+    QString rotulo(const QString &nombre) const
+    {
+        return control<QLabel>(m_ventana.get(), nombre)->text();
+    }
+
+    std::unique_ptr<Estudiante> m_yo;
+    std::unique_ptr<FormRSA> m_ventana;
+};

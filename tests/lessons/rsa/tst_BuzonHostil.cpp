@@ -1,0 +1,238 @@
+#include "lessons/rsa/ArchivoMensaje.h"
+#include "lessons/rsa/Borrador.h"
+#include "lessons/rsa/Buzon.h"
+#include "lessons/rsa/CarpetaBuzon.h"
+#include "lessons/rsa/ColMensajes.h"
+#include "tests/lessons/rsa/support/Estudiante.h"
+
+#include <QProcess>
+#include <QSet>
+#include <memory>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// What others may have put into the mailbox, and what they do in it meanwhile.
+class TestBuzonHostil : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_yo = std::make_unique<Estudiante>();
+    }
+
+    void loQueNoEsUnMensaje_data()
+    {
+        QTest::addColumn<QString>("que");
+        for (const char *que : {"link to a file", "link to nothing", "folder", "pipe",
+                                "endless line", "locked", "link for a folder"})
+            QTest::newRow(que) << QString::fromLatin1(que);
+    }
+    /// One bad entry is counted or passed over; the good one beside it is listed, at once.
+    void loQueNoEsUnMensaje()
+    {
+        QFETCH(QString, que);
+        if (que == u"locked"_s && ::geteuid() == 0)
+            QSKIP("nothing is locked to the superuser");
+        m_yo->escribe(u"ana/RSA2.msg"_s, "luis\r\nbueno\r\n1\r\n");
+        m_yo->escribe(u"fuera.txt"_s, "secreto\r\nsecreto\r\n");
+        prepara(que);
+        ColMensajes mensajes;
+        const int ilegibles = revisaBuzon(m_yo->buzon(), mensajes, m_corrida);
+        QCOMPARE(ilegibles, que == u"folder"_s || que == u"link for a folder"_s ? 0 : 1);
+        QCOMPARE(mensajes.Count(), 1);
+        QCOMPARE(mensajes.Item(1).Asunto(), u"bueno"_s);
+    }
+
+    void noSeLeePorUnEnlace()
+    {
+        m_yo->escribe(u"fuera.txt"_s, "luis\r\nnada\r\n");
+        enlaza(u"fuera.txt"_s, u"ana/RSA1.msg"_s);
+        QCOMPARE(numeroDeError([&] { leeMensaje(m_yo->buzon() + u"\\ana\\RSA1.msg"_s); }),
+                 int(ErrorEjecucion::PermisoDenegado));
+        m_yo->escribe(u"clave.txt"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
+        enlaza(u"clave.txt"_s, u"ana/Clave.RSA"_s);
+        QCOMPARE(leeClavePublica(m_yo->buzon(), u"ana"_s).q, QString());
+        QCOMPARE(leeClavePublica(m_yo->buzon(), u"../ana"_s).q, QString());
+    }
+
+    void noSeEscribePorUnEnlace()
+    {
+        QTemporaryDir fuera;
+        QVERIFY(QFile::link(fuera.path(), m_yo->enBuzon(u"ana"_s)));
+        QCOMPARE(numeroDeError([&] { dejaMensaje(m_yo->buzon(), u"ana"_s, "x"); }),
+                 int(ErrorEjecucion::RutaNoEncontrada));
+        QVERIFY(QDir(fuera.path()).isEmpty());
+
+        // A link in the place of the own key is replaced; what it points to stays.
+        const QString victima = fuera.filePath(u"victima"_s);
+        escribeArchivo(victima, "intacta");
+        QDir(m_yo->buzon()).mkpath(m_yo->usuario());
+        const QString propia = m_yo->enBuzon(m_yo->usuario() + u"/Clave.RSA"_s);
+        QVERIFY(QFile::link(victima, propia));
+        ClsRSA clave;
+        clave.ponDirMensajes(m_yo->buzon());
+        clave.PublicaClave();
+        QCOMPARE(Estudiante::lee(victima), "intacta"_ba);
+        QVERIFY(!QFileInfo(propia).isSymLink());
+    }
+
+    void ficherosEnormes()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nenorme\r\n1\r\n");
+        const QString ruta = m_yo->enBuzon(u"ana/RSA1.msg"_s);
+        // Sparse: the size of gigabytes without their disk.
+        QCOMPARE(::truncate(qPrintable(ruta), 5'000'000'000), 0);
+        m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=33\r\n");
+        QCOMPARE(::truncate(qPrintable(m_yo->enBuzon(u"ana/Clave.RSA"_s)), 5'000'000'000), 0);
+        ColMensajes mensajes;
+        QCOMPARE(revisaBuzon(m_yo->buzon(), mensajes, m_corrida), 0);
+        QCOMPARE(mensajes.Item(1).Asunto(), u"enorme"_s);
+        QCOMPARE(numeroDeError([&] { leeMensaje(mensajes.Item(1).NombreFichero()); }),
+                 int(ErrorEjecucion::ErrorDeArchivo));
+        QCOMPARE(leeClavePublica(m_yo->buzon(), u"ana"_s).q, QString());
+    }
+
+    void unaCarpetaQueDesaparece()
+    {
+        for (int i = 0; i < 2000; ++i)
+            m_yo->escribe(u"u%1/RSA%2.msg"_s.arg(i % 20).arg(i), "luis\r\nx\r\n");
+        const std::jthread verdugo([this] { QDir(m_yo->buzon()).removeRecursively(); });
+        ColMensajes mensajes;
+        int error = 0;
+        while (error == 0)
+            error = numeroDeError([&] { revisaBuzon(m_yo->buzon(), mensajes, m_corrida); });
+        QCOMPARE(error, int(ErrorEjecucion::RutaNoEncontrada));
+        QCOMPARE(mensajes.Count(), 0);
+    }
+
+    void nombresRaros()
+    {
+        for (const QString &carpeta : {u"a\\b"_s, u"c:d"_s})
+            m_yo->escribe(carpeta + u"/RSA1.msg"_s, "luis\r\nraro\r\n");
+        m_yo->escribe(u"<b>ana\u202E/RSA1.msg"_s, "luis\r\nbueno\r\n");
+        const QByteArray sinTexto = QFile::encodeName(m_yo->enBuzon(u"x"_s)) + "\xFF\xFE";
+        QCOMPARE(::mkdir(sinTexto.constData(), 0700), 0);
+        ColMensajes mensajes;
+        QCOMPARE(revisaBuzon(m_yo->buzon(), mensajes, m_corrida), 0);
+        QCOMPARE(mensajes.Count(), 1);
+        QCOMPARE(mensajes.Item(1).Destinatario(), u"<b>ana\u202E"_s);
+        ::rmdir(sinTexto.constData()); // which the temporary folder could not
+    }
+
+    void unBorradorNoReemplazaNada()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "primero");
+        const CarpetaBuzon carpeta = CarpetaBuzon(m_yo->buzon()).subcarpeta(u"ana"_s);
+        {
+            Borrador borrador(carpeta, "segundo");
+            QVERIFY(!borrador.nombraSiLibre(u"RSA1.msg"_s));
+            QVERIFY(borrador.nombraSiLibre(u"RSA2.msg"_s));
+        }
+        QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"ana/RSA1.msg"_s)), "primero"_ba);
+        QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"ana/RSA2.msg"_s)), "segundo"_ba);
+        QCOMPARE(QDir(m_yo->enBuzon(u"ana"_s)).entryList(QDir::Files | QDir::Hidden).size(), 2);
+    }
+
+    /// What is made in a shared mailbox is as open as the mailbox, whatever the account's mask.
+    void losDemasPuedenEntrar()
+    {
+        QCOMPARE(::chmod(qPrintable(m_yo->buzon()), 01777), 0);
+        const mode_t mascara = ::umask(0077);
+        dejaMensaje(m_yo->buzon(), u"ana"_s, "x");
+        ::umask(mascara);
+        QCOMPARE(modo(u"ana"_s), 01777u);
+        QCOMPARE(modo(u"ana/RSA1.msg"_s), 0644u);
+    }
+
+    void variosProcesosALaVez()
+    {
+        constexpr int procesos = 3, cada = 1000;
+        std::vector<std::unique_ptr<QProcess>> remitentes;
+        for (int i = 0; i < procesos; ++i) {
+            auto proceso = std::make_unique<QProcess>();
+            proceso->start(QStringLiteral(REMITENTE),
+                           {m_yo->buzon(), u"ana"_s, u"p%1"_s.arg(i), QString::number(cada)});
+            QVERIFY(proceso->waitForStarted());
+            remitentes.push_back(std::move(proceso));
+        }
+        // A reader at work meanwhile never meets half a message.
+        ColMensajes mensajes;
+        while (!remitentes.front()->waitForFinished(200)) {
+            if (QFile::exists(m_yo->enBuzon(u"ana"_s)))
+                QCOMPARE(revisaBuzon(m_yo->buzon(), mensajes, m_corrida), 0);
+            if (mensajes.Count() > 0)
+                QVERIFY(estaEntero(mensajes.Item(mensajes.Count())));
+        }
+        for (const auto &proceso : remitentes) {
+            QVERIFY(proceso->state() == QProcess::NotRunning || proceso->waitForFinished(-1));
+            QCOMPARE(proceso->exitCode(), 0);
+        }
+        const QDir carpeta(m_yo->enBuzon(u"ana"_s));
+        QCOMPARE(carpeta.entryList(QDir::Files | QDir::Hidden).size(), procesos * cada);
+        QVERIFY(carpeta.exists(u"RSABB8.msg"_s)); // 3000: no number was left out
+        revisaBuzon(m_yo->buzon(), mensajes, m_corrida);
+        QCOMPARE(mensajes.Count(), procesos * cada);
+        for (const auto &mensaje : mensajes)
+            QVERIFY2(estaEntero(*mensaje), qPrintable(mensaje->NombreFichero()));
+    }
+
+private:
+    void enlaza(const QString &destino, const QString &nombre) const
+    {
+        QDir().mkpath(QFileInfo(m_yo->enBuzon(nombre)).absolutePath());
+        QVERIFY(QFile::link(m_yo->enBuzon(destino), m_yo->enBuzon(nombre)));
+    }
+
+    void prepara(const QString &que) const
+    {
+        const QString malo = u"ana/RSA1.msg"_s;
+        const QString ruta = m_yo->enBuzon(malo);
+        if (que == u"link to a file"_s)
+            enlaza(u"fuera.txt"_s, malo);
+        else if (que == u"link to nothing"_s)
+            enlaza(u"no existe"_s, malo);
+        else if (que == u"folder"_s)
+            QVERIFY(QDir().mkpath(ruta));
+        else if (que == u"pipe"_s)
+            QCOMPARE(::mkfifo(qPrintable(ruta), 0600), 0);
+        else if (que == u"endless line"_s)
+            m_yo->escribe(malo, QByteArray(1'000'000, 'x'));
+        else if (que == u"link for a folder"_s)
+            QVERIFY(QFile::link(m_yo->enBuzon(u"ana"_s), m_yo->enBuzon(u"zoe"_s)));
+        else
+            cierra(malo);
+    }
+
+    void cierra(const QString &nombre) const
+    {
+        m_yo->escribe(nombre, "luis\r\nx\r\n");
+        QVERIFY(QFile::setPermissions(m_yo->enBuzon(nombre), QFile::WriteOwner));
+    }
+
+    mode_t modo(const QString &nombre) const
+    {
+        struct stat estado = {};
+        ::stat(qPrintable(m_yo->enBuzon(nombre)), &estado);
+        return estado.st_mode & 07777;
+    }
+
+    static bool estaEntero(const clsMensaje &mensaje)
+    {
+        const auto contenido = ArchivoMensaje::interpreta(leeMensaje(mensaje.NombreFichero()));
+        return contenido.asunto == mensaje.Asunto() && contenido.bloques.size() == 500 &&
+               contenido.bloques.constLast() == QString(20, u'7');
+    }
+
+    std::unique_ptr<Estudiante> m_yo;
+    Corrida m_corrida{Corrida::Cesion{}};
+};
+
+NUMORA_TEST_MAIN(TestBuzonHostil)
+#include "tst_BuzonHostil.moc"

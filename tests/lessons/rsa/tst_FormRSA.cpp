@@ -1,0 +1,169 @@
+#include "bignum/ModBignum.h"
+#include "tests/lessons/rsa/support/VentanaRSA.h"
+
+/// The own key, and texts encrypted with it.
+class TestFormRSA : public QObject, private VentanaRSA
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        nueva();
+    }
+    void cleanup() { cierra(); }
+
+    void alAbrir()
+    {
+        abre();
+        QCOMPARE(temas(), QStringList({u"Introducción"_s, u"Elección de clave"_s,
+                                       u"Codificación y descodificación"_s}));
+        QCOMPARE(linea(u"txtR"_s)->text(), u"1"_s);
+        const int bits = linea(u"TxtNumBits"_s)->text().toInt();
+        QVERIFY(bits >= 100 && bits <= 200);
+        QVERIFY(!linea(u"TxtNumBits"_s)->isEnabled());
+        for (const QString &nombre : {u"txtQ_0"_s, u"txtFiQ"_s, u"txtT"_s})
+            QVERIFY(campo(nombre)->isReadOnly());
+        for (const QString &nombre : {u"cmdCodificar"_s, u"cmdDescodificar"_s,
+                                      u"cmdPublicarClave"_s, u"enviar"_s, u"recibir"_s})
+            QVERIFY2(!boton(nombre)->isEnabled(), qPrintable(nombre));
+    }
+
+    void unaClaveBuena()
+    {
+        abre();
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        QCOMPARE(campo(u"txtQ_0"_s)->text(), u"67591"_s);
+        QCOMPARE(campo(u"txtFiQ"_s)->text(), u"67072"_s);
+        QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
+        QCOMPARE(rotulo(u"LabelNumBits"_s), u"Nº de bits de la clave = 17"_s);
+        QVERIFY(rotulo(u"lblFichero"_s).endsWith(m_yo->ficheroPrivado()));
+        QVERIFY(boton(u"cmdCodificar"_s)->isEnabled() && boton(u"cmdDescodificar"_s)->isEnabled());
+        // The next start finds it again.
+        abre();
+        QCOMPARE(campo(u"txtQ_1"_s)->text(), u"257"_s);
+        QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
+    }
+
+    void clavesMalas_data()
+    {
+        QTest::addColumn<QStringList>("numeros");
+        QTest::addColumn<QString>("texto");
+        QTest::newRow("composite")
+            << QStringList{u"259"_s, u"263"_s, u"5"_s} << u"q(1) debe ser primo."_s;
+        QTest::newRow("small") << QStringList{u"257"_s, u"251"_s, u"5"_s}
+                               << u"q(2) debe ser mayor que 255."_s;
+        QTest::newRow("exponent") << QStringList{u"257"_s, u"263"_s, u"131"_s}
+                                  << u"El número s debe ser primo con 67072"_s;
+    }
+    void clavesMalas()
+    {
+        QFETCH(QStringList, numeros);
+        QFETCH(QString, texto);
+        abre();
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        ponClave(numeros[0], numeros[1], numeros[2]);
+        const auto mensaje = Entorno::grabadora().unico();
+        QCOMPARE(mensaje.texto, texto);
+        QCOMPARE(mensaje.titulo, u"Error en la clave"_s);
+        QCOMPARE(mensaje.icono, Interlocutor::Icono::Critico);
+        QCOMPARE(rotulo(u"lblEstado"_s), u"✗ "_s + texto);
+        QVERIFY(!boton(u"cmdCodificar"_s)->isEnabled());
+    }
+
+    void loQueFaltaSeDiceAlEscribir()
+    {
+        abre();
+        QVERIFY(rotulo(u"lblEstado"_s).startsWith(u"Escriba dos primos"_s));
+        campo(u"txtQ_1"_s)->setText(u"257"_s);
+        campo(u"txtQ_2"_s)->setText(u"265"_s);
+        campo(u"txtS"_s)->setText(u"5"_s);
+        QCOMPARE(rotulo(u"lblEstado"_s), u"✗ q(2) debe ser primo."_s);
+        campo(u"txtQ_2"_s)->setText(u"263"_s);
+        QVERIFY(rotulo(u"lblEstado"_s).startsWith(u"Pulse Intro"_s));
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        QVERIFY(!QFile::exists(m_yo->ficheroPrivado()));
+    }
+
+    void losNumerosLargosCabenEnLaCaja()
+    {
+        abre();
+        const QString q1 = PrimoSiguiente(u"1"_s + QString(200, u'0'));
+        ponClave(q1, PrimoSiguiente(q1), u"2"_s);
+        QVERIFY(Entorno::grabadora().unico().texto.endsWith(u"(401 cifras)"_s));
+    }
+
+    void elNumeroDeCaracteres()
+    {
+        abre();
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        linea(u"txtR"_s)->setText(u"2"_s);
+        QCOMPARE(Entorno::grabadora().unico().texto, u"q(1) debe ser mayor que 255255."_s);
+        linea(u"txtR"_s)->setText(u"40000"_s);
+        QCOMPARE(Entorno::grabadora().unico().texto, u"Desbordamiento."_s);
+        linea(u"txtR"_s)->setText(QString());
+        QVERIFY(boton(u"cmdCodificar"_s)->isEnabled());
+        area(u"txtTextoOriginal"_s)->setPlainText(u"a"_s);
+        boton(u"cmdCodificar"_s)->click();
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Tamaño de la palabra"_s);
+    }
+
+    void elNumeroDeBits()
+    {
+        abre();
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        linea(u"TxtNumBits"_s)->setText(u"100"_s);
+        control<QCheckBox>(m_ventana.get(), u"ChkNumBits"_s)->click();
+        QVERIFY(linea(u"TxtNumBits"_s)->isEnabled());
+        const QString texto = u"Se requiere una clave de 100 bits, y la actual tiene 17"_s;
+        QCOMPARE(rotulo(u"lblEstado"_s), u"✗ "_s + texto);
+        escribe(u"txtS"_s, u"5"_s);
+        QCOMPARE(Entorno::grabadora().unico().texto, texto);
+        control<QCheckBox>(m_ventana.get(), u"ChkNumBits"_s)->click();
+        escribe(u"txtS"_s, u"5"_s);
+        QVERIFY(boton(u"cmdCodificar"_s)->isEnabled());
+    }
+
+    void cerrarConUnNumeroAMedias()
+    {
+        abre();
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        campo(u"txtQ_1"_s)->setFocus();
+        QTest::keyClicks(campo(u"txtQ_1"_s), u"1"_s);
+        m_ventana->close();
+        m_ventana.release(); // it deletes itself
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
+    }
+
+    void codificaYDescodifica()
+    {
+        abre();
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        area(u"txtTextoOriginal"_s)->setPlainText(u"HOLA"_s);
+        boton(u"cmdCodificar"_s)->click();
+        const auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexTextoCodificado"_s);
+        QCOMPARE(rejilla->seleccion(FormaDeCopia::Texto),
+                 u"Texto codificado\n57666\n43715\n51784\n23519\n"_s);
+        area(u"txtTextoOriginal"_s)->clear();
+        boton(u"cmdDescodificar"_s)->click();
+        QCOMPARE(area(u"txtTextoOriginal"_s)->toPlainText(), u"HOLA"_s);
+        area(u"txtTextoOriginal"_s)->setPlainText(u"Γειά"_s);
+        boton(u"cmdCodificar"_s)->click();
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Carácter no admitido"_s);
+        QCOMPARE(rejilla->model()->rowCount(), 4);
+    }
+
+    void unaClaveGuardadaQueEstaRota()
+    {
+        escribeArchivo(m_yo->ficheroPrivado(), "[RSA]\nr=99999\n");
+        abre();
+        QCOMPARE(Entorno::grabadora().unico().texto, u"Desbordamiento."_s);
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
+    }
+};
+
+NUMORA_TEST_MAIN(TestFormRSA)
+#include "tst_FormRSA.moc"

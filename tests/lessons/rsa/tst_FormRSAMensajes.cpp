@@ -1,0 +1,176 @@
+#include "tests/lessons/rsa/support/VentanaRSA.h"
+
+/// The mailbox: publishing, sending, receiving.
+class TestFormRSAMensajes : public QObject, private VentanaRSA
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        nueva();
+    }
+    void cleanup() { cierra(); }
+
+    void laFichaDeMensajesVaYViene()
+    {
+        abre();
+        eligeBuzon(m_yo->buzon());
+        QCOMPARE(temas().size(), 3);
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        QCOMPARE(temas().mid(3), QStringList{u"Enviar y recibir"_s});
+        QVERIFY(boton(u"cmdPublicarClave"_s)->isEnabled());
+        escribe(u"txtS"_s, u"2"_s);
+        QCOMPARE(temas().size(), 3);
+        Entorno::grabadora().unico();
+        escribe(u"txtS"_s, u"5"_s);
+        temasDe()->setCurrentIndex(3);
+        // Cancelling forgets the mailbox.
+        eligeBuzon({});
+        QCOMPARE(Entorno::grabadora().carpetasPedidas, QStringList({QString(), m_yo->buzon()}));
+        QCOMPARE(temas().size(), 3);
+        QVERIFY(!boton(u"cmdPublicarClave"_s)->isEnabled());
+        QCOMPARE(Sesión().lee(u"RSA"_s, u"DirMensajes"_s), QString());
+        eligeBuzon(m_yo->enBuzon(u"no existe"_s));
+        QCOMPARE(temas().size(), 3);
+    }
+
+    void publicaEnviaYRecibe()
+    {
+        preparaBuzon();
+        boton(u"cmdPublicarClave"_s)->click();
+        eligeUsuario(m_yo->usuario());
+        QCOMPARE(rotulo(u"LabelTexto"_s), u"Mensaje para "_s + m_yo->usuario());
+        QCOMPARE(ventanaClave()->windowTitle(), u"Clave de "_s + m_yo->usuario());
+        QCOMPARE(campoAjeno(u"txtDestQ"_s), u"67591"_s);
+        QCOMPARE(campoAjeno(u"TxtDestT"_s), u"26829"_s);
+        QVERIFY(!boton(u"enviar"_s)->isEnabled());
+        escribeMensaje(u"Cita"_s, u"¿A las 5?\nSí: 3 €"_s);
+        boton(u"enviar"_s)->click();
+        QVERIFY(rotulo(u"lblEstadoBuzon"_s).startsWith(u"Mensaje enviado"_s));
+        QCOMPARE(lista(), QString()); // until the next scan
+
+        escribeMensaje({}, {});
+        boton(u"revisar"_s)->click();
+        QCOMPARE(lista(),
+                 u"Dirigido a     \tDe           \tAsunto\n%1\t%1\tCita\n"_s.arg(m_yo->usuario()));
+        eligeFila(0);
+        QCOMPARE(linea(u"txtAsunto"_s)->text(), u"Cita"_s);
+        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), QString());
+        boton(u"recibir"_s)->click();
+        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
+
+        boton(u"enviar"_s)->click();
+        const auto mensaje = Entorno::grabadora().unico();
+        QCOMPARE(mensaje.titulo, u"Mensaje repetido"_s);
+        QCOMPARE(mensaje.icono, Interlocutor::Icono::Critico);
+        QCOMPARE(mensaje.texto,
+                 u"Ya hay un mensaje de %1 para %1 con asunto 'Cita'"_s.arg(m_yo->usuario()));
+    }
+
+    void soloSuDuenoLoLee()
+    {
+        m_yo->escribe(u"<i>ana/Clave.RSA"_s, "[RSA]\r\nq=67591\r\ns=5\r\n");
+        m_yo->escribe(u"<i>ana/RSA1.msg"_s, "luis\r\nhola\r\n57666\r\n43715\r\n");
+        preparaBuzon(u"269"_s, u"271"_s, u"7"_s);
+        eligeFila(0);
+        QCOMPARE(control<QLabel>(m_ventana.get(), u"LabelTexto"_s)->textFormat(), Qt::PlainText);
+        QCOMPARE(campoAjeno(u"txtDestS"_s), u"5"_s);
+        QVERIFY(campoAjeno(u"TxtDestT"_s).isEmpty() && !boton(u"recibir"_s)->isEnabled());
+        // Who finds the exponent reads all the same.
+        control<CampoLargo>(ventanaClave(), u"TxtDestT"_s)->setText(u"26829"_s);
+        QVERIFY(boton(u"recibir"_s)->isEnabled());
+        boton(u"recibir"_s)->click();
+        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"HO"_s);
+    }
+
+    void laClavePropiaVuelve()
+    {
+        m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
+        preparaBuzon();
+        eligeUsuario(u"ana"_s);
+        QCOMPARE(Estudiante::lee(m_yo->ficheroPrivado()),
+                 "[RSA]\r\nr=1\r\nq(0)=33\r\nq(1)=\r\nq(2)=\r\ns=3\r\nt=\r\nNBits=0\r\n"
+                 "Fi(Q)=\r\n"_ba);
+        temasDe()->setCurrentIndex(1);
+        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(0)=67591\r\n"));
+        temasDe()->setCurrentIndex(3);
+        eligeUsuario(u"luis"_s);
+        m_ventana.reset();
+        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("t=26829\r\n"));
+    }
+
+    void sinClavePublicada()
+    {
+        preparaBuzon();
+        eligeUsuario(u"eva"_s);
+        escribeMensaje(u"x"_s, u"ab"_s);
+        boton(u"enviar"_s)->click();
+        QCOMPARE(Entorno::grabadora().confirmaciones.size(), 1);
+        QVERIFY(!QFile::exists(m_yo->enBuzon(u"eva"_s)));
+        Entorno::grabadora().respondeSi = true;
+        boton(u"enviar"_s)->click();
+        QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"eva/RSA1.msg"_s)),
+                 m_yo->usuario().toLatin1() + "\r\nx\r\nError\r\nError\r\n");
+    }
+
+    void loQueNoSePuedeEnviar_data()
+    {
+        QTest::addColumn<QString>("usuario");
+        QTest::addColumn<QString>("asunto");
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<QString>("titulo");
+        QTest::addColumn<bool>("sale");
+        QTest::newRow("text beyond Windows-1252")
+            << u"ana"_s << u"x"_s << u"día α"_s << u"Carácter no admitido"_s << false;
+        QTest::newRow("subject beyond Windows-1252")
+            << u"ana"_s << u"α"_s << u"x"_s << u"Carácter no admitido"_s << false;
+        QTest::newRow("out of the mailbox")
+            << u"../ana"_s << u"x"_s << u"x"_s << u"Error en tiempo de ejecución"_s << false;
+        QTest::newRow("unfit text and subject: one box")
+            << u"ana"_s << u"\u0001"_s << u"\u0001"_s << u"Error en el mensaje"_s << true;
+    }
+    void loQueNoSePuedeEnviar()
+    {
+        QFETCH(QString, usuario);
+        QFETCH(QString, asunto);
+        QFETCH(QString, texto);
+        preparaBuzon();
+        Entorno::grabadora().respondeSi = true;
+        eligeUsuario(usuario);
+        escribeMensaje(asunto, texto);
+        boton(u"enviar"_s)->click();
+        QTEST(Entorno::grabadora().unico().titulo, "titulo");
+        QTEST(QFile::exists(m_yo->enBuzon(usuario + u"/RSA1.msg"_s)), "sale");
+    }
+
+    void unBuzonQueDesaparece()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nhola\r\n1\r\n");
+        preparaBuzon();
+        QVERIFY(!lista().isEmpty());
+        QDir(m_yo->buzon()).removeRecursively();
+        boton(u"revisar"_s)->click();
+        QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"No se encontró la ruta"_s));
+        QCOMPARE(lista(), QString());
+        QCOMPARE(temas().size(), 3);
+    }
+
+    void revisarNoEstropeaLoEscrito()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nhola\r\n1\r\n");
+        preparaBuzon();
+        eligeFila(0);
+        escribeMensaje(u"respuesta"_s, u"a medias"_s);
+        m_yo->escribe(u"Ada/RSA1.msg"_s, "luis\r\nprimera\r\n1\r\n");
+        boton(u"revisar"_s)->click();
+        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"a medias"_s);
+        QCOMPARE(control<QComboBox>(m_ventana.get(), u"cmbDestinatario"_s)->currentText(),
+                 u"ana"_s);
+        QCOMPARE(control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s)->currentIndex().row(), 1);
+    }
+};
+
+NUMORA_TEST_MAIN(TestFormRSAMensajes)
+#include "tst_FormRSAMensajes.moc"

@@ -1,0 +1,281 @@
+#include "bignum/Windows1252.h"
+#include "lessons/rsa/ArchivoMensaje.h"
+#include "lessons/rsa/Buzon.h"
+#include "lessons/rsa/ColMensajes.h"
+#include "lessons/rsa/clsMensaje.h"
+#include "tests/lessons/rsa/support/Estudiante.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString Motivo = u"El texto del mensaje que quiere enviar puede confundir al destinatario."_s;
+
+} // namespace
+
+/// Messages, their files, their collection, and the scan of a mailbox of good will.
+class TestMensajes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_yo = std::make_unique<Estudiante>();
+        m_clave = std::make_unique<ClsRSA>();
+        m_clave->ponDirMensajes(m_yo->buzon());
+        m_clave->ponr(1);
+        m_clave->ponq(1, u"257"_s);
+        m_clave->ponq(2, u"263"_s);
+        m_clave->pons(u"5"_s);
+        m_clave->Valida();
+        m_mensaje = std::make_unique<clsMensaje>();
+        m_mensaje->ponClave(m_clave.get());
+        m_errores.clear();
+        connect(m_mensaje.get(), &clsMensaje::ErrorMensaje, this,
+                [this](QString &motivo) { m_errores << motivo; });
+    }
+
+    void enviaYRecibe()
+    {
+        QCOMPARE(envia(u"ana"_s, u" Qué tal "_s, u"HOLA"_s), u"RSA1.msg"_s);
+        QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"ana/RSA1.msg"_s)),
+                 m_yo->usuario().toLatin1() +
+                     "\r\nQu\xE9 tal\r\n57666\r\n43715\r\n51784\r\n23519\r\n");
+        clsMensaje recibido;
+        recibido.ponClave(m_clave.get());
+        recibido.ponNombreFichero(m_mensaje->NombreFichero());
+        recibido.Recibe(m_corrida);
+        QCOMPARE(recibido.Remitente(), m_yo->usuario());
+        QCOMPARE(recibido.Asunto(), u"Qué tal"_s);
+        QCOMPARE(recibido.TextoOriginal(), u"HOLA"_s);
+        recibido.DescodificaTexto(m_corrida);
+        QCOMPARE(recibido.TextoOriginal(), u"HOLA"_s);
+        m_clave->ponq(1, u"259"_s);
+        recibido.DescodificaTexto(m_corrida);
+        QCOMPARE(recibido.TextoOriginal(), QString());
+    }
+
+    void numeracion()
+    {
+        for (int n = 1; n <= 16; ++n)
+            QCOMPARE(envia(u"ana"_s, QString::number(n), u"x"_s),
+                     u"RSA%1.msg"_s.arg(QString::number(n, 16).toUpper()));
+        // A gap is filled first; a name that differs in case is taken.
+        QVERIFY(QFile::remove(m_yo->enBuzon(u"ana/RSAB.msg"_s)));
+        QVERIFY(QFile::rename(m_yo->enBuzon(u"ana/RSAC.msg"_s), m_yo->enBuzon(u"ana/rsac.MSG"_s)));
+        QCOMPARE(envia(u"ANA"_s, u"hueco"_s, u"x"_s), u"RSAB.msg"_s);
+        QCOMPARE(envia(u"ana"_s, u"final"_s, u"x"_s), u"RSA11.msg"_s);
+        QCOMPARE(QDir(m_yo->buzon()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+                 QStringList{u"ana"_s});
+        // No draft is left behind.
+        QCOMPARE(QDir(m_yo->enBuzon(u"ana"_s)).entryList(QDir::Files | QDir::Hidden).size(), 17);
+    }
+
+    void textosQueConfunden()
+    {
+        m_mensaje->ponMensajeOK(true);
+        m_mensaje->ponTextoOriginal(u"a\u0001"_s);
+        QCOMPARE(m_errores, QStringList{Motivo});
+        QVERIFY(!m_mensaje->MensajeOK());
+        QCOMPARE(m_mensaje->TextoOriginal(), u"a\u0001"_s);
+        m_mensaje->CodificaTexto(m_corrida);
+        QCOMPARE(m_mensaje->Bloques(), QStringList{QString()});
+
+        m_mensaje->ponMensajeOK(true);
+        m_mensaje->ponAsunto(u"bueno"_s);
+        m_mensaje->ponAsunto(u"m\u007Falo"_s);
+        QCOMPARE(m_mensaje->Asunto(), u"bueno"_s);
+        QVERIFY(!m_mensaje->MensajeOK());
+        QCOMPARE(m_errores.size(), 2);
+        m_mensaje->ponTextoOriginal(u"línea\r\n\totra: 5 €"_s);
+        QCOMPARE(m_errores.size(), 2);
+    }
+
+    void loQueNoSeEnvia_data()
+    {
+        QTest::addColumn<QString>("destinatario");
+        QTest::addColumn<QString>("asunto");
+        for (const QString &nombre : {QString(), u".."_s, u"../otro"_s, u"/tmp"_s, u"a\\b"_s})
+            QTest::addRow("recipient '%s'", qPrintable(nombre)) << nombre << u"a"_s;
+        QTest::newRow("subject of two lines") << u"ana"_s << u"uno\r\n57666"_s;
+        QTest::newRow("subject too long for a header") << u"ana"_s << QString(5000, u'x');
+    }
+    void loQueNoSeEnvia()
+    {
+        QFETCH(QString, destinatario);
+        QFETCH(QString, asunto);
+        QCOMPARE(numeroDeError([&] { envia(destinatario, asunto, u"x"_s); }),
+                 int(ErrorEjecucion::ArgumentoNoValido));
+        QVERIFY(!QFile::exists(m_yo->enBuzon(u"ana"_s)));
+        m_clave->ponDirMensajes({});
+        QCOMPARE(numeroDeError([&] { envia(u"ana"_s, u"a"_s, u"x"_s); }),
+                 int(ErrorEjecucion::RutaNoEncontrada));
+    }
+
+    void ficherosDeOtros_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("cabecera"); // sender|subject
+        QTest::addColumn<QStringList>("bloques");
+        QTest::newRow("LF") << "ana\nQu\xE9\n12\n34\n"_ba << u"ana|Qué"_s
+                            << QStringList{u"12"_s, u"34"_s};
+        QTest::newRow("no end of the last line")
+            << "ana\r\nb\r\n12"_ba << u"ana|b"_s << QStringList{u"12"_s};
+        QTest::newRow("byte-order mark") << "\xEF\xBB\xBF"
+                                            "ana\r\nQu\xC3\xA9\r\n12\r\n"_ba
+                                         << u"ana|Qué"_s << QStringList{u"12"_s};
+        QTest::newRow("two lines") << "ana\r\nb\r\n"_ba << u"ana|b"_s << QStringList();
+        QTest::newRow("one line") << "ana"_ba << u"ana|"_s << QStringList();
+        QTest::newRow("nothing") << QByteArray() << u"|"_s << QStringList();
+        QTest::newRow("blank lines") << "ana\r\n\r\n\r\n12\r\nError\r\n"_ba << u"ana|"_s
+                                     << QStringList{{}, u"12"_s, u"Error"_s};
+        QTest::newRow("euro, quotes") << "\x80\n\x93x\x94\n"_ba << u"€|“x”"_s << QStringList();
+    }
+    void ficherosDeOtros()
+    {
+        QFETCH(QByteArray, bytes);
+        const ContenidoMensaje contenido = ArchivoMensaje::interpreta(bytes);
+        QTEST(contenido.remitente + u'|' + contenido.asunto, "cabecera");
+        QTEST(contenido.bloques, "bloques");
+        const auto cabecera = ArchivoMensaje::interpretaCabecera(bytes);
+        QTEST(cabecera->remitente + u'|' + cabecera->asunto, "cabecera");
+    }
+
+    void cabeceraSinFin()
+    {
+        const QByteArray largo(ArchivoMensaje::MaximoDeCabecera, 'x');
+        QVERIFY(!ArchivoMensaje::interpretaCabecera(largo));
+        QVERIFY(!ArchivoMensaje::interpretaCabecera("ana\n" + largo));
+        const QByteArray justo = "ana\nb\n" + largo;
+        QVERIFY(ArchivoMensaje::interpretaCabecera(justo.left(ArchivoMensaje::MaximoDeCabecera)));
+    }
+
+    void unMillonDeLineas()
+    {
+        QByteArray bytes = "ana\r\nlargo\r\n";
+        for (int i = 0; i < 1'000'000; ++i)
+            bytes += "57666\r\n";
+        m_yo->escribe(u"ana/RSA1.msg"_s, bytes);
+        m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
+        m_mensaje->Recibe(m_corrida);
+        QCOMPARE(m_mensaje->TextoOriginal(), QString(1'000'000, u'H'));
+        m_yo->escribe(u"ana/RSA1.msg"_s, bytes + "1\r\n");
+        QCOMPARE(numeroDeError([&] { m_mensaje->Recibe(m_corrida); }),
+                 int(ErrorEjecucion::ErrorDeArchivo));
+    }
+
+    void soloDosLineas()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nnada\r\n");
+        m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
+        m_mensaje->ponTextoOriginal(u"viejo"_s);
+        m_mensaje->Recibe(m_corrida);
+        QVERIFY(m_mensaje->Bloques().isEmpty() && m_mensaje->TextoOriginal().isEmpty());
+    }
+
+    void unTextoRecibidoQueConfunde()
+    {
+        const QString bloque = m_clave->Codifica(u"\u0001"_s, m_corrida).constFirst();
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\nnada\n" + bloque.toLatin1() + '\n');
+        m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
+        m_mensaje->Recibe(m_corrida);
+        QCOMPARE(m_errores, QStringList{Motivo});
+        QCOMPARE(m_mensaje->TextoOriginal(), u"\u0001"_s);
+    }
+
+    void coleccion()
+    {
+        ColMensajes mensajes;
+        QCOMPARE(ColMensajes::clave(u" ana "_s, u"luis"_s, u" a b "_s), u"ana.luis.a b"_s);
+        clsMensaje &uno = mensajes.Add(u"ana"_s, u"luis"_s, u"uno "_s, u"f1"_s);
+        mensajes.Add(u"ana"_s, u"luis"_s, u"dos"_s, u"f2"_s);
+        QCOMPARE(mensajes.Item(u"ana.luis.uno"_s), &uno);
+        QCOMPARE(&mensajes.Item(1), &uno);
+        QVERIFY(!mensajes.Item(u"ana.luis.tres"_s));
+        QCOMPARE(numeroDeError([&] { mensajes.Add(u"ana"_s, u"luis"_s, u"dos"_s, {}); }),
+                 int(ErrorEjecucion::ArgumentoNoValido));
+        mensajes.Remove(1);
+        QCOMPARE(mensajes.Count(), 1);
+        QVERIFY(!mensajes.Item(u"ana.luis.uno"_s));
+        QCOMPARE((*mensajes.begin())->Asunto(), u"dos"_s);
+        for (const qsizetype indice : {0, 2})
+            QCOMPARE(numeroDeError([&] { mensajes.Remove(indice); }),
+                     int(ErrorEjecucion::IndiceFueraDeRango));
+    }
+
+    void revision()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nprimero\r\n1\r\n");
+        m_yo->escribe(u"ana/RSA9.msg"_s, "luis\r\nrepetido\r\n1\r\n");
+        m_yo->escribe(u"ana/rsa10.MSG"_s, " luis \nrepetido \n1\n");
+        m_yo->escribe(u"ana/RSAA.msg"_s, "luis\r\nm\x81lo\r\n1\r\n");
+        m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
+        m_yo->escribe(u"Luis/RSA1.msg"_s, "ana\r\n\r\n");
+        m_yo->escribe(u"Luis/OTRA1.msg"_s, "ana\r\nno\r\n");
+        m_yo->escribe(u"RSA1.msg"_s, "ana\r\nsuelto\r\n");
+        ColMensajes mensajes;
+        mensajes.Add(u"viejo"_s, u"viejo"_s, u"viejo"_s, {});
+        QCOMPARE(revisaBuzon(m_yo->buzon(), mensajes, m_corrida), 0);
+        QStringList vistos;
+        for (const auto &mensaje : mensajes)
+            vistos << mensaje->Destinatario() + u'|' + mensaje->Remitente() + u'|' +
+                          mensaje->Asunto() + u'|' + mensaje->NombreFichero().section(u'\\', -1);
+        QCOMPARE(vistos,
+                 QStringList({u"ana|luis|primero|RSA1.msg"_s, u"ana| luis |repetido|rsa10.MSG"_s,
+                              u"ana|luis||RSAA.msg"_s, u"Luis|ana||RSA1.msg"_s}));
+        QCOMPARE(usuariosDelBuzon(m_yo->buzon()), QStringList({u"ana"_s, u"Luis"_s}));
+        QCOMPARE(revisaBuzon({}, mensajes, m_corrida), 0);
+        QCOMPARE(mensajes.Count(), 0);
+        QCOMPARE(numeroDeError([&] { revisaBuzon(u"/no existe"_s, mensajes, m_corrida); }),
+                 int(ErrorEjecucion::RutaNoEncontrada));
+    }
+
+    void clavesPublicas_data()
+    {
+        QTest::addColumn<QString>("fichero");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("clave"); // q|s
+        QTest::newRow("as written here")
+            << u"Clave.RSA"_s << "[RSA]\r\nq=33\r\ns=3\r\n"_ba << u"33|3"_s;
+        QTest::newRow("by others")
+            << u"clave.rsa"_s << "\xEF\xBB\xBF[RSA]\nS=3\nQ=33\n"_ba << u"33|3"_s;
+        QTest::newRow("no s") << u"Clave.RSA"_s << "[RSA]\nq=33\n"_ba << u"33|"_s;
+        QTest::newRow("a million digits")
+            << u"Clave.RSA"_s << "[RSA]\nq=" + QByteArray(1'000'000, '7') + "\ns=3\n"
+            << QString(8191, u'7') + u"|3"_s;
+        QTest::newRow("none") << u"otro"_s << QByteArray() << u"|"_s;
+    }
+    void clavesPublicas()
+    {
+        QFETCH(QString, fichero);
+        QFETCH(QByteArray, bytes);
+        m_yo->escribe(u"Ana/"_s + fichero, bytes);
+        const ClavePublica clave = leeClavePublica(m_yo->buzon(), u"ana"_s);
+        QTEST(clave.q + u'|' + clave.s, "clave");
+    }
+
+private:
+    /// Sends a message, and gives the name of its file.
+    QString envia(const QString &destinatario, const QString &asunto, const QString &texto)
+    {
+        m_mensaje->ponMensajeOK(true);
+        m_mensaje->ponRemitente(m_yo->usuario());
+        m_mensaje->ponDestinatario(destinatario);
+        m_mensaje->ponAsunto(asunto);
+        m_mensaje->ponTextoOriginal(texto);
+        m_mensaje->CodificaTexto(m_corrida);
+        m_mensaje->Envia();
+        return m_mensaje->NombreFichero().section(u'\\', -1);
+    }
+
+    std::unique_ptr<Estudiante> m_yo;
+    std::unique_ptr<ClsRSA> m_clave;
+    std::unique_ptr<clsMensaje> m_mensaje;
+    Corrida m_corrida{Corrida::Cesion{}};
+    QStringList m_errores;
+};
+
+NUMORA_TEST_MAIN(TestMensajes)
+#include "tst_Mensajes.moc"

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "minical/HojaDeCalculo.h"
+
+/// A data cell by its name.
+inline Celda en(QStringView nombre)
+{
+    return celdaDeNombre(nombre).value();
+}
+
+/// Enters an expression and gives what the cell then shows.
+inline QString entra(HojaDeCalculo &hoja, QStringView nombre, const QString &expresion)
+{
+    hoja.finDeEdicion(en(nombre), expresion);
+    return hoja.texto(en(nombre));
+}
+
+inline QString resultado(const HojaDeCalculo &hoja, QStringView nombre)
+{
+    const Celda celda = en(nombre);
+    return hoja.Resultados(celda.fila, celda.columna);
+}

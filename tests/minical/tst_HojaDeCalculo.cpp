@@ -1,0 +1,380 @@
+#include "bignum/ErrorEjecucion.h"
+#include "minical/ExportaCSV.h"
+#include "minical/HojaGuardada.h"
+#include "minical/LineasDeHoja.h"
+#include "minical/Sustitucion.h"
+#include "shell/Corrida.h"
+#include "tests/minical/HojaDePrueba.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QRandomGenerator>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Names replaced one after the other, as the rule is told: the oracle of the quick way.
+QString sustituyePasoAPaso(const ColVariables &variables, QString expresion)
+{
+    for (const auto &[orden, variable] : variables) {
+        for (auto i = expresion.indexOf(variable.Nombre()); i >= 0;
+             i = expresion.indexOf(variable.Nombre()))
+            expresion.replace(i, variable.Nombre().size(), variable.Valor());
+    }
+    return expresion;
+}
+
+QString alAzar(QRandomGenerator &azar, QStringView letras, int largo)
+{
+    QString s;
+    while (s.size() < largo)
+        s += letras[azar.bounded(static_cast<int>(letras.size()))];
+    return s;
+}
+
+QStringList nombres(const ColVariables &variables)
+{
+    QStringList lista;
+    for (const auto &[orden, variable] : variables)
+        lista << variable.Nombre();
+    return lista;
+}
+
+} // namespace
+
+/// The sheet without its window: what cells hold, show, and see of one another.
+class TestHojaDeCalculo : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { Entorno::limpia(); }
+
+    void nombresDeCelda()
+    {
+        QCOMPARE(NombreCelda({1, 1}), u"A1"_s);
+        QCOMPARE(NombreCelda({99, 25}), u"Y99"_s);
+        QCOMPARE(NombreCelda({0, 3}), u"C"_s);
+        QCOMPARE(NombreCelda({7, 0}), u"7"_s);
+        QCOMPARE(celdaDeNombre(u"C12"), (Celda{12, 3}));
+        for (const QString &texto : {u""_s, u"A"_s, u"A0"_s, u"A01"_s, u"A100"_s, u"Z1"_s, u"a1"_s,
+                                     u"1A"_s, u"A 1"_s, u"A+1"_s, u"A1 "_s, u"@1"_s, u"A-1"_s})
+            QVERIFY2(!celdaDeNombre(texto), qPrintable(texto));
+    }
+
+    void coleccion()
+    {
+        ColVariables v;
+        v.Agregar(u"B1"_s, u"(1)"_s);
+        v.Agregar(u"A1"_s, u"(2)"_s);
+        v.Agregar(u"C1"_s, u"(3)"_s);
+        QCOMPARE(v.Agregar(u"B1"_s, u"(4)"_s).Valor(), u"(4)"_s);
+        QCOMPARE(nombres(v), QStringList({u"B1"_s, u"A1"_s, u"C1"_s}));
+        QCOMPARE(v.Count(), 3);
+        QCOMPARE(v.Item(2).Nombre(), u"A1"_s);
+        QCOMPARE(v.Item(u"B1"_s).Valor(), u"(4)"_s);
+        v.Remove(u"Z9"_s);
+        v.Remove(u"B1"_s);
+        v.Agregar(u"B1"_s, u"(5)"_s);
+        QCOMPARE(nombres(v), QStringList({u"A1"_s, u"C1"_s, u"B1"_s}));
+        v.Remove(1);
+        QCOMPARE(nombres(v), QStringList({u"C1"_s, u"B1"_s}));
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, v.Item(3));
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, v.Remove(0));
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, v.Item(u"A1"_s));
+    }
+
+    void sustituirComoPasoAPaso()
+    {
+        QRandomGenerator azar(20261121);
+        const QStringList algunos{u"A1"_s, u"A12"_s, u"B2"_s, u"B22"_s, u"A2"_s, u"Y9"_s, u"Y99"_s};
+        for (int prueba = 0; prueba < 3000; ++prueba) {
+            ColVariables v;
+            for (int n = azar.bounded(9); n > 0; --n)
+                v.Agregar(algunos[azar.bounded(static_cast<int>(algunos.size()))],
+                          u'(' + alAzar(azar, u"0129-/", azar.bounded(5)) + u')');
+            const QString texto = alAzar(azar, u"AABYa12291290+()", azar.bounded(24));
+            QCOMPARE(sustituyeVariables(v, texto, 1000), sustituyePasoAPaso(v, texto));
+        }
+    }
+
+    void expresiones_data()
+    {
+        QTest::addColumn<QString>("expresion");
+        QTest::addColumn<QString>("muestra");
+        const auto fila = [](const char *nombre, const QString &expresion, const QString &muestra) {
+            QTest::newRow(nombre) << expresion << muestra;
+        };
+        fila("always over the rationals", u"1/2+1/3"_s, u"5/6"_s);
+        fila("mod, with blanks", u"2 mod 3"_s, u"2"_s);
+        fila("mod, between digits", u"2mod3"_s, u"2"_s);
+        fila("mod, in capitals and brackets", u"(7)MOD(3)"_s, u"1"_s);
+        fila("letter before mod", u"2amod3"_s, u"Error"_s);
+        fila("letter after mod", u"2 modo 3"_s, u"Error"_s);
+        fila("second mod too close", u"7mod3mod2"_s, u"Error"_s);
+        fila("mod at the start", u"mod 3"_s, u"Error"_s);
+        fila("mod alone", u"MOD"_s, u"Error"_s);
+        fila("blank", u"   "_s, QString());
+        fila("division by zero", u"1/0"_s, u"Error"_s);
+        fila("unknown name", u"B7+1"_s, u"Error"_s);
+        fila("name in small letters", u"a1+1"_s, u"Error"_s);
+        fila("does not fit", u"9^9^9^9"_s, u"Error"_s);
+        fila("one digit too many", u"10^24575"_s, u"Error"_s);
+        fila("name used", u"A1*2"_s, u"10"_s);
+        fila("name within a longer one", u"A12"_s, u"10"_s);
+        fila("value as a function's argument", u"fiA1"_s, u"4"_s);
+        fila("value of a fraction is bracketed", u"C1^2"_s, u"1/9"_s);
+        fila("negative value is bracketed", u"2-D1"_s, u"6"_s);
+        fila("outside Windows-1252", u"2·3→5"_s, u"Error"_s);
+    }
+    void expresiones()
+    {
+        QFETCH(QString, expresion);
+        HojaDeCalculo hoja;
+        entra(hoja, u"A1", u"5"_s);
+        entra(hoja, u"C1", u"1/3"_s);
+        entra(hoja, u"D1", u"-4"_s);
+        QTEST(entra(hoja, u"B1", expresion), "muestra");
+        QCOMPARE(hoja.Expresiones(1, 2), expresion);
+        const bool tiene = hoja.Variables().busca(u"B1"_s) != hoja.Variables().end();
+        const QString r = resultado(hoja, u"B1");
+        QCOMPARE(tiene, !r.isEmpty() && r != u"Error"_s);
+    }
+
+    void elMayorResultado()
+    {
+        HojaDeCalculo hoja;
+        QCOMPARE(entra(hoja, u"A1", u"10^24574"_s).size(), 24575);
+        QCOMPARE(entra(hoja, u"B1", u"A1+1"_s).right(3), u"001"_s);
+        QCOMPARE(entra(hoja, u"C1", u"A1*10"_s), u"Error"_s);
+    }
+
+    void loDemasiadoLargoNiSeSustituye()
+    {
+        HojaDeCalculo hoja;
+        entra(hoja, u"A1", u"10^24000"_s);
+        const QString muchas = u"A1+"_s.repeated(30'000) + u"1"_s;
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, hoja.SustituirVariables(muchas));
+        QCOMPARE(entra(hoja, u"B1", muchas), u"Error"_s);
+    }
+
+    void nadaSeRecalculaSolo()
+    {
+        HojaDeCalculo hoja;
+        entra(hoja, u"A1", u"5"_s);
+        entra(hoja, u"B1", u"A1*2"_s);
+        entra(hoja, u"A1", u"6"_s);
+        QCOMPARE(resultado(hoja, u"B1"), u"10"_s);
+        QVERIFY(!hoja.finDeEdicion(en(u"B1"), u"A1*2"_s));
+        QCOMPARE(resultado(hoja, u"B1"), u"10"_s);
+        QVERIFY(hoja.Recalcular(en(u"B1")));
+        QCOMPARE(resultado(hoja, u"B1"), u"12"_s);
+        // The error of a cell makes those that use it fail when they are evaluated again.
+        entra(hoja, u"A1", u"1/0"_s);
+        QCOMPARE(resultado(hoja, u"B1"), u"12"_s);
+        hoja.Recalcular(en(u"B1"));
+        QCOMPARE(resultado(hoja, u"B1"), u"Error"_s);
+        QCOMPARE(hoja.Variables().Count(), 0);
+    }
+
+    void unaVariableQueVuelveVaAlFinal()
+    {
+        HojaDeCalculo hoja;
+        entra(hoja, u"A1", u"5"_s);
+        entra(hoja, u"A12", u"7"_s);
+        QCOMPARE(entra(hoja, u"B1", u"A12"_s), u"10"_s);
+        entra(hoja, u"A1", QString());
+        entra(hoja, u"A1", u"5"_s);
+        hoja.Recalcular(en(u"B1"));
+        QCOMPARE(resultado(hoja, u"B1"), u"7"_s);
+    }
+
+    void valorDecimal()
+    {
+        HojaDeCalculo hoja;
+        entra(hoja, u"A1", u"3/4"_s);
+        QVERIFY(hoja.ValorDecimal(en(u"A1")));
+        QCOMPARE(resultado(hoja, u"A1"), u"0,75"_s);
+        QCOMPARE(hoja.Variables().Item(u"A1"_s).Valor(), u"(3/4)"_s);
+        QVERIFY(!hoja.ValorDecimal(en(u"A1")));
+        // An edit that changes nothing gives the decimal back; recalculating gives the fraction.
+        hoja.MostrarExpresiones();
+        QVERIFY(!hoja.finDeEdicion(en(u"A1"), u"3/4"_s));
+        QCOMPARE(hoja.texto(en(u"A1")), u"0,75"_s);
+        hoja.Recalcular(en(u"A1"));
+        QCOMPARE(hoja.texto(en(u"A1")), u"3/4"_s);
+
+        entra(hoja, u"A2", u"12"_s);
+        QVERIFY(!hoja.ValorDecimal(en(u"A2")));
+        QVERIFY(!hoja.ValorDecimal(en(u"A3")));
+        QVERIFY(!hoja.ValorDecimal({0, 1}) && !hoja.Recalcular({1, 0}));
+        entra(hoja, u"A4", u"-1/8"_s);
+        hoja.ValorDecimal(en(u"A4"));
+        QCOMPARE(resultado(hoja, u"A4"), u"-0,125"_s);
+    }
+
+    void unDecimalQueNoCabeEsErrorPeroElValorSigue()
+    {
+        HojaDeCalculo hoja;
+        entra(hoja, u"A1", u"10^20000+1/3"_s);
+        hoja.ValorDecimal(en(u"A1"));
+        QCOMPARE(resultado(hoja, u"A1"), u"Error"_s);
+        QCOMPARE(entra(hoja, u"B1", u"A1-10^20000"_s), u"1/3"_s);
+    }
+
+    void esDecimal()
+    {
+        for (const auto texto : {u"", u"12", u"0,5", u"1.5", u",.,"})
+            QVERIFY(HojaDeCalculo::EsDecimal(texto));
+        for (const auto texto : {u"1/2", u"-5", u" 5", u"Error", u"٣"})
+            QVERIFY(!HojaDeCalculo::EsDecimal(texto));
+    }
+
+    void expresionesYResultados()
+    {
+        HojaDeCalculo hoja;
+        entra(hoja, u"A1", u"1/4"_s);
+        entra(hoja, u"B2", u"7 mod 3"_s);
+        hoja.ValorDecimal(en(u"A1"));
+        hoja.MostrarExpresiones();
+        QCOMPARE(hoja.texto(en(u"A1")), u"1/4"_s);
+        QCOMPARE(hoja.texto(en(u"B2")), u"7 mod 3"_s);
+        // A cell that is evaluated meanwhile shows its result.
+        QCOMPARE(entra(hoja, u"B2", u"8 mod 3"_s), u"2"_s);
+        hoja.MostrarResultados();
+        QCOMPARE(hoja.texto(en(u"A1")), u"0,25"_s);
+        QCOMPARE(hoja.texto(en(u"B2")), u"2"_s);
+    }
+
+    void deshacerYRehacer()
+    {
+        HojaDeCalculo hoja;
+        QVERIFY(!hoja.historial().modificado());
+        entra(hoja, u"A1", u"5"_s);
+        entra(hoja, u"A12", u"7"_s);
+        hoja.historial().marcaGuardado();
+        hoja.borra({en(u"A1"), en(u"A12"), en(u"B9")});
+        QCOMPARE(hoja.Variables().Count(), 0);
+        QCOMPARE(hoja.deshace().size(), 2);
+        QVERIFY(!hoja.historial().modificado());
+        // With its place in the order: A1 is still replaced before A12.
+        QCOMPARE(nombres(hoja.Variables()), QStringList({u"A1"_s, u"A12"_s}));
+        QCOMPARE(entra(hoja, u"B1", u"A12"_s), u"10"_s);
+        QVERIFY(!hoja.historial().puedeRehacer());
+        entra(hoja, u"A1", u"1/3"_s);
+        hoja.ValorDecimal(en(u"A1"));
+        hoja.deshace();
+        QCOMPARE(resultado(hoja, u"A1"), u"1/3"_s);
+        hoja.deshace();
+        QCOMPARE(hoja.Variables().Item(u"A1"_s).Valor(), u"(5)"_s);
+        hoja.rehace();
+        QCOMPARE(hoja.Variables().Item(u"A1"_s).Valor(), u"(1/3)"_s);
+        while (hoja.historial().puedeDeshacer())
+            hoja.deshace();
+        QCOMPARE(hoja.ultimaUsada(), Celda());
+        QVERIFY(hoja.historial().modificado());
+        QVERIFY(hoja.deshace().isEmpty());
+    }
+
+    /// Whatever is done, undoing all of it leads back through the same sheets.
+    void deshacerAlAzar()
+    {
+        QRandomGenerator azar(8);
+        const QStringList casillas{u"A1"_s, u"A2"_s, u"A12"_s, u"B1"_s};
+        const QStringList textos{u"A1+1"_s, u"A12"_s, u"1/3"_s, QString(), u"B1/"_s, u"A2"_s};
+        for (int prueba = 0; prueba < 100; ++prueba) {
+            HojaDeCalculo hoja;
+            QList<HojaGuardada> vistas{contenidoDe(hoja)};
+            for (int paso = 0; paso < 20; ++paso) {
+                const Celda celda = en(casillas[azar.bounded(4)]);
+                switch (azar.bounded(4)) {
+                case 0:
+                    hoja.Recalcular(celda);
+                    break;
+                case 1:
+                    hoja.ValorDecimal(celda);
+                    break;
+                default:
+                    hoja.finDeEdicion(celda, textos[azar.bounded(6)]);
+                }
+                if (contenidoDe(hoja) != vistas.constLast())
+                    vistas << contenidoDe(hoja);
+            }
+            for (auto vista = vistas.size() - 2; vista >= 0; --vista) {
+                hoja.deshace();
+                QCOMPARE(contenidoDe(hoja), vistas[vista]);
+            }
+            QVERIFY(!hoja.historial().puedeDeshacer());
+            for (qsizetype vista = 1; vista < vistas.size(); ++vista) {
+                hoja.rehace();
+                QCOMPARE(contenidoDe(hoja), vistas[vista]);
+            }
+        }
+    }
+
+    void laHistoriaTieneFin()
+    {
+        HojaDeCalculo hoja;
+        const int pasos = static_cast<int>(Historial::MaximoDePasos) + 3;
+        for (int i = 1; i <= pasos; ++i)
+            entra(hoja, u"A1", QString::number(i));
+        while (hoja.historial().puedeDeshacer())
+            hoja.deshace();
+        QCOMPARE(resultado(hoja, u"A1"), u"3"_s);
+        QVERIFY(hoja.historial().modificado());
+    }
+
+    void pegar()
+    {
+        HojaDeCalculo hoja;
+        Corrida corrida([] {});
+        QVERIFY(hoja.pega(en(u"A1"), {{u"2"_s, u"A1^10"_s}, {u"B1+1"_s}}, corrida));
+        QCOMPARE(resultado(hoja, u"B1"), u"1024"_s);
+        QCOMPARE(resultado(hoja, u"A2"), u"1025"_s);
+        QVERIFY(!hoja.pega(en(u"Y99"), {{u"1"_s, u"2"_s}, {u"3"_s}}, corrida));
+        QCOMPARE(resultado(hoja, u"Y99"), u"1"_s);
+        hoja.deshace();
+        hoja.deshace();
+        QCOMPARE(hoja.ultimaUsada(), Celda());
+        // Stopped at once: what had been entered can be undone.
+        Corrida parada([&] { parada.detener(); });
+        hoja.pega(en(u"A1"), QList<QStringList>(99, QStringList(25, u"fib(20000)"_s)), parada);
+        QVERIFY(hoja.ultimaUsada().fila >= 1 && hoja.ultimaUsada().fila < 99);
+        hoja.deshace();
+        QCOMPARE(hoja.ultimaUsada(), Celda());
+    }
+
+    void csv_data()
+    {
+        QTest::addColumn<QChar>("signo");
+        QTest::addColumn<QByteArray>("texto");
+        QTest::newRow("comma") << QChar(u',') << "0,125;;1/3\r\n;Error;\r\n"_ba;
+        QTest::newRow("point") << QChar(u'.') << "0.125,,1/3\r\n,Error,\r\n"_ba;
+    }
+    void csv()
+    {
+        QFETCH(QChar, signo);
+        HojaDeCalculo hoja;
+        entra(hoja, u"A1", u"1/8"_s);
+        hoja.ValorDecimal(en(u"A1"));
+        entra(hoja, u"C1", u"1/3"_s);
+        entra(hoja, u"B2", u"("_s);
+        hoja.MostrarExpresiones();
+        QTEST(csvDeHoja(hoja, signo), "texto");
+        QCOMPARE(csvDeHoja(HojaDeCalculo(), signo), QByteArray());
+    }
+
+    void lineasParaImprimir()
+    {
+        HojaDeCalculo hoja;
+        entra(hoja, u"B10", u"2^100"_s);
+        entra(hoja, u"A1", u"7"_s);
+        entra(hoja, u"C1", u" 1/2 +  1/3"_s);
+        QCOMPARE(lineasDeHoja(hoja, 20),
+                 QStringList({u"A1   7"_s, u"C1   1/2 + 1/3"_s, u"   = 5/6"_s, u"B10  2^100"_s,
+                              u"   = 126765060022822"_s, u"     940149670320537"_s, u"     6"_s}));
+    }
+};
+
+NUMORA_TEST_MAIN(TestHojaDeCalculo)
+#include "tst_HojaDeCalculo.moc"

@@ -1,0 +1,132 @@
+#include "numora/Lecciones.h"
+#include "shell/FormLeccion.h"
+#include "shell/FormPrincipal.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTabBar>
+#include <QTabWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// What every lesson owes its users, whatever it teaches: seen on each topic of each window of the
+/// program.
+class TestLecciones : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { Entorno::limpia(); }
+
+    void lasTeclasNoChocan_data() { temas(); }
+    void lasTeclasNoChocan()
+    {
+        const auto panel = abreTema();
+        QHash<QString, QString> duenos;
+        const FormPrincipal principal(m_contenido);
+        for (const QAction *menu : principal.menuBar()->actions())
+            QVERIFY2(anota(menu->text(), duenos), qPrintable(menu->text()));
+        for (const QWidget *control : visibles(panel)) {
+            if (const auto *boton = qobject_cast<const QAbstractButton *>(control))
+                QVERIFY2(anota(boton->text(), duenos), qPrintable(boton->text()));
+            const auto *rotulo = qobject_cast<const QLabel *>(control);
+            if (rotulo && rotulo->buddy())
+                QVERIFY2(anota(rotulo->text(), duenos), qPrintable(rotulo->text()));
+        }
+    }
+
+    void losControlesTienenNombre_data() { temas(); }
+    void losControlesTienenNombre()
+    {
+        const auto panel = abreTema();
+        for (QWidget *control : visibles(panel)) {
+            if ((control->focusPolicy() & Qt::TabFocus) == 0 || esInterior(control))
+                continue;
+            QAccessibleInterface *accesible = QAccessible::queryAccessibleInterface(control);
+            const QString nombre = accesible ? accesible->text(QAccessible::Name) : QString();
+            QVERIFY2(!nombre.isEmpty(), qPrintable(control->objectName()));
+        }
+    }
+
+    /// A screen of 1366 by 768 less the desktop's bars, the main window's and the lesson menu.
+    void cabenEnUnaPantallaCorriente_data() { temas(); }
+    void cabenEnUnaPantallaCorriente()
+    {
+        abreTema();
+        const QSize minimo = m_leccion->minimumSizeHint();
+        QVERIFY2(minimo.width() <= 1090 && minimo.height() <= 600,
+                 qPrintable(u"%1 x %2"_s.arg(minimo.width()).arg(minimo.height())));
+    }
+
+private:
+    void temas()
+    {
+        QTest::addColumn<int>("fila");
+        QTest::addColumn<int>("tema");
+        for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < m_contenido.lecciones.size();
+             ++fila) {
+            const Leccion &leccion = leccionDe(fila);
+            if (!leccion.crea)
+                continue;
+            const std::unique_ptr<FormLeccion> ventana(leccion.crea(nullptr));
+            const auto *tira = ventana->findChild<QTabBar *>(u"tsTema"_s);
+            for (int i = 0; i < (tira ? tira->count() : 1); ++i)
+                QTest::addRow("%s, topic %d", qPrintable(leccion.rotulo), i) << fila << i;
+        }
+    }
+
+    const Leccion &leccionDe(int fila) const
+    {
+        return fila < 0 ? m_contenido.hojaDeCalculo : m_contenido.lecciones[fila];
+    }
+
+    QWidget *abreTema()
+    {
+        const int fila = *static_cast<int *>(QTest::qData("fila", qMetaTypeId<int>()));
+        const int tema = *static_cast<int *>(QTest::qData("tema", qMetaTypeId<int>()));
+        m_leccion.reset(leccionDe(fila).crea(nullptr));
+        auto *tira = m_leccion->findChild<QTabBar *>(u"tsTema"_s);
+        if (tira)
+            tira->setCurrentIndex(tema);
+        m_leccion->show();
+        return m_leccion.get();
+    }
+
+    static QList<QWidget *> visibles(const QWidget *panel)
+    {
+        QList<QWidget *> hallados;
+        for (QWidget *control : panel->findChildren<QWidget *>()) {
+            if (control->isVisible())
+                hallados << control;
+        }
+        return hallados;
+    }
+
+    /// A part of a control that Qt makes, such as the viewport of a grid or the editor of a spin
+    /// box.
+    static bool esInterior(const QWidget *control)
+    {
+        return control->objectName().startsWith(u"qt_"_s);
+    }
+
+    static bool anota(const QString &texto, QHash<QString, QString> &duenos)
+    {
+        const QString tecla = QKeySequence::mnemonic(texto).toString();
+        if (tecla.isEmpty())
+            return true;
+        if (duenos.contains(tecla))
+            return false;
+        duenos.insert(tecla, texto);
+        return true;
+    }
+
+    Contenido m_contenido = contenidoDelPrograma();
+    std::unique_ptr<FormLeccion> m_leccion;
+};
+
+NUMORA_TEST_MAIN(TestLecciones)
+#include "tst_Lecciones.moc"
