@@ -4,7 +4,6 @@
 #include "lessons/complexity/FibonacciMedido.h"
 #include "lessons/complexity/GeometriaHanoi.h"
 #include "lessons/complexity/TorresHanoi.h"
-#include "shell/TextoDeDuracion.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QSet>
@@ -76,23 +75,6 @@ private Q_SLOTS:
         QVERIFY(torcido->r2 < 0.999 && torcido->r2 > 0.9);
         QVERIFY(!ajustaExponencial(puntos.first(2)));
         QCOMPARE(ajustaExponencial({{1, 7}, {2, 7}, {3, 7}})->base, 1.0);
-    }
-
-    void duraciones_data()
-    {
-        QTest::addColumn<double>("ns");
-        QTest::addColumn<QString>("texto");
-        QTest::newRow("ns") << 3.124 << u"3,12 ns"_s;
-        QTest::newRow("rounds up to the next unit") << 999.7 << u"1,00 µs"_s;
-        QTest::newRow("rounds up to two digits") << 9.996e3 << u"10,0 µs"_s;
-        QTest::newRow("ms") << 123.4e6 << u"123 ms"_s;
-        QTest::newRow("no unit beyond seconds") << 7200e9 << u"7200 s"_s;
-    }
-    void duraciones()
-    {
-        QFETCH(double, ns);
-        QString texto = textoDeDuracion(ns);
-        QTEST(texto.remove(u'.'), "texto");
     }
 
     void arbol_data()
