@@ -1,9 +1,13 @@
 #include "numora/Lecciones.h"
 
+#include "lessons/complexity/EscenasRecursion1.h"
+#include "lessons/complexity/FormRecursion1.h"
 #include "lessons/congruences/EscenasTCR.h"
 #include "lessons/congruences/FormTCR.h"
 #include "lessons/euclid/EscenasEuclides.h"
 #include "lessons/euclid/FormEuclides.h"
+#include "lessons/fibonacci/EscenasFibonacci.h"
+#include "lessons/fibonacci/FormFibonacci.h"
 #include "lessons/primes/EscenasPrimos.h"
 #include "lessons/primes/FormPrimos.h"
 #include "lessons/recursion/EscenasRecursion.h"
@@ -32,18 +36,19 @@ FormLeccion *crea(QWidget *padre)
 Contenido contenidoDelPrograma()
 {
     Contenido contenido;
-    contenido.lecciones = {{u"FIBONACCI"_s, u"Fibonacci"_s, {}},
+    contenido.lecciones = {{u"FIBONACCI"_s, u"Fibonacci"_s, crea<FormFibonacci>},
                            {u"EUCLIDES"_s, u"Algoritmo de Euclides"_s, crea<FormEuclides>},
                            {u"PRIMOS"_s, u"Primos"_s, crea<FormPrimos>},
                            {u"UNIDADES"_s, u"Unidades"_s, crea<FormUnidades>},
                            {u"RSA"_s, u"Criptografía RSA"_s, crea<FormRSA>},
                            {u"TCR"_s, u"Teorema chino del resto"_s, crea<FormTCR>},
-                           {u"RECURSION"_s, u"Recursión y complejidad"_s, {}},
+                           {u"RECURSION"_s, u"Recursión y complejidad"_s, crea<FormRecursión1>},
                            {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>},
                            {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>}};
     contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
-    contenido.escenas = escenasEuclides(1) + escenasPrimos(2) + escenasUnidades(3) + escenasRSA(4) +
-                        escenasTCR(5) + escenasRecursion2(7) + escenasRecursion3(8) +
+    contenido.escenas = escenasFibonacci(0) + escenasEuclides(1) + escenasPrimos(2) +
+                        escenasUnidades(3) + escenasRSA(4) + escenasTCR(5) + escenasRecursion1(6) +
+                        escenasRecursion2(7) + escenasRecursion3(8) +
                         escenasMiniCal(FormPrincipal::FilaHojaDeCalculo);
     return contenido;
 }

@@ -15,6 +15,7 @@ ColumnasRepartidas::ColumnasRepartidas(QTableView *rejilla) : QObject(rejilla), 
     const QAbstractItemModel *modelo = rejilla->model();
     connect(modelo, &QAbstractItemModel::dataChanged, this, rehaz, Qt::QueuedConnection);
     connect(modelo, &QAbstractItemModel::modelReset, this, rehaz, Qt::QueuedConnection);
+    connect(modelo, &QAbstractItemModel::rowsInserted, this, rehaz, Qt::QueuedConnection);
     connect(modelo, &QAbstractItemModel::headerDataChanged, this, rehaz, Qt::QueuedConnection);
 }
 

@@ -64,6 +64,7 @@ void Grafica::ponPuntos(const QList<QPointF> &puntos, const QRectF &limites)
 {
     m_puntos = puntos;
     m_tramoDesde = m_tramoHasta = 0;
+    m_rectaDesde = m_rectaHasta = {};
     m_encuadre.ponLimites(limites);
     m_ejeX->setVisible(!puntos.isEmpty());
     m_ejeY->setVisible(!puntos.isEmpty());
@@ -75,6 +76,13 @@ void Grafica::ponTramo(qreal desde, qreal hasta)
 {
     m_tramoDesde = desde;
     m_tramoHasta = hasta;
+    update();
+}
+
+void Grafica::ponRecta(QPointF desde, QPointF hasta)
+{
+    m_rectaDesde = desde;
+    m_rectaHasta = hasta;
     update();
 }
 
@@ -216,6 +224,7 @@ void Grafica::paintEvent(QPaintEvent *)
     const int desde = std::max(0, puntoCercano(visible.left()) - 1);
     const int hasta = puntoCercano(visible.right()) + 2;
     dibujo.funcion(m_puntos.mid(desde, hasta - desde));
+    dibujo.recta(m_rectaDesde, m_rectaHasta);
     if (hasFocus())
         dibujo.marcoDelFoco();
 }

@@ -24,6 +24,9 @@ public:
     void ponPuntos(const QList<QPointF> &puntos, const QRectF &limites);
     /// A stretch of x that stands out; nothing when its ends are equal.
     void ponTramo(qreal desde, qreal hasta);
+    /// A straight line to compare the points with, dashed; none when its ends are equal. Like the
+    /// stretch, it goes when other points come.
+    void ponRecta(QPointF desde, QPointF hasta);
     void borra();
 
     /// What is shown while there are no points.
@@ -70,6 +73,7 @@ private:
     QString m_textoVacio;
     qreal m_tramoDesde = 0;
     qreal m_tramoHasta = 0;
+    QPointF m_rectaDesde, m_rectaHasta;
     QPointF m_agarre;
     int m_senalado = -1;
 

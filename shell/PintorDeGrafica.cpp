@@ -78,6 +78,14 @@ void PintorDeGrafica::funcion(const QList<QPointF> &puntos)
         m_pintor.drawEllipse(punto, radio, radio);
 }
 
+void PintorDeGrafica::recta(QPointF desde, QPointF hasta)
+{
+    if (desde == hasta)
+        return;
+    m_pintor.setPen(QPen(Aspecto::error(), 2, Qt::DashLine));
+    m_pintor.drawLine(m_encuadre.aPixel(desde), m_encuadre.aPixel(hasta));
+}
+
 void PintorDeGrafica::marcoDelFoco()
 {
     m_pintor.setClipping(false);

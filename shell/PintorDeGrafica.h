@@ -18,6 +18,8 @@ public:
     void rejilla(const QList<qint64> &enX, const QList<qint64> &enY);
     /// The points and the lines between them.
     void funcion(const QList<QPointF> &puntos);
+    /// A dashed straight line over the points; nothing when its ends are equal.
+    void recta(QPointF desde, QPointF hasta);
     void marcoDelFoco();
 
 private:

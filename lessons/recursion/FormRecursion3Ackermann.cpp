@@ -1,8 +1,8 @@
 #include "lessons/recursion/FormRecursion3Ackermann.h"
 
-#include "lessons/recursion/BotonDeCalculo.h"
 #include "lessons/recursion/EntradaNumerica.h"
 #include "shell/Aspecto.h"
+#include "shell/BotonDeCalculo.h"
 #include "shell/Evento.h"
 #include "shell/Formatos.h"
 #include "shell/Interlocutor.h"

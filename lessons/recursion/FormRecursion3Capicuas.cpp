@@ -1,7 +1,7 @@
 #include "lessons/recursion/FormRecursion3Capicuas.h"
 
-#include "lessons/recursion/BotonDeCalculo.h"
 #include "shell/Aspecto.h"
+#include "shell/BotonDeCalculo.h"
 #include "shell/Evento.h"
 #include "shell/Formatos.h"
 #include "shell/ModGlobal.h"

@@ -1,8 +1,8 @@
 #include "lessons/recursion/FormRecursion3Hailstone.h"
 
 #include "bignum/ModBignum.h"
-#include "lessons/recursion/BotonDeCalculo.h"
 #include "shell/Aspecto.h"
+#include "shell/BotonDeCalculo.h"
 #include "shell/Evento.h"
 #include "shell/Formatos.h"
 #include "shell/ModGlobal.h"

@@ -153,6 +153,18 @@ private Q_SLOTS:
         QCOMPARE(grafica.puntoSenalado(), 249);
     }
 
+    /// A line to compare with is drawn over the points, and goes with them.
+    void rectaDeComparacion()
+    {
+        Grafica grafica;
+        llena(grafica);
+        const QImage sola = grafica.grab().toImage();
+        grafica.ponRecta({0, 0}, {250, 999});
+        QVERIFY(grafica.grab().toImage() != sola);
+        llena(grafica);
+        QCOMPARE(grafica.grab().toImage(), sola);
+    }
+
     void sinPuntos()
     {
         Grafica grafica;

@@ -1,4 +1,4 @@
-#include "lessons/recursion/BotonDeCalculo.h"
+#include "shell/BotonDeCalculo.h"
 
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"

@@ -1,0 +1,100 @@
+#include "lessons/complexity/CuestionesComplejidad.h"
+
+#include "bignum/Azar.h"
+#include "bignum/ModBignum.h"
+#include "shell/Formatos.h"
+#include "shell/ModGlobal.h"
+
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The whole number of 64 bits that an answer stands for.
+std::optional<qint64> enteroDe(const QString &respuesta)
+{
+    bool esEntero = false;
+    const qint64 valor = Evalua(QString(respuesta)).toLongLong(&esEntero);
+    return esEntero ? std::optional(valor) : std::nullopt;
+}
+
+qint64 fibonacci(int n)
+{
+    return Evalua(u"fib(%1)"_s.arg(n)).toLongLong();
+}
+
+Juicio noEsUnNumero()
+{
+    return {false, Traduce(u"Escriba un número entero o una expresión."_s)};
+}
+
+Juicio juzgaLlamadas(const QString &respuesta, int n)
+{
+    const std::optional<qint64> valor = enteroDe(respuesta);
+    if (!valor)
+        return noEsUnNumero();
+    const qint64 llamadas = 2 * fibonacci(n + 1) - 1;
+    if (*valor == llamadas) {
+        return {true, Traduce(u"¡Correcto! Son 2 · F(%1) − 1 = %2."_s)
+                          .arg(QString::number(n + 1), formatoEntero(llamadas))};
+    }
+    if (*valor == llamadas - 1)
+        return {false, Traduce(u"Falta una: la primera llamada también cuenta."_s)};
+    if (*valor == fibonacci(n + 1))
+        return {false, Traduce(u"Esas son las llamadas que no hacen otras: faltan las demás."_s)};
+    return {false, Traduce(u"No. Si L(n) es el número de llamadas, L(0) = L(1) = 1 y "
+                           u"L(n) = L(n−1) + L(n−2) + 1."_s)};
+}
+
+Juicio juzgaHanoi(const QString &respuesta, int discos, int disco)
+{
+    const std::optional<qint64> valor = enteroDe(respuesta);
+    if (!valor)
+        return noEsUnNumero();
+    const qint64 veces = qint64{1} << (discos - disco);
+    if (*valor == veces) {
+        return {true, Traduce(u"¡Correcto! El mayor se mueve una vez, y cada uno el doble que el "
+                              u"siguiente en tamaño."_s)};
+    }
+    if (*valor == (qint64{1} << discos) - 1)
+        return {false, Traduce(u"Esos son los movimientos de todos los discos."_s)};
+    if (*valor == qint64{1} << (disco - 1))
+        return {false, Traduce(u"Ha contado los discos al revés: el 1 es el menor."_s)};
+    return {false, Traduce(u"No. ¿Cuántas veces se mueve el mayor? ¿Y el que va encima de él?"_s)};
+}
+
+} // namespace
+
+Cuestion sorteaLlamadas()
+{
+    return cuestionLlamadas(AleatorioEntre(8, 16));
+}
+
+Cuestion cuestionLlamadas(int n)
+{
+    return {Traduce(u"¿Cuántas llamadas hace en total la función recursiva para calcular F(%1)?"_s)
+                .arg(n),
+            Traduce(u"Un número o una expresión"_s),
+            [n](const QString &respuesta) { return juzgaLlamadas(respuesta, n); }};
+}
+
+Cuestion sorteaHanoi()
+{
+    const int discos = AleatorioEntre(8, 20);
+    // Neither the largest nor the smallest, nor the one in the middle, which stands at the same
+    // place from either end.
+    const int disco = AleatorioEntre(2, (discos - 1) / 2);
+    return cuestionHanoi(discos, disco);
+}
+
+Cuestion cuestionHanoi(int discos, int disco)
+{
+    return {
+        Traduce(u"En las torres de Hanói con %1 discos, numerados desde el menor, ¿cuántas "
+                u"veces se mueve el disco %2?"_s)
+            .arg(discos)
+            .arg(disco),
+        Traduce(u"Un número o una expresión, como 2^10"_s),
+        [discos, disco](const QString &respuesta) { return juzgaHanoi(respuesta, discos, disco); }};
+}

@@ -1,0 +1,90 @@
+#include "lessons/fibonacci/CuestionesFibonacci.h"
+
+#include "bignum/Azar.h"
+#include "bignum/ModBignum.h"
+#include "lessons/fibonacci/ValorEntero.h"
+#include "lessons/fibonacci/Zeckendorf.h"
+#include "shell/Formatos.h"
+#include "shell/ModGlobal.h"
+
+#include <numeric>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString palabraZeckendorf(FalloZeckendorf fallo, const QString &respuesta)
+{
+    switch (fallo) {
+    case FalloZeckendorf::Ninguno:
+        return Traduce(u"¡Correcto! Y no hay otra."_s);
+    case FalloZeckendorf::NoEsSuma:
+        return Traduce(u"Escriba números enteros, sin puntos, separados por el signo +."_s);
+    case FalloZeckendorf::NoEsFibonacci:
+        return Traduce(u"Algún sumando no es un número de Fibonacci."_s);
+    case FalloZeckendorf::Consecutivos:
+        return Traduce(u"La suma es buena, pero hay sumandos repetidos o consecutivos: "
+                       u"sustitúyalos por otros."_s);
+    case FalloZeckendorf::OtraSuma:
+        return Traduce(u"Los sumandos son de Fibonacci, pero suman %1."_s)
+            .arg(formatoEntero(Evalua(QString(respuesta))));
+    }
+    return {};
+}
+
+Juicio juzgaMcd(const QString &respuesta, int m, int n)
+{
+    const int d = std::gcd(m, n);
+    const QString valor = Evalua(QString(respuesta));
+    if (valor == TextoError || valor.isEmpty())
+        return {false, Traduce(u"Eso no es un número."_s)};
+    if (valor == valorEntero(u"fib(%1)"_s.arg(d))) {
+        return {true, Traduce(u"¡Correcto! Es F(%1), porque mcd(%2, %3) = %1."_s)
+                          .arg(QString::number(d), QString::number(m), QString::number(n))};
+    }
+    if (valor == QString::number(d)) {
+        return {false, Traduce(u"%1 es el máximo común divisor de los índices: falta calcular "
+                               u"el número de Fibonacci que ocupa ese lugar."_s)
+                           .arg(d)};
+    }
+    return {false,
+            Traduce(u"No es ese. Empiece por el máximo común divisor de %1 y %2."_s).arg(m).arg(n)};
+}
+
+} // namespace
+
+Cuestion sorteaZeckendorf()
+{
+    return cuestionZeckendorf(AleatorioEntre(100, 2000));
+}
+
+Cuestion cuestionZeckendorf(int n)
+{
+    return {
+        Traduce(u"Escriba %1 como suma de números de Fibonacci distintos de los que no haya "
+                u"dos consecutivos."_s)
+            .arg(n),
+        Traduce(u"Una suma, como 34 + 13 + 1"_s), [n](const QString &respuesta) {
+            const FalloZeckendorf fallo = juzgaZeckendorf(respuesta, n);
+            return Juicio{fallo == FalloZeckendorf::Ninguno, palabraZeckendorf(fallo, respuesta)};
+        }};
+}
+
+Cuestion sorteaMcd()
+{
+    // Neighbours have no common divisor, so that d alone is the gcd of the indices. From 6 on F(d)
+    // is larger than d, so that one cannot be taken for the other.
+    const int d = AleatorioEntre(6, 12);
+    const int veces = AleatorioEntre(4, 9);
+    return cuestionMcd(d * veces, d * (veces + 1));
+}
+
+Cuestion cuestionMcd(int m, int n)
+{
+    return {Traduce(u"¿Cuál es el máximo común divisor de F(%1) y F(%2)? (Se puede hallar sin "
+                    u"calcularlos.)"_s)
+                .arg(m)
+                .arg(n),
+            Traduce(u"Un número"_s),
+            [m, n](const QString &respuesta) { return juzgaMcd(respuesta, m, n); }};
+}

@@ -1,0 +1,164 @@
+#include "lessons/fibonacci/FormFibonacciValores.h"
+
+#include "shell/Aspecto.h"
+#include "shell/BotonDeCalculo.h"
+#include "shell/ColumnasRepartidas.h"
+#include "shell/EnteroAcotado.h"
+#include "shell/Evento.h"
+#include "shell/Formatos.h"
+#include "shell/ModGlobal.h"
+#include "shell/TextoDeDuracion.h"
+#include "shell/Textos.h"
+#include "shell/Veredicto.h"
+#include "ui_FormFibonacciValores.h"
+
+#include <QScopeGuard>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto PasoDePantalla = 50ms;
+
+QString nombreDe(MetodoFibonacci metodo)
+{
+    switch (metodo) {
+    case MetodoFibonacci::Definicion:
+        return Traduce(u"Definición"_s);
+    case MetodoFibonacci::Iteracion:
+        return Traduce(u"Iteración"_s);
+    case MetodoFibonacci::Duplicacion:
+        return Traduce(u"Duplicación"_s);
+    }
+    return {};
+}
+
+} // namespace
+
+FormFibonacciValores::FormFibonacciValores(Corrida &corrida, QWidget *padre)
+    : QWidget(padre),
+      ui(std::make_unique<Ui::FormFibonacciValores>()),
+      m_corrida(corrida),
+      m_comparacion({u"n"_s, Traduce(u"Método"_s), Traduce(u"Llamadas"_s), Traduce(u"Sumas"_s),
+                     Traduce(u"Productos"_s), Traduce(u"Tiempo"_s)})
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    Aspecto::destaca(ui->lblDefinicion, 1.15);
+    muestraCalcular(ui->cmdCalcular);
+    m_comparacion.ponColumnasDeTexto({1});
+    ui->FlexComparacion->setModel(&m_comparacion);
+    ui->FlexComparacion->ponTextoVacio(
+        Traduce(u"Calcule el mismo número por los tres métodos y compare"_s));
+    new ColumnasRepartidas(ui->FlexComparacion);
+    m_pantalla.setInterval(PasoDePantalla);
+
+    conecta(ui->cmdCalcular, &QPushButton::clicked, this, &FormFibonacciValores::cmdCalcular_Click);
+    conecta(ui->cmdBorrar, &QPushButton::clicked, this, &FormFibonacciValores::cmdBorrar_Click);
+    conecta(ui->TxtN, &QLineEdit::returnPressed, this, &FormFibonacciValores::empieza);
+    conecta(ui->TxtN, &QLineEdit::textChanged, ui->lblAviso, &QLabel::clear);
+    for (auto *opcion : {ui->optMetodo_0, ui->optMetodo_1, ui->optMetodo_2})
+        conecta(opcion, &QRadioButton::clicked, this, &FormFibonacciValores::optMetodo_Click);
+    conecta(&m_pantalla, &QTimer::timeout, this, &FormFibonacciValores::muestraAvance);
+}
+
+FormFibonacciValores::~FormFibonacciValores() = default;
+
+QAbstractButton *FormFibonacciValores::botonDeParada() const
+{
+    return m_calculando ? ui->cmdCalcular : nullptr;
+}
+
+MetodoFibonacci FormFibonacciValores::metodo() const
+{
+    if (ui->optMetodo_0->isChecked())
+        return MetodoFibonacci::Definicion;
+    return ui->optMetodo_1->isChecked() ? MetodoFibonacci::Iteracion : MetodoFibonacci::Duplicacion;
+}
+
+/// Another method has another bound.
+void FormFibonacciValores::optMetodo_Click()
+{
+    ui->lblAviso->clear();
+}
+
+void FormFibonacciValores::cmdBorrar_Click()
+{
+    m_comparacion.ponFilas({});
+}
+
+void FormFibonacciValores::cmdCalcular_Click()
+{
+    if (!m_calculando) {
+        empieza();
+        return;
+    }
+    m_corrida.detener();
+    m_calculando = false;
+    muestraCalcular(ui->cmdCalcular);
+}
+
+void FormFibonacciValores::empieza()
+{
+    // A run that was told to stop must see the flag before it is cleared for another.
+    if (m_calculando || m_corrida.enCurso())
+        return;
+    const auto n = evaluaEnteroAcotado(ui->TxtN->text(), 0, cotaDe(metodo()));
+    if (!n) {
+        muestraVeredicto(ui->lblAviso, false,
+                         Traduce(u"Escriba un número entero de 0 a %1."_s)
+                             .arg(formatoEntero(qint64{cotaDe(metodo())})));
+        ui->TxtN->setFocus();
+        ui->TxtN->selectAll();
+        return;
+    }
+    calcula(metodo(), *n);
+}
+
+void FormFibonacciValores::calcula(MetodoFibonacci metodo, int n)
+{
+    m_corrida.permitir();
+    const Corrida::Tramo tramo(m_corrida);
+    const auto alFinal = qScopeGuard([this] { termina(); });
+    m_calculando = true;
+    muestraDetener(ui->cmdCalcular);
+    ui->lblAviso->clear();
+    ui->txtValor->setText({});
+    m_pantalla.start();
+    m_reloj.start();
+    const QString valor = m_calculo.calcula(metodo, n, m_corrida);
+    const qint64 tiempo = m_reloj.nsecsElapsed();
+    muestraValor(n, valor);
+    const Esfuerzo &esfuerzo = m_calculo.esfuerzo();
+    m_comparacion.agrega(
+        {formatoEntero(qint64{n}), nombreDe(metodo), formatoEntero(esfuerzo.llamadas),
+         formatoEntero(esfuerzo.sumas), formatoEntero(esfuerzo.productos),
+         valor.isEmpty() ? Traduce(u"detenido"_s) : textoDeDuracion(static_cast<double>(tiempo))});
+    ui->FlexComparacion->scrollToBottom();
+}
+
+void FormFibonacciValores::termina()
+{
+    m_pantalla.stop();
+    m_calculando = false;
+    muestraCalcular(ui->cmdCalcular);
+}
+
+void FormFibonacciValores::muestraAvance()
+{
+    const Esfuerzo &esfuerzo = m_calculo.esfuerzo();
+    ui->lblCifras->setText(
+        esfuerzo.llamadas > 0
+            ? Traduce(u"Calculando… Llamadas: %1"_s).arg(formatoEntero(esfuerzo.llamadas))
+            : Traduce(u"Calculando… Sumas: %1"_s).arg(formatoEntero(esfuerzo.sumas)));
+}
+
+void FormFibonacciValores::muestraValor(int n, const QString &valor)
+{
+    ui->txtValor->setText(valor);
+    ui->lblCifras->setText(
+        valor.isEmpty() ? Traduce(u"Cálculo detenido"_s)
+                        : Traduce(u"Cifras de F(%1): %2"_s)
+                              .arg(formatoEntero(qint64{n}), formatoEntero(qint64{valor.size()})));
+}

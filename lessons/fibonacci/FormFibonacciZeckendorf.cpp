@@ -1,0 +1,129 @@
+#include "lessons/fibonacci/FormFibonacciZeckendorf.h"
+
+#include "bignum/ModBignum.h"
+#include "shell/ColumnasRepartidas.h"
+#include "shell/Evento.h"
+#include "shell/Formatos.h"
+#include "shell/Imagenes.h"
+#include "shell/ModGlobal.h"
+#include "shell/Textos.h"
+#include "shell/Veredicto.h"
+#include "ui_FormFibonacciZeckendorf.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString Maximo = u"1"_s + QString(200, u'0');
+
+/// The number that an expression stands for; empty for anything but a positive whole one.
+QString positivoDe(const QString &expresion)
+{
+    const QString valor = Evalua(QString(expresion), Maximo);
+    const bool esEntero =
+        std::all_of(valor.begin(), valor.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return esEntero && valor != u"0"_s ? valor : QString();
+}
+
+} // namespace
+
+FormFibonacciZeckendorf::FormFibonacciZeckendorf(QWidget *padre)
+    : QWidget(padre),
+      ui(std::make_unique<Ui::FormFibonacciZeckendorf>()),
+      m_modelo(
+          {Traduce(u"Resto"_s), u"k"_s, Traduce(u"El mayor F(k) que cabe"_s), Traduce(u"Queda"_s)})
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    ui->cmdSiguiente->setIcon(ImgSiguiente());
+    ui->FlexPasos->setModel(&m_modelo);
+    ui->FlexPasos->ponTextoVacio(Traduce(u"Aquí aparecerán los pasos, un sumando por fila"_s));
+    new ColumnasRepartidas(ui->FlexPasos);
+
+    conecta(ui->cmdSiguiente, &QPushButton::clicked, this,
+            &FormFibonacciZeckendorf::cmdSiguiente_Click);
+    conecta(ui->TxtNumero, &QLineEdit::returnPressed, this,
+            &FormFibonacciZeckendorf::cmdSiguiente_Click);
+    conecta(ui->cmdTodo, &QPushButton::clicked, this, &FormFibonacciZeckendorf::cmdTodo_Click);
+    conecta(ui->cmdEmpezar, &QPushButton::clicked, this,
+            &FormFibonacciZeckendorf::cmdEmpezar_Click);
+    conecta(ui->TxtNumero, &QLineEdit::textChanged, this,
+            &FormFibonacciZeckendorf::cmdEmpezar_Click);
+}
+
+FormFibonacciZeckendorf::~FormFibonacciZeckendorf() = default;
+
+void FormFibonacciZeckendorf::cmdEmpezar_Click()
+{
+    ui->lblAvisoZeckendorf->clear();
+    m_numero.clear();
+    m_pasos.clear();
+    avanzaHasta(0);
+}
+
+void FormFibonacciZeckendorf::cmdSiguiente_Click()
+{
+    if (hayNumero())
+        avanzaHasta(std::min(m_dados + 1, m_pasos.size()));
+}
+
+void FormFibonacciZeckendorf::cmdTodo_Click()
+{
+    if (hayNumero())
+        avanzaHasta(m_pasos.size());
+}
+
+/// Takes the number of the field at the first step; without one, the focus is back in the field.
+bool FormFibonacciZeckendorf::hayNumero()
+{
+    if (!m_pasos.isEmpty())
+        return true;
+    m_numero = positivoDe(ui->TxtNumero->text());
+    if (m_numero.isEmpty()) {
+        muestraVeredicto(ui->lblAvisoZeckendorf, false,
+                         Traduce(u"Escriba un número entero positivo, hasta 10^200."_s));
+        ui->TxtNumero->setFocus();
+        ui->TxtNumero->selectAll();
+        return false;
+    }
+    m_pasos = representacionZeckendorf(m_numero);
+    return true;
+}
+
+void FormFibonacciZeckendorf::avanzaHasta(qsizetype pasos)
+{
+    m_dados = pasos;
+    QList<QStringList> filas;
+    for (const PasoZeckendorf &paso : m_pasos.first(pasos)) {
+        filas << QStringList{formatoEntero(paso.resto), QString::number(paso.indice),
+                             formatoEntero(paso.sumando), formatoEntero(paso.queda)};
+    }
+    m_modelo.ponFilas(filas);
+    ui->FlexPasos->scrollToBottom();
+    muestraSuma();
+}
+
+void FormFibonacciZeckendorf::muestraSuma()
+{
+    if (m_dados == 0) {
+        ui->txtSuma->setText({});
+        ui->txtCodigo->setText({});
+        return;
+    }
+    QStringList sumandos;
+    QStringList nombres;
+    for (const PasoZeckendorf &paso : m_pasos.first(m_dados)) {
+        sumandos << paso.sumando;
+        nombres << u"F(%1)"_s.arg(paso.indice);
+    }
+    const bool completa = m_dados == m_pasos.size();
+    if (!completa)
+        sumandos << u"(%1)"_s.arg(m_pasos.at(m_dados).resto);
+    QString texto = m_numero + u" = "_s + sumandos.join(u" + "_s);
+    if (completa)
+        texto += u" = "_s + nombres.join(u" + "_s);
+    ui->txtSuma->setText(texto);
+    ui->txtCodigo->setText(completa ? codigoZeckendorf(m_pasos) : QString());
+}

@@ -1,0 +1,8 @@
+#include "lessons/fibonacci/ValorEntero.h"
+
+#include "bignum/ModBignum.h"
+
+QString valorEntero(const QString &expresion)
+{
+    return Evalua(QString(expresion), {}, Aritmetica::Entera);
+}

@@ -1,0 +1,71 @@
+#include "shell/PanelCuestiones.h"
+
+#include "shell/Aspecto.h"
+#include "shell/Evento.h"
+#include "shell/Imagenes.h"
+#include "shell/ModGlobal.h"
+#include "shell/Textos.h"
+#include "shell/Veredicto.h"
+#include "ui_PanelCuestiones.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+/// Where one question stands: what draws it, and its controls.
+struct PanelCuestiones::Lugar
+{
+    Sorteo sortea;
+    QLabel *enunciado;
+    QLineEdit *respuesta;
+    QPushButton *comprobar, *otra;
+    QLabel *veredicto;
+    Cuestion cuestion = {};
+};
+
+PanelCuestiones::PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, QWidget *padre)
+    : QWidget(padre), ui(std::make_unique<Ui::PanelCuestiones>())
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    m_lugares = {{primera, ui->lblEnunciado_0, ui->txtRespuesta_0, ui->cmdComprobar_0,
+                  ui->cmdOtra_0, ui->lblVeredicto_0},
+                 {segunda, ui->lblEnunciado_1, ui->txtRespuesta_1, ui->cmdComprobar_1,
+                  ui->cmdOtra_1, ui->lblVeredicto_1}};
+    for (QLabel *titulo : {ui->lblTitulo_0, ui->lblTitulo_1})
+        Aspecto::destaca(titulo, 1.15);
+    for (Lugar &lugar : m_lugares) {
+        lugar.comprobar->setIcon(Icono(u"COMPROBAR"_s));
+        lugar.otra->setIcon(Icono(u"DADO"_s));
+        conecta(lugar.comprobar, &QPushButton::clicked, this,
+                [this, &lugar] { cmdComprobar_Click(lugar); });
+        conecta(lugar.otra, &QPushButton::clicked, this, [this, &lugar] { plantea(lugar); });
+        conecta(lugar.respuesta, &QLineEdit::returnPressed, this,
+                [this, &lugar] { cmdComprobar_Click(lugar); });
+        // A verdict belongs to the answer that was judged.
+        conecta(lugar.respuesta, &QLineEdit::textChanged, lugar.veredicto, &QLabel::clear);
+        plantea(lugar);
+    }
+}
+
+PanelCuestiones::~PanelCuestiones() = default;
+
+void PanelCuestiones::plantea(Lugar &lugar)
+{
+    lugar.cuestion = lugar.sortea();
+    lugar.enunciado->setText(lugar.cuestion.enunciado);
+    lugar.respuesta->setPlaceholderText(lugar.cuestion.ejemplo);
+    lugar.respuesta->clear();
+    lugar.veredicto->clear();
+}
+
+void PanelCuestiones::cmdComprobar_Click(Lugar &lugar)
+{
+    lugar.respuesta->setFocus();
+    const QString respuesta = lugar.respuesta->text().trimmed();
+    if (respuesta.isEmpty())
+        return;
+    const Juicio juicio = lugar.cuestion.juzga(respuesta);
+    muestraVeredicto(lugar.veredicto, juicio.acertada, juicio.palabra);
+    ui->ccrpAniEureka->carga(juicio.acertada ? Sesión().AVIEureka() : Sesión().AVIError(),
+                             juicio.acertada ? u"EUREKA"_s : u"ERROR"_s);
+    ui->ccrpAniEureka->reproduce(ReproductorAVI::Modo::UnaVez);
+}

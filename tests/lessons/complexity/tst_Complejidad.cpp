@@ -1,0 +1,226 @@
+#include "lessons/complexity/AjusteExponencial.h"
+#include "lessons/complexity/ArbolDeLlamadas.h"
+#include "lessons/complexity/CuestionesComplejidad.h"
+#include "lessons/complexity/FibonacciMedido.h"
+#include "lessons/complexity/GeometriaHanoi.h"
+#include "lessons/complexity/TorresHanoi.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QSet>
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+Q_DECLARE_METATYPE(FormaDeCalculo)
+
+/// The logic of the lesson on recursion and complexity.
+class TestComplejidad : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { Entorno::limpia(); }
+
+    void medidas_data()
+    {
+        QTest::addColumn<FormaDeCalculo>("forma");
+        QTest::addColumn<int>("n");
+        QTest::addColumn<qint64>("valor");
+        QTest::addColumn<qint64>("pasos");
+        QTest::newRow("recursive 1") << FormaDeCalculo::Recursiva << 1 << qint64{1} << qint64{1};
+        QTest::newRow("recursive 20")
+            << FormaDeCalculo::Recursiva << 20 << qint64{6765} << qint64{21891};
+        QTest::newRow("memory 1") << FormaDeCalculo::ConMemoria << 1 << qint64{1} << qint64{1};
+        QTest::newRow("memory 20")
+            << FormaDeCalculo::ConMemoria << 20 << qint64{6765} << qint64{39};
+        QTest::newRow("memory 92")
+            << FormaDeCalculo::ConMemoria << 92 << qint64{7540113804746346429} << qint64{183};
+        QTest::newRow("iterative 20")
+            << FormaDeCalculo::Iterativa << 20 << qint64{6765} << qint64{20};
+    }
+    void medidas()
+    {
+        QFETCH(FormaDeCalculo, forma);
+        QFETCH(int, n);
+        Corrida corrida(nullptr);
+        const Medida medida = mideFibonacci(forma, n, corrida);
+        QTEST(medida.valor, "valor");
+        QTEST(medida.pasos, "pasos");
+        QVERIFY(medida.nanosegundos > 0);
+    }
+
+    void unaMedidaSeDetiene()
+    {
+        Corrida *esta = nullptr;
+        Corrida corrida([&esta] { esta->detener(); });
+        esta = &corrida;
+        mideFibonacci(FormaDeCalculo::Recursiva, 60, corrida);
+        QVERIFY(corrida.detenida());
+    }
+
+    void ajuste()
+    {
+        QList<QPointF> puntos;
+        for (int n = 5; n <= 30; ++n)
+            puntos << QPointF(n, 2.5 * std::pow(1.618, n));
+        const auto exacto = ajustaExponencial(puntos);
+        QVERIFY(exacto.has_value());
+        QVERIFY(std::abs(exacto->base - 1.618) < 1e-9);
+        QVERIFY(std::abs(exacto->factor - 2.5) < 1e-6);
+        QVERIFY(std::abs(exacto->r2 - 1) < 1e-9);
+        QVERIFY(std::abs(exacto->valor(7) - puntos.at(2).y()) < 1e-6);
+        puntos[10].ry() *= 3;
+        const auto torcido = ajustaExponencial(puntos);
+        QVERIFY(torcido->r2 < 0.999 && torcido->r2 > 0.9);
+        QVERIFY(!ajustaExponencial(puntos.first(2)));
+        QCOMPARE(ajustaExponencial({{1, 7}, {2, 7}, {3, 7}})->base, 1.0);
+    }
+
+    void arbol_data()
+    {
+        QTest::addColumn<int>("n");
+        QTest::addColumn<bool>("memoria");
+        QTest::addColumn<int>("llamadas");
+        QTest::addColumn<int>("repetidas");
+        QTest::addColumn<int>("filas");
+        QTest::newRow("1") << 1 << false << 1 << 0 << 1;
+        QTest::newRow("5") << 5 << false << 15 << 9 << 5;
+        QTest::newRow("10") << 10 << false << 177 << 166 << 10;
+        QTest::newRow("5 with memory") << 5 << true << 9 << 3 << 5;
+        QTest::newRow("10 with memory") << 10 << true << 19 << 8 << 10;
+    }
+    void arbol()
+    {
+        QFETCH(int, n);
+        QFETCH(bool, memoria);
+        const ArbolDeLlamadas arbol(n, memoria);
+        QTEST(static_cast<int>(arbol.llamadas().size()), "llamadas");
+        QTEST(arbol.repetidas(), "repetidas");
+        QTEST(arbol.filas(), "filas");
+        compruebaSitios(arbol);
+    }
+
+    void hanoi_data()
+    {
+        QTest::addColumn<int>("discos");
+        QTest::newRow("1") << 1;
+        QTest::newRow("2") << 2;
+        QTest::newRow("5") << 5;
+        QTest::newRow("12") << TorresHanoi::MaximoDiscos;
+    }
+    void hanoi()
+    {
+        QFETCH(int, discos);
+        TorresHanoi torres(discos);
+        const QList<int> todos = torres.palo(0);
+        QCOMPARE(static_cast<int>(todos.size()), discos);
+        while (!torres.terminado()) {
+            torres.avanza();
+            for (int palo = 0; palo < TorresHanoi::NumPalos; ++palo) {
+                const QList<int> &pila = torres.palo(palo);
+                QVERIFY(std::is_sorted(pila.crbegin(), pila.crend()));
+            }
+        }
+        QCOMPARE(torres.hechos(), (1 << discos) - 1);
+        QCOMPARE(torres.palo(2), todos);
+        torres.avanza();
+        QCOMPARE(torres.palo(2), todos);
+        while (torres.hechos() > 0)
+            torres.retrocede();
+        torres.retrocede();
+        QCOMPARE(torres.palo(0), todos);
+    }
+
+    void geometriaDeHanoi()
+    {
+        const QSizeF tamano(300, 200);
+        for (const int discos : {1, 5, TorresHanoi::MaximoDiscos}) {
+            const GeometriaHanoi geometria(tamano, discos);
+            const QRectF hoja({0, 0}, tamano);
+            for (int palo = 0; palo < TorresHanoi::NumPalos; ++palo) {
+                QVERIFY(hoja.contains(geometria.palo(palo)));
+                for (int altura = 0; altura < discos; ++altura) {
+                    const QRectF disco = geometria.disco(discos - altura, palo, altura);
+                    QVERIFY(hoja.contains(disco));
+                    QCOMPARE(disco.center().x(), geometria.palo(palo).center().x());
+                    if (altura == 0) {
+                        QCOMPARE(disco.bottom(), geometria.base().top());
+                        continue;
+                    }
+                    const QRectF debajo = geometria.disco(discos - altura + 1, palo, altura - 1);
+                    QCOMPARE(disco.bottom(), debajo.top());
+                    QVERIFY(disco.width() < debajo.width());
+                }
+            }
+            QVERIFY(geometria.disco(discos, 0, 0).right() < geometria.disco(discos, 1, 0).left());
+        }
+    }
+
+    void cuestiones_data()
+    {
+        QTest::addColumn<QString>("respuesta");
+        QTest::addColumn<bool>("acertada");
+        QTest::addColumn<QString>("palabra");
+        QTest::newRow("calls") << u"L177"_s << true << u"F(11)"_s;
+        QTest::newRow("calls, expression") << u"L2*fib(11)-1"_s << true << u"177"_s;
+        QTest::newRow("calls without the first") << u"L176"_s << false << u"primera"_s;
+        QTest::newRow("last calls") << u"L89"_s << false << u"no hacen otras"_s;
+        QTest::newRow("calls, other") << u"L100"_s << false << u"L(n)"_s;
+        QTest::newRow("calls, no number") << u"Lmuchas"_s << false << u"entero"_s;
+        QTest::newRow("moves") << u"H2^7"_s << true << u"doble"_s;
+        QTest::newRow("all moves") << u"H1023"_s << false << u"todos"_s;
+        QTest::newRow("discs from the other end") << u"H4"_s << false << u"revés"_s;
+        QTest::newRow("moves, other") << u"H127"_s << false << u"mayor"_s;
+        QTest::newRow("moves, fraction") << u"H1/3"_s << false << u"entero"_s;
+    }
+    void cuestiones()
+    {
+        QFETCH(QString, respuesta);
+        QFETCH(QString, palabra);
+        const Cuestion cuestion =
+            respuesta.startsWith(u'L') ? cuestionLlamadas(10) : cuestionHanoi(10, 3);
+        const Juicio juicio = cuestion.juzga(respuesta.sliced(1));
+        QTEST(juicio.acertada, "acertada");
+        QVERIFY2(juicio.palabra.contains(palabra), qPrintable(juicio.palabra));
+    }
+
+    void cuestionesSorteadas()
+    {
+        QSet<QString> vistas;
+        for (int i = 0; i < 60; ++i)
+            vistas << sorteaLlamadas().enunciado << sorteaHanoi().enunciado;
+        QVERIFY(vistas.size() > 15);
+    }
+
+private:
+    /// Calls stand below their callers, in the middle of them, and never on one another.
+    static void compruebaSitios(const ArbolDeLlamadas &arbol)
+    {
+        QSet<std::pair<qreal, qreal>> ocupados;
+        const QList<Llamada> &llamadas = arbol.llamadas();
+        QList<QList<qreal>> hijos(llamadas.size());
+        for (int i = 0; i < llamadas.size(); ++i) {
+            const Llamada &llamada = llamadas.at(i);
+            const QPointF sitio = llamada.sitio;
+            QVERIFY(!ocupados.contains({sitio.x(), sitio.y()}));
+            ocupados.insert({sitio.x(), sitio.y()});
+            QVERIFY(sitio.x() >= 0 && sitio.x() <= arbol.columnas() - 1);
+            QCOMPARE(llamada.padre < 0, i == 0);
+            if (llamada.padre < 0)
+                continue;
+            QVERIFY(llamada.padre < i);
+            QCOMPARE(sitio.y(), llamadas.at(llamada.padre).sitio.y() + 1);
+            hijos[llamada.padre] << sitio.x();
+        }
+        for (int i = 0; i < llamadas.size(); ++i) {
+            if (hijos.at(i).isEmpty())
+                continue;
+            QCOMPARE(static_cast<int>(hijos.at(i).size()), 2);
+            QCOMPARE(llamadas.at(i).sitio.x(), (hijos.at(i).first() + hijos.at(i).last()) / 2);
+        }
+    }
+};
+
+NUMORA_TEST_MAIN(TestComplejidad)
+#include "tst_Complejidad.moc"

@@ -1,0 +1,212 @@
+#include "lessons/complexity/DibujoArbol.h"
+#include "lessons/complexity/FormRecursion1.h"
+#include "shell/Grafica.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QTableView>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The lesson on recursion and complexity, by its controls.
+class TestFormRecursion1 : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_ventana = std::make_unique<FormRecursión1>();
+    }
+    void cleanup() { m_ventana.reset(); }
+
+    void alAbrir()
+    {
+        QStringList temas;
+        const auto *tsTema = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
+        for (int i = 0; i < tsTema->count(); ++i)
+            temas << tsTema->tabText(i);
+        QCOMPARE(temas.join(u'|'),
+                 u"Introducción|Fibonacci|Árbol de llamadas|Torres de Hanói|Cuestiones"_s);
+        QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\Recursión1.html"_s));
+    }
+
+    void medidas()
+    {
+        mide(u"7+7"_s);
+        QCOMPARE(filas(u"FlexMedidas"_s), 14);
+        QCOMPARE(celda(u"FlexMedidas"_s, 13, 1), u"377"_s);
+        QCOMPARE(celda(u"FlexMedidas"_s, 13, 2), u"1.219"_s);
+        QCOMPARE(celda(u"FlexMedidas"_s, 13, 4), u"27"_s);
+        QCOMPARE(celda(u"FlexMedidas"_s, 13, 6), u"14"_s);
+        control<QRadioButton>(m_ventana.get(), u"optLlamadas"_s)->click();
+        auto *grafica = control<Grafica>(m_ventana.get(), u"PicCrecimiento"_s);
+        QCOMPARE(grafica->encuadre().visible(), QRectF(0, 0, 14, 4));
+        // Calls are counted, so that their fit is the same on every machine: nearly φ.
+        QVERIFY2(texto(u"lblAjuste"_s).contains(u"1,62"_s), qPrintable(texto(u"lblAjuste"_s)));
+        for (int i = 0; i < 14; ++i)
+            QTest::keyClick(grafica, Qt::Key_Right);
+        QCOMPARE(texto(u"lblPunto"_s), u"n = 14: 1.219 llamadas"_s);
+        // Too few points for a fit.
+        mide(u"5"_s);
+        QVERIFY(texto(u"lblAjuste"_s).contains(u"tres puntos"_s));
+    }
+
+    void unFinalFueraDeSitio_data()
+    {
+        QTest::addColumn<QString>("hasta");
+        QTest::addColumn<bool>("aviso");
+        QTest::newRow("above") << u"46"_s << true;
+        QTest::newRow("below") << u"2"_s << false;
+        QTest::newRow("fraction") << u"7/2"_s << false;
+        QTest::newRow("words") << u"mucho"_s << false;
+    }
+    void unFinalFueraDeSitio()
+    {
+        QFETCH(QString, hasta);
+        QFETCH(bool, aviso);
+        mide(hasta);
+        QCOMPARE(filas(u"FlexMedidas"_s), 0);
+        QVERIFY(texto(u"lblAvance"_s).startsWith(u"✗"_s));
+        QCOMPARE(Entorno::grabadora().mensajes.size(), aviso ? 1 : 0);
+        Entorno::grabadora().mensajes.clear();
+    }
+
+    void seDetiene()
+    {
+        QTimer::singleShot(100, m_ventana.get(), [this] {
+            QCOMPARE(boton(u"cmdMedir"_s)->toolTip(), u"Detener cálculo"_s);
+            // The key that stops every run.
+            QTest::keyClick(boton(u"cmdMedir"_s), Qt::Key_Escape);
+        });
+        mide(u"45"_s);
+        QVERIFY(filas(u"FlexMedidas"_s) < 45);
+        QVERIFY(texto(u"lblAvance"_s).startsWith(u"Detenido"_s));
+        QCOMPARE(boton(u"cmdMedir"_s)->toolTip(), u"Calcular"_s);
+        mide(u"4"_s);
+        QCOMPARE(filas(u"FlexMedidas"_s), 4);
+    }
+
+    void seCierraDurante()
+    {
+        auto *ventana = new FormRecursión1;
+        QPointer<QWidget> viva(ventana);
+        ventana->show();
+        control<QLineEdit>(ventana, u"TxtHasta"_s)->setText(u"45"_s);
+        QTimer::singleShot(60, ventana, &QWidget::close);
+        control<QPushButton>(ventana, u"cmdMedir"_s)->click();
+        QTRY_VERIFY(viva.isNull());
+    }
+
+    void arbolDeLlamadas()
+    {
+        auto *n = control<QSpinBox>(m_ventana.get(), u"SpinN"_s);
+        auto *hechas = control<QSlider>(m_ventana.get(), u"sldLlamadas"_s);
+        n->setValue(5);
+        QCOMPARE(hechas->maximum(), 15);
+        QCOMPARE(texto(u"lblLlamada"_s), u"Llamada 15 de 15: F(1), se vuelve a calcular."_s);
+        pulsa(u"cmdSiguienteLlamada"_s);
+        QCOMPARE(texto(u"lblLlamada"_s), u"Llamada 1 de 15: F(5), se pide por primera vez."_s);
+        hechas->setValue(7);
+        QCOMPARE(texto(u"lblLlamada"_s), u"Llamada 7 de 15: F(1), se vuelve a calcular."_s);
+        hechas->setValue(0);
+        QVERIFY(!texto(u"lblLlamada"_s).contains(u"F("_s));
+        control<QCheckBox>(m_ventana.get(), u"chkMemoria"_s)->click();
+        QCOMPARE(hechas->maximum(), 9);
+        QCOMPARE(texto(u"lblLlamada"_s), u"Llamada 9 de 9: F(3), estaba en la memoria."_s);
+        QVERIFY(texto(u"lblLeyenda"_s).startsWith(u"9 llamadas, de las que 3 "_s));
+    }
+
+    void torresDeHanoi()
+    {
+        auto *discos = control<QSpinBox>(m_ventana.get(), u"SpinDiscos"_s);
+        discos->setValue(3);
+        QVERIFY(!boton(u"cmdAnterior"_s)->isEnabled());
+        pulsa(u"cmdSiguienteMovimiento"_s);
+        pulsa(u"cmdSiguienteMovimiento"_s);
+        QVERIFY(texto(u"lblMovimiento"_s).startsWith(u"Movimiento 2: el disco 2 pasa de A a B."_s));
+        pulsa(u"cmdAnterior"_s);
+        QCOMPARE(filas(u"FlexMovimientos"_s), 1);
+        control<QSlider>(m_ventana.get(), u"sldVelocidad"_s)->setValue(10);
+        pulsa(u"cmdMover"_s);
+        QCOMPARE(boton(u"cmdMover"_s)->toolTip(), u"Detener los movimientos"_s);
+        QTRY_COMPARE(filas(u"FlexMovimientos"_s), 7);
+        QVERIFY(boton(u"cmdMover"_s)->toolTip() != u"Detener los movimientos"_s);
+        QVERIFY(!boton(u"cmdSiguienteMovimiento"_s)->isEnabled());
+        QCOMPARE(celda(u"FlexMovimientos"_s, 3, 1) + celda(u"FlexMovimientos"_s, 3, 3), u"3C"_s);
+        // From the end it starts again, and a second click stops it.
+        pulsa(u"cmdMover"_s);
+        QCOMPARE(filas(u"FlexMovimientos"_s), 0);
+        pulsa(u"cmdMover"_s);
+        QTest::qWait(60);
+        QCOMPARE(filas(u"FlexMovimientos"_s), 0);
+        // Another number of discs stops it as well.
+        pulsa(u"cmdMover"_s);
+        discos->setValue(12);
+        QTest::qWait(60);
+        QCOMPARE(filas(u"FlexMovimientos"_s), 0);
+        QVERIFY(texto(u"lblMovimiento"_s).contains(u"4.095"_s));
+    }
+
+    void cuestionDeHanoi()
+    {
+        static const QRegularExpression datos(u"con (\\d+) discos.*disco (\\d+)"_s);
+        const auto hallado = datos.match(texto(u"lblEnunciado_1"_s));
+        QVERIFY(hallado.hasMatch());
+        control<QLineEdit>(m_ventana.get(), u"txtRespuesta_1"_s)
+            ->setText(u"2^(%1-%2)"_s.arg(hallado.captured(1), hallado.captured(2)));
+        pulsa(u"cmdComprobar_1"_s);
+        QVERIFY(texto(u"lblVeredicto_1"_s).startsWith(u"✓"_s));
+    }
+
+    /// The drawing shows what has been done: pale before, and the colours of both kinds after.
+    void elArbolSeDibuja()
+    {
+        DibujoArbol dibujo;
+        dibujo.resize(400, 300);
+        dibujo.ponArbol(ArbolDeLlamadas(4, false));
+        const QImage palido = dibujo.grab().toImage();
+        dibujo.ponHechas(9);
+        QVERIFY(dibujo.grab().toImage() != palido);
+    }
+
+private:
+    QPushButton *boton(const QString &nombre)
+    {
+        return control<QPushButton>(m_ventana.get(), nombre);
+    }
+    void pulsa(const QString &nombre) { boton(nombre)->click(); }
+    void mide(const QString &hasta)
+    {
+        control<QLineEdit>(m_ventana.get(), u"TxtHasta"_s)->setText(hasta);
+        pulsa(u"cmdMedir"_s);
+    }
+    QString texto(const QString &rotulo) const
+    {
+        return control<QLabel>(m_ventana.get(), rotulo)->text();
+    }
+    const QAbstractItemModel *modelo(const QString &rejilla) const
+    {
+        return control<QTableView>(m_ventana.get(), rejilla)->model();
+    }
+    int filas(const QString &rejilla) const { return modelo(rejilla)->rowCount(); }
+    QString celda(const QString &rejilla, int fila, int columna) const
+    {
+        return modelo(rejilla)->index(fila, columna).data().toString();
+    }
+
+    std::unique_ptr<FormRecursión1> m_ventana;
+};
+
+NUMORA_TEST_MAIN(TestFormRecursion1)
+#include "tst_FormRecursion1.moc"

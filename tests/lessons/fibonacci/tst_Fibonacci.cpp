@@ -1,0 +1,239 @@
+#include "bignum/ModBignum.h"
+#include "lessons/fibonacci/CalculoFibonacci.h"
+#include "lessons/fibonacci/CuestionesFibonacci.h"
+#include "lessons/fibonacci/IdentidadesFibonacci.h"
+#include "lessons/fibonacci/RazonAurea.h"
+#include "lessons/fibonacci/Zeckendorf.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+Q_DECLARE_METATYPE(FalloZeckendorf)
+Q_DECLARE_METATYPE(MetodoFibonacci)
+
+/// The logic of the lesson on the Fibonacci numbers.
+class TestFibonacci : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { Entorno::limpia(); }
+
+    /// The function of the expression language goes another way than any of the three methods.
+    void losTresMetodosCoinciden_data()
+    {
+        QTest::addColumn<MetodoFibonacci>("metodo");
+        QTest::addColumn<QList<int>>("indices");
+        const QList<int> grandes{0, 1, 2, 3, 4, 7, 8, 31, 32, 33, 93, 94, 255, 256, 1000, 4095};
+        QTest::newRow("definition")
+            << MetodoFibonacci::Definicion << QList<int>{0, 1, 2, 3, 10, 25};
+        QTest::newRow("iteration") << MetodoFibonacci::Iteracion << grandes;
+        QTest::newRow("doubling") << MetodoFibonacci::Duplicacion
+                                  << (grandes + QList<int>{100'000});
+    }
+    void losTresMetodosCoinciden()
+    {
+        QFETCH(MetodoFibonacci, metodo);
+        QFETCH(QList<int>, indices);
+        Corrida corrida(nullptr);
+        for (const int n : indices) {
+            CalculoFibonacci calculo;
+            QCOMPARE(calculo.calcula(metodo, n, corrida), Evalua(u"fib(%1)"_s.arg(n)));
+        }
+    }
+
+    void esfuerzo_data()
+    {
+        QTest::addColumn<MetodoFibonacci>("metodo");
+        QTest::addColumn<int>("n");
+        QTest::addColumn<qint64>("llamadas");
+        QTest::addColumn<qint64>("sumas");
+        QTest::addColumn<qint64>("productos");
+        // 2 F(n+1) - 1 calls, F(n+1) - 1 additions.
+        QTest::newRow("definition")
+            << MetodoFibonacci::Definicion << 20 << qint64{21891} << qint64{10945} << qint64{0};
+        QTest::newRow("iteration")
+            << MetodoFibonacci::Iteracion << 20 << qint64{0} << qint64{19} << qint64{0};
+        // 20 is 10100 in binary: five steps, two of them with one addition more.
+        QTest::newRow("doubling") << MetodoFibonacci::Duplicacion << 20 << qint64{0} << qint64{17}
+                                  << qint64{15};
+    }
+    void esfuerzo()
+    {
+        QFETCH(MetodoFibonacci, metodo);
+        QFETCH(int, n);
+        Corrida corrida(nullptr);
+        CalculoFibonacci calculo;
+        // The second computation counts from zero.
+        calculo.calcula(metodo, n, corrida);
+        calculo.calcula(metodo, n, corrida);
+        QTEST(calculo.esfuerzo().llamadas, "llamadas");
+        QTEST(calculo.esfuerzo().sumas, "sumas");
+        QTEST(calculo.esfuerzo().productos, "productos");
+    }
+
+    void unCalculoDetenido_data()
+    {
+        QTest::addColumn<MetodoFibonacci>("metodo");
+        QTest::newRow("definition") << MetodoFibonacci::Definicion;
+        QTest::newRow("iteration") << MetodoFibonacci::Iteracion;
+    }
+    void unCalculoDetenido()
+    {
+        QFETCH(MetodoFibonacci, metodo);
+        Corrida *esta = nullptr;
+        Corrida corrida([&esta] { esta->detener(); });
+        esta = &corrida;
+        CalculoFibonacci calculo;
+        QCOMPARE(calculo.calcula(metodo, cotaDe(metodo), corrida), QString());
+    }
+
+    void cocientes()
+    {
+        const QList<CocienteFibonacci> lista = cocientesFibonacci(MaximoDeCocientes);
+        QCOMPARE(lista.size(), MaximoDeCocientes);
+        const double phi = (1 + std::sqrt(5.0)) / 2;
+        for (const CocienteFibonacci &c : lista.first(12)) {
+            QCOMPARE(c.f, Evalua(u"fib(%1)"_s.arg(c.n)));
+            const double cociente = c.siguiente.toDouble() / c.f.toDouble();
+            QCOMPARE(c.porExceso(), cociente > phi);
+            QVERIFY(std::abs(std::pow(10.0, c.logError) - std::abs(cociente - phi)) < 1e-14);
+        }
+        QVERIFY(lista.at(4).cociente.startsWith(u"1,6"_s));
+        QCOMPARE(lista.last().siguiente, Evalua(u"fib(501)"_s));
+        QVERIFY(std::isfinite(lista.last().logError));
+    }
+
+    void numeroAureoConDecimales()
+    {
+        QCOMPARE(numeroAureo(20), u"1,61803398874989484820"_s);
+        QCOMPARE(numeroAureo(1000).size(), 1002);
+    }
+
+    void textoDePotencias_data()
+    {
+        QTest::addColumn<double>("valor");
+        QTest::addColumn<QString>("texto");
+        QTest::newRow("below one") << 4.73e-5 << u"4,73 · 10⁻⁵"_s;
+        QTest::newRow("rounds up to ten") << 9.999e-3 << u"1,00 · 10⁻²"_s;
+        QTest::newRow("power of ten") << 1e-12 << u"1,00 · 10⁻¹²"_s;
+    }
+    void textoDePotencias()
+    {
+        QFETCH(double, valor);
+        QTEST(textoDePotencia(std::log10(valor)), "texto");
+    }
+
+    /// What defines the representation: summands of the sequence, no neighbours, the right sum.
+    void zeckendorf_data()
+    {
+        QTest::addColumn<QString>("n");
+        for (const QString &n : {u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"88"_s, u"89"_s, u"90"_s,
+                                 u"100"_s, u"832039"_s, u"1"_s + QString(200, u'0')})
+            QTest::newRow(qPrintable(n.left(12))) << n;
+    }
+    void zeckendorf()
+    {
+        QFETCH(QString, n);
+        const QList<PasoZeckendorf> pasos = representacionZeckendorf(n);
+        QString resto = n;
+        int indice = std::numeric_limits<int>::max();
+        for (const PasoZeckendorf &paso : pasos) {
+            QCOMPARE(paso.resto, resto);
+            QCOMPARE(paso.sumando, Evalua(u"fib(%1)"_s.arg(paso.indice)));
+            QCOMPARE(paso.queda, Evalua(u"%1-%2"_s.arg(resto, paso.sumando)));
+            QVERIFY(paso.indice >= 2 && indice - paso.indice > 1);
+            indice = paso.indice;
+            resto = paso.queda;
+        }
+        QCOMPARE(resto, u"0"_s);
+    }
+
+    void codigo()
+    {
+        QCOMPARE(codigoZeckendorf(representacionZeckendorf(u"100"_s)), u"1000010100"_s);
+        QCOMPARE(codigoZeckendorf(representacionZeckendorf(u"1"_s)), u"1"_s);
+    }
+
+    void juiciosDeZeckendorf_data()
+    {
+        QTest::addColumn<QString>("respuesta");
+        QTest::addColumn<FalloZeckendorf>("fallo");
+        QTest::newRow("right") << u"89 + 8 + 3"_s << FalloZeckendorf::Ninguno;
+        QTest::newRow("any order") << u"3+89+8"_s << FalloZeckendorf::Ninguno;
+        QTest::newRow("neighbours") << u"55 + 34 + 8 + 3"_s << FalloZeckendorf::Consecutivos;
+        QTest::newRow("1 and 2 are neighbours")
+            << u"89 + 8 + 2 + 1"_s << FalloZeckendorf::Consecutivos;
+        QTest::newRow("twice") << u"89 + 8 + 1 + 1 + 1"_s << FalloZeckendorf::Consecutivos;
+        QTest::newRow("other sum") << u"89 + 8"_s << FalloZeckendorf::OtraSuma;
+        QTest::newRow("not Fibonacci") << u"90 + 10"_s << FalloZeckendorf::NoEsFibonacci;
+        QTest::newRow("zero") << u"89 + 8 + 3 + 0"_s << FalloZeckendorf::NoEsFibonacci;
+        QTest::newRow("negative") << u"144 + -44"_s << FalloZeckendorf::NoEsFibonacci;
+        QTest::newRow("empty summand") << u"89 + + 3"_s << FalloZeckendorf::NoEsSuma;
+        QTest::newRow("words") << u"ochenta"_s << FalloZeckendorf::NoEsSuma;
+        QTest::newRow("beyond 32 bits") << u"99999999999"_s << FalloZeckendorf::NoEsSuma;
+    }
+    void juiciosDeZeckendorf()
+    {
+        QFETCH(QString, respuesta);
+        QTEST(juzgaZeckendorf(respuesta, 100), "fallo");
+    }
+
+    void identidades_data()
+    {
+        QTest::addColumn<int>("m");
+        QTest::addColumn<int>("n");
+        QTest::newRow("least") << 1 << 1;
+        QTest::newRow("odd n") << 12 << 17;
+        QTest::newRow("even n") << 30 << 42;
+        QTest::newRow("a block of the sums") << 7 << 100;
+        QTest::newRow("largest") << MaximoDeIdentidades << MaximoDeIdentidades;
+    }
+    void identidades()
+    {
+        QFETCH(int, m);
+        QFETCH(int, n);
+        const QList<IdentidadProbada> lista = pruebaIdentidades(m, n);
+        QCOMPARE(lista.size(), 5);
+        for (const IdentidadProbada &identidad : lista) {
+            QVERIFY2(identidad.seCumple(), qPrintable(identidad.nombre));
+            QVERIFY(!identidad.izquierda.isEmpty() && identidad.izquierda != TextoError);
+        }
+    }
+
+    void cuestionDelMcd()
+    {
+        const Cuestion cuestion = cuestionMcd(48, 60);
+        QVERIFY(cuestion.enunciado.contains(u"F(48) y F(60)"_s));
+        QVERIFY(cuestion.juzga(u"144"_s).acertada);
+        QVERIFY(cuestion.juzga(u"fib(12)"_s).acertada);
+        const Juicio losIndices = cuestion.juzga(u"12"_s);
+        QVERIFY(!losIndices.acertada && losIndices.palabra.contains(u"índices"_s));
+        for (const QString &mala : {u"145"_s, u"12+"_s, u"1/0"_s, u"144/5"_s})
+            QVERIFY2(!cuestion.juzga(mala).acertada, qPrintable(mala));
+    }
+
+    void cuestionesSorteadas()
+    {
+        QSet<QString> vistas;
+        for (int i = 0; i < 50; ++i) {
+            vistas << sorteaZeckendorf().enunciado;
+            const Cuestion cuestion = sorteaMcd();
+            vistas << cuestion.enunciado;
+            static const QRegularExpression indice(u"F\\((\\d+)\\) y F\\((\\d+)\\)"_s);
+            const auto hallado = indice.match(cuestion.enunciado);
+            QVERIFY(hallado.hasMatch());
+            const auto respuesta =
+                u"mcd(fib(%1);fib(%2))"_s.arg(hallado.captured(1), hallado.captured(2));
+            QVERIFY2(cuestion.juzga(respuesta).acertada, qPrintable(cuestion.enunciado));
+        }
+        QVERIFY(vistas.size() > 20);
+    }
+};
+
+NUMORA_TEST_MAIN(TestFibonacci)
+#include "tst_Fibonacci.moc"

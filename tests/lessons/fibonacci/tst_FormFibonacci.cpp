@@ -1,0 +1,239 @@
+#include "bignum/ModBignum.h"
+#include "lessons/fibonacci/FormFibonacci.h"
+#include "lessons/fibonacci/Zeckendorf.h"
+#include "shell/CampoLargo.h"
+#include "shell/Grafica.h"
+#include "shell/ReproductorAVI.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTableView>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The lesson on the Fibonacci numbers, by its controls.
+class TestFormFibonacci : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Entorno::limpia();
+        m_ventana = std::make_unique<FormFibonacci>();
+    }
+    void cleanup() { m_ventana.reset(); }
+
+    void valores()
+    {
+        for (const QString &metodo : {u"optMetodo_0"_s, u"optMetodo_1"_s, u"optMetodo_2"_s}) {
+            control<QRadioButton>(m_ventana.get(), metodo)->click();
+            calcula(u"5*4"_s);
+            QCOMPARE(largo(u"txtValor"_s), u"6765"_s);
+        }
+        QCOMPARE(columna(u"FlexComparacion"_s, 1), u"Definición|Iteración|Duplicación"_s);
+        QCOMPARE(columna(u"FlexComparacion"_s, 3), u"10.945|19|17"_s);
+        pulsa(u"cmdBorrar"_s);
+        QCOMPARE(columna(u"FlexComparacion"_s, 1), QString());
+    }
+
+    void unIndiceFueraDeSitio_data()
+    {
+        QTest::addColumn<QString>("metodo");
+        QTest::addColumn<QString>("n");
+        QTest::addColumn<QString>("cota");
+        QTest::newRow("definition") << u"optMetodo_0"_s << u"51"_s << u"50"_s;
+        QTest::newRow("doubling") << u"optMetodo_2"_s << u"10^5+1"_s << u"100000"_s;
+        QTest::newRow("negative") << u"optMetodo_1"_s << u"-1"_s << QString();
+        QTest::newRow("fraction") << u"optMetodo_1"_s << u"5/2"_s << QString();
+        QTest::newRow("empty") << u"optMetodo_1"_s << QString() << QString();
+    }
+    void unIndiceFueraDeSitio()
+    {
+        QFETCH(QString, metodo);
+        QFETCH(QString, n);
+        QFETCH(QString, cota);
+        control<QRadioButton>(m_ventana.get(), metodo)->click();
+        calcula(n);
+        QVERIFY(texto(u"lblAviso"_s).startsWith(u"✗"_s));
+        QCOMPARE(columna(u"FlexComparacion"_s, 0), QString());
+        if (cota.isEmpty()) {
+            QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+            return;
+        }
+        const auto mensaje = Entorno::grabadora().unico();
+        QCOMPARE(mensaje.texto, u"El mayor número permitido es "_s + cota);
+        QCOMPARE(mensaje.titulo, u"Número demasiado grande"_s);
+    }
+
+    void seDetiene()
+    {
+        control<QRadioButton>(m_ventana.get(), u"optMetodo_0"_s)->click();
+        bool enMarcha = false;
+        QTimer::singleShot(60, m_ventana.get(), [&] {
+            enMarcha = m_ventana->corrida().enCurso();
+            QCOMPARE(boton(u"cmdCalcular"_s)->toolTip(), u"Detener cálculo"_s);
+            pulsa(u"cmdCalcular"_s);
+        });
+        calcula(u"50"_s);
+        QVERIFY(enMarcha);
+        QCOMPARE(boton(u"cmdCalcular"_s)->toolTip(), u"Calcular"_s);
+        QCOMPARE(columna(u"FlexComparacion"_s, 5), u"detenido"_s);
+        QCOMPARE(largo(u"txtValor"_s), QString());
+        calcula(u"10"_s);
+        QCOMPARE(largo(u"txtValor"_s), u"55"_s);
+    }
+
+    void seCierraDurante()
+    {
+        auto *ventana = new FormFibonacci;
+        QPointer<FormFibonacci> viva(ventana);
+        ventana->show();
+        control<QRadioButton>(ventana, u"optMetodo_0"_s)->click();
+        control<QLineEdit>(ventana, u"TxtN"_s)->setText(u"50"_s);
+        QTimer::singleShot(60, ventana, &QWidget::close);
+        control<QPushButton>(ventana, u"cmdCalcular"_s)->click();
+        QTRY_VERIFY(viva.isNull());
+    }
+
+    void numeroAureo()
+    {
+        QCOMPARE(filas(u"FlexCocientes"_s), 30);
+        escribe(u"TxtHasta"_s, u"12"_s);
+        pulsa(u"cmdAureo"_s);
+        QCOMPARE(filas(u"FlexCocientes"_s), 12);
+        QCOMPARE(celda(u"FlexCocientes"_s, 11, 2), u"233"_s);
+        QVERIFY(celda(u"FlexCocientes"_s, 11, 3).startsWith(u"1,61805555"_s));
+        QCOMPARE(celda(u"FlexCocientes"_s, 11, 4), u"+2,16 · 10⁻⁵"_s);
+        QCOMPARE(celda(u"FlexCocientes"_s, 0, 4), u"−6,18 · 10⁻¹"_s);
+        auto *grafica = control<Grafica>(m_ventana.get(), u"PicError"_s);
+        QCOMPARE(grafica->encuadre().visible(), QRectF(0, -5, 12, 5));
+        for (int i = 0; i < 12; ++i)
+            QTest::keyClick(grafica, Qt::Key_Right);
+        QCOMPARE(texto(u"lblPunto"_s), u"n = 12: error +2,16 · 10⁻⁵"_s);
+        escribe(u"TxtHasta"_s, u"501"_s);
+        pulsa(u"cmdAureo"_s);
+        QCOMPARE(Entorno::grabadora().unico().texto, u"El mayor número permitido es 500"_s);
+        QCOMPARE(filas(u"FlexCocientes"_s), 12);
+    }
+
+    void zeckendorfPasoAPaso()
+    {
+        pulsa(u"cmdSiguiente"_s);
+        QCOMPARE(largo(u"txtSuma"_s), u"100 = 89 + (11)"_s);
+        QCOMPARE(largo(u"txtCodigo"_s), QString());
+        pulsa(u"cmdTodo"_s);
+        pulsa(u"cmdSiguiente"_s);
+        QCOMPARE(columna(u"FlexPasos"_s, 1), u"11|6|4"_s);
+        QCOMPARE(columna(u"FlexPasos"_s, 3), u"11|3|0"_s);
+        QCOMPARE(largo(u"txtSuma"_s), u"100 = 89 + 8 + 3 = F(11) + F(6) + F(4)"_s);
+        QCOMPARE(largo(u"txtCodigo"_s), u"1000010100"_s);
+        // Another number takes the steps away.
+        escribe(u"TxtNumero"_s, u"2^5"_s);
+        QCOMPARE(filas(u"FlexPasos"_s), 0);
+        pulsa(u"cmdTodo"_s);
+        QCOMPARE(largo(u"txtSuma"_s), u"32 = 21 + 8 + 3 = F(8) + F(6) + F(4)"_s);
+        for (const QString &malo : {u"0"_s, u"-3"_s, u"1/2"_s, u"hola"_s, QString()}) {
+            escribe(u"TxtNumero"_s, malo);
+            pulsa(u"cmdSiguiente"_s);
+            QCOMPARE(filas(u"FlexPasos"_s), 0);
+        }
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        escribe(u"TxtNumero"_s, u"10^200+1"_s);
+        pulsa(u"cmdTodo"_s);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Número demasiado grande"_s);
+    }
+
+    void identidades()
+    {
+        pulsa(u"cmdProbar"_s);
+        QCOMPARE(columna(u"FlexIdentidades"_s, 3), u"1|8|832.040|6.764|10.803.704"_s);
+        QCOMPARE(columna(u"FlexIdentidades"_s, 2), u"✓ Sí|✓ Sí|✓ Sí|✓ Sí|✓ Sí"_s);
+        control<QTableView>(m_ventana.get(), u"FlexIdentidades"_s)->selectRow(2);
+        QCOMPARE(largo(u"txtIzquierda"_s), u"832040"_s);
+        QCOMPARE(largo(u"txtDerecha"_s), u"832040"_s);
+        escribe(u"TxtIndiceN"_s, u"0"_s);
+        pulsa(u"cmdProbar"_s);
+        QCOMPARE(m_ventana->focusWidget(), control<QLineEdit>(m_ventana.get(), u"TxtIndiceN"_s));
+        QCOMPARE(filas(u"FlexIdentidades"_s), 5);
+    }
+
+    void cuestiones()
+    {
+        const QString pregunta = texto(u"lblEnunciado_0"_s);
+        const QString n = QRegularExpression(u"\\d+"_s).match(pregunta).captured();
+        QStringList sumandos;
+        for (const PasoZeckendorf &paso : representacionZeckendorf(n))
+            sumandos << paso.sumando;
+        pulsa(u"cmdComprobar_0"_s);
+        QCOMPARE(texto(u"lblVeredicto_0"_s), QString());
+        escribe(u"txtRespuesta_0"_s, sumandos.join(u" + "_s));
+        pulsa(u"cmdComprobar_0"_s);
+        QVERIFY(texto(u"lblVeredicto_0"_s).startsWith(u"✓"_s));
+        QCOMPARE(control<ReproductorAVI>(m_ventana.get(), u"ccrpAniEureka"_s)->estado(),
+                 ReproductorAVI::Reproduciendo);
+        escribe(u"txtRespuesta_1"_s, u"1"_s);
+        QTest::keyClick(control<QLineEdit>(m_ventana.get(), u"txtRespuesta_1"_s), Qt::Key_Return);
+        QVERIFY(texto(u"lblVeredicto_1"_s).startsWith(u"✗"_s));
+        QVERIFY(texto(u"lblVeredicto_0"_s).startsWith(u"✓"_s));
+        bool esOtra = false;
+        for (int i = 0; i < 20 && !esOtra; ++i) {
+            pulsa(u"cmdOtra_0"_s);
+            esOtra = texto(u"lblEnunciado_0"_s) != pregunta;
+        }
+        QVERIFY(esOtra);
+        QCOMPARE(texto(u"lblVeredicto_0"_s), QString());
+        QCOMPARE(control<QLineEdit>(m_ventana.get(), u"txtRespuesta_0"_s)->text(), QString());
+    }
+
+private:
+    QPushButton *boton(const QString &nombre)
+    {
+        return control<QPushButton>(m_ventana.get(), nombre);
+    }
+    void pulsa(const QString &nombre) { boton(nombre)->click(); }
+    void escribe(const QString &campo, const QString &texto)
+    {
+        control<QLineEdit>(m_ventana.get(), campo)->setText(texto);
+    }
+    void calcula(const QString &n)
+    {
+        escribe(u"TxtN"_s, n);
+        pulsa(u"cmdCalcular"_s);
+    }
+
+    QString texto(const QString &rotulo) const
+    {
+        return control<QLabel>(m_ventana.get(), rotulo)->text();
+    }
+    QString largo(const QString &campo) const
+    {
+        return control<CampoLargo>(m_ventana.get(), campo)->text();
+    }
+    const QAbstractItemModel *modelo(const QString &rejilla) const
+    {
+        return control<QTableView>(m_ventana.get(), rejilla)->model();
+    }
+    int filas(const QString &rejilla) const { return modelo(rejilla)->rowCount(); }
+    QString celda(const QString &rejilla, int fila, int col) const
+    {
+        return modelo(rejilla)->index(fila, col).data().toString();
+    }
+    QString columna(const QString &rejilla, int col) const
+    {
+        QStringList textos;
+        for (int i = 0; i < filas(rejilla); ++i)
+            textos << celda(rejilla, i, col);
+        return textos.join(u'|');
+    }
+
+    std::unique_ptr<FormFibonacci> m_ventana;
+};
+
+NUMORA_TEST_MAIN(TestFormFibonacci)
+#include "tst_FormFibonacci.moc"

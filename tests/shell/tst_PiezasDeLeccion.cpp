@@ -1,0 +1,124 @@
+#include "shell/EnteroAcotado.h"
+#include "shell/ModeloFilas.h"
+#include "shell/PanelCuestiones.h"
+#include "shell/TextoDeDuracion.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QAbstractItemModelTester>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+Q_DECLARE_METATYPE(std::optional<std::int32_t>)
+
+/// Small pieces that lessons are built of.
+class TestPiezasDeLeccion : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { Entorno::limpia(); }
+
+    void enteros_data()
+    {
+        QTest::addColumn<QString>("expresion");
+        QTest::addColumn<std::optional<std::int32_t>>("valor");
+        QTest::addColumn<bool>("avisa");
+        const std::optional<std::int32_t> ninguno;
+        QTest::newRow("least") << u"3"_s << std::optional(3) << false;
+        QTest::newRow("largest") << u"10^2"_s << std::optional(100) << false;
+        QTest::newRow("blanks") << u" 4 + 4 "_s << std::optional(8) << false;
+        QTest::newRow("below") << u"2"_s << ninguno << false;
+        QTest::newRow("negative") << u"-50"_s << ninguno << false;
+        QTest::newRow("above") << u"101"_s << ninguno << true;
+        QTest::newRow("far above") << u"10^40"_s << ninguno << true;
+        QTest::newRow("fraction") << u"7/2"_s << ninguno << false;
+        QTest::newRow("fraction above") << u"201/2"_s << ninguno << true;
+        QTest::newRow("words") << u"tres"_s << ninguno << false;
+        QTest::newRow("empty") << QString() << ninguno << false;
+    }
+    void enteros()
+    {
+        QFETCH(QString, expresion);
+        QFETCH(std::optional<std::int32_t>, valor);
+        QFETCH(bool, avisa);
+        QCOMPARE(evaluaEnteroAcotado(expresion, 3, 100), valor);
+        QCOMPARE(Entorno::grabadora().mensajes.size(), avisa ? 1 : 0);
+        Entorno::grabadora().mensajes.clear();
+    }
+
+    void modeloDeFilas()
+    {
+        ModeloFilas modelo({u"a"_s, u"b"_s});
+        const QAbstractItemModelTester examen(
+            &modelo, QAbstractItemModelTester::FailureReportingMode::Fatal);
+        modelo.ponColumnasDeTexto({1});
+        modelo.ponFilas({{u"1"_s, u"uno"_s}, {u"2"_s}});
+        modelo.agrega({u"3"_s, u"tres"_s});
+        QCOMPARE(modelo.rowCount(), 3);
+        QCOMPARE(modelo.index(2, 1).data().toString(), u"tres"_s);
+        // A short row ends in empty cells.
+        QCOMPARE(modelo.index(1, 1).data().toString(), QString());
+        const auto lado = [&](int columna) {
+            return modelo.index(0, columna).data(Qt::TextAlignmentRole).toInt();
+        };
+        QVERIFY(lado(0) & Qt::AlignRight);
+        QVERIFY(lado(1) & Qt::AlignLeft);
+        modelo.ponFilas({});
+        QCOMPARE(modelo.rowCount(), 0);
+    }
+
+    void duraciones_data()
+    {
+        QTest::addColumn<double>("ns");
+        QTest::addColumn<QString>("texto");
+        QTest::newRow("ns") << 3.124 << u"3,12 ns"_s;
+        QTest::newRow("rounds up to the next unit") << 999.7 << u"1,00 µs"_s;
+        QTest::newRow("rounds up to two digits") << 9.996e3 << u"10,0 µs"_s;
+        QTest::newRow("ms") << 123.4e6 << u"123 ms"_s;
+        QTest::newRow("no unit beyond seconds") << 7200e9 << u"7200 s"_s;
+    }
+    void duraciones()
+    {
+        QFETCH(double, ns);
+        QString texto = textoDeDuracion(ns);
+        QTEST(texto.remove(u'.'), "texto");
+    }
+
+    /// Two sums, of which the second is drawn anew each time.
+    void cuestiones()
+    {
+        int sorteos = 0;
+        const auto pideSeis = [](int cuantas) {
+            return Cuestion{u"Seis, vez %1"_s.arg(cuantas), u"6"_s, [](const QString &respuesta) {
+                                return Juicio{respuesta == u"6", u"Palabra: "_s + respuesta};
+                            }};
+        };
+        PanelCuestiones panel([&] { return pideSeis(0); }, [&] { return pideSeis(++sorteos); },
+                              nullptr);
+        auto *respuesta = control<QLineEdit>(&panel, u"txtRespuesta_1"_s);
+        auto *veredicto = control<QLabel>(&panel, u"lblVeredicto_1"_s);
+        auto *comprobar = control<QPushButton>(&panel, u"cmdComprobar_1"_s);
+        respuesta->setText(u"   "_s);
+        comprobar->click();
+        QCOMPARE(veredicto->text(), QString());
+        respuesta->setText(u" 6 "_s);
+        comprobar->click();
+        QCOMPARE(veredicto->text(), u"✓ Palabra: 6"_s);
+        QCOMPARE(control<QLabel>(&panel, u"lblVeredicto_0"_s)->text(), QString());
+        // A verdict goes with the answer that it judged.
+        respuesta->setText(u"7"_s);
+        QCOMPARE(veredicto->text(), QString());
+        QTest::keyClick(respuesta, Qt::Key_Return);
+        QCOMPARE(veredicto->text(), u"✗ Palabra: 7"_s);
+        control<QPushButton>(&panel, u"cmdOtra_1"_s)->click();
+        QCOMPARE(control<QLabel>(&panel, u"lblEnunciado_1"_s)->text(), u"Seis, vez 2"_s);
+        QCOMPARE(control<QLabel>(&panel, u"lblEnunciado_0"_s)->text(), u"Seis, vez 0"_s);
+        QCOMPARE(respuesta->text() + veredicto->text(), QString());
+    }
+};
+
+NUMORA_TEST_MAIN(TestPiezasDeLeccion)
+#include "tst_PiezasDeLeccion.moc"
