@@ -2,7 +2,6 @@
 
 #include <QList>
 #include <QPointF>
-#include <QSizeF>
 
 /// A call in the tree of calls of F(n).
 struct Llamada
