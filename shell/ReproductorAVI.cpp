@@ -6,12 +6,28 @@
 
 #include <QDir>
 #include <QFontMetrics>
+#include <QMediaFormat>
 #include <QMediaPlayer>
 #include <QPainter>
 #include <QPainterPath>
 #include <QUrl>
 #include <QVideoFrame>
 #include <QVideoSink>
+
+namespace {
+
+/// Whether the machine can play the animations. A player of Qt 6.4 crashes where the plug-ins of
+/// the media machinery are missing; the container is not asked for, because Qt does not know its
+/// AVI.
+bool hayConQueReproducir()
+{
+    static const bool hay = QMediaFormat()
+                                .supportedVideoCodecs(QMediaFormat::Decode)
+                                .contains(QMediaFormat::VideoCodec::VP8);
+    return hay;
+}
+
+} // namespace
 
 ReproductorAVI::ReproductorAVI(QWidget *padre) : QWidget(padre)
 {
@@ -42,6 +58,11 @@ void ReproductorAVI::reproduce(Modo modo)
 
 void ReproductorAVI::arranca()
 {
+    if (!hayConQueReproducir()) {
+        if (m_modo == Modo::UnaVez)
+            QTimer::singleShot(0, this, &ReproductorAVI::fin);
+        return;
+    }
     preparaMotor();
     m_motor->setLoops(m_modo == Modo::Continuo ? QMediaPlayer::Infinite : QMediaPlayer::Once);
     const QString archivo = QDir::current().absoluteFilePath(rutaExistente(m_ruta));

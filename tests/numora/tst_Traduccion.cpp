@@ -38,7 +38,7 @@ QString contenidoDe(const QString &ruta)
 QStringList literales(const QString &codigo, qsizetype inicio)
 {
     static const QRegularExpression pieza(
-        u"u\"((?:[^\"\\\\]|\\\\.)*)\"((?:\\s*\"(?:[^\"\\\\]|\\\\.)*\")*)_s|'(?:[^'\\\\]|\\\\.)'|[()]"_s);
+        u"u\"((?:[^\"\\\\]|\\\\.)*)\"((?:\\s*u?\"(?:[^\"\\\\]|\\\\.)*\")*)_s|'(?:[^'\\\\]|\\\\.)'|[()]"_s);
     static const QRegularExpression resto(u"\"((?:[^\"\\\\]|\\\\.)*)\""_s);
     QStringList hallados;
     int hondura = 1;
@@ -87,7 +87,9 @@ QStringList textosDeVentana(QWidget *ventana)
     textos << textosDe(ventana);
     for (QObject *objeto : ventana->findChildren<QObject *>()) {
         // What Qt makes for itself comes with its own translations.
-        if (!objeto->objectName().startsWith(u"qt_"_s))
+        const bool deQt =
+            objeto->objectName().startsWith(u"qt_"_s) || qobject_cast<QTabBar *>(objeto->parent());
+        if (!deQt)
             textos << textosDe(objeto);
     }
     return textos;
@@ -129,8 +131,11 @@ private Q_SLOTS:
                         << lugar.captured(1).replace(u"&amp;"_s, u"&"_s).replace(u"&lt;"_s, u"<"_s);
                 else
                     textos = literales(codigo, lugar.capturedEnd());
-                if (lugar.captured() == u"agregaTema("_s)
-                    textos = textos.mid(0, 1);
+                // The other arguments of these calls are names.
+                if (lugar.captured().startsWith(u"agrega"_s))
+                    textos = QStringView(codigo).sliced(lugar.capturedEnd()).startsWith(u"u\"")
+                                 ? textos.first(1)
+                                 : QStringList();
                 for (const QString &texto : textos)
                     apuntaSiFalta(texto, faltan);
             }
