@@ -7,6 +7,7 @@
 #include "shell/Interlocutor.h"
 #include "shell/ModGlobal.h"
 #include "shell/Textos.h"
+#include "shell/Veredicto.h"
 #include "ui_FormPrimosCuestiones.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -89,17 +90,14 @@ void FormPrimosCuestiones::muestraJuicio(CuestionDosPrimos::Juicio juicio, qsize
 {
     using Juicio = CuestionDosPrimos::Juicio;
     const bool acertada = juicio == Juicio::Acertada;
-    QPalette paleta = ui->lblVeredicto->palette();
-    paleta.setColor(QPalette::WindowText, acertada ? Aspecto::exito() : Aspecto::error());
-    ui->lblVeredicto->setPalette(paleta);
-    if (acertada)
-        ui->lblVeredicto->setText(Traduce(u"✓ ¡Correcto!"_s));
-    else if (juicio == Juicio::Lejanos)
-        ui->lblVeredicto->setText(Traduce(u"✗ Los dos primos no tienen casi las mismas cifras."_s));
-    else
-        ui->lblVeredicto->setText(Traduce(u"✗ El producto tiene %1 dígitos binarios y no %2."_s)
-                                      .arg(digitos)
-                                      .arg(m_cuestion.digitosPedidos()));
+    QString texto = Traduce(u"¡Correcto!"_s);
+    if (juicio == Juicio::Lejanos)
+        texto = Traduce(u"Los dos primos no tienen casi las mismas cifras."_s);
+    else if (!acertada)
+        texto = Traduce(u"El producto tiene %1 dígitos binarios y no %2."_s)
+                    .arg(digitos)
+                    .arg(m_cuestion.digitosPedidos());
+    muestraVeredicto(ui->lblVeredicto, acertada, texto);
     ui->ccrpAniEureka->carga(acertada ? Sesión().AVIEureka() : Sesión().AVIError(),
                              acertada ? u"EUREKA"_s : u"ERROR"_s);
     ui->ccrpAniEureka->reproduce(ReproductorAVI::Modo::UnaVez);

@@ -6,6 +6,7 @@
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
 #include "shell/Textos.h"
+#include "shell/Veredicto.h"
 #include "ui_FormUnidadesCuestiones.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -85,13 +86,9 @@ void FormUnidadesCuestiones::txtRespuesta_Change(Mitad &mitad)
 
 void FormUnidadesCuestiones::ponVeredicto(Mitad &mitad, const CuestionUnidades::Juicio &juicio)
 {
-    QPalette paleta = mitad.lblVeredicto->palette();
-    paleta.setColor(QPalette::WindowText, juicio.acierto ? Aspecto::exito() : Aspecto::error());
-    mitad.lblVeredicto->setPalette(paleta);
-    const QString veredicto =
-        juicio.acierto ? Traduce(u"✓ ¡Correcto!"_s) : Traduce(u"✗ No es correcto."_s);
-    mitad.lblVeredicto->setText(juicio.motivo.isEmpty() ? veredicto
-                                                        : veredicto + u' ' + juicio.motivo);
+    const QString veredicto = Traduce(juicio.acierto ? u"¡Correcto!"_s : u"No es correcto."_s);
+    muestraVeredicto(mitad.lblVeredicto, juicio.acierto,
+                     (veredicto + u' ' + juicio.motivo).trimmed());
     mitad.ccrpAnimation->carga(juicio.acierto ? Sesión().AVIEureka() : Sesión().AVIError(),
                                juicio.acierto ? u"EUREKA"_s : u"ERROR"_s);
     mitad.ccrpAnimation->reproduce(ReproductorAVI::Modo::UnaVez);
