@@ -12,9 +12,11 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSettings>
@@ -50,7 +52,12 @@ public:
         return {};
     }
     bool pideImpresora(QWidget *, QPrinter &, const QString &) override { return false; }
-    QString pideCarpeta(QWidget *, const QString &, const QString &) override { return {}; }
+    /// A folder beside the copy of the working folder, for what students share.
+    QString pideCarpeta(QWidget *, const QString &, const QString &) override
+    {
+        QDir().mkpath(u"../Compartida"_s);
+        return QDir(u"../Compartida"_s).absolutePath();
+    }
     bool confirma(QWidget *, const QString &, const QString &) override { return false; }
     void abre(const QString &) override {}
     bool lanzaAlguno(const QList<QStringList> &) override { return true; }
@@ -96,11 +103,7 @@ private:
         FormLeccion *leccion = m_principal.abreLeccion(escena.fila);
         if (!leccion)
             return;
-        auto *temas = leccion->findChild<QTabBar *>(u"tsTema"_s);
-        for (int i = 0; i < temas->count(); ++i) {
-            if (temas->tabData(i).toString() == escena.tema)
-                temas->setCurrentIndex(i);
-        }
+        abreTema(*leccion->findChild<QTabBar *>(u"tsTema"_s), escena.tema);
         espera(50ms);
         if (escena.durante) {
             QTimer::singleShot(escena.tras, leccion, [this, leccion, &escena] {
@@ -117,10 +120,26 @@ private:
         espera(20ms);
     }
 
+    static void abreTema(QTabBar &temas, const QString &clave)
+    {
+        for (int i = 0; i < temas.count(); ++i) {
+            if (temas.tabData(i).toString() == clave)
+                temas.setCurrentIndex(i);
+        }
+    }
+
     static void da(const Paso &paso, const QWidget &ventana)
     {
         auto *control = ventana.findChild<QWidget *>(paso.control);
-        if (auto *campo = qobject_cast<QLineEdit *>(control))
+        if (paso.valor.endsWith(u'\n')) {
+            da({paso.control, paso.valor.chopped(1)}, ventana);
+            QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(control, &intro);
+        } else if (auto *tira = qobject_cast<QTabBar *>(control))
+            abreTema(*tira, paso.valor);
+        else if (auto *lista = qobject_cast<QComboBox *>(control))
+            lista->setCurrentText(paso.valor);
+        else if (auto *campo = qobject_cast<QLineEdit *>(control))
             campo->setText(paso.valor);
         else if (auto *texto = qobject_cast<QPlainTextEdit *>(control))
             texto->setPlainText(paso.valor);
@@ -152,13 +171,24 @@ private:
     bool m_bien = true;
 };
 
+/// The animations and pages of the working folder, in a folder that may be written.
+void copiaCarpeta(const QString &origen, const QString &destino)
+{
+    for (const QString &parte : {u"ClipArt"_s, u"Doc"_s, u"Doc/figuras"_s}) {
+        const QDir carpeta(origen + u'/' + parte);
+        QDir().mkpath(destino + u'/' + parte);
+        for (const QString &nombre : carpeta.entryList(QDir::Files))
+            QFile::copy(carpeta.filePath(nombre), destino + u'/' + parte + u'/' + nombre);
+    }
+}
+
 } // namespace
 
 int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
 {
-    // Windows that are closed note their sizes: not among the settings of the user.
-    const QTemporaryDir ajustes;
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ajustes.path());
+    // Windows note their sizes, and lessons write keys and messages: not among the user's files.
+    const QTemporaryDir deUsarYTirar;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, deUsarYTirar.path());
     QTextStream errores(stderr);
     if (!ExisteFichero(Sesión().carpeta() + u"\\ClipArt\\escudo.avi"_s)) {
         errores << u"No se encuentra la carpeta de trabajo."_s << Qt::endl;
@@ -171,7 +201,10 @@ int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
     }
     preparaAplicacion();
     Aspecto::aplica(opciones.oscuro ? Aspecto::Tema::Oscuro : Aspecto::Tema::Claro);
-    QDir::setCurrent(rutaExistente(Sesión().carpeta()));
+    const QString copia = deUsarYTirar.filePath(u"Numora"_s);
+    copiaCarpeta(rutaExistente(Sesión().carpeta()), copia);
+    Sesión().ponCarpeta(copia);
+    QDir::setCurrent(copia);
     ImgSiguiente() = Icono(u"SIGUIENTE"_s);
     ImgStop() = Icono(u"STOP"_s);
     IniciaBignum(Sesión().Precisión());

@@ -22,7 +22,8 @@ struct Paso
 {
     QString control; ///< objectName of a control of the window
     /// The text to write; in a grid "row,column:text", or "row,column" to make that cell the
-    /// current one, both counted from 0; the index of a tab; or empty for a click.
+    /// current one, both counted from 0; the index of a tab; the key of a topic; or empty
+    /// for a click. A line break at its end presses Enter.
     QString valor;
 };
 
