@@ -6,7 +6,7 @@
 
 class QPainter;
 
-/// Draws the parts of a plot, each over the ones before, in the colours of the program's look.
+/// Draws a plot piece by piece, each over the ones before, in the colours of the program's look.
 class PintorDeGrafica
 {
 public:

@@ -1,7 +1,7 @@
 #include "lessons/rsa/FormRSACodificacion.h"
 
 #include "lessons/rsa/BotonDeParada.h"
-#include "lessons/rsa/PintorDeBloques.h"
+#include "lessons/rsa/FormRSABloques.h"
 #include "lessons/rsa/TextoEnBloques.h"
 #include "shell/Evento.h"
 #include "shell/FormLeccion.h"
@@ -30,7 +30,7 @@ FormRSACodificacion::FormRSACodificacion(ClsRSA &clave, FormLeccion *leccion)
     ui->cmdDescodificar->setIcon(Icono(u"DESCODIFICAR"_s));
     ui->FlexTextoCodificado->setModel(&m_bloques);
     ui->FlexTextoCodificado->ponTextoVacio(Traduce(u"Aquí aparece un número por cada paquete"_s));
-    ui->FlexTextoCodificado->setItemDelegate(new PintorDeBloques(ui->FlexTextoCodificado));
+    ui->FlexTextoCodificado->setItemDelegate(new FormRSABloques(ui->FlexTextoCodificado));
     QHeaderView *columna = ui->FlexTextoCodificado->horizontalHeader();
     columna->setSectionResizeMode(QHeaderView::Stretch);
     ui->FlexTextoCodificado->verticalHeader()->setMinimumSectionSize(1);
@@ -57,7 +57,7 @@ void FormRSACodificacion::ajustaFilas()
         cifras = std::max(cifras, fila.constFirst().size());
     const Rejilla *rejilla = ui->FlexTextoCodificado;
     rejilla->verticalHeader()->setDefaultSectionSize(
-        PintorDeBloques::alto(rejilla->fontMetrics(), cifras, rejilla->columnWidth(0)));
+        FormRSABloques::alto(rejilla->fontMetrics(), cifras, rejilla->columnWidth(0)));
 }
 
 void FormRSACodificacion::cmdCodificar_Click()

@@ -1,7 +1,7 @@
 #include "lessons/units/FormUnidadesCayley.h"
 
-#include "lessons/units/CasillasCuadradas.h"
 #include "lessons/units/EntradaEntera.h"
+#include "lessons/units/FormUnidadesCasillas.h"
 #include "lessons/units/ModeloCayley.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
@@ -27,7 +27,7 @@ FormUnidadesCayley::FormUnidadesCayley(QWidget *leccion)
     ui->FlexCayley->verticalHeader()->show();
     ui->FlexCayley->ponRotulosDeFilaEnCopia(true);
     ui->FlexCayley->ponTextoVacio(Traduce(u"Escribe un módulo de 1 a 60 y pulsa «Mostrar»."_s));
-    new CasillasCuadradas(ui->FlexCayley);
+    new FormUnidadesCasillas(ui->FlexCayley);
 
     conecta(ui->cmdCayley, &QPushButton::clicked, this, &FormUnidadesCayley::cmdCayley_Click);
     conecta(ui->txtNCayley, &QLineEdit::returnPressed, this,

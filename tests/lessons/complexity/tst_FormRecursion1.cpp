@@ -1,5 +1,5 @@
-#include "lessons/complexity/DibujoArbol.h"
 #include "lessons/complexity/FormRecursion1.h"
+#include "lessons/complexity/FormRecursion1DibujoArbol.h"
 #include "shell/Grafica.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -172,7 +172,7 @@ private Q_SLOTS:
     /// The drawing shows what has been done: pale before, and the colours of both kinds after.
     void elArbolSeDibuja()
     {
-        DibujoArbol dibujo;
+        FormRecursion1DibujoArbol dibujo;
         dibujo.resize(400, 300);
         dibujo.ponArbol(ArbolDeLlamadas(4, false));
         const QImage palido = dibujo.grab().toImage();

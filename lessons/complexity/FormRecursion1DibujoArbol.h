@@ -6,12 +6,12 @@
 
 /// A drawing of a tree of calls, of which only the first ones may have been made: the others stand
 /// pale.
-class DibujoArbol : public QWidget
+class FormRecursion1DibujoArbol : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit DibujoArbol(QWidget *padre = nullptr);
+    explicit FormRecursion1DibujoArbol(QWidget *padre = nullptr);
 
     void ponArbol(const ArbolDeLlamadas &arbol);
     /// How many calls have been made; the last of them stands out.

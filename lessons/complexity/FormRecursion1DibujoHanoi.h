@@ -5,12 +5,12 @@
 class TorresHanoi;
 
 /// A drawing of the Towers of Hanoi as they stand.
-class DibujoHanoi : public QWidget
+class FormRecursion1DibujoHanoi : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit DibujoHanoi(QWidget *padre = nullptr);
+    explicit FormRecursion1DibujoHanoi(QWidget *padre = nullptr);
 
     /// The towers to draw, which outlive the drawing or are replaced; call again when they change.
     void muestra(const TorresHanoi *torres);

@@ -1,4 +1,4 @@
-#include "lessons/units/CasillasCuadradas.h"
+#include "lessons/units/FormUnidadesCasillas.h"
 
 #include <QAbstractItemModel>
 #include <QEvent>
@@ -8,7 +8,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-CasillasCuadradas::CasillasCuadradas(QTableView *rejilla) : QObject(rejilla), m_rejilla(rejilla)
+FormUnidadesCasillas::FormUnidadesCasillas(QTableView *rejilla)
+    : QObject(rejilla), m_rejilla(rejilla)
 {
     for (QHeaderView *cabecera : {rejilla->horizontalHeader(), rejilla->verticalHeader()}) {
         cabecera->setMinimumSectionSize(1);
@@ -22,14 +23,14 @@ CasillasCuadradas::CasillasCuadradas(QTableView *rejilla) : QObject(rejilla), m_
         Qt::QueuedConnection);
 }
 
-bool CasillasCuadradas::eventFilter(QObject *objeto, QEvent *suceso)
+bool FormUnidadesCasillas::eventFilter(QObject *objeto, QEvent *suceso)
 {
     if (suceso->type() == QEvent::Resize || suceso->type() == QEvent::FontChange)
         ajusta();
     return QObject::eventFilter(objeto, suceso);
 }
 
-void CasillasCuadradas::ajusta()
+void FormUnidadesCasillas::ajusta()
 {
     const int lados = m_rejilla->model()->rowCount();
     if (lados == 0)

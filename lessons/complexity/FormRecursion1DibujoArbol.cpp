@@ -1,4 +1,4 @@
-#include "lessons/complexity/DibujoArbol.h"
+#include "lessons/complexity/FormRecursion1DibujoArbol.h"
 
 #include "shell/Aspecto.h"
 
@@ -11,9 +11,9 @@ constexpr qreal OpacidadPorHacer = 0.22;
 
 } // namespace
 
-DibujoArbol::DibujoArbol(QWidget *padre) : QWidget(padre) {}
+FormRecursion1DibujoArbol::FormRecursion1DibujoArbol(QWidget *padre) : QWidget(padre) {}
 
-void DibujoArbol::ponArbol(const ArbolDeLlamadas &arbol)
+void FormRecursion1DibujoArbol::ponArbol(const ArbolDeLlamadas &arbol)
 {
     m_arbol = arbol;
     m_hechas = 0;
@@ -21,32 +21,32 @@ void DibujoArbol::ponArbol(const ArbolDeLlamadas &arbol)
     update();
 }
 
-void DibujoArbol::ponHechas(int hechas)
+void FormRecursion1DibujoArbol::ponHechas(int hechas)
 {
     m_hechas = hechas;
     update();
 }
 
-QSize DibujoArbol::minimumSizeHint() const
+QSize FormRecursion1DibujoArbol::minimumSizeHint() const
 {
     const int linea = fontMetrics().height();
     return {m_arbol.columnas() * linea * 5 / 4, m_arbol.filas() * linea * 2};
 }
 
-QPointF DibujoArbol::lugar(const Llamada &llamada) const
+QPointF FormRecursion1DibujoArbol::lugar(const Llamada &llamada) const
 {
     return {(llamada.sitio.x() + 0.5) * width() / m_arbol.columnas(),
             (llamada.sitio.y() + 0.5) * height() / m_arbol.filas()};
 }
 
-qreal DibujoArbol::radio() const
+qreal FormRecursion1DibujoArbol::radio() const
 {
     const qreal deLetra = fontMetrics().height() * 0.95;
     const qreal deColumna = 0.48 * width() / m_arbol.columnas();
     return std::min({deLetra, deColumna, 0.36 * height() / m_arbol.filas()});
 }
 
-void DibujoArbol::paintEvent(QPaintEvent *)
+void FormRecursion1DibujoArbol::paintEvent(QPaintEvent *)
 {
     QPainter pintor(this);
     pintor.setRenderHint(QPainter::Antialiasing);
@@ -61,7 +61,7 @@ void DibujoArbol::paintEvent(QPaintEvent *)
 }
 
 /// A repeated call has a dashed border besides its colour.
-void DibujoArbol::pintaLlamada(QPainter &pintor, int indice) const
+void FormRecursion1DibujoArbol::pintaLlamada(QPainter &pintor, int indice) const
 {
     const Llamada &llamada = m_arbol.llamadas().at(indice);
     const QColor color = llamada.repetida ? Aspecto::error() : Aspecto::acento();

@@ -1,4 +1,4 @@
-#include "lessons/complexity/DibujoHanoi.h"
+#include "lessons/complexity/FormRecursion1DibujoHanoi.h"
 
 #include "lessons/complexity/GeometriaHanoi.h"
 #include "lessons/complexity/TorresHanoi.h"
@@ -15,29 +15,29 @@ QColor colorDe(int disco, int discos)
 
 } // namespace
 
-DibujoHanoi::DibujoHanoi(QWidget *padre) : QWidget(padre)
+FormRecursion1DibujoHanoi::FormRecursion1DibujoHanoi(QWidget *padre) : QWidget(padre)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void DibujoHanoi::muestra(const TorresHanoi *torres)
+void FormRecursion1DibujoHanoi::muestra(const TorresHanoi *torres)
 {
     m_torres = torres;
     update();
 }
 
-QSize DibujoHanoi::sizeHint() const
+QSize FormRecursion1DibujoHanoi::sizeHint() const
 {
     return minimumSizeHint() * 2;
 }
 
-QSize DibujoHanoi::minimumSizeHint() const
+QSize FormRecursion1DibujoHanoi::minimumSizeHint() const
 {
     const int linea = fontMetrics().height();
     return {linea * 18, linea * 9};
 }
 
-void DibujoHanoi::paintEvent(QPaintEvent *)
+void FormRecursion1DibujoHanoi::paintEvent(QPaintEvent *)
 {
     if (!m_torres)
         return;

@@ -1,4 +1,4 @@
-#include "lessons/rsa/PintorDeBloques.h"
+#include "lessons/rsa/FormRSABloques.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -11,8 +11,8 @@ constexpr int Borde = 6;
 
 } // namespace
 
-void PintorDeBloques::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
-                            const QModelIndex &indice) const
+void FormRSABloques::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
+                           const QModelIndex &indice) const
 {
     QStyleOptionViewItem celda = opcion;
     initStyleOption(&celda, indice);
@@ -28,7 +28,7 @@ void PintorDeBloques::paint(QPainter *pintor, const QStyleOptionViewItem &opcion
     pintor->drawText(QRectF(celda.rect.adjusted(Borde, 0, -Borde, 0)), numero, forma);
 }
 
-int PintorDeBloques::alto(const QFontMetrics &letra, qsizetype cifras, int ancho)
+int FormRSABloques::alto(const QFontMetrics &letra, qsizetype cifras, int ancho)
 {
     const int caben = std::max(1, (ancho - 2 * Borde) / letra.horizontalAdvance(u'0'));
     const int lineas = static_cast<int>((cifras + caben - 1) / caben);

@@ -3,7 +3,7 @@
 #include <QStyledItemDelegate>
 
 /// Paints the encrypted blocks of a grid of one column, wrapping numbers that are wider than it.
-class PintorDeBloques : public QStyledItemDelegate
+class FormRSABloques : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
