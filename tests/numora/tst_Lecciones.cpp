@@ -67,16 +67,33 @@ private:
     {
         QTest::addColumn<int>("fila");
         QTest::addColumn<int>("tema");
+        QTest::addColumn<int>("pestana");
         for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < m_contenido.lecciones.size();
              ++fila) {
             const Leccion &leccion = leccionDe(fila);
             if (!leccion.crea)
                 continue;
             const std::unique_ptr<FormLeccion> ventana(leccion.crea(nullptr));
-            const auto *tira = ventana->findChild<QTabBar *>(u"tsTema"_s);
-            for (int i = 0; i < (tira ? tira->count() : 1); ++i)
-                QTest::addRow("%s, topic %d", qPrintable(leccion.rotulo), i) << fila << i;
+            auto *tira = ventana->findChild<QTabBar *>(u"tsTema"_s);
+            for (int i = 0; i < (tira ? tira->count() : 1); ++i) {
+                if (tira)
+                    tira->setCurrentIndex(i);
+                const QTabWidget *pestanas = pestanasDe(*ventana);
+                for (int j = 0; j < (pestanas ? pestanas->count() : 1); ++j)
+                    QTest::addRow("%s, topic %d, tab %d", qPrintable(leccion.rotulo), i, j)
+                        << fila << i << j;
+            }
         }
+    }
+
+    /// The tabs within the topic in front; null when it has none.
+    static QTabWidget *pestanasDe(const FormLeccion &ventana)
+    {
+        for (QTabWidget *pestanas : ventana.findChildren<QTabWidget *>()) {
+            if (pestanas->isVisibleTo(&ventana))
+                return pestanas;
+        }
+        return nullptr;
     }
 
     const Leccion &leccionDe(int fila) const
@@ -88,10 +105,13 @@ private:
     {
         const int fila = *static_cast<int *>(QTest::qData("fila", qMetaTypeId<int>()));
         const int tema = *static_cast<int *>(QTest::qData("tema", qMetaTypeId<int>()));
+        const int pestana = *static_cast<int *>(QTest::qData("pestana", qMetaTypeId<int>()));
         m_leccion.reset(leccionDe(fila).crea(nullptr));
         auto *tira = m_leccion->findChild<QTabBar *>(u"tsTema"_s);
         if (tira)
             tira->setCurrentIndex(tema);
+        if (QTabWidget *pestanas = pestanasDe(*m_leccion))
+            pestanas->setCurrentIndex(pestana);
         m_leccion->show();
         return m_leccion.get();
     }
