@@ -6,6 +6,7 @@
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
 #include "shell/Textos.h"
+#include "shell/Veredicto.h"
 #include "ui_FormEuclidesCuestiones.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -58,5 +59,5 @@ void FormEuclidesCuestiones::muestraVeredicto(bool acierto)
     ui->ccrpAnimation->reproduce(ReproductorAVI::Modo::UnaVez);
     const QString veredicto = Traduce(acierto ? u"Correcto"_s : u"No es correcto"_s);
     ui->ccrpAnimation->setAccessibleName(veredicto);
-    ui->lblVeredicto->setText(veredicto);
+    ::muestraVeredicto(ui->lblVeredicto, acierto, veredicto);
 }

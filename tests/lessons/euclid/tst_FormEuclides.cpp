@@ -231,7 +231,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("b");
         QTest::addColumn<QString>("n");
         QTest::addColumn<QString>("veredicto");
-        const QString bien = u"Correcto"_s, mal = u"No es correcto"_s;
+        const QString bien = u"✓ Correcto"_s, mal = u"✗ No es correcto"_s;
         QTest::newRow("seven") << u"34"_s << u"21"_s << u"7"_s << bien;
         QTest::newRow("the other way round") << u"21"_s << u"34"_s << u"7"_s << mal;
         QTest::newRow("44") << u"1836311903"_s << u"1134903170"_s << u"50-6"_s << bien;
