@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOptionButton>
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,6 +37,21 @@ public:
         if (consejo == SH_DialogButtonBox_ButtonsHaveIcons)
             return 0;
         return QProxyStyle::styleHint(consejo, opcion, control, vuelta);
+    }
+
+    void drawPrimitive(PrimitiveElement elemento, const QStyleOption *opcion, QPainter *pintor,
+                       const QWidget *control) const override
+    {
+        // Fusion outlines its marks darker than the window, which nobody sees on a dark one.
+        const bool marca = elemento == PE_IndicatorRadioButton || elemento == PE_IndicatorCheckBox;
+        const auto *boton = qstyleoption_cast<const QStyleOptionButton *>(opcion);
+        if (!marca || !boton || !Aspecto::esOscuro()) {
+            QProxyStyle::drawPrimitive(elemento, opcion, pintor, control);
+            return;
+        }
+        QStyleOptionButton aclarada(*boton);
+        aclarada.palette.setColor(QPalette::Window, Aspecto::atenuado());
+        QProxyStyle::drawPrimitive(elemento, &aclarada, pintor, control);
     }
 };
 
