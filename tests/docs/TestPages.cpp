@@ -1,20 +1,56 @@
 #include "FigureChecker.h"
 #include "PageChecker.h"
+#include "TranslationChecker.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 const QString kFolder = QStringLiteral(NUMORA_DOC_DIR);
-const QString kFigures = kFolder + u"/figuras"_s;
 
-QStringList figures()
+/// The folders of translated pages, named after their languages.
+QStringList translations()
 {
-    return QDir(kFigures).entryList({u"*.svg"_s}, QDir::Files, QDir::Name);
+    QStringList folders = QDir(kFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    folders.removeOne(u"figuras"_s);
+    return folders;
+}
+
+/// The folders of pages, relative to the one of the Spanish pages, which is ".".
+QStringList folders()
+{
+    return QStringList{u"."_s} + translations();
+}
+
+PageChecker checkerOf(const QString &folder)
+{
+    if (folder == u".")
+        return PageChecker(kFolder);
+    return PageChecker(kFolder + u'/' + folder, languageOfFolder(folder), u"../estilo.css"_s);
+}
+
+QStringList figuresOf(const QString &folder)
+{
+    return QDir(kFolder + u'/' + folder + u"/figuras"_s)
+        .entryList({u"*.svg"_s}, QDir::Files, QDir::Name);
+}
+
+/// One row for each file of each folder, named after both.
+void addRows(const std::function<QStringList(const QString &folder)> &filesOf)
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("name");
+    for (const QString &folder : folders()) {
+        const QStringList names = filesOf(folder);
+        QVERIFY(!names.isEmpty());
+        for (const QString &name : names)
+            QTest::newRow(qPrintable(folder + u'/' + name)) << folder << name;
+    }
 }
 
 void write(const QString &path, const QString &text)
@@ -52,54 +88,78 @@ private Q_SLOTS:
     void pagesAreFit();
     void figuresAreFit_data();
     void figuresAreFit();
+    void everyFigureIsShown_data();
     void everyFigureIsShown();
+    void translationsAreComplete_data();
+    void translationsAreComplete();
     void pageFaultsAreFound_data();
     void pageFaultsAreFound();
     void figureFaultsAreFound_data();
     void figureFaultsAreFound();
+    void pagesOfAnotherLanguage();
+    void translationFaultsAreFound_data();
+    void translationFaultsAreFound();
 };
 
 void TestPages::pagesAreFit_data()
 {
-    QTest::addColumn<QString>("name");
-    const QStringList pages = PageChecker(kFolder).pages();
-    QVERIFY(!pages.isEmpty());
-    for (const QString &name : pages)
-        QTest::newRow(qPrintable(name)) << name;
+    addRows([](const QString &folder) { return checkerOf(folder).pages(); });
 }
 
 void TestPages::pagesAreFit()
 {
+    QFETCH(QString, folder);
     QFETCH(QString, name);
-    const QStringList faults = PageChecker(kFolder).faults(name);
+    const QStringList faults = checkerOf(folder).faults(name);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
 void TestPages::figuresAreFit_data()
 {
-    QTest::addColumn<QString>("name");
-    const QStringList names = figures();
-    QVERIFY(!names.isEmpty());
-    for (const QString &name : names)
-        QTest::newRow(qPrintable(name)) << name;
+    addRows(figuresOf);
 }
 
 void TestPages::figuresAreFit()
 {
+    QFETCH(QString, folder);
     QFETCH(QString, name);
-    const QStringList faults = checkFigure(kFigures + u'/' + name).faults;
+    const QString path = kFolder + u'/' + folder + u"/figuras/"_s + name;
+    const QStringList faults = checkFigure(path).faults;
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
+void TestPages::everyFigureIsShown_data()
+{
+    QTest::addColumn<QString>("folder");
+    for (const QString &folder : folders())
+        QTest::newRow(qPrintable(folder)) << folder;
 }
 
 void TestPages::everyFigureIsShown()
 {
-    PageChecker checker(kFolder);
+    QFETCH(QString, folder);
+    PageChecker checker = checkerOf(folder);
     const QStringList pages = checker.pages();
     for (const QString &name : pages)
         checker.faults(name);
-    const QStringList names = figures();
+    const QStringList names = figuresOf(folder);
     for (const QString &name : names)
         QVERIFY2(checker.picturesShown().contains(u"figuras/"_s + name), qPrintable(name));
+}
+
+void TestPages::translationsAreComplete_data()
+{
+    QTest::addColumn<QString>("folder");
+    for (const QString &folder : translations())
+        QTest::newRow(qPrintable(folder)) << folder;
+}
+
+void TestPages::translationsAreComplete()
+{
+    QFETCH(QString, folder);
+    QVERIFY2(!languageOfFolder(folder).isEmpty(), qPrintable(folder));
+    const QStringList faults = translationFaults(kFolder, kFolder + u'/' + folder);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
 void TestPages::pageFaultsAreFound_data()
@@ -193,6 +253,66 @@ void TestPages::figureFaultsAreFound()
     const QStringList faults = checkFigure(path).faults;
     QCOMPARE(faults.size(), fault.isEmpty() ? 0 : 1);
     QVERIFY2(faults.join(u' ').contains(fault), qPrintable(faults.join(u' ')));
+}
+
+void TestPages::pagesOfAnotherLanguage()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(u"English"_s));
+    write(folder.filePath(u"estilo.css"_s), u".caja { color: red; }"_s);
+    const QString spanish = page(kHead, u"<p class=\"caja\">x</p>"_s);
+    QString english = spanish;
+    english.replace(u"\"es\""_s, u"\"en\""_s).replace(u"estilo.css"_s, u"../estilo.css"_s);
+    write(folder.filePath(u"English/hecha.html"_s), english);
+    write(folder.filePath(u"English/copiada.html"_s), spanish);
+
+    QCOMPARE(languageOfFolder(u"English"_s), u"en"_s);
+    QCOMPARE(languageOfFolder(u"Inglés"_s), QString());
+    PageChecker checker(folder.filePath(u"English"_s), u"en"_s, u"../estilo.css"_s);
+    QCOMPARE(checker.faults(u"hecha.html"_s), QStringList());
+    QCOMPARE(checker.faults(u"copiada.html"_s).size(), 2); // the language and the style sheet
+}
+
+void TestPages::translationFaultsAreFound_data()
+{
+    QTest::addColumn<QString>("file"); // in the folder of the translation
+    QTest::addColumn<QString>("text"); // what it holds, null to leave the file out
+    QTest::addColumn<QString>("fault");
+    const auto row = [](const char *name, const QString &file, const QString &text,
+                        const QString &fault) { QTest::newRow(name) << file << text << fault; };
+    const QString words = u"<text x=\"%1\" font-family=\"sans-serif\">%2</text><rect x=\"%3\"/>"_s;
+    row("fit", u"p.html"_s, page(kHead, u"<h2 id=\"b\">x</h2>"_s), QString());
+    row("page left out", u"p.html"_s, QString(), u"p.html: not translated"_s);
+    row("page of its own", u"q.html"_s, page(kHead, QString()), u"q.html: translates nothing"_s);
+    row("place left out", u"p.html"_s, page(kHead, QString()), u"p.html: no place #b"_s);
+    row("figure left out", u"figuras/f.svg"_s, QString(), u"f.svg: not translated"_s);
+    row("other words", u"figuras/f.svg"_s, svg(words.arg(u"9"_s, u"two"_s, u"1"_s)), QString());
+    row("other drawing", u"figuras/f.svg"_s, svg(words.arg(u"1"_s, u"two"_s, u"2"_s)),
+        u"f.svg: drawn differently"_s);
+    row("words left out", u"figuras/f.svg"_s, svg(u"<rect x=\"1\"/>"_s),
+        u"f.svg: drawn differently"_s);
+}
+
+void TestPages::translationFaultsAreFound()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, text);
+    QFETCH(QString, fault);
+    QTemporaryDir folder;
+    const QString translation = folder.filePath(u"English"_s);
+    for (const QString &place : {folder.path(), translation}) {
+        QVERIFY(QDir().mkpath(place + u"/figuras"_s));
+        write(place + u"/p.html"_s, page(kHead, u"<p id=\"b\">x</p>"_s));
+        write(place + u"/figuras/f.svg"_s,
+              svg(u"<text x=\"1\" font-family=\"sans-serif\">dos</text><rect x=\"1\"/>"_s));
+    }
+    if (text.isNull())
+        QVERIFY(QFile::remove(translation + u'/' + file));
+    else
+        write(translation + u'/' + file, text);
+
+    const QStringList faults = translationFaults(folder.path(), translation);
+    QCOMPARE(faults, fault.isEmpty() ? QStringList() : QStringList{fault});
 }
 
 QTEST_GUILESS_MAIN(TestPages)
