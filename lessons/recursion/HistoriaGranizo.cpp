@@ -73,7 +73,7 @@ void HistoriaGranizo::guardaHito(const QString &valor)
 {
     m_hitos.push_back(valor.toLatin1());
     m_bytes += m_hitos.back().size() + CosteDeHito;
-    while (m_bytes > MaximoDeBytes && m_hitos.size() > 2)
+    while (m_hitos.size() > 2 && (m_bytes > MaximoDeBytes || m_hitos.size() > MaximoDeHitos))
         aligera();
 }
 
