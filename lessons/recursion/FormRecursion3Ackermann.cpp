@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int FilasAlAbrir = 12;
-constexpr int ColumnasAlAbrir = 6;
+constexpr int ColumnasAlAbrir = 9;
 constexpr int NumFotogramas = 4;
 constexpr auto PasoDeAnimacion = 250ms;
 /// How often the grid and the call in progress are shown: calls pass by the million.

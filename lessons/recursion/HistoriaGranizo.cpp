@@ -44,6 +44,7 @@ void HistoriaGranizo::agrega(const QString &valor)
 {
     ++m_ultimo;
     m_recientes.agrega(valor);
+    m_curva.agrega(valor);
     if ((m_ultimo - m_primerHito) % m_distancia == 0)
         guardaHito(valor);
     olvidaLoAntiguo();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lessons/recursion/CurvaGranizo.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -36,6 +38,9 @@ public:
     /// The value of a step from the first to the last one kept.
     QString valor(qint64 paso) const;
 
+    /// The whole course of the sequence, of which this keeps the last steps.
+    const CurvaGranizo &curva() const { return m_curva; }
+
     /// How much memory the values kept take, in bytes.
     qint64 bytes() const { return m_bytes; }
 
@@ -60,6 +65,7 @@ private:
     qint64 m_primerHito = 0;
     std::deque<QByteArray> m_hitos;
     qint64 m_bytes = 0;
+    CurvaGranizo m_curva;
     Tramo m_recientes;
     mutable Tramo m_vistos;
 };
