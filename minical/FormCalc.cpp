@@ -1,10 +1,12 @@
 #include "minical/FormCalc.h"
 
+#include "minical/FormCalcExpresion.h"
 #include "minical/FormCalcLetra.h"
 #include "minical/FormCalcModelo.h"
 #include "minical/FormCalcOrden.h"
 #include "minical/FormCalcRejilla.h"
 #include "minical/FormZoom.h"
+#include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
@@ -55,9 +57,13 @@ void FormCalc::preparaHoja()
     m_rejilla->ponAnchos({});
     // The corner of the headers is current at first, not A1, which the grid would take by itself.
     m_rejilla->setCurrentIndex({});
+    m_expresion = new FormCalcExpresion(panel);
     auto *columna = new QVBoxLayout(panel);
     columna->setContentsMargins(0, 0, 0, 0);
+    columna->setSpacing(Aspecto::Espacio / 2);
+    columna->addWidget(m_expresion);
     columna->addWidget(m_rejilla);
+    columna->addWidget(preparaEstado(panel));
     columna->addWidget(preparaAviso(panel));
     agregaTema(u"Hoja de cálculo"_s, u"hoja"_s, panel);
 
@@ -65,11 +71,35 @@ void FormCalc::preparaHoja()
         actualizaZoom(celda);
         alCambiarHoja();
     });
+    conecta(m_modelo, &FormCalcModelo::dataChanged, this, [this](const QModelIndex &cambiada) {
+        if (cambiada == m_rejilla->currentIndex())
+            muestraActual();
+    });
+    conecta(m_rejilla->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this] { muestraActual(); });
+    conecta(m_expresion, &FormCalcExpresion::editada, this, &FormCalc::txtExpresion_Editada);
+    conecta(m_expresion, &FormCalcExpresion::abandonada, this, [this] {
+        muestraActual();
+        m_rejilla->setFocus();
+    });
     conecta(m_rejilla, &FormCalcRejilla::clic, this, &FormCalc::FlexCalc_Click);
     conecta(m_rejilla, &FormCalcRejilla::movida, this, [this] { ponZoomEn(m_rejilla->actual()); });
     conecta(m_rejilla, &FormCalcRejilla::borrar, this, &FormCalc::FlexCalc_Borrar);
     conecta(m_rejilla, &FormCalcRejilla::pegar, this, &FormCalc::FlexCalc_Pegar);
     conecta(m_rejilla, &FormCalcRejilla::menuPedido, this, &FormCalc::FlexCalc_Menu);
+}
+
+/// What is to be told about the current cell.
+QWidget *FormCalc::preparaEstado(QWidget *panel)
+{
+    m_estado = new QLabel(panel);
+    m_estado->setObjectName(u"lblEstado"_s);
+    m_estado->setAccessibleName(Traduce(u"Sobre la celda actual"_s));
+    m_estado->setContentsMargins(Aspecto::Espacio, 0, Aspecto::Espacio, Aspecto::Espacio / 2);
+    m_estado->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // A long explanation is no reason for a wide window.
+    m_estado->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return m_estado;
 }
 
 /// What stands below the grid while a long paste is going on.
@@ -152,7 +182,7 @@ QAbstractButton *FormCalc::botonDeParada() const
 void FormCalc::Toolbar_ButtonClick(const Orden &orden)
 {
     // A button takes no focus: what is being typed is still in its field.
-    m_rejilla->terminaEdicion();
+    terminaEdiciones();
     (this->*orden.hace)();
     alCambiarHoja();
 }
@@ -172,7 +202,7 @@ void FormCalc::alCambiarHoja()
 void FormCalc::FlexCalc_Menu(const QPoint &donde)
 {
     QMenu menu(this);
-    const QList<QStringList> grupos{{u"CopiarResultado"_s, u"CopiarExpresión"_s},
+    const QList<QStringList> grupos{{u"CopiarResultado"_s, u"CopiarExpresión"_s, u"Cortar"_s},
                                     {u"Deshacer"_s, u"Rehacer"_s},
                                     {u"ValorDecimal"_s, u"Recalcular"_s, u"Zoom"_s}};
     for (const QStringList &grupo : grupos) {

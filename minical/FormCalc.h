@@ -6,10 +6,12 @@
 #include <QHash>
 #include <memory>
 
+class FormCalcExpresion;
 class FormCalcModelo;
 class FormCalcRejilla;
 class FormZoom;
 class QAction;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QToolBar;
@@ -37,6 +39,7 @@ private:
     void preparaBarra();
     QAction *agregaOrden(const Orden &orden);
     void preparaHoja();
+    QWidget *preparaEstado(QWidget *panel);
     QWidget *preparaAviso(QWidget *panel);
     QAction *accion(const QString &clave) const { return m_acciones.value(clave); }
 
@@ -49,6 +52,7 @@ private:
     void ValidarPrecision();
     void CopiarExpresion();
     void CopiarResultado();
+    void Cortar();
     void Nuevo();
     void Abrir();
     void Guardar();
@@ -62,10 +66,13 @@ private:
     void FlexCalc_Borrar();
     void FlexCalc_Pegar();
     void FlexCalc_Menu(const QPoint &donde);
+    void txtExpresion_Editada(Celda celda, const QString &expresion, bool conIntro);
 
     void copia(bool expresiones);
     void ponPegando(bool pegando);
     void enfocaCambiadas(const QList<Celda> &celdas);
+    void terminaEdiciones();
+    void muestraActual();
     void alCambiarHoja();
     void actualizaZoom(Celda celda);
     void ponZoomEn(Celda rotulo);
@@ -81,6 +88,8 @@ private:
     HojaDeCalculo m_hoja;
     FormCalcModelo *m_modelo = nullptr;
     FormCalcRejilla *m_rejilla = nullptr;
+    FormCalcExpresion *m_expresion = nullptr;
+    QLabel *m_estado = nullptr;
     QWidget *m_aviso = nullptr;
     QPushButton *m_cmdDetener = nullptr;
     QToolBar *m_barra = nullptr;

@@ -176,7 +176,7 @@ bool FormCalc::permiteCerrar()
     bool permite = false;
     // A file that cannot be written keeps the window open.
     evento(this, [&] {
-        m_rejilla->terminaEdicion();
+        terminaEdiciones();
         permite = confirmaDescarte();
         alCambiarHoja();
     });

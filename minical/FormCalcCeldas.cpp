@@ -2,40 +2,25 @@
 
 #include "bignum/ModBignum.h"
 #include "bignum/Moneda.h"
+#include "minical/ExplicacionDeCelda.h"
 #include "minical/FormCalc.h"
+#include "minical/FormCalcExpresion.h"
 #include "minical/FormCalcModelo.h"
 #include "minical/FormCalcRejilla.h"
 #include "minical/FormZoom.h"
+#include "shell/Aspecto.h"
 #include "shell/Evento.h"
-#include "shell/Interlocutor.h"
 #include "shell/ModGlobal.h"
-#include "shell/TextoDeRejilla.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QToolBar>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 const QString MaximaPrecision = u"1000"_s;
-
-/// The cells of a text from the clipboard: lines of fields between tabs.
-QList<QStringList> bloqueDe(QString texto)
-{
-    texto.replace(u"\r\n"_s, u"\n"_s);
-    if (texto.endsWith(u'\n'))
-        texto.chop(1);
-    QList<QStringList> bloque;
-    const QStringList lineas = texto.split(u'\n');
-    for (const QString &linea : lineas)
-        bloque << linea.split(u'\t');
-    return bloque;
-}
 
 } // namespace
 
@@ -72,39 +57,6 @@ void FormCalc::ValidarPrecision()
         Sesión().ponPrecisión(digitos->aEntero32());
 }
 
-void FormCalc::CopiarExpresion()
-{
-    copia(true);
-}
-
-void FormCalc::CopiarResultado()
-{
-    copia(false);
-}
-
-/// One cell as it is; several as lines with tabs, as every spreadsheet takes them.
-void FormCalc::copia(bool expresiones)
-{
-    const auto texto = [&](Celda celda) {
-        return expresiones ? m_hoja.Expresiones(celda.fila, celda.columna)
-                           : m_hoja.Resultados(celda.fila, celda.columna);
-    };
-    const QList<Celda> celdas = m_rejilla->seleccionadas();
-    if (celdas.size() <= 1) {
-        QApplication::clipboard()->setText(texto(m_rejilla->actual()));
-        return;
-    }
-    QList<QStringList> filas;
-    int fila = 0;
-    for (const Celda celda : celdas) {
-        if (celda.fila != fila)
-            filas << QStringList();
-        fila = celda.fila;
-        filas.last() << texto(celda);
-    }
-    QApplication::clipboard()->setText(textoDeRejilla(filas, FormaDeCopia::Texto));
-}
-
 void FormCalc::Deshacer()
 {
     enfocaCambiadas(m_hoja.deshace());
@@ -130,38 +82,32 @@ void FormCalc::FlexCalc_Borrar()
     alCambiarHoja();
 }
 
-/// A large block takes its time: only the stop button answers meanwhile.
-void FormCalc::ponPegando(bool pegando)
+void FormCalc::txtExpresion_Editada(Celda celda, const QString &expresion, bool conIntro)
 {
-    m_rejilla->setDisabled(pegando);
-    m_barra->setDisabled(pegando);
-    for (QAction *orden : std::as_const(m_acciones))
-        orden->setDisabled(pegando);
-    m_aviso->setVisible(pegando);
-    if (pegando)
-        m_cmdDetener->setFocus();
-    else
-        m_rejilla->setFocus();
+    m_modelo->setData(m_modelo->indice(celda), expresion, Qt::EditRole);
+    if (!conIntro)
+        return;
+    m_rejilla->setFocus();
+    m_rejilla->bajaTrasEdicion();
 }
 
-void FormCalc::FlexCalc_Pegar()
+/// What is being typed, in a cell or above the grid, is taken.
+void FormCalc::terminaEdiciones()
 {
-    const QString texto = QApplication::clipboard()->text();
-    if (texto.isEmpty() || corrida().enCurso())
-        return;
-    if (!m_rejilla->actual().esDeDatos())
-        m_rejilla->setCurrentIndex(m_modelo->index(0, 0));
-    const Corrida::Tramo tramo(corrida());
-    corrida().permitir();
-    ponPegando(true);
-    const bool todo = m_hoja.pega(m_rejilla->actual(), bloqueDe(texto), corrida());
-    ponPegando(false);
-    actualizaZoom(m_rejilla->actual());
-    alCambiarHoja();
-    if (!todo)
-        interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
-                               Traduce(u"Parte de lo que se ha pegado no cabe en la hoja."_s),
-                               Traduce(u"Mini hoja de cálculo"_s));
+    m_rejilla->terminaEdicion();
+    m_expresion->termina();
+}
+
+void FormCalc::muestraActual()
+{
+    const Celda celda = m_rejilla->actual();
+    const bool esError = m_hoja.Resultados(celda.fila, celda.columna) == TextoError;
+    QPalette colores = palette();
+    colores.setColor(QPalette::WindowText, esError ? Aspecto::error() : Aspecto::atenuado());
+    m_estado->setPalette(colores);
+    const QString explicacion = explicacionDeCelda(m_hoja, celda);
+    m_estado->setText(esError ? u"✗ "_s + explicacion : explicacion);
+    m_expresion->muestra(celda, m_hoja.Expresiones(celda.fila, celda.columna));
 }
 
 void FormCalc::Zoom()

@@ -1,6 +1,7 @@
 #include "minical/FormCalcModelo.h"
 
 #include "bignum/ModBignum.h"
+#include "minical/ExplicacionDeCelda.h"
 #include "minical/HojaDeCalculo.h"
 #include "shell/Aspecto.h"
 #include "shell/ModGlobal.h"
@@ -29,13 +30,6 @@ QString enLineas(const QString &texto)
         lineas << Traduce(u"… (%1 caracteres: el zoom los muestra todos)"_s).arg(texto.size());
     }
     return lineas.join(u'\n');
-}
-
-QString ayudaDeCelda(const QString &texto)
-{
-    if (texto == TextoError)
-        return Traduce(u"Error: la expresión no se puede calcular"_s);
-    return enLineas(texto);
 }
 
 QFont negrita()
@@ -99,7 +93,7 @@ QVariant FormCalcModelo::data(const QModelIndex &indice, int papel) const
     case Qt::EditRole:
         return m_hoja.Expresiones(c.fila, c.columna);
     case Qt::ToolTipRole:
-        return ayudaDeCelda(texto);
+        return esError ? Traduce(u"Error: %1"_s).arg(motivoDeError(m_hoja, c)) : enLineas(texto);
     case Qt::AccessibleTextRole:
         return QString(NombreCelda(c) + u": "_s + texto);
     case Qt::TextAlignmentRole:

@@ -103,6 +103,13 @@ const QList<FormCalc::Orden> &FormCalc::ordenes()
          u"Copiar la expresión"_s,
          {Qt::CTRL | Qt::SHIFT | Qt::Key_C},
          &F::CopiarExpresion,
+         Sitio::EnLaRejilla},
+        {u"Cortar"_s,
+         u"COPIAR"_s,
+         u"Cor&tar las expresiones"_s,
+         u"Cortar las expresiones"_s,
+         {QKeySequence::Cut},
+         &F::Cortar,
          Sitio::EnLaRejilla}};
     return tabla;
 }

@@ -3,6 +3,8 @@
 #include "minical/Celda.h"
 #include "shell/Rejilla.h"
 
+#include <QPersistentModelIndex>
+
 /// The grid of the sheet: keys and mouse as in every spreadsheet, with the headers for row 0 and
 /// column 0.
 class FormCalcRejilla : public Rejilla
@@ -19,6 +21,9 @@ public:
 
     /// Takes what is being typed into the cell, as Enter would.
     void terminaEdicion();
+
+    /// Goes one row down, as an edit does that ends by Enter.
+    void bajaTrasEdicion();
 
     /// Widths of the columns that the user has changed, in characters, by column; and back.
     QMap<int, int> anchos() const;
@@ -39,6 +44,9 @@ Q_SIGNALS:
 protected:
     bool edit(const QModelIndex &indice, EditTrigger motivo, QEvent *suceso) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint consejo) override;
+    /// With the Ctrl key: Home and End go to the first and the last cell in use, the arrows to the
+    /// end of a block of cells in use or to the next one.
+    QModelIndex moveCursor(CursorAction accion, Qt::KeyboardModifiers teclas) override;
     void currentChanged(const QModelIndex &actual, const QModelIndex &anterior) override;
     void keyPressEvent(QKeyEvent *suceso) override;
     void mousePressEvent(QMouseEvent *suceso) override;
@@ -52,7 +60,12 @@ private:
     int caracter() const;
     void mueve(CursorAction accion);
     void mueveFilas(int filas);
+    bool extiende(const QKeyEvent &suceso);
+    void extiendeHasta(const QModelIndex &indice);
 
     int m_caracter = 0; ///< width of a character, in pixels, that the columns were made for
     bool m_terminando = false;
+    /// Where the selection begins that Shift extends.
+    QPersistentModelIndex m_ancla;
+    bool m_extendiendo = false;
 };

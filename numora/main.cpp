@@ -69,12 +69,13 @@ int main(int argc, char *argv[])
     QCommandLineParser opciones;
     describe(opciones);
     opciones.parse(QApplication::arguments());
+    const QString linea = QApplication::arguments().sliced(1).join(u' ');
     if (opciones.isSet(u"galeria"_s))
         return Galeria(contenidoDelPrograma(), {.carpeta = opciones.value(u"galeria"_s),
                                                 .tamano = tamano(opciones.value(u"tamano"_s)),
-                                                .oscuro = opciones.isSet(u"oscuro"_s)});
+                                                .oscuro = opciones.isSet(u"oscuro"_s),
+                                                .idioma = idiomaDeLinea(linea)});
 
-    const QString linea = QApplication::arguments().sliced(1).join(u' ');
     const ProgramaEnMarcha programa = Main(linea, contenidoDelPrograma());
     return programa.principal ? QApplication::exec() : 0;
 }

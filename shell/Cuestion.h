@@ -11,7 +11,8 @@ struct Juicio
 };
 
 /// An exercise: what is asked, what an answer looks like, and the judge of one. An answer is judged
-/// as it was typed, without blanks at its ends, and never empty.
+/// without blanks at its ends, with the signs and names that expressions take (PanelCuestiones),
+/// and never empty.
 struct Cuestion
 {
     QString enunciado;

@@ -5,6 +5,7 @@
 #include "shell/Interlocutor.h"
 #include "shell/ModGlobal.h"
 #include "shell/NavegadorPagina.h"
+#include "shell/PaginaTraducida.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -46,7 +47,7 @@ QString FormLeccion::URL() const
 void FormLeccion::muestraAyuda() const
 {
     if (!URL().isEmpty())
-        interlocutor().abre(URL());
+        interlocutor().abre(PaginaTraducida(URL(), Idioma()));
 }
 
 void FormLeccion::cierra()
@@ -98,7 +99,7 @@ void FormLeccion::agregaIntroduccion(const QString &rotulo)
     auto *pagina = new NavegadorPagina(panel);
     pagina->setObjectName(u"wbIntro"_s);
     pagina->setAccessibleName(Traduce(u"Introducción"_s));
-    pagina->navega(URL());
+    pagina->navega(PaginaTraducida(URL(), Idioma()));
     marco->addWidget(pagina);
     agregaTema(rotulo, u"intro"_s, panel);
 }

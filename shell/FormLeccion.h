@@ -22,10 +22,11 @@ public:
     /// `pagina` is the file name of the lesson's page in the folder Doc.
     explicit FormLeccion(const QString &pagina, QWidget *padre = nullptr);
 
-    /// The path of the help page: the working folder, then "\Doc\" and the page.
+    /// The path of the help page, in Spanish: the working folder, then "\Doc\" and the page.
     QString URL() const;
 
-    /// Opens the help page in the system's browser.
+    /// Opens the help page in the system's browser, in the language of the interface where it has
+    /// been translated.
     void muestraAyuda() const;
 
     /// Closes the window as its close button would.

@@ -1,6 +1,7 @@
 #include "shell/Formatos.h"
 
 #include <QLocale>
+#include <QStringList>
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -38,6 +39,13 @@ QString formatoEntero(Moneda valor)
     const std::int64_t resto = valor.diezmilesimas() % Moneda::Escala;
     const bool alejaDeCero = media < 0 ? resto <= media : resto >= media;
     return formatoEntero(valor.entero() + (alejaDeCero ? (media < 0 ? -1 : 1) : 0));
+}
+
+QString formatoDecimal(double valor, int decimales)
+{
+    const QStringList partes = QString::number(valor, 'f', decimales).split(u'.');
+    const QString entera = formatoEntero(partes.first());
+    return partes.size() == 1 ? entera : entera + u',' + partes.last();
 }
 
 QString formatoTiempo(std::chrono::milliseconds tiempo)

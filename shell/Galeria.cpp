@@ -7,7 +7,6 @@
 #include "shell/Imagenes.h"
 #include "shell/Interlocutor.h"
 #include "shell/Main.h"
-#include "shell/ModGlobal.h"
 #include "shell/Rutas.h"
 
 #include <QAbstractButton>
@@ -171,15 +170,25 @@ private:
     bool m_bien = true;
 };
 
-/// The animations and pages of the working folder, in a folder that may be written.
+/// A folder with all that is in it, to a place that may be written.
 void copiaCarpeta(const QString &origen, const QString &destino)
 {
-    for (const QString &parte : {u"ClipArt"_s, u"Doc"_s, u"Doc/figuras"_s}) {
-        const QDir carpeta(origen + u'/' + parte);
-        QDir().mkpath(destino + u'/' + parte);
-        for (const QString &nombre : carpeta.entryList(QDir::Files))
-            QFile::copy(carpeta.filePath(nombre), destino + u'/' + parte + u'/' + nombre);
+    QDir().mkpath(destino);
+    const auto entradas = QDir(origen).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    for (const QFileInfo &entrada : entradas) {
+        const QString copia = destino + u'/' + entrada.fileName();
+        if (entrada.isDir())
+            copiaCarpeta(entrada.filePath(), copia);
+        else
+            QFile::copy(entrada.filePath(), copia);
     }
+}
+
+/// The animations and pages of the working folder.
+void copiaCarpetaDeTrabajo(const QString &origen, const QString &destino)
+{
+    for (const QString &parte : {u"/ClipArt"_s, u"/Doc"_s})
+        copiaCarpeta(origen + parte, destino + parte);
 }
 
 } // namespace
@@ -199,10 +208,11 @@ int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
         errores << u"No se puede crear la carpeta: "_s << destino << Qt::endl;
         return 1;
     }
+    Idioma() = opciones.idioma;
     preparaAplicacion();
     Aspecto::aplica(opciones.oscuro ? Aspecto::Tema::Oscuro : Aspecto::Tema::Claro);
     const QString copia = deUsarYTirar.filePath(u"Numora"_s);
-    copiaCarpeta(rutaExistente(Sesión().carpeta()), copia);
+    copiaCarpetaDeTrabajo(rutaExistente(Sesión().carpeta()), copia);
     Sesión().ponCarpeta(copia);
     QDir::setCurrent(copia);
     ImgSiguiente() = Icono(u"SIGUIENTE"_s);

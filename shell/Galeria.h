@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/Leccion.h"
+#include "shell/ModGlobal.h"
 
 #include <QSize>
 #include <QString>
@@ -10,6 +11,7 @@ struct OpcionesDeGaleria
     QString carpeta; ///< where the PNG files go; made when missing
     QSize tamano{1366, 768};
     bool oscuro = false;
+    QString idioma = IdiomaPropio.toString();
 };
 
 /// Takes a picture of every window in every state that the scenes name, asking nothing and changing

@@ -37,7 +37,7 @@ void avisaDeCota(const QString &cota)
 QString idiomaDeLinea(const QString &lineaDeOrdenes)
 {
     if (!lineaDeOrdenes.contains(u"-i:"_s))
-        return u"Español"_s;
+        return IdiomaPropio.toString();
     return lineaDeOrdenes.split(u' ').constLast().mid(3);
 }
 
@@ -54,7 +54,7 @@ void instalaTextosDeQt()
     static QPointer<QTranslator> textos;
     delete textos;
     // Any language but Spanish leaves Qt's own English texts.
-    if (Idioma() != u"Español"_s)
+    if (Idioma() != IdiomaPropio)
         return;
     textos = new QTranslator(QCoreApplication::instance());
     if (textos->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

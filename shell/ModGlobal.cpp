@@ -45,7 +45,7 @@ std::int32_t comprobado(double entero)
 
 QString &Idioma()
 {
-    static QString idioma = u"Español"_s;
+    static QString idioma = IdiomaPropio.toString();
     return idioma;
 }
 

@@ -6,7 +6,11 @@
 #include <QString>
 #include <cstdint>
 
+/// The language in which the program is written.
+inline constexpr QStringView IdiomaPropio = u"Español";
+
 /// The language of the interface: the name of the section of Numora.txt that `Traduce` reads.
+/// IdiomaPropio until another one is put there.
 QString &Idioma();
 
 /// The translation of a Spanish interface text into the current language: the entry of Numora.txt

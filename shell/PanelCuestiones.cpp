@@ -8,7 +8,27 @@
 #include "shell/Veredicto.h"
 #include "ui_PanelCuestiones.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// How often a question is drawn again until it is another one; a draw among very few may repeat.
+constexpr int SorteosComoMucho = 20;
+
+/// The signs of print as the keyboard has them, and F(n) as expressions call it.
+QString comoExpresion(QString respuesta)
+{
+    static const QRegularExpression fibonacci(u"\\bF\\s*\\("_s);
+    return respuesta.replace(u'−', u'-')
+        .replace(u'·', u'*')
+        .replace(u'×', u'*')
+        .replace(fibonacci, u"fib("_s)
+        .trimmed();
+}
+
+} // namespace
 
 /// Where one question stands: what draws it, and its controls.
 struct PanelCuestiones::Lugar
@@ -37,7 +57,7 @@ PanelCuestiones::PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, Q
         lugar.otra->setIcon(Icono(u"DADO"_s));
         conecta(lugar.comprobar, &QPushButton::clicked, this,
                 [this, &lugar] { cmdComprobar_Click(lugar); });
-        conecta(lugar.otra, &QPushButton::clicked, this, [this, &lugar] { plantea(lugar); });
+        conecta(lugar.otra, &QPushButton::clicked, this, [&lugar] { cmdOtra_Click(lugar); });
         conecta(lugar.respuesta, &QLineEdit::returnPressed, this,
                 [this, &lugar] { cmdComprobar_Click(lugar); });
         // A verdict belongs to the answer that was judged.
@@ -50,17 +70,25 @@ PanelCuestiones::~PanelCuestiones() = default;
 
 void PanelCuestiones::plantea(Lugar &lugar)
 {
-    lugar.cuestion = lugar.sortea();
+    const QString anterior = lugar.cuestion.enunciado;
+    for (int vez = 0; vez < SorteosComoMucho && lugar.cuestion.enunciado == anterior; ++vez)
+        lugar.cuestion = lugar.sortea();
     lugar.enunciado->setText(lugar.cuestion.enunciado);
     lugar.respuesta->setPlaceholderText(lugar.cuestion.ejemplo);
     lugar.respuesta->clear();
     lugar.veredicto->clear();
 }
 
+void PanelCuestiones::cmdOtra_Click(Lugar &lugar)
+{
+    plantea(lugar);
+    lugar.respuesta->setFocus();
+}
+
 void PanelCuestiones::cmdComprobar_Click(Lugar &lugar)
 {
     lugar.respuesta->setFocus();
-    const QString respuesta = lugar.respuesta->text().trimmed();
+    const QString respuesta = comoExpresion(lugar.respuesta->text());
     if (respuesta.isEmpty())
         return;
     const Juicio juicio = lugar.cuestion.juzga(respuesta);

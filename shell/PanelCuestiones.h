@@ -11,7 +11,8 @@ class PanelCuestiones;
 }
 
 /// The topic "Cuestiones" of a lesson that asks two questions: each is drawn at random, judged with
-/// a word and an animation, and can be drawn anew.
+/// a word and an animation, and can be drawn anew. An answer may be written as the lessons print
+/// mathematics: "2 · F(11) − 1" is judged as "2 * fib(11) - 1".
 class PanelCuestiones : public QWidget
 {
     Q_OBJECT
@@ -25,7 +26,8 @@ public:
 private:
     struct Lugar;
 
-    void plantea(Lugar &lugar);
+    static void plantea(Lugar &lugar);
+    static void cmdOtra_Click(Lugar &lugar);
     void cmdComprobar_Click(Lugar &lugar);
 
     std::unique_ptr<Ui::PanelCuestiones> ui;

@@ -1,6 +1,7 @@
 #include "shell/TextoDeDuracion.h"
 
-#include <QLocale>
+#include "shell/Formatos.h"
+
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,5 +17,5 @@ QString textoDeDuracion(double nanosegundos)
         ++unidad;
     }
     const int decimales = valor < 9.995 ? 2 : valor < 99.95 ? 1 : 0;
-    return QLocale().toString(valor, 'f', decimales) + unidades.at(unidad);
+    return formatoDecimal(valor, decimales) + unidades.at(unidad);
 }

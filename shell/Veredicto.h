@@ -3,6 +3,13 @@
 #include <QString>
 
 class QLabel;
+class QLineEdit;
 
 /// Writes a verdict into a label, told by sign and colour as well as by its words.
 void muestraVeredicto(QLabel *rotulo, bool bien, const QString &texto);
+
+/// Writes what is neither right nor wrong where a verdict may have stood.
+void muestraNeutro(QLabel *rotulo, const QString &texto);
+
+/// Refuses what a field holds: says why in a label, as above, and goes back to the field.
+void rechaza(QLineEdit *campo, QLabel *rotulo, const QString &motivo);

@@ -21,7 +21,8 @@ public:
     /// The largest n whose tree can be read on a screen.
     static constexpr int MaximoN = 10;
 
-    /// With a memory a value that is asked for again is not computed again.
+    /// The tree of F(n), n from 0 to MaximoN. With a memory a value that is asked for again is not
+    /// computed again.
     ArbolDeLlamadas(int n, bool conMemoria);
 
     const QList<Llamada> &llamadas() const { return m_llamadas; }

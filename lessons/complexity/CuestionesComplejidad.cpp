@@ -5,18 +5,15 @@
 #include "shell/Formatos.h"
 #include "shell/ModGlobal.h"
 
-#include <optional>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The whole number of 64 bits that an answer stands for.
-std::optional<qint64> enteroDe(const QString &respuesta)
+/// The whole number of any size that an answer stands for, in its digits; empty for any other text.
+QString enteroDe(const QString &respuesta)
 {
-    bool esEntero = false;
-    const qint64 valor = Evalua(QString(respuesta)).toLongLong(&esEntero);
-    return esEntero ? std::optional(valor) : std::nullopt;
+    const QString valor = Evalua(QString(respuesta));
+    return valor == TextoError || valor.contains(u'/') ? QString() : valor;
 }
 
 qint64 fibonacci(int n)
@@ -31,17 +28,17 @@ Juicio noEsUnNumero()
 
 Juicio juzgaLlamadas(const QString &respuesta, int n)
 {
-    const std::optional<qint64> valor = enteroDe(respuesta);
-    if (!valor)
+    const QString valor = enteroDe(respuesta);
+    if (valor.isEmpty())
         return noEsUnNumero();
     const qint64 llamadas = 2 * fibonacci(n + 1) - 1;
-    if (*valor == llamadas) {
+    if (valor == QString::number(llamadas)) {
         return {true, Traduce(u"¡Correcto! Son 2 · F(%1) − 1 = %2."_s)
                           .arg(QString::number(n + 1), formatoEntero(llamadas))};
     }
-    if (*valor == llamadas - 1)
+    if (valor == QString::number(llamadas - 1))
         return {false, Traduce(u"Falta una: la primera llamada también cuenta."_s)};
-    if (*valor == fibonacci(n + 1))
+    if (valor == QString::number(fibonacci(n + 1)))
         return {false, Traduce(u"Esas son las llamadas que no hacen otras: faltan las demás."_s)};
     return {false, Traduce(u"No. Si L(n) es el número de llamadas, L(0) = L(1) = 1 y "
                            u"L(n) = L(n−1) + L(n−2) + 1."_s)};
@@ -49,17 +46,17 @@ Juicio juzgaLlamadas(const QString &respuesta, int n)
 
 Juicio juzgaHanoi(const QString &respuesta, int discos, int disco)
 {
-    const std::optional<qint64> valor = enteroDe(respuesta);
-    if (!valor)
+    const QString valor = enteroDe(respuesta);
+    if (valor.isEmpty())
         return noEsUnNumero();
     const qint64 veces = qint64{1} << (discos - disco);
-    if (*valor == veces) {
+    if (valor == QString::number(veces)) {
         return {true, Traduce(u"¡Correcto! El mayor se mueve una vez, y cada uno el doble que el "
                               u"siguiente en tamaño."_s)};
     }
-    if (*valor == (qint64{1} << discos) - 1)
+    if (valor == QString::number((qint64{1} << discos) - 1))
         return {false, Traduce(u"Esos son los movimientos de todos los discos."_s)};
-    if (*valor == qint64{1} << (disco - 1))
+    if (valor == QString::number(qint64{1} << (disco - 1)))
         return {false, Traduce(u"Ha contado los discos al revés: el 1 es el menor."_s)};
     return {false, Traduce(u"No. ¿Cuántas veces se mueve el mayor? ¿Y el que va encima de él?"_s)};
 }
@@ -68,7 +65,7 @@ Juicio juzgaHanoi(const QString &respuesta, int discos, int disco)
 
 Cuestion sorteaLlamadas()
 {
-    return cuestionLlamadas(AleatorioEntre(8, 16));
+    return cuestionLlamadas(AleatorioEntre(7, 20));
 }
 
 Cuestion cuestionLlamadas(int n)

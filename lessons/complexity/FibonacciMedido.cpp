@@ -43,11 +43,14 @@ qint64 conMemoria(int n, qint64 &llamadas, Memoria &memoria)
 
 qint64 iterativo(int n, qint64 &sumas)
 {
-    qint64 actual = 0;
-    qint64 siguiente = 1;
-    for (int i = 0; i < n; ++i) {
-        siguiente += actual;
-        actual = siguiente - actual;
+    if (n == 0)
+        return 0;
+    qint64 anterior = 0;
+    qint64 actual = 1;
+    for (int i = 2; i <= n; ++i) {
+        const qint64 siguiente = anterior + actual;
+        anterior = actual;
+        actual = siguiente;
         ++sumas;
     }
     return actual;

@@ -8,6 +8,26 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+QString leyenda(int llamadas, int repetidas)
+{
+    if (llamadas == 1)
+        return Traduce(u"Una llamada: es un caso base."_s);
+    if (repetidas == 0)
+        return Traduce(u"%1 llamadas, y ningún valor se pide dos veces."_s).arg(llamadas);
+    if (repetidas == 1)
+        return Traduce(u"%1 llamadas, de las que una pide un valor ya pedido antes (borde "
+                       u"discontinuo)."_s)
+            .arg(llamadas);
+    return Traduce(u"%1 llamadas, de las que %2 piden un valor ya pedido antes (borde "
+                   u"discontinuo)."_s)
+        .arg(llamadas)
+        .arg(repetidas);
+}
+
+} // namespace
+
 FormRecursion1Arbol::FormRecursion1Arbol(QWidget *padre)
     : QWidget(padre), ui(std::make_unique<Ui::FormRecursion1Arbol>())
 {
@@ -33,10 +53,7 @@ void FormRecursion1Arbol::SpinN_Change()
     m_arbol = ArbolDeLlamadas(ui->SpinN->value(), ui->chkMemoria->isChecked());
     const auto total = static_cast<int>(m_arbol.llamadas().size());
     ui->PicArbol->ponArbol(m_arbol);
-    ui->lblLeyenda->setText(Traduce(u"%1 llamadas, de las que %2 piden un valor ya pedido antes "
-                                    u"(borde discontinuo)."_s)
-                                .arg(total)
-                                .arg(m_arbol.repetidas()));
+    ui->lblLeyenda->setText(leyenda(total, m_arbol.repetidas()));
     ui->sldLlamadas->setRange(0, total);
     ui->sldLlamadas->setValue(total);
     sldLlamadas_Change(total);

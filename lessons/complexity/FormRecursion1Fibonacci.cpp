@@ -11,7 +11,6 @@
 #include "shell/Veredicto.h"
 #include "ui_FormRecursion1Fibonacci.h"
 
-#include <QLocale>
 #include <QScopeGuard>
 #include <algorithm>
 #include <cmath>
@@ -47,6 +46,7 @@ FormRecursion1Fibonacci::FormRecursion1Fibonacci(Corrida &corrida, QWidget *padr
 
     conecta(ui->cmdMedir, &QPushButton::clicked, this, &FormRecursion1Fibonacci::cmdMedir_Click);
     conecta(ui->TxtHasta, &QLineEdit::returnPressed, this, &FormRecursion1Fibonacci::empieza);
+    conecta(ui->TxtHasta, &QLineEdit::textChanged, this, &FormRecursion1Fibonacci::TxtHasta_Change);
     for (auto *opcion : {ui->optLlamadas, ui->optTiempo})
         conecta(opcion, &QRadioButton::clicked, this, &FormRecursion1Fibonacci::optMagnitud_Click);
     conecta(ui->PicCrecimiento, &Grafica::senalado, this, &FormRecursion1Fibonacci::senalaPunto);
@@ -70,6 +70,13 @@ void FormRecursion1Fibonacci::cmdMedir_Click()
     muestraCalcular(ui->cmdMedir);
 }
 
+/// A verdict belongs to the number that was refused; the progress of a run stays.
+void FormRecursion1Fibonacci::TxtHasta_Change()
+{
+    if (!m_calculando)
+        ui->lblAvance->clear();
+}
+
 void FormRecursion1Fibonacci::empieza()
 {
     // Another run of the window would be timed along with this one.
@@ -77,11 +84,8 @@ void FormRecursion1Fibonacci::empieza()
         return;
     const auto hasta = evaluaEnteroAcotado(ui->TxtHasta->text(), MenorFinal, MayorFinal);
     if (!hasta) {
-        muestraVeredicto(
-            ui->lblAvance, false,
-            Traduce(u"Escriba un número entero de %1 a %2."_s).arg(MenorFinal).arg(MayorFinal));
-        ui->TxtHasta->setFocus();
-        ui->TxtHasta->selectAll();
+        rechaza(ui->TxtHasta, ui->lblAvance,
+                Traduce(u"Escriba un número entero de %1 a %2."_s).arg(MenorFinal).arg(MayorFinal));
         return;
     }
     m_corrida.permitir();
@@ -102,12 +106,11 @@ void FormRecursion1Fibonacci::mide(int hasta)
 {
     m_recursivas.clear();
     m_modelo.ponFilas({});
-    ui->lblAvance->setPalette({});
     for (int n = 1; n <= hasta; ++n) {
-        ui->lblAvance->setText(Traduce(u"Calculando F(%1)…"_s).arg(n));
+        muestraNeutro(ui->lblAvance, Traduce(u"Calculando F(%1)…"_s).arg(n));
         m_corrida.cederYa();
         if (m_corrida.detenida() || !mideUno(n)) {
-            ui->lblAvance->setText(Traduce(u"Detenido en n = %1"_s).arg(n));
+            muestraNeutro(ui->lblAvance, Traduce(u"Detenido en n = %1"_s).arg(n));
             return;
         }
         representa();
@@ -147,16 +150,19 @@ void FormRecursion1Fibonacci::representa()
 {
     QList<QPointF> puntos;
     QList<QPointF> paraAjuste;
+    qreal menor = 0;
     qreal mayor = 1;
     const auto ultimo = static_cast<int>(m_recursivas.size());
     for (int n = 1; n <= ultimo; ++n) {
         const double valor = magnitud(m_recursivas.at(n - 1));
         puntos << QPointF(n, std::log10(valor));
+        menor = std::min(menor, puntos.last().y());
         mayor = std::max(mayor, puntos.last().y());
         if (n >= PrimeroDelAjuste)
             paraAjuste << QPointF(n, valor);
     }
-    ui->PicCrecimiento->ponPuntos(puntos, QRectF(0, 0, ultimo, std::ceil(mayor)));
+    const QRectF limites(QPointF(0, std::floor(menor)), QPointF(ultimo, std::ceil(mayor)));
+    ui->PicCrecimiento->ponPuntos(puntos, limites);
     m_ajuste = ajustaExponencial(paraAjuste);
     if (m_ajuste) {
         ui->PicCrecimiento->ponRecta(
@@ -170,19 +176,22 @@ void FormRecursion1Fibonacci::representa()
 void FormRecursion1Fibonacci::muestraAjuste()
 {
     if (!m_ajuste) {
-        ui->lblAjuste->setText(
-            Traduce(u"El crecimiento se ajusta a partir de n = %1 y tres puntos."_s)
-                .arg(PrimeroDelAjuste));
+        ui->lblAjuste->setText(Traduce(u"El ajuste necesita al menos tres puntos, desde n = %1."_s)
+                                   .arg(PrimeroDelAjuste));
         return;
     }
-    const QLocale local;
-    const QString factor = ui->optTiempo->isChecked() ? textoDeDuracion(m_ajuste->factor)
-                                                      : local.toString(m_ajuste->factor, 'f', 3);
+    const bool esTiempo = ui->optTiempo->isChecked();
+    const QString factor =
+        esTiempo ? textoDeDuracion(m_ajuste->factor) : formatoDecimal(m_ajuste->factor, 3);
+    const QString ajuste =
+        esTiempo ? Traduce(u"Ajuste (línea discontinua): T(n) ≈ %1 · %2ⁿ, con R² = %3. Con cada "
+                           u"unidad de n, el tiempo se multiplica por %2; en teoría, por "
+                           u"φ = 1,618…"_s)
+                 : Traduce(u"Ajuste (línea discontinua): L(n) ≈ %1 · %2ⁿ, con R² = %3. Con cada "
+                           u"unidad de n, las llamadas se multiplican por %2; en teoría, por "
+                           u"φ = 1,618…"_s);
     ui->lblAjuste->setText(
-        Traduce(
-            u"Ajuste (línea discontinua): %1 · %2ⁿ, con R² = %3. El número áureo es φ = 1,618…"_s)
-            .arg(factor, local.toString(m_ajuste->base, 'f', 3),
-                 local.toString(m_ajuste->r2, 'f', 5)));
+        ajuste.arg(factor, formatoDecimal(m_ajuste->base, 3), formatoDecimal(m_ajuste->r2, 5)));
 }
 
 void FormRecursion1Fibonacci::senalaPunto(int indice)

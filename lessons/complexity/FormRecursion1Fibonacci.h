@@ -28,6 +28,7 @@ public:
 
 private:
     void cmdMedir_Click();
+    void TxtHasta_Change();
     void optMagnitud_Click();
 
     void empieza();

@@ -23,6 +23,14 @@ QString nombreDe(int palo)
     return QChar(u'A' + palo);
 }
 
+QString cuantosHacenFalta(const TorresHanoi &torres)
+{
+    if (torres.discos() == 1)
+        return Traduce(u"Con un disco basta un movimiento."_s);
+    return Traduce(u"Con %1 discos hacen falta 2^%1 − 1 = %2 movimientos."_s)
+        .arg(QString::number(torres.discos()), formatoEntero(qint64{torres.movimientos().size()}));
+}
+
 } // namespace
 
 FormRecursion1Hanoi::FormRecursion1Hanoi(QWidget *padre)
@@ -131,9 +139,7 @@ void FormRecursion1Hanoi::muestra()
                          nombreDe(movimiento.desde), nombreDe(movimiento.hasta)});
     }
     ui->FlexMovimientos->scrollToBottom();
-    const QString total = Traduce(u"Con %1 discos hacen falta 2^%1 − 1 = %2 movimientos."_s)
-                              .arg(QString::number(m_torres.discos()),
-                                   formatoEntero(qint64{m_torres.movimientos().size()}));
+    const QString total = cuantosHacenFalta(m_torres);
     if (hechos.isEmpty()) {
         ui->lblMovimiento->setText(total);
         return;

@@ -8,8 +8,8 @@ using namespace Qt::Literals::StringLiterals;
 
 int cotaDe(MetodoFibonacci metodo)
 {
-    // 50 takes 4·10^10 calls. F(100 000) has 20 899 digits, of the 24 575 that the service holds.
-    return metodo == MetodoFibonacci::Definicion ? 50 : 100'000;
+    // 50 takes 4·10^10 calls. F(117 592) is the last of the 24 575 digits that the service holds.
+    return metodo == MetodoFibonacci::Definicion ? 50 : 117'592;
 }
 
 QString CalculoFibonacci::calcula(MetodoFibonacci metodo, int n, Corrida &corrida)
@@ -60,7 +60,8 @@ QString CalculoFibonacci::porIteracion(int n, Corrida &corrida)
 
 QString CalculoFibonacci::porDuplicacion(int n, Corrida &corrida)
 {
-    // F(k) and F(k+1), where k runs through the leading binary digits of n.
+    // F(k) and F(k+1), where k runs through the leading binary digits of n. At the largest n the
+    // service may not hold F(n+1) any more, which nothing asks for.
     QString f = u"0"_s;
     QString g = u"1"_s;
     for (int bit = std::bit_width(static_cast<unsigned>(n)) - 1; bit >= 0; --bit) {

@@ -13,7 +13,8 @@ enum class MetodoFibonacci {
     Duplicacion
 };
 
-/// The largest n that a method is worth trying with; by the definition it takes minutes.
+/// The largest n that a method takes: what the service holds or, by the definition, what takes
+/// minutes.
 int cotaDe(MetodoFibonacci metodo);
 
 /// How much work a computation has been. Additions include subtractions, and twofolds, which are

@@ -39,8 +39,11 @@ Juicio juzgaMcd(const QString &respuesta, int m, int n)
     if (valor == TextoError || valor.isEmpty())
         return {false, Traduce(u"Eso no es un número."_s)};
     if (valor == valorEntero(u"fib(%1)"_s.arg(d))) {
-        return {true, Traduce(u"¡Correcto! Es F(%1), porque mcd(%2, %3) = %1."_s)
-                          .arg(QString::number(d), QString::number(m), QString::number(n))};
+        return {true, Traduce(u"¡Correcto! Es F(%1) = %4, porque mcd(%2, %3) = %1."_s)
+                          .arg(d)
+                          .arg(m)
+                          .arg(n)
+                          .arg(formatoEntero(valor))};
     }
     if (valor == QString::number(d)) {
         return {false, Traduce(u"%1 es el máximo común divisor de los índices: falta calcular "
@@ -55,7 +58,13 @@ Juicio juzgaMcd(const QString &respuesta, int m, int n)
 
 Cuestion sorteaZeckendorf()
 {
-    return cuestionZeckendorf(AleatorioEntre(100, 2000));
+    // One or two summands would be found at sight.
+    constexpr int sumandosComoPoco = 3;
+    int n = 0;
+    do {
+        n = AleatorioEntre(100, 2000);
+    } while (representacionZeckendorf(QString::number(n)).size() < sumandosComoPoco);
+    return cuestionZeckendorf(n);
 }
 
 Cuestion cuestionZeckendorf(int n)
@@ -72,11 +81,15 @@ Cuestion cuestionZeckendorf(int n)
 
 Cuestion sorteaMcd()
 {
-    // Neighbours have no common divisor, so that d alone is the gcd of the indices. From 6 on F(d)
-    // is larger than d, so that one cannot be taken for the other.
+    // From 6 on F(d) is larger than d, so that one cannot be taken for the other.
     const int d = AleatorioEntre(6, 12);
-    const int veces = AleatorioEntre(4, 9);
-    return cuestionMcd(d * veces, d * (veces + 1));
+    int una = 0;
+    int otra = 0;
+    do {
+        una = AleatorioEntre(3, 8);
+        otra = AleatorioEntre(3, 8);
+    } while (std::gcd(una, otra) != 1);
+    return cuestionMcd(d * una, d * otra);
 }
 
 Cuestion cuestionMcd(int m, int n)

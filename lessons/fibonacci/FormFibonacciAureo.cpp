@@ -65,10 +65,8 @@ void FormFibonacciAureo::cmdAureo_Click()
     ui->lblAvisoAureo->clear();
     const auto hasta = evaluaEnteroAcotado(ui->TxtHasta->text(), 2, MaximoDeCocientes);
     if (!hasta) {
-        muestraVeredicto(ui->lblAvisoAureo, false,
-                         Traduce(u"Escriba un número entero de 2 a %1."_s).arg(MaximoDeCocientes));
-        ui->TxtHasta->setFocus();
-        ui->TxtHasta->selectAll();
+        rechaza(ui->TxtHasta, ui->lblAvisoAureo,
+                Traduce(u"Escriba un número entero de 2 a %1."_s).arg(MaximoDeCocientes));
         return;
     }
     m_cocientes = cocientesFibonacci(*hasta);

@@ -75,12 +75,9 @@ std::optional<int> FormFibonacciIdentidades::lee(QLineEdit *campo)
 {
     const auto valor = evaluaEnteroAcotado(campo->text(), 1, MaximoDeIdentidades);
     if (!valor) {
-        muestraVeredicto(ui->lblAvisoIdentidades, false,
-                         Traduce(u"«%1» debe ser un número entero de 1 a %2."_s)
-                             .arg(campo->accessibleName())
-                             .arg(MaximoDeIdentidades));
-        campo->setFocus();
-        campo->selectAll();
+        rechaza(campo, ui->lblAvisoIdentidades,
+                Traduce(u"«%1» debe ser un número entero de 1 a %2."_s)
+                    .arg(campo->accessibleName(), formatoEntero(qint64{MaximoDeIdentidades})));
     }
     return valor;
 }

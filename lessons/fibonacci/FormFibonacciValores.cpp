@@ -106,11 +106,9 @@ void FormFibonacciValores::empieza()
         return;
     const auto n = evaluaEnteroAcotado(ui->TxtN->text(), 0, cotaDe(metodo()));
     if (!n) {
-        muestraVeredicto(ui->lblAviso, false,
-                         Traduce(u"Escriba un número entero de 0 a %1."_s)
-                             .arg(formatoEntero(qint64{cotaDe(metodo())})));
-        ui->TxtN->setFocus();
-        ui->TxtN->selectAll();
+        rechaza(ui->TxtN, ui->lblAviso,
+                Traduce(u"Escriba un número entero de 0 a %1."_s)
+                    .arg(formatoEntero(qint64{cotaDe(metodo())})));
         return;
     }
     calcula(metodo(), *n);

@@ -10,6 +10,7 @@
 #include "shell/Veredicto.h"
 #include "ui_FormFibonacciZeckendorf.h"
 
+#include <QTextOption>
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,13 +19,14 @@ namespace {
 
 const QString Maximo = u"1"_s + QString(200, u'0');
 
-/// The number that an expression stands for; empty for anything but a positive whole one.
+/// The number that an expression stands for; empty for anything but a positive whole one up to the
+/// bound. The notice of a bound does not come, for it would show all of its 201 digits.
 QString positivoDe(const QString &expresion)
 {
-    const QString valor = Evalua(QString(expresion), Maximo);
+    const QString valor = Evalua(QString(expresion));
     const bool esEntero =
         std::all_of(valor.begin(), valor.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-    return esEntero && valor != u"0"_s ? valor : QString();
+    return esEntero && valor != u"0"_s && !EsMayor(Maximo, valor) ? valor : QString();
 }
 
 } // namespace
@@ -41,6 +43,8 @@ FormFibonacciZeckendorf::FormFibonacciZeckendorf(QWidget *padre)
     ui->FlexPasos->setModel(&m_modelo);
     ui->FlexPasos->ponTextoVacio(Traduce(u"Aquí aparecerán los pasos, un sumando por fila"_s));
     new ColumnasRepartidas(ui->FlexPasos);
+    // A sum is read summand by summand, other than a single long number.
+    ui->txtSuma->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
 
     conecta(ui->cmdSiguiente, &QPushButton::clicked, this,
             &FormFibonacciZeckendorf::cmdSiguiente_Click);
@@ -82,10 +86,8 @@ bool FormFibonacciZeckendorf::hayNumero()
         return true;
     m_numero = positivoDe(ui->TxtNumero->text());
     if (m_numero.isEmpty()) {
-        muestraVeredicto(ui->lblAvisoZeckendorf, false,
-                         Traduce(u"Escriba un número entero positivo, hasta 10^200."_s));
-        ui->TxtNumero->setFocus();
-        ui->TxtNumero->selectAll();
+        rechaza(ui->TxtNumero, ui->lblAvisoZeckendorf,
+                Traduce(u"Escriba un número entero positivo, hasta 10^200."_s));
         return false;
     }
     m_pasos = representacionZeckendorf(m_numero);
@@ -103,6 +105,13 @@ void FormFibonacciZeckendorf::avanzaHasta(qsizetype pasos)
     m_modelo.ponFilas(filas);
     ui->FlexPasos->scrollToBottom();
     muestraSuma();
+}
+
+QString FormFibonacciZeckendorf::resumen() const
+{
+    if (m_pasos.size() == 1)
+        return Traduce(u"Es un número de Fibonacci."_s);
+    return Traduce(u"Completa: %1 sumandos, y no hay dos consecutivos."_s).arg(m_pasos.size());
 }
 
 void FormFibonacciZeckendorf::muestraSuma()
@@ -125,5 +134,7 @@ void FormFibonacciZeckendorf::muestraSuma()
     if (completa)
         texto += u" = "_s + nombres.join(u" + "_s);
     ui->txtSuma->setText(texto);
+    if (completa)
+        muestraVeredicto(ui->lblAvisoZeckendorf, true, resumen());
     ui->txtCodigo->setText(completa ? codigoZeckendorf(m_pasos) : QString());
 }

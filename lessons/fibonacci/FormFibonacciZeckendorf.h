@@ -27,6 +27,8 @@ private:
     bool hayNumero();
     void avanzaHasta(qsizetype pasos);
     void muestraSuma();
+    /// What is said of a representation that is complete.
+    QString resumen() const;
 
     std::unique_ptr<Ui::FormFibonacciZeckendorf> ui;
     ModeloFilas m_modelo;

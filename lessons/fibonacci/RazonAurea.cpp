@@ -2,8 +2,8 @@
 
 #include "bignum/ModBignum.h"
 #include "lessons/fibonacci/ValorEntero.h"
+#include "shell/Formatos.h"
 
-#include <QLocale>
 #include <cmath>
 #include <numbers>
 
@@ -62,5 +62,5 @@ QString textoDePotencia(double logaritmo)
         mantisa = 1;
         ++exponente;
     }
-    return QLocale().toString(mantisa, 'f', 2) + u" · 10"_s + enSuperindice(exponente);
+    return formatoDecimal(mantisa, 2) + u" · 10"_s + enSuperindice(exponente);
 }

@@ -73,7 +73,7 @@ FalloZeckendorf juzgaZeckendorf(const QString &suma, int n)
     qint64 total = 0;
     for (const QString &termino : suma.split(u'+')) {
         bool esEntero = false;
-        const qint64 valor = termino.trimmed().toInt(&esEntero);
+        const qint64 valor = Evalua(QString(termino)).toInt(&esEntero);
         if (!esEntero)
             return FalloZeckendorf::NoEsSuma;
         if (valor < 1 || indiceDe(valor) == 0)

@@ -25,11 +25,12 @@ QString codigoZeckendorf(const QList<PasoZeckendorf> &pasos);
 /// What is wrong with a sum given as an answer.
 enum class FalloZeckendorf {
     Ninguno,
-    NoEsSuma,      ///< something other than whole numbers joined by +
+    NoEsSuma,      ///< something other than small whole numbers joined by +
     NoEsFibonacci, ///< a summand is no Fibonacci number
     Consecutivos,  ///< two summands are neighbours or equal
     OtraSuma       ///< the sum is another number
 };
 
-/// Judges a sum such as "89 + 8 + 3", in any order, as the representation of n.
+/// Judges a sum such as "89 + 8 + 3", in any order, as the representation of n. A summand may be an
+/// expression without a plus sign, such as "fib(11)". Throws what Evalua throws.
 FalloZeckendorf juzgaZeckendorf(const QString &suma, int n);

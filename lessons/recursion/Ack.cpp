@@ -22,6 +22,7 @@ std::int32_t Ack::calcula(std::int32_t m, std::int32_t n)
         else if (!devuelve(valor, llamada))
             return valor;
     }
+    abandona();
     return 0;
 }
 
@@ -69,4 +70,15 @@ bool Ack::devuelve(std::int32_t valor, Llamada &siguiente)
         m_pila.pop_back();
     }
     return false;
+}
+
+/// The calls that wait all give 0, and leave it in their cells. There may be a million of them.
+void Ack::abandona()
+{
+    while (!m_pila.empty()) {
+        const Llamada llamada = m_pila.back().llamada;
+        m_pila.pop_back();
+        m_memoria.escribe(llamada.m, llamada.n, 0);
+        m_corrida.ceder();
+    }
 }

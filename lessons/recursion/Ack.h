@@ -23,8 +23,9 @@ public:
     {
     }
 
-    /// Ack(m, n), one yield a call; 0 when it was stopped, by the flag or by the cut-off. A call
-    /// makes room for itself in the memory before the cut-off looks at its arguments. Throws
+    /// Ack(m, n), one yield a call; 0 when it was stopped, by the flag or by the cut-off, and then
+    /// every call that was waiting has written a 0 too. A call makes room for itself in the memory
+    /// before the cut-off looks at its arguments. Throws
     /// ArgumentoNoValido for a negative argument, Desbordamiento when the memory has no room.
     std::int32_t calcula(std::int32_t m, std::int32_t n);
 
@@ -49,6 +50,7 @@ private:
     std::int32_t entra(Llamada llamada);
     Llamada aplaza(Llamada llamada);
     bool devuelve(std::int32_t valor, Llamada &siguiente);
+    void abandona();
 
     MemoriaAck &m_memoria;
     Corrida &m_corrida;

@@ -15,6 +15,7 @@ Capicua::Fin Capicua::busca(const QString &inicio, Corrida &corrida)
 {
     m_numSumas = 0;
     m_actual = Evalua(QString(inicio));
+    m_numeros = {m_actual};
     while (true) {
         const QChar primera = m_actual.isEmpty() ? QChar() : m_actual.front();
         if (primera < u'0' || primera > u'9')
@@ -28,5 +29,7 @@ Capicua::Fin Capicua::busca(const QString &inicio, Corrida &corrida)
         QString suma = m_actual + u'+' + inverso;
         m_actual = Evalua(suma);
         ++m_numSumas;
+        if (m_numeros.size() < NumerosGuardados)
+            m_numeros << m_actual;
     }
 }

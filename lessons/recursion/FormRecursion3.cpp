@@ -25,6 +25,9 @@ FormRecursión3::FormRecursión3(QWidget *padre)
     setWindowTitle(Traduce(u"Funciones recursivas"_s));
     setWindowIcon(Icono(u"FUNREC"_s));
     m_pestanas->setObjectName(u"SSTab1"_s);
+    // Tabs within a topic: without a frame of their own, which would stand in the frame of the
+    // topic.
+    m_pestanas->setDocumentMode(true);
     m_pestanas->setAccessibleName(Traduce(u"Funciones"_s));
     m_pestanas->tabBar()->setAccessibleName(m_pestanas->accessibleName());
     m_pestanas->addTab(m_ackermann, Traduce(u"Ackermann"_s));
@@ -33,7 +36,7 @@ FormRecursión3::FormRecursión3(QWidget *padre)
 
     auto *panel = new QWidget(this);
     auto *marco = new QVBoxLayout(panel);
-    marco->setContentsMargins(Aspecto::Margen, Aspecto::Espacio, Aspecto::Margen, Aspecto::Margen);
+    marco->setContentsMargins(0, Aspecto::Espacio, 0, 0);
     marco->addWidget(m_pestanas);
     agregaIntroduccion(u"Introducción"_s);
     agregaTema(u"Funciones"_s, u"funciones"_s, panel);

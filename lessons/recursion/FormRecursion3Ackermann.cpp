@@ -20,16 +20,11 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int FilasAlAbrir = 12;
-constexpr int ColumnasAlAbrir = 6;
+constexpr int ColumnasAlAbrir = 9;
 constexpr int NumFotogramas = 4;
 constexpr auto PasoDeAnimacion = 250ms;
 /// How often the grid and the call in progress are shown: calls pass by the million.
 constexpr auto PasoDePantalla = 50ms;
-
-QString textoDeLlamada(Ack::Llamada llamada)
-{
-    return u"Ack(%1, %2)"_s.arg(llamada.m).arg(llamada.n);
-}
 
 void conservaSuSitio(QWidget *control)
 {
@@ -129,7 +124,7 @@ void FormRecursion3Ackermann::calcula(Ack::Llamada llamada, std::int32_t corte)
         interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
                                Traduce(u"Demasiados cálculos."_s), Traduce(u"Me rindo"_s));
     }
-    muestraValor(llamada, valor);
+    ui->lblResultado->setText(textoDeValor(llamada, valor));
     vaACelda(llamada);
 }
 
@@ -149,13 +144,6 @@ void FormRecursion3Ackermann::muestraAvance()
 {
     m_modelo.publica();
     ui->txtAck->setText(textoDeLlamada(m_ack->actual()));
-}
-
-void FormRecursion3Ackermann::muestraValor(Ack::Llamada llamada, std::int32_t valor)
-{
-    ui->lblResultado->setText(valor > 0
-                                  ? u"%1 = %2"_s.arg(textoDeLlamada(llamada)).arg(valor)
-                                  : Traduce(u"%1: sin terminar"_s).arg(textoDeLlamada(llamada)));
 }
 
 void FormRecursion3Ackermann::vaACelda(Ack::Llamada llamada)

@@ -32,7 +32,6 @@ private:
     void calcula(Ack::Llamada llamada, std::int32_t corte);
     void termina();
     void muestraAvance();
-    void muestraValor(Ack::Llamada llamada, std::int32_t valor);
     void vaACelda(Ack::Llamada llamada);
 
     void cmdAck_Click();

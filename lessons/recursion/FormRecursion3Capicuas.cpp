@@ -1,5 +1,6 @@
 #include "lessons/recursion/FormRecursion3Capicuas.h"
 
+#include "lessons/recursion/FormRecursion3PintorDeNumeros.h"
 #include "shell/Aspecto.h"
 #include "shell/BotonDeCalculo.h"
 #include "shell/Evento.h"
@@ -8,6 +9,7 @@
 #include "shell/Textos.h"
 #include "ui_FormRecursion3Capicuas.h"
 
+#include <QHeaderView>
 #include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
@@ -23,13 +25,23 @@ const QColor ColorDeCapicua(192, 0, 0);
 } // namespace
 
 FormRecursion3Capicuas::FormRecursion3Capicuas(Corrida &corrida, QWidget *padre)
-    : QWidget(padre), ui(std::make_unique<Ui::FormRecursion3Capicuas>()), m_corrida(corrida)
+    : QWidget(padre),
+      ui(std::make_unique<Ui::FormRecursion3Capicuas>()),
+      m_corrida(corrida),
+      m_sumas(
+          {Traduce(u"Paso"_s), Traduce(u"Número"_s), Traduce(u"Invertido"_s), Traduce(u"Suma"_s)})
 {
     ui->setupUi(this);
     traduceVentana(this);
     muestraCalcular(ui->cmdCap);
     Aspecto::destaca(ui->lblPregunta, 1.15);
     ponColor(QApplication::palette().highlight().color());
+    ui->FlexCap->setModel(&m_sumas);
+    ui->FlexCap->setItemDelegate(new FormRecursion3PintorDeNumeros(this));
+    ui->FlexCap->setTextElideMode(Qt::ElideMiddle);
+    ui->FlexCap->ponTextoVacio(Traduce(u"Aquí aparecerán las sumas, las 200 primeras"_s));
+    ui->FlexCap->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    ui->FlexCap->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     m_pantalla.setInterval(PasoDePantalla);
 
     conecta(ui->cmdCap, &QPushButton::clicked, this, &FormRecursion3Capicuas::cmdCap_Click);
@@ -80,6 +92,7 @@ void FormRecursion3Capicuas::empieza()
     // An emptied field would disable the button that stops the run.
     ui->TxtCapInicial->setReadOnly(true);
     muestraDetener(ui->cmdCap);
+    m_sumas.ponFilas({});
     m_pantalla.start();
     muestraFin(m_capicua.busca(ui->TxtCapInicial->text(), m_corrida));
 }
@@ -106,9 +119,17 @@ void FormRecursion3Capicuas::muestraAvance()
     if (m_capicua.numSumas() == 0)
         return;
     ui->TxtCapFinal->setText(m_capicua.actual());
+    muestraSumas();
     ui->lblAvance->setText(
         Traduce(u"Sumas: %1 · Cifras: %2"_s)
             .arg(formatoEntero(m_capicua.numSumas()), formatoEntero(m_capicua.actual().size())));
+}
+
+void FormRecursion3Capicuas::muestraSumas()
+{
+    const QStringList &numeros = m_capicua.numeros();
+    for (qsizetype k = m_sumas.filas().size(); k + 1 < numeros.size(); ++k)
+        m_sumas.agrega({QString::number(k + 1), numeros[k], Inverso(numeros[k]), numeros[k + 1]});
 }
 
 void FormRecursion3Capicuas::muestraFin(Capicua::Fin fin)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lessons/recursion/Capicua.h"
+#include "shell/ModeloFilas.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -29,6 +30,7 @@ private:
     void termina();
     void ponColor(const QColor &color);
     void muestraAvance();
+    void muestraSumas();
     void muestraFin(Capicua::Fin fin);
 
     void cmdCap_Click();
@@ -37,6 +39,7 @@ private:
     std::unique_ptr<Ui::FormRecursion3Capicuas> ui;
     Corrida &m_corrida;
     Capicua m_capicua;
+    ModeloFilas m_sumas; ///< number, its reverse and their sum, step by step
     QTimer m_pantalla{this};
     bool m_calculando = false;
 };

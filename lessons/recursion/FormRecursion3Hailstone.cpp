@@ -1,6 +1,6 @@
 #include "lessons/recursion/FormRecursion3Hailstone.h"
 
-#include "bignum/ModBignum.h"
+#include "lessons/recursion/FormRecursion3PintorDeNumeros.h"
 #include "shell/Aspecto.h"
 #include "shell/BotonDeCalculo.h"
 #include "shell/Evento.h"
@@ -12,7 +12,7 @@
 #include <QHeaderView>
 #include <QScopeGuard>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -21,21 +21,8 @@ namespace {
 
 constexpr auto PasoDePantalla = 50ms;
 
-/// Draws the ends of a long number: measuring thousands of digits a cell would take longer than the
-/// steps between two pictures. Copying takes the whole.
-class PintorDeNumeros : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QString displayText(const QVariant &valor, const QLocale &) const override
-    {
-        constexpr int extremo = 200;
-        const QString texto = valor.toString();
-        return texto.size() <= 2 * extremo ? texto
-                                           : texto.left(extremo) + u'…' + texto.right(extremo);
-    }
-};
+/// The curve changes less from one picture to the next than the rows do, and takes longer to draw.
+constexpr auto PasoDeCurva = 250ms;
 
 } // namespace
 
@@ -51,7 +38,7 @@ FormRecursion3Hailstone::FormRecursion3Hailstone(Corrida &corrida, QWidget *padr
     Aspecto::destaca(ui->lblPregunta, 1.15);
     ui->LabelHail->viewport()->setAutoFillBackground(false);
     ui->FlexHail->setModel(&m_modelo);
-    ui->FlexHail->setItemDelegate(new PintorDeNumeros(this));
+    ui->FlexHail->setItemDelegate(new FormRecursion3PintorDeNumeros(this));
     ui->FlexHail->setTextElideMode(Qt::ElideMiddle);
     ui->FlexHail->ponTextoVacio(Traduce(u"Aquí aparecerá la sucesión, un paso por fila"_s));
     ui->FlexHail->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -59,11 +46,15 @@ FormRecursion3Hailstone::FormRecursion3Hailstone(Corrida &corrida, QWidget *padr
     cabecera->setSectionResizeMode(ModeloGranizo::Valor, QHeaderView::Stretch);
     cabecera->resizeSection(ModeloGranizo::Paso,
                             fontMetrics().horizontalAdvance(u"000000000000"_s));
+    ui->PicHail->ponTextoVacio(Traduce(u"Aquí se verá cómo suben y bajan los valores"_s));
     m_pantalla.setInterval(PasoDePantalla);
+    m_pantallaDeCurva.setInterval(PasoDeCurva);
 
     conecta(ui->cmdHail, &QPushButton::clicked, this, &FormRecursion3Hailstone::cmdHail_Click);
     conecta(ui->TxtInicial, &CampoLargo::returnPressed, this, &FormRecursion3Hailstone::empieza);
     conecta(&m_pantalla, &QTimer::timeout, this, &FormRecursion3Hailstone::muestraAvance);
+    conecta(&m_pantallaDeCurva, &QTimer::timeout, this, &FormRecursion3Hailstone::muestraCurva);
+    conecta(ui->PicHail, &Grafica::senalado, this, &FormRecursion3Hailstone::PicHail_Senalado);
 }
 
 FormRecursion3Hailstone::~FormRecursion3Hailstone() = default;
@@ -98,7 +89,9 @@ void FormRecursion3Hailstone::empieza()
     m_calculando = true;
     muestraDetener(ui->cmdHail);
     m_modelo.reinicia();
+    ui->PicHail->borra();
     m_pantalla.start();
+    m_pantallaDeCurva.start();
     const QString inicio = ui->TxtInicial->text().trimmed();
     muestraFin(inicio, correGranizo(inicio, m_historia, m_corrida));
 }
@@ -106,7 +99,9 @@ void FormRecursion3Hailstone::empieza()
 void FormRecursion3Hailstone::termina()
 {
     muestraAvance();
+    muestraCurva();
     m_pantalla.stop();
+    m_pantallaDeCurva.stop();
     m_calculando = false;
     muestraCalcular(ui->cmdHail);
 }
@@ -121,6 +116,26 @@ void FormRecursion3Hailstone::muestraAvance()
     ui->lblAvance->setText(Traduce(u"Paso: %1 · Cifras: %2"_s)
                                .arg(formatoEntero(m_historia.ultimo()),
                                     formatoEntero(m_historia.valor(m_historia.ultimo()).size())));
+}
+
+void FormRecursion3Hailstone::muestraCurva()
+{
+    m_puntos = m_historia.curva().puntos();
+    // One value alone would be a dot in a corner.
+    if (m_puntos.size() < 2)
+        return;
+    const QRectF limites(0, 0, m_puntos.constLast().x(), std::ceil(m_historia.curva().maximo()));
+    ui->PicHail->ponPuntos(m_puntos, limites);
+}
+
+/// A point of the curve shows its row; not during a run, when the last rows are in sight.
+void FormRecursion3Hailstone::PicHail_Senalado(int indice)
+{
+    if (indice < 0 || indice >= m_puntos.size() || m_calculando)
+        return;
+    const qint64 fila = std::llround(m_puntos[indice].x()) - m_historia.primero();
+    if (fila >= 0)
+        ui->FlexHail->setCurrentIndex(m_modelo.index(static_cast<int>(fila), ModeloGranizo::Valor));
 }
 
 void FormRecursion3Hailstone::muestraFin(const QString &inicio, FinDeGranizo fin)

@@ -29,14 +29,18 @@ private:
     void empieza();
     void termina();
     void muestraAvance();
+    void muestraCurva();
     void muestraFin(const QString &inicio, FinDeGranizo fin);
 
     void cmdHail_Click();
+    void PicHail_Senalado(int indice);
 
     std::unique_ptr<Ui::FormRecursion3Hailstone> ui;
     Corrida &m_corrida;
     HistoriaGranizo m_historia;
     ModeloGranizo m_modelo;
     QTimer m_pantalla{this};
+    QTimer m_pantallaDeCurva{this};
+    QList<QPointF> m_puntos; ///< of the curve in sight
     bool m_calculando = false;
 };

@@ -44,6 +44,7 @@ void HistoriaGranizo::agrega(const QString &valor)
 {
     ++m_ultimo;
     m_recientes.agrega(valor);
+    m_curva.agrega(valor);
     if ((m_ultimo - m_primerHito) % m_distancia == 0)
         guardaHito(valor);
     olvidaLoAntiguo();
@@ -73,7 +74,7 @@ void HistoriaGranizo::guardaHito(const QString &valor)
 {
     m_hitos.push_back(valor.toLatin1());
     m_bytes += m_hitos.back().size() + CosteDeHito;
-    while (m_bytes > MaximoDeBytes && m_hitos.size() > 2)
+    while (m_hitos.size() > 2 && (m_bytes > MaximoDeBytes || m_hitos.size() > MaximoDeHitos))
         aligera();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lessons/recursion/CurvaGranizo.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -19,6 +21,8 @@ public:
     static constexpr int MaximoDePasos = 1'000'000;
     /// The most memory that the values kept take, in bytes.
     static constexpr qint64 MaximoDeBytes = 32 * 1024 * 1024;
+    /// The most values that are kept: to thin out more at once would keep a click waiting.
+    static constexpr std::size_t MaximoDeHitos = 50'000;
 
     /// Forgets everything; step 0 is `inicio`.
     void reinicia(const QString &inicio);
@@ -33,6 +37,9 @@ public:
 
     /// The value of a step from the first to the last one kept.
     QString valor(qint64 paso) const;
+
+    /// The whole course of the sequence, of which this keeps the last steps.
+    const CurvaGranizo &curva() const { return m_curva; }
 
     /// How much memory the values kept take, in bytes.
     qint64 bytes() const { return m_bytes; }
@@ -58,6 +65,7 @@ private:
     qint64 m_primerHito = 0;
     std::deque<QByteArray> m_hitos;
     qint64 m_bytes = 0;
+    CurvaGranizo m_curva;
     Tramo m_recientes;
     mutable Tramo m_vistos;
 };

@@ -20,13 +20,18 @@ void MemoriaAck::hazSitio(std::int32_t m, std::int32_t n)
     m_filas = std::max(m_filas, n + 1);
 }
 
-std::int32_t MemoriaAck::lee(std::int32_t m, std::int32_t n) const
+std::int32_t MemoriaAck::casilla(std::int32_t m, std::int32_t n) const
 {
     const auto columna = static_cast<std::size_t>(m);
     const auto fila = static_cast<std::size_t>(n);
     if (columna >= m_valores.size() || fila >= m_valores[columna].size())
-        return 0;
+        return Vacia;
     return m_valores[columna][fila];
+}
+
+std::int32_t MemoriaAck::lee(std::int32_t m, std::int32_t n) const
+{
+    return std::max(std::int32_t{0}, casilla(m, n));
 }
 
 void MemoriaAck::escribe(std::int32_t m, std::int32_t n, std::int32_t valor)
@@ -36,7 +41,7 @@ void MemoriaAck::escribe(std::int32_t m, std::int32_t n, std::int32_t valor)
     if (columna >= m_valores.size())
         m_valores.resize(columna + 1);
     if (fila >= m_valores[columna].size())
-        m_valores[columna].resize(fila + 1);
+        m_valores[columna].resize(fila + 1, Vacia);
     m_valores[columna][fila] = valor;
 }
 

@@ -21,14 +21,22 @@ public:
     /// MaximoDeLineas, with the call in the detail.
     void hazSitio(std::int32_t m, std::int32_t n);
 
-    /// The value of a cell; 0, which the function never takes, when it is empty.
+    /// The value of a cell; 0, which the function never takes, when nothing is known: the cell is
+    /// empty or its call was given up.
     std::int32_t lee(std::int32_t m, std::int32_t n) const;
+
+    /// Whether anything was written into the cell, be it the 0 of a call that was given up.
+    bool escrita(std::int32_t m, std::int32_t n) const { return casilla(m, n) != Vacia; }
+
     void escribe(std::int32_t m, std::int32_t n, std::int32_t valor);
 
     /// Forgets the values and keeps the size.
     void vacia();
 
 private:
+    static constexpr std::int32_t Vacia = -1;
+    std::int32_t casilla(std::int32_t m, std::int32_t n) const;
+
     std::int32_t m_filas;
     std::int32_t m_columnas;
     std::vector<std::vector<std::int32_t>> m_valores;

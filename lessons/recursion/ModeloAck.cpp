@@ -1,6 +1,23 @@
 #include "lessons/recursion/ModeloAck.h"
 
+#include "shell/Aspecto.h"
+#include "shell/ModGlobal.h"
+
 #include <QBrush>
+
+using namespace Qt::Literals::StringLiterals;
+
+QString textoDeLlamada(Ack::Llamada llamada)
+{
+    return u"Ack(%1, %2)"_s.arg(llamada.m).arg(llamada.n);
+}
+
+QString textoDeValor(Ack::Llamada llamada, std::int32_t valor)
+{
+    const QString texto = textoDeLlamada(llamada);
+    return valor > 0 ? u"%1 = %2"_s.arg(texto).arg(valor)
+                     : Traduce(u"%1: sin terminar"_s).arg(texto);
+}
 
 ModeloAck::ModeloAck(const MemoriaAck &memoria, QObject *padre)
     : QAbstractTableModel(padre),
@@ -24,19 +41,23 @@ QVariant ModeloAck::data(const QModelIndex &indice, int papel) const
 {
     const int m = indice.column();
     const int n = indice.row();
+    const bool escrita = m_memoria.escrita(m, n);
+    const std::int32_t valor = m_memoria.lee(m, n);
     const bool destacada = m_destacada && m_destacada->m == m && m_destacada->n == n;
     switch (papel) {
-    case Qt::DisplayRole: {
-        const std::int32_t valor = m_memoria.lee(m, n);
-        return valor == 0 ? QVariant() : QString::number(valor);
-    }
+    case Qt::DisplayRole:
+        return escrita ? QString::number(valor) : QVariant();
+    case Qt::ToolTipRole:
+        return escrita ? textoDeValor({m, n}, valor) : QVariant();
     case Qt::TextAlignmentRole:
         return {Qt::AlignRight | Qt::AlignVCenter};
     case Qt::BackgroundRole:
         return destacada ? QBrush(QColor(0, 255, 255)) : QVariant();
-    // Cyan is bright in either theme, so its text is dark in both.
     case Qt::ForegroundRole:
-        return destacada ? QBrush(Qt::black) : QVariant();
+        // Cyan is bright in either theme, so its text is dark in both.
+        if (destacada)
+            return QBrush(Qt::black);
+        return valor == 0 ? QBrush(Aspecto::atenuado()) : QVariant();
     default:
         return {};
     }

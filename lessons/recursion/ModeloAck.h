@@ -3,10 +3,18 @@
 #include "lessons/recursion/Ack.h"
 
 #include <QAbstractTableModel>
+#include <QString>
 #include <optional>
 
-/// Shows the memory of Ackermann's function: m across, n down, empty where nothing is known. The
-/// memory grows while it is being filled; views hear of it by `publica`.
+/// A call as it is written: "Ack(2, 3)".
+QString textoDeLlamada(Ack::Llamada llamada);
+/// A call and its value: "Ack(2, 3) = 9"; of one that was given up, with the value 0, that it is
+/// unfinished.
+QString textoDeValor(Ack::Llamada llamada, std::int32_t valor);
+
+/// Shows the memory of Ackermann's function: m across, n down, empty where nothing was written, 0
+/// where a call was given up. The memory grows while it is being filled; views hear of it by
+/// `publica`.
 class ModeloAck : public QAbstractTableModel
 {
 public:

@@ -17,14 +17,6 @@ bool esEntero(QStringView texto)
 
 } // namespace
 
-std::optional<std::int32_t> evaluaPequeno(const QString &expresion, std::int32_t mayor)
-{
-    const QString valor = Evalua(QString(expresion), QString::number(mayor));
-    bool cabe = false;
-    const std::int32_t numero = esEntero(valor) ? valor.toInt(&cabe) : 0;
-    return cabe ? std::optional(numero) : std::nullopt;
-}
-
 std::optional<QString> evaluaGrande(const QString &expresion)
 {
     QString valor = Evalua(QString(expresion));

@@ -14,8 +14,11 @@ QList<Escena> escenasUnidades(int fila)
         return QList<Paso>{{u"txtNCayley"_s, n}, {operacion, {}}};
     };
     const auto grande = [](const QString &n, const QString &a) {
-        return QList<Paso>{
-            {u"txtNGrande"_s, n}, {u"txtAGrande"_s, a}, {u"cmdInverso"_s, {}}, {u"cmdFi"_s, {}}};
+        return QList<Paso>{{u"txtNGrande"_s, n},
+                           {u"txtAGrande"_s, a},
+                           {u"cmdInverso"_s, {}},
+                           {u"cmdFi"_s, {}},
+                           {u"cmdFactores"_s, {}}};
     };
     return {{u"unidades-introduccion"_s, fila, u"intro"_s},
             {u"unidades-grupo"_s, fila, unidades},

@@ -1,11 +1,12 @@
 #include "lessons/units/FormUnidades.h"
 
+#include "lessons/units/CuestionesUnidades.h"
 #include "lessons/units/FormUnidadesCayley.h"
-#include "lessons/units/FormUnidadesCuestiones.h"
 #include "lessons/units/FormUnidadesGrandes.h"
 #include "lessons/units/FormUnidadesGrupo.h"
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
+#include "shell/PanelCuestiones.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,5 +19,6 @@ FormUnidades::FormUnidades(QWidget *padre) : FormLeccion(u"Unidades.html"_s, pad
     agregaTema(u"Unidades"_s, u"unidades"_s, new FormUnidadesGrupo(this));
     agregaTema(u"Tabla de Cayley"_s, u"cayley"_s, new FormUnidadesCayley(this));
     agregaTema(u"Números grandes"_s, u"grandes"_s, new FormUnidadesGrandes(this));
-    agregaTema(u"Cuestiones"_s, u"cuestiones"_s, new FormUnidadesCuestiones(this));
+    agregaTema(u"Cuestiones"_s, u"cuestiones"_s,
+               new PanelCuestiones(sorteaDelGrupo, sorteaDeEuler, this));
 }

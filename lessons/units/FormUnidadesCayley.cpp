@@ -1,12 +1,14 @@
 #include "lessons/units/FormUnidadesCayley.h"
 
-#include "lessons/units/EntradaEntera.h"
 #include "lessons/units/FormUnidadesCasillas.h"
 #include "lessons/units/ModeloCayley.h"
 #include "shell/Aspecto.h"
+#include "shell/EnteroAcotado.h"
 #include "shell/Evento.h"
+#include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
 #include "shell/Textos.h"
+#include "shell/Veredicto.h"
 #include "ui_FormUnidadesCayley.h"
 
 #include <QEvent>
@@ -21,12 +23,13 @@ FormUnidadesCayley::FormUnidadesCayley(QWidget *leccion)
 {
     ui->setupUi(this);
     traduceVentana(this);
+    ui->cmdCayley->setIcon(Icono(u"CALCULAR"_s));
     Aspecto::destaca(ui->lblCelda, 1.1);
     m_modelo->ponOscuro(Aspecto::esOscuro());
     ui->FlexCayley->setModel(m_modelo);
     ui->FlexCayley->verticalHeader()->show();
     ui->FlexCayley->ponRotulosDeFilaEnCopia(true);
-    ui->FlexCayley->ponTextoVacio(Traduce(u"Escribe un módulo de 1 a 60 y pulsa «Mostrar»."_s));
+    ui->FlexCayley->ponTextoVacio(Traduce(u"Escriba un módulo de 1 a 60 y pulse «Mostrar»."_s));
     new FormUnidadesCasillas(ui->FlexCayley);
 
     conecta(ui->cmdCayley, &QPushButton::clicked, this, &FormUnidadesCayley::cmdCayley_Click);
@@ -55,14 +58,14 @@ void FormUnidadesCayley::cmdCayley_Click()
                            : ui->OptOperacion_1->isChecked() ? Operacion::Producto
                                                              : Operacion::Suma;
     m_modelo->pon(0, operacion);
-    const auto n = evaluaPequeno(ui->txtNCayley->text(), ModeloCayley::MayorModulo);
-    if (!n || *n < 1) {
-        ui->lblCelda->setText(Traduce(u"El módulo es un número entero de 1 a 60."_s));
-        ui->txtNCayley->setFocus();
+    const auto n = evaluaEnteroAcotado(ui->txtNCayley->text(), 1, ModeloCayley::MayorModulo);
+    if (!n) {
+        rechaza(ui->txtNCayley, ui->lblCelda,
+                Traduce(u"El módulo es un número entero de 1 a 60."_s));
         return;
     }
     m_modelo->pon(*n, operacion);
-    ui->lblCelda->setText(Traduce(u"Elige una casilla para leerla."_s));
+    muestraNeutro(ui->lblCelda, m_modelo->descripcion());
 }
 
 void FormUnidadesCayley::FlexCayley_CurrentChange(const QModelIndex &actual)

@@ -10,6 +10,7 @@
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
 #include "shell/Textos.h"
+#include "shell/Veredicto.h"
 #include "ui_FormUnidadesGrandes.h"
 
 #include <QScopeGuard>
@@ -37,6 +38,7 @@ FormUnidadesGrandes::FormUnidadesGrandes(QWidget *leccion)
 
     conecta(ui->cmdInverso, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdInverso_Click);
     conecta(ui->cmdFi, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdFi_Click);
+    conecta(ui->cmdFactores, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdFactores_Click);
     conecta(ui->cmdEjemplo, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdEjemplo_Click);
     for (const CampoLargo *campo : {ui->txtNGrande, ui->txtAGrande}) {
         conecta(campo, &CampoLargo::textoCambiado, this, &FormUnidadesGrandes::txtGrande_Change);
@@ -50,10 +52,11 @@ FormUnidadesGrandes::~FormUnidadesGrandes() = default;
 /// Results belong to the numbers that they were calculated from.
 void FormUnidadesGrandes::txtGrande_Change()
 {
-    ui->lblMcd->setText(Traduce(u"Escribe a y n y pulsa «Inverso»."_s));
-    ui->lblFi->setText(Traduce(u"Escribe n y pulsa «Función de Euler»."_s));
+    muestraNeutro(ui->lblMcd, Traduce(u"Escriba a y n y pulse «Inverso»."_s));
+    muestraNeutro(ui->lblFi, Traduce(u"Escriba n y pulse «Función de Euler» o «Paso a paso»."_s));
     ui->txtInverso->setText({});
     ui->txtFi->clear();
+    m_fi.clear();
 }
 
 /// The modulus that its field stands for; without one, the label tells what it has to be.
@@ -62,9 +65,11 @@ std::optional<QString> FormUnidadesGrandes::modulo(QLabel *rotulo)
     const auto n = evaluaGrande(ui->txtNGrande->text());
     if (n && !n->startsWith(u'-') && *n != u"0"_s && n->size() <= MayorNumeroDeCifras)
         return n;
-    rotulo->setText(
+    muestraVeredicto(
+        rotulo, false,
         Traduce(u"El módulo n es un número entero positivo de 1000 cifras como mucho."_s));
     ui->txtNGrande->setFocus();
+    ui->txtNGrande->selectAll();
     return {};
 }
 
@@ -82,44 +87,81 @@ void FormUnidadesGrandes::cmdInverso_Click()
         return;
     const auto a = elemento();
     if (!a) {
-        ui->lblMcd->setText(
+        muestraVeredicto(
+            ui->lblMcd, false,
             Traduce(u"El elemento a es un número entero de 2000 cifras como mucho."_s));
         ui->txtAGrande->setFocus();
+        ui->txtAGrande->selectAll();
         return;
     }
     const InversoGrande resultado = invierte(*a, *n);
     if (resultado.inverso.isEmpty()) {
-        ui->lblMcd->setText(Traduce(u"a no es una unidad, porque mcd(a, n) no es 1. Es este:"_s));
+        muestraNeutro(ui->lblMcd,
+                      Traduce(u"a no es una unidad, porque mcd(a, n) no es 1. Es este:"_s));
         ui->txtInverso->setText(resultado.mcd);
         return;
     }
-    ui->lblMcd->setText(Traduce(u"mcd(a, n) = 1: a es una unidad. Su inverso es:"_s));
+    muestraNeutro(ui->lblMcd, Traduce(u"mcd(a, n) = 1: a es una unidad. Su inverso es:"_s));
     ui->txtInverso->setText(resultado.inverso);
+}
+
+void FormUnidadesGrandes::anunciaEspera()
+{
+    muestraNeutro(ui->lblFi, Traduce(u"Buscando los factores de n… (puede tardar dos minutos)"_s));
+    ui->lblFi->repaint();
+    m_leccion->setCursor(Qt::WaitCursor);
 }
 
 void FormUnidadesGrandes::cmdFi_Click()
 {
     ui->txtFi->clear();
+    m_fi.clear();
     const auto n = modulo(ui->lblFi);
     if (!n)
         return;
-    ui->lblFi->setText(Traduce(u"Buscando los factores de n… (puede tardar dos minutos)"_s));
-    ui->lblFi->repaint();
-    m_leccion->setCursor(Qt::WaitCursor);
+    anunciaEspera();
+    const auto cursor = qScopeGuard([this] { m_leccion->unsetCursor(); });
+    const QString fi = FiEuler(*n);
+    if (fi == TextoError) {
+        muestraNeutro(ui->lblFi, Traduce(u"La biblioteca no encuentra todos los factores de n."_s));
+        return;
+    }
+    m_fi = fi;
+    ui->txtFi->setPlainText(u"φ(n) = "_s + fi);
+    muestraFi(*n, fi, Traduce(u"φ(n), según la biblioteca."_s));
+}
+
+void FormUnidadesGrandes::cmdFactores_Click()
+{
+    ui->txtFi->clear();
+    const auto n = modulo(ui->lblFi);
+    if (!n)
+        return;
+    anunciaEspera();
     const auto cursor = qScopeGuard([this] { m_leccion->unsetCursor(); });
     const FuncionEuler euler(*n);
     ui->txtFi->setPlainText(euler.pasos());
     if (euler.valor().isEmpty()) {
-        ui->lblFi->setText(Traduce(u"No se conocen todos los factores de n."_s));
+        muestraNeutro(ui->lblFi, Traduce(u"No se conocen todos los factores de n."_s));
         return;
     }
+    muestraFi(*n, euler.valor(),
+              euler.valor() == m_fi
+                  ? Traduce(u"φ(n), por factores: la misma que da la biblioteca."_s)
+                  : Traduce(u"φ(n), por factores."_s));
+}
+
+/// Adds to the label what Euler's theorem says of the element, where it says something.
+void FormUnidadesGrandes::muestraFi(const QString &n, const QString &fi, const QString &rotulo)
+{
     const auto a = elemento();
-    if (!a || Mcd(*a, *n) != u"1"_s) {
-        ui->lblFi->setText(Traduce(u"φ(n), paso a paso:"_s));
-        return;
-    }
-    ui->lblFi->setText(Traduce(u"φ(n), paso a paso. Teorema de Euler: a^φ(n) da %1 módulo n."_s)
-                           .arg(PotenciaMod(*a, euler.valor(), *n)));
+    const bool esUnidad = a && Mcd(*a, n) == u"1"_s;
+    muestraNeutro(
+        ui->lblFi,
+        esUnidad
+            ? rotulo + u' ' +
+                  Traduce(u"Teorema de Euler: a^φ(n) da %1 módulo n."_s).arg(PotenciaMod(*a, fi, n))
+            : rotulo);
 }
 
 void FormUnidadesGrandes::cmdEjemplo_Click()

@@ -11,8 +11,8 @@ namespace Ui {
 class FormUnidadesGrandes;
 }
 
-/// The topic "Números grandes": greatest common divisor, inverse and Euler's function for numbers
-/// of hundreds of digits.
+/// The topic "Números grandes": greatest common divisor, inverse and Euler's function, by the
+/// library and by factors, for numbers of hundreds of digits.
 class FormUnidadesGrandes : public QWidget
 {
     Q_OBJECT
@@ -24,12 +24,16 @@ public:
 private:
     std::optional<QString> modulo(QLabel *rotulo);
     std::optional<QString> elemento();
+    void anunciaEspera();
+    void muestraFi(const QString &n, const QString &fi, const QString &rotulo);
 
     void txtGrande_Change();
     void cmdInverso_Click();
     void cmdFi_Click();
+    void cmdFactores_Click();
     void cmdEjemplo_Click();
 
     std::unique_ptr<Ui::FormUnidadesGrandes> ui;
     QWidget *m_leccion;
+    QString m_fi; ///< the library's value for the number in the field; empty when it was not asked
 };

@@ -1,14 +1,18 @@
 #include "lessons/units/FormUnidadesGrupo.h"
 
+#include "bignum/ModBignum.h"
 #include "lessons/units/EntradaEntera.h"
 #include "lessons/units/ModeloPotencias.h"
 #include "lessons/units/ModeloUnidades.h"
 #include "lessons/units/ResumenUnidades.h"
 #include "shell/Aspecto.h"
 #include "shell/ColumnasRepartidas.h"
+#include "shell/EnteroAcotado.h"
 #include "shell/Evento.h"
+#include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
 #include "shell/Textos.h"
+#include "shell/Veredicto.h"
 #include "ui_FormUnidadesGrupo.h"
 
 #include <QHeaderView>
@@ -25,6 +29,8 @@ FormUnidadesGrupo::FormUnidadesGrupo(QWidget *leccion)
 {
     ui->setupUi(this);
     traduceVentana(this);
+    ui->cmdUnidades->setIcon(Icono(u"CALCULAR"_s));
+    ui->cmdPotencias->setIcon(Icono(u"CALCULAR"_s));
     Aspecto::destaca(ui->lblResumen, 1.1);
     ui->txtElemento->setMinimumWidth(fontMetrics().horizontalAdvance(u"0000000"_s));
     preparaRejillas();
@@ -49,11 +55,11 @@ void FormUnidadesGrupo::preparaRejillas()
     ui->FlexUnidades->setSortingEnabled(true);
     ui->FlexUnidades->sortByColumn(ModeloUnidades::Elemento, Qt::AscendingOrder);
     ui->FlexUnidades->ponTextoVacio(
-        Traduce(u"Escribe un módulo de 1 a 10000 y pulsa «Mostrar»."_s));
+        Traduce(u"Escriba un módulo de 1 a 10000 y pulse «Mostrar»."_s));
     new ColumnasRepartidas(ui->FlexUnidades);
     ui->FlexPotencias->setModel(m_potencias);
     ui->FlexPotencias->ponTextoVacio(
-        Traduce(u"Elige una unidad de la tabla, o escribe un elemento y pulsa «Potencias»."_s));
+        Traduce(u"Elija una unidad de la tabla, o escriba un elemento y pulse «Potencias»."_s));
     new ColumnasRepartidas(ui->FlexPotencias);
 }
 
@@ -61,14 +67,14 @@ void FormUnidadesGrupo::cmdUnidades_Click()
 {
     m_unidades->pon({});
     borraPotencias();
-    const auto n = evaluaPequeno(ui->txtN->text(), GrupoUnidades::MayorModulo);
-    if (!n || *n < 1) {
-        ui->lblResumen->setText(Traduce(u"El módulo es un número entero de 1 a 10000."_s));
-        ui->txtN->setFocus();
+    const auto n = evaluaEnteroAcotado(ui->txtN->text(), 1, GrupoUnidades::MayorModulo);
+    if (!n) {
+        rechaza(ui->txtN, ui->lblResumen,
+                Traduce(u"El módulo es un número entero de 1 a 10000."_s));
         return;
     }
     m_unidades->pon(GrupoUnidades(*n));
-    ui->lblResumen->setText(resumenDelGrupo(*m_unidades->grupo()));
+    muestraNeutro(ui->lblResumen, resumenDelGrupo(*m_unidades->grupo()));
     ui->FlexUnidades->scrollToTop();
 }
 
@@ -77,13 +83,12 @@ void FormUnidadesGrupo::cmdPotencias_Click()
     borraPotencias();
     if (!m_unidades->grupo())
         return;
-    const auto a = evaluaPequeno(ui->txtElemento->text(), 1'000'000'000);
-    if (a) {
-        muestraPotencias(*a);
+    const auto a = evaluaGrande(ui->txtElemento->text());
+    if (!a) {
+        rechaza(ui->txtElemento, ui->lblPotencias, Traduce(u"El elemento es un número entero."_s));
         return;
     }
-    ui->lblPotencias->setText(Traduce(u"El elemento es un número entero."_s));
-    ui->txtElemento->setFocus();
+    muestraPotencias(Modulo(*a, QString::number(m_unidades->grupo()->modulo())).toInt());
 }
 
 void FormUnidadesGrupo::FlexUnidades_CurrentChange(const QModelIndex &actual)
@@ -100,7 +105,7 @@ void FormUnidadesGrupo::muestraPotencias(std::int32_t a)
 {
     m_potencias->pon(m_unidades->grupo()->potencias(a));
     ui->FlexPotencias->scrollToTop();
-    ui->lblPotencias->setText(resumenDePotencias(*m_unidades->grupo(), a));
+    muestraNeutro(ui->lblPotencias, resumenDePotencias(*m_unidades->grupo(), a));
 }
 
 void FormUnidadesGrupo::borraPotencias()

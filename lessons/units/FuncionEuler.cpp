@@ -78,7 +78,12 @@ QString FuncionEuler::factorizacion() const
 
 QString FuncionEuler::formula() const
 {
-    return m_factores.isEmpty() ? m_valor : unidos(m_factores, formulaDe);
+    if (m_factores.isEmpty())
+        return m_valor;
+    const QString texto = unidos(m_factores, formulaDe);
+    // Of a prime the brackets would stand alone.
+    const bool esPrimo = m_factores.size() == 1 && m_factores.first().exponente == u"1"_s;
+    return esPrimo ? texto.sliced(1).chopped(1) : texto;
 }
 
 QString FuncionEuler::pasos() const

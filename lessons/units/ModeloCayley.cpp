@@ -1,6 +1,7 @@
 #include "lessons/units/ModeloCayley.h"
 
 #include "bignum/ErrorEjecucion.h"
+#include "lessons/units/NotacionZn.h"
 #include "shell/ModGlobal.h"
 
 #include <numeric>
@@ -63,6 +64,27 @@ QColor ModeloCayley::tinta(std::int32_t valor) const
 {
     const bool clara = m_oscuro != (valor == neutro());
     return clara ? 0xffffff : 0x172226;
+}
+
+QString ModeloCayley::descripcion() const
+{
+    QString texto;
+    switch (m_operacion) {
+    case Operacion::ProductoDeUnidades:
+        texto = Traduce(u"Producto de las unidades de Z%1, que son %2. Cada valor tiene su color; "
+                        u"el neutro, el %3, resalta en el cruce de cada unidad con su inversa."_s);
+        break;
+    case Operacion::Producto:
+        texto = Traduce(u"Producto en Z%1, de %2 elementos. Cada valor tiene su color; el neutro, "
+                        u"el %3, resalta, y falta en las filas de los que no son unidades."_s);
+        break;
+    case Operacion::Suma:
+        texto = Traduce(u"Suma en Z%1, de %2 elementos. Cada valor tiene su color; el neutro, el "
+                        u"%3, resalta en el cruce de cada elemento con su opuesto."_s);
+        break;
+    }
+    return texto.arg(subindice(m_n)).arg(m_elementos.size()).arg(neutro()) + u' ' +
+           Traduce(u"Elija una casilla para leerla."_s);
 }
 
 QString ModeloCayley::explicacion(const QModelIndex &indice) const

@@ -26,6 +26,9 @@ public:
 
     std::int32_t modulo() const { return m_n; }
 
+    /// What there is to see in the table, in a line or two; for a modulus of 1 or more.
+    QString descripcion() const;
+
     int rowCount(const QModelIndex &padre = {}) const override;
     int columnCount(const QModelIndex &padre = {}) const override;
     QVariant data(const QModelIndex &indice, int rol = Qt::DisplayRole) const override;

@@ -1,5 +1,6 @@
 #include "lessons/units/ResumenUnidades.h"
 
+#include "bignum/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/NotacionZn.h"
 #include "shell/Formatos.h"
@@ -16,17 +17,22 @@ QString cifras(std::int32_t n)
     return formatoEntero(qint64(n));
 }
 
-/// "14 = 2 · 7; φ(14) = (2 − 1) · (7 − 1) = 6"; of a number without factors the value alone.
+/// "φ(14) = 6, según la biblioteca. Por factores: 14 = 2 · 7; φ(14) = (2 − 1) · (7 − 1) = 6"; of a
+/// number without factors the library's value alone.
 QString lineaDeEuler(const GrupoUnidades &grupo)
 {
     const QString n = QString::number(grupo.modulo());
+    const QString segunBiblioteca =
+        Traduce(u"φ(%1) = %2, según la biblioteca."_s).arg(n, FiEuler(n));
     const FuncionEuler euler(n);
-    const QString fi = u"φ(%1) = "_s.arg(n);
     if (euler.factores().isEmpty())
-        return fi + euler.valor();
+        return segunBiblioteca;
     const QString factores = euler.factorizacion();
-    return (factores == n ? Traduce(u"%1 es primo"_s).arg(n) : n + u" = "_s + factores) + u"; "_s +
-           fi + euler.formula() + u" = "_s + euler.valor();
+    const QString descomposicion =
+        factores == n ? Traduce(u"%1 es primo"_s).arg(n) : n + u" = "_s + factores;
+    return segunBiblioteca + u' ' +
+           Traduce(u"Por factores: %1; φ(%2) = %3 = %4"_s)
+               .arg(descomposicion, n, euler.formula(), euler.valor());
 }
 
 QString lineaDeRaices(const GrupoUnidades &grupo)
@@ -57,11 +63,12 @@ QString resumenDePotencias(const GrupoUnidades &grupo, std::int32_t a)
     const std::int32_t n = grupo.modulo(), dentro = grupo.representante(a);
     const Unidad *unidad = grupo.unidad(a);
     if (!unidad)
-        return Traduce(u"%1 no es una unidad, porque mcd(%1, %2) = %3: ninguna de sus potencias "
-                       u"vuelve a ser 1."_s)
+        return Traduce(u"%1 no es una unidad, porque mcd(%1, %2) = %3: sus potencias no vuelven a "
+                       u"ser 1, y se repiten desde la de exponente %4."_s)
             .arg(dentro)
             .arg(n)
-            .arg(std::gcd(dentro, n));
+            .arg(std::gcd(dentro, n))
+            .arg(grupo.potencias(a).vuelta);
     if (grupo.esRaizPrimitiva(*unidad))
         return Traduce(u"%1 es una raíz primitiva: su orden es %2 y sus potencias son todas las "
                        u"unidades."_s)

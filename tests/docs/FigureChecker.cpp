@@ -96,3 +96,24 @@ FigureReport checkFigure(const QString &path)
     QXmlStreamReader xml(&file);
     return Figure(xml).read();
 }
+
+QStringList drawingOf(const QString &path)
+{
+    QStringList drawn;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return drawn;
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        QString element = xml.name().toString();
+        if (element != u"text" && element != u"tspan") {
+            const QXmlStreamAttributes attributes = xml.attributes();
+            for (const QXmlStreamAttribute &attribute : attributes)
+                element += u" %1=\"%2\""_s.arg(attribute.qualifiedName(), attribute.value());
+        }
+        drawn << element;
+    }
+    return drawn;
+}

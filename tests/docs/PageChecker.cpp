@@ -55,7 +55,7 @@ public:
         if (!m_titled)
             fault(u"no title"_s);
         if (!m_styled)
-            fault(u"estilo.css is not linked as type text/css"_s);
+            fault(m_checker.m_sheet + u" is not linked as type text/css"_s);
         if (m_heading == 0)
             fault(u"no heading"_s);
         return m_faults;
@@ -89,8 +89,8 @@ private:
             (m_open.contains(u"sup"_s) || m_open.contains(u"sub"_s)))
             fault(u"nested <sup> or <sub>"_s);
         checkCommon(attributes);
-        if (name == u"html" && attributes.value(u"lang"_s) != u"es")
-            fault(u"lang is not \"es\""_s);
+        if (name == u"html" && attributes.value(u"lang"_s) != m_checker.m_language)
+            fault(u"lang is not \"%1\""_s.arg(m_checker.m_language));
         else if (name == u"link")
             checkStyleSheet(attributes);
         else if (name == u"a")
@@ -124,7 +124,7 @@ private:
 
     void checkStyleSheet(const QXmlStreamAttributes &attributes)
     {
-        m_styled = m_styled || (attributes.value(u"href"_s) == u"estilo.css" &&
+        m_styled = m_styled || (attributes.value(u"href"_s) == m_checker.m_sheet &&
                                 attributes.value(u"type"_s) == u"text/css");
     }
 
@@ -181,14 +181,15 @@ private:
     bool m_styled = false;
 };
 
-PageChecker::PageChecker(const QString &folder) : m_folder(folder)
+PageChecker::PageChecker(const QString &folder, const QString &language, const QString &sheet)
+    : m_folder(folder), m_language(language), m_sheet(sheet)
 {
     static const QRegularExpression className(u"\\.([a-z][a-z0-9-]*)[^{}]*\\{"_s);
     static const QRegularExpression comment(u"/\\*.*?\\*/"_s,
                                             QRegularExpression::DotMatchesEverythingOption);
-    const QString sheet = readAll(folder + u"/estilo.css"_s).remove(comment);
+    const QString rules = readAll(folder + u'/' + sheet).remove(comment);
     for (qsizetype at = 0;;) {
-        const QRegularExpressionMatch match = className.match(sheet, at);
+        const QRegularExpressionMatch match = className.match(rules, at);
         if (!match.hasMatch())
             break;
         m_classes << match.captured(1);

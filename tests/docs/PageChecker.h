@@ -10,8 +10,10 @@
 class PageChecker
 {
 public:
-    /// `folder` holds the pages (*.html) and the style sheet estilo.css.
-    explicit PageChecker(const QString &folder);
+    /// `folder` holds the pages (*.html), all in the language of that ISO 639 code. `sheet` is the
+    /// path from there to the style sheet, as the pages must write it.
+    explicit PageChecker(const QString &folder, const QString &language = QStringLiteral("es"),
+                         const QString &sheet = QStringLiteral("estilo.css"));
 
     /// File names of the pages, sorted.
     QStringList pages() const;
@@ -19,18 +21,21 @@ public:
     /// What is wrong with one page, empty when it is fit. Each fault names its line.
     QStringList faults(const QString &page);
 
+    /// The ids of a page, or an empty set where there is no such page.
+    const QSet<QString> &anchors(const QString &page);
+
     /// Paths, relative to the folder, of the pictures that the pages checked so far show.
     QSet<QString> picturesShown() const { return m_pictures; }
 
 private:
     friend class PageReading;
 
-    /// The ids of a page, or an empty set where there is no such page.
-    const QSet<QString> &anchors(const QString &page);
     /// Whether the file exists under exactly this name, letter case included.
     bool exists(const QString &relativePath) const;
 
     QString m_folder;
+    QString m_language;
+    QString m_sheet;
     QSet<QString> m_classes;
     QSet<QString> m_pictures;
     QHash<QString, QSet<QString>> m_anchors;

@@ -1,48 +1,67 @@
 #include "FigureChecker.h"
+#include "NameChecker.h"
 #include "PageChecker.h"
+#include "TranslationChecker.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 #include <QtTest>
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 const QString kFolder = QStringLiteral(NUMORA_DOC_DIR);
-const QString kFigures = kFolder + u"/figuras"_s;
 
-QStringList figures()
+/// The folders of translated pages, named after their languages.
+QStringList translations()
 {
-    return QDir(kFigures).entryList({u"*.svg"_s}, QDir::Files, QDir::Name);
+    QStringList folders = QDir(kFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    folders.removeOne(u"figuras"_s);
+    return folders;
 }
 
-void write(const QString &path, const QString &text)
+/// The folders of pages, relative to the one of the Spanish pages, which is ".".
+QStringList folders()
+{
+    return QStringList{u"."_s} + translations();
+}
+
+PageChecker checkerOf(const QString &folder)
+{
+    if (folder == u".")
+        return PageChecker(kFolder);
+    return PageChecker(kFolder + u'/' + folder, languageOfFolder(folder), u"../estilo.css"_s);
+}
+
+QStringList figuresOf(const QString &folder)
+{
+    return QDir(kFolder + u'/' + folder + u"/figuras"_s)
+        .entryList({u"*.svg"_s}, QDir::Files, QDir::Name);
+}
+
+/// One row for each file of each folder, named after both.
+void addRows(const std::function<QStringList(const QString &folder)> &filesOf)
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("name");
+    for (const QString &folder : folders()) {
+        const QStringList names = filesOf(folder);
+        QVERIFY(!names.isEmpty());
+        for (const QString &name : names)
+            QTest::newRow(qPrintable(folder + u'/' + name)) << folder << name;
+    }
+}
+
+QString readAll(const QString &path)
 {
     QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text.toUtf8());
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
-
-QString svg(const QString &body)
-{
-    return uR"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="20" viewBox="0 0 40 20">)"_s
-           u"<title>t</title>%1</svg>"_s.arg(body);
-}
-
-QString page(const QString &head, const QString &body)
-{
-    return u"<!DOCTYPE html>\n<html lang=\"es\"><head>%1</head>\n<body>\n<h1 id=\"a\">T</h1>\n%2\n</body></html>"_s
-        .arg(head, body);
-}
-
-const QString kHead =
-    uR"(<title>T</title><link rel="stylesheet" type="text/css" href="estilo.css"/>)"_s;
 
 } // namespace
 
-/// The pages and figures that ship with the program, and, on pages made up here, that each kind of
-/// fault is found.
+/// The pages and figures that ship with the program, in all their languages.
 class TestPages : public QObject
 {
     Q_OBJECT
@@ -52,147 +71,95 @@ private Q_SLOTS:
     void pagesAreFit();
     void figuresAreFit_data();
     void figuresAreFit();
+    void everyFigureIsShown_data();
     void everyFigureIsShown();
-    void pageFaultsAreFound_data();
-    void pageFaultsAreFound();
-    void figureFaultsAreFound_data();
-    void figureFaultsAreFound();
+    void translationsAreComplete_data();
+    void translationsAreComplete();
+    void toolsAreNamedAsTheyAreCalled_data();
+    void toolsAreNamedAsTheyAreCalled();
 };
 
 void TestPages::pagesAreFit_data()
 {
-    QTest::addColumn<QString>("name");
-    const QStringList pages = PageChecker(kFolder).pages();
-    QVERIFY(!pages.isEmpty());
-    for (const QString &name : pages)
-        QTest::newRow(qPrintable(name)) << name;
+    addRows([](const QString &folder) { return checkerOf(folder).pages(); });
 }
 
 void TestPages::pagesAreFit()
 {
+    QFETCH(QString, folder);
     QFETCH(QString, name);
-    const QStringList faults = PageChecker(kFolder).faults(name);
+    const QStringList faults = checkerOf(folder).faults(name);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
 void TestPages::figuresAreFit_data()
 {
-    QTest::addColumn<QString>("name");
-    const QStringList names = figures();
-    QVERIFY(!names.isEmpty());
-    for (const QString &name : names)
-        QTest::newRow(qPrintable(name)) << name;
+    addRows(figuresOf);
 }
 
 void TestPages::figuresAreFit()
 {
+    QFETCH(QString, folder);
     QFETCH(QString, name);
-    const QStringList faults = checkFigure(kFigures + u'/' + name).faults;
+    const QString path = kFolder + u'/' + folder + u"/figuras/"_s + name;
+    const QStringList faults = checkFigure(path).faults;
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
+void TestPages::everyFigureIsShown_data()
+{
+    QTest::addColumn<QString>("folder");
+    for (const QString &folder : folders())
+        QTest::newRow(qPrintable(folder)) << folder;
 }
 
 void TestPages::everyFigureIsShown()
 {
-    PageChecker checker(kFolder);
+    QFETCH(QString, folder);
+    PageChecker checker = checkerOf(folder);
     const QStringList pages = checker.pages();
     for (const QString &name : pages)
         checker.faults(name);
-    const QStringList names = figures();
+    const QStringList names = figuresOf(folder);
     for (const QString &name : names)
         QVERIFY2(checker.picturesShown().contains(u"figuras/"_s + name), qPrintable(name));
 }
 
-void TestPages::pageFaultsAreFound_data()
+void TestPages::translationsAreComplete_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("fault"); // a part of the one fault expected, empty for none
-    const auto body = [](const char *row, const QString &text, const QString &fault) {
-        QTest::newRow(row) << page(kHead, text) << fault;
-    };
-    body(
-        "fit",
-        uR"(<p class="caja"><a href="otra.html#b">x</a> <a href="https://a.es/">y</a> <a href="#a">z</a>
-         <img src="f/f.svg" width="40" height="20" alt="t"/></p><h2>a</h2><h3>b</h3><h2>c</h2>)"_s,
-        QString());
-    body("page that is not there", u"<p><a href=\"nada.html\">x</a></p>"_s,
-         u"broken link: nada.html"_s);
-    body("letter case of a page", u"<p><a href=\"Otra.html\">x</a></p>"_s,
-         u"broken link: Otra.html"_s);
-    body("place that is not there", u"<p><a href=\"#b\">x</a></p>"_s, u"no such place: #b"_s);
-    body("place on another page", u"<p><a href=\"otra.html#a\">x</a></p>"_s,
-         u"no such place: otra.html#a"_s);
-    body("link out of the folder", u"<p><a href=\"../Doc/otra.html\">x</a></p>"_s,
-         u"broken link"_s);
-    body("link to the root", u"<p><a href=\"/etc/hosts\">x</a></p>"_s, u"broken link"_s);
-    body("http", u"<p><a href=\"http://a.es/\">x</a></p>"_s, u"not https"_s);
-    body("javascript", u"<p><a href=\"javascript:f()\">x</a></p>"_s, u"not https"_s);
-    body("picture that is not there", u"<p><img src=\"f/g.svg\" alt=\"t\"/></p>"_s,
-         u"missing picture: f/g.svg"_s);
-    body("letter case of a folder", u"<p><img src=\"F/f.svg\" alt=\"t\"/></p>"_s,
-         u"missing picture: F/f.svg"_s);
-    body("picture without alt",
-         u"<p><img src=\"f/f.svg\" width=\"40\" height=\"20\" alt=\" \"/></p>"_s,
-         u"alternative text"_s);
-    body("distorted picture",
-         u"<p><img src=\"f/f.svg\" width=\"40\" height=\"30\" alt=\"t\"/></p>"_s, u"is 40 by 20"_s);
-    body("skipped heading", u"<h3>x</h3>"_s, u"h3 after h1"_s);
-    body("two titles", u"<h1>x</h1>"_s, u"more than one h1"_s);
-    body("nested exponents", u"<p>2<sup>2<sup>n</sup></sup></p>"_s, u"nested"_s);
-    body("element unknown to the program", u"<figure>x</figure>"_s, u"<figure>"_s);
-    body("class without a rule", u"<p class=\"caja nada\">x</p>"_s, u"class \"nada\""_s);
-    body("inline style", u"<p style=\"color: black\">x</p>"_s, u"style="_s);
-    body("id twice", u"<p id=\"a\">x</p>"_s, u"used twice"_s);
-    body("self-closed element", u"<p/>"_s, u"<p/>"_s);
-    QTest::newRow("no title") << page(kHead.mid(kHead.indexOf(u"<link"_s)), QString())
-                              << u"no title"_s;
-    QTest::newRow("no style sheet") << page(u"<title>T</title>"_s, QString()) << u"estilo.css"_s;
-    QTest::newRow("no language") << page(kHead, QString()).remove(u" lang=\"es\""_s) << u"lang"_s;
-    QTest::newRow("not well-formed")
-        << page(kHead, QString()).replace(u"</h1>"_s, u"</h2>"_s) << u"mismatch"_s;
+    QTest::addColumn<QString>("folder");
+    for (const QString &folder : translations())
+        QTest::newRow(qPrintable(folder)) << folder;
 }
 
-void TestPages::pageFaultsAreFound()
+void TestPages::translationsAreComplete()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, fault);
-    QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkdir(u"f"_s));
-    write(folder.filePath(u"estilo.css"_s), u"/* .nada { */\n.caja { color: red; }"_s);
-    write(folder.filePath(u"otra.html"_s), u"<html><p id=\"b\">x</p></html>"_s);
-    write(folder.filePath(u"f/f.svg"_s), svg(QString()));
-    write(folder.filePath(u"esta.html"_s), text);
-
-    const QStringList faults = PageChecker(folder.path()).faults(u"esta.html"_s);
-    QCOMPARE(faults.size(), fault.isEmpty() ? 0 : 1);
-    QVERIFY2(faults.join(u' ').contains(fault), qPrintable(faults.join(u' ')));
+    QFETCH(QString, folder);
+    QVERIFY2(!languageOfFolder(folder).isEmpty(), qPrintable(folder));
+    const QStringList faults = translationFaults(kFolder, kFolder + u'/' + folder);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
-void TestPages::figureFaultsAreFound_data()
+void TestPages::toolsAreNamedAsTheyAreCalled_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("fault");
-    QTest::newRow("fit") << svg(u"<text font-family=\"sans-serif\">x</text>"_s) << QString();
-    QTest::newRow("filter") << svg(u"<filter id=\"f\"/>"_s) << u"<filter>"_s;
-    QTest::newRow("embedded page") << svg(u"<foreignObject/>"_s) << u"<foreignObject>"_s;
-    QTest::newRow("masked") << svg(u"<rect mask=\"url(#m)\"/>"_s) << u"mask="_s;
-    QTest::newRow("CSS class") << svg(u"<rect class=\"r\"/>"_s) << u"class="_s;
-    QTest::newRow("text without a face") << svg(u"<text>x</text>"_s) << u"font-family"_s;
-    QTest::newRow("no size") << svg(QString()).remove(u"width=\"40\" "_s) << u"whole pixels"_s;
-    QTest::newRow("scaled") << svg(QString()).replace(u"0 0 40"_s, u"0 0 80"_s) << u"viewBox"_s;
-    QTest::newRow("no title") << svg(QString()).remove(u"<title>t</title>"_s) << u"<title>"_s;
-    QTest::newRow("not well-formed") << svg(u"<g></g></g>"_s) << u"line 1"_s;
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("name");
+    for (const QString &folder : translations()) {
+        for (const QString &name : checkerOf(folder).pages())
+            QTest::newRow(qPrintable(folder + u'/' + name)) << folder << name;
+    }
 }
 
-void TestPages::figureFaultsAreFound()
+void TestPages::toolsAreNamedAsTheyAreCalled()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, fault);
-    QTemporaryDir folder;
-    const QString path = folder.filePath(u"f.svg"_s);
-    write(path, text);
-    const QStringList faults = checkFigure(path).faults;
-    QCOMPARE(faults.size(), fault.isEmpty() ? 0 : 1);
-    QVERIFY2(faults.join(u' ').contains(fault), qPrintable(faults.join(u' ')));
+    QFETCH(QString, folder);
+    QFETCH(QString, name);
+    const QString texts = kFolder + u"/../Numora.txt"_s;
+    QVERIFY(QFile::exists(texts));
+    const QStringList faults =
+        nameFaults(readAll(kFolder + u'/' + name), readAll(kFolder + u'/' + folder + u'/' + name),
+                   texts, folder);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
 QTEST_GUILESS_MAIN(TestPages)

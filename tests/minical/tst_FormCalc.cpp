@@ -12,7 +12,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-/// The window of the sheet by keys, mouse and buttons: editing, commands, precision, clipboard.
+/// The window of the sheet by mouse and buttons: commands, precision, clipboard, help.
 class TestFormCalc : public QObject
 {
     Q_OBJECT
@@ -60,66 +60,6 @@ private Q_SLOTS:
             control<QAbstractButton>(m->ventana(), QString::fromUtf8(QTest::currentDataTag()));
         QCOMPARE(boton->toolTip(), ayuda);
         QVERIFY(!boton->icon().isNull());
-    }
-
-    void escribirEmpiezaPorA1YReemplaza()
-    {
-        m->teclea(u"2+3"_s);
-        QCOMPARE(m->editor()->text(), u"2+3"_s);
-        m->pulsa(Qt::Key_Return);
-        QCOMPARE(m->texto(u"A1"), u"5"_s);
-        QCOMPARE(m->actual(), u"A2"_s);
-        m->ve(u"A1");
-        m->teclea(u"7"_s);
-        QCOMPARE(m->editor()->text(), u"7"_s);
-        m->pulsa(Qt::Key_Escape);
-        QVERIFY(!m->editor());
-        QCOMPARE(m->texto(u"A1"), u"5"_s);
-        QCOMPARE(m->actual(), u"A1"_s);
-    }
-
-    void F2CorrigeLaExpresion()
-    {
-        m->entra(u"B2", u"1/3"_s);
-        m->ve(u"B2");
-        m->pulsa(Qt::Key_F2);
-        QCOMPARE(m->editor()->text(), u"1/3"_s);
-        m->teclea(u"0"_s);
-        QCOMPARE(m->editor()->text(), u"1/30"_s);
-        m->pulsa(Qt::Key_Tab);
-        QCOMPARE(m->texto(u"B2"), u"1/30"_s);
-        QCOMPARE(m->actual(), u"C2"_s);
-        QVERIFY(m->rejilla()->hasFocus());
-    }
-
-    void adondeLlevanLasTeclas_data()
-    {
-        QTest::addColumn<Qt::Key>("tecla");
-        QTest::addColumn<bool>("mayusculas");
-        QTest::addColumn<QString>("destino");
-        QTest::newRow("Enter") << Qt::Key_Return << false << u"C4"_s;
-        QTest::newRow("Shift+Enter") << Qt::Key_Return << true << u"C2"_s;
-        QTest::newRow("Tab") << Qt::Key_Tab << false << u"D3"_s;
-        QTest::newRow("Shift+Tab") << Qt::Key_Backtab << true << u"B3"_s;
-        QTest::newRow("down") << Qt::Key_Down << false << u"C4"_s;
-        QTest::newRow("up") << Qt::Key_Up << false << u"C2"_s;
-    }
-    void adondeLlevanLasTeclas()
-    {
-        QFETCH(Qt::Key, tecla);
-        QFETCH(bool, mayusculas);
-        const Qt::KeyboardModifiers con = mayusculas ? Qt::ShiftModifier : Qt::NoModifier;
-        m->ve(u"C3");
-        m->teclea(u"6*7"_s);
-        m->pulsa(tecla, con);
-        QCOMPARE(m->texto(u"C3"), u"42"_s);
-        QTEST(m->actual(), "destino");
-        // The same without an edit.
-        m->ve(u"C3");
-        if (tecla != Qt::Key_Down && tecla != Qt::Key_Up) {
-            m->pulsa(tecla, con);
-            QTEST(m->actual(), "destino");
-        }
     }
 
     void borrarYDeshacer()
@@ -281,6 +221,37 @@ private Q_SLOTS:
         m->pulsa(Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(m->texto(u"Y99"), u"2"_s);
         QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"Parte de lo que"_s));
+    }
+
+    /// A block goes to the corner of what is selected, wherever the current cell stands in it; one
+    /// cell fills the selection.
+    void pegarEnLoElegido()
+    {
+        m->ve(u"C3");
+        m->pulsa(Qt::Key_Up, Qt::ShiftModifier);
+        m->pulsa(Qt::Key_Left, Qt::ShiftModifier);
+        QApplication::clipboard()->setText(u"1\t2"_s);
+        m->pulsa(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(m->texto(u"B2") + m->texto(u"C2") + m->texto(u"C3"), u"12"_s);
+        m->ve(u"B2");
+        m->pulsa(Qt::Key_Down, Qt::ShiftModifier);
+        m->pulsa(Qt::Key_Right, Qt::ShiftModifier);
+        QApplication::clipboard()->setText(u"7"_s);
+        m->pulsa(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(m->texto(u"B2") + m->texto(u"C2") + m->texto(u"B3") + m->texto(u"C3"), u"7777"_s);
+        QCOMPARE(m->texto(u"D4"), QString());
+    }
+
+    void cortarYPegar()
+    {
+        m->entra(u"A1", u"1/2+1/4"_s);
+        m->ve(u"A1");
+        m->pulsa(Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(m->texto(u"A1"), QString());
+        m->ve(u"B5");
+        m->pulsa(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(m->texto(u"B5"), u"3/4"_s);
+        QCOMPARE(m->indice(u"B5").data(Qt::EditRole).toString(), u"1/2+1/4"_s);
     }
 
     void unPegadoLargoSeDetiene()

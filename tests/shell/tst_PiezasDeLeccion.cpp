@@ -1,4 +1,5 @@
 #include "shell/EnteroAcotado.h"
+#include "shell/Formatos.h"
 #include "shell/ModeloFilas.h"
 #include "shell/PanelCuestiones.h"
 #include "shell/TextoDeDuracion.h"
@@ -7,7 +8,9 @@
 #include <QAbstractItemModelTester>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
+#include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -78,13 +81,23 @@ private Q_SLOTS:
         QTest::newRow("rounds up to the next unit") << 999.7 << u"1,00 µs"_s;
         QTest::newRow("rounds up to two digits") << 9.996e3 << u"10,0 µs"_s;
         QTest::newRow("ms") << 123.4e6 << u"123 ms"_s;
-        QTest::newRow("no unit beyond seconds") << 7200e9 << u"7200 s"_s;
+        QTest::newRow("no unit beyond seconds") << 7200e9 << u"7.200 s"_s;
     }
     void duraciones()
     {
         QFETCH(double, ns);
-        QString texto = textoDeDuracion(ns);
-        QTEST(texto.remove(u'.'), "texto");
+        QTEST(textoDeDuracion(ns), "texto");
+    }
+
+    /// Decimals have a comma on a desktop of any language.
+    void decimalesEnOtroIdioma()
+    {
+        const QLocale deAntes;
+        const auto alFinal = qScopeGuard([&] { QLocale::setDefault(deAntes); });
+        QLocale::setDefault(QLocale::C);
+        QCOMPARE(textoDeDuracion(5.341e6), u"5,34 ms"_s);
+        QCOMPARE(formatoDecimal(-0.25, 3), u"-0,250"_s);
+        QCOMPARE(formatoDecimal(1234.4, 0), formatoEntero(1234));
     }
 
     /// Two sums, of which the second is drawn anew each time.
@@ -117,6 +130,27 @@ private Q_SLOTS:
         QCOMPARE(control<QLabel>(&panel, u"lblEnunciado_1"_s)->text(), u"Seis, vez 2"_s);
         QCOMPARE(control<QLabel>(&panel, u"lblEnunciado_0"_s)->text(), u"Seis, vez 0"_s);
         QCOMPARE(respuesta->text() + veredicto->text(), QString());
+        // What the lessons print can be given as an answer.
+        respuesta->setText(u" 2 · F(11) − F (3)×fib(4) "_s);
+        comprobar->click();
+        QCOMPARE(veredicto->text(), u"✗ Palabra: 2 * fib(11) - fib(3)*fib(4)"_s);
+    }
+
+    void otraCuestionEsOtra()
+    {
+        int sorteos = 0;
+        const auto deTresEnTres = [&] {
+            return Cuestion{u"Cuestión %1"_s.arg(sorteos++ / 3), {}, {}};
+        };
+        const auto siempreIgual = [] { return Cuestion{u"La misma"_s, {}, {}}; };
+        PanelCuestiones panel(deTresEnTres, siempreIgual, nullptr);
+        for (int vez = 0; vez < 3; ++vez) {
+            const QString antes = control<QLabel>(&panel, u"lblEnunciado_0"_s)->text();
+            control<QPushButton>(&panel, u"cmdOtra_0"_s)->click();
+            QVERIFY(control<QLabel>(&panel, u"lblEnunciado_0"_s)->text() != antes);
+        }
+        control<QPushButton>(&panel, u"cmdOtra_1"_s)->click();
+        QCOMPARE(control<QLabel>(&panel, u"lblEnunciado_1"_s)->text(), u"La misma"_s);
     }
 };
 

@@ -37,7 +37,11 @@ private Q_SLOTS:
         QTest::newRow("memory 92")
             << FormaDeCalculo::ConMemoria << 92 << qint64{7540113804746346429} << qint64{183};
         QTest::newRow("iterative 20")
-            << FormaDeCalculo::Iterativa << 20 << qint64{6765} << qint64{20};
+            << FormaDeCalculo::Iterativa << 20 << qint64{6765} << qint64{19};
+        QTest::newRow("iterative 0") << FormaDeCalculo::Iterativa << 0 << qint64{0} << qint64{0};
+        // The next one no longer fits 64 bits and must not be formed.
+        QTest::newRow("iterative 92")
+            << FormaDeCalculo::Iterativa << 92 << qint64{7540113804746346429} << qint64{91};
     }
     void medidas()
     {
@@ -84,6 +88,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("llamadas");
         QTest::addColumn<int>("repetidas");
         QTest::addColumn<int>("filas");
+        QTest::newRow("0") << 0 << false << 1 << 0 << 1;
         QTest::newRow("1") << 1 << false << 1 << 0 << 1;
         QTest::newRow("5") << 5 << false << 15 << 9 << 5;
         QTest::newRow("10") << 10 << false << 177 << 166 << 10;
@@ -167,6 +172,7 @@ private Q_SLOTS:
         QTest::newRow("calls without the first") << u"L176"_s << false << u"primera"_s;
         QTest::newRow("last calls") << u"L89"_s << false << u"no hacen otras"_s;
         QTest::newRow("calls, other") << u"L100"_s << false << u"L(n)"_s;
+        QTest::newRow("calls, beyond 64 bits") << u"L10^30"_s << false << u"L(n)"_s;
         QTest::newRow("calls, no number") << u"Lmuchas"_s << false << u"entero"_s;
         QTest::newRow("moves") << u"H2^7"_s << true << u"doble"_s;
         QTest::newRow("all moves") << u"H1023"_s << false << u"todos"_s;

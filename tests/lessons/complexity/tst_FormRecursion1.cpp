@@ -48,7 +48,7 @@ private Q_SLOTS:
         QCOMPARE(celda(u"FlexMedidas"_s, 13, 1), u"377"_s);
         QCOMPARE(celda(u"FlexMedidas"_s, 13, 2), u"1.219"_s);
         QCOMPARE(celda(u"FlexMedidas"_s, 13, 4), u"27"_s);
-        QCOMPARE(celda(u"FlexMedidas"_s, 13, 6), u"14"_s);
+        QCOMPARE(celda(u"FlexMedidas"_s, 13, 6), u"13"_s);
         control<QRadioButton>(m_ventana.get(), u"optLlamadas"_s)->click();
         auto *grafica = control<Grafica>(m_ventana.get(), u"PicCrecimiento"_s);
         QCOMPARE(grafica->encuadre().visible(), QRectF(0, 0, 14, 4));
@@ -80,6 +80,8 @@ private Q_SLOTS:
         QVERIFY(texto(u"lblAvance"_s).startsWith(u"✗"_s));
         QCOMPARE(Entorno::grabadora().mensajes.size(), aviso ? 1 : 0);
         Entorno::grabadora().mensajes.clear();
+        control<QLineEdit>(m_ventana.get(), u"TxtHasta"_s)->setText(u"5"_s);
+        QCOMPARE(texto(u"lblAvance"_s), QString());
     }
 
     void seDetiene()
@@ -127,9 +129,32 @@ private Q_SLOTS:
         QVERIFY(texto(u"lblLeyenda"_s).startsWith(u"9 llamadas, de las que 3 "_s));
     }
 
+    void leyendasDelArbol_data()
+    {
+        QTest::addColumn<int>("n");
+        QTest::addColumn<QString>("leyenda");
+        QTest::newRow("0") << 0 << u"Una llamada: es un caso base."_s;
+        QTest::newRow("1") << 1 << u"Una llamada: es un caso base."_s;
+        QTest::newRow("2") << 2 << u"3 llamadas, y ningún valor se pide dos veces."_s;
+        QTest::newRow("3") << 3
+                           << u"5 llamadas, de las que una pide un valor ya pedido antes "
+                              u"(borde discontinuo)."_s;
+        QTest::newRow("10") << 10
+                            << u"177 llamadas, de las que 166 piden un valor ya pedido antes "
+                               u"(borde discontinuo)."_s;
+    }
+    void leyendasDelArbol()
+    {
+        QFETCH(int, n);
+        control<QSpinBox>(m_ventana.get(), u"SpinN"_s)->setValue(n);
+        QTEST(texto(u"lblLeyenda"_s), "leyenda");
+    }
+
     void torresDeHanoi()
     {
         auto *discos = control<QSpinBox>(m_ventana.get(), u"SpinDiscos"_s);
+        discos->setValue(1);
+        QCOMPARE(texto(u"lblMovimiento"_s), u"Con un disco basta un movimiento."_s);
         discos->setValue(3);
         QVERIFY(!boton(u"cmdAnterior"_s)->isEnabled());
         pulsa(u"cmdSiguienteMovimiento"_s);

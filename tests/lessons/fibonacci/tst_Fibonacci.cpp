@@ -33,7 +33,7 @@ private Q_SLOTS:
             << MetodoFibonacci::Definicion << QList<int>{0, 1, 2, 3, 10, 25};
         QTest::newRow("iteration") << MetodoFibonacci::Iteracion << grandes;
         QTest::newRow("doubling") << MetodoFibonacci::Duplicacion
-                                  << (grandes + QList<int>{100'000});
+                                  << (grandes + QList<int>{100'000, 117'591, 117'592});
     }
     void losTresMetodosCoinciden()
     {
@@ -165,6 +165,7 @@ private Q_SLOTS:
         QTest::addColumn<FalloZeckendorf>("fallo");
         QTest::newRow("right") << u"89 + 8 + 3"_s << FalloZeckendorf::Ninguno;
         QTest::newRow("any order") << u"3+89+8"_s << FalloZeckendorf::Ninguno;
+        QTest::newRow("expressions") << u"fib(11) + 2^3 + fib(4)"_s << FalloZeckendorf::Ninguno;
         QTest::newRow("neighbours") << u"55 + 34 + 8 + 3"_s << FalloZeckendorf::Consecutivos;
         QTest::newRow("1 and 2 are neighbours")
             << u"89 + 8 + 2 + 1"_s << FalloZeckendorf::Consecutivos;
@@ -173,6 +174,8 @@ private Q_SLOTS:
         QTest::newRow("not Fibonacci") << u"90 + 10"_s << FalloZeckendorf::NoEsFibonacci;
         QTest::newRow("zero") << u"89 + 8 + 3 + 0"_s << FalloZeckendorf::NoEsFibonacci;
         QTest::newRow("negative") << u"144 + -44"_s << FalloZeckendorf::NoEsFibonacci;
+        QTest::newRow("difference") << u"89 + 13-2"_s << FalloZeckendorf::NoEsFibonacci;
+        QTest::newRow("fraction") << u"89 + 8 + 6/4"_s << FalloZeckendorf::NoEsSuma;
         QTest::newRow("empty summand") << u"89 + + 3"_s << FalloZeckendorf::NoEsSuma;
         QTest::newRow("words") << u"ochenta"_s << FalloZeckendorf::NoEsSuma;
         QTest::newRow("beyond 32 bits") << u"99999999999"_s << FalloZeckendorf::NoEsSuma;
@@ -211,6 +214,8 @@ private Q_SLOTS:
         QVERIFY(cuestion.enunciado.contains(u"F(48) y F(60)"_s));
         QVERIFY(cuestion.juzga(u"144"_s).acertada);
         QVERIFY(cuestion.juzga(u"fib(12)"_s).acertada);
+        QCOMPARE(cuestion.juzga(u"144"_s).palabra,
+                 u"¡Correcto! Es F(12) = 144, porque mcd(48, 60) = 12."_s);
         const Juicio losIndices = cuestion.juzga(u"12"_s);
         QVERIFY(!losIndices.acertada && losIndices.palabra.contains(u"índices"_s));
         for (const QString &mala : {u"145"_s, u"12+"_s, u"1/0"_s, u"144/5"_s})
@@ -221,7 +226,11 @@ private Q_SLOTS:
     {
         QSet<QString> vistas;
         for (int i = 0; i < 50; ++i) {
-            vistas << sorteaZeckendorf().enunciado;
+            const Cuestion suma = sorteaZeckendorf();
+            vistas << suma.enunciado;
+            static const QRegularExpression numero(u"\\d+"_s);
+            const QString n = numero.match(suma.enunciado).captured();
+            QVERIFY2(!suma.juzga(n).acertada, qPrintable(suma.enunciado));
             const Cuestion cuestion = sorteaMcd();
             vistas << cuestion.enunciado;
             static const QRegularExpression indice(u"F\\((\\d+)\\) y F\\((\\d+)\\)"_s);
@@ -231,7 +240,7 @@ private Q_SLOTS:
                 u"mcd(fib(%1);fib(%2))"_s.arg(hallado.captured(1), hallado.captured(2));
             QVERIFY2(cuestion.juzga(respuesta).acertada, qPrintable(cuestion.enunciado));
         }
-        QVERIFY(vistas.size() > 20);
+        QVERIFY(vistas.size() > 60);
     }
 };
 

@@ -140,6 +140,27 @@ private Q_SLOTS:
         QTEST(prueba.memoria.columnas(), "columnas");
     }
 
+    /// The calls that waited leave a 0; the one that was refused leaves its cell empty, and what
+    /// was found before stays.
+    void loQueQuedaTrasElCorte()
+    {
+        Prueba prueba(6);
+        QCOMPARE(prueba.ack.calcula(2, 3), 0);
+        // Ack(2, 2) = Ack(1, 5), which waits for Ack(1, 4) = 6 and then asks for Ack(0, 6) = 7;
+        // Ack(2, 3) = Ack(1, 7) is refused.
+        QCOMPARE(prueba.memoria.lee(2, 2), 7);
+        QVERIFY(prueba.memoria.escrita(2, 3));
+        QCOMPARE(prueba.memoria.lee(2, 3), 0);
+        QVERIFY(!prueba.memoria.escrita(1, 7));
+        ModeloAck modelo(prueba.memoria);
+        QCOMPARE(modelo.index(3, 2).data().toString(), u"0"_s);
+        QCOMPARE(modelo.index(7, 1).data(), QVariant());
+        // The memory counts a 0 as not known: with more room the same call comes to its end.
+        prueba.corrida.permitir();
+        Ack otra(prueba.memoria, prueba.corrida, 100);
+        QCOMPARE(otra.calcula(2, 3), 9);
+    }
+
     void unMillonDeFilas()
     {
         Prueba prueba(INT_MAX);

@@ -1,6 +1,7 @@
 #include "lessons/recursion/FormRecursion3.h"
 #include "shell/CampoLargo.h"
 #include "shell/Dibujo.h"
+#include "shell/Grafica.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QBrush>
@@ -144,6 +145,19 @@ private Q_SLOTS:
         enReposo(u"cmdHail"_s);
     }
 
+    /// A point of the curve leads to the row of its step.
+    void laCurvaDelGranizo()
+    {
+        control<QTabWidget>(m_ventana, u"SSTab1"_s)->setCurrentIndex(1);
+        auto *curva = control<Grafica>(m_ventana, u"PicHail"_s);
+        largo(u"TxtInicial"_s)->setText(u"27"_s);
+        boton(u"cmdHail"_s)->click();
+        for (int i = 0; i <= 77; ++i)
+            QTest::keyClick(curva, Qt::Key_Right);
+        QCOMPARE(curva->puntoSenalado(), 77);
+        QCOMPARE(rejilla(u"FlexHail"_s)->currentIndex().data().toString(), u"9232"_s);
+    }
+
     void capicuas()
     {
         const auto *resultado = largo(u"TxtCapFinal"_s);
@@ -156,6 +170,12 @@ private Q_SLOTS:
         QCOMPARE(resultado->text(), u"8813200023188"_s);
         QCOMPARE(resultado->palette().color(QPalette::Text), QColor(192, 0, 0));
         enReposo(u"cmdCap"_s);
+        const auto *sumas = rejilla(u"FlexCap"_s)->model();
+        QCOMPARE(sumas->rowCount(), 24);
+        QCOMPARE(sumas->index(1, 1).data().toString() + u'+' +
+                     sumas->index(1, 2).data().toString() + u'=' +
+                     sumas->index(1, 3).data().toString(),
+                 u"187+781=968"_s);
         largo(u"TxtCapInicial"_s)->setText(u"abc"_s);
         boton(u"cmdCap"_s)->click();
         QCOMPARE(resultado->text(), u"8813200023188"_s);

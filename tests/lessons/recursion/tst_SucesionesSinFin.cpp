@@ -75,6 +75,35 @@ private Q_SLOTS:
         QCOMPARE(historia.valor(1), u"Error"_s);
     }
 
+    void curvaCorta()
+    {
+        CurvaGranizo curva;
+        QVERIFY(curva.puntos().isEmpty());
+        for (const QString &valor : {u"-100"_s, u"Error"_s, u"0"_s, u"1"_s + QString(30, u'0')})
+            curva.agrega(valor);
+        QCOMPARE(curva.puntos(), QList<QPointF>({{0, 2}, {3, 30}}));
+        QCOMPARE(curva.maximo(), 30.0);
+    }
+
+    /// However long the run: few points, evenly spaced, the last one and the height of the highest
+    /// among them.
+    void curvaLarga()
+    {
+        CurvaGranizo curva;
+        constexpr int pasos = 100'003;
+        for (int k = 0; k < pasos; ++k)
+            curva.agrega(k == 77'777 ? u"100000"_s : u"10"_s);
+        const QList<QPointF> puntos = curva.puntos();
+        QVERIFY(puntos.size() > CurvaGranizo::MaximoDePuntos / 3);
+        QVERIFY(puntos.size() <= CurvaGranizo::MaximoDePuntos);
+        QCOMPARE(puntos.constFirst(), QPointF(0, 1));
+        QCOMPARE(puntos.constLast(), QPointF(pasos - 1, 1));
+        QCOMPARE(curva.maximo(), 5.0);
+        const double distancia = puntos[1].x();
+        for (qsizetype i = 1; i + 1 < puntos.size(); ++i)
+            QCOMPARE(puntos[i].x(), distancia * static_cast<double>(i));
+    }
+
     /// A number of 2000 digits: its values take more room than there is, and come back right.
     void historiaLarga()
     {

@@ -52,7 +52,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("n");
         QTest::addColumn<QString>("pasos");
         QTest::newRow("one") << u"1"_s << u"n = 1\nφ(n) = 1"_s;
-        QTest::newRow("prime") << u"13"_s << u"n = 13\nφ(n) = (13 − 1)\nφ(n) = 12"_s;
+        QTest::newRow("prime") << u"13"_s << u"n = 13\nφ(n) = 13 − 1\nφ(n) = 12"_s;
         QTest::newRow("square") << u"49"_s << u"n = 7^2\nφ(n) = 7·(7 − 1)\nφ(n) = 42"_s;
         QTest::newRow("several") << u"360"_s
                                  << u"n = 2^3 · 3^2 · 5\nφ(n) = φ(2^3) · φ(3^2) · φ(5)\n"

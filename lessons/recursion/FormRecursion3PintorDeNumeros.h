@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+/// Draws the ends of a long number in a cell: measuring thousands of digits a cell would take
+/// longer than the steps between two pictures. Copying takes the whole.
+class FormRecursion3PintorDeNumeros : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant &valor, const QLocale &) const override;
+};

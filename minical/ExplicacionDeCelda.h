@@ -1,0 +1,16 @@
+#pragma once
+
+#include "minical/Celda.h"
+
+#include <QString>
+
+class HojaDeCalculo;
+
+/// Why a cell shows "Error", in one sentence for the student: a name that has no value, a bracket
+/// too few, what such a result usually means. Looks at the texts alone and evaluates nothing, so
+/// that it may be asked for whenever the pointer rests on a cell.
+QString motivoDeError(const HojaDeCalculo &hoja, Celda celda);
+
+/// What does not show in a cell itself: why it is an error, how many digits its value has. Empty
+/// where there is nothing to say.
+QString explicacionDeCelda(const HojaDeCalculo &hoja, Celda celda);

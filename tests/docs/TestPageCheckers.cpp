@@ -1,0 +1,233 @@
+#include "FigureChecker.h"
+#include "NameChecker.h"
+#include "PageChecker.h"
+#include "TranslationChecker.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void write(const QString &path, const QString &text)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text.toUtf8());
+}
+
+QString svg(const QString &body)
+{
+    return uR"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="20" viewBox="0 0 40 20">)"_s
+           u"<title>t</title>%1</svg>"_s.arg(body);
+}
+
+QString page(const QString &head, const QString &body)
+{
+    return u"<!DOCTYPE html>\n<html lang=\"es\"><head>%1</head>\n<body>\n<h1 id=\"a\">T</h1>\n%2\n</body></html>"_s
+        .arg(head, body);
+}
+
+const QString kHead =
+    uR"(<title>T</title><link rel="stylesheet" type="text/css" href="estilo.css"/>)"_s;
+
+} // namespace
+
+/// On pages and figures made up here, that the checkers find each kind of fault and nothing else.
+class TestPageCheckers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pageFaultsAreFound_data();
+    void pageFaultsAreFound();
+    void figureFaultsAreFound_data();
+    void figureFaultsAreFound();
+    void pagesOfAnotherLanguage();
+    void translationFaultsAreFound_data();
+    void translationFaultsAreFound();
+    void nameFaultsAreFound_data();
+    void nameFaultsAreFound();
+};
+
+void TestPageCheckers::pageFaultsAreFound_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("fault"); // a part of the one fault expected, empty for none
+    const auto body = [](const char *row, const QString &text, const QString &fault) {
+        QTest::newRow(row) << page(kHead, text) << fault;
+    };
+    body(
+        "fit",
+        uR"(<p class="caja"><a href="otra.html#b">x</a> <a href="https://a.es/">y</a> <a href="#a">z</a>
+         <img src="f/f.svg" width="40" height="20" alt="t"/></p><h2>a</h2><h3>b</h3><h2>c</h2>)"_s,
+        QString());
+    body("page that is not there", u"<p><a href=\"nada.html\">x</a></p>"_s,
+         u"broken link: nada.html"_s);
+    body("letter case of a page", u"<p><a href=\"Otra.html\">x</a></p>"_s,
+         u"broken link: Otra.html"_s);
+    body("place that is not there", u"<p><a href=\"#b\">x</a></p>"_s, u"no such place: #b"_s);
+    body("place on another page", u"<p><a href=\"otra.html#a\">x</a></p>"_s,
+         u"no such place: otra.html#a"_s);
+    body("link out of the folder", u"<p><a href=\"../Doc/otra.html\">x</a></p>"_s,
+         u"broken link"_s);
+    body("link to the root", u"<p><a href=\"/etc/hosts\">x</a></p>"_s, u"broken link"_s);
+    body("http", u"<p><a href=\"http://a.es/\">x</a></p>"_s, u"not https"_s);
+    body("javascript", u"<p><a href=\"javascript:f()\">x</a></p>"_s, u"not https"_s);
+    body("picture that is not there", u"<p><img src=\"f/g.svg\" alt=\"t\"/></p>"_s,
+         u"missing picture: f/g.svg"_s);
+    body("letter case of a folder", u"<p><img src=\"F/f.svg\" alt=\"t\"/></p>"_s,
+         u"missing picture: F/f.svg"_s);
+    body("picture without alt",
+         u"<p><img src=\"f/f.svg\" width=\"40\" height=\"20\" alt=\" \"/></p>"_s,
+         u"alternative text"_s);
+    body("distorted picture",
+         u"<p><img src=\"f/f.svg\" width=\"40\" height=\"30\" alt=\"t\"/></p>"_s, u"is 40 by 20"_s);
+    body("skipped heading", u"<h3>x</h3>"_s, u"h3 after h1"_s);
+    body("two titles", u"<h1>x</h1>"_s, u"more than one h1"_s);
+    body("nested exponents", u"<p>2<sup>2<sup>n</sup></sup></p>"_s, u"nested"_s);
+    body("element unknown to the program", u"<figure>x</figure>"_s, u"<figure>"_s);
+    body("class without a rule", u"<p class=\"caja nada\">x</p>"_s, u"class \"nada\""_s);
+    body("inline style", u"<p style=\"color: black\">x</p>"_s, u"style="_s);
+    body("id twice", u"<p id=\"a\">x</p>"_s, u"used twice"_s);
+    body("self-closed element", u"<p/>"_s, u"<p/>"_s);
+    QTest::newRow("no title") << page(kHead.mid(kHead.indexOf(u"<link"_s)), QString())
+                              << u"no title"_s;
+    QTest::newRow("no style sheet") << page(u"<title>T</title>"_s, QString()) << u"estilo.css"_s;
+    QTest::newRow("no language") << page(kHead, QString()).remove(u" lang=\"es\""_s) << u"lang"_s;
+    QTest::newRow("not well-formed")
+        << page(kHead, QString()).replace(u"</h1>"_s, u"</h2>"_s) << u"mismatch"_s;
+}
+
+void TestPageCheckers::pageFaultsAreFound()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, fault);
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(u"f"_s));
+    write(folder.filePath(u"estilo.css"_s), u"/* .nada { */\n.caja { color: red; }"_s);
+    write(folder.filePath(u"otra.html"_s), u"<html><p id=\"b\">x</p></html>"_s);
+    write(folder.filePath(u"f/f.svg"_s), svg(QString()));
+    write(folder.filePath(u"esta.html"_s), text);
+
+    const QStringList faults = PageChecker(folder.path()).faults(u"esta.html"_s);
+    QCOMPARE(faults.size(), fault.isEmpty() ? 0 : 1);
+    QVERIFY2(faults.join(u' ').contains(fault), qPrintable(faults.join(u' ')));
+}
+
+void TestPageCheckers::figureFaultsAreFound_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("fault");
+    QTest::newRow("fit") << svg(u"<text font-family=\"sans-serif\">x</text>"_s) << QString();
+    QTest::newRow("filter") << svg(u"<filter id=\"f\"/>"_s) << u"<filter>"_s;
+    QTest::newRow("embedded page") << svg(u"<foreignObject/>"_s) << u"<foreignObject>"_s;
+    QTest::newRow("masked") << svg(u"<rect mask=\"url(#m)\"/>"_s) << u"mask="_s;
+    QTest::newRow("CSS class") << svg(u"<rect class=\"r\"/>"_s) << u"class="_s;
+    QTest::newRow("text without a face") << svg(u"<text>x</text>"_s) << u"font-family"_s;
+    QTest::newRow("no size") << svg(QString()).remove(u"width=\"40\" "_s) << u"whole pixels"_s;
+    QTest::newRow("scaled") << svg(QString()).replace(u"0 0 40"_s, u"0 0 80"_s) << u"viewBox"_s;
+    QTest::newRow("no title") << svg(QString()).remove(u"<title>t</title>"_s) << u"<title>"_s;
+    QTest::newRow("not well-formed") << svg(u"<g></g></g>"_s) << u"line 1"_s;
+}
+
+void TestPageCheckers::figureFaultsAreFound()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, fault);
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"f.svg"_s);
+    write(path, text);
+    const QStringList faults = checkFigure(path).faults;
+    QCOMPARE(faults.size(), fault.isEmpty() ? 0 : 1);
+    QVERIFY2(faults.join(u' ').contains(fault), qPrintable(faults.join(u' ')));
+}
+
+void TestPageCheckers::pagesOfAnotherLanguage()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(u"English"_s));
+    write(folder.filePath(u"estilo.css"_s), u".caja { color: red; }"_s);
+    const QString spanish = page(kHead, u"<p class=\"caja\">x</p>"_s);
+    QString english = spanish;
+    english.replace(u"\"es\""_s, u"\"en\""_s).replace(u"estilo.css"_s, u"../estilo.css"_s);
+    write(folder.filePath(u"English/hecha.html"_s), english);
+    write(folder.filePath(u"English/copiada.html"_s), spanish);
+
+    QCOMPARE(languageOfFolder(u"English"_s), u"en"_s);
+    QCOMPARE(languageOfFolder(u"Inglés"_s), QString());
+    PageChecker checker(folder.filePath(u"English"_s), u"en"_s, u"../estilo.css"_s);
+    QCOMPARE(checker.faults(u"hecha.html"_s), QStringList());
+    QCOMPARE(checker.faults(u"copiada.html"_s).size(), 2); // the language and the style sheet
+}
+
+void TestPageCheckers::translationFaultsAreFound_data()
+{
+    QTest::addColumn<QString>("file"); // in the folder of the translation
+    QTest::addColumn<QString>("text"); // what it holds, null to leave the file out
+    QTest::addColumn<QString>("fault");
+    const auto row = [](const char *name, const QString &file, const QString &text,
+                        const QString &fault) { QTest::newRow(name) << file << text << fault; };
+    const QString words = u"<text x=\"%1\" font-family=\"sans-serif\">%2</text><rect x=\"%3\"/>"_s;
+    row("fit", u"p.html"_s, page(kHead, u"<h2 id=\"b\">x</h2>"_s), QString());
+    row("page left out", u"p.html"_s, QString(), u"p.html: not translated"_s);
+    row("page of its own", u"q.html"_s, page(kHead, QString()), u"q.html: translates nothing"_s);
+    row("place left out", u"p.html"_s, page(kHead, QString()), u"p.html: no place #b"_s);
+    row("figure left out", u"figuras/f.svg"_s, QString(), u"f.svg: not translated"_s);
+    row("other words", u"figuras/f.svg"_s, svg(words.arg(u"9"_s, u"two"_s, u"1"_s)), QString());
+    row("other drawing", u"figuras/f.svg"_s, svg(words.arg(u"1"_s, u"two"_s, u"2"_s)),
+        u"f.svg: drawn differently"_s);
+    row("words left out", u"figuras/f.svg"_s, svg(u"<rect x=\"1\"/>"_s),
+        u"f.svg: drawn differently"_s);
+}
+
+void TestPageCheckers::translationFaultsAreFound()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, text);
+    QFETCH(QString, fault);
+    QTemporaryDir folder;
+    const QString translation = folder.filePath(u"English"_s);
+    for (const QString &place : {folder.path(), translation}) {
+        QVERIFY(QDir().mkpath(place + u"/figuras"_s));
+        write(place + u"/p.html"_s, page(kHead, u"<p id=\"b\">x</p>"_s));
+        write(place + u"/figuras/f.svg"_s,
+              svg(u"<text x=\"1\" font-family=\"sans-serif\">dos</text><rect x=\"1\"/>"_s));
+    }
+    if (text.isNull())
+        QVERIFY(QFile::remove(translation + u'/' + file));
+    else
+        write(translation + u'/' + file, text);
+
+    const QStringList faults = translationFaults(folder.path(), translation);
+    QCOMPARE(faults, fault.isEmpty() ? QStringList() : QStringList{fault});
+}
+
+void TestPageCheckers::nameFaultsAreFound_data()
+{
+    QTest::addColumn<QString>("translation"); // of «Probar», «Otra cosa» and «Abrir»
+    QTest::addColumn<int>("faults");
+    QTest::newRow("as they are called") << u"“Try it’s” “Open”"_s << 0;
+    QTest::newRow("with the other mnemonic") << u"“Test” “Open”"_s << 0;
+    QTest::newRow("by another name") << u"“Attempt” “Open”"_s << 1;
+    QTest::newRow("as in another language") << u"“Essayer” “Open”"_s << 1;
+    QTest::newRow("within a longer name") << u"“Test all” “Open”"_s << 1;
+    QTest::newRow("without quotes") << u"Test, Open"_s << 2;
+}
+
+void TestPageCheckers::nameFaultsAreFound()
+{
+    QFETCH(QString, translation);
+    QFETCH(int, faults);
+    QTemporaryDir folder;
+    const QString texts = folder.filePath(u"textos.txt"_s);
+    write(texts, u"[French]\n&Probar=&Essayer\n[English]\n&Probar=&Try it's\nPr&obar=T&est\n"_s
+                 u"&Abrir…=&Open…\n"_s);
+    const QString spanish = u"«Probar» «Otra cosa» «Abrir»"_s;
+    QCOMPARE(nameFaults(spanish, translation, texts, u"English"_s).size(), faults);
+}
+
+QTEST_GUILESS_MAIN(TestPageCheckers)
+#include "TestPageCheckers.moc"
