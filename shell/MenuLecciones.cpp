@@ -24,11 +24,14 @@ QVariant MenuLecciones::data(const QModelIndex &indice, int papel) const
     const Leccion &leccion = m_lecciones[indice.row()];
     switch (papel) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
     case Qt::AccessibleTextRole:
         return Traduce(leccion.rotulo);
     case Qt::DecorationRole:
         return Icono(leccion.icono);
+    case Qt::ToolTipRole:
+        return (Traduce(leccion.rotulo) + u'\n' + Traduce(leccion.descripcion)).trimmed();
+    case PapelDescripcion:
+        return Traduce(leccion.descripcion);
     case PapelResaltado:
         return m_resaltadas[indice.row()];
     default:
