@@ -29,6 +29,7 @@ void AreaLecciones::actualizaBienvenida()
     if (vacia == !m_bienvenida->isHidden())
         return;
     m_bienvenida->setVisible(vacia);
+    Q_EMIT hayVentanas(!vacia);
     // Who closes the last lesson goes on from here by keyboard, unless the menu has the keys.
     const QWidget *enfocado = QApplication::focusWidget();
     if (vacia && (!enfocado || isAncestorOf(enfocado)))

@@ -13,6 +13,10 @@ public:
     /// What to show while there is no child window; it becomes the area's.
     void ponBienvenida(QWidget *bienvenida);
 
+Q_SIGNALS:
+    /// The first child window came in sight, or the last one went.
+    void hayVentanas(bool algunas);
+
 protected:
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
     void resizeEvent(QResizeEvent *suceso) override;

@@ -85,6 +85,12 @@ void FormPrincipal::preparaOrdenes()
     ui->mnuCerrar->setShortcuts({Qt::CTRL | Qt::Key_W, Qt::CTRL | Qt::Key_F4});
     m_menuVentana = new MenuVentana(ui->mnuVentana, ui->AreaDeTrabajo);
 
+    // What acts on the active lesson waits until there is one.
+    for (QAction *accion : {ui->Algoritmos, ui->mnuCerrar}) {
+        accion->setEnabled(false);
+        connect(ui->AreaDeTrabajo, &AreaLecciones::hayVentanas, accion, &QAction::setEnabled);
+    }
+
     const auto orden = [this](QAction *accion, auto manejador) {
         conecta(accion, &QAction::triggered, this, manejador);
     };

@@ -110,6 +110,7 @@ private Q_SLOTS:
         otra->cierra();
         QVERIFY(bienvenida->isVisible());
         QVERIFY(bienvenida->isAncestorOf(QApplication::focusWidget()));
+        QVERIFY(!control<QAction>(m_principal.get(), u"mnuCerrar"_s)->isEnabled());
         m_principal->hide();
         m_principal->show();
         QVERIFY(bienvenida->isVisible());
@@ -240,6 +241,7 @@ private Q_SLOTS:
         auto *ayuda = control<QAction>(m_principal.get(), u"Algoritmos"_s);
         ayuda->trigger();
         QVERIFY(Entorno::grabadora().abiertas.isEmpty());
+        QVERIFY(!ayuda->isEnabled());
         FormLeccion *leccion = m_principal->abreLeccion(3);
         ayuda->trigger();
         QCOMPARE(Entorno::grabadora().abiertas, QStringList{leccion->URL()});
