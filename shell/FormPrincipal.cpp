@@ -212,6 +212,9 @@ QWidget *FormPrincipal::muestraAcercaDe(bool presentacion)
         m_timerPresentacion->stop();
     });
     if (presentacion) {
+        // There is no window yet over which it could stand.
+        acercaDe->adjustSize();
+        acercaDe->move(screen()->availableGeometry().center() - acercaDe->rect().center());
         connect(m_timerPresentacion, &QTimer::timeout, acercaDe, &QWidget::close);
         m_timerPresentacion->start();
     }
