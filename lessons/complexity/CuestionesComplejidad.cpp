@@ -70,10 +70,12 @@ Cuestion sorteaLlamadas()
 
 Cuestion cuestionLlamadas(int n)
 {
-    return {Traduce(u"¿Cuántas llamadas hace en total la función recursiva para calcular F(%1)?"_s)
-                .arg(n),
-            Traduce(u"Un número o una expresión"_s),
-            [n](const QString &respuesta) { return juzgaLlamadas(respuesta, n); }};
+    return {
+        Traduce(
+            u"¿Cuántas llamadas hace en total la función recursiva para calcular F(%1), contando la primera?"_s)
+            .arg(n),
+        Traduce(u"Un número o una expresión"_s),
+        [n](const QString &respuesta) { return juzgaLlamadas(respuesta, n); }};
 }
 
 Cuestion sorteaHanoi()
@@ -88,8 +90,9 @@ Cuestion sorteaHanoi()
 Cuestion cuestionHanoi(int discos, int disco)
 {
     return {
-        Traduce(u"En las torres de Hanói con %1 discos, numerados desde el menor, ¿cuántas "
-                u"veces se mueve el disco %2?"_s)
+        Traduce(
+            u"En la solución más corta de las torres de Hanói con %1 discos, numerados desde el "
+            u"menor, ¿cuántas veces se mueve el disco %2?"_s)
             .arg(discos)
             .arg(disco),
         Traduce(u"Un número o una expresión, como 2^10"_s),

@@ -70,8 +70,8 @@ Cuestion sorteaZeckendorf()
 Cuestion cuestionZeckendorf(int n)
 {
     return {
-        Traduce(u"Escriba %1 como suma de números de Fibonacci distintos de los que no haya "
-                u"dos consecutivos."_s)
+        Traduce(u"Escriba %1 como suma de números de Fibonacci distintos, sin que haya dos "
+                u"consecutivos."_s)
             .arg(n),
         Traduce(u"Una suma, como 34 + 13 + 1"_s), [n](const QString &respuesta) {
             const FalloZeckendorf fallo = juzgaZeckendorf(respuesta, n);
