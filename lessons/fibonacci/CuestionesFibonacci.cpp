@@ -32,12 +32,9 @@ QString palabraZeckendorf(FalloZeckendorf fallo, const QString &respuesta)
     return {};
 }
 
-Juicio juzgaMcd(const QString &respuesta, int m, int n)
+Juicio juzgaMcd(const QString &valor, int m, int n)
 {
     const int d = std::gcd(m, n);
-    const QString valor = Evalua(QString(respuesta));
-    if (valor == TextoError || valor.isEmpty())
-        return {false, Traduce(u"Eso no es un número."_s)};
     if (valor == valorEntero(u"fib(%1)"_s.arg(d))) {
         return {true, Traduce(u"¡Correcto! Es F(%1) = %4, porque mcd(%2, %3) = %1."_s)
                           .arg(d)
@@ -99,5 +96,5 @@ Cuestion cuestionMcd(int m, int n)
                 .arg(m)
                 .arg(n),
             Traduce(u"Un número"_s),
-            [m, n](const QString &respuesta) { return juzgaMcd(respuesta, m, n); }};
+            juezDeEnteros([m, n](const QString &valor) { return juzgaMcd(valor, m, n); })};
 }
