@@ -1,5 +1,6 @@
 #include "lessons/euclid/FormEuclidesCuestiones.h"
 
+#include "bignum/ModBignum.h"
 #include "lessons/euclid/EvaluaEntero.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
@@ -13,13 +14,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::int64_t MayorNumeroDeDivisiones = 100;
-
-/// A blank field counts as 0.
-Moneda valorDe(const QLineEdit *campo, std::int64_t mayor)
+/// One of the two numbers; a blank field counts as 0.
+Moneda numeroDe(const QLineEdit *campo)
 {
-    return campo->text().trimmed().isEmpty() ? Moneda()
-                                             : EvaluaEntero(campo->text(), Moneda::deEntero(mayor));
+    return EvaluaEntero(campo->text(), Moneda::deEntero(Moneda::MaximoEntero));
+}
+
+/// The number of divisions asked for; a blank field counts as 0, halves are rounded to even.
+std::int16_t divisionesDe(const QLineEdit *campo)
+{
+    constexpr std::int64_t maximo = 100;
+    return EvaluaMoneda(campo->text(), Moneda::deEntero(maximo)).aEntero16();
 }
 
 } // namespace
@@ -44,9 +49,9 @@ FormEuclidesCuestiones::~FormEuclidesCuestiones() = default;
 
 void FormEuclidesCuestiones::cmdProblema_Click()
 {
-    const Moneda a = valorDe(ui->txtP1_0, Moneda::MaximoEntero);
-    const Moneda b = valorDe(ui->txtP1_1, Moneda::MaximoEntero);
-    const std::int16_t n = valorDe(ui->TxtN, MayorNumeroDeDivisiones).aEntero16();
+    const Moneda a = numeroDe(ui->txtP1_0);
+    const Moneda b = numeroDe(ui->txtP1_1);
+    const std::int16_t n = divisionesDe(ui->TxtN);
     m_mcd.ponNúmero2(a);
     m_mcd.ponNúmero1(b);
     muestraVeredicto(m_mcd.NumDivisiones() == n);

@@ -162,7 +162,7 @@ void FormPrimosFactorizacion::termina()
     m_leccion->unsetCursor();
     TimerFactorizando_Timer();
     m_timerFactorizando.stop();
-    Q_EMIT tiempoMedido(tiempoTranscurrido());
+    Q_EMIT tiempoMedido(ui->lblTiempoFactorizando->text());
     ponBotonEnReposo();
     if (ui->ccrpAniFactorizando->estado() == ReproductorAVI::Reproduciendo)
         ui->ccrpAniFactorizando->para();

@@ -220,7 +220,8 @@ private Q_SLOTS:
         campo(u"txtNº_2"_s)->setText(u"10^14"_s);
         const auto mensaje = Entorno::grabadora().unico();
         QCOMPARE(mensaje.titulo, u"Error en tiempo de ejecución"_s);
-        QCOMPARE(mensaje.texto, u"Desbordamiento."_s);
+        QVERIFY2(mensaje.texto.startsWith(u"Desbordamiento.\nEl primer valor de k"_s),
+                 qPrintable(mensaje.texto));
         QCOMPARE(m_soluciones->model()->rowCount(), 0);
         QCOMPARE(control<QLabel>(m_ventana.get(), u"lblSoluciones"_s)->text(), u"Soluciones"_s);
     }
@@ -235,6 +236,8 @@ private Q_SLOTS:
         QTest::newRow("seven") << u"34"_s << u"21"_s << u"7"_s << bien;
         QTest::newRow("the other way round") << u"21"_s << u"34"_s << u"7"_s << mal;
         QTest::newRow("44") << u"1836311903"_s << u"1134903170"_s << u"50-6"_s << bien;
+        QTest::newRow("n is rounded") << u"34"_s << u"21"_s << u"27/4"_s << bien;
+        QTest::newRow("a half goes to even") << u"34"_s << u"21"_s << u"13/2"_s << mal;
         QTest::newRow("nothing typed") << QString() << u" "_s << QString() << bien;
         QTest::newRow("no number") << u"hola"_s << u"5"_s << u"1"_s << mal;
     }
