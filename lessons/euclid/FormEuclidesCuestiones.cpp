@@ -40,9 +40,12 @@ FormEuclidesCuestiones::FormEuclidesCuestiones(QWidget *leccion)
 
     conecta(ui->cmdProblema, &QPushButton::clicked, this,
             &FormEuclidesCuestiones::cmdProblema_Click);
-    for (const QLineEdit *campo : {ui->txtP1_0, ui->txtP1_1, ui->TxtN})
+    for (const QLineEdit *campo : {ui->txtP1_0, ui->txtP1_1, ui->TxtN}) {
         conecta(campo, &QLineEdit::returnPressed, this,
                 [this] { ui->cmdProblema->animateClick(); });
+        // A verdict belongs to the numbers that were judged.
+        conecta(campo, &QLineEdit::textChanged, ui->lblVeredicto, &QLabel::clear);
+    }
 }
 
 FormEuclidesCuestiones::~FormEuclidesCuestiones() = default;

@@ -3,7 +3,17 @@
 #include "shell/Formatos.h"
 #include "shell/ModGlobal.h"
 
+#include <QBrush>
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A veil that shows on light and on dark grounds alike.
+const QColor FondoDeEditables(0xf4, 0xa9, 0x42, 60);
+
+} // namespace
 
 void ModeloEuclides::pon(const TablaEuclides &tabla)
 {
@@ -45,6 +55,8 @@ QVariant ModeloEuclides::data(const QModelIndex &indice, int rol) const
                                   : texto(indice.row(), indice.column());
     case Qt::TextAlignmentRole:
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    case Qt::BackgroundRole:
+        return esEditable(indice) ? QVariant::fromValue(QBrush(FondoDeEditables)) : QVariant();
     case Qt::ToolTipRole:
         return esEditable(indice) ? Traduce(u"Número o expresión; se edita con F2 o doble clic"_s)
                                   : QString();

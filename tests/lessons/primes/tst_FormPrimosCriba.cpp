@@ -44,10 +44,10 @@ private Q_SLOTS:
         QTest::newRow("library") << u"65000"_s << true << 1624 << u"64.997"_s << alAbrir << 100;
         QTest::newRow("expression")
             << u"2^3+2"_s << false << 1 << u"7"_s << u"4 primos; el mayor es 7"_s << 70;
-        QTest::newRow("own, 2")
-            << u"2"_s << false << 1 << u"3"_s << u"2 primos; el mayor es 3"_s << 0;
+        QTest::newRow("own, 2") << u"2"_s << false << 1 << u"3"_s << u"2 primos; el mayor es 3"_s
+                                << 0;
         QTest::newRow("library, 2")
-            << u"2"_s << true << 1 << u"2"_s << u"1 primo: 2"_s << 100;
+            << u"2"_s << true << 1 << u"2"_s << u"Un solo primo: 2"_s << 100;
         QTest::newRow("library, none")
             << u"1"_s << true << 0 << QString() << u"No hay primos hasta ese número"_s << 100;
     }

@@ -121,6 +121,11 @@ private Q_SLOTS:
         QCOMPARE(entero->text().size(), 157);
         QCOMPARE(control<QLabel>(m_ventana, u"lblFactorElegido"_s)->text(),
                  u"Factor &elegido (cifras: 157)"_s);
+        const auto *producto = control<CampoLargo>(m_ventana, u"txtProductoDeFactores"_s);
+        QCOMPARE(producto->text(), u"2 · 3 · "_s + entero->text());
+        m_numero->setText(u"2^123*3^2"_s);
+        m_boton->click();
+        QCOMPARE(producto->text(), u"2¹²³ · 3²"_s);
     }
 
     void detenerElIngenuo()
