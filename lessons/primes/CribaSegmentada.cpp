@@ -26,6 +26,7 @@ void CribaSegmentada::criba(std::int64_t limite, Corrida &corrida, const Avance 
     m_tachadores.clear();
     m_seguros = m_numeros.size();
     m_informado = 0;
+    m_porcentaje = 0;
     std::int64_t c = 0;
     for (m_k = 1; c <= limite && !corrida.detenida(); m_k += ValoresPorBloque) {
         generaBloque(limite, corrida);
@@ -75,10 +76,13 @@ void CribaSegmentada::informa(std::uint64_t fin, std::uint64_t limite, const Ava
     constexpr std::uint64_t primerCandidato = 5;
     // The last number changes a few times a block, while this is asked for every prime: a quotient
     // each time would cost as much as the sieve.
-    if (fin == m_informado || fin < primerCandidato || !avance)
+    if (fin == m_informado || fin < primerCandidato)
         return;
     m_informado = fin;
-    avance(static_cast<int>(100 * fin / limite));
+    const auto porcentaje = static_cast<int>(100 * fin / limite);
+    if (porcentaje != m_porcentaje && avance)
+        avance(porcentaje);
+    m_porcentaje = porcentaje;
 }
 
 /// The primes from 5 on by their order: those listed before this block, then what is alive in it
