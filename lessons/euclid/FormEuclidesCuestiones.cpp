@@ -60,12 +60,22 @@ void FormEuclidesCuestiones::cmdProblema_Click()
     muestraVeredicto(m_mcd.NumDivisiones() == n);
 }
 
+QString FormEuclidesCuestiones::veredicto(bool acierto)
+{
+    if (acierto)
+        return Traduce(u"Correcto"_s);
+    // Where a number is 0 nothing was divided, and the count is that of other numbers.
+    const bool hayDivisiones = m_mcd.Número1() != Moneda() && m_mcd.Número2() != Moneda();
+    return hayDivisiones ? Traduce(u"No es correcto (iteraciones: %1)"_s).arg(m_mcd.NumDivisiones())
+                         : Traduce(u"No es correcto"_s);
+}
+
 void FormEuclidesCuestiones::muestraVeredicto(bool acierto)
 {
     ui->ccrpAnimation->carga(acierto ? Sesión().AVIEureka() : Sesión().AVIError(),
                              acierto ? u"EUREKA"_s : u"ERROR"_s);
     ui->ccrpAnimation->reproduce(ReproductorAVI::Modo::UnaVez);
-    const QString veredicto = Traduce(acierto ? u"Correcto"_s : u"No es correcto"_s);
-    ui->ccrpAnimation->setAccessibleName(veredicto);
-    ::muestraVeredicto(ui->lblVeredicto, acierto, veredicto);
+    const QString texto = veredicto(acierto);
+    ui->ccrpAnimation->setAccessibleName(texto);
+    ::muestraVeredicto(ui->lblVeredicto, acierto, texto);
 }
