@@ -93,8 +93,15 @@ private Q_SLOTS:
         QCOMPARE(m_ruedas->estado(), ReproductorAVI::Parado);
     }
 
+    void desbordamientoDelMejorado_data()
+    {
+        QTest::addColumn<bool>("escape");
+        QTest::newRow("stopped by the button") << false;
+        QTest::newRow("stopped by Escape") << true;
+    }
     void desbordamientoDelMejorado()
     {
+        QFETCH(bool, escape);
         elige(1);
         m_numero->setText(u"10000000019"_s);
         m_boton->click();
@@ -104,7 +111,10 @@ private Q_SLOTS:
                  qPrintable(texto));
         QCOMPARE(m_boton->toolTip(), u"Detener factorización"_s);
         QCOMPARE(m_ventana->cursor().shape(), Qt::WaitCursor);
-        m_boton->click();
+        if (escape)
+            QTest::keyClick(m_numero, Qt::Key_Escape);
+        else
+            m_boton->click();
         estaEnReposo();
         m_numero->setText(u"10"_s);
         m_boton->click();
