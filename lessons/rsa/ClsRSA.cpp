@@ -226,6 +226,9 @@ QString ClsRSA::DesCodifica(const QStringList &bloques, Corrida &corrida) const
         const QString numero = potencias.de(bloque);
         if (numero != TextoError)
             texto += NumeroATexto(numero);
+        if (texto.size() > MaximoDescodificado)
+            throw ErrorEjecucion(ErrorEjecucion::MemoriaInsuficiente,
+                                 Traduce(u"El texto descodificado es demasiado largo."_s));
         corrida.ceder();
         if (corrida.detenida())
             break;

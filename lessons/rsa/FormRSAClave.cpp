@@ -14,6 +14,7 @@
 
 #include <QDir>
 #include <QRegularExpressionValidator>
+#include <QScopeGuard>
 #include <QSignalBlocker>
 
 using namespace Qt::Literals::StringLiterals;
@@ -147,12 +148,18 @@ void FormRSAClave::muestraObjecion()
                   : Traduce(u"Escriba dos primos, q(1) y q(2), y un número s primo con φ(q)."_s));
 }
 
+void FormRSAClave::valida()
+{
+    const auto alFinal = qScopeGuard([this] { Q_EMIT validada(); });
+    m_clave.Valida();
+}
+
 void FormRSAClave::txtQ_Return(int i)
 {
     m_clave.ponq(i, txtQ(i)->text());
     ui->txtFiQ->setText({});
     ui->txtT->setText({});
-    m_clave.Valida();
+    valida();
 }
 
 void FormRSAClave::txtQ_Validate(int i)
@@ -165,7 +172,7 @@ void FormRSAClave::txtQ_Validate(int i)
 void FormRSAClave::txtS_Return()
 {
     m_clave.pons(ui->txtS->text());
-    m_clave.Valida();
+    valida();
 }
 
 void FormRSAClave::txtS_Validate()
@@ -178,7 +185,7 @@ void FormRSAClave::txtR_Change()
 {
     m_clave.ponr(aEntero16(ui->txtR->text()));
     muestraObjecion();
-    m_clave.Valida();
+    valida();
 }
 
 void FormRSAClave::ChkNumBits_Click()
@@ -216,8 +223,9 @@ void FormRSAClave::cmdPublicarClave_Click()
 void FormRSAClave::muestraBuzon(bool sePuedePublicar)
 {
     const QString carpeta = m_clave.DirMensajes();
-    ui->lblBuzon->setText(carpeta.isEmpty()
-                              ? Traduce(u"Todavía no ha elegido un buzón."_s)
-                              : Traduce(u"Buzón: %1"_s).arg(QDir::toNativeSeparators(carpeta)));
+    const QString texto = carpeta.isEmpty()        ? Traduce(u"Todavía no ha elegido un buzón."_s)
+                          : ExisteFichero(carpeta) ? Traduce(u"Buzón: %1"_s)
+                                                   : Traduce(u"No se encuentra el buzón: %1"_s);
+    ui->lblBuzon->setText(carpeta.isEmpty() ? texto : texto.arg(QDir::toNativeSeparators(carpeta)));
     ui->cmdPublicarClave->setEnabled(sePuedePublicar);
 }

@@ -29,6 +29,11 @@ public:
     /// Shows the mailbox folder, and whether the key can be published in it.
     void muestraBuzon(bool sePuedePublicar);
 
+Q_SIGNALS:
+    /// The key was validated: with a verdict, without one because a number is missing, or in vain
+    /// because it could not be saved.
+    void validada();
+
 protected:
     void changeEvent(QEvent *suceso) override;
 
@@ -38,6 +43,7 @@ private:
     void ponEstado(Estado estado, const QString &texto);
     void coloreaEstado();
     void muestraObjecion();
+    void valida();
 
     void txtQ_Validate(int i);
     void txtQ_Return(int i);

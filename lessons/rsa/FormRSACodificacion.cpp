@@ -2,7 +2,7 @@
 
 #include "lessons/rsa/BotonDeParada.h"
 #include "lessons/rsa/FormRSABloques.h"
-#include "lessons/rsa/TextoEnBloques.h"
+#include "lessons/rsa/FormRSATexto.h"
 #include "shell/Evento.h"
 #include "shell/FormLeccion.h"
 #include "shell/Formatos.h"
@@ -79,11 +79,8 @@ void FormRSACodificacion::cmdDescodificar_Click()
 void FormRSACodificacion::codifica()
 {
     const QString texto = ui->txtTextoOriginal->toPlainText();
-    if (const auto motivo = caracterInadmisible(texto)) {
-        interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion, *motivo,
-                               Traduce(u"Carácter no admitido"_s));
+    if (!seCodifica(this, texto))
         return;
-    }
     if (m_clave.r() < 1) {
         interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
                                Traduce(u"Cada paquete ha de tener al menos un carácter."_s),
