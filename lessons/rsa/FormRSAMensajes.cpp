@@ -39,6 +39,8 @@ FormRSAMensajes::FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion)
     ui->FlexMensajes->ponTextoVacio(Traduce(u"No hay mensajes en el buzón"_s));
     ui->FlexMensajes->horizontalHeader()->setStretchLastSection(true);
     ui->cmbDestinatario->setCurrentText({});
+    // The field within has the focus, and screen readers tell its name.
+    ui->cmbDestinatario->lineEdit()->setAccessibleName(ui->cmbDestinatario->accessibleName());
     m_timerRevision.setSingleShot(true);
 
     conecta(ui->FlexMensajes, &QTableView::clicked, this,
