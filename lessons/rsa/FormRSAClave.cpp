@@ -3,13 +3,13 @@
 #include "bignum/Azar.h"
 #include "lessons/rsa/Entero16.h"
 #include "lessons/rsa/NumerosLargos.h"
-#include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
 #include "shell/Interlocutor.h"
 #include "shell/ModGlobal.h"
 #include "shell/Rutas.h"
 #include "shell/Textos.h"
+#include "shell/Veredicto.h"
 #include "ui_FormRSAClave.h"
 
 #include <QDir>
@@ -90,28 +90,26 @@ void FormRSAClave::muestraClave()
 
 void FormRSAClave::ponEstado(Estado estado, const QString &texto)
 {
-    const QString signo = estado == Estado::Bien  ? u"✓ "_s
-                          : estado == Estado::Mal ? u"✗ "_s
-                                                  : u""_s;
     m_estado = estado;
-    ui->lblEstado->setText(signo + abreviaNumeros(texto));
-    coloreaEstado();
+    m_textoDeEstado = abreviaNumeros(texto);
+    muestraEstado();
 }
 
-void FormRSAClave::coloreaEstado()
+void FormRSAClave::muestraEstado()
 {
-    QPalette paleta = palette();
-    if (m_estado != Estado::Neutro)
-        paleta.setColor(QPalette::WindowText,
-                        m_estado == Estado::Bien ? Aspecto::exito() : Aspecto::error());
-    ui->lblEstado->setPalette(paleta);
+    if (m_estado != Estado::Neutro) {
+        ::muestraVeredicto(ui->lblEstado, m_estado == Estado::Bien, m_textoDeEstado);
+        return;
+    }
+    ui->lblEstado->setPalette(palette());
+    ui->lblEstado->setText(m_textoDeEstado);
 }
 
 void FormRSAClave::changeEvent(QEvent *suceso)
 {
     QWidget::changeEvent(suceso);
     if (suceso->type() == QEvent::PaletteChange)
-        coloreaEstado();
+        muestraEstado();
 }
 
 void FormRSAClave::muestraVeredicto(bool bien, const QString &mensaje)

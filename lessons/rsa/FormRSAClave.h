@@ -41,7 +41,7 @@ private:
     CampoLargo *txtQ(int i) const;
     enum class Estado { Neutro, Bien, Mal };
     void ponEstado(Estado estado, const QString &texto);
-    void coloreaEstado();
+    void muestraEstado();
     void muestraObjecion();
     void valida();
 
@@ -58,4 +58,5 @@ private:
     std::unique_ptr<Ui::FormRSAClave> ui;
     ClsRSA &m_clave;
     Estado m_estado = Estado::Neutro;
+    QString m_textoDeEstado;
 };

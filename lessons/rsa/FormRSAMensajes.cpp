@@ -1,6 +1,5 @@
 #include "lessons/rsa/FormRSAMensajes.h"
 
-#include "lessons/rsa/BotonDeParada.h"
 #include "lessons/rsa/Buzon.h"
 #include "lessons/rsa/FormClaveRSA.h"
 #include "shell/Aspecto.h"
@@ -15,7 +14,6 @@
 
 #include <QHeaderView>
 #include <QScopeGuard>
-#include <QScopedValueRollback>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,6 +24,7 @@ FormRSAMensajes::FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion)
       m_corresponsal(clave),
       m_tabla(Traduce(u"<Dirigido a     |<De           |<Asunto"_s)),
       m_leccion(leccion),
+      m_mandos(leccion->corrida(), [this] { habilita(); }),
       m_ventanaClave(new FormClaveRSA(this))
 {
     ui->setupUi(this);
@@ -88,13 +87,13 @@ void FormRSAMensajes::hideEvent(QHideEvent *suceso)
 
 void FormRSAMensajes::habilita()
 {
-    const bool libre = !m_leccion->corrida().enCurso();
     const bool hayTexto = !ui->txtDestTextoOriginal->toPlainText().trimmed().isEmpty();
-    ui->enviar->setEnabled(m_parada == ui->enviar ||
-                           (libre && !m_corresponsal.usuario().isEmpty() && hayTexto));
-    ui->recibir->setEnabled(m_parada == ui->recibir ||
-                            (libre && !m_ventanaClave->t().trimmed().isEmpty()));
-    ui->revisar->setEnabled(m_parada == ui->revisar || libre);
+    const bool puedeEnviar = !m_corresponsal.usuario().isEmpty() && hayTexto;
+    const bool puedeRecibir = !m_ventanaClave->t().trimmed().isEmpty();
+    const QAbstractButton *parada = m_mandos.botonDeParada();
+    ui->enviar->setEnabled(m_mandos.atiende(ui->enviar) && (puedeEnviar || parada));
+    ui->recibir->setEnabled(m_mandos.atiende(ui->recibir) && (puedeRecibir || parada));
+    ui->revisar->setEnabled(m_mandos.atiende(ui->revisar));
 }
 
 void FormRSAMensajes::eligeDestinatario(const QString &usuario)
@@ -190,27 +189,12 @@ void FormRSAMensajes::TimerRevision_Timer()
 
 void FormRSAMensajes::revisar_Click()
 {
-    if (m_parada == ui->revisar)
-        m_leccion->corrida().detener();
-    else if (!m_leccion->corrida().enCurso())
-        revisa();
-}
-
-template <typename Accion>
-void FormRSAMensajes::corre(QAbstractButton *boton, const QString &consejo, Accion accion)
-{
-    const auto alFinal = qScopeGuard([this] { habilita(); });
-    const Corrida::Tramo tramo(m_leccion->corrida());
-    const BotonDeParada aspecto(boton, consejo);
-    const QScopedValueRollback<QAbstractButton *> parada(m_parada, boton);
-    m_leccion->corrida().permitir();
-    habilita();
-    accion();
+    m_mandos.pulsa(ui->revisar, [this] { revisa(); });
 }
 
 void FormRSAMensajes::revisa()
 {
-    corre(ui->revisar, Traduce(u"Detener la revisión"_s), [this] {
+    m_mandos.corre(ui->revisar, Traduce(u"Detener la revisión"_s), [this] {
         try {
             const QString buzon = m_clave.DirMensajes();
             const int ilegibles = revisaBuzon(buzon, m_mensajes, m_leccion->corrida());
@@ -297,10 +281,7 @@ void FormRSAMensajes::escuchaErrores(clsMensaje &mensaje)
 
 void FormRSAMensajes::enviar_Click()
 {
-    if (m_parada == ui->enviar)
-        m_leccion->corrida().detener();
-    else if (!m_leccion->corrida().enCurso())
-        envia();
+    m_mandos.pulsa(ui->enviar, [this] { envia(); });
 }
 
 void FormRSAMensajes::envia()
@@ -317,7 +298,7 @@ void FormRSAMensajes::envia()
         !interlocutor().confirma(this, pregunta.arg(destinatario),
                                  Traduce(u"Falta la clave pública"_s)))
         return;
-    corre(ui->enviar, Traduce(u"Detener el envío"_s), [&] {
+    m_mandos.corre(ui->enviar, Traduce(u"Detener el envío"_s), [&] {
         clsMensaje mensaje;
         escuchaErrores(mensaje);
         mensaje.ponMensajeOK(true);
@@ -340,10 +321,7 @@ void FormRSAMensajes::envia()
 
 void FormRSAMensajes::recibir_Click()
 {
-    if (m_parada == ui->recibir)
-        m_leccion->corrida().detener();
-    else if (!m_leccion->corrida().enCurso())
-        recibe();
+    m_mandos.pulsa(ui->recibir, [this] { recibe(); });
 }
 
 void FormRSAMensajes::recibe()
@@ -356,7 +334,7 @@ void FormRSAMensajes::recibe()
                                Traduce(u"Recibir el mensaje"_s));
         return;
     }
-    corre(ui->recibir, Traduce(u"Detener la lectura"_s), [&] {
+    m_mandos.corre(ui->recibir, Traduce(u"Detener la lectura"_s), [&] {
         m_corresponsal.clave().pont(m_ventanaClave->t());
         mensaje->ponClave(&m_corresponsal.clave());
         mensaje->disconnect(this);

@@ -2,6 +2,7 @@
 
 #include "lessons/rsa/ColMensajes.h"
 #include "lessons/rsa/Corresponsal.h"
+#include "lessons/rsa/FormRSACorrida.h"
 #include "lessons/rsa/TablaDeTextos.h"
 
 #include <QTimer>
@@ -10,7 +11,6 @@
 
 class FormClaveRSA;
 class FormLeccion;
-class QAbstractButton;
 
 namespace Ui {
 class FormRSAMensajes;
@@ -31,7 +31,7 @@ public:
     void revisaPronto();
 
     /// The button of the run in progress, if it was started here.
-    QAbstractButton *botonDeParada() const { return m_parada; }
+    QAbstractButton *botonDeParada() const { return m_mandos.botonDeParada(); }
 
 Q_SIGNALS:
     /// The mailbox could not be read.
@@ -45,8 +45,6 @@ private:
     void eligeDestinatario(const QString &usuario);
     void actualizaDestinatario();
     void olvidaDestinatario();
-    template <typename Accion>
-    void corre(QAbstractButton *boton, const QString &consejo, Accion accion);
     void revisa();
     void vaciaLista();
     QString estadoDeRevision(int ilegibles) const;
@@ -75,7 +73,7 @@ private:
     TablaDeTextos m_tabla;
     QTimer m_timerRevision; ///< a scan that is due
     FormLeccion *m_leccion;
+    FormRSACorrida m_mandos;
     FormClaveRSA *m_ventanaClave;
     int m_filaMostrada = -1;
-    QAbstractButton *m_parada = nullptr;
 };
