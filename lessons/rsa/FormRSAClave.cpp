@@ -189,8 +189,9 @@ void FormRSAClave::txtR_Change()
 void FormRSAClave::ChkNumBits_Click()
 {
     const bool exige = ui->ChkNumBits->isChecked();
-    m_clave.ponNBitsRequeridos(exige ? aEntero16(ui->TxtNumBits->text()) : std::int16_t{0});
+    // First of all, because a number that is too large can only be changed in the field.
     ui->TxtNumBits->setEnabled(exige);
+    m_clave.ponNBitsRequeridos(exige ? aEntero16(ui->TxtNumBits->text()) : std::int16_t{0});
     muestraObjecion();
 }
 

@@ -7,8 +7,8 @@
 
 /// The buttons of a topic that start the lesson's runs. For as long as a run lasts, the one that
 /// started it stops it: its picture, caption and tooltip say so. The buttons of
-/// shell/BotonDeCalculo are at rest as soon as they have told a run to stop, and always look the
-/// same at rest; these stay until the run returns, and there are five kinds of them.
+/// shell/BotonDeCalculo are at rest as soon as they have told a run to stop, and all look alike
+/// then; these wait for the run to return, and go back to a look of their own.
 class FormRSACorrida
 {
 public:

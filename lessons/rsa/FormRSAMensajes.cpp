@@ -41,11 +41,15 @@ FormRSAMensajes::FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion)
     // The field within has the focus, and screen readers tell its name.
     ui->cmbDestinatario->lineEdit()->setAccessibleName(ui->cmbDestinatario->accessibleName());
     m_timerRevision.setSingleShot(true);
+    ui->enviar->installEventFilter(this);
 
     conecta(ui->FlexMensajes, &QTableView::clicked, this,
             [this](const QModelIndex &celda) { FlexMensajes_Click(celda.row()); });
     conecta(ui->FlexMensajes->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &celda) { FlexMensajes_Click(celda.row()); });
+    conecta(ui->FlexMensajes, &QTableView::activated, this, [this] { ui->recibir->click(); });
+    conecta(ui->txtAsunto, &QLineEdit::returnPressed, this,
+            [this] { ui->txtDestTextoOriginal->setFocus(); });
     conecta(ui->cmbDestinatario, &QComboBox::activated, this,
             [this] { cmbDestinatario_Validate(); });
     conecta(ui->cmbDestinatario->lineEdit(), &QLineEdit::editingFinished, this,
@@ -83,6 +87,14 @@ void FormRSAMensajes::hideEvent(QHideEvent *suceso)
     m_ventanaClave->hide();
     // Before the topic is left, so that no way of going on loses the own key.
     evento(this, [this] { m_corresponsal.devuelveClavePropia(); });
+}
+
+bool FormRSAMensajes::eventFilter(QObject *objeto, QEvent *suceso)
+{
+    // The second click of a double click would send the message again: it is no repeated one before
+    // the next scan.
+    return (objeto == ui->enviar && suceso->type() == QEvent::MouseButtonDblClick) ||
+           QWidget::eventFilter(objeto, suceso);
 }
 
 void FormRSAMensajes::habilita()

@@ -40,6 +40,7 @@ Q_SIGNALS:
 protected:
     void showEvent(QShowEvent *suceso) override;
     void hideEvent(QHideEvent *suceso) override;
+    bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
     void eligeDestinatario(const QString &usuario);

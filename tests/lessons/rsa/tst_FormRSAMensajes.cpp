@@ -66,7 +66,7 @@ private Q_SLOTS:
         eligeFila(0);
         QCOMPARE(linea(u"txtAsunto"_s)->text(), u"Cita"_s);
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), QString());
-        boton(u"recibir"_s)->click();
+        QTest::keyClick(control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s), Qt::Key_Return);
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
 
         boton(u"enviar"_s)->click();
@@ -75,6 +75,20 @@ private Q_SLOTS:
         QCOMPARE(mensaje.icono, Interlocutor::Icono::Critico);
         QCOMPARE(mensaje.texto,
                  u"Ya hay un mensaje de %1 para %1 con asunto 'Cita'"_s.arg(m_yo->usuario()));
+    }
+
+    void unDobleClicEnviaUnaVez()
+    {
+        preparaBuzon();
+        boton(u"cmdPublicarClave"_s)->click();
+        eligeUsuario(m_yo->usuario());
+        escribeMensaje(u"Cita"_s, u"A las 5"_s);
+        // What Qt Test calls a double click is the second press alone.
+        QTest::mouseClick(boton(u"enviar"_s), Qt::LeftButton);
+        QTest::mouseDClick(boton(u"enviar"_s), Qt::LeftButton);
+        QTest::mouseRelease(boton(u"enviar"_s), Qt::LeftButton);
+        QCOMPARE(QDir(m_yo->enBuzon(m_yo->usuario())).entryList({u"*.msg"_s}),
+                 QStringList{u"RSA1.msg"_s});
     }
 
     void soloSuDuenoLoLee()
