@@ -12,6 +12,7 @@
 #include "shell/Rutas.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -82,8 +83,9 @@ void ClsRSA::SalvaClave() const
     entradas.append({u"t"_s, m_t});
     entradas.append({u"NBits"_s, QString::number(m_nbits)});
     entradas.append({u"Fi(Q)"_s, m_fiQ});
-    Perfil::escribe(rutaExistente(FicheroClavePrivada()), u"RSA"_s, entradas,
-                    Perfil::Acceso::Privado);
+    const QString ruta = rutaExistente(FicheroClavePrivada());
+    QDir().mkpath(QFileInfo(ruta).absolutePath());
+    Perfil::escribe(ruta, u"RSA"_s, entradas, Perfil::Acceso::Privado);
 }
 
 void ClsRSA::RecuperaClave()
