@@ -31,8 +31,11 @@ QList<Escena> escenasMiniCal(int fila)
 {
     QList<Paso> expresiones = hojaDeMuestra();
     expresiones << Paso{u"MostrarExpresiones"_s, {}};
+    QList<Paso> enElError = hojaDeMuestra();
+    enElError << Paso{u"FlexCalc"_s, u"1,3"_s};
     return {{u"minical-vacia"_s, fila, u"hoja"_s},
             {u"minical-resultados"_s, fila, u"hoja"_s, hojaDeMuestra()},
             {u"minical-expresiones"_s, fila, u"hoja"_s, expresiones},
+            {u"minical-error"_s, fila, u"hoja"_s, enElError},
             {u"minical-ayuda"_s, fila, u"intro"_s}};
 }

@@ -50,6 +50,11 @@ void FormCalcRejilla::preparaCabeceras()
             const bool deColumnas = cabecera->orientation() == Qt::Horizontal;
             Q_EMIT clic(deColumnas ? Celda{0, seccion + 1} : Celda{seccion + 1, 0});
         });
+        // Wherever the mouse is, a double click edits the current cell.
+        connect(cabecera, &QHeaderView::sectionDoubleClicked, this, [this] {
+            if (currentIndex().isValid())
+                edit(currentIndex(), DoubleClicked, nullptr);
+        });
     }
     ajustaALaLetra();
 }

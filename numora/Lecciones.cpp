@@ -36,15 +36,25 @@ FormLeccion *crea(QWidget *padre)
 Contenido contenidoDelPrograma()
 {
     Contenido contenido;
-    contenido.lecciones = {{u"FIBONACCI"_s, u"Fibonacci"_s, crea<FormFibonacci>},
-                           {u"EUCLIDES"_s, u"Algoritmo de Euclides"_s, crea<FormEuclides>},
-                           {u"PRIMOS"_s, u"Primos"_s, crea<FormPrimos>},
-                           {u"UNIDADES"_s, u"Unidades"_s, crea<FormUnidades>},
-                           {u"RSA"_s, u"Criptografía RSA"_s, crea<FormRSA>},
-                           {u"TCR"_s, u"Teorema chino del resto"_s, crea<FormTCR>},
-                           {u"RECURSION"_s, u"Recursión y complejidad"_s, crea<FormRecursión1>},
-                           {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>},
-                           {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>}};
+    contenido.lecciones = {
+        {u"FIBONACCI"_s, u"Fibonacci"_s, crea<FormFibonacci>,
+         u"La sucesión, su razón áurea y sus identidades, calculadas de tres maneras."_s},
+        {u"EUCLIDES"_s, u"Algoritmo de Euclides"_s, crea<FormEuclides>,
+         u"El máximo común divisor paso a paso, y las ecuaciones diofánticas lineales."_s},
+        {u"PRIMOS"_s, u"Primos"_s, crea<FormPrimos>,
+         u"Reconocer números primos, cribarlos y descomponer en factores."_s},
+        {u"UNIDADES"_s, u"Unidades"_s, crea<FormUnidades>,
+         u"Los elementos invertibles de Zₙ, sus órdenes y la función de Euler."_s},
+        {u"RSA"_s, u"Criptografía RSA"_s, crea<FormRSA>,
+         u"Crear claves, cifrar textos e intercambiar mensajes secretos."_s},
+        {u"TCR"_s, u"Teorema chino del resto"_s, crea<FormTCR>,
+         u"Hallar el número que deja los restos pedidos al dividirlo por varios módulos."_s},
+        {u"RECURSION"_s, u"Recursión y complejidad"_s, crea<FormRecursión1>,
+         u"Lo que cuesta llamarse a sí mismo: llamadas, tiempos y torres de Hanói."_s},
+        {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>,
+         u"Sucesiones definidas módulo m y el período con el que se repiten."_s},
+        {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>,
+         u"La función de Ackermann, los números del granizo y los palíndromos."_s}};
     contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
     contenido.escenas = escenasFibonacci(0) + escenasEuclides(1) + escenasPrimos(2) +
                         escenasUnidades(3) + escenasRSA(4) + escenasTCR(5) + escenasRecursion1(6) +

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <unistd.h>
 
 ErrorEjecucion errorDeArchivo(const QFileDevice &archivo, const QString &ruta)
 {
@@ -19,6 +20,17 @@ ErrorEjecucion errorDeArchivo(const QFileDevice &archivo, const QString &ruta)
     return ErrorEjecucion(numero, QDir::toNativeSeparators(ruta) + u'\n' + archivo.errorString());
 }
 
+namespace {
+
+/// Writes out now what a full disk or a quota may still refuse: QSaveFile replaces the old file
+/// even if its own buffer could not be written.
+bool llegaAlDisco(QSaveFile &archivo)
+{
+    return archivo.flush() && ::fsync(archivo.handle()) == 0;
+}
+
+} // namespace
+
 void escribeArchivo(const QString &ruta, const QByteArray &contenido, bool privado)
 {
     QSaveFile archivo(ruta);
@@ -26,7 +38,7 @@ void escribeArchivo(const QString &ruta, const QByteArray &contenido, bool priva
         throw errorDeArchivo(archivo, ruta);
     if (privado && !archivo.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner))
         throw errorDeArchivo(archivo, ruta);
-    if (archivo.write(contenido) != contenido.size() || !archivo.commit())
+    if (archivo.write(contenido) != contenido.size() || !llegaAlDisco(archivo) || !archivo.commit())
         throw errorDeArchivo(archivo, ruta);
 }
 

@@ -1,12 +1,8 @@
 #include "shell/AreaLecciones.h"
 
-#include "shell/Aspecto.h"
-#include "shell/ModGlobal.h"
-
+#include <QApplication>
+#include <QEvent>
 #include <QMdiSubWindow>
-#include <QPainter>
-
-using namespace Qt::Literals::StringLiterals;
 
 AreaLecciones::AreaLecciones(QWidget *padre) : QMdiArea(padre)
 {
@@ -14,18 +10,45 @@ AreaLecciones::AreaLecciones(QWidget *padre) : QMdiArea(padre)
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
-void AreaLecciones::paintEvent(QPaintEvent *suceso)
+void AreaLecciones::ponBienvenida(QWidget *bienvenida)
 {
-    QMdiArea::paintEvent(suceso);
-    const auto ventanas = subWindowList();
-    if (std::any_of(ventanas.begin(), ventanas.end(),
-                    [](const QMdiSubWindow *v) { return v->isVisible(); }))
+    m_bienvenida = bienvenida;
+    // Not the viewport's: all children of that are taken for child windows.
+    m_bienvenida->setParent(this);
+    m_bienvenida->setGeometry(viewport()->geometry());
+    actualizaBienvenida();
+}
+
+void AreaLecciones::actualizaBienvenida()
+{
+    if (!m_bienvenida)
         return;
-    QPainter pintor(viewport());
-    QFont letra = font();
-    letra.setPointSizeF(letra.pointSizeF() * 1.3);
-    pintor.setFont(letra);
-    pintor.setPen(Aspecto::atenuado());
-    pintor.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                    Traduce(u"Elija una lección en el menú"_s));
+    const auto ventanas = subWindowList();
+    const bool vacia = std::all_of(ventanas.begin(), ventanas.end(),
+                                   [](const QMdiSubWindow *v) { return v->isHidden(); });
+    if (vacia == !m_bienvenida->isHidden())
+        return;
+    m_bienvenida->setVisible(vacia);
+    Q_EMIT hayVentanas(!vacia);
+    // Who closes the last lesson goes on from here by keyboard, unless the menu has the keys.
+    const QWidget *enfocado = QApplication::focusWidget();
+    if (vacia && (!enfocado || isAncestorOf(enfocado)))
+        m_bienvenida->setFocus();
+}
+
+bool AreaLecciones::eventFilter(QObject *objeto, QEvent *suceso)
+{
+    const bool salida = QMdiArea::eventFilter(objeto, suceso);
+    // An area filters the events of its child windows.
+    const bool vistas = suceso->type() == QEvent::Show || suceso->type() == QEvent::Hide;
+    if (vistas && qobject_cast<QMdiSubWindow *>(objeto))
+        actualizaBienvenida();
+    return salida;
+}
+
+void AreaLecciones::resizeEvent(QResizeEvent *suceso)
+{
+    QMdiArea::resizeEvent(suceso);
+    if (m_bienvenida)
+        m_bienvenida->setGeometry(viewport()->geometry());
 }

@@ -10,12 +10,18 @@ struct Juicio
     QString palabra;
 };
 
-/// An exercise: what is asked, what an answer looks like, and the judge of one. An answer is judged
-/// without blanks at its ends, with the signs and names that expressions take (PanelCuestiones),
-/// and never empty.
+/// What judges an answer: without blanks at its ends, with the signs and names that expressions
+/// take (PanelCuestiones), and never empty. Throws what Evalua throws.
+using Juez = std::function<Juicio(const QString &respuesta)>;
+
+/// An exercise: what is asked, what an answer looks like, and its judge.
 struct Cuestion
 {
     QString enunciado;
     QString ejemplo;
-    std::function<Juicio(const QString &respuesta)> juzga;
+    Juez juzga;
 };
+
+/// The judge of answers that are expressions for whole numbers of any size, made of one that is
+/// given their digits with their sign. Any other answer is wrong, and told so.
+Juez juezDeEnteros(const Juez &juez);

@@ -57,8 +57,7 @@ void FormLeccion::cierra()
 
 void FormLeccion::detenCorrida()
 {
-    QAbstractButton *boton = m_corrida.enCurso() ? botonDeParada() : nullptr;
-    if (boton)
+    if (QAbstractButton *boton = botonDeParada())
         boton->click();
 }
 
@@ -154,7 +153,7 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         return true;
     }
     if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
-        m_corrida.enCurso()) {
+        botonDeParada()) {
         evento(this, [this] { detenCorrida(); });
         return true;
     }

@@ -10,6 +10,7 @@
 #include "shell/MenuLecciones.h"
 #include "shell/MenuVentana.h"
 #include "shell/ModGlobal.h"
+#include "shell/PanelBienvenida.h"
 #include "shell/Textos.h"
 #include "ui_FormPrincipal.h"
 
@@ -65,6 +66,9 @@ void FormPrincipal::preparaMenu(const Contenido &contenido)
     menu->viewport()->setCursor(Cursor(u"MANO"_s, {10, 3}));
     menu->viewport()->installEventFilter(this);
     menu->installEventFilter(this);
+    m_bienvenida = new PanelBienvenida(m_menu, this);
+    ui->AreaDeTrabajo->ponBienvenida(m_bienvenida);
+    conecta(m_bienvenida, &PanelBienvenida::elegida, this, &FormPrincipal::abreLeccion);
     conecta(menu, &QListView::clicked, this, &FormPrincipal::FlexMenu_Click);
     conecta(menu->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &actual) { FlexMenu_MouseMove(actual.row()); });
@@ -80,6 +84,12 @@ void FormPrincipal::preparaOrdenes()
     ui->mnuLetraMenor->setShortcut(Qt::CTRL | Qt::Key_Minus);
     ui->mnuCerrar->setShortcuts({Qt::CTRL | Qt::Key_W, Qt::CTRL | Qt::Key_F4});
     m_menuVentana = new MenuVentana(ui->mnuVentana, ui->AreaDeTrabajo);
+
+    // What acts on the active lesson waits until there is one.
+    for (QAction *accion : {ui->Algoritmos, ui->mnuCerrar}) {
+        accion->setEnabled(false);
+        connect(ui->AreaDeTrabajo, &AreaLecciones::hayVentanas, accion, &QAction::setEnabled);
+    }
 
     const auto orden = [this](QAction *accion, auto manejador) {
         conecta(accion, &QAction::triggered, this, manejador);
@@ -202,6 +212,9 @@ QWidget *FormPrincipal::muestraAcercaDe(bool presentacion)
         m_timerPresentacion->stop();
     });
     if (presentacion) {
+        // There is no window yet over which it could stand.
+        acercaDe->adjustSize();
+        acercaDe->move(screen()->availableGeometry().center() - acercaDe->rect().center());
         connect(m_timerPresentacion, &QTimer::timeout, acercaDe, &QWidget::close);
         m_timerPresentacion->start();
     }
@@ -277,13 +290,12 @@ void FormPrincipal::mnuCerrar_Click()
 void FormPrincipal::mnuOtroPanel_Click()
 {
     FormLeccion *leccion = leccionActiva();
-    const bool enElMenu = ui->FlexMenu->hasFocus();
-    if (!enElMenu || !leccion) {
-        ui->FlexMenu->setFocus(Qt::ShortcutFocusReason);
-        return;
-    }
-    QWidget *anterior = leccion->focusWidget();
-    (anterior ? anterior : leccion)->setFocus(Qt::ShortcutFocusReason);
+    QWidget *destino = ui->FlexMenu;
+    if (ui->FlexMenu->hasFocus() && !leccion)
+        destino = m_bienvenida;
+    else if (ui->FlexMenu->hasFocus())
+        destino = leccion->focusWidget() ? leccion->focusWidget() : leccion;
+    destino->setFocus(Qt::ShortcutFocusReason);
 }
 
 void FormPrincipal::mnuDepartamento_Click()

@@ -11,6 +11,7 @@
 class FormLeccion;
 class MenuLecciones;
 class MenuVentana;
+class PanelBienvenida;
 
 namespace Ui {
 class FormPrincipal;
@@ -68,6 +69,7 @@ private:
     std::unique_ptr<Ui::FormPrincipal> ui;
     MenuLecciones *m_menu;
     MenuVentana *m_menuVentana;
+    PanelBienvenida *m_bienvenida;
     QList<Leccion> m_lecciones;
     Leccion m_hojaDeCalculo;
     QHash<int, QPointer<FormLeccion>> m_abiertas;

@@ -176,9 +176,10 @@ bool Interlocutor::confirma(QWidget *padre, const QString &pregunta, const QStri
 
 void Interlocutor::abre(const QString &direccion)
 {
-    const QString local = rutaExistente(direccion);
-    QDesktopServices::openUrl(QFileInfo(local).isAbsolute() ? QUrl::fromLocalFile(local)
-                                                            : QUrl(direccion));
+    const QFileInfo archivo(rutaExistente(direccion));
+    const bool local = archivo.isAbsolute() || archivo.exists();
+    QDesktopServices::openUrl(local ? QUrl::fromLocalFile(archivo.absoluteFilePath())
+                                    : QUrl(direccion));
 }
 
 bool Interlocutor::lanzaAlguno(const QList<QStringList> &ordenes)

@@ -15,6 +15,7 @@ struct Leccion
     QString rotulo; ///< caption in the menu, Spanish
     /// Makes the window; empty while the lesson does not exist, and its row is then disabled.
     std::function<FormLeccion *(QWidget *padre)> crea;
+    QString descripcion = {}; ///< what it teaches, a line, Spanish
 };
 
 /// One step of a scene of the gallery: what a student would do to bring a window into a state.

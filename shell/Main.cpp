@@ -53,8 +53,8 @@ void instalaTextosDeQt()
 {
     static QPointer<QTranslator> textos;
     delete textos;
-    // Any language but Spanish leaves Qt's own English texts.
-    if (Idioma() != IdiomaPropio)
+    // A translated interface leaves Qt's own English texts.
+    if (HayTraduccion())
         return;
     textos = new QTranslator(QCoreApplication::instance());
     if (textos->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

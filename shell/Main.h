@@ -30,7 +30,7 @@ struct ProgramaEnMarcha
 /// loads the main window without showing it, shows the splash, and starts the big-number service.
 ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido);
 
-/// Qt's own texts ("Aceptar", "Opciones:") in Spanish, where that is the language.
+/// Qt's own texts ("Aceptar", "Opciones:") in Spanish, unless the interface is in another language.
 void instalaTextosDeQt();
 
 /// Style, palette, type size and Qt's own texts, as the user's settings have them.

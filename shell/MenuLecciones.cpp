@@ -24,11 +24,14 @@ QVariant MenuLecciones::data(const QModelIndex &indice, int papel) const
     const Leccion &leccion = m_lecciones[indice.row()];
     switch (papel) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
     case Qt::AccessibleTextRole:
         return Traduce(leccion.rotulo);
     case Qt::DecorationRole:
         return Icono(leccion.icono);
+    case Qt::ToolTipRole:
+        return (Traduce(leccion.rotulo) + u'\n' + Traduce(leccion.descripcion)).trimmed();
+    case PapelDescripcion:
+        return Traduce(leccion.descripcion);
     case PapelResaltado:
         return m_resaltadas[indice.row()];
     default:
@@ -56,14 +59,22 @@ void PintorDeMenu::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
     const bool activo = opcion.state & QStyle::State_Enabled;
     const bool resaltado = indice.data(MenuLecciones::PapelResaltado).toBool() && activo;
     const bool enfocado = opcion.state & QStyle::State_HasFocus;
-    const QPalette &paleta = opcion.palette;
     const QRect cuadro = opcion.rect.adjusted(4, 2, -4, -2);
 
     pintor->save();
     pintor->setRenderHint(QPainter::Antialiasing);
+    // A veil of the accent colour: on the colour itself the outlines of the pictures would be lost.
+    QColor velo = Aspecto::acento();
+    velo.setAlphaF(resaltado ? 0.22F : 0);
     pintor->setPen(enfocado ? QPen(Aspecto::acento(), 1.5) : QPen(Qt::NoPen));
-    pintor->setBrush(resaltado ? paleta.highlight() : QBrush(Qt::NoBrush));
+    pintor->setBrush(velo);
     pintor->drawRoundedRect(cuadro, 6, 6);
+    if (resaltado) {
+        pintor->setPen(Qt::NoPen);
+        pintor->setBrush(Aspecto::acento());
+        pintor->drawRoundedRect(QRect(cuadro.left(), cuadro.top() + 6, 4, cuadro.height() - 12), 2,
+                                2);
+    }
 
     const int lado = opcion.decorationSize.height();
     const QRect icono(cuadro.left() + 8, cuadro.center().y() - lado / 2 + 1, lado, lado);
@@ -72,7 +83,7 @@ void PintorDeMenu::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
         .paint(pintor, icono, Qt::AlignCenter, activo ? QIcon::Normal : QIcon::Disabled);
 
     const auto grupo = activo ? QPalette::Normal : QPalette::Disabled;
-    pintor->setPen(paleta.color(grupo, resaltado ? QPalette::HighlightedText : QPalette::Text));
+    pintor->setPen(opcion.palette.color(grupo, QPalette::Text));
     const QRect letrero = cuadro.adjusted(lado + 18, 0, -6, 0);
     const QString texto =
         opcion.fontMetrics.elidedText(indice.data().toString(), Qt::ElideRight, letrero.width());

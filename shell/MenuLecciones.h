@@ -5,11 +5,14 @@
 #include <QAbstractListModel>
 #include <QStyledItemDelegate>
 
-/// The rows of the lesson menu. Each has its highlight style, switched on and off by the window.
+/// The lessons, as the rows of the menu and as the cards of the welcome. Each row has its highlight
+/// style, switched on and off by the window.
 class MenuLecciones : public QAbstractListModel
 {
 public:
     static constexpr int PapelResaltado = Qt::UserRole;
+    /// What the lesson teaches, in a line.
+    static constexpr int PapelDescripcion = Qt::AccessibleDescriptionRole;
 
     explicit MenuLecciones(const QList<Leccion> &lecciones, QObject *padre = nullptr);
 

@@ -49,6 +49,11 @@ QString &Idioma()
     return idioma;
 }
 
+bool HayTraduccion()
+{
+    return Idioma() != IdiomaPropio && tablaDeTextos().tieneSeccion(Idioma());
+}
+
 QString Traduce(const QString &texto)
 {
     const QString clave = texto.trimmed();
@@ -93,7 +98,10 @@ bool ExisteFichero(const QString &ruta)
 
 std::int32_t Redondea(double valor)
 {
-    return comprobado(std::copysign(std::floor(std::abs(valor) + 0.5), valor));
+    // Not by adding a half: that sum carries the greatest double below 0.5 to 1.
+    const double entero = std::trunc(valor);
+    const bool sube = std::abs(valor - entero) >= 0.5;
+    return comprobado(sube ? entero + std::copysign(1, valor) : entero);
 }
 
 std::int32_t Techo(double valor)

@@ -13,6 +13,10 @@ inline constexpr QStringView IdiomaPropio = u"Español";
 /// IdiomaPropio until another one is put there.
 QString &Idioma();
 
+/// Whether the interface has been translated into the current language. Where it has not, its texts
+/// are Spanish.
+bool HayTraduccion();
+
 /// The translation of a Spanish interface text into the current language: the entry of Numora.txt
 /// beside the program, at most 1023 characters; the text itself when there is none. Blanks at the
 /// ends of a text are not part of its key and are kept; a line break stands in the file as "\n",

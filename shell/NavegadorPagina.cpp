@@ -10,8 +10,31 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QScrollBar>
+#include <QTextBlock>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Where a figure keeps the width that its page gives it.
+constexpr int AnchoNatural = QTextFormat::UserProperty;
+
+/// The figures that have a size, and the place of each in the text.
+QList<std::pair<int, QTextImageFormat>> figurasDe(const QTextDocument &pagina)
+{
+    QList<std::pair<int, QTextImageFormat>> figuras;
+    for (QTextBlock bloque = pagina.begin(); bloque.isValid(); bloque = bloque.next()) {
+        for (auto trozo = bloque.begin(); !trozo.atEnd(); ++trozo) {
+            const QTextImageFormat figura = trozo.fragment().charFormat().toImageFormat();
+            if (figura.isValid() && figura.width() > 0)
+                figuras.emplace_back(trozo.fragment().position(), figura);
+        }
+    }
+    return figuras;
+}
+
+} // namespace
 
 NavegadorPagina::NavegadorPagina(QWidget *padre) : QTextBrowser(padre)
 {
@@ -19,6 +42,12 @@ NavegadorPagina::NavegadorPagina(QWidget *padre) : QTextBrowser(padre)
     setFrameShape(QFrame::NoFrame);
     document()->setDocumentMargin(2 * Aspecto::Margen);
     connect(this, &QTextBrowser::anchorClicked, this, &NavegadorPagina::sigueEnlace);
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl &direccion) {
+        ajustaFiguras();
+        // What stands above the place has become lower.
+        if (direccion.hasFragment())
+            scrollToAnchor(direccion.fragment());
+    });
 }
 
 void NavegadorPagina::navega(const QString &ruta)
@@ -32,8 +61,7 @@ void NavegadorPagina::navega(const QString &ruta)
 void NavegadorPagina::muestra()
 {
     m_pendiente = false;
-    document()->setDefaultStyleSheet(u"a { color: %1; } h1, h2, h3 { color: %2; }"_s.arg(
-        palette().link().color().name(), Aspecto::acento().name()));
+    ponColores();
     const QString archivo = QDir::current().absoluteFilePath(rutaExistente(m_ruta));
     if (QFileInfo(archivo).isFile()) {
         setSource(QUrl::fromLocalFile(archivo));
@@ -41,6 +69,32 @@ void NavegadorPagina::muestra()
     }
     setPlainText(Traduce(u"No se encuentra la página de introducción."_s) + u"\n\n"_s +
                  QDir::toNativeSeparators(archivo));
+}
+
+void NavegadorPagina::ponColores()
+{
+    document()->setDefaultStyleSheet(u"a { color: %1; } h1, h2, h3 { color: %2; }"_s.arg(
+        palette().link().color().name(), Aspecto::acento().name()));
+}
+
+void NavegadorPagina::ajustaFiguras()
+{
+    const qreal hueco = viewport()->width() - 2 * document()->documentMargin() - 1;
+    const auto figuras = figurasDe(*document());
+    for (const auto &[lugar, formato] : figuras) {
+        QTextImageFormat figura = formato;
+        if (!figura.hasProperty(AnchoNatural))
+            figura.setProperty(AnchoNatural, figura.width());
+        const qreal ancho = std::min(figura.doubleProperty(AnchoNatural), hueco);
+        if (ancho <= 0 || ancho == figura.width())
+            continue;
+        figura.setHeight(figura.height() * ancho / figura.width());
+        figura.setWidth(ancho);
+        QTextCursor cursor(document());
+        cursor.setPosition(lugar);
+        cursor.setPosition(lugar + 1, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(figura);
+    }
 }
 
 QVariant NavegadorPagina::loadResource(int tipo, const QUrl &nombre)
@@ -70,12 +124,19 @@ void NavegadorPagina::showEvent(QShowEvent *suceso)
         muestra();
 }
 
+void NavegadorPagina::resizeEvent(QResizeEvent *suceso)
+{
+    QTextBrowser::resizeEvent(suceso);
+    ajustaFiguras();
+}
+
 void NavegadorPagina::changeEvent(QEvent *suceso)
 {
     QTextBrowser::changeEvent(suceso);
     if (suceso->type() != QEvent::PaletteChange || m_pendiente || source().isEmpty())
         return;
     const int posicion = verticalScrollBar()->value();
-    muestra();
+    ponColores();
+    reload();
     verticalScrollBar()->setValue(posicion);
 }

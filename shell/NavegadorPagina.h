@@ -3,8 +3,8 @@
 #include <QTextBrowser>
 
 /// Shows a local page of introduction (`wbIntro`). The page is read when the browser is first seen,
-/// links to other pages open here, web addresses in the system's browser, and the colours follow
-/// the palette.
+/// links to other pages open here, web addresses in the system's browser, the colours follow
+/// the palette, and figures shrink to the width of the window.
 class NavegadorPagina : public QTextBrowser
 {
     Q_OBJECT
@@ -21,10 +21,14 @@ public:
 
 protected:
     void showEvent(QShowEvent *suceso) override;
+    void resizeEvent(QResizeEvent *suceso) override;
     void changeEvent(QEvent *suceso) override;
 
 private:
     void muestra();
+    void ponColores();
+    /// Makes figures that are wider than the window as wide as it is.
+    void ajustaFiguras();
     void sigueEnlace(const QUrl &enlace);
 
     QString m_ruta;

@@ -69,6 +69,11 @@ Perfil::Lectura Perfil::leeBytes(const QByteArray &bytes)
                                                                 : Lectura::Ilegible;
 }
 
+bool Perfil::tieneSeccion(const QString &seccion) const
+{
+    return !seccion.isEmpty() && m_datos->ini.GetSection(seccion.toUtf8().constData()) != nullptr;
+}
+
 QString Perfil::valor(const QString &seccion, const QString &clave, const QString &defecto,
                       int maximo) const
 {

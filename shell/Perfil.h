@@ -29,6 +29,8 @@ public:
     /// Reads the bytes of such a file.
     Lectura leeBytes(const QByteArray &bytes);
 
+    bool tieneSeccion(const QString &seccion) const;
+
     /// The value of a key, cut to `maximo` - 1 characters; `defecto` when it is missing.
     QString valor(const QString &seccion, const QString &clave, const QString &defecto = {},
                   int maximo = 8192) const;

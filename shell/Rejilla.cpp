@@ -46,7 +46,8 @@ QString Rejilla::seleccion(FormaDeCopia forma) const
                                                                      model()->columnCount() - 1));
     }
     QList<QStringList> filas;
-    if (todo || rango.height() == model()->rowCount()) {
+    const bool columnasEnteras = todo || rango.height() == model()->rowCount();
+    if (columnasEnteras && !horizontalHeader()->isHidden()) {
         QStringList cabecera(m_rotulosDeFila ? 1 : 0);
         for (int c = rango.left(); c <= rango.right(); ++c)
             cabecera << model()->headerData(c, Qt::Horizontal).toString();

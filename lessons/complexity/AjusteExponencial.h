@@ -14,6 +14,6 @@ struct AjusteExponencial
     double valor(double x) const;
 };
 
-/// The least squares line through the logarithms; nothing with fewer than three points. Every y is
-/// positive.
+/// The least squares line through the logarithms; nothing with fewer than three points or when all
+/// of them have one x. Every y is positive.
 std::optional<AjusteExponencial> ajustaExponencial(const QList<QPointF> &puntos);

@@ -9,28 +9,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The whole number of any size that an answer stands for, in its digits; empty for any other text.
-QString enteroDe(const QString &respuesta)
-{
-    const QString valor = Evalua(QString(respuesta));
-    return valor == TextoError || valor.contains(u'/') ? QString() : valor;
-}
-
 qint64 fibonacci(int n)
 {
     return Evalua(u"fib(%1)"_s.arg(n)).toLongLong();
 }
 
-Juicio noEsUnNumero()
+Juicio juzgaLlamadas(const QString &valor, int n)
 {
-    return {false, Traduce(u"Escriba un número entero o una expresión."_s)};
-}
-
-Juicio juzgaLlamadas(const QString &respuesta, int n)
-{
-    const QString valor = enteroDe(respuesta);
-    if (valor.isEmpty())
-        return noEsUnNumero();
     const qint64 llamadas = 2 * fibonacci(n + 1) - 1;
     if (valor == QString::number(llamadas)) {
         return {true, Traduce(u"¡Correcto! Son 2 · F(%1) − 1 = %2."_s)
@@ -44,11 +29,8 @@ Juicio juzgaLlamadas(const QString &respuesta, int n)
                            u"L(n) = L(n−1) + L(n−2) + 1."_s)};
 }
 
-Juicio juzgaHanoi(const QString &respuesta, int discos, int disco)
+Juicio juzgaHanoi(const QString &valor, int discos, int disco)
 {
-    const QString valor = enteroDe(respuesta);
-    if (valor.isEmpty())
-        return noEsUnNumero();
     const qint64 veces = qint64{1} << (discos - disco);
     if (valor == QString::number(veces)) {
         return {true, Traduce(u"¡Correcto! El mayor se mueve una vez, y cada uno el doble que el "
@@ -70,28 +52,34 @@ Cuestion sorteaLlamadas()
 
 Cuestion cuestionLlamadas(int n)
 {
-    return {Traduce(u"¿Cuántas llamadas hace en total la función recursiva para calcular F(%1)?"_s)
+    return {Traduce(u"¿Cuántas llamadas hace en total la función recursiva para calcular F(%1), "
+                    u"contando la primera?"_s)
                 .arg(n),
             Traduce(u"Un número o una expresión"_s),
-            [n](const QString &respuesta) { return juzgaLlamadas(respuesta, n); }};
+            juezDeEnteros([n](const QString &valor) { return juzgaLlamadas(valor, n); })};
 }
 
 Cuestion sorteaHanoi()
 {
     const int discos = AleatorioEntre(8, 20);
-    // Neither the largest nor the smallest, nor the one in the middle, which stands at the same
-    // place from either end.
-    const int disco = AleatorioEntre(2, (discos - 1) / 2);
+    // Neither the smallest nor the two largest, which are too easy, nor the one in the middle,
+    // where counting from the wrong end gives the same.
+    int disco = 0;
+    do {
+        disco = AleatorioEntre(2, discos - 2);
+    } while (2 * disco == discos + 1);
     return cuestionHanoi(discos, disco);
 }
 
 Cuestion cuestionHanoi(int discos, int disco)
 {
     return {
-        Traduce(u"En las torres de Hanói con %1 discos, numerados desde el menor, ¿cuántas "
-                u"veces se mueve el disco %2?"_s)
+        Traduce(
+            u"En la solución más corta de las torres de Hanói con %1 discos, numerados desde el "
+            u"menor, ¿cuántas veces se mueve el disco %2?"_s)
             .arg(discos)
             .arg(disco),
         Traduce(u"Un número o una expresión, como 2^10"_s),
-        [discos, disco](const QString &respuesta) { return juzgaHanoi(respuesta, discos, disco); }};
+        juezDeEnteros(
+            [discos, disco](const QString &valor) { return juzgaHanoi(valor, discos, disco); })};
 }

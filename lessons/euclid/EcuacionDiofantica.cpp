@@ -24,6 +24,18 @@ QString formato(Entero128 valor)
     return formatoEntero(valor < 0 ? u'-' + digitos : digitos);
 }
 
+/// ⌈-t·(c/b)⌉ as 32 bits hold it.
+std::int64_t primeraK(Moneda t, Moneda b, Moneda c)
+{
+    try {
+        return Techo(-t.real() * (c.real() / b.real()));
+    } catch (const ErrorEjecucion &error) {
+        throw ErrorEjecucion(error.numero(),
+                             Traduce(u"El primer valor de k no cabe en 32 bits: pruebe con un "
+                                     "cambio menor o con otros importes."_s));
+    }
+}
+
 /// x = x0 + k·pasoX, y = y0 - k·pasoY, for k in [kmin, kmax].
 struct Recta
 {
@@ -93,7 +105,7 @@ SolucionesDiofanticas EcuacionDiofantica::resuelve(Moneda a, Moneda b, Moneda c)
     m_mcd.ponNúmero1(b);
     const Moneda t = m_mcd.Coeficiente2();
     const Moneda s = m_mcd.Coeficiente1();
-    const std::int64_t kmin = Techo(-t.real() * (c.real() / b.real()));
+    const std::int64_t kmin = primeraK(t, b, c);
     const auto kmax = static_cast<std::int64_t>(std::floor(s.real() * (c.real() / a.real())));
     const Moneda g = m_mcd.MCD();
     if (kmax < kmin || ModCy(c, g) != cero)

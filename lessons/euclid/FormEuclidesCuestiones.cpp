@@ -1,5 +1,6 @@
 #include "lessons/euclid/FormEuclidesCuestiones.h"
 
+#include "bignum/ModBignum.h"
 #include "lessons/euclid/EvaluaEntero.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
@@ -13,13 +14,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::int64_t MayorNumeroDeDivisiones = 100;
-
-/// A blank field counts as 0.
-Moneda valorDe(const QLineEdit *campo, std::int64_t mayor)
+/// One of the two numbers; a blank field counts as 0.
+Moneda numeroDe(const QLineEdit *campo)
 {
-    return campo->text().trimmed().isEmpty() ? Moneda()
-                                             : EvaluaEntero(campo->text(), Moneda::deEntero(mayor));
+    return EvaluaEntero(campo->text(), Moneda::deEntero(Moneda::MaximoEntero));
+}
+
+/// The number of divisions asked for; a blank field counts as 0, halves are rounded to even.
+std::int16_t divisionesDe(const QLineEdit *campo)
+{
+    constexpr std::int64_t maximo = 100;
+    return EvaluaMoneda(campo->text(), Moneda::deEntero(maximo)).aEntero16();
 }
 
 } // namespace
@@ -35,21 +40,34 @@ FormEuclidesCuestiones::FormEuclidesCuestiones(QWidget *leccion)
 
     conecta(ui->cmdProblema, &QPushButton::clicked, this,
             &FormEuclidesCuestiones::cmdProblema_Click);
-    for (const QLineEdit *campo : {ui->txtP1_0, ui->txtP1_1, ui->TxtN})
+    for (const QLineEdit *campo : {ui->txtP1_0, ui->txtP1_1, ui->TxtN}) {
         conecta(campo, &QLineEdit::returnPressed, this,
                 [this] { ui->cmdProblema->animateClick(); });
+        // A verdict belongs to the numbers that were judged.
+        conecta(campo, &QLineEdit::textChanged, ui->lblVeredicto, &QLabel::clear);
+    }
 }
 
 FormEuclidesCuestiones::~FormEuclidesCuestiones() = default;
 
 void FormEuclidesCuestiones::cmdProblema_Click()
 {
-    const Moneda a = valorDe(ui->txtP1_0, Moneda::MaximoEntero);
-    const Moneda b = valorDe(ui->txtP1_1, Moneda::MaximoEntero);
-    const std::int16_t n = valorDe(ui->TxtN, MayorNumeroDeDivisiones).aEntero16();
+    const Moneda a = numeroDe(ui->txtP1_0);
+    const Moneda b = numeroDe(ui->txtP1_1);
+    const std::int16_t n = divisionesDe(ui->TxtN);
     m_mcd.ponNúmero2(a);
     m_mcd.ponNúmero1(b);
     muestraVeredicto(m_mcd.NumDivisiones() == n);
+}
+
+QString FormEuclidesCuestiones::veredicto(bool acierto)
+{
+    if (acierto)
+        return Traduce(u"Correcto"_s);
+    // Where a number is 0 nothing was divided, and the count is that of other numbers.
+    const bool hayDivisiones = m_mcd.Número1() != Moneda() && m_mcd.Número2() != Moneda();
+    return hayDivisiones ? Traduce(u"No es correcto (iteraciones: %1)"_s).arg(m_mcd.NumDivisiones())
+                         : Traduce(u"No es correcto"_s);
 }
 
 void FormEuclidesCuestiones::muestraVeredicto(bool acierto)
@@ -57,7 +75,7 @@ void FormEuclidesCuestiones::muestraVeredicto(bool acierto)
     ui->ccrpAnimation->carga(acierto ? Sesión().AVIEureka() : Sesión().AVIError(),
                              acierto ? u"EUREKA"_s : u"ERROR"_s);
     ui->ccrpAnimation->reproduce(ReproductorAVI::Modo::UnaVez);
-    const QString veredicto = Traduce(acierto ? u"Correcto"_s : u"No es correcto"_s);
-    ui->ccrpAnimation->setAccessibleName(veredicto);
-    ::muestraVeredicto(ui->lblVeredicto, acierto, veredicto);
+    const QString texto = veredicto(acierto);
+    ui->ccrpAnimation->setAccessibleName(texto);
+    ::muestraVeredicto(ui->lblVeredicto, acierto, texto);
 }

@@ -20,6 +20,7 @@ public:
 
 private:
     void cmdProblema_Click();
+    QString veredicto(bool acierto);
     void muestraVeredicto(bool acierto);
 
     std::unique_ptr<Ui::FormEuclidesCuestiones> ui;

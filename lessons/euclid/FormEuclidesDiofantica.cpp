@@ -22,6 +22,7 @@ FormEuclidesDiofantica::FormEuclidesDiofantica(QWidget *leccion)
     ui->FlexEcuación->setModel(m_modelo);
     ui->FlexEcuación->ponTextoVacio(
         Traduce(u"Aquí se listan las soluciones de a·x + b·y = c con x e y no negativos."_s));
+    ui->FlexEcuación->setTextElideMode(Qt::ElideNone);
     new ColumnasRepartidas(ui->FlexEcuación);
 
     m_txtN = {ui->txtNº_0, ui->txtNº_1, ui->txtNº_2};

@@ -3,7 +3,25 @@
 #include "shell/Formatos.h"
 #include "shell/ModGlobal.h"
 
+#include <QBrush>
+#include <QFont>
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A veil that shows on light and on dark grounds alike.
+const QColor FondoDeEditables(0xf4, 0xa9, 0x42, 60);
+
+QFont negrita()
+{
+    QFont letra;
+    letra.setBold(true);
+    return letra;
+}
+
+} // namespace
 
 void ModeloEuclides::pon(const TablaEuclides &tabla)
 {
@@ -45,6 +63,10 @@ QVariant ModeloEuclides::data(const QModelIndex &indice, int rol) const
                                   : texto(indice.row(), indice.column());
     case Qt::TextAlignmentRole:
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    case Qt::BackgroundRole:
+        return esEditable(indice) ? QVariant::fromValue(QBrush(FondoDeEditables)) : QVariant();
+    case Qt::FontRole:
+        return daElResultado(indice) ? negrita() : QVariant();
     case Qt::ToolTipRole:
         return esEditable(indice) ? Traduce(u"Número o expresión; se edita con F2 o doble clic"_s)
                                   : QString();
@@ -85,6 +107,17 @@ bool ModeloEuclides::esEditable(const QModelIndex &indice)
 {
     return indice.isValid() && indice.row() == 0 &&
            (indice.column() == Dividendo || indice.column() == Divisor);
+}
+
+/// Whether the line of the result takes the number from this cell. With reduced remainders the
+/// coefficients prove nothing.
+bool ModeloEuclides::daElResultado(const QModelIndex &indice) const
+{
+    if (m_tabla.filaDelMcd() != indice.row())
+        return false;
+    const bool coeficiente = indice.column() == Coef1 || indice.column() == Coef2;
+    return indice.column() == Resto ||
+           (coeficiente && m_tabla.algoritmo() == AlgoritmoEuclides::Estandar);
 }
 
 QString ModeloEuclides::texto(int fila, int columna) const

@@ -32,6 +32,7 @@ Q_SIGNALS:
 
 private:
     static bool esEditable(const QModelIndex &indice);
+    bool daElResultado(const QModelIndex &indice) const;
     QString texto(int fila, int columna) const;
     QString textoParaEditar(int columna) const;
 

@@ -3,6 +3,8 @@
 #include "shell/Formatos.h"
 #include "shell/ModGlobal.h"
 
+#include <QSize>
+
 using namespace Qt::Literals::StringLiterals;
 
 ModeloSoluciones::ModeloSoluciones(QObject *padre)
@@ -35,10 +37,14 @@ QVariant ModeloSoluciones::data(const QModelIndex &indice, int rol) const
         return {};
     if (rol == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    const auto &solucion = m_lista[indice.row()];
+    const bool puntos = solucion.numero == 0;
+    // The dots are cut off where a column is narrow; its width follows the numbers.
+    if (rol == Qt::SizeHintRole && puntos)
+        return QSize(0, 0);
     if (rol != Qt::DisplayRole)
         return {};
-    const auto &solucion = m_lista[indice.row()];
-    if (solucion.numero == 0)
+    if (puntos)
         return QString(43, u'·');
     const std::array valores{solucion.numero, solucion.x, solucion.y};
     return formatoEntero(qint64(valores[static_cast<std::size_t>(indice.column())]));

@@ -70,6 +70,13 @@ TablaEuclides::TablaEuclides(Moneda dividendo, Moneda divisor, AlgoritmoEuclides
     m_mcd = dividendo;
 }
 
+std::optional<qsizetype> TablaEuclides::filaDelMcd() const
+{
+    if (m_divisiones.size() < 2)
+        return {};
+    return m_divisiones.size() - 2;
+}
+
 QString TablaEuclides::resultado() const
 {
     if (m_divisor < Cero || m_mcd <= Cero)
@@ -81,15 +88,11 @@ QString TablaEuclides::resultado() const
 
 QString TablaEuclides::bezout() const
 {
-    // The last division leaves 0; the row before it made the greatest common divisor. With no such
-    // row the divisor itself is it, and without any division the dividend.
-    Coeficientes c{0, 1};
-    if (m_divisiones.isEmpty())
-        c = {1, 0};
-    else if (m_divisiones.size() > 1) {
-        const DivisionEuclides &ultima = m_divisiones[m_divisiones.size() - 2];
-        c = {ultima.coef1, ultima.coef2};
-    }
+    // Without any division the dividend is the greatest common divisor, with a single one the
+    // divisor.
+    Coeficientes c = m_divisiones.isEmpty() ? Coeficientes{1, 0} : Coeficientes{0, 1};
+    if (const auto fila = filaDelMcd())
+        c = {m_divisiones[*fila].coef1, m_divisiones[*fila].coef2};
     return factor(c.primero) + u" · "_s + factor(m_dividendo) + u" + "_s + factor(c.segundo) +
            u" · "_s + factor(m_divisor) + u" = "_s + formatoEntero(m_mcd);
 }

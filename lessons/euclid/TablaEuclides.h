@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 #include <cstdint>
+#include <optional>
 
 /// One division of Euclid's algorithm. The coefficients combine the two numbers into the remainder.
 struct DivisionEuclides
@@ -40,11 +41,17 @@ public:
     Moneda dividendo() const { return m_dividendo; }
     Moneda divisor() const { return m_divisor; }
 
+    AlgoritmoEuclides algoritmo() const { return m_algoritmo; }
+
     /// Empty unless the divisor is positive.
     const QList<DivisionEuclides> &divisiones() const { return m_divisiones; }
 
     /// What the last division leaves as the greatest common divisor.
     Moneda mcd() const { return m_mcd; }
+
+    /// The division whose remainder is that, counted from 0: the last but one. None where it is a
+    /// number that was given.
+    std::optional<qsizetype> filaDelMcd() const;
 
     /// Bezout's identity or, with reduced remainders, the greatest common divisor alone. Where
     /// there was nothing to divide and no divisor either (a divisor below 0, two zeros), what to

@@ -32,12 +32,9 @@ QString palabraZeckendorf(FalloZeckendorf fallo, const QString &respuesta)
     return {};
 }
 
-Juicio juzgaMcd(const QString &respuesta, int m, int n)
+Juicio juzgaMcd(const QString &valor, int m, int n)
 {
     const int d = std::gcd(m, n);
-    const QString valor = Evalua(QString(respuesta));
-    if (valor == TextoError || valor.isEmpty())
-        return {false, Traduce(u"Eso no es un número."_s)};
     if (valor == valorEntero(u"fib(%1)"_s.arg(d))) {
         return {true, Traduce(u"¡Correcto! Es F(%1) = %4, porque mcd(%2, %3) = %1."_s)
                           .arg(d)
@@ -70,8 +67,8 @@ Cuestion sorteaZeckendorf()
 Cuestion cuestionZeckendorf(int n)
 {
     return {
-        Traduce(u"Escriba %1 como suma de números de Fibonacci distintos de los que no haya "
-                u"dos consecutivos."_s)
+        Traduce(u"Escriba %1 como suma de números de Fibonacci distintos, sin que haya dos "
+                u"consecutivos."_s)
             .arg(n),
         Traduce(u"Una suma, como 34 + 13 + 1"_s), [n](const QString &respuesta) {
             const FalloZeckendorf fallo = juzgaZeckendorf(respuesta, n);
@@ -99,5 +96,5 @@ Cuestion cuestionMcd(int m, int n)
                 .arg(m)
                 .arg(n),
             Traduce(u"Un número"_s),
-            [m, n](const QString &respuesta) { return juzgaMcd(respuesta, m, n); }};
+            juezDeEnteros([m, n](const QString &valor) { return juzgaMcd(valor, m, n); })};
 }

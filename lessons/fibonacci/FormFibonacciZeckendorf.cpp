@@ -2,6 +2,7 @@
 
 #include "bignum/ModBignum.h"
 #include "shell/ColumnasRepartidas.h"
+#include "shell/EnteroGrande.h"
 #include "shell/Evento.h"
 #include "shell/Formatos.h"
 #include "shell/Imagenes.h"
@@ -23,10 +24,8 @@ const QString Maximo = u"1"_s + QString(200, u'0');
 /// bound. The notice of a bound does not come, for it would show all of its 201 digits.
 QString positivoDe(const QString &expresion)
 {
-    const QString valor = Evalua(QString(expresion));
-    const bool esEntero =
-        std::all_of(valor.begin(), valor.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-    return esEntero && valor != u"0"_s && !EsMayor(Maximo, valor) ? valor : QString();
+    const auto valor = evaluaEnteroGrande(expresion);
+    return valor && EsMayor(u"0"_s, *valor) && !EsMayor(Maximo, *valor) ? *valor : QString();
 }
 
 } // namespace

@@ -25,6 +25,7 @@ void CribaSegmentada::criba(std::int64_t limite, Corrida &corrida, const Avance 
     m_numeros = {2, 3};
     m_tachadores.clear();
     m_seguros = m_numeros.size();
+    m_informado = 0;
     m_porcentaje = 0;
     std::int64_t c = 0;
     for (m_k = 1; c <= limite && !corrida.detenida(); m_k += ValoresPorBloque) {
@@ -55,9 +56,9 @@ void CribaSegmentada::cribaBloque(std::int64_t limite, Corrida &corrida, const A
     for (std::size_t orden = 0;; ++orden) {
         const std::uint64_t p = primo(orden, lugar);
         const std::uint64_t fin = ultimo();
+        informa(fin, static_cast<std::uint64_t>(limite), avance);
         if (p == 0 || p * p > fin)
             break;
-        informa(fin, static_cast<std::uint64_t>(limite), avance);
         corrida.ceder();
         if (corrida.detenida()) {
             vuelcaBloque(p * p);
@@ -72,12 +73,16 @@ void CribaSegmentada::cribaBloque(std::int64_t limite, Corrida &corrida, const A
 
 void CribaSegmentada::informa(std::uint64_t fin, std::uint64_t limite, const Avance &avance)
 {
-    // Compared by a product: a quotient for every prime and block would cost as much as the sieve.
-    if (100 * fin < (m_porcentaje + 1) * limite)
+    constexpr std::uint64_t primerCandidato = 5;
+    // The last number changes a few times a block, while this is asked for every prime: a quotient
+    // each time would cost as much as the sieve.
+    if (fin == m_informado || fin < primerCandidato)
         return;
-    m_porcentaje = 100 * fin / limite;
-    if (avance)
-        avance(static_cast<int>(m_porcentaje));
+    m_informado = fin;
+    const auto porcentaje = static_cast<int>(100 * fin / limite);
+    if (porcentaje != m_porcentaje && avance)
+        avance(porcentaje);
+    m_porcentaje = porcentaje;
 }
 
 /// The primes from 5 on by their order: those listed before this block, then what is alive in it

@@ -18,7 +18,9 @@ class CribaSegmentada
 public:
     static constexpr int ValoresPorBloque = 1000;
 
-    /// Told how much of the range has been listed, in percent, whenever that grows.
+    /// Told which part of the limit the largest number of the list has reached, in percent,
+    /// whenever that changes; 0 at first. It grows with each block and falls back a little where
+    /// that number turns out to be composite, so that it ends with the largest prime.
     using Avance = std::function<void(int porcentaje)>;
 
     /// Lists the primes up to `limite`, at most 2^32 - 6001, yielding once for each k and once for
@@ -62,5 +64,6 @@ private:
     std::array<bool, CandidatosPorBloque> m_vivo{};
     std::size_t m_candidatos = 0; ///< those that do not exceed the limit
     std::uint64_t m_k = 1;
-    std::uint64_t m_porcentaje = 0;
+    std::uint64_t m_informado = 0; ///< the largest number when the percentage was computed
+    int m_porcentaje = 0;
 };

@@ -2,9 +2,12 @@
 
 #include "bignum/ErrorEjecucion.h"
 #include "shell/Corrida.h"
+#include "shell/ModGlobal.h"
 
 #include <cmath>
 #include <limits>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -21,7 +24,10 @@ void extrae(Moneda &n, Moneda primo, ColFactores &factores)
 std::int16_t siguiente(std::int16_t paso)
 {
     if (paso == std::numeric_limits<std::int16_t>::max())
-        throw ErrorEjecucion(ErrorEjecucion::Desbordamiento);
+        throw ErrorEjecucion(
+            ErrorEjecucion::Desbordamiento,
+            Traduce(u"El algoritmo mejorado cuenta en 16 bits los divisores que fallan, y no pasa "
+                    "de 32 767. Pulse el botón de detener y pruebe con el algoritmo avanzado."_s));
     return static_cast<std::int16_t>(paso + 1);
 }
 
@@ -46,7 +52,8 @@ ColFactores FactorizaIngenuo(Moneda &n, Corrida &corrida)
 ColFactores FactorizaMejorado(Moneda n, Corrida &corrida)
 {
     ColFactores factores;
-    if (n < Uno)
+    // Every prime divides 0 for ever.
+    if (n == Cero)
         return factores;
     extrae(n, Dos, factores);
     extrae(n, Tres, factores);

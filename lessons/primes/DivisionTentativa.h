@@ -11,7 +11,7 @@ class Corrida;
 ColFactores FactorizaIngenuo(Moneda &n, Corrida &corrida);
 
 /// Factors a whole number by 2, 3 and the numbers 6m ± 1 up to its square root (Leonardo of Pisa,
-/// "Liber Abaci", 1202, for the bound). The stop flag is not looked at. For n < 1 there are none.
-/// Throws Desbordamiento at the 32 768th divisor (98305) that does not divide, because the steps
-/// are counted in 16 bits.
+/// "Liber Abaci", 1202, for the bound). The stop flag is not looked at. For 0 there are none;
+/// of a negative number only the factors 2 and 3 are found. Throws Desbordamiento at the 32 768th
+/// divisor (98305) that does not divide, because the steps are counted in 16 bits.
 ColFactores FactorizaMejorado(Moneda n, Corrida &corrida);

@@ -29,6 +29,8 @@ FormPrimos::FormPrimos(QWidget *padre)
 
 QAbstractButton *FormPrimos::botonDeParada() const
 {
-    QAbstractButton *boton = m_criba->botonDeParada();
-    return boton ? boton : m_factorizacion->botonDeParada();
+    // One run may have been started inside the other: then it is the one in sight that is meant.
+    QAbstractButton *criba = m_criba->botonDeParada();
+    QAbstractButton *factorizacion = m_factorizacion->botonDeParada();
+    return factorizacion && (!criba || m_factorizacion->isVisible()) ? factorizacion : criba;
 }

@@ -21,6 +21,17 @@ namespace {
 
 const QString Maximo = u"100000000"_s;
 
+QString resumen(qint64 cuantos, qint64 mayor, bool detenida)
+{
+    if (cuantos == 0)
+        return Traduce(u"No hay primos hasta ese número"_s);
+    if (cuantos == 1)
+        return Traduce(u"Un solo primo: %1"_s).arg(formatoEntero(mayor));
+    return Traduce(detenida ? u"Criba detenida: %1 primos; el mayor es %2"_s
+                            : u"%1 primos; el mayor es %2"_s)
+        .arg(formatoEntero(cuantos), formatoEntero(mayor));
+}
+
 } // namespace
 
 FormPrimosCriba::FormPrimosCriba(FormLeccion *leccion)
@@ -80,6 +91,7 @@ void FormPrimosCriba::BtnCriba_Click()
         criba(limite);
     } else {
         PrimosDelServicio lista = listaPrimos(limite);
+        ui->ProgressBar->setValue(100);
         ponEnReposo();
         muestraPrimos(std::move(lista.numeros), lista.cuantos, false);
     }
@@ -108,7 +120,9 @@ void FormPrimosCriba::ponEnMarcha()
     ui->BtnCriba->setToolTip(Traduce(u"Detener cálculo"_s));
     ui->BtnCriba->setAccessibleName(ui->BtnCriba->toolTip());
     ui->ccrpAniCriba->reproduce(ReproductorAVI::Modo::Continuo);
+    ui->ProgressBar->setFormat(u"%p %"_s);
     ui->ProgressBar->setValue(0);
+    ui->lblResumen->clear();
     m_inicio = std::chrono::steady_clock::now();
     muestraTiempoTranscurrido();
     m_leccion->corrida().cederYa();
@@ -136,12 +150,9 @@ void FormPrimosCriba::muestraPrimos(std::vector<std::uint32_t> primos, qint64 cu
     m_leccion->setCursor(Qt::WaitCursor);
     const qint64 mayor = primos.empty() ? 0 : primos.back();
     m_modelo->pon(std::move(primos));
+    // The bar stands where the largest prime does, nearly always short of 100 %.
     if (!detenida)
-        ui->ProgressBar->setValue(100);
-    const QString resumen =
-        detenida ? u"Criba detenida: %1 primos; el mayor es %2"_s : u"%1 primos; el mayor es %2"_s;
-    ui->lblResumen->setText(
-        cuantos == 0 ? Traduce(u"No hay primos hasta ese número"_s)
-                     : Traduce(resumen).arg(formatoEntero(cuantos), formatoEntero(mayor)));
+        ui->ProgressBar->setFormat(Traduce(u"Terminada"_s));
+    ui->lblResumen->setText(resumen(cuantos, mayor, detenida));
     m_leccion->unsetCursor();
 }

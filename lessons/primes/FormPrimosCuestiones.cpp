@@ -1,6 +1,7 @@
 #include "lessons/primes/FormPrimosCuestiones.h"
 
 #include "bignum/ModBignum.h"
+#include "lessons/primes/LineasSegunTexto.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
@@ -25,6 +26,7 @@ FormPrimosCuestiones::FormPrimosCuestiones(QWidget *padre)
                                  QString::number(m_cuestion.digitosPedidos()) +
                                  Traduce(u" dígitos."_s));
     ui->txtProducto->setReadOnly(true);
+    ponLineasSegunTexto(ui->txtProducto, 2, 6);
 
     conecta(ui->cmdProblema, &QPushButton::clicked, this, &FormPrimosCuestiones::cmdProblema_Click);
     for (CampoLargo *campo : m_txtPrimo) {

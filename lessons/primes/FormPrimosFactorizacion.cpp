@@ -3,6 +3,7 @@
 #include "bignum/ErrorEjecucion.h"
 #include "bignum/ModBignum.h"
 #include "lessons/primes/DivisionTentativa.h"
+#include "lessons/primes/LineasSegunTexto.h"
 #include "lessons/primes/ModeloFactores.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
@@ -32,7 +33,14 @@ FormPrimosFactorizacion::FormPrimosFactorizacion(FormLeccion *leccion)
     ui->ccrpAniFactorizando->carga(u"ClipArt\\RUEDAS.AVI"_s, u"RUEDAS"_s);
     ui->FlexFactores->setModel(m_modelo);
     ui->FlexFactores->ponTextoVacio(Traduce(u"Aquí aparecerán los factores primos."_s));
+    // The exponents stay in sight beside the longest factor, which is shortened in its middle.
+    QHeaderView *cabecera = ui->FlexFactores->horizontalHeader();
+    cabecera->setSectionResizeMode(ModeloFactores::Factor, QHeaderView::Stretch);
+    cabecera->setSectionResizeMode(ModeloFactores::Exponente, QHeaderView::ResizeToContents);
     ui->FlexFactores->setTextElideMode(Qt::ElideMiddle);
+    ponLineasSegunTexto(ui->TxtN, 3, 6);
+    ponLineasSegunTexto(ui->txtFactorElegido, 2, 6);
+    ponLineasSegunTexto(ui->txtProductoDeFactores, 2, 8);
     m_timerFactorizando.setObjectName(u"TimerFactorizando"_s);
     m_timerFactorizando.setInterval(100ms);
     ponBotonEnReposo();
@@ -140,21 +148,11 @@ void FormPrimosFactorizacion::factoriza(Algoritmo elegido, const QString &numero
         m_factores = std::move(factores);
         m_modelo->pon(*m_factores);
     }
-    ajustaColumnas();
+    ui->txtProductoDeFactores->setText(m_modelo->producto());
+    ui->FlexFactores->ponTextoVacio(Traduce(u"Ningún factor primo."_s));
     if (m_modelo->rowCount() > 0)
         ui->FlexFactores->setCurrentIndex(m_modelo->index(0, ModeloFactores::Factor));
     FlexFactores_EnterCell(m_modelo->rowCount() > 0 ? 0 : -1);
-}
-
-/// As wide as their contents, but the exponents stay in sight beside the longest factor.
-void FormPrimosFactorizacion::ajustaColumnas()
-{
-    Rejilla *rejilla = ui->FlexFactores;
-    rejilla->resizeColumnsToContents();
-    const int sitio =
-        rejilla->viewport()->width() - rejilla->columnWidth(ModeloFactores::Exponente);
-    if (rejilla->columnWidth(ModeloFactores::Factor) > sitio)
-        rejilla->setColumnWidth(ModeloFactores::Factor, sitio);
 }
 
 void FormPrimosFactorizacion::termina()
@@ -162,7 +160,7 @@ void FormPrimosFactorizacion::termina()
     m_leccion->unsetCursor();
     TimerFactorizando_Timer();
     m_timerFactorizando.stop();
-    Q_EMIT tiempoMedido(tiempoTranscurrido());
+    Q_EMIT tiempoMedido(ui->lblTiempoFactorizando->text());
     ponBotonEnReposo();
     if (ui->ccrpAniFactorizando->estado() == ReproductorAVI::Reproduciendo)
         ui->ccrpAniFactorizando->para();

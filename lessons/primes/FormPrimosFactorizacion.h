@@ -43,7 +43,6 @@ private:
     bool excedeElLimite(const QString &numero);
     void ponEnMarcha();
     void factoriza(Algoritmo elegido, const QString &numero, Moneda moneda);
-    void ajustaColumnas();
     void termina();
     QString tiempoTranscurrido() const;
     void ponBotonEnReposo();

@@ -1,6 +1,7 @@
 #include "lessons/primes/FormPrimosTest.h"
 
 #include "bignum/ModBignum.h"
+#include "lessons/primes/LineasSegunTexto.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
@@ -25,6 +26,7 @@ FormPrimosTest::FormPrimosTest(QWidget *leccion)
     ui->imgTestPrimo->setImagen(u"SEMAFOROROJO"_s);
     Aspecto::destaca(ui->lblTest);
     Aspecto::destaca(ui->LabelPrimo);
+    ponLineasSegunTexto(ui->txtNúmero, 6, 14);
 
     conecta(ui->txtNúmero, &CampoLargo::textoCambiado, this, &FormPrimosTest::txtNumero_Change);
     conecta(ui->txtNúmero, &CampoLargo::returnPressed, this,

@@ -7,6 +7,19 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+QString superindice(const QString &cifras)
+{
+    static const QString altas = u"⁰¹²³⁴⁵⁶⁷⁸⁹"_s;
+    QString texto;
+    for (const QChar cifra : cifras)
+        texto += altas[cifra.digitValue()];
+    return texto;
+}
+
+} // namespace
+
 void ModeloFactores::pon(const ColFactores &factores)
 {
     // Trial division meets the factors in ascending order.
@@ -22,6 +35,15 @@ void ModeloFactores::pon(const FactoresGrandes &factores)
     m_filas = factores.filas;
     m_completa = factores.completa;
     endResetModel();
+}
+
+QString ModeloFactores::producto() const
+{
+    QStringList potencias;
+    for (const FilaDeFactor &fila : m_filas)
+        potencias << (fila.exponente == u"1"_s ? fila.factor
+                                               : fila.factor + superindice(fila.exponente));
+    return potencias.join(u" · "_s);
 }
 
 int ModeloFactores::rowCount(const QModelIndex &padre) const

@@ -22,6 +22,9 @@ public:
 
     const QString &factor(int fila) const { return m_filas[fila].factor; }
 
+    /// The factors as a product, "2³ · 3² · 5"; empty without factors.
+    QString producto() const;
+
     int rowCount(const QModelIndex &padre = {}) const override;
     int columnCount(const QModelIndex &padre = {}) const override;
     QVariant data(const QModelIndex &indice, int papel = Qt::DisplayRole) const override;

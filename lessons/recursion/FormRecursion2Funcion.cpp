@@ -23,6 +23,7 @@ FormRecursion2Funcion::FormRecursion2Funcion(QWidget *leccion)
         conecta(campo, &QLineEdit::returnPressed, this, &FormRecursion2Funcion::cmdFuncion_Click);
         conecta(campo, &QLineEdit::textEdited, this, [this] { ui->lblAviso->clear(); });
     }
+    muestraPrimeros({});
 }
 
 FormRecursion2Funcion::~FormRecursion2Funcion() = default;
@@ -38,6 +39,7 @@ void FormRecursion2Funcion::cmdFuncion_Click()
     avisa(Traduce(u"Función aceptada: %1. Elija ahora un módulo en «Representación»."_s)
               .arg(textoDeDefinicion(definicion)),
           false);
+    muestraPrimeros(definicion);
     Q_EMIT aceptada(definicion);
 }
 
@@ -55,6 +57,12 @@ bool FormRecursion2Funcion::lee(QLineEdit *campo, Moneda &valor)
               .arg(campo->accessibleName()),
           true);
     return false;
+}
+
+void FormRecursion2Funcion::muestraPrimeros(const DefinicionRecurrente &definicion)
+{
+    ui->lblPrimeros->setText(Traduce(u"Primeros valores de la función aceptada, sin módulo: %1"_s)
+                                 .arg(textoDePrimerosValores(definicion)));
 }
 
 void FormRecursion2Funcion::avisa(const QString &texto, bool error)

@@ -26,6 +26,7 @@ Q_SIGNALS:
 private:
     void cmdFuncion_Click();
     bool lee(QLineEdit *campo, Moneda &valor);
+    void muestraPrimeros(const DefinicionRecurrente &definicion);
     void avisa(const QString &texto, bool error);
 
     std::unique_ptr<Ui::FormRecursion2Funcion> ui;

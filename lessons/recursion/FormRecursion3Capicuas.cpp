@@ -40,8 +40,12 @@ FormRecursion3Capicuas::FormRecursion3Capicuas(Corrida &corrida, QWidget *padre)
     ui->FlexCap->setItemDelegate(new FormRecursion3PintorDeNumeros(this));
     ui->FlexCap->setTextElideMode(Qt::ElideMiddle);
     ui->FlexCap->ponTextoVacio(Traduce(u"Aquí aparecerán las sumas, las 200 primeras"_s));
-    ui->FlexCap->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    ui->FlexCap->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    auto *cabecera = ui->FlexCap->horizontalHeader();
+    cabecera->setSectionResizeMode(QHeaderView::Stretch);
+    // Not by its contents, which would be measured with each of the rows that come two hundred at a
+    // time.
+    cabecera->setSectionResizeMode(0, QHeaderView::Interactive);
+    cabecera->resizeSection(0, fontMetrics().horizontalAdvance(u"00000000"_s));
     m_pantalla.setInterval(PasoDePantalla);
 
     conecta(ui->cmdCap, &QPushButton::clicked, this, &FormRecursion3Capicuas::cmdCap_Click);

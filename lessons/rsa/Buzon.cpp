@@ -145,7 +145,7 @@ ClavePublica leeClavePublica(const QString &dirMensajes, const QString &usuario)
 
 QStringList usuariosDelBuzon(const QString &dirMensajes)
 {
-    return CarpetaBuzon(dirMensajes).subcarpetas();
+    return dirMensajes.isEmpty() ? QStringList() : CarpetaBuzon(dirMensajes).subcarpetas();
 }
 
 int revisaBuzon(const QString &dirMensajes, ColMensajes &mensajes, Corrida &corrida)

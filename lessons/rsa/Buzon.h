@@ -25,12 +25,14 @@ QByteArray leeMensaje(const QString &ruta);
 struct ClavePublica
 {
     QString q, s;
+    bool operator==(const ClavePublica &) const = default;
 };
 
 /// The published key of a user; empty numbers when there is none or it cannot be read.
 ClavePublica leeClavePublica(const QString &dirMensajes, const QString &usuario);
 
-/// The users who have a sub-folder. Throws ErrorEjecucion when the mailbox cannot be read.
+/// The users who have a sub-folder; nobody when `dirMensajes` is empty. Throws ErrorEjecucion when
+/// the mailbox cannot be read.
 QStringList usuariosDelBuzon(const QString &dirMensajes);
 
 /// Fills the collection with the messages of the mailbox, in the order of folders and numbers; of

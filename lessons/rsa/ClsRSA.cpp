@@ -12,6 +12,7 @@
 #include "shell/Rutas.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -82,8 +83,9 @@ void ClsRSA::SalvaClave() const
     entradas.append({u"t"_s, m_t});
     entradas.append({u"NBits"_s, QString::number(m_nbits)});
     entradas.append({u"Fi(Q)"_s, m_fiQ});
-    Perfil::escribe(rutaExistente(FicheroClavePrivada()), u"RSA"_s, entradas,
-                    Perfil::Acceso::Privado);
+    const QString ruta = rutaExistente(FicheroClavePrivada());
+    QDir().mkpath(QFileInfo(ruta).absolutePath());
+    Perfil::escribe(ruta, u"RSA"_s, entradas, Perfil::Acceso::Privado);
 }
 
 void ClsRSA::RecuperaClave()
@@ -226,6 +228,9 @@ QString ClsRSA::DesCodifica(const QStringList &bloques, Corrida &corrida) const
         const QString numero = potencias.de(bloque);
         if (numero != TextoError)
             texto += NumeroATexto(numero);
+        if (texto.size() > MaximoDescodificado)
+            throw ErrorEjecucion(ErrorEjecucion::MemoriaInsuficiente,
+                                 Traduce(u"El texto descodificado es demasiado largo."_s));
         corrida.ceder();
         if (corrida.detenida())
             break;

@@ -88,7 +88,8 @@ public:
     QStringList Codifica(const QString &texto, Corrida &corrida) const;
 
     /// The text that the blocks give when decrypted with t and q(0); blocks that fail are left out.
-    /// Yields once a block and is short when the run was stopped.
+    /// Yields once a block and is short when the run was stopped. Throws MemoriaInsuficiente when
+    /// the text would have more than MaximoDescodificado characters.
     QString DesCodifica(const QStringList &bloques, Corrida &corrida) const;
 
 Q_SIGNALS:

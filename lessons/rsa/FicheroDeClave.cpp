@@ -4,7 +4,6 @@
 #include "shell/ModGlobal.h"
 #include "shell/Rutas.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -35,10 +34,7 @@ bool seEscribeEn(const QString &carpeta)
 
 QString rutaParaGuardarClave()
 {
-    if (seEscribeEn(Sesión().carpeta()))
-        return enCarpeta(Sesión().carpeta());
-    QDir().mkpath(carpetaDeDatos());
-    return enCarpeta(carpetaDeDatos());
+    return enCarpeta(seEscribeEn(Sesión().carpeta()) ? Sesión().carpeta() : carpetaDeDatos());
 }
 
 QString rutaDeClaveGuardada()

@@ -5,7 +5,7 @@
 /// Where the private key of the logged-on user lies: in the working folder under the login name,
 /// or, where nothing can be written there, in the user's data folder.
 
-/// The path to write to.
+/// The path to write to; its folder need not be there yet.
 QString rutaParaGuardarClave();
 
 /// The path of the key that exists; empty when there is none.

@@ -23,13 +23,12 @@ FormClaveRSA::FormClaveRSA(QWidget *padre)
 
 FormClaveRSA::~FormClaveRSA() = default;
 
-void FormClaveRSA::ponCorresponsal(const QString &usuario, const ClavePublica &clave,
-                                   const QString &t)
+void FormClaveRSA::ponCorresponsal(const QString &usuario, const ClsRSA &clave)
 {
     setWindowTitle(Traduce(u"Clave de "_s) + usuario);
-    ui->txtDestQ->setText(clave.q);
-    ui->txtDestS->setText(clave.s);
-    ui->TxtDestT->setText(t);
+    ui->txtDestQ->setText(clave.q(0));
+    ui->txtDestS->setText(clave.s());
+    ui->TxtDestT->setText(clave.t());
 }
 
 void FormClaveRSA::muestra()
@@ -42,16 +41,6 @@ void FormClaveRSA::muestra()
         m_colocada = true;
     }
     show();
-}
-
-QString FormClaveRSA::q() const
-{
-    return ui->txtDestQ->text();
-}
-
-QString FormClaveRSA::s() const
-{
-    return ui->txtDestS->text();
 }
 
 QString FormClaveRSA::t() const

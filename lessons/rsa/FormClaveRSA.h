@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lessons/rsa/Buzon.h"
+#include "lessons/rsa/ClsRSA.h"
 
 #include <QWidget>
 #include <memory>
@@ -19,14 +19,12 @@ public:
     explicit FormClaveRSA(QWidget *padre);
     ~FormClaveRSA() override;
 
-    /// Puts somebody's key in the fields; `t` is empty where the reader does not know it.
-    void ponCorresponsal(const QString &usuario, const ClavePublica &clave, const QString &t);
+    /// Shows the key of a user: q(0), s, and t, which is empty where the student does not know it.
+    void ponCorresponsal(const QString &usuario, const ClsRSA &clave);
 
     /// Shows the window at the edge of the screen, without taking the focus.
     void muestra();
 
-    QString q() const;
-    QString s() const;
     QString t() const;
 
 Q_SIGNALS:

@@ -33,6 +33,7 @@ FormRSA::FormRSA(QWidget *padre)
 
     conecta(&m_clave, &ClsRSA::ValidaClave, this, &FormRSA::Clave_ValidaClave);
     conecta(&m_clave, &ClsRSA::CambiaBuzon, this, &FormRSA::Clave_CambiaBuzon);
+    conecta(m_panelClave, &FormRSAClave::validada, this, &FormRSA::actualizaBuzon);
     conecta(m_panelMensajes, &FormRSAMensajes::buzonPerdido, this, &FormRSA::actualizaBuzon);
     evento(this, [this] { abre(); });
 }
@@ -65,7 +66,6 @@ void FormRSA::Clave_ValidaClave(bool bien, const QString &mensaje)
         m_panelClave->muestraClave();
     m_panelClave->muestraVeredicto(bien, mensaje);
     m_panelCodificacion->permiteCodificar(bien);
-    actualizaBuzon();
     if (!bien)
         interlocutor().mensaje(this, Interlocutor::Icono::Critico, abreviaNumeros(mensaje),
                                Traduce(u"Error en la clave"_s));

@@ -3,17 +3,18 @@
 #include "bignum/Azar.h"
 #include "lessons/rsa/Entero16.h"
 #include "lessons/rsa/NumerosLargos.h"
-#include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
 #include "shell/Interlocutor.h"
 #include "shell/ModGlobal.h"
 #include "shell/Rutas.h"
 #include "shell/Textos.h"
+#include "shell/Veredicto.h"
 #include "ui_FormRSAClave.h"
 
 #include <QDir>
 #include <QRegularExpressionValidator>
+#include <QScopeGuard>
 #include <QSignalBlocker>
 
 using namespace Qt::Literals::StringLiterals;
@@ -89,28 +90,26 @@ void FormRSAClave::muestraClave()
 
 void FormRSAClave::ponEstado(Estado estado, const QString &texto)
 {
-    const QString signo = estado == Estado::Bien  ? u"✓ "_s
-                          : estado == Estado::Mal ? u"✗ "_s
-                                                  : u""_s;
     m_estado = estado;
-    ui->lblEstado->setText(signo + abreviaNumeros(texto));
-    coloreaEstado();
+    m_textoDeEstado = abreviaNumeros(texto);
+    muestraEstado();
 }
 
-void FormRSAClave::coloreaEstado()
+void FormRSAClave::muestraEstado()
 {
-    QPalette paleta = palette();
-    if (m_estado != Estado::Neutro)
-        paleta.setColor(QPalette::WindowText,
-                        m_estado == Estado::Bien ? Aspecto::exito() : Aspecto::error());
-    ui->lblEstado->setPalette(paleta);
+    if (m_estado != Estado::Neutro) {
+        ::muestraVeredicto(ui->lblEstado, m_estado == Estado::Bien, m_textoDeEstado);
+        return;
+    }
+    ui->lblEstado->setPalette(palette());
+    ui->lblEstado->setText(m_textoDeEstado);
 }
 
 void FormRSAClave::changeEvent(QEvent *suceso)
 {
     QWidget::changeEvent(suceso);
     if (suceso->type() == QEvent::PaletteChange)
-        coloreaEstado();
+        muestraEstado();
 }
 
 void FormRSAClave::muestraVeredicto(bool bien, const QString &mensaje)
@@ -147,12 +146,18 @@ void FormRSAClave::muestraObjecion()
                   : Traduce(u"Escriba dos primos, q(1) y q(2), y un número s primo con φ(q)."_s));
 }
 
+void FormRSAClave::valida()
+{
+    const auto alFinal = qScopeGuard([this] { Q_EMIT validada(); });
+    m_clave.Valida();
+}
+
 void FormRSAClave::txtQ_Return(int i)
 {
     m_clave.ponq(i, txtQ(i)->text());
     ui->txtFiQ->setText({});
     ui->txtT->setText({});
-    m_clave.Valida();
+    valida();
 }
 
 void FormRSAClave::txtQ_Validate(int i)
@@ -165,7 +170,7 @@ void FormRSAClave::txtQ_Validate(int i)
 void FormRSAClave::txtS_Return()
 {
     m_clave.pons(ui->txtS->text());
-    m_clave.Valida();
+    valida();
 }
 
 void FormRSAClave::txtS_Validate()
@@ -178,14 +183,15 @@ void FormRSAClave::txtR_Change()
 {
     m_clave.ponr(aEntero16(ui->txtR->text()));
     muestraObjecion();
-    m_clave.Valida();
+    valida();
 }
 
 void FormRSAClave::ChkNumBits_Click()
 {
     const bool exige = ui->ChkNumBits->isChecked();
-    m_clave.ponNBitsRequeridos(exige ? aEntero16(ui->TxtNumBits->text()) : std::int16_t{0});
+    // First of all, because a number that is too large can only be changed in the field.
     ui->TxtNumBits->setEnabled(exige);
+    m_clave.ponNBitsRequeridos(exige ? aEntero16(ui->TxtNumBits->text()) : std::int16_t{0});
     muestraObjecion();
 }
 
@@ -216,8 +222,9 @@ void FormRSAClave::cmdPublicarClave_Click()
 void FormRSAClave::muestraBuzon(bool sePuedePublicar)
 {
     const QString carpeta = m_clave.DirMensajes();
-    ui->lblBuzon->setText(carpeta.isEmpty()
-                              ? Traduce(u"Todavía no ha elegido un buzón."_s)
-                              : Traduce(u"Buzón: %1"_s).arg(QDir::toNativeSeparators(carpeta)));
+    const QString texto = carpeta.isEmpty()        ? Traduce(u"Todavía no ha elegido un buzón."_s)
+                          : ExisteFichero(carpeta) ? Traduce(u"Buzón: %1"_s)
+                                                   : Traduce(u"No se encuentra el buzón: %1"_s);
+    ui->lblBuzon->setText(carpeta.isEmpty() ? texto : texto.arg(QDir::toNativeSeparators(carpeta)));
     ui->cmdPublicarClave->setEnabled(sePuedePublicar);
 }

@@ -29,6 +29,11 @@ public:
     /// Shows the mailbox folder, and whether the key can be published in it.
     void muestraBuzon(bool sePuedePublicar);
 
+Q_SIGNALS:
+    /// The key was validated: with a verdict, without one because a number is missing, or in vain
+    /// because it could not be saved.
+    void validada();
+
 protected:
     void changeEvent(QEvent *suceso) override;
 
@@ -36,8 +41,9 @@ private:
     CampoLargo *txtQ(int i) const;
     enum class Estado { Neutro, Bien, Mal };
     void ponEstado(Estado estado, const QString &texto);
-    void coloreaEstado();
+    void muestraEstado();
     void muestraObjecion();
+    void valida();
 
     void txtQ_Validate(int i);
     void txtQ_Return(int i);
@@ -52,4 +58,5 @@ private:
     std::unique_ptr<Ui::FormRSAClave> ui;
     ClsRSA &m_clave;
     Estado m_estado = Estado::Neutro;
+    QString m_textoDeEstado;
 };

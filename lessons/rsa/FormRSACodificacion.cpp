@@ -1,8 +1,7 @@
 #include "lessons/rsa/FormRSACodificacion.h"
 
-#include "lessons/rsa/BotonDeParada.h"
 #include "lessons/rsa/FormRSABloques.h"
-#include "lessons/rsa/TextoEnBloques.h"
+#include "lessons/rsa/FormRSATexto.h"
 #include "shell/Evento.h"
 #include "shell/FormLeccion.h"
 #include "shell/Formatos.h"
@@ -13,7 +12,6 @@
 #include "ui_FormRSACodificacion.h"
 
 #include <QHeaderView>
-#include <QScopedValueRollback>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,7 +20,8 @@ FormRSACodificacion::FormRSACodificacion(ClsRSA &clave, FormLeccion *leccion)
       ui(std::make_unique<Ui::FormRSACodificacion>()),
       m_clave(clave),
       m_leccion(leccion),
-      m_bloques(Traduce(u"^Texto codificado"_s))
+      m_bloques(Traduce(u"^Texto codificado"_s)),
+      m_mandos(leccion->corrida())
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -62,39 +61,28 @@ void FormRSACodificacion::ajustaFilas()
 
 void FormRSACodificacion::cmdCodificar_Click()
 {
-    if (m_parada == ui->cmdCodificar)
-        m_leccion->corrida().detener();
-    else if (!m_leccion->corrida().enCurso())
-        codifica();
+    m_mandos.pulsa(ui->cmdCodificar, [this] { codifica(); });
 }
 
 void FormRSACodificacion::cmdDescodificar_Click()
 {
-    if (m_parada == ui->cmdDescodificar)
-        m_leccion->corrida().detener();
-    else if (!m_leccion->corrida().enCurso())
-        descodifica();
+    m_mandos.pulsa(ui->cmdDescodificar, [this] { descodifica(); });
 }
 
 void FormRSACodificacion::codifica()
 {
     const QString texto = ui->txtTextoOriginal->toPlainText();
-    if (const auto motivo = caracterInadmisible(texto)) {
-        interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion, *motivo,
-                               Traduce(u"Carácter no admitido"_s));
+    if (!seCodifica(this, texto))
         return;
-    }
     if (m_clave.r() < 1) {
         interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
                                Traduce(u"Cada paquete ha de tener al menos un carácter."_s),
                                Traduce(u"Tamaño de la palabra"_s));
         return;
     }
-    const Corrida::Tramo tramo(m_leccion->corrida());
-    const BotonDeParada aspecto(ui->cmdCodificar, Traduce(u"Detener la codificación"_s));
-    const QScopedValueRollback<QAbstractButton *> parada(m_parada, ui->cmdCodificar);
-    m_leccion->corrida().permitir();
-    const QStringList bloques = m_clave.Codifica(texto, m_leccion->corrida());
+    QStringList bloques;
+    m_mandos.corre(ui->cmdCodificar, Traduce(u"Detener la codificación"_s),
+                   [&] { bloques = m_clave.Codifica(texto, m_leccion->corrida()); });
     QList<QStringList> filas;
     for (const QString &bloque : bloques)
         filas << QStringList{bloque};
@@ -108,9 +96,7 @@ void FormRSACodificacion::descodifica()
     QStringList bloques;
     for (const QStringList &fila : m_bloques.filas())
         bloques << fila.constFirst();
-    const Corrida::Tramo tramo(m_leccion->corrida());
-    const BotonDeParada aspecto(ui->cmdDescodificar, Traduce(u"Detener la descodificación"_s));
-    const QScopedValueRollback<QAbstractButton *> parada(m_parada, ui->cmdDescodificar);
-    m_leccion->corrida().permitir();
-    ui->txtTextoOriginal->setPlainText(m_clave.DesCodifica(bloques, m_leccion->corrida()));
+    m_mandos.corre(ui->cmdDescodificar, Traduce(u"Detener la descodificación"_s), [&] {
+        ui->txtTextoOriginal->setPlainText(m_clave.DesCodifica(bloques, m_leccion->corrida()));
+    });
 }

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "lessons/rsa/ClsRSA.h"
+#include "lessons/rsa/FormRSACorrida.h"
 #include "lessons/rsa/TablaDeTextos.h"
 
 #include <QWidget>
 #include <memory>
 
 class FormLeccion;
-class QAbstractButton;
 
 namespace Ui {
 class FormRSACodificacion;
@@ -26,7 +26,7 @@ public:
     void permiteCodificar(bool permitido);
 
     /// The button of the run in progress, if it was started here.
-    QAbstractButton *botonDeParada() const { return m_parada; }
+    QAbstractButton *botonDeParada() const { return m_mandos.botonDeParada(); }
 
 private:
     void ajustaFilas();
@@ -39,5 +39,5 @@ private:
     ClsRSA &m_clave;
     FormLeccion *m_leccion;
     TablaDeTextos m_bloques;
-    QAbstractButton *m_parada = nullptr;
+    FormRSACorrida m_mandos;
 };

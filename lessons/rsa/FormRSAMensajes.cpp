@@ -1,9 +1,7 @@
 #include "lessons/rsa/FormRSAMensajes.h"
 
-#include "lessons/rsa/BotonDeParada.h"
 #include "lessons/rsa/Buzon.h"
 #include "lessons/rsa/FormClaveRSA.h"
-#include "lessons/rsa/TextoEnBloques.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/FormLeccion.h"
@@ -16,9 +14,6 @@
 
 #include <QHeaderView>
 #include <QScopeGuard>
-#include <QScopedValueRollback>
-#include <QSignalBlocker>
-#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,8 +21,10 @@ FormRSAMensajes::FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormRSAMensajes>()),
       m_clave(clave),
+      m_corresponsal(clave),
       m_tabla(Traduce(u"<Dirigido a     |<De           |<Asunto"_s)),
       m_leccion(leccion),
+      m_mandos(leccion->corrida(), [this] { habilita(); }),
       m_ventanaClave(new FormClaveRSA(this))
 {
     ui->setupUi(this);
@@ -41,29 +38,35 @@ FormRSAMensajes::FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion)
     ui->FlexMensajes->ponTextoVacio(Traduce(u"No hay mensajes en el buzón"_s));
     ui->FlexMensajes->horizontalHeader()->setStretchLastSection(true);
     ui->cmbDestinatario->setCurrentText({});
+    // The field within has the focus, and screen readers tell its name.
+    ui->cmbDestinatario->lineEdit()->setAccessibleName(ui->cmbDestinatario->accessibleName());
+    m_timerRevision.setSingleShot(true);
+    ui->enviar->installEventFilter(this);
 
     conecta(ui->FlexMensajes, &QTableView::clicked, this,
             [this](const QModelIndex &celda) { FlexMensajes_Click(celda.row()); });
     conecta(ui->FlexMensajes->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &celda) { FlexMensajes_Click(celda.row()); });
+    conecta(ui->FlexMensajes, &QTableView::activated, this, [this] { ui->recibir->click(); });
+    conecta(ui->txtAsunto, &QLineEdit::returnPressed, this,
+            [this] { ui->txtDestTextoOriginal->setFocus(); });
     conecta(ui->cmbDestinatario, &QComboBox::activated, this,
             [this] { cmbDestinatario_Validate(); });
     conecta(ui->cmbDestinatario->lineEdit(), &QLineEdit::editingFinished, this,
             &FormRSAMensajes::cmbDestinatario_Validate);
     conecta(ui->txtDestTextoOriginal, &QPlainTextEdit::textChanged, this,
             &FormRSAMensajes::txtDestTextoOriginal_Change);
+    conecta(&m_timerRevision, &QTimer::timeout, this, &FormRSAMensajes::TimerRevision_Timer);
     conecta(m_ventanaClave, &FormClaveRSA::puedeRecibir, this, [this] { habilita(); });
     conecta(ui->enviar, &QToolButton::clicked, this, &FormRSAMensajes::enviar_Click);
     conecta(ui->recibir, &QToolButton::clicked, this, &FormRSAMensajes::recibir_Click);
     conecta(ui->revisar, &QToolButton::clicked, this, &FormRSAMensajes::revisar_Click);
-    connect(&m_clave, &ClsRSA::ValidaClave, this,
-            [this](bool &bien) { m_clavePropiaPisada = m_clavePropiaPisada && !bien; });
 }
 
 FormRSAMensajes::~FormRSAMensajes()
 {
     try {
-        devuelveClavePropia();
+        m_corresponsal.devuelveClavePropia();
     } catch (const ErrorEjecucion &) {
         // The window is gone; there is nobody left to tell.
     }
@@ -72,83 +75,101 @@ FormRSAMensajes::~FormRSAMensajes()
 void FormRSAMensajes::showEvent(QShowEvent *suceso)
 {
     QWidget::showEvent(suceso);
-    if (!m_destinatario.isEmpty())
-        m_ventanaClave->muestra();
+    if (m_corresponsal.usuario().isEmpty())
+        return;
+    m_ventanaClave->muestra();
+    evento(this, [this] { actualizaDestinatario(); });
 }
 
 void FormRSAMensajes::hideEvent(QHideEvent *suceso)
 {
     QWidget::hideEvent(suceso);
     m_ventanaClave->hide();
-    evento(this, [this] { devuelveClavePropia(); });
+    // Before the topic is left, so that no way of going on loses the own key.
+    evento(this, [this] { m_corresponsal.devuelveClavePropia(); });
 }
 
-/// Choosing a correspondent writes the correspondent's numbers into the private key file. The own
-/// key goes back before the topic is left, so that no way of going on loses it.
-void FormRSAMensajes::devuelveClavePropia()
+bool FormRSAMensajes::eventFilter(QObject *objeto, QEvent *suceso)
 {
-    if (m_clavePropiaPisada && m_clave.ClaveOK())
-        m_clave.SalvaClave();
-    m_clavePropiaPisada = false;
+    // The second click of a double click would send the message again: it is no repeated one before
+    // the next scan.
+    return (objeto == ui->enviar && suceso->type() == QEvent::MouseButtonDblClick) ||
+           QWidget::eventFilter(objeto, suceso);
 }
 
 void FormRSAMensajes::habilita()
 {
-    const bool libre = !m_leccion->corrida().enCurso();
     const bool hayTexto = !ui->txtDestTextoOriginal->toPlainText().trimmed().isEmpty();
-    ui->enviar->setEnabled(m_parada == ui->enviar ||
-                           (libre && !m_destinatario.isEmpty() && hayTexto));
-    ui->recibir->setEnabled(m_parada == ui->recibir ||
-                            (libre && !m_ventanaClave->t().trimmed().isEmpty()));
-    ui->revisar->setEnabled(m_parada == ui->revisar || libre);
+    const bool puedeEnviar = !m_corresponsal.usuario().isEmpty() && hayTexto;
+    const bool puedeRecibir = !m_ventanaClave->t().trimmed().isEmpty();
+    const QAbstractButton *parada = m_mandos.botonDeParada();
+    ui->enviar->setEnabled(m_mandos.atiende(ui->enviar) && (puedeEnviar || parada));
+    ui->recibir->setEnabled(m_mandos.atiende(ui->recibir) && (puedeRecibir || parada));
+    ui->revisar->setEnabled(m_mandos.atiende(ui->revisar));
 }
 
 void FormRSAMensajes::eligeDestinatario(const QString &usuario)
 {
-    m_destinatario = usuario;
     ui->LabelTexto->setText(Traduce(u"Mensaje para "_s) + usuario);
+    const auto alFinal = qScopeGuard([this] {
+        habilita();
+        m_ventanaClave->ponCorresponsal(m_corresponsal.usuario(), m_corresponsal.clave());
+        if (isVisible())
+            m_ventanaClave->muestra();
+    });
+    m_corresponsal.elige(usuario);
+}
+
+/// The correspondent may have published a key, or another one, since being chosen.
+void FormRSAMensajes::actualizaDestinatario()
+{
+    if (m_corresponsal.haCambiado())
+        eligeDestinatario(m_corresponsal.usuario());
+}
+
+void FormRSAMensajes::olvidaDestinatario()
+{
+    m_corresponsal.olvida();
+    ui->LabelTexto->setText(Traduce(u"Mensaje"_s));
+    m_ventanaClave->hide();
     habilita();
-    const bool esPropio = usuario == Sesión().UserName();
-    m_ventanaClave->ponCorresponsal(usuario, leeClavePublica(m_clave.DirMensajes(), usuario),
-                                    esPropio ? m_clave.t() : QString());
-    m_claveAjena.ponq(0, m_ventanaClave->q());
-    m_claveAjena.pons(m_ventanaClave->s());
-    m_claveAjena.ponr(1);
-    m_claveAjena.pont(m_ventanaClave->t());
-    m_clavePropiaPisada = true;
-    m_claveAjena.ponClaveOK(true);
-    if (isVisible())
-        m_ventanaClave->muestra();
 }
 
 void FormRSAMensajes::FlexMensajes_Click(int fila)
 {
-    if (fila < 0 || (fila == m_filaMostrada && m_tabla.filas()[fila][0] == m_destinatario))
+    if (fila < 0)
         return;
+    if (fila == m_filaMostrada && m_tabla.filas()[fila][0] == m_corresponsal.usuario()) {
+        actualizaDestinatario();
+        return;
+    }
     const clsMensaje *mensaje = m_mensajes.Item(claveDeFila(fila));
     if (!mensaje)
         return;
     m_filaMostrada = fila;
     ui->cmbDestinatario->setCurrentText(mensaje->Destinatario());
-    ui->txtAsunto->setText(mensaje->Asunto());
-    ui->txtDestTextoOriginal->setPlainText(mensaje->TextoOriginal());
+    muestraMensaje(*mensaje);
     eligeDestinatario(mensaje->Destinatario());
+}
+
+void FormRSAMensajes::muestraMensaje(const clsMensaje &mensaje)
+{
+    ui->txtAsunto->setText(mensaje.Asunto());
+    ui->txtDestTextoOriginal->setPlainText(mensaje.TextoOriginal());
 }
 
 void FormRSAMensajes::cmbDestinatario_Validate()
 {
     const QString usuario = ui->cmbDestinatario->currentText().trimmed();
-    if (usuario == m_destinatario)
-        return;
-    m_filaMostrada = -1;
-    if (!usuario.isEmpty()) {
-        eligeDestinatario(usuario);
+    if (usuario == m_corresponsal.usuario()) {
+        actualizaDestinatario();
         return;
     }
-    m_destinatario.clear();
-    ui->LabelTexto->setText(Traduce(u"Mensaje"_s));
-    m_ventanaClave->hide();
-    habilita();
+    m_filaMostrada = -1;
+    if (usuario.isEmpty())
+        olvidaDestinatario();
+    else
+        eligeDestinatario(usuario);
 }
 
 void FormRSAMensajes::txtDestTextoOriginal_Change()
@@ -164,52 +185,57 @@ QString FormRSAMensajes::claveDeFila(int fila) const
 
 void FormRSAMensajes::revisaPronto()
 {
-    QTimer::singleShot(0, this, [this] {
-        evento(this, [this] {
-            if (!m_leccion->corrida().enCurso())
-                revisa();
-        });
-    });
+    using namespace std::chrono_literals;
+    m_timerRevision.start(m_leccion->corrida().enCurso() ? 100ms : 0ms);
+}
+
+void FormRSAMensajes::TimerRevision_Timer()
+{
+    if (m_leccion->corrida().enCurso())
+        revisaPronto();
+    else if (ExisteFichero(m_clave.DirMensajes()))
+        revisa();
+    else
+        vaciaLista();
 }
 
 void FormRSAMensajes::revisar_Click()
 {
-    if (m_parada == ui->revisar)
-        m_leccion->corrida().detener();
-    else if (!m_leccion->corrida().enCurso())
-        revisa();
-}
-
-template <typename Accion>
-void FormRSAMensajes::corre(QAbstractButton *boton, const QString &consejo, Accion accion)
-{
-    const auto alFinal = qScopeGuard([this] { habilita(); });
-    const Corrida::Tramo tramo(m_leccion->corrida());
-    const BotonDeParada aspecto(boton, consejo);
-    const QScopedValueRollback<QAbstractButton *> parada(m_parada, boton);
-    m_leccion->corrida().permitir();
-    habilita();
-    accion();
+    m_mandos.pulsa(ui->revisar, [this] { revisa(); });
 }
 
 void FormRSAMensajes::revisa()
 {
-    corre(ui->revisar, Traduce(u"Detener la revisión"_s), [this] {
-        QString estado;
-        const auto alFinal = qScopeGuard([&] { muestraLista(estado); });
+    m_mandos.corre(ui->revisar, Traduce(u"Detener la revisión"_s), [this] {
         try {
-            const int ilegibles =
-                revisaBuzon(m_clave.DirMensajes(), m_mensajes, m_leccion->corrida());
-            if (m_leccion->corrida().detenida())
-                estado = Traduce(u"Revisión detenida"_s) + u". "_s;
-            estado += Traduce(u"Mensajes: %1"_s).arg(formatoEntero(m_mensajes.Count()));
-            if (ilegibles > 0)
-                estado += u". "_s + Traduce(u"No se han podido leer: %1"_s).arg(ilegibles);
+            const QString buzon = m_clave.DirMensajes();
+            const int ilegibles = revisaBuzon(buzon, m_mensajes, m_leccion->corrida());
+            muestraUsuarios(usuariosDelBuzon(buzon));
+            muestraLista(estadoDeRevision(ilegibles));
         } catch (const ErrorEjecucion &) {
+            vaciaLista();
             Q_EMIT buzonPerdido();
             throw;
         }
     });
+    actualizaDestinatario();
+}
+
+void FormRSAMensajes::vaciaLista()
+{
+    m_mensajes = ColMensajes();
+    muestraUsuarios({});
+    muestraLista({});
+}
+
+QString FormRSAMensajes::estadoDeRevision(int ilegibles) const
+{
+    QString estado = Traduce(u"Mensajes: %1"_s).arg(formatoEntero(m_mensajes.Count()));
+    if (m_leccion->corrida().detenida())
+        estado.prepend(Traduce(u"Revisión detenida"_s) + u". "_s);
+    if (ilegibles > 0)
+        estado += u". "_s + Traduce(u"No se han podido leer: %1"_s).arg(ilegibles);
+    return estado;
 }
 
 void FormRSAMensajes::muestraLista(const QString &estado)
@@ -229,12 +255,16 @@ void FormRSAMensajes::muestraLista(const QString &estado)
     m_filaMostrada = filaMostrada;
     if (filaMostrada >= 0)
         ui->FlexMensajes->selectRow(filaMostrada);
+    ui->lblEstadoBuzon->setText(estado);
+}
+
+/// Offers the users as recipients; what is written in the field stays.
+void FormRSAMensajes::muestraUsuarios(const QStringList &usuarios)
+{
     const QString escrito = ui->cmbDestinatario->currentText();
     ui->cmbDestinatario->clear();
-    if (ExisteFichero(m_clave.DirMensajes()))
-        ui->cmbDestinatario->addItems(usuariosDelBuzon(m_clave.DirMensajes()));
+    ui->cmbDestinatario->addItems(usuarios);
     ui->cmbDestinatario->setCurrentText(escrito);
-    ui->lblEstadoBuzon->setText(estado);
 }
 
 bool FormRSAMensajes::esRepetido(const QString &destinatario, const QString &asunto)
@@ -247,15 +277,6 @@ bool FormRSAMensajes::esRepetido(const QString &destinatario, const QString &asu
                                destinatario + Traduce(u" con asunto '"_s) + asunto + u'\'',
                            Traduce(u"Mensaje repetido"_s));
     return true;
-}
-
-bool FormRSAMensajes::puedeViajar(const QString &texto)
-{
-    const auto motivo = caracterInadmisible(texto);
-    if (motivo)
-        interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion, *motivo,
-                               Traduce(u"Carácter no admitido"_s));
-    return !motivo;
 }
 
 /// Text and subject may both be unfit; one box tells it.
@@ -272,30 +293,29 @@ void FormRSAMensajes::escuchaErrores(clsMensaje &mensaje)
 
 void FormRSAMensajes::enviar_Click()
 {
-    if (m_parada == ui->enviar)
-        m_leccion->corrida().detener();
-    else if (!m_leccion->corrida().enCurso())
-        envia();
+    m_mandos.pulsa(ui->enviar, [this] { envia(); });
 }
 
 void FormRSAMensajes::envia()
 {
     const QString texto = ui->txtDestTextoOriginal->toPlainText();
     const QString asunto = ui->txtAsunto->text();
-    if (esRepetido(m_destinatario, asunto) || !puedeViajar(texto) || !puedeViajar(asunto))
+    const QString destinatario = m_corresponsal.usuario();
+    if (esRepetido(destinatario, asunto) || !seCodifica(this, texto) || !seCodifica(this, asunto))
         return;
-    const bool tieneClave = !m_claveAjena.q(0).isEmpty() && !m_claveAjena.s().isEmpty();
+    actualizaDestinatario();
     const QString pregunta =
         Traduce(u"%1 no ha publicado su clave: nadie podrá leer el mensaje. ¿Enviarlo así?"_s);
-    if (!tieneClave && !interlocutor().confirma(this, pregunta.arg(m_destinatario),
-                                                Traduce(u"Falta la clave pública"_s)))
+    if (!m_corresponsal.haPublicado() &&
+        !interlocutor().confirma(this, pregunta.arg(destinatario),
+                                 Traduce(u"Falta la clave pública"_s)))
         return;
-    corre(ui->enviar, Traduce(u"Detener el envío"_s), [&] {
+    m_mandos.corre(ui->enviar, Traduce(u"Detener el envío"_s), [&] {
         clsMensaje mensaje;
         escuchaErrores(mensaje);
         mensaje.ponMensajeOK(true);
-        mensaje.ponClave(&m_claveAjena);
-        mensaje.ponDestinatario(m_destinatario);
+        mensaje.ponClave(&m_corresponsal.clave());
+        mensaje.ponDestinatario(destinatario);
         mensaje.ponRemitente(Sesión().UserName());
         mensaje.ponTextoOriginal(texto);
         mensaje.ponAsunto(asunto);
@@ -313,10 +333,7 @@ void FormRSAMensajes::envia()
 
 void FormRSAMensajes::recibir_Click()
 {
-    if (m_parada == ui->recibir)
-        m_leccion->corrida().detener();
-    else if (!m_leccion->corrida().enCurso())
-        recibe();
+    m_mandos.pulsa(ui->recibir, [this] { recibe(); });
 }
 
 void FormRSAMensajes::recibe()
@@ -329,13 +346,14 @@ void FormRSAMensajes::recibe()
                                Traduce(u"Recibir el mensaje"_s));
         return;
     }
-    corre(ui->recibir, Traduce(u"Detener la lectura"_s), [&] {
-        m_claveAjena.pont(m_ventanaClave->t());
-        mensaje->ponClave(&m_claveAjena);
+    m_mandos.corre(ui->recibir, Traduce(u"Detener la lectura"_s), [&] {
+        m_corresponsal.clave().pont(m_ventanaClave->t());
+        mensaje->ponClave(&m_corresponsal.clave());
         mensaje->disconnect(this);
         escuchaErrores(*mensaje);
         mensaje->Recibe(m_leccion->corrida());
-        ui->txtAsunto->setText(mensaje->Asunto());
-        ui->txtDestTextoOriginal->setPlainText(mensaje->TextoOriginal());
+        // Another row may have been chosen meanwhile; this text waits in its own.
+        if (ui->FlexMensajes->currentIndex().row() == fila)
+            muestraMensaje(*mensaje);
     });
 }

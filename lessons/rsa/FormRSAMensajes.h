@@ -1,14 +1,16 @@
 #pragma once
 
 #include "lessons/rsa/ColMensajes.h"
+#include "lessons/rsa/Corresponsal.h"
+#include "lessons/rsa/FormRSACorrida.h"
 #include "lessons/rsa/TablaDeTextos.h"
 
+#include <QTimer>
 #include <QWidget>
 #include <memory>
 
 class FormClaveRSA;
 class FormLeccion;
-class QAbstractButton;
 
 namespace Ui {
 class FormRSAMensajes;
@@ -25,11 +27,11 @@ public:
     FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion);
     ~FormRSAMensajes() override;
 
-    /// Scans the mailbox as soon as the event queue runs.
+    /// Scans the mailbox as soon as no run is in progress; one that is not there has no messages.
     void revisaPronto();
 
     /// The button of the run in progress, if it was started here.
-    QAbstractButton *botonDeParada() const { return m_parada; }
+    QAbstractButton *botonDeParada() const { return m_mandos.botonDeParada(); }
 
 Q_SIGNALS:
     /// The mailbox could not be read.
@@ -38,19 +40,22 @@ Q_SIGNALS:
 protected:
     void showEvent(QShowEvent *suceso) override;
     void hideEvent(QHideEvent *suceso) override;
+    bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
     void eligeDestinatario(const QString &usuario);
-    void devuelveClavePropia();
-    template <typename Accion>
-    void corre(QAbstractButton *boton, const QString &consejo, Accion accion);
+    void actualizaDestinatario();
+    void olvidaDestinatario();
     void revisa();
+    void vaciaLista();
+    QString estadoDeRevision(int ilegibles) const;
     void muestraLista(const QString &estado);
+    void muestraUsuarios(const QStringList &usuarios);
     QString claveDeFila(int fila) const;
+    void muestraMensaje(const clsMensaje &mensaje);
     void envia();
     void recibe();
     bool esRepetido(const QString &destinatario, const QString &asunto);
-    bool puedeViajar(const QString &texto);
     void escuchaErrores(clsMensaje &mensaje);
     void habilita();
 
@@ -60,16 +65,16 @@ private:
     void enviar_Click();
     void recibir_Click();
     void revisar_Click();
+    void TimerRevision_Timer();
 
     std::unique_ptr<Ui::FormRSAMensajes> ui;
     ClsRSA &m_clave;
-    ClsRSA m_claveAjena; ///< the correspondent's
+    Corresponsal m_corresponsal;
     ColMensajes m_mensajes;
     TablaDeTextos m_tabla;
+    QTimer m_timerRevision; ///< a scan that is due
     FormLeccion *m_leccion;
+    FormRSACorrida m_mandos;
     FormClaveRSA *m_ventanaClave;
-    QString m_destinatario;
     int m_filaMostrada = -1;
-    bool m_clavePropiaPisada = false; ///< the private key file holds the correspondent's numbers
-    QAbstractButton *m_parada = nullptr;
 };

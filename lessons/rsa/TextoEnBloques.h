@@ -4,6 +4,11 @@
 #include <QStringList>
 #include <optional>
 
+/// The longest text that the windows encrypt, in characters, and the longest that a decryption may
+/// give: a few hostile blocks under a large key would otherwise fill the memory.
+inline constexpr qsizetype MaximoDeCaracteres = 1'000'000;
+inline constexpr qsizetype MaximoDescodificado = 2 * MaximoDeCaracteres;
+
 /// The numbers that a text is encrypted as: `r` characters a number, three decimal digits a
 /// character (its Windows-1252 code, "000" to "255"), after spaces have filled up the last block.
 /// Throws DivisionPorCero for r = 0, ArgumentoNoValido for a negative r and for a character outside

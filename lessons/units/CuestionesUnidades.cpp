@@ -2,7 +2,6 @@
 
 #include "bignum/Azar.h"
 #include "bignum/ModBignum.h"
-#include "lessons/units/EntradaEntera.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/GrupoUnidades.h"
 #include "lessons/units/NotacionZn.h"
@@ -34,19 +33,6 @@ GrupoUnidades grupoAlAzar(std::int32_t desde, std::int32_t hasta, Condicion sirv
 GrupoUnidades grupoAlAzar(std::int32_t desde, std::int32_t hasta)
 {
     return grupoAlAzar(desde, hasta, [](const GrupoUnidades &) { return true; });
-}
-
-/// A judge of whole numbers of any size, which it is given in their digits, made a judge of
-/// answers.
-template <typename Juez>
-auto deEnteros(Juez juez)
-{
-    return [juez](const QString &respuesta) -> Juicio {
-        const auto valor = evaluaGrande(respuesta);
-        if (!valor)
-            return {false, Traduce(u"La respuesta es un número entero."_s)};
-        return juez(*valor);
-    };
 }
 
 Juicio acierto(const QString &motivo = {})
@@ -181,7 +167,7 @@ QString unEntero()
 Cuestion cuestionInverso(std::int32_t n, std::int32_t a)
 {
     return {Traduce(u"¿Cuál es el inverso de %1 módulo %2?"_s).arg(a).arg(n), unEntero(),
-            deEnteros([grupo = GrupoUnidades(n), a](const QString &valor) {
+            juezDeEnteros([grupo = GrupoUnidades(n), a](const QString &valor) {
                 return juzgaInverso(valor, grupo, a);
             })};
 }
@@ -191,7 +177,7 @@ Cuestion cuestionOrden(std::int32_t n, std::int32_t a)
     return {Traduce(u"¿Cuál es el orden de %1 en el grupo de las unidades de Z%2?"_s)
                 .arg(a)
                 .arg(subindice(n)),
-            unEntero(), deEnteros([grupo = GrupoUnidades(n), a](const QString &valor) {
+            unEntero(), juezDeEnteros([grupo = GrupoUnidades(n), a](const QString &valor) {
                 return juzgaOrden(valor, grupo, a);
             })};
 }
@@ -201,7 +187,7 @@ Cuestion cuestionRaizPrimitiva(std::int32_t n)
     return {Traduce(u"Encuentre una raíz primitiva módulo %1: una unidad cuyas potencias son todas "
                     u"las unidades."_s)
                 .arg(n),
-            unEntero(), deEnteros([grupo = GrupoUnidades(n)](const QString &v) {
+            unEntero(), juezDeEnteros([grupo = GrupoUnidades(n)](const QString &v) {
                 return juzgaRaiz(v, grupo);
             })};
 }
@@ -209,13 +195,13 @@ Cuestion cuestionRaizPrimitiva(std::int32_t n)
 Cuestion cuestionFi(std::int32_t n)
 {
     return {Traduce(u"¿Cuánto vale φ(%1)?"_s).arg(n), unEntero(),
-            deEnteros([n](const QString &valor) { return juzgaFi(valor, n); })};
+            juezDeEnteros([n](const QString &valor) { return juzgaFi(valor, n); })};
 }
 
 Cuestion cuestionPotencia(std::int32_t n, std::int32_t a, std::int32_t k)
 {
     return {Traduce(u"¿Qué resto da %1^%2 al dividirlo entre %3?"_s).arg(a).arg(k).arg(n),
-            unEntero(), deEnteros([grupo = GrupoUnidades(n), a, k](const QString &valor) {
+            unEntero(), juezDeEnteros([grupo = GrupoUnidades(n), a, k](const QString &valor) {
                 return juzgaPotencia(valor, grupo, a, k);
             })};
 }

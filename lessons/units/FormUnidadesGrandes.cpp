@@ -2,10 +2,10 @@
 
 #include "bignum/Azar.h"
 #include "bignum/ModBignum.h"
-#include "lessons/units/EntradaEntera.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/InversoGrande.h"
 #include "shell/Aspecto.h"
+#include "shell/EnteroGrande.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
@@ -62,7 +62,7 @@ void FormUnidadesGrandes::txtGrande_Change()
 /// The modulus that its field stands for; without one, the label tells what it has to be.
 std::optional<QString> FormUnidadesGrandes::modulo(QLabel *rotulo)
 {
-    const auto n = evaluaGrande(ui->txtNGrande->text());
+    const auto n = evaluaEnteroGrande(ui->txtNGrande->text());
     if (n && !n->startsWith(u'-') && *n != u"0"_s && n->size() <= MayorNumeroDeCifras)
         return n;
     muestraVeredicto(
@@ -75,7 +75,7 @@ std::optional<QString> FormUnidadesGrandes::modulo(QLabel *rotulo)
 
 std::optional<QString> FormUnidadesGrandes::elemento()
 {
-    const auto a = evaluaGrande(ui->txtAGrande->text());
+    const auto a = evaluaEnteroGrande(ui->txtAGrande->text());
     return a && a->size() <= 2 * MayorNumeroDeCifras ? a : std::nullopt;
 }
 

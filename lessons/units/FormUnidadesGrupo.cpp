@@ -1,13 +1,13 @@
 #include "lessons/units/FormUnidadesGrupo.h"
 
 #include "bignum/ModBignum.h"
-#include "lessons/units/EntradaEntera.h"
 #include "lessons/units/ModeloPotencias.h"
 #include "lessons/units/ModeloUnidades.h"
 #include "lessons/units/ResumenUnidades.h"
 #include "shell/Aspecto.h"
 #include "shell/ColumnasRepartidas.h"
 #include "shell/EnteroAcotado.h"
+#include "shell/EnteroGrande.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
 #include "shell/ModGlobal.h"
@@ -83,7 +83,7 @@ void FormUnidadesGrupo::cmdPotencias_Click()
     borraPotencias();
     if (!m_unidades->grupo())
         return;
-    const auto a = evaluaGrande(ui->txtElemento->text());
+    const auto a = evaluaEnteroGrande(ui->txtElemento->text());
     if (!a) {
         rechaza(ui->txtElemento, ui->lblPotencias, Traduce(u"El elemento es un número entero."_s));
         return;

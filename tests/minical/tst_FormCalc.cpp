@@ -100,7 +100,12 @@ private Q_SLOTS:
         for (const auto boton : {Qt::LeftButton, Qt::RightButton}) {
             QTest::mouseClick(m->rejilla()->horizontalHeader()->viewport(), boton, {}, {20, 5});
             QCOMPARE(m->actual(), u"B3"_s);
+            QVERIFY(!m->editor());
         }
+        QTest::mouseDClick(m->rejilla()->horizontalHeader()->viewport(), Qt::LeftButton, {},
+                           {20, 5});
+        QVERIFY(m->editor());
+        QCOMPARE(m->editor()->text(), u"1/4"_s);
     }
 
     void losBotonesTomanLoQueSeEscribe()

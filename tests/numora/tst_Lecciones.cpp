@@ -1,6 +1,8 @@
+#include "lessons/rsa/ClsRSA.h"
 #include "numora/Lecciones.h"
 #include "shell/FormLeccion.h"
 #include "shell/FormPrincipal.h"
+#include "shell/ModGlobal.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractButton>
@@ -20,7 +22,25 @@ class TestLecciones : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { Entorno::limpia(); }
+    void initTestCase()
+    {
+        for (const QString &parte : {u"ClipArt"_s, u"Doc"_s})
+            QFile::link(Entorno::carpetaDeTrabajo() + u'/' + parte, m_carpeta.filePath(parte));
+    }
+    void init() { preparaEstudiante(); }
+
+    /// The topic that needs a key and a mailbox is among those that are looked at.
+    void elTemaDeLosMensajesEsta()
+    {
+        bool hallado = false;
+        for (const Leccion &leccion : m_contenido.lecciones) {
+            const std::unique_ptr<FormLeccion> ventana(leccion.crea(nullptr));
+            const auto *tira = ventana->findChild<QTabBar *>(u"tsTema"_s);
+            for (int i = 0; tira && i < tira->count(); ++i)
+                hallado = hallado || tira->tabText(i) == u"Enviar y recibir"_s;
+        }
+        QVERIFY(hallado);
+    }
 
     void lasTeclasNoChocan_data() { temas(); }
     void lasTeclasNoChocan()
@@ -63,8 +83,24 @@ private Q_SLOTS:
     }
 
 private:
+    /// A student in a working folder of their own, with a good key and a mailbox, so that the
+    /// topics that come and go are there.
+    void preparaEstudiante() const
+    {
+        Entorno::limpia();
+        Sesión().ponCarpeta(m_carpeta.path());
+        ClsRSA clave;
+        clave.ponDirMensajes(m_carpeta.path());
+        clave.ponr(1);
+        clave.ponq(1, u"257"_s);
+        clave.ponq(2, u"263"_s);
+        clave.pons(u"5"_s);
+        clave.Valida();
+    }
+
     void temas()
     {
+        preparaEstudiante();
         QTest::addColumn<int>("fila");
         QTest::addColumn<int>("tema");
         QTest::addColumn<int>("pestana");
@@ -144,6 +180,7 @@ private:
         return true;
     }
 
+    QTemporaryDir m_carpeta;
     Contenido m_contenido = contenidoDelPrograma();
     std::unique_ptr<FormLeccion> m_leccion;
 };

@@ -24,7 +24,7 @@ QString claveDe(const QString &texto)
 
 bool tienePalabras(const QString &texto)
 {
-    static const QRegularExpression palabra(u"\\p{L}{3}"_s);
+    static const QRegularExpression palabra(u"\\p{L}{2}"_s);
     return texto.contains(palabra);
 }
 
@@ -127,8 +127,10 @@ private Q_SLOTS:
                 const auto lugar = lugares.next();
                 QStringList textos;
                 if (formulario)
-                    textos
-                        << lugar.captured(1).replace(u"&amp;"_s, u"&"_s).replace(u"&lt;"_s, u"<"_s);
+                    textos << lugar.captured(1)
+                                  .replace(u"&lt;"_s, u"<"_s)
+                                  .replace(u"&gt;"_s, u">"_s)
+                                  .replace(u"&amp;"_s, u"&"_s);
                 else
                     textos = literales(codigo, lugar.capturedEnd());
                 // The other arguments of these calls are names.
@@ -139,6 +141,19 @@ private Q_SLOTS:
                 for (const QString &texto : textos)
                     apuntaSiFalta(texto, faltan);
             }
+        }
+        QVERIFY2(faltan.isEmpty(), qPrintable(u'\n' + faltan.join(u'\n')));
+    }
+
+    /// Names and descriptions of the lessons, which are written down in a table.
+    void losTextosDeLasLecciones()
+    {
+        QStringList faltan;
+        const Contenido contenido = contenidoDelPrograma();
+        for (const Leccion &leccion : contenido.lecciones) {
+            QVERIFY2(!leccion.descripcion.isEmpty(), qPrintable(leccion.rotulo));
+            apuntaSiFalta(leccion.rotulo, faltan);
+            apuntaSiFalta(leccion.descripcion, faltan);
         }
         QVERIFY2(faltan.isEmpty(), qPrintable(u'\n' + faltan.join(u'\n')));
     }

@@ -3,7 +3,9 @@
 #include "shell/FormPrincipal.h"
 #include "shell/MenuLecciones.h"
 #include "shell/ModGlobal.h"
+#include "shell/PanelBienvenida.h"
 #include "shell/ReproductorAVI.h"
+#include "shell/TarjetasDeLecciones.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAction>
@@ -94,6 +96,77 @@ private Q_SLOTS:
         QCOMPARE(titulos(), QStringList{u"Uno"_s});
     }
 
+    void laBienvenidaSeVeSinVentanas()
+    {
+        auto *bienvenida = m_area->findChild<PanelBienvenida *>();
+        QVERIFY(bienvenida->isVisible());
+        QCOMPARE(bienvenida->geometry(), m_area->viewport()->geometry());
+        FormLeccion *una = m_principal->abreLeccion(0);
+        FormLeccion *otra = m_principal->abreLeccion(1);
+        QVERIFY(!bienvenida->isVisible());
+        una->cierra();
+        QVERIFY(!bienvenida->isVisible());
+        otra->setFocus();
+        otra->cierra();
+        QVERIFY(bienvenida->isVisible());
+        QVERIFY(bienvenida->isAncestorOf(QApplication::focusWidget()));
+        QVERIFY(!control<QAction>(m_principal.get(), u"mnuCerrar"_s)->isEnabled());
+        m_principal->hide();
+        m_principal->show();
+        QVERIFY(bienvenida->isVisible());
+        m_principal->resize(m_principal->size() - QSize(100, 50));
+        QCOMPARE(bienvenida->geometry(), m_area->viewport()->geometry());
+    }
+
+    void lasTarjetasAbrenLecciones()
+    {
+        auto *tarjetas = control<QListView>(m_principal.get(), u"TarjetasDeLecciones"_s);
+        const auto pulsaTarjeta = [&](int fila) {
+            const QRect tarjeta = tarjetas->visualRect(tarjetas->model()->index(fila, 0));
+            QTest::mouseClick(tarjetas->viewport(), Qt::LeftButton, {}, tarjeta.center());
+        };
+        pulsaTarjeta(6); // the lesson that does not exist yet
+        QVERIFY(titulos().isEmpty());
+        pulsaTarjeta(2);
+        QCOMPARE(titulos(), QStringList{u"Dos"_s});
+        m_principal->leccionActiva()->cierra();
+        QTRY_VERIFY(titulos().isEmpty());
+
+        m_menu->setFocus();
+        QTest::keyClick(m_menu, Qt::Key_F6);
+        QVERIFY(tarjetas->hasFocus());
+        tarjetas->setCurrentIndex(tarjetas->model()->index(0, 0));
+        QTest::keyClick(tarjetas, Qt::Key_Right);
+        QTest::keyClick(tarjetas, Qt::Key_Return);
+        QCOMPARE(titulos(), QStringList{u"Uno"_s});
+    }
+
+    void lasTarjetasCabenEnElAncho_data()
+    {
+        QTest::addColumn<int>("letras");
+        QTest::addColumn<int>("columnas");
+        QTest::newRow("wide") << 400 << 3;
+        QTest::newRow("two columns") << 90 << 2;
+        QTest::newRow("narrow") << 50 << 1;
+        QTest::newRow("hardly any room") << 10 << 1;
+    }
+    void lasTarjetasCabenEnElAncho()
+    {
+        QFETCH(int, letras);
+        MenuLecciones lecciones(contenidoDePrueba().lecciones);
+        TarjetasDeLecciones tarjetas;
+        tarjetas.setModel(&lecciones);
+        tarjetas.resize(letras * tarjetas.fontMetrics().averageCharWidth(), 300);
+        tarjetas.show();
+        QSet<int> izquierdas;
+        for (int fila = 0; fila < lecciones.rowCount(); ++fila) {
+            const QRect tarjeta = tarjetas.visualRect(lecciones.index(fila, 0));
+            QVERIFY(tarjeta.right() < std::max(tarjetas.viewport()->width(), tarjeta.width()));
+            izquierdas << tarjeta.left();
+        }
+        QTEST(int(izquierdas.size()), "columnas");
+    }
+
     void teclasDeVentanas()
     {
         for (int fila : {0, 1, 2})
@@ -168,6 +241,7 @@ private Q_SLOTS:
         auto *ayuda = control<QAction>(m_principal.get(), u"Algoritmos"_s);
         ayuda->trigger();
         QVERIFY(Entorno::grabadora().abiertas.isEmpty());
+        QVERIFY(!ayuda->isEnabled());
         FormLeccion *leccion = m_principal->abreLeccion(3);
         ayuda->trigger();
         QCOMPARE(Entorno::grabadora().abiertas, QStringList{leccion->URL()});

@@ -1,6 +1,7 @@
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractButton>
+#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -9,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
 using Guardado = Interlocutor::Guardado;
@@ -33,6 +35,29 @@ void enElDialogo(const std::function<void(Dialogo &)> &accion)
 
 } // namespace
 
+/// Stands where the desktop's browser would.
+class Escritorio : public QObject
+{
+    Q_OBJECT
+
+public:
+    Escritorio()
+    {
+        for (const QString &esquema : {u"file"_s, u"https"_s})
+            QDesktopServices::setUrlHandler(esquema, this, "abre");
+    }
+    ~Escritorio() override
+    {
+        for (const QString &esquema : {u"file"_s, u"https"_s})
+            QDesktopServices::unsetUrlHandler(esquema);
+    }
+
+    QList<QUrl> abiertas;
+
+public Q_SLOTS:
+    void abre(const QUrl &direccion) { abiertas << direccion; }
+};
+
 /// The real questions, answered by their buttons.
 class TestInterlocutor : public QObject
 {
@@ -41,6 +66,29 @@ class TestInterlocutor : public QObject
 private Q_SLOTS:
     void init() { Entorno::limpia(); }
     void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    void abreDirecciones_data()
+    {
+        QTest::addColumn<QString>("direccion");
+        QTest::addColumn<QUrl>("abierta");
+        const QString carpeta = Entorno::carpetaDeTrabajo();
+        const QUrl pagina = QUrl::fromLocalFile(carpeta + u"/Doc/Primos.html"_s);
+        const QString web = u"https://example.org/a?b=c#d"_s;
+        QTest::newRow("web address") << web << QUrl(web);
+        QTest::newRow("page") << carpeta + u"\\Doc\\Primos.html"_s << pagina;
+        QTest::newRow("letter case") << carpeta + u"\\DOC\\primos.HTML"_s << pagina;
+        QTest::newRow("relative to the current folder") << u".\\Doc\\Primos.html"_s << pagina;
+        QTest::newRow("missing page")
+            << u"/nada\\100 %#1.html"_s << QUrl::fromLocalFile(u"/nada/100 %#1.html"_s);
+    }
+    void abreDirecciones()
+    {
+        QFETCH(QString, direccion);
+        QFETCH(QUrl, abierta);
+        const Escritorio escritorio;
+        Interlocutor().abre(direccion);
+        QCOMPARE(escritorio.abiertas, QList<QUrl>{abierta});
+    }
 
     void siGuarda_data()
     {

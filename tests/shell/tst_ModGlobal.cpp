@@ -1,10 +1,12 @@
 #include "bignum/ErrorEjecucion.h"
 #include "shell/Formatos.h"
+#include "shell/Main.h"
 #include "shell/ModGlobal.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QFile>
 #include <QSettings>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -41,6 +43,8 @@ private Q_SLOTS:
         QCOMPARE(Redondea(2.5), 3);
         QCOMPARE(Redondea(-2.5), -3);
         QCOMPARE(Redondea(-2.49), -2);
+        QCOMPARE(Redondea(0.49999999999999994), 0);
+        QCOMPARE(Redondea(-2147483648.0), std::numeric_limits<std::int32_t>::min());
         QCOMPARE(Techo(-2.5), -2);
         QCOMPARE(Techo(2147483647.0), 2147483647);
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, Redondea(2147483647.5));
@@ -78,6 +82,24 @@ private Q_SLOTS:
         QCOMPARE(::Traduce(u"Primos"_s), u"Premiers"_s);
         Idioma() = QString();
         QCOMPARE(::Traduce(u"Primos"_s), u"Primos"_s);
+    }
+
+    void losTextosDeQt_data()
+    {
+        QTest::addColumn<QString>("idioma");
+        QTest::addColumn<QString>("texto");
+        QTest::newRow("Spanish") << u"Español"_s << u"Cancelar"_s;
+        QTest::newRow("translated") << u"English"_s << u"Cancel"_s;
+        QTest::newRow("no such section") << u"x"_s << u"Cancelar"_s;
+        QTest::newRow("no language") << QString() << u"Cancelar"_s;
+    }
+    void losTextosDeQt()
+    {
+        QFETCH(QString, idioma);
+        escribeTabla("[English]\nPrimos=Primes\n[Español]\nPrimos=Números primos\n");
+        Idioma() = idioma;
+        instalaTextosDeQt();
+        QTEST(QCoreApplication::translate("QPlatformTheme", "Cancel"), "texto");
     }
 
     void carpetaDeLaSesion()

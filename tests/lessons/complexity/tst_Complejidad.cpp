@@ -6,6 +6,7 @@
 #include "lessons/complexity/TorresHanoi.h"
 #include "tests/shell/support/Entorno.h"
 
+#include <QRegularExpression>
 #include <QSet>
 #include <algorithm>
 #include <cmath>
@@ -191,12 +192,26 @@ private Q_SLOTS:
         QVERIFY2(juicio.palabra.contains(palabra), qPrintable(juicio.palabra));
     }
 
+    /// Both kinds vary, and counting the discs from the wrong end is never right by chance.
     void cuestionesSorteadas()
     {
-        QSet<QString> vistas;
-        for (int i = 0; i < 60; ++i)
-            vistas << sorteaLlamadas().enunciado << sorteaHanoi().enunciado;
-        QVERIFY(vistas.size() > 15);
+        QSet<QString> llamadas, torres;
+        for (int i = 0; i < 60; ++i) {
+            llamadas << sorteaLlamadas().enunciado;
+            const Cuestion cuestion = sorteaHanoi();
+            torres << cuestion.enunciado;
+            static const QRegularExpression datos(u"con (\\d+) discos.*disco (\\d+)"_s);
+            const auto hallado = datos.match(cuestion.enunciado);
+            const int disco = hallado.captured(2).toInt();
+            const QString desdeElMenor = QString::number(disco - 1);
+            const QString desdeElMayor = QString::number(hallado.captured(1).toInt() - disco);
+            QVERIFY2(cuestion.juzga(u"2^"_s + desdeElMayor).acertada,
+                     qPrintable(cuestion.enunciado));
+            QVERIFY2(!cuestion.juzga(u"2^"_s + desdeElMenor).acertada,
+                     qPrintable(cuestion.enunciado));
+        }
+        QVERIFY(llamadas.size() > 8);
+        QVERIFY(torres.size() > 25);
     }
 
 private:

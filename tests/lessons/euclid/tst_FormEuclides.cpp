@@ -92,6 +92,33 @@ private Q_SLOTS:
         QCOMPARE(empiezaAEditar(1)->text(), u"240"_s);
     }
 
+    /// In bold stands what the line of the result is made of.
+    void deDondeSaleElResultado_data()
+    {
+        QTest::addColumn<bool>("reducidos");
+        QTest::addColumn<QString>("divisor");
+        QTest::addColumn<QString>("casillas");
+        QTest::newRow("standard") << false << u"46"_s << u"3,4 3,5 3,6"_s;
+        QTest::newRow("reduced: no coefficients") << true << u"46"_s << u"2,4"_s;
+        QTest::newRow("the divisor itself") << false << u"120"_s << QString();
+    }
+    void deDondeSaleElResultado()
+    {
+        QFETCH(bool, reducidos);
+        QFETCH(QString, divisor);
+        m_ventana->ponRestosReducidos(reducidos);
+        edita(2, divisor);
+        const QAbstractItemModel *modelo = m_rejilla->model();
+        QStringList casillas;
+        for (int f = 0; f < modelo->rowCount(); ++f) {
+            for (int c = 0; c < modelo->columnCount(); ++c) {
+                if (modelo->index(f, c).data(Qt::FontRole).value<QFont>().bold())
+                    casillas << u"%1,%2"_s.arg(f).arg(c);
+            }
+        }
+        QTEST(casillas.join(u' '), "casillas");
+    }
+
     void soloSeEditanDosCasillas()
     {
         const QAbstractItemModel *modelo = m_rejilla->model();
@@ -220,7 +247,8 @@ private Q_SLOTS:
         campo(u"txtNº_2"_s)->setText(u"10^14"_s);
         const auto mensaje = Entorno::grabadora().unico();
         QCOMPARE(mensaje.titulo, u"Error en tiempo de ejecución"_s);
-        QCOMPARE(mensaje.texto, u"Desbordamiento."_s);
+        QVERIFY2(mensaje.texto.startsWith(u"Desbordamiento.\nEl primer valor de k"_s),
+                 qPrintable(mensaje.texto));
         QCOMPARE(m_soluciones->model()->rowCount(), 0);
         QCOMPARE(control<QLabel>(m_ventana.get(), u"lblSoluciones"_s)->text(), u"Soluciones"_s);
     }
@@ -233,8 +261,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("veredicto");
         const QString bien = u"✓ Correcto"_s, mal = u"✗ No es correcto"_s;
         QTest::newRow("seven") << u"34"_s << u"21"_s << u"7"_s << bien;
-        QTest::newRow("the other way round") << u"21"_s << u"34"_s << u"7"_s << mal;
+        QTest::newRow("the other way round")
+            << u"21"_s << u"34"_s << u"7"_s << mal + u" (iteraciones: 8)"_s;
         QTest::newRow("44") << u"1836311903"_s << u"1134903170"_s << u"50-6"_s << bien;
+        QTest::newRow("n is rounded") << u"34"_s << u"21"_s << u"27/4"_s << bien;
+        QTest::newRow("a half goes to even")
+            << u"34"_s << u"21"_s << u"13/2"_s << mal + u" (iteraciones: 7)"_s;
         QTest::newRow("nothing typed") << QString() << u" "_s << QString() << bien;
         QTest::newRow("no number") << u"hola"_s << u"5"_s << u"1"_s << mal;
     }

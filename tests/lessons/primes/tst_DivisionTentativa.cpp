@@ -101,6 +101,14 @@ private Q_SLOTS:
         QCOMPARE(ingenuo(n), factores);
     }
 
+    /// The divisions do not look at the sign, but only those by 2 and 3 come before n > 1 is asked.
+    void negativos()
+    {
+        QCOMPARE(mejorado(-360), u"2^3 3^2"_s);
+        QCOMPARE(mejorado(-1), QString());
+        QCOMPARE(ingenuo(-360), QString());
+    }
+
     /// Random products of small primes, so that both divisions end soon.
     void alAzar()
     {

@@ -38,16 +38,18 @@ private Q_SLOTS:
         QTest::addColumn<int>("filas");
         QTest::addColumn<QString>("ultimo");
         QTest::addColumn<QString>("resumen");
+        QTest::addColumn<int>("porcentaje");
         const QString alAbrir = u"6.493 primos; el mayor es 64.997"_s;
-        QTest::newRow("own") << u"65000"_s << false << 1624 << u"64.997"_s << alAbrir;
-        QTest::newRow("library") << u"65000"_s << true << 1624 << u"64.997"_s << alAbrir;
+        QTest::newRow("own") << u"65000"_s << false << 1624 << u"64.997"_s << alAbrir << 99;
+        QTest::newRow("library") << u"65000"_s << true << 1624 << u"64.997"_s << alAbrir << 100;
         QTest::newRow("expression")
-            << u"2^3+2"_s << false << 1 << u"7"_s << u"4 primos; el mayor es 7"_s;
-        QTest::newRow("own, 2") << u"2"_s << false << 1 << u"3"_s << u"2 primos; el mayor es 3"_s;
+            << u"2^3+2"_s << false << 1 << u"7"_s << u"4 primos; el mayor es 7"_s << 70;
+        QTest::newRow("own, 2") << u"2"_s << false << 1 << u"3"_s << u"2 primos; el mayor es 3"_s
+                                << 0;
         QTest::newRow("library, 2")
-            << u"2"_s << true << 1 << u"2"_s << u"1 primos; el mayor es 2"_s;
+            << u"2"_s << true << 1 << u"2"_s << u"Un solo primo: 2"_s << 100;
         QTest::newRow("library, none")
-            << u"1"_s << true << 0 << QString() << u"No hay primos hasta ese número"_s;
+            << u"1"_s << true << 0 << QString() << u"No hay primos hasta ese número"_s << 100;
     }
     void cribas()
     {
@@ -71,7 +73,9 @@ private Q_SLOTS:
         QTEST(m_resumen->text(), "resumen");
         QCOMPARE(m_boton->toolTip(), u"Realizar la criba"_s);
         QCOMPARE(m_ruedas->estado(), ReproductorAVI::Parado);
-        QCOMPARE(control<QProgressBar>(m_ventana, u"ProgressBar"_s)->value(), 100);
+        const auto *barra = control<QProgressBar>(m_ventana, u"ProgressBar"_s);
+        QTEST(barra->value(), "porcentaje");
+        QCOMPARE(barra->text(), u"Terminada"_s);
     }
 
     void primerasFilas()
@@ -82,6 +86,9 @@ private Q_SLOTS:
             QItemSelection(m_rejilla->model()->index(0, 0), m_rejilla->model()->index(1, 3)),
             QItemSelectionModel::ClearAndSelect);
         QCOMPARE(m_rejilla->seleccion(FormaDeCopia::Texto), u"2\t3\t5\t7\n11\t13\t17\t19\n"_s);
+        // The columns have no names, and their numbers would pass for primes.
+        m_rejilla->selectAll();
+        QVERIFY(m_rejilla->seleccion(FormaDeCopia::Texto).startsWith(u"2\t3\t5\t7\n"_s));
     }
 
     void entradasRechazadas_data()

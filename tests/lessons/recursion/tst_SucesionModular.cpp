@@ -199,6 +199,19 @@ private Q_SLOTS:
                  u"f(n) = f(n-1) + f(n-2),  f(1) = 1,  f(2) = 1"_s);
         QCOMPARE(textoDeDefinicion(definicion(-2, -3, 0, -5)),
                  u"f(n) = -2 f(n-1) - 3 f(n-2),  f(1) = 0,  f(2) = -5"_s);
+        QCOMPARE(textoDeDefinicion(definicion(-1, -1, 2, 3)),
+                 u"f(n) = -f(n-1) - f(n-2),  f(1) = 2,  f(2) = 3"_s);
+    }
+
+    void losPrimerosValores()
+    {
+        QCOMPARE(textoDePrimerosValores(definicion(1, 1, 1, 1)),
+                 u"1, 1, 2, 3, 5, 8, 13, 21, 34, 55, …"_s);
+        QCOMPARE(textoDePrimerosValores(definicion(2, -3, 0, 1)),
+                 u"0, 1, 2, 1, -4, -11, -10, 13, 56, 73, …"_s);
+        // What does not fit is left out, without an error.
+        QCOMPARE(textoDePrimerosValores(definicion(1'000'000, 0, 1, 1'000)),
+                 u"1, 1000, 1000000000, …"_s);
     }
 
     void laTabla()

@@ -7,13 +7,42 @@
 
 #include <QProcess>
 #include <QSet>
+#include <csignal>
 #include <memory>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// For as long as it lives, this process writes no file longer than so many bytes.
+class LimiteDeArchivo
+{
+public:
+    explicit LimiteDeArchivo(rlim_t bytes) : m_senal(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_antes);
+        const rlimit limite{bytes, m_antes.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+    }
+    ~LimiteDeArchivo()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_antes);
+        std::signal(SIGXFSZ, m_senal);
+    }
+    LimiteDeArchivo(const LimiteDeArchivo &) = delete;
+    LimiteDeArchivo &operator=(const LimiteDeArchivo &) = delete;
+
+private:
+    rlimit m_antes{};
+    void (*m_senal)(int);
+};
+
+} // namespace
 
 /// What others may have put into the mailbox, and what they do in it meanwhile.
 class TestBuzonHostil : public QObject
@@ -97,6 +126,38 @@ private Q_SLOTS:
         QCOMPARE(numeroDeError([&] { leeMensaje(mensajes.Item(1).NombreFichero()); }),
                  int(ErrorEjecucion::ErrorDeArchivo));
         QCOMPARE(leeClavePublica(m_yo->buzon(), u"ana"_s).q, QString());
+    }
+
+    /// No file may grow beyond some bytes, as on a full disk: what stood there stays whole, and
+    /// nothing half written is left behind.
+    void unDiscoLleno()
+    {
+        ClsRSA clave;
+        clave.ponDirMensajes(m_yo->buzon());
+        clave.ponr(1);
+        clave.ponq(1, u"257"_s);
+        clave.ponq(2, u"263"_s);
+        clave.pons(u"5"_s);
+        clave.Valida();
+        clave.PublicaClave();
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nx\r\n");
+        const QString publica = m_yo->enBuzon(m_yo->usuario() + u"/Clave.RSA"_s);
+        const QList<QByteArray> antes{Estudiante::lee(m_yo->ficheroPrivado()),
+                                      Estudiante::lee(publica)};
+        clave.pons(u"7"_s);
+        QList<int> errores;
+        {
+            const LimiteDeArchivo limite(10);
+            errores << numeroDeError([&] { clave.Valida(); });
+            errores << numeroDeError([&] { clave.PublicaClave(); });
+            errores << numeroDeError(
+                [&] { dejaMensaje(m_yo->buzon(), u"ana"_s, QByteArray(90, 'x')); });
+        }
+        QCOMPARE(errores, QList<int>(3, ErrorEjecucion::ErrorDeArchivo));
+        QVERIFY(!clave.ClaveOK());
+        QCOMPARE(QList({Estudiante::lee(m_yo->ficheroPrivado()), Estudiante::lee(publica)}), antes);
+        for (const QString &carpeta : {u"ana"_s, m_yo->usuario(), u"../trabajo"_s})
+            QCOMPARE(QDir(m_yo->enBuzon(carpeta)).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 
     void unaCarpetaQueDesaparece()

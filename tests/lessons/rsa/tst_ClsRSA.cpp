@@ -270,6 +270,17 @@ private Q_SLOTS:
         QCOMPARE(m_clave->DesCodifica({u"57666"_s}, m_corrida), QString());
     }
 
+    /// A few bytes a block are enough for an adversary: a power fills the modulus.
+    void pocosBloquesNoLlenanLaMemoria()
+    {
+        const QString primero = PrimoSiguiente(u"1"_s + QString(300, u'0'));
+        pon(primero, PrimoSiguiente(primero), u"65537"_s);
+        m_clave->Valida();
+        const QStringList bloques(20'000, u"2"_s);
+        QCOMPARE(numeroDeError([&] { m_clave->DesCodifica(bloques, m_corrida); }),
+                 int(ErrorEjecucion::MemoriaInsuficiente));
+    }
+
     void loQueNoSePuedeCodificar()
     {
         pon(u"257"_s, u"263"_s, u"5"_s);

@@ -120,9 +120,15 @@ private Q_SLOTS:
         QCOMPARE(rotulo(u"lblEstado"_s), u"✗ "_s + texto);
         escribe(u"txtS"_s, u"5"_s);
         QCOMPARE(Entorno::grabadora().unico().texto, texto);
-        control<QCheckBox>(m_ventana.get(), u"ChkNumBits"_s)->click();
+        auto *casilla = control<QCheckBox>(m_ventana.get(), u"ChkNumBits"_s);
+        casilla->click();
         escribe(u"txtS"_s, u"5"_s);
         QVERIFY(boton(u"cmdCodificar"_s)->isEnabled());
+        // A number beyond all bounds can still be mended.
+        linea(u"TxtNumBits"_s)->setText(u"99999"_s);
+        casilla->click();
+        QCOMPARE(Entorno::grabadora().unico().texto, u"Desbordamiento."_s);
+        QVERIFY(linea(u"TxtNumBits"_s)->isEnabled());
     }
 
     void cerrarConUnNumeroAMedias()

@@ -32,7 +32,15 @@ private Q_SLOTS:
         QCOMPARE(temas().size(), 3);
         QVERIFY(!boton(u"cmdPublicarClave"_s)->isEnabled());
         QCOMPARE(Sesión().lee(u"RSA"_s, u"DirMensajes"_s), QString());
+        // Neither one that is not there, which is no error until it is asked for, nor a key that
+        // has lost a number, though that gives no verdict.
         eligeBuzon(m_yo->enBuzon(u"no existe"_s));
+        QCoreApplication::processEvents();
+        QCOMPARE(temas().size(), 3);
+        QVERIFY(rotulo(u"lblBuzon"_s).startsWith(u"No se encuentra el buzón"_s));
+        eligeBuzon(m_yo->buzon());
+        QCOMPARE(temas().size(), 4);
+        escribe(u"txtQ_1"_s, {});
         QCOMPARE(temas().size(), 3);
     }
 
@@ -58,7 +66,7 @@ private Q_SLOTS:
         eligeFila(0);
         QCOMPARE(linea(u"txtAsunto"_s)->text(), u"Cita"_s);
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), QString());
-        boton(u"recibir"_s)->click();
+        QTest::keyClick(control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s), Qt::Key_Return);
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
 
         boton(u"enviar"_s)->click();
@@ -67,6 +75,20 @@ private Q_SLOTS:
         QCOMPARE(mensaje.icono, Interlocutor::Icono::Critico);
         QCOMPARE(mensaje.texto,
                  u"Ya hay un mensaje de %1 para %1 con asunto 'Cita'"_s.arg(m_yo->usuario()));
+    }
+
+    void unDobleClicEnviaUnaVez()
+    {
+        preparaBuzon();
+        boton(u"cmdPublicarClave"_s)->click();
+        eligeUsuario(m_yo->usuario());
+        escribeMensaje(u"Cita"_s, u"A las 5"_s);
+        // What Qt Test calls a double click is the second press alone.
+        QTest::mouseClick(boton(u"enviar"_s), Qt::LeftButton);
+        QTest::mouseDClick(boton(u"enviar"_s), Qt::LeftButton);
+        QTest::mouseRelease(boton(u"enviar"_s), Qt::LeftButton);
+        QCOMPARE(QDir(m_yo->enBuzon(m_yo->usuario())).entryList({u"*.msg"_s}),
+                 QStringList{u"RSA1.msg"_s});
     }
 
     void soloSuDuenoLoLee()
@@ -126,6 +148,8 @@ private Q_SLOTS:
             << u"ana"_s << u"x"_s << u"día α"_s << u"Carácter no admitido"_s << false;
         QTest::newRow("subject beyond Windows-1252")
             << u"ana"_s << u"α"_s << u"x"_s << u"Carácter no admitido"_s << false;
+        QTest::newRow("text without end") << u"ana"_s << u"x"_s << QString(1'000'001, u'a')
+                                          << u"Texto demasiado largo"_s << false;
         QTest::newRow("out of the mailbox")
             << u"../ana"_s << u"x"_s << u"x"_s << u"Error en tiempo de ejecución"_s << false;
         QTest::newRow("unfit text and subject: one box")
@@ -155,6 +179,61 @@ private Q_SLOTS:
         QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"No se encontró la ruta"_s));
         QCOMPARE(lista(), QString());
         QCOMPARE(temas().size(), 3);
+    }
+
+    /// There is something under its name, but it cannot be listed.
+    void unBuzonQueNoEsCarpeta()
+    {
+        m_yo->escribe(u"archivo"_s, "x");
+        abre();
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        eligeBuzon(m_yo->enBuzon(u"archivo"_s));
+        QCoreApplication::processEvents();
+        QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"No se encontró la ruta"_s));
+        QCOMPARE(lista(), QString());
+    }
+
+    void unaClaveQueSePublicaMasTarde_data()
+    {
+        QTest::addColumn<QString>("antes");
+        QTest::addColumn<QString>("boton");
+        QTest::newRow("none before, seen on sending") << QString() << u"enviar"_s;
+        QTest::newRow("another before, seen on sending") << u"323"_s << u"enviar"_s;
+        QTest::newRow("seen on scanning") << QString() << u"revisar"_s;
+    }
+    void unaClaveQueSePublicaMasTarde()
+    {
+        QFETCH(QString, antes);
+        QFETCH(QString, boton);
+        if (!antes.isEmpty())
+            m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=" + antes.toLatin1() + "\r\ns=5\r\n");
+        preparaBuzon();
+        eligeUsuario(u"ana"_s);
+        QCOMPARE(campoAjeno(u"txtDestQ"_s), antes);
+        m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=67591\r\ns=5\r\n");
+        escribeMensaje(u"x"_s, u"H"_s);
+        this->boton(boton)->click();
+        QCOMPARE(campoAjeno(u"txtDestQ"_s), u"67591"_s);
+        if (boton == u"enviar"_s)
+            QVERIFY(Estudiante::lee(m_yo->enBuzon(u"ana/RSA1.msg"_s)).endsWith("x\r\n57666\r\n"));
+    }
+
+    /// As many characters without a blank as a message can hold: Qt would lay out their lines for
+    /// minutes, which the test's time limit does not allow.
+    void unMensajeSinFin()
+    {
+        QByteArray bytes = "luis\r\nlargo\r\n";
+        for (int i = 0; i < 1'000'000; ++i)
+            bytes += "57666\r\n";
+        m_yo->escribe(m_yo->usuario() + u"/RSA1.msg"_s, bytes);
+        preparaBuzon();
+        boton(u"cmdPublicarClave"_s)->click();
+        eligeFila(0);
+        boton(u"recibir"_s)->click();
+        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText().size(), 1'000'000);
+        area(u"txtDestTextoOriginal"_s)->setPlainText(u"corto"_s);
+        QCOMPARE(area(u"txtDestTextoOriginal"_s)->wordWrapMode(),
+                 QTextOption::WrapAtWordBoundaryOrAnywhere);
     }
 
     void revisarNoEstropeaLoEscrito()

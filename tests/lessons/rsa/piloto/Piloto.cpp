@@ -5,13 +5,18 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QTabBar>
 #include <QTest>
 #include <QTextStream>
+#include <QTimer>
+#include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr std::chrono::milliseconds Ritmo{30};
 
 template <typename Control = QWidget>
 Control *busca(const QString &nombre)
@@ -90,8 +95,7 @@ Piloto::Piloto(const QString &guion)
     QFile archivo(guion);
     if (archivo.open(QIODevice::ReadOnly))
         m_pasos = QString::fromUtf8(archivo.readAll()).split(u'\n', Qt::SkipEmptyParts);
-    connect(&m_timer, &QTimer::timeout, this, &Piloto::daUnPaso);
-    m_timer.start(30);
+    QTimer::singleShot(Ritmo, this, &Piloto::daUnPaso);
 }
 
 void Piloto::daUnPaso()
@@ -100,6 +104,12 @@ void Piloto::daUnPaso()
         QTextStream(stderr) << "message box: " << caja->text() << Qt::endl;
         ::_exit(3);
     }
+    // A timer of its own for each turn: one alone would be silent in the event loop of a box that a
+    // step has opened.
+    QTimer::singleShot(Ritmo, this, &Piloto::daUnPaso);
+    if (m_enPaso)
+        return;
+    const QScopedValueRollback<bool> ocupado(m_enPaso, true);
     const QString paso = m_pasos.value(0);
     if (da(paso.section(u' ', 0, 0), paso.section(u' ', 1, 1), paso.section(u' ', 2)))
         m_pasos.removeFirst();

@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QStringList>
-#include <QTimer>
 #include <QWidget>
 #include <QtGui/QGenericPlugin>
 
@@ -30,7 +29,7 @@ private:
     bool da(const QString &orden, const QString &control, const QString &resto);
 
     QStringList m_pasos;
-    QTimer m_timer;
+    bool m_enPaso = false;
 };
 
 class PilotoPlugin : public QGenericPlugin

@@ -5,4 +5,4 @@
 
 /// The whole number of any size that an expression stands for, in decimal digits with its sign;
 /// nothing for any other text. Throws what Evalua throws.
-std::optional<QString> evaluaGrande(const QString &expresion);
+std::optional<QString> evaluaEnteroGrande(const QString &expresion);

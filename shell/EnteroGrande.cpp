@@ -1,4 +1,4 @@
-#include "lessons/units/EntradaEntera.h"
+#include "shell/EnteroGrande.h"
 
 #include "bignum/ModBignum.h"
 
@@ -17,7 +17,7 @@ bool esEntero(QStringView texto)
 
 } // namespace
 
-std::optional<QString> evaluaGrande(const QString &expresion)
+std::optional<QString> evaluaEnteroGrande(const QString &expresion)
 {
     QString valor = Evalua(QString(expresion));
     return esEntero(valor) ? std::optional(std::move(valor)) : std::nullopt;

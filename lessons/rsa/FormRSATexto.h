@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+/// The area where a text is written or a decrypted one appears. Lines are wrapped between words;
+/// where there are thousands of characters without a blank, anywhere: Qt looks for a place to wrap
+/// in a time that grows with the square of their number, minutes for what a message may hold.
+class FormRSATexto : public QPlainTextEdit
+{
+public:
+    explicit FormRSATexto(QWidget *padre = nullptr);
+
+private:
+    void ajustaRenglones(int lugar, int anadidos);
+};
+
+/// Whether a text can be encrypted; a message box on the window says why not.
+bool seCodifica(QWidget *ventana, const QString &texto);
