@@ -12,18 +12,42 @@ namespace {
 /// One row of a table of the page: the texts of its cells, by the headings of the columns.
 using Fila = QHash<QString, QString>;
 
-QString pagina()
+/// The help page in one language, and what its tables call their columns.
+struct Pagina
 {
-    QFile archivo(Entorno::carpetaDeTrabajo() + u"/Doc/MiniCal.html"_s);
+    QString ruta;
+    QString celda;
+    QStringList expresion;
+    QStringList resultado;
+};
+
+const QList<Pagina> paginas{
+    {u"MiniCal.html"_s, u"Celda"_s, {u"Escribes"_s, u"Ejemplo"_s}, {u"Ves"_s, u"Resultado"_s}},
+    {u"English/MiniCal.html"_s,
+     u"Cell"_s,
+     {u"You write"_s, u"Example"_s},
+     {u"You see"_s, u"Result"_s}},
+};
+
+void filaPorPagina()
+{
+    QTest::addColumn<Pagina>("pagina");
+    for (const Pagina &pagina : paginas)
+        QTest::newRow(qPrintable(pagina.ruta)) << pagina;
+}
+
+QString texto(const Pagina &pagina)
+{
+    QFile archivo(Entorno::carpetaDeTrabajo() + u"/Doc/"_s + pagina.ruta);
     return archivo.open(QIODevice::ReadOnly) ? QString::fromUtf8(archivo.readAll()) : QString();
 }
 
-QList<QList<Fila>> tablas()
+QList<QList<Fila>> tablas(const Pagina &pagina)
 {
     QList<QList<Fila>> todas;
     QStringList cabeceras;
     QStringList celdas;
-    QXmlStreamReader xml(pagina());
+    QXmlStreamReader xml(texto(pagina));
     while (!xml.atEnd()) {
         xml.readNext();
         if (xml.isStartElement() && xml.name() == u"table"_s) {
@@ -44,15 +68,15 @@ QList<QList<Fila>> tablas()
     return todas;
 }
 
-/// What is written and what is seen, under either of the headings that the page uses.
-QString dato(const Fila &fila, const QString &uno, const QString &otro)
+/// What is written or what is seen, under either of the headings that the page uses.
+QString dato(const Fila &fila, const QStringList &cabeceras)
 {
-    return fila.value(uno, fila.value(otro));
+    return fila.value(cabeceras.first(), fila.value(cabeceras.last()));
 }
 
 } // namespace
 
-/// Every example of the help page, in the sheet.
+/// Every example of the help page in each of its languages, in the sheet.
 class TestAyuda : public QObject
 {
     Q_OBJECT
@@ -60,41 +84,48 @@ class TestAyuda : public QObject
 private Q_SLOTS:
     void init() { Entorno::limpia(); }
 
+    void ejemplos_data() { filaPorPagina(); }
     void ejemplos()
     {
+        QFETCH(Pagina, pagina);
         int probados = 0;
-        const auto todas = tablas();
+        int situados = 0;
+        const auto todas = tablas(pagina);
         for (const QList<Fila> &tabla : todas) {
             HojaDeCalculo hoja;
             for (const Fila &fila : tabla) {
-                const QString expresion = dato(fila, u"Escribes"_s, u"Ejemplo"_s);
-                QString espera = dato(fila, u"Ves"_s, u"Resultado"_s);
+                const QString expresion = dato(fila, pagina.expresion);
+                QString espera = dato(fila, pagina.resultado);
                 if (expresion.isEmpty() || espera.isEmpty())
                     continue;
-                QString visto = entra(hoja, fila.value(u"Casilla"_s, u"Y99"_s), expresion);
+                QString visto = entra(hoja, fila.value(pagina.celda, u"Y99"_s), expresion);
                 if (espera.endsWith(u'…')) {
                     espera.chop(1);
                     visto.truncate(espera.size());
                 }
                 QVERIFY2(visto == espera, qPrintable(expresion + u" = "_s + visto));
                 ++probados;
+                situados += fila.contains(pagina.celda) ? 1 : 0;
             }
         }
         QVERIFY(probados > 40);
+        QVERIFY(situados > 10);
     }
 
     /// The blocks to paste give the last result of the table that stands below each.
+    void bloques_data() { filaPorPagina(); }
     void bloques()
     {
+        QFETCH(Pagina, pagina);
         const QStringList ultimos{u"886731088897/627013566048"_s, u"72"_s};
-        const QString texto = pagina();
+        const QString todo = texto(pagina);
         qsizetype desde = 0;
         for (const QString &ultimo : ultimos) {
-            QVERIFY(texto.indexOf(u"<pre>"_s, desde) > 0);
-            const auto inicio = texto.indexOf(u"<pre>"_s, desde) + 5;
-            desde = texto.indexOf(u"</pre>"_s, inicio);
+            QVERIFY(todo.indexOf(u"<pre>"_s, desde) > 0);
+            const auto inicio = todo.indexOf(u"<pre>"_s, desde) + 5;
+            desde = todo.indexOf(u"</pre>"_s, inicio);
             QList<QStringList> bloque;
-            const QStringList lineas = texto.sliced(inicio, desde - inicio).split(u'\n');
+            const QStringList lineas = todo.sliced(inicio, desde - inicio).split(u'\n');
             for (const QString &linea : lineas)
                 bloque << QStringList{linea};
             HojaDeCalculo hoja;
@@ -107,12 +138,17 @@ private Q_SLOTS:
     void loQueDaError_data()
     {
         QTest::addColumn<QString>("expresion");
-        for (const auto &expresion :
-             {u"(1+2]"_s, u"1/2 mod 3"_s, u"a1+1"_s, u"mcd(12,18)"_s, u"9^9^9^9"_s}) {
-            QVERIFY2(pagina().contains(u"<code>"_s + expresion + u"</code>"_s),
-                     qPrintable(expresion));
-            QTest::newRow(qPrintable(expresion)) << expresion;
+        const QStringList comunes{u"(1+2]"_s, u"1/2 mod 3"_s, u"a1+1"_s, u"9^9^9^9"_s};
+        const QStringList porComas{u"mcd(12,18)"_s, u"gcd(12,18)"_s};
+        for (qsizetype i = 0; i < paginas.size(); ++i) {
+            const QString todo = texto(paginas[i]);
+            for (const QString &expresion : comunes + QStringList{porComas[i]}) {
+                QVERIFY2(todo.contains(u"<code>"_s + expresion + u"</code>"_s),
+                         qPrintable(paginas[i].ruta + u": "_s + expresion));
+            }
         }
+        for (const QString &expresion : comunes + porComas)
+            QTest::newRow(qPrintable(expresion)) << expresion;
     }
     void loQueDaError()
     {
