@@ -34,6 +34,20 @@ QString nombreDe(MetodoFibonacci metodo)
     return {};
 }
 
+QString reglaDe(MetodoFibonacci metodo)
+{
+    switch (metodo) {
+    case MetodoFibonacci::Definicion:
+        return Traduce(u"Cada llamada con n ≥ 2 hace otras dos, para n − 1 y para n − 2."_s);
+    case MetodoFibonacci::Iteracion:
+        return Traduce(u"Desde F(0) y F(1) se suman cada vez los dos últimos: n − 1 sumas."_s);
+    case MetodoFibonacci::Duplicacion:
+        return Traduce(u"F(2k) = F(k) · (2F(k+1) − F(k)) y F(2k+1) = F(k)² + F(k+1)²: un paso por "
+                       u"cada cifra binaria de n."_s);
+    }
+    return {};
+}
+
 } // namespace
 
 FormFibonacciValores::FormFibonacciValores(Corrida &corrida, QWidget *padre)
@@ -61,6 +75,7 @@ FormFibonacciValores::FormFibonacciValores(Corrida &corrida, QWidget *padre)
     for (auto *opcion : {ui->optMetodo_0, ui->optMetodo_1, ui->optMetodo_2})
         conecta(opcion, &QRadioButton::clicked, this, &FormFibonacciValores::optMetodo_Click);
     conecta(&m_pantalla, &QTimer::timeout, this, &FormFibonacciValores::muestraAvance);
+    optMetodo_Click();
 }
 
 FormFibonacciValores::~FormFibonacciValores() = default;
@@ -77,9 +92,10 @@ MetodoFibonacci FormFibonacciValores::metodo() const
     return ui->optMetodo_1->isChecked() ? MetodoFibonacci::Iteracion : MetodoFibonacci::Duplicacion;
 }
 
-/// Another method has another bound.
+/// Another method has another rule, and another bound.
 void FormFibonacciValores::optMetodo_Click()
 {
+    ui->lblRegla->setText(reglaDe(metodo()));
     ui->lblAviso->clear();
 }
 

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTableView>
 #include <QTimer>
 
@@ -31,11 +32,14 @@ private Q_SLOTS:
 
     void valores()
     {
+        QSet<QString> reglas;
         for (const QString &metodo : {u"optMetodo_0"_s, u"optMetodo_1"_s, u"optMetodo_2"_s}) {
             control<QRadioButton>(m_ventana.get(), metodo)->click();
+            reglas << texto(u"lblRegla"_s);
             calcula(u"5*4"_s);
             QCOMPARE(largo(u"txtValor"_s), u"6765"_s);
         }
+        QCOMPARE(reglas.size(), 3);
         QCOMPARE(columna(u"FlexComparacion"_s, 1), u"Definición|Iteración|Duplicación"_s);
         QCOMPARE(columna(u"FlexComparacion"_s, 3), u"10.945|19|17"_s);
         pulsa(u"cmdBorrar"_s);
