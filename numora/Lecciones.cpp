@@ -52,9 +52,9 @@ Contenido contenidoDelPrograma()
         {u"RECURSION"_s, u"Recursión y complejidad"_s, crea<FormRecursión1>,
          u"Lo que cuesta llamarse a sí mismo: llamadas, tiempos y torres de Hanói."_s},
         {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>,
-         u"Sucesiones definidas módulo m y el período con el que se repiten."_s},
+         u"Sucesiones definidas módulo m y el periodo con el que se repiten."_s},
         {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>,
-         u"La función de Ackermann, los números del granizo y los palíndromos."_s}};
+         u"La función de Ackermann, los números del granizo y los capicúas."_s}};
     contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
     contenido.escenas = escenasFibonacci(0) + escenasEuclides(1) + escenasPrimos(2) +
                         escenasUnidades(3) + escenasRSA(4) + escenasTCR(5) + escenasRecursion1(6) +
