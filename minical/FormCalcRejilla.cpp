@@ -125,14 +125,18 @@ void FormCalcRejilla::terminaEdicion()
 bool FormCalcRejilla::edit(const QModelIndex &indice, EditTrigger motivo, QEvent *suceso)
 {
     const bool empieza = Rejilla::edit(indice, motivo, suceso);
+    auto *editor = empieza ? qobject_cast<QLineEdit *>(indexWidget(indice)) : nullptr;
+    if (!editor)
+        return empieza;
     // A typed character replaces what there was; any other beginning is there to correct it.
-    if (empieza && motivo != AnyKeyPressed) {
-        if (auto *editor = qobject_cast<QLineEdit *>(indexWidget(indice))) {
-            editor->deselect();
-            editor->end(false);
-        }
+    if (motivo != AnyKeyPressed) {
+        editor->deselect();
+        editor->end(false);
     }
-    return empieza;
+    Q_EMIT escribiendo(editor->text());
+    connect(editor, &QLineEdit::textChanged, this, &FormCalcRejilla::escribiendo,
+            Qt::UniqueConnection);
+    return true;
 }
 
 void FormCalcRejilla::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint consejo)
@@ -147,6 +151,7 @@ void FormCalcRejilla::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEdi
         mueve(MovePrevious);
     else if (consejo == QAbstractItemDelegate::SubmitModelCache && salto != 0)
         mueveFilas(salto);
+    Q_EMIT edicionCerrada();
 }
 
 void FormCalcRejilla::mueve(CursorAction accion)

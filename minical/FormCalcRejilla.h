@@ -34,6 +34,10 @@ Q_SIGNALS:
     void clic(Celda celda);
     /// The current cell is another, by keys or mouse, and not because an edit has ended.
     void movida();
+    /// A text is being typed into the current cell.
+    void escribiendo(const QString &texto);
+    /// The field of an edit is closed, whether its text was taken or not.
+    void edicionCerrada();
     /// The selected cells are to be emptied.
     void borrar();
     /// A text is to be entered from the current cell on.

@@ -135,6 +135,11 @@ private Q_SLOTS:
         QCOMPARE(linea->text(), QString());
         m->ve(u"B2");
         QCOMPARE(nombre->text() + linea->text(), u"B21/3"_s);
+        // What is typed into the cell is seen in the line too, until Escape takes it back.
+        m->teclea(u"7*8"_s);
+        QCOMPARE(linea->text(), u"7*8"_s);
+        m->pulsa(Qt::Key_Escape);
+        QCOMPARE(linea->text(), u"1/3"_s);
         linea->setFocus();
         QTest::keyClick(linea, Qt::Key_End);
         QTest::keyClicks(linea, u"+1/3"_s);
