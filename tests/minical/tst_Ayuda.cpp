@@ -71,7 +71,7 @@ private Q_SLOTS:
                 QString espera = dato(fila, u"Ves"_s, u"Resultado"_s);
                 if (expresion.isEmpty() || espera.isEmpty())
                     continue;
-                QString visto = entra(hoja, fila.value(u"Casilla"_s, u"Y99"_s), expresion);
+                QString visto = entra(hoja, fila.value(u"Celda"_s, u"Y99"_s), expresion);
                 if (espera.endsWith(u'…')) {
                     espera.chop(1);
                     visto.truncate(espera.size());
