@@ -54,6 +54,7 @@ protected:
     void currentChanged(const QModelIndex &actual, const QModelIndex &anterior) override;
     void keyPressEvent(QKeyEvent *suceso) override;
     void mousePressEvent(QMouseEvent *suceso) override;
+    void mouseMoveEvent(QMouseEvent *suceso) override;
     void mouseReleaseEvent(QMouseEvent *suceso) override;
     void contextMenuEvent(QContextMenuEvent *suceso) override;
     void changeEvent(QEvent *suceso) override;
@@ -72,4 +73,5 @@ private:
     /// Where the selection begins that Shift extends.
     QPersistentModelIndex m_ancla;
     bool m_extendiendo = false;
+    bool m_extiendeConRaton = false;
 };
