@@ -110,6 +110,15 @@ QList<Celda> FormCalcRejilla::seleccionadas() const
     return celdas;
 }
 
+void FormCalcRejilla::elige(Celda desde, Celda hasta)
+{
+    const QModelIndex primera = model()->index(desde.fila - 1, desde.columna - 1);
+    const QModelIndex ultima = model()->index(std::min(hasta.fila, Celda::Filas - 1) - 1,
+                                              std::min(hasta.columna, Celda::Columnas - 1) - 1);
+    setCurrentIndex(primera);
+    selectionModel()->select(QItemSelection(primera, ultima), QItemSelectionModel::ClearAndSelect);
+}
+
 void FormCalcRejilla::terminaEdicion()
 {
     QWidget *editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;

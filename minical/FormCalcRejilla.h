@@ -19,6 +19,9 @@ public:
     /// Every selected cell, row by row; the current one when none is.
     QList<Celda> seleccionadas() const;
 
+    /// Selects the data cells from one to the other, and makes the first one current.
+    void elige(Celda desde, Celda hasta);
+
     /// Takes what is being typed into the cell, as Enter would.
     void terminaEdicion();
 
