@@ -60,7 +60,7 @@ QString motivoDeParentesis(const QString &texto)
 /// Whether the arguments of a function seem to be separated by commas, which make decimals here.
 bool separaConComas(const QString &texto)
 {
-    static const QRegularExpression funcion(u"\\p{L}\\s*\\([^();]*,[^();]*\\)"_s);
+    static const QRegularExpression funcion(u"\\p{L}\\s*\\([^();,]*,[^();]*\\)"_s);
     return funcion.match(texto).hasMatch();
 }
 

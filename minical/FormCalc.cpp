@@ -77,6 +77,9 @@ void FormCalc::preparaHoja()
     });
     conecta(m_rejilla->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this] { muestraActual(); });
+    conecta(m_rejilla, &FormCalcRejilla::escribiendo, this,
+            [this](const QString &texto) { m_expresion->muestra(m_rejilla->actual(), texto); });
+    conecta(m_rejilla, &FormCalcRejilla::edicionCerrada, this, [this] { muestraActual(); });
     conecta(m_expresion, &FormCalcExpresion::editada, this, &FormCalc::txtExpresion_Editada);
     conecta(m_expresion, &FormCalcExpresion::abandonada, this, [this] {
         muestraActual();

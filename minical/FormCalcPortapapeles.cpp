@@ -13,6 +13,7 @@
 #include <QClipboard>
 #include <QPushButton>
 #include <QToolBar>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -40,6 +41,14 @@ QList<QStringList> repetido(const QList<QStringList> &bloque, const QList<Celda>
     const Celda ultima = elegidas.constLast();
     const QStringList fila(ultima.columna - primera.columna + 1, bloque.constFirst().constFirst());
     return QList<QStringList>(ultima.fila - primera.fila + 1, fila);
+}
+
+int anchoDe(const QList<QStringList> &bloque)
+{
+    qsizetype ancho = 1;
+    for (const QStringList &fila : bloque)
+        ancho = std::max(ancho, fila.size());
+    return static_cast<int>(ancho);
 }
 
 } // namespace
@@ -107,12 +116,15 @@ void FormCalc::FlexCalc_Pegar()
     if (!m_rejilla->actual().esDeDatos())
         m_rejilla->setCurrentIndex(m_modelo->index(0, 0));
     const QList<Celda> elegidas = m_rejilla->seleccionadas();
+    const QList<QStringList> bloque = repetido(bloqueDe(texto), elegidas);
+    const Celda esquina = elegidas.constFirst();
     const Corrida::Tramo tramo(corrida());
     corrida().permitir();
     ponPegando(true);
-    const bool todo =
-        m_hoja.pega(elegidas.constFirst(), repetido(bloqueDe(texto), elegidas), corrida());
+    const bool todo = m_hoja.pega(esquina, bloque, corrida());
     ponPegando(false);
+    m_rejilla->elige(esquina, {esquina.fila + static_cast<int>(bloque.size()) - 1,
+                               esquina.columna + anchoDe(bloque) - 1});
     actualizaZoom(m_rejilla->actual());
     alCambiarHoja();
     if (!todo)

@@ -2,12 +2,9 @@
 
 #include "minical/FormCalcDelegado.h"
 #include "minical/FormCalcLetra.h"
-#include "minical/FormCalcRecorrido.h"
 
-#include <QContextMenuEvent>
-#include <QHash>
+#include <QEvent>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
 
@@ -113,6 +110,15 @@ QList<Celda> FormCalcRejilla::seleccionadas() const
     return celdas;
 }
 
+void FormCalcRejilla::elige(Celda desde, Celda hasta)
+{
+    const QModelIndex primera = model()->index(desde.fila - 1, desde.columna - 1);
+    const QModelIndex ultima = model()->index(std::min(hasta.fila, Celda::Filas - 1) - 1,
+                                              std::min(hasta.columna, Celda::Columnas - 1) - 1);
+    setCurrentIndex(primera);
+    selectionModel()->select(QItemSelection(primera, ultima), QItemSelectionModel::ClearAndSelect);
+}
+
 void FormCalcRejilla::terminaEdicion()
 {
     QWidget *editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;
@@ -125,14 +131,18 @@ void FormCalcRejilla::terminaEdicion()
 bool FormCalcRejilla::edit(const QModelIndex &indice, EditTrigger motivo, QEvent *suceso)
 {
     const bool empieza = Rejilla::edit(indice, motivo, suceso);
+    auto *editor = empieza ? qobject_cast<QLineEdit *>(indexWidget(indice)) : nullptr;
+    if (!editor)
+        return empieza;
     // A typed character replaces what there was; any other beginning is there to correct it.
-    if (empieza && motivo != AnyKeyPressed) {
-        if (auto *editor = qobject_cast<QLineEdit *>(indexWidget(indice))) {
-            editor->deselect();
-            editor->end(false);
-        }
+    if (motivo != AnyKeyPressed) {
+        editor->deselect();
+        editor->end(false);
     }
-    return empieza;
+    Q_EMIT escribiendo(editor->text());
+    connect(editor, &QLineEdit::textChanged, this, &FormCalcRejilla::escribiendo,
+            Qt::UniqueConnection);
+    return true;
 }
 
 void FormCalcRejilla::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint consejo)
@@ -147,6 +157,7 @@ void FormCalcRejilla::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEdi
         mueve(MovePrevious);
     else if (consejo == QAbstractItemDelegate::SubmitModelCache && salto != 0)
         mueveFilas(salto);
+    Q_EMIT edicionCerrada();
 }
 
 void FormCalcRejilla::mueve(CursorAction accion)
@@ -165,126 +176,6 @@ void FormCalcRejilla::bajaTrasEdicion()
 {
     const QScopedValueRollback<bool> guardia(m_terminando, true);
     mueveFilas(1);
-}
-
-QModelIndex FormCalcRejilla::moveCursor(CursorAction accion, Qt::KeyboardModifiers teclas)
-{
-    const QModelIndex actual = currentIndex();
-    if (!(teclas & Qt::ControlModifier) || !actual.isValid())
-        return Rejilla::moveCursor(accion, teclas);
-    switch (accion) {
-    case MoveHome:
-        return model()->index(0, 0);
-    case MoveEnd:
-        return ultimaEnUso(*model());
-    case MoveUp:
-        return finDeBloque(actual, -1, 0);
-    case MoveDown:
-        return finDeBloque(actual, 1, 0);
-    case MoveLeft:
-        return finDeBloque(actual, 0, -1);
-    case MoveRight:
-        return finDeBloque(actual, 0, 1);
-    default:
-        return Rejilla::moveCursor(accion, teclas);
-    }
-}
-
-/// Extends the selection by a key with Shift; false for other keys. The view itself extends it from
-/// where the mouse was pressed last, wherever the end of an edit has led meanwhile.
-bool FormCalcRejilla::extiende(const QKeyEvent &suceso)
-{
-    static const QHash<int, CursorAction> acciones{
-        {Qt::Key_Up, MoveUp},         {Qt::Key_Down, MoveDown},        {Qt::Key_Left, MoveLeft},
-        {Qt::Key_Right, MoveRight},   {Qt::Key_Home, MoveHome},        {Qt::Key_End, MoveEnd},
-        {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown}};
-    const auto accion = acciones.constFind(suceso.key());
-    if (!(suceso.modifiers() & Qt::ShiftModifier) || accion == acciones.cend() ||
-        !currentIndex().isValid())
-        return false;
-    extiendeHasta(moveCursor(*accion, suceso.modifiers() & ~Qt::ShiftModifier));
-    return true;
-}
-
-void FormCalcRejilla::extiendeHasta(const QModelIndex &indice)
-{
-    const QScopedValueRollback<bool> guardia(m_extendiendo, true);
-    // A click on the current cell drops a selection without making another cell current.
-    if (selectionModel()->selectedIndexes().size() <= 1)
-        m_ancla = currentIndex();
-    const auto [arriba, abajo] = std::minmax({m_ancla.row(), indice.row()});
-    const auto [izquierda, derecha] = std::minmax({m_ancla.column(), indice.column()});
-    selectionModel()->setCurrentIndex(indice, QItemSelectionModel::NoUpdate);
-    selectionModel()->select(
-        QItemSelection(model()->index(arriba, izquierda), model()->index(abajo, derecha)),
-        QItemSelectionModel::ClearAndSelect);
-}
-
-void FormCalcRejilla::currentChanged(const QModelIndex &actual, const QModelIndex &anterior)
-{
-    Rejilla::currentChanged(actual, anterior);
-    if (!m_extendiendo && state() != DragSelectingState)
-        m_ancla = actual;
-    if (!m_terminando)
-        Q_EMIT movida();
-}
-
-void FormCalcRejilla::keyPressEvent(QKeyEvent *suceso)
-{
-    const int tecla = suceso->key();
-    const bool intro = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
-    // The field of an edit lets Enter through; its end comes from the event queue.
-    if (intro && state() == EditingState)
-        return;
-    const bool escribe = tecla == Qt::Key_F2 || !suceso->text().trimmed().isEmpty();
-    // A new sheet has no current cell yet: the first key goes to A1.
-    if (!currentIndex().isValid() && model() && (intro || escribe))
-        setCurrentIndex(model()->index(0, 0));
-    else if (intro)
-        mueveFilas(suceso->modifiers() & Qt::ShiftModifier ? -1 : 1);
-    if (intro)
-        return;
-    if (extiende(*suceso))
-        return;
-    if (tecla == Qt::Key_Delete || tecla == Qt::Key_Backspace)
-        Q_EMIT borrar();
-    else if (suceso->matches(QKeySequence::Paste))
-        Q_EMIT pegar();
-    else
-        Rejilla::keyPressEvent(suceso);
-}
-
-void FormCalcRejilla::mousePressEvent(QMouseEvent *suceso)
-{
-    const QModelIndex indice = indexAt(suceso->position().toPoint());
-    const bool izquierdo = suceso->button() == Qt::LeftButton;
-    if (izquierdo && indice.isValid() && currentIndex().isValid() &&
-        suceso->modifiers() == Qt::ShiftModifier) {
-        extiendeHasta(indice);
-        return;
-    }
-    if (izquierdo || !indice.isValid()) {
-        Rejilla::mousePressEvent(suceso);
-        return;
-    }
-    setCurrentIndex(indice);
-    if (suceso->button() == Qt::RightButton)
-        edit(indice, AllEditTriggers, suceso);
-}
-
-void FormCalcRejilla::mouseReleaseEvent(QMouseEvent *suceso)
-{
-    Rejilla::mouseReleaseEvent(suceso);
-    const QModelIndex indice = indexAt(suceso->position().toPoint());
-    if (indice.isValid())
-        Q_EMIT clic({indice.row() + 1, indice.column() + 1});
-}
-
-void FormCalcRejilla::contextMenuEvent(QContextMenuEvent *suceso)
-{
-    // The right button edits; the menu is reached by its key.
-    if (suceso->reason() == QContextMenuEvent::Keyboard)
-        Q_EMIT menuPedido(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
 }
 
 void FormCalcRejilla::changeEvent(QEvent *suceso)

@@ -19,6 +19,9 @@ public:
     /// Every selected cell, row by row; the current one when none is.
     QList<Celda> seleccionadas() const;
 
+    /// Selects the data cells from one to the other, and makes the first one current.
+    void elige(Celda desde, Celda hasta);
+
     /// Takes what is being typed into the cell, as Enter would.
     void terminaEdicion();
 
@@ -34,6 +37,10 @@ Q_SIGNALS:
     void clic(Celda celda);
     /// The current cell is another, by keys or mouse, and not because an edit has ended.
     void movida();
+    /// A text is being typed into the current cell.
+    void escribiendo(const QString &texto);
+    /// The field of an edit is closed, whether its text was taken or not.
+    void edicionCerrada();
     /// The selected cells are to be emptied.
     void borrar();
     /// A text is to be entered from the current cell on.
@@ -50,6 +57,7 @@ protected:
     void currentChanged(const QModelIndex &actual, const QModelIndex &anterior) override;
     void keyPressEvent(QKeyEvent *suceso) override;
     void mousePressEvent(QMouseEvent *suceso) override;
+    void mouseMoveEvent(QMouseEvent *suceso) override;
     void mouseReleaseEvent(QMouseEvent *suceso) override;
     void contextMenuEvent(QContextMenuEvent *suceso) override;
     void changeEvent(QEvent *suceso) override;
@@ -68,4 +76,5 @@ private:
     /// Where the selection begins that Shift extends.
     QPersistentModelIndex m_ancla;
     bool m_extendiendo = false;
+    bool m_extiendeConRaton = false;
 };

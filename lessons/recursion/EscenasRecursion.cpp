@@ -27,7 +27,7 @@ QList<Escena> escenasRecursion2(int fila)
             {u"recursion2-funcion-aceptada"_s,
              fila,
              u"funcion"_s,
-             {{u"txtAlfa"_s, u"2"_s}, {u"TxtBeta"_s, u"-1"_s}, {u"cmdFunción"_s, {}}}},
+             {{u"txtAlfa"_s, u"3"_s}, {u"TxtBeta"_s, u"-1"_s}, {u"cmdFunción"_s, {}}}},
             {u"recursion2-funcion-rechazada"_s,
              fila,
              u"funcion"_s,

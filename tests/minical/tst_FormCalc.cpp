@@ -238,6 +238,8 @@ private Q_SLOTS:
         QApplication::clipboard()->setText(u"1\t2"_s);
         m->pulsa(Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(m->texto(u"B2") + m->texto(u"C2") + m->texto(u"C3"), u"12"_s);
+        QCOMPARE(m->rejilla()->selectionModel()->selectedIndexes(),
+                 QModelIndexList({m->indice(u"B2"), m->indice(u"C2")}));
         m->ve(u"B2");
         m->pulsa(Qt::Key_Down, Qt::ShiftModifier);
         m->pulsa(Qt::Key_Right, Qt::ShiftModifier);

@@ -1,6 +1,8 @@
 #include "tests/minical/VentanaDePrueba.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QMouseEvent>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -123,6 +125,17 @@ private Q_SLOTS:
         QCOMPARE(m->actual(), u"A3"_s);
         QCOMPARE(m->rejilla()->selectionModel()->selectedIndexes(),
                  QModelIndexList({m->indice(u"A3"), m->indice(u"B3")}));
+        // The same when the mouse moves on before it is released.
+        m->ve(u"C5");
+        QWidget *lienzo = m->rejilla()->viewport();
+        QTest::mousePress(lienzo, Qt::LeftButton, Qt::ShiftModifier, m->lugar(u"D5"));
+        QMouseEvent arrastre(QEvent::MouseMove, m->lugar(u"D6"),
+                             lienzo->mapToGlobal(m->lugar(u"D6")), Qt::NoButton, Qt::LeftButton,
+                             Qt::ShiftModifier);
+        QApplication::sendEvent(lienzo, &arrastre);
+        QTest::mouseRelease(lienzo, Qt::LeftButton, Qt::ShiftModifier, m->lugar(u"D6"));
+        QCOMPARE(m->rejilla()->selectionModel()->selectedIndexes().size(), 4);
+        QVERIFY(m->rejilla()->selectionModel()->isSelected(m->indice(u"C5")));
     }
 
     void laLineaDeLaExpresion()
@@ -135,6 +148,11 @@ private Q_SLOTS:
         QCOMPARE(linea->text(), QString());
         m->ve(u"B2");
         QCOMPARE(nombre->text() + linea->text(), u"B21/3"_s);
+        // What is typed into the cell is seen in the line too, until Escape takes it back.
+        m->teclea(u"7*8"_s);
+        QCOMPARE(linea->text(), u"7*8"_s);
+        m->pulsa(Qt::Key_Escape);
+        QCOMPARE(linea->text(), u"1/3"_s);
         linea->setFocus();
         QTest::keyClick(linea, Qt::Key_End);
         QTest::keyClicks(linea, u"+1/3"_s);
