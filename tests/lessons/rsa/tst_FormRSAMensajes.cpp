@@ -241,7 +241,7 @@ private Q_SLOTS:
         eligeFila(0);
         boton(u"recibir"_s)->click();
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText().size(), 1'000'000);
-        area(u"txtDestTextoOriginal"_s)->setPlainText(u"corto"_s);
+        area(u"txtDestTextoOriginal"_s)->setPlainText(u"corto "_s.repeated(2000));
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->wordWrapMode(),
                  QTextOption::WrapAtWordBoundaryOrAnywhere);
     }
