@@ -90,9 +90,11 @@ void FormTCRSistema::cmdProblema1_Click()
     const double k = NumVal(valor);
     if (k < 1) {
         ui->txtNumEcuaciones->setFocus();
+        ui->txtNumEcuaciones->selectAll();
         return;
     }
     m_modelo->pon(planteaSistema(static_cast<int>(k)));
+    ui->FlexTCR->setCurrentIndex(m_modelo->index(0, 0));
     abreRespuesta();
     ui->txtNumEcuaciones->setFocus();
 }

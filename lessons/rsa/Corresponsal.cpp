@@ -1,6 +1,9 @@
 #include "lessons/rsa/Corresponsal.h"
 
+#include "bignum/ModBignum.h"
 #include "shell/ModGlobal.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 Corresponsal::Corresponsal(ClsRSA &propia) : m_propia(propia)
 {
@@ -25,6 +28,11 @@ void Corresponsal::elige(const QString &usuario)
     m_clave.pont(m_numeros.t);
     m_propiaPisada = true;
     m_clave.ponClaveOK(true);
+}
+
+bool Corresponsal::claveSirve() const
+{
+    return PotenciaMod(u"0"_s, m_clave.s(), m_clave.q(0)) != TextoError;
 }
 
 bool Corresponsal::haCambiado() const

@@ -18,7 +18,8 @@ public:
     /// The published key of that user, one character a block; its private exponent is the student's
     /// own when the user is the student, and else empty.
     ClsRSA &clave() { return m_clave; }
-    bool haPublicado() const { return !m_clave.q(0).isEmpty() && !m_clave.s().isEmpty(); }
+    /// Whether something can be encrypted with that key: it is published, and it is one.
+    bool claveSirve() const;
 
     /// Chooses a user and reads the key of that user from the mailbox; without one its numbers are
     /// empty. Throws what SalvaClave throws, with the user chosen all the same.

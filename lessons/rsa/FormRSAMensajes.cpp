@@ -305,8 +305,9 @@ void FormRSAMensajes::envia()
         return;
     actualizaDestinatario();
     const QString pregunta =
-        Traduce(u"%1 no ha publicado su clave: nadie podrá leer el mensaje. ¿Enviarlo así?"_s);
-    if (!m_corresponsal.haPublicado() &&
+        Traduce(u"No hay una clave pública de %1 que sirva: nadie podrá leer el mensaje. ¿Enviarlo "
+                u"así?"_s);
+    if (!m_corresponsal.claveSirve() &&
         !interlocutor().confirma(this, pregunta.arg(destinatario),
                                  Traduce(u"Falta la clave pública"_s)))
         return;

@@ -37,8 +37,10 @@ FormRSATexto::FormRSATexto(QWidget *padre) : QPlainTextEdit(padre)
 /// Told of each change before the lines are laid out.
 void FormRSATexto::ajustaRenglones(int lugar, int anadidos)
 {
-    const bool breve = document()->characterCount() <= MaximoSinBlancos;
-    bool enorme = wordWrapMode() == QTextOption::WrapAnywhere && !breve;
+    // A long word from before may still be there, unless little is, or nothing of what was.
+    const int caracteres = document()->characterCount();
+    const bool quedaLoDeAntes = caracteres > MaximoSinBlancos && anadidos < caracteres - 1;
+    bool enorme = wordWrapMode() == QTextOption::WrapAnywhere && quedaLoDeAntes;
     const QTextBlock fin = document()->findBlock(lugar + anadidos);
     for (auto parrafo = document()->findBlock(lugar); !enorme && parrafo.isValid();
          parrafo = parrafo.next()) {

@@ -55,6 +55,8 @@ private Q_SLOTS:
         m_plantea->click();
         QCOMPARE(m_rejilla->model()->rowCount(), 13);
         QCOMPARE(QApplication::focusWidget(), m_ecuaciones);
+        // The keys find a cell when the grid gets the focus.
+        QCOMPARE(m_rejilla->currentIndex(), celda(0, 0));
         QTRY_COMPARE(m_rejilla->horizontalScrollBar()->maximum(), 0);
         m_resuelve->click();
         QVERIFY(m_solucion->text().size() > 60);

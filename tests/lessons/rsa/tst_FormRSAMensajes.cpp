@@ -123,14 +123,24 @@ private Q_SLOTS:
         QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("t=26829\r\n"));
     }
 
-    void sinClavePublicada()
+    void sinClaveQueSirva_data()
     {
+        QTest::addColumn<QByteArray>("fichero");
+        QTest::newRow("none") << QByteArray();
+        QTest::newRow("no number") << "[RSA]\nq=67591\ns=cinco\n"_ba;
+        QTest::newRow("modulus 0") << "[RSA]\nq=0\ns=5\n"_ba;
+    }
+    void sinClaveQueSirva()
+    {
+        QFETCH(QByteArray, fichero);
+        if (!fichero.isEmpty())
+            m_yo->escribe(u"eva/Clave.RSA"_s, fichero);
         preparaBuzon();
         eligeUsuario(u"eva"_s);
         escribeMensaje(u"x"_s, u"ab"_s);
         boton(u"enviar"_s)->click();
         QCOMPARE(Entorno::grabadora().confirmaciones.size(), 1);
-        QVERIFY(!QFile::exists(m_yo->enBuzon(u"eva"_s)));
+        QVERIFY(!QFile::exists(m_yo->enBuzon(u"eva/RSA1.msg"_s)));
         Entorno::grabadora().respondeSi = true;
         boton(u"enviar"_s)->click();
         QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"eva/RSA1.msg"_s)),
@@ -231,7 +241,7 @@ private Q_SLOTS:
         eligeFila(0);
         boton(u"recibir"_s)->click();
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText().size(), 1'000'000);
-        area(u"txtDestTextoOriginal"_s)->setPlainText(u"corto"_s);
+        area(u"txtDestTextoOriginal"_s)->setPlainText(u"corto "_s.repeated(2000));
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->wordWrapMode(),
                  QTextOption::WrapAtWordBoundaryOrAnywhere);
     }
