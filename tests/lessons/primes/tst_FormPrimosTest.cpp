@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -144,6 +145,23 @@ private Q_SLOTS:
         m_numero->setText(u"3"_s);
         m_siguiente->click();
         QCOMPARE(m_ventana->cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void elCampoCreceConElNumero()
+    {
+        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(2);
+        m_ventana->resize(900, 600);
+        m_ventana->show();
+        QCOMPARE(m_numero->lineas(), 6);
+        m_numero->setText(QString(800, u'7'));
+        QTRY_VERIFY(m_numero->lineas() > 6 && m_numero->lineas() < 14);
+        const int lineas = m_numero->lineas();
+        m_ventana->resize(700, 600);
+        QTRY_VERIFY(m_numero->lineas() > lineas);
+        m_numero->setText(QString(20'000, u'7'));
+        QTRY_COMPARE(m_numero->lineas(), 14);
+        m_numero->setText(u"7"_s);
+        QTRY_COMPARE(m_numero->lineas(), 6);
     }
 
     void modAlPrincipioEsUnErrorDelSuceso()
