@@ -26,7 +26,7 @@ FormPrimosCuestiones::FormPrimosCuestiones(QWidget *padre)
                                  QString::number(m_cuestion.digitosPedidos()) +
                                  Traduce(u" dígitos."_s));
     ui->txtProducto->setReadOnly(true);
-    ponLineasSegunTexto(ui->txtProducto, 2, 6);
+    new LineasSegunTexto(ui->txtProducto, 2, 6);
 
     conecta(ui->cmdProblema, &QPushButton::clicked, this, &FormPrimosCuestiones::cmdProblema_Click);
     for (CampoLargo *campo : m_txtPrimo) {

@@ -26,7 +26,7 @@ FormPrimosTest::FormPrimosTest(QWidget *leccion)
     ui->imgTestPrimo->setImagen(u"SEMAFOROROJO"_s);
     Aspecto::destaca(ui->lblTest);
     Aspecto::destaca(ui->LabelPrimo);
-    ponLineasSegunTexto(ui->txtNúmero, 6, 14);
+    new LineasSegunTexto(ui->txtNúmero, 6, 14);
 
     conecta(ui->txtNúmero, &CampoLargo::textoCambiado, this, &FormPrimosTest::txtNumero_Change);
     conecta(ui->txtNúmero, &CampoLargo::returnPressed, this,
