@@ -24,7 +24,8 @@ FormPrimosFactorizacion::FormPrimosFactorizacion(FormLeccion *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormPrimosFactorizacion>()),
       m_leccion(leccion),
-      m_modelo(new ModeloFactores(this))
+      m_modelo(new ModeloFactores(this)),
+      m_timerFactorizando(this)
 {
     ui->setupUi(this);
     traduceVentana(this);

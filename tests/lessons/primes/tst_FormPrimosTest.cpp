@@ -147,6 +147,21 @@ private Q_SLOTS:
         QCOMPARE(m_ventana->cursor().shape(), Qt::ArrowCursor);
     }
 
+    void sinPrimoNoSePierdeNada()
+    {
+        const QString ninguno = u"No se ha encontrado ningún primo"_s;
+        m_numero->setText(u"12 345"_s);
+        m_siguiente->click();
+        QCOMPARE(m_rotulo->text(), ninguno);
+        m_numero->setText(u"91"_s);
+        m_bits->setText(u"1"_s);
+        m_busca->click();
+        QCOMPARE(m_rotulo->text(), ninguno);
+        QCOMPARE(m_numero->text(), u"91"_s);
+        QCOMPARE(m_luz->imagen(), u"SEMAFOROROJO"_s);
+        QCOMPARE(m_ventana->cursor().shape(), Qt::ArrowCursor);
+    }
+
     void elCampoCreceConElNumero()
     {
         control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(2);
