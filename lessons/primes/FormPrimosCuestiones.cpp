@@ -22,6 +22,7 @@ FormPrimosCuestiones::FormPrimosCuestiones(QWidget *padre)
     Aspecto::destaca(ui->lblCuestiones);
     Aspecto::destaca(ui->lblVeredicto, 1.1);
     ui->cmdProblema->setIcon(Icono(u"COMPROBAR"_s));
+    ui->ccrpAniEureka->carga({}, u"EUREKA0"_s);
     ui->LabelEnunciado1->setText(ui->LabelEnunciado1->text() +
                                  QString::number(m_cuestion.digitosPedidos()) +
                                  Traduce(u" dígitos."_s));
