@@ -22,11 +22,12 @@ FormPrimosCuestiones::FormPrimosCuestiones(QWidget *padre)
     Aspecto::destaca(ui->lblCuestiones);
     Aspecto::destaca(ui->lblVeredicto, 1.1);
     ui->cmdProblema->setIcon(Icono(u"COMPROBAR"_s));
+    ui->ccrpAniEureka->carga({}, u"EUREKA0"_s);
     ui->LabelEnunciado1->setText(ui->LabelEnunciado1->text() +
                                  QString::number(m_cuestion.digitosPedidos()) +
                                  Traduce(u" dígitos."_s));
     ui->txtProducto->setReadOnly(true);
-    ponLineasSegunTexto(ui->txtProducto, 2, 6);
+    new LineasSegunTexto(ui->txtProducto, 2, 6);
 
     conecta(ui->cmdProblema, &QPushButton::clicked, this, &FormPrimosCuestiones::cmdProblema_Click);
     for (CampoLargo *campo : m_txtPrimo) {

@@ -24,7 +24,8 @@ FormPrimosFactorizacion::FormPrimosFactorizacion(FormLeccion *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormPrimosFactorizacion>()),
       m_leccion(leccion),
-      m_modelo(new ModeloFactores(this))
+      m_modelo(new ModeloFactores(this)),
+      m_timerFactorizando(this)
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -38,9 +39,9 @@ FormPrimosFactorizacion::FormPrimosFactorizacion(FormLeccion *leccion)
     cabecera->setSectionResizeMode(ModeloFactores::Factor, QHeaderView::Stretch);
     cabecera->setSectionResizeMode(ModeloFactores::Exponente, QHeaderView::ResizeToContents);
     ui->FlexFactores->setTextElideMode(Qt::ElideMiddle);
-    ponLineasSegunTexto(ui->TxtN, 3, 6);
-    ponLineasSegunTexto(ui->txtFactorElegido, 2, 6);
-    ponLineasSegunTexto(ui->txtProductoDeFactores, 2, 8);
+    new LineasSegunTexto(ui->TxtN, 3, 6);
+    new LineasSegunTexto(ui->txtFactorElegido, 2, 6);
+    new LineasSegunTexto(ui->txtProductoDeFactores, 2, 8);
     m_timerFactorizando.setObjectName(u"TimerFactorizando"_s);
     m_timerFactorizando.setInterval(100ms);
     ponBotonEnReposo();

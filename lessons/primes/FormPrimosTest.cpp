@@ -26,7 +26,7 @@ FormPrimosTest::FormPrimosTest(QWidget *leccion)
     ui->imgTestPrimo->setImagen(u"SEMAFOROROJO"_s);
     Aspecto::destaca(ui->lblTest);
     Aspecto::destaca(ui->LabelPrimo);
-    ponLineasSegunTexto(ui->txtNúmero, 6, 14);
+    new LineasSegunTexto(ui->txtNúmero, 6, 14);
 
     conecta(ui->txtNúmero, &CampoLargo::textoCambiado, this, &FormPrimosTest::txtNumero_Change);
     conecta(ui->txtNúmero, &CampoLargo::returnPressed, this,
@@ -49,12 +49,18 @@ void FormPrimosTest::SetSemaforo(bool primo)
     ui->LabelPrimo->setText(veredicto);
 }
 
-/// A number that is prime by the way it was found: green without a test.
-void FormPrimosTest::muestraPrimo(const QString &primo)
+/// A number that is prime by the way it was found: green without a test. Where none was found (the
+/// number was none, or there is no such prime) what stands in the field is not lost.
+bool FormPrimosTest::muestraPrimo(const QString &primo)
 {
+    if (primo.isEmpty()) {
+        ui->LabelPrimo->setText(Traduce(u"No se ha encontrado ningún primo"_s));
+        return false;
+    }
     ui->txtNúmero->setText(primo);
     ui->imgTestPrimo->setImagen(u"SEMAFOROVERDE"_s);
     ponVeredicto(Traduce(u"Es primo"_s));
+    return true;
 }
 
 void FormPrimosTest::ponVeredicto(const QString &texto)
@@ -86,8 +92,9 @@ void FormPrimosTest::cmdEsPrimo_Click()
 void FormPrimosTest::cmdSigPrimo_Click()
 {
     m_leccion->setCursor(Qt::WaitCursor);
-    muestraPrimo(PrimoSiguiente(ui->txtNúmero->text()));
-    ui->txtNumBits->setText(QString::number(NumeroDeBits(ui->txtNúmero->text())));
+    const QString primo = PrimoSiguiente(ui->txtNúmero->text());
+    if (muestraPrimo(primo))
+        ui->txtNumBits->setText(QString::number(NumeroDeBits(primo)));
     m_leccion->unsetCursor();
 }
 

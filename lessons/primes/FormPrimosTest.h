@@ -20,7 +20,7 @@ public:
 
 private:
     void SetSemaforo(bool primo);
-    void muestraPrimo(const QString &primo);
+    bool muestraPrimo(const QString &primo);
     void ponVeredicto(const QString &texto);
 
     void txtNumero_Change();

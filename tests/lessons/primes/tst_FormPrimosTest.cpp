@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -144,6 +145,38 @@ private Q_SLOTS:
         m_numero->setText(u"3"_s);
         m_siguiente->click();
         QCOMPARE(m_ventana->cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void sinPrimoNoSePierdeNada()
+    {
+        const QString ninguno = u"No se ha encontrado ningún primo"_s;
+        m_numero->setText(u"12 345"_s);
+        m_siguiente->click();
+        QCOMPARE(m_rotulo->text(), ninguno);
+        m_numero->setText(u"91"_s);
+        m_bits->setText(u"1"_s);
+        m_busca->click();
+        QCOMPARE(m_rotulo->text(), ninguno);
+        QCOMPARE(m_numero->text(), u"91"_s);
+        QCOMPARE(m_luz->imagen(), u"SEMAFOROROJO"_s);
+        QCOMPARE(m_ventana->cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void elCampoCreceConElNumero()
+    {
+        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(2);
+        m_ventana->resize(900, 600);
+        m_ventana->show();
+        QCOMPARE(m_numero->lineas(), 6);
+        m_numero->setText(QString(800, u'7'));
+        QTRY_VERIFY(m_numero->lineas() > 6 && m_numero->lineas() < 14);
+        const int lineas = m_numero->lineas();
+        m_ventana->resize(700, 600);
+        QTRY_VERIFY(m_numero->lineas() > lineas);
+        m_numero->setText(QString(20'000, u'7'));
+        QTRY_COMPARE(m_numero->lineas(), 14);
+        m_numero->setText(u"7"_s);
+        QTRY_COMPARE(m_numero->lineas(), 6);
     }
 
     void modAlPrincipioEsUnErrorDelSuceso()
