@@ -1,6 +1,7 @@
 #include "numora/Lecciones.h"
 #include "shell/FormLeccion.h"
 #include "shell/FormPrincipal.h"
+#include "shell/ModGlobal.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractButton>
@@ -14,7 +15,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 /// What every lesson owes its users, whatever it teaches: seen on each topic of each window of the
-/// program.
+/// program, in both its languages.
 class TestLecciones : public QObject
 {
     Q_OBJECT
@@ -65,9 +66,16 @@ private Q_SLOTS:
 private:
     void temas()
     {
+        QTest::addColumn<QString>("idioma");
         QTest::addColumn<int>("fila");
         QTest::addColumn<int>("tema");
         QTest::addColumn<int>("pestana");
+        for (const QString &idioma : {IdiomaPropio.toString(), u"English"_s})
+            temas(idioma);
+    }
+
+    void temas(const QString &idioma)
+    {
         for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < m_contenido.lecciones.size();
              ++fila) {
             const Leccion &leccion = leccionDe(fila);
@@ -80,8 +88,9 @@ private:
                     tira->setCurrentIndex(i);
                 const QTabWidget *pestanas = pestanasDe(*ventana);
                 for (int j = 0; j < (pestanas ? pestanas->count() : 1); ++j)
-                    QTest::addRow("%s, topic %d, tab %d", qPrintable(leccion.rotulo), i, j)
-                        << fila << i << j;
+                    QTest::addRow("%s, %s, topic %d, tab %d", qPrintable(idioma),
+                                  qPrintable(leccion.rotulo), i, j)
+                        << idioma << fila << i << j;
             }
         }
     }
@@ -103,6 +112,7 @@ private:
 
     QWidget *abreTema()
     {
+        Idioma() = *static_cast<QString *>(QTest::qData("idioma", qMetaTypeId<QString>()));
         const int fila = *static_cast<int *>(QTest::qData("fila", qMetaTypeId<int>()));
         const int tema = *static_cast<int *>(QTest::qData("tema", qMetaTypeId<int>()));
         const int pestana = *static_cast<int *>(QTest::qData("pestana", qMetaTypeId<int>()));
