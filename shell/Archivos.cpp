@@ -17,7 +17,12 @@ ErrorEjecucion errorDeArchivo(const QFileDevice &archivo, const QString &ruta)
     else if (archivo.error() == QFileDevice::PermissionsError ||
              !QFileInfo(info.absolutePath()).isWritable())
         numero = ErrorEjecucion::PermisoDenegado;
-    return ErrorEjecucion(numero, QDir::toNativeSeparators(ruta) + u'\n' + archivo.errorString());
+    QString detalle = QDir::toNativeSeparators(ruta);
+    // In the system's language, which need not be that of the interface: only where nothing else
+    // tells.
+    if (numero == ErrorEjecucion::ErrorDeArchivo)
+        detalle += u'\n' + archivo.errorString();
+    return ErrorEjecucion(numero, detalle);
 }
 
 namespace {
@@ -45,15 +50,20 @@ void escribeArchivo(const QString &ruta, const QByteArray &contenido, bool priva
 QByteArray leeArchivo(const QString &ruta, qint64 maximo)
 {
     const QFileInfo info(ruta);
+    const QString nombre = QDir::toNativeSeparators(ruta);
     if (!info.exists())
-        throw ErrorEjecucion(ErrorEjecucion::ArchivoNoEncontrado, QDir::toNativeSeparators(ruta));
+        throw ErrorEjecucion(ErrorEjecucion::ArchivoNoEncontrado, nombre);
     if (!info.isReadable())
-        throw ErrorEjecucion(ErrorEjecucion::PermisoDenegado, QDir::toNativeSeparators(ruta));
+        throw ErrorEjecucion(ErrorEjecucion::PermisoDenegado, nombre);
+    if (!info.isFile())
+        throw ErrorEjecucion(ErrorEjecucion::ErrorDeArchivo, nombre);
     QFile archivo(ruta);
-    if (!info.isFile() || !archivo.open(QIODevice::ReadOnly))
+    if (!archivo.open(QIODevice::ReadOnly))
         throw errorDeArchivo(archivo, ruta);
     const QByteArray bytes = archivo.read(maximo + 1);
-    if (bytes.size() > maximo || archivo.error() != QFileDevice::NoError)
+    if (archivo.error() != QFileDevice::NoError)
         throw errorDeArchivo(archivo, ruta);
+    if (bytes.size() > maximo)
+        throw ErrorEjecucion(ErrorEjecucion::ErrorDeArchivo, nombre);
     return bytes;
 }

@@ -111,7 +111,7 @@ QPalette clara()
                    .acento = 0x1f6f8b,
                    .sobreAcento = 0xffffff,
                    .enlace = 0x1a5f9e,
-                   .atenuado = 0x76858d,
+                   .atenuado = 0x61707a,
                    .borde = 0xc3ced5});
 }
 
@@ -122,7 +122,7 @@ QPalette oscura()
                    .alterna = 0x1f262b,
                    .texto = 0xe4eaed,
                    .boton = 0x2c353b,
-                   .acento = 0x2b86a5,
+                   .acento = 0x277c9a,
                    .sobreAcento = 0xffffff,
                    .enlace = 0x7cc4de,
                    .atenuado = 0x8d9ba3,

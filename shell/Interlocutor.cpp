@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QInputDialog>
@@ -40,6 +41,18 @@ QMessageBox::Icon iconoDeCaja(Interlocutor::Icono icono)
     }
     return QMessageBox::NoIcon;
 }
+
+/// Names the kinds of files in Qt's own dialogs, for which it has no Spanish words.
+class TiposDeArchivo : public QFileIconProvider
+{
+public:
+    QString type(const QFileInfo &info) const override
+    {
+        if (info.isDir())
+            return Traduce(u"Carpeta"_s);
+        return (Traduce(u"Archivo"_s) + u' ' + info.suffix()).trimmed();
+    }
+};
 
 /// The extension that a filter such as "Hojas (*.minical)" gives, without its dot.
 QString extension(const QString &filtro)
@@ -119,7 +132,9 @@ Interlocutor::Guardado Interlocutor::preguntaSiGuarda(QWidget *padre, const QStr
 QString Interlocutor::pideArchivoParaAbrir(QWidget *padre, const QString &titulo,
                                            const QString &propuesta, const QStringList &filtros)
 {
+    TiposDeArchivo tipos;
     QFileDialog dialogo(padre, titulo);
+    dialogo.setIconProvider(&tipos);
     dialogo.setFileMode(QFileDialog::ExistingFile);
     prepara(dialogo, propuesta, filtros);
     return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().constFirst() : QString();
@@ -129,7 +144,9 @@ Interlocutor::Archivo Interlocutor::pideArchivoParaGuardar(QWidget *padre, const
                                                            const QString &propuesta,
                                                            const QStringList &filtros)
 {
+    TiposDeArchivo tipos;
     QFileDialog dialogo(padre, titulo);
+    dialogo.setIconProvider(&tipos);
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     prepara(dialogo, propuesta, filtros);
     dialogo.setDefaultSuffix(extension(filtros.value(0)));
@@ -151,11 +168,14 @@ bool Interlocutor::pideImpresora(QWidget *padre, QPrinter &impresora, const QStr
 
 QString Interlocutor::pideCarpeta(QWidget *padre, const QString &pregunta, const QString &inicial)
 {
+    TiposDeArchivo tipos;
     QFileDialog dialogo(padre, Traduce(u"Seleccionar carpeta"_s), rutaExistente(inicial));
     dialogo.setFileMode(QFileDialog::Directory);
     dialogo.setOption(QFileDialog::ShowDirsOnly);
     // The desktop's own dialog has no place for the question.
     dialogo.setOption(QFileDialog::DontUseNativeDialog);
+    dialogo.setIconProvider(&tipos);
+    dialogo.setViewMode(QFileDialog::List); // size and kind of a folder say nothing
     if (auto *rejilla = qobject_cast<QGridLayout *>(dialogo.layout())) {
         auto *rotulo = new QLabel(pregunta, &dialogo);
         rotulo->setTextFormat(Qt::PlainText);

@@ -81,6 +81,8 @@ void NavegadorPagina::ajustaFiguras()
 {
     const qreal hueco = viewport()->width() - 2 * document()->documentMargin() - 1;
     const auto figuras = figurasDe(*document());
+    QTextCursor cursor(document());
+    cursor.beginEditBlock(); // one layout for all of them
     for (const auto &[lugar, formato] : figuras) {
         QTextImageFormat figura = formato;
         if (!figura.hasProperty(AnchoNatural))
@@ -90,11 +92,11 @@ void NavegadorPagina::ajustaFiguras()
             continue;
         figura.setHeight(figura.height() * ancho / figura.width());
         figura.setWidth(ancho);
-        QTextCursor cursor(document());
         cursor.setPosition(lugar);
         cursor.setPosition(lugar + 1, QTextCursor::KeepAnchor);
         cursor.setCharFormat(figura);
     }
+    cursor.endEditBlock();
 }
 
 QVariant NavegadorPagina::loadResource(int tipo, const QUrl &nombre)

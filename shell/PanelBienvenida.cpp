@@ -20,7 +20,7 @@ PanelBienvenida::PanelBienvenida(MenuLecciones *lecciones, QWidget *padre)
     titulo->setWordWrap(true);
     Aspecto::destaca(titulo, 2);
     auto *invitacion = new QLabel(
-        Traduce(u"Elige una lección: cada una trae una página para leer, herramientas para "
+        Traduce(u"Elija una lección: cada una trae una página para leer, herramientas para "
                 "experimentar y preguntas que el programa corrige."_s),
         m_contenido);
     invitacion->setObjectName(u"lblInvitacion"_s);

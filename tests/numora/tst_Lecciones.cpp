@@ -16,7 +16,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 /// What every lesson owes its users, whatever it teaches: seen on each topic of each window of the
-/// program.
+/// program, in both its languages.
 class TestLecciones : public QObject
 {
     Q_OBJECT
@@ -101,9 +101,16 @@ private:
     void temas()
     {
         preparaEstudiante();
+        QTest::addColumn<QString>("idioma");
         QTest::addColumn<int>("fila");
         QTest::addColumn<int>("tema");
         QTest::addColumn<int>("pestana");
+        for (const QString &idioma : {IdiomaPropio.toString(), u"English"_s})
+            temas(idioma);
+    }
+
+    void temas(const QString &idioma)
+    {
         for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < m_contenido.lecciones.size();
              ++fila) {
             const Leccion &leccion = leccionDe(fila);
@@ -116,8 +123,9 @@ private:
                     tira->setCurrentIndex(i);
                 const QTabWidget *pestanas = pestanasDe(*ventana);
                 for (int j = 0; j < (pestanas ? pestanas->count() : 1); ++j)
-                    QTest::addRow("%s, topic %d, tab %d", qPrintable(leccion.rotulo), i, j)
-                        << fila << i << j;
+                    QTest::addRow("%s, %s, topic %d, tab %d", qPrintable(idioma),
+                                  qPrintable(leccion.rotulo), i, j)
+                        << idioma << fila << i << j;
             }
         }
     }
@@ -139,6 +147,7 @@ private:
 
     QWidget *abreTema()
     {
+        Idioma() = *static_cast<QString *>(QTest::qData("idioma", qMetaTypeId<QString>()));
         const int fila = *static_cast<int *>(QTest::qData("fila", qMetaTypeId<int>()));
         const int tema = *static_cast<int *>(QTest::qData("tema", qMetaTypeId<int>()));
         const int pestana = *static_cast<int *>(QTest::qData("pestana", qMetaTypeId<int>()));

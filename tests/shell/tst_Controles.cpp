@@ -1,8 +1,10 @@
+#include "shell/Aspecto.h"
 #include "shell/CampoLargo.h"
 #include "shell/FormAcercaDe.h"
 #include "shell/ModGlobal.h"
 #include "shell/Rejilla.h"
 #include "shell/ReproductorAVI.h"
+#include "tests/shell/support/Contraste.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QClipboard>
@@ -14,6 +16,8 @@
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
+
+Q_DECLARE_METATYPE(Aspecto::Tema)
 
 class TestControles : public QObject
 {
@@ -98,6 +102,31 @@ private Q_SLOTS:
         animacion.reproduce(ReproductorAVI::Modo::UnaVez);
         QVERIFY(fin.wait(15000));
         QCOMPARE(animacion.estado(), ReproductorAVI::Parado);
+    }
+
+    void losTextosSeLeen_data()
+    {
+        QTest::addColumn<Aspecto::Tema>("tema");
+        QTest::newRow("light") << Aspecto::Tema::Claro;
+        QTest::newRow("dark") << Aspecto::Tema::Oscuro;
+    }
+    void losTextosSeLeen()
+    {
+        QFETCH(Aspecto::Tema, tema);
+        Aspecto::aplica(tema);
+        const QPalette p = QApplication::palette();
+        const QList<QColor> fondos{p.window().color(), p.base().color(), p.alternateBase().color()};
+        const QList<QColor> textos{p.text().color(), p.placeholderText().color(),
+                                   p.link().color(), Aspecto::acento(),
+                                   Aspecto::exito(), Aspecto::error()};
+        for (const QColor &fondo : fondos) {
+            for (const QColor &texto : textos)
+                QVERIFY2(contraste(fondo, texto) >= 4.5,
+                         qPrintable(texto.name() + u" on "_s + fondo.name()));
+        }
+        QVERIFY(contraste(p.button().color(), p.buttonText().color()) >= 4.5);
+        QVERIFY(contraste(p.highlight().color(), p.highlightedText().color()) >= 4.5);
+        Aspecto::aplica(Aspecto::Tema::Sistema);
     }
 
     void acercaDe()

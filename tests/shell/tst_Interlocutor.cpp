@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QTreeView>
 #include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
@@ -149,6 +150,11 @@ private Q_SLOTS:
         QVERIFY(archivo.open(QIODevice::WriteOnly));
         enElDialogo<QFileDialog>([&](QFileDialog &dialogo) {
             QCOMPARE(dialogo.directory(), QDir(carpeta.path()));
+            auto *lista = control<QTreeView>(&dialogo, u"treeView"_s);
+            const auto tipo = [lista] {
+                return lista->model()->index(0, 2, lista->rootIndex()).data().toString();
+            };
+            QTRY_COMPARE(tipo(), u"Archivo uno"_s); // the model reads the folder in its own time
             auto *campo = control<QLineEdit>(&dialogo, u"fileNameEdit"_s);
             campo->setText(u"hoja.uno"_s);
             QTest::keyClick(campo, Qt::Key_Return);

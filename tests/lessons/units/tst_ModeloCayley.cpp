@@ -1,30 +1,14 @@
 #include "bignum/ErrorEjecucion.h"
 #include "lessons/units/ModeloCayley.h"
+#include "tests/shell/support/Contraste.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
-#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 using Operacion = ModeloCayley::Operacion;
 
 namespace {
-
-/// Relative luminance and contrast as the Web Content Accessibility Guidelines 2.1 define them.
-double luminancia(const QColor &color)
-{
-    const auto lineal = [](double c) {
-        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * lineal(color.redF()) + 0.7152 * lineal(color.greenF()) +
-           0.0722 * lineal(color.blueF());
-}
-
-double contraste(const QColor &a, const QColor &b)
-{
-    const double la = luminancia(a), lb = luminancia(b);
-    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
-}
 
 QColor color(const QModelIndex &indice, int rol)
 {
