@@ -35,7 +35,12 @@ FormCalc::FormCalc(QWidget *padre) : FormLeccion(u"MiniCal.html"_s, padre)
     alCambiarHoja();
 }
 
-FormCalc::~FormCalc() = default;
+FormCalc::~FormCalc()
+{
+    // A cell that is being edited hands its text to the sheet as the window goes: not later, when
+    // the sheet is no more.
+    hide();
+}
 
 void FormCalc::showEvent(QShowEvent *suceso)
 {
@@ -179,7 +184,7 @@ QAction *FormCalc::agregaOrden(const Orden &orden)
 
 QAbstractButton *FormCalc::botonDeParada() const
 {
-    return m_cmdDetener;
+    return m_aviso->isHidden() ? nullptr : m_cmdDetener;
 }
 
 void FormCalc::Toolbar_ButtonClick(const Orden &orden)

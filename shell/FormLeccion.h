@@ -54,7 +54,8 @@ protected:
     /// The first topic of every lesson: its page of introduction.
     void agregaIntroduccion(const QString &rotulo);
 
-    /// The button that stops the run in progress by a click; the Escape key presses it.
+    /// The button that stops the run in progress by a click, which the Escape key presses; null
+    /// where there is nothing to stop.
     virtual QAbstractButton *botonDeParada() const { return nullptr; }
 
     /// Whether the window may be closed now (unsaved work and the like).
