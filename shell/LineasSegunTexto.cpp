@@ -1,4 +1,4 @@
-#include "lessons/primes/LineasSegunTexto.h"
+#include "shell/LineasSegunTexto.h"
 
 #include "shell/CampoLargo.h"
 

@@ -1,11 +1,11 @@
 #include "lessons/primes/FormPrimosCuestiones.h"
 
 #include "bignum/ModBignum.h"
-#include "lessons/primes/LineasSegunTexto.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
 #include "shell/Interlocutor.h"
+#include "shell/LineasSegunTexto.h"
 #include "shell/ModGlobal.h"
 #include "shell/Textos.h"
 #include "shell/Veredicto.h"

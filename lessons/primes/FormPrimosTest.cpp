@@ -1,10 +1,10 @@
 #include "lessons/primes/FormPrimosTest.h"
 
 #include "bignum/ModBignum.h"
-#include "lessons/primes/LineasSegunTexto.h"
 #include "shell/Aspecto.h"
 #include "shell/Evento.h"
 #include "shell/Imagenes.h"
+#include "shell/LineasSegunTexto.h"
 #include "shell/ModGlobal.h"
 #include "shell/Textos.h"
 #include "ui_FormPrimosTest.h"
