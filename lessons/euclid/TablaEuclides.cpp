@@ -94,5 +94,5 @@ QString TablaEuclides::bezout() const
     if (const auto fila = filaDelMcd())
         c = {m_divisiones[*fila].coef1, m_divisiones[*fila].coef2};
     return factor(c.primero) + u" · "_s + factor(m_dividendo) + u" + "_s + factor(c.segundo) +
-           u" · "_s + factor(m_divisor) + u" = "_s + formatoEntero(m_mcd);
+           u" · "_s + factor(m_divisor) + u" = "_s + m_mcd.texto();
 }

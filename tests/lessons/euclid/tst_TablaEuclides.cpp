@@ -72,7 +72,8 @@ private Q_SLOTS:
              "10 1 10 0 1000 -1234567"_s,
              u"(-97) · 1.234.567 + 119.753 · 1.000 = 1"_s);
         fila("plain number", 5000, 0, Reducidos, QString(), u"El MCD es 5000"_s);
-        fila("divisor 0", 240, 0, Estandar, QString(), u"1 · 240 + 0 · 0 = 240"_s);
+        fila("divisor 0, a plain divisor of all", 5000, 0, Estandar, QString(),
+             u"1 · 5.000 + 0 · 0 = 5000"_s);
         const QString consejo = u"El divisor tiene que ser mayor que 0."_s;
         fila("two zeros", 0, 0, Estandar, QString(), consejo);
         fila("negative divisor", 240, -46, Estandar, QString(), consejo);
