@@ -63,7 +63,7 @@ void FormFibonacciIdentidades::cmdProbar_Click()
     m_identidades = pruebaIdentidades(*m, *n);
     QList<QStringList> filas;
     for (const IdentidadProbada &identidad : std::as_const(m_identidades)) {
-        filas << QStringList{Traduce(identidad.nombre), identidad.formula,
+        filas << QStringList{Traduce(identidad.nombre), Traduce(identidad.formula),
                              identidad.seCumple() ? Traduce(u"✓ Sí"_s) : Traduce(u"✗ No"_s),
                              abreviado(identidad.izquierda), abreviado(identidad.derecha)};
     }
