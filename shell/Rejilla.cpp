@@ -34,42 +34,64 @@ void Rejilla::ponTextoVacio(const QString &texto)
 
 QString Rejilla::seleccion(FormaDeCopia forma) const
 {
-    if (!model())
+    if (!model() || model()->rowCount() == 0)
         return {};
-    QItemSelectionRange rango;
-    if (selectionModel() && !selectionModel()->selection().isEmpty())
-        rango = selectionModel()->selection().constFirst();
-    const bool todo = !rango.isValid() || rango.width() * rango.height() == 1;
-    if (todo) {
-        rango =
-            QItemSelectionRange(model()->index(0, 0), model()->index(model()->rowCount() - 1,
-                                                                     model()->columnCount() - 1));
-    }
-    QList<QStringList> filas;
+    QItemSelectionRange rango = elegido();
+    const bool todo = !rango.isValid() || (rango.width() == 1 && rango.height() == 1);
+    if (todo)
+        rango = contenido();
+    EscritorDeRejilla escritor(forma, rango.width() + (m_rotulosDeFila ? 1 : 0),
+                               QLocale().decimalPoint() == u","_s);
     const bool columnasEnteras = todo || rango.height() == model()->rowCount();
-    if (columnasEnteras && !horizontalHeader()->isHidden()) {
-        QStringList cabecera(m_rotulosDeFila ? 1 : 0);
-        for (int c = rango.left(); c <= rango.right(); ++c)
-            cabecera << model()->headerData(c, Qt::Horizontal).toString();
-        filas << cabecera;
-    }
-    for (int f = rango.top(); f <= rango.bottom(); ++f) {
-        QStringList fila;
-        if (m_rotulosDeFila)
-            fila << model()->headerData(f, Qt::Vertical).toString();
-        for (int c = rango.left(); c <= rango.right(); ++c)
-            fila << model()->index(f, c).data().toString();
-        filas << fila;
-    }
-    // Of a grid to write in, the empty rows at its end are no contents.
-    while (todo && filas.size() > 1 && filas.constLast().join(QString()).isEmpty())
-        filas.removeLast();
-    return textoDeRejilla(filas, forma, QLocale().decimalPoint() == u","_s);
+    if (columnasEnteras && !horizontalHeader()->isHidden())
+        escritor.agrega(cabecera(rango));
+    for (int f = rango.top(); f <= rango.bottom(); ++f)
+        escritor.agrega(fila(f, rango));
+    return escritor.termina();
+}
+
+/// The selected cells; not valid when there are none.
+QItemSelectionRange Rejilla::elegido() const
+{
+    return selectionModel() ? selectionModel()->selection().value(0) : QItemSelectionRange();
+}
+
+/// All cells; of a grid to write in, the empty rows at its end are no contents.
+QItemSelectionRange Rejilla::contenido() const
+{
+    const auto hasta = [this](int ultima) {
+        return QItemSelectionRange(model()->index(0, 0),
+                                   model()->index(ultima, model()->columnCount() - 1));
+    };
+    int ultima = model()->rowCount() - 1;
+    while (ultima > 0 && fila(ultima, hasta(ultima)).join(QString()).isEmpty())
+        --ultima;
+    return hasta(ultima);
+}
+
+QStringList Rejilla::cabecera(const QItemSelectionRange &rango) const
+{
+    QStringList celdas(m_rotulosDeFila ? 1 : 0);
+    for (int c = rango.left(); c <= rango.right(); ++c)
+        celdas << model()->headerData(c, Qt::Horizontal).toString();
+    return celdas;
+}
+
+QStringList Rejilla::fila(int numero, const QItemSelectionRange &rango) const
+{
+    QStringList celdas;
+    if (m_rotulosDeFila)
+        celdas << model()->headerData(numero, Qt::Vertical).toString();
+    for (int c = rango.left(); c <= rango.right(); ++c)
+        celdas << model()->index(numero, c).data().toString();
+    return celdas;
 }
 
 void Rejilla::copia(FormaDeCopia forma) const
 {
-    QApplication::clipboard()->setText(seleccion(forma));
+    const QString texto = seleccion(forma);
+    if (!texto.isEmpty())
+        QApplication::clipboard()->setText(texto);
 }
 
 void Rejilla::keyPressEvent(QKeyEvent *suceso)
@@ -78,10 +100,9 @@ void Rejilla::keyPressEvent(QKeyEvent *suceso)
         QTableView::keyPressEvent(suceso);
         return;
     }
-    const auto elegidas =
-        selectionModel() ? selectionModel()->selectedIndexes() : QModelIndexList();
-    if (elegidas.size() == 1)
-        QApplication::clipboard()->setText(elegidas.constFirst().data().toString());
+    const QItemSelectionRange rango = elegido();
+    if (rango.isValid() && rango.width() == 1 && rango.height() == 1)
+        QApplication::clipboard()->setText(rango.topLeft().data().toString());
     else
         copia(FormaDeCopia::Texto);
 }

@@ -2,6 +2,7 @@
 
 #include "shell/TextoDeRejilla.h"
 
+#include <QItemSelection>
 #include <QTableView>
 
 /// The grid of every lesson: a table view whose cells can be copied by Ctrl+C and from its context
@@ -20,7 +21,7 @@ public:
     /// Whether copies bear the labels of the rows in front; not so at first.
     void ponRotulosDeFilaEnCopia(bool con) { m_rotulosDeFila = con; }
 
-    /// The selected cells (all when none or one is selected), in their form.
+    /// The selected cells (all when none or one is selected), in their form; empty without rows.
     QString seleccion(FormaDeCopia forma) const;
 
 protected:
@@ -29,6 +30,10 @@ protected:
     void paintEvent(QPaintEvent *suceso) override;
 
 private:
+    QItemSelectionRange elegido() const;
+    QItemSelectionRange contenido() const;
+    QStringList cabecera(const QItemSelectionRange &rango) const;
+    QStringList fila(int numero, const QItemSelectionRange &rango) const;
     void copia(FormaDeCopia forma) const;
 
     QString m_textoVacio;

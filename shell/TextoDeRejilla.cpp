@@ -1,6 +1,6 @@
 #include "shell/TextoDeRejilla.h"
 
-#include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,38 +55,53 @@ QString celdaDeTeX(const QString &celda)
 }
 
 template <typename Celda>
-QString lineas(const QList<QStringList> &filas, const QString &separador, const QString &final,
-               Celda celda)
+void agregaLinea(QString &texto, const QStringList &fila, QStringView separador, QStringView final,
+                 Celda celda)
 {
-    QString s;
-    for (const QStringList &fila : filas) {
-        QStringList celdas;
-        std::transform(fila.begin(), fila.end(), std::back_inserter(celdas), celda);
-        s += celdas.join(separador) + final;
+    for (qsizetype i = 0; i < fila.size(); ++i) {
+        if (i > 0)
+            texto += separador;
+        texto += celda(fila[i]);
     }
-    return s;
-}
-
-QString tablaTeX(const QList<QStringList> &filas)
-{
-    const qsizetype columnas = filas.isEmpty() ? 0 : filas.constFirst().size();
-    return u"\\begin{tabular}{%1}\n"_s.arg(QString(columnas, u'r')) +
-           lineas(filas, u" & "_s, u" \\\\\n"_s, celdaDeTeX) + u"\\end{tabular}\n"_s;
+    texto += final;
 }
 
 } // namespace
 
+EscritorDeRejilla::EscritorDeRejilla(FormaDeCopia forma, qsizetype columnas, bool comaDecimal)
+    : m_forma(forma), m_coma(comaDecimal ? u';' : u',')
+{
+    if (m_forma == FormaDeCopia::TeX)
+        m_texto = u"\\begin{tabular}{%1}\n"_s.arg(QString(columnas, u'r'));
+}
+
+void EscritorDeRejilla::agrega(const QStringList &fila)
+{
+    switch (m_forma) {
+    case FormaDeCopia::Texto:
+        agregaLinea(m_texto, fila, u"\t", u"\n", celdaDeTexto);
+        break;
+    case FormaDeCopia::CSV:
+        agregaLinea(m_texto, fila, QStringView(&m_coma, 1), u"\r\n",
+                    [this](const QString &celda) { return celdaDeCSV(celda, m_coma); });
+        break;
+    case FormaDeCopia::TeX:
+        agregaLinea(m_texto, fila, u" & ", u" \\\\\n", celdaDeTeX);
+        break;
+    }
+}
+
+QString EscritorDeRejilla::termina()
+{
+    if (m_forma == FormaDeCopia::TeX)
+        m_texto += u"\\end{tabular}\n"_s;
+    return std::move(m_texto);
+}
+
 QString textoDeRejilla(const QList<QStringList> &filas, FormaDeCopia forma, bool comaDecimal)
 {
-    const QChar coma = comaDecimal ? u';' : u',';
-    switch (forma) {
-    case FormaDeCopia::Texto:
-        return lineas(filas, u"\t"_s, u"\n"_s, celdaDeTexto);
-    case FormaDeCopia::CSV:
-        return lineas(filas, coma, u"\r\n"_s,
-                      [coma](const QString &celda) { return celdaDeCSV(celda, coma); });
-    case FormaDeCopia::TeX:
-        return tablaTeX(filas);
-    }
-    return {};
+    EscritorDeRejilla escritor(forma, filas.value(0).size(), comaDecimal);
+    for (const QStringList &fila : filas)
+        escritor.agrega(fila);
+    return escritor.termina();
 }

@@ -79,6 +79,14 @@ private Q_SLOTS:
                                          QItemSelectionModel::ClearAndSelect);
         QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QApplication::clipboard()->text(), u"0\t1\n"_s);
+        // The rows that are still to be written are no contents; nothing at all is not copied.
+        modelo.insertRows(2, 5);
+        rejilla.clearSelection();
+        QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), u"n\tf(n)\n0\t1\n10\t11\n"_s);
+        modelo.removeRows(0, modelo.rowCount());
+        QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), u"n\tf(n)\n0\t1\n10\t11\n"_s);
     }
 
     void animacionSinArchivo()
