@@ -12,8 +12,8 @@ scripts/fuzz.sh "${NUMORA_FUZZ_SECONDS:-5}"
 
 cmake --preset asan
 cmake --build --preset asan
-ctest --preset asan
+ctest --preset asan --parallel "$(nproc)"
 
 cmake --preset ci
 cmake --build --preset ci
-ctest --preset ci
+ctest --preset ci --parallel "$(nproc)"

@@ -5,6 +5,8 @@ function(numora_test NAME)
     add_executable(${NAME} ${ARG_UNPARSED_ARGUMENTS})
     set_target_properties(${NAME} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_link_libraries(${NAME} PRIVATE numora_qt_options Qt6::Test ${ARG_LIBS})
+    # Compiled once and run for a second: an optimizer would cost more than it saves.
+    target_compile_options(${NAME} PRIVATE $<$<CONFIG:Release>:-Og>)
     if("numora_test_support" IN_LIST ARG_LIBS)
         numora_precompile(${NAME})
     endif()
