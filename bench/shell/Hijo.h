@@ -10,7 +10,8 @@ int desnudo(int argc, char *argv[]);
 /// The program as main() starts it, up to the first paint of the splash.
 int presentacion(int argc, char *argv[]);
 
-/// Opens each lesson twice; prints the slowest second opening in milliseconds.
+/// Opens each lesson once and five times more; prints the median of those five for the slowest
+/// lesson, in milliseconds.
 int lecciones(int argc, char *argv[]);
 
 /// Opens every lesson; prints the resident memory in KiB.
