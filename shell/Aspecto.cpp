@@ -7,6 +7,7 @@
 #include <QStyleFactory>
 #include <QStyleOptionButton>
 #include <algorithm>
+#include <initializer_list>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -42,16 +43,30 @@ public:
     void drawPrimitive(PrimitiveElement elemento, const QStyleOption *opcion, QPainter *pintor,
                        const QWidget *control) const override
     {
-        // Fusion outlines its marks darker than the window, which nobody sees on a dark one.
-        const bool marca = elemento == PE_IndicatorRadioButton || elemento == PE_IndicatorCheckBox;
-        const auto *boton = qstyleoption_cast<const QStyleOptionButton *>(opcion);
-        if (!marca || !boton || !Aspecto::esOscuro()) {
+        const bool hecho =
+            Aspecto::esOscuro() &&
+            (dibujaAclarado<QStyleOptionButton>({PE_IndicatorRadioButton, PE_IndicatorCheckBox},
+                                                elemento, opcion, pintor, control) ||
+             dibujaAclarado<QStyleOptionFrame>({PE_PanelLineEdit, PE_FrameLineEdit, PE_Frame},
+                                               elemento, opcion, pintor, control));
+        if (!hecho)
             QProxyStyle::drawPrimitive(elemento, opcion, pintor, control);
-            return;
-        }
-        QStyleOptionButton aclarada(*boton);
+    }
+
+private:
+    /// Fusion outlines marks, fields and frames darker than the window, which nobody sees on a dark
+    /// one. Draws those of `cuales` with an outline that can be seen; false for any other element.
+    template <typename Opcion>
+    bool dibujaAclarado(std::initializer_list<PrimitiveElement> cuales, PrimitiveElement elemento,
+                        const QStyleOption *opcion, QPainter *pintor, const QWidget *control) const
+    {
+        const auto *propia = qstyleoption_cast<const Opcion *>(opcion);
+        if (!propia || std::find(cuales.begin(), cuales.end(), elemento) == cuales.end())
+            return false;
+        Opcion aclarada(*propia);
         aclarada.palette.setColor(QPalette::Window, Aspecto::atenuado());
         QProxyStyle::drawPrimitive(elemento, &aclarada, pintor, control);
+        return true;
     }
 };
 
