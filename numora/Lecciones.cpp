@@ -56,9 +56,10 @@ Contenido contenidoDelPrograma()
         {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>,
          u"La función de Ackermann, los números del granizo y los capicúas."_s}};
     contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
-    contenido.escenas = escenasFibonacci(0) + escenasEuclides(1) + escenasPrimos(2) +
-                        escenasUnidades(3) + escenasRSA(4) + escenasTCR(5) + escenasRecursion1(6) +
-                        escenasRecursion2(7) + escenasRecursion3(8) +
-                        escenasMiniCal(FormPrincipal::FilaHojaDeCalculo);
+    contenido.escenas = [] {
+        return escenasFibonacci(0) + escenasEuclides(1) + escenasPrimos(2) + escenasUnidades(3) +
+               escenasRSA(4) + escenasTCR(5) + escenasRecursion1(6) + escenasRecursion2(7) +
+               escenasRecursion3(8) + escenasMiniCal(FormPrincipal::FilaHojaDeCalculo);
+    };
     return contenido;
 }

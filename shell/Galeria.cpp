@@ -79,7 +79,8 @@ public:
         retrata(*acercaDe, u"acercade"_s);
         acercaDe->close();
         retrata(m_principal, u"principal"_s);
-        for (const Escena &escena : m_contenido.escenas)
+        const QList<Escena> escenas = m_contenido.escenas();
+        for (const Escena &escena : escenas)
             retrata(escena);
         return m_bien;
     }

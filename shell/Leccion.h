@@ -47,5 +47,7 @@ struct Contenido
 {
     QList<Leccion> lecciones; ///< the rows of the menu, top to bottom
     Leccion hojaDeCalculo;
-    QList<Escena> escenas;
+    /// Gives the scenes of the gallery. They are made when it asks for them: some name the user,
+    /// and the settings that they look into are not the user's there.
+    std::function<QList<Escena>()> escenas;
 };

@@ -54,6 +54,29 @@ private Q_SLOTS:
         QCOMPARE(programa.exitStatus(), QProcess::CrashExit); // by the signal, not before it
     }
 
+    /// Not even where they name a folder that is gone.
+    void laGaleriaNoTocaLosAjustes()
+    {
+        const QTemporaryDir ajustes, imagenes, temporales;
+        QVERIFY(QDir(ajustes.path()).mkdir(u"Numora"_s));
+        QFile archivo(ajustes.filePath(u"Numora/Numora.ini"_s));
+        const QByteArray contenido("[Programa]\nCarpeta=/no/hay\n");
+        QVERIFY(archivo.open(QIODevice::ReadWrite));
+        archivo.write(contenido);
+        archivo.flush();
+        m_entorno.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        m_entorno.insert(u"XDG_CONFIG_HOME"_s, ajustes.path());
+        m_entorno.insert(u"TMPDIR"_s, temporales.path());
+        QProcess programa;
+        arranca(programa, {u"--galeria"_s, imagenes.path()});
+        QTRY_VERIFY_WITH_TIMEOUT(!QDir(imagenes.path()).isEmpty(), 60'000);
+        programa.terminate();
+        QVERIFY(programa.waitForFinished());
+        archivo.seek(0);
+        QCOMPARE(archivo.readAll(), contenido);
+        QCOMPARE(QDir(ajustes.filePath(u"Numora"_s)).entryList(QDir::Files).size(), 1);
+    }
+
 private:
     void arranca(QProcess &programa, const QStringList &opciones)
     {
