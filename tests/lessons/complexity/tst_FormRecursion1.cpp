@@ -11,7 +11,6 @@
 #include <QRegularExpression>
 #include <QSlider>
 #include <QSpinBox>
-#include <QTabBar>
 #include <QTableView>
 #include <QTimer>
 
@@ -32,11 +31,7 @@ private Q_SLOTS:
 
     void alAbrir()
     {
-        QStringList temas;
-        const auto *tsTema = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
-        for (int i = 0; i < tsTema->count(); ++i)
-            temas << tsTema->tabText(i);
-        QCOMPARE(temas.join(u'|'),
+        QCOMPARE(rotulosDeTemas(m_ventana.get()),
                  u"Introducción|Fibonacci|Árbol de llamadas|Torres de Hanói|Cuestiones"_s);
         QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\Recursión1.html"_s));
     }

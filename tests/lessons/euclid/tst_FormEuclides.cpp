@@ -60,14 +60,8 @@ private Q_SLOTS:
 
     void alAbrir()
     {
-        const auto *temas = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
-        QStringList claves, rotulos;
-        for (int i = 0; i < temas->count(); ++i) {
-            claves << temas->tabData(i).toString();
-            rotulos << temas->tabText(i);
-        }
-        QCOMPARE(claves.join(u' '), u"intro euclides diofantica cuestiones"_s);
-        QCOMPARE(rotulos.join(u'|'),
+        QCOMPARE(clavesDeTemas(m_ventana.get()), u"intro euclides diofantica cuestiones"_s);
+        QCOMPARE(rotulosDeTemas(m_ventana.get()),
                  u"Introducción|Algoritmo de Euclides|Ecuación diofántica|Cuestiones"_s);
         QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\Euclides.html"_s));
         QCOMPARE(cabecera(m_rejilla->model()).join(u'|'),

@@ -36,11 +36,7 @@ private Q_SLOTS:
 
     void alAbrir()
     {
-        QStringList temas;
-        const auto *tsTema = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
-        for (int i = 0; i < tsTema->count(); ++i)
-            temas << tsTema->tabText(i);
-        QCOMPARE(temas.join(u'|'), u"Función|Representación|Valores|Cuestiones"_s);
+        QCOMPARE(rotulosDeTemas(m_ventana.get()), u"Función|Representación|Valores|Cuestiones"_s);
         QCOMPARE(m_valores->model()->rowCount(), 0);
         QCOMPARE(m_valores->toolTip(), u"Pulse para copiar un valor"_s);
         QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\Recursión2.html"_s));

@@ -38,14 +38,8 @@ private Q_SLOTS:
 
     void alAbrir()
     {
-        const auto *temas = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
-        QStringList claves, rotulos;
-        for (int i = 0; i < temas->count(); ++i) {
-            claves << temas->tabData(i).toString();
-            rotulos << temas->tabText(i);
-        }
-        QCOMPARE(claves.join(u' '), u"intro unidades cayley grandes cuestiones"_s);
-        QCOMPARE(rotulos.join(u'|'),
+        QCOMPARE(clavesDeTemas(m_ventana.get()), u"intro unidades cayley grandes cuestiones"_s);
+        QCOMPARE(rotulosDeTemas(m_ventana.get()),
                  u"Introducción|Unidades|Tabla de Cayley|Números grandes|Cuestiones"_s);
         QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\Unidades.html"_s));
         QCOMPARE(filas(u"FlexUnidades"_s),

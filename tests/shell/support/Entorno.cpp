@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QPrinter>
 #include <QSettings>
+#include <QTabBar>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
@@ -151,4 +152,22 @@ Grabadora &Entorno::grabadora()
 QString Entorno::carpetaDeTrabajo()
 {
     return QStringLiteral(CARPETA_DE_TRABAJO);
+}
+
+QString rotulosDeTemas(const QWidget *ventana)
+{
+    const auto *temas = control<QTabBar>(ventana, u"tsTema"_s);
+    QStringList rotulos;
+    for (int i = 0; i < temas->count(); ++i)
+        rotulos << temas->tabText(i);
+    return rotulos.join(u'|');
+}
+
+QString clavesDeTemas(const QWidget *ventana)
+{
+    const auto *temas = control<QTabBar>(ventana, u"tsTema"_s);
+    QStringList claves;
+    for (int i = 0; i < temas->count(); ++i)
+        claves << temas->tabData(i).toString();
+    return claves.join(u' ');
 }

@@ -76,6 +76,11 @@ Control *control(const QObject *ventana, const QString &nombre)
     return hallado;
 }
 
+/// The captions of a lesson's topics, in their order, between bars.
+QString rotulosDeTemas(const QWidget *ventana);
+/// Their keys, between blanks.
+QString clavesDeTemas(const QWidget *ventana);
+
 /// main() of a test of windows.
 #define NUMORA_TEST_MAIN(Clase)                                                                    \
     int main(int argc, char *argv[])                                                               \
