@@ -3,6 +3,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
+#include "shell/core/Traduccion.h"
 #include "shell/core/system/InstanciaUnica.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
