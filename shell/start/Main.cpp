@@ -35,6 +35,13 @@ void avisaDeCota(const QString &cota)
 
 } // namespace
 
+void presentaPrograma(const QString &version)
+{
+    QCoreApplication::setApplicationName(u"Numora"_s);
+    QCoreApplication::setApplicationVersion(version);
+    QGuiApplication::setDesktopFileName(u"numora"_s);
+}
+
 QString idiomaDeLinea(const QString &lineaDeOrdenes)
 {
     if (!lineaDeOrdenes.contains(u"-i:"_s))
