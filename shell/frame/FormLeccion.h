@@ -33,6 +33,9 @@ public:
     /// Closes the window as its close button would.
     void cierra();
 
+    /// Closes it without asking, because the user has been asked or cannot be.
+    void cierraSinPreguntar();
+
     /// Stops the run in progress as its stop button would; nothing without one.
     void detenCorrida();
 
@@ -91,5 +94,6 @@ private:
     bool m_descargada = false;
     bool m_cierrePermitido = false;
     bool m_enCierre = false;
+    bool m_preguntando = false;
     TareasDeVentana m_tareas{this, m_parada};
 };
