@@ -107,6 +107,32 @@ private Q_SLOTS:
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"HO"_s);
     }
 
+    /// Arrows and Enter do; the focus on its way through the window does not.
+    void unFocoQueLlegaNoElige()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nhola\r\n1\r\n");
+        m_yo->escribe(u"eva/RSA1.msg"_s, "luis\r\nhola\r\n1\r\n");
+        preparaBuzon();
+        m_ventana->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
+        escribeMensaje({}, u"a medias"_s);
+        auto *lista = control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s);
+        for (const auto motivo :
+             {Qt::TabFocusReason, Qt::BacktabFocusReason, Qt::OtherFocusReason}) {
+            lista->setFocus(motivo);
+            QVERIFY(lista->hasFocus());
+            QCOMPARE(rotulo(u"LabelTexto"_s), u"Mensaje"_s);
+            QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
+            area(u"txtDestTextoOriginal"_s)->setFocus();
+            boton(u"revisar"_s)->click();
+        }
+        lista->setFocus();
+        QTest::keyClick(lista, Qt::Key_Return);
+        QCOMPARE(rotulo(u"LabelTexto"_s), u"Mensaje para ana"_s);
+        QTest::keyClick(lista, Qt::Key_Down);
+        QCOMPARE(rotulo(u"LabelTexto"_s), u"Mensaje para eva"_s);
+    }
+
     void laClavePropiaVuelve()
     {
         m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
