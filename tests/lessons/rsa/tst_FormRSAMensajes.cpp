@@ -147,6 +147,45 @@ private Q_SLOTS:
         eligeUsuario(u"luis"_s);
         m_ventana.reset();
         QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("t=26829\r\n"));
+        QVERIFY(!QFile::exists(m_yo->ficheroPrivado() + u".propia"_s));
+    }
+
+    /// The program is gone between two writings: what it leaves behind is put in its place.
+    void laClavePropiaSobreviveAlPrograma()
+    {
+        preparaBuzon();
+        const QByteArray propia = Estudiante::lee(m_yo->ficheroPrivado());
+        for (const QString &usuario : {u"ana"_s, u"eva"_s})
+            eligeUsuario(usuario);
+        const QString copia = m_yo->ficheroPrivado() + u".propia"_s;
+        QCOMPARE(QFileInfo(copia).permissions() & (QFile::ReadGroup | QFile::ReadOther),
+                 QFile::Permissions());
+        const QByteArray ajena = Estudiante::lee(m_yo->ficheroPrivado());
+        QVERIFY(ajena.contains("q(1)=\r\n"));
+        QVERIFY(QFile::copy(copia, copia + u".aparte"_s));
+        cierra();
+        QVERIFY(QFile::rename(copia + u".aparte"_s, copia));
+        escribeArchivo(m_yo->ficheroPrivado(), ajena);
+        abre();
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Clave recuperada"_s);
+        QCOMPARE(Estudiante::lee(m_yo->ficheroPrivado()), propia);
+        QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
+        QVERIFY(!QFile::exists(copia));
+        // Left behind by one that died before it overwrote anything.
+        escribeArchivo(copia, QByteArray(propia).replace("257", "263"));
+        abre();
+        QCOMPARE(campo(u"txtQ_1"_s)->text(), u"257"_s);
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty() && !QFile::exists(copia));
+    }
+
+    /// Where the copy cannot be made, the own key is not put at risk.
+    void sinSitioParaLaCopia()
+    {
+        preparaBuzon();
+        QVERIFY(QDir().mkpath(m_yo->ficheroPrivado() + u".propia"_s));
+        eligeUsuario(u"ana"_s);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Error en tiempo de ejecución"_s);
+        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
     }
 
     void sinClaveQueSirva_data()
