@@ -1,5 +1,6 @@
 #include "shell/frame/FormLeccion.h"
 
+#include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Traduccion.h"
 #include "shell/frame/BotonDeCorrida.h"
@@ -158,6 +159,12 @@ Tarea<> FormLeccion::pideCierre()
 Tarea<bool> FormLeccion::puedeCerrarse()
 {
     co_return permiteCerrar();
+}
+
+void FormLeccion::guardaLoPendiente()
+{
+    for (CopiaDeTrabajo *copia : findChildren<CopiaDeTrabajo *>())
+        copia->guarda();
 }
 
 void FormLeccion::desaparece()

@@ -48,8 +48,9 @@ public:
     /// the answer.
     virtual Tarea<bool> puedeCerrarse();
 
-    /// Keeps unsaved work where the next start finds it, without asking: the session ends.
-    virtual void guardaLoPendiente() {}
+    /// Keeps unsaved work where the next start finds it, without asking: the session ends. Brings
+    /// the copies of the window's work up to date. Throws ErrorEjecucion when one cannot be written.
+    virtual void guardaLoPendiente();
 
 Q_SIGNALS:
     /// The user has closed the window; it is not to be shown again.
