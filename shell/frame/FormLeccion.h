@@ -49,7 +49,8 @@ public:
     virtual Tarea<bool> puedeCerrarse();
 
     /// Keeps unsaved work where the next start finds it, without asking: the session ends. Brings
-    /// the copies of the window's work up to date. Throws ErrorEjecucion when one cannot be written.
+    /// the copies of the window's work up to date. Throws ErrorEjecucion when one cannot be
+    /// written.
     virtual void guardaLoPendiente();
 
 Q_SIGNALS:

@@ -357,7 +357,10 @@ Tarea<> FormPrincipal::pideCierre()
     const auto respondido = qScopeGuard([this] { m_preguntando = false; });
     const auto lecciones = abiertas();
     for (const QPointer<FormLeccion> &leccion : lecciones) {
-        if (leccion && !co_await leccion->puedeCerrarse())
+        if (!leccion)
+            continue;
+        const bool puede = co_await leccion->puedeCerrarse();
+        if (!puede)
             co_return;
     }
     for (const QPointer<FormLeccion> &leccion : lecciones) {

@@ -53,10 +53,12 @@ QString idiomaDeLinea(const QString &lineaDeOrdenes)
 Tarea<bool> encuentraCarpetaDeTrabajo()
 {
     constexpr int preguntas = 2;
-    for (int i = 1; i <= preguntas && !hayCarpetaDeTrabajo(); ++i)
-        Sesión().ponCarpeta(co_await interlocutor().preguntaTexto(
+    for (int i = 1; i <= preguntas && !hayCarpetaDeTrabajo(); ++i) {
+        const QString respuesta = co_await interlocutor().preguntaTexto(
             nullptr, u"¿Dónde se encuentran los ficheros del sistema Numora?"_s,
-            u"Carpeta de trabajo"_s));
+            u"Carpeta de trabajo"_s);
+        Sesión().ponCarpeta(respuesta);
+    }
     co_return hayCarpetaDeTrabajo();
 }
 
@@ -103,7 +105,8 @@ Tarea<> Programa::Main(QString lineaDeOrdenes, Contenido contenido)
                                              u"En ejecución"_s);
         co_return;
     }
-    if (!co_await encuentraCarpetaDeTrabajo())
+    const bool hallada = co_await encuentraCarpetaDeTrabajo();
+    if (!hallada)
         co_return;
 
     Idioma() = idiomaDeLinea(lineaDeOrdenes);
