@@ -1,5 +1,6 @@
 #include "shell/start/Main.h"
 #include "numora/Lecciones.h"
+#include "shell/look/TextosDeQt.h"
 #include "shell/start/Galeria.h"
 
 #include <QApplication>

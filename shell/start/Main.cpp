@@ -8,15 +8,13 @@
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
+#include "shell/look/TextosDeQt.h"
 #include "shell/start/FinDeSesion.h"
 #include "shell/start/FormPrincipal.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QEventLoopLocker>
-#include <QLibraryInfo>
-#include <QPointer>
-#include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -60,18 +58,6 @@ Tarea<bool> encuentraCarpetaDeTrabajo()
         Sesión().ponCarpeta(respuesta);
     }
     co_return hayCarpetaDeTrabajo();
-}
-
-void instalaTextosDeQt()
-{
-    static QPointer<QTranslator> textos;
-    delete textos;
-    // A translated interface leaves Qt's own English texts.
-    if (HayTraduccion())
-        return;
-    textos = new QTranslator(QCoreApplication::instance());
-    if (textos->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(textos);
 }
 
 void preparaAplicacion()

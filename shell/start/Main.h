@@ -44,8 +44,5 @@ private:
     TareasDeVentana m_tareas{nullptr};
 };
 
-/// Qt's own texts ("Aceptar", "Opciones:") in Spanish, unless the interface is in another language.
-void instalaTextosDeQt();
-
 /// Style, palette, type size and Qt's own texts, as the user's settings have them.
 void preparaAplicacion();
