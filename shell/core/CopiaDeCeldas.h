@@ -20,7 +20,8 @@ struct CeldasPorCopiar
 
     qint64 cuantas() const
     {
-        return (qint64{ultimaFila} - primeraFila + 1) * (qint64{ultimaColumna} - primeraColumna + 1);
+        return (qint64{ultimaFila} - primeraFila + 1) *
+               (qint64{ultimaColumna} - primeraColumna + 1);
     }
 };
 

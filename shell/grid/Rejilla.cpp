@@ -40,8 +40,8 @@ Tarea<Copia> Rejilla::seleccion(FormaDeCopia forma, AvanceDeFilas avance, Billet
 {
     if (!model() || model()->rowCount() == 0)
         co_return Copia();
-    Copia hecha = co_await copiaCeldas(model(), elegidas(), forma, std::move(avance),
-                                       std::move(billete));
+    Copia hecha =
+        co_await copiaCeldas(model(), elegidas(), forma, std::move(avance), std::move(billete));
     co_return hecha;
 }
 
