@@ -70,7 +70,7 @@ private Q_SLOTS:
     void countOfPrimes_data();
     void countOfPrimes();
     void streamOfPrimes();
-    void lastBlockOfPrimes();
+    void listsOfPrimesInParts();
 };
 
 void TestBignumPrimes::smallNumbersAgreeWithDivision()
@@ -291,33 +291,40 @@ void TestBignumPrimes::countOfPrimes()
 void TestBignumPrimes::streamOfPrimes()
 {
     PrimeSum all;
-    QCOMPARE(PrimesUpTo(1299709, takeBlock, &all), 1);
+    QCOMPARE(PrimesBetween(0, 1299709, takeBlock, &all), 1);
     QCOMPARE(all.count, 100000);
     QCOMPARE(all.last, 1299709U);
     QVERIFY(all.ascending);
 
     PrimeSum stopped;
     stopped.stopAfter = 1;
-    QCOMPARE(PrimesUpTo(INT64_MAX, takeBlock, &stopped), 0);
+    QCOMPARE(PrimesBetween(0, INT64_MAX, takeBlock, &stopped), 0);
     QVERIFY(stopped.count > 0 && stopped.count < 1000000);
 
     PrimeSum none;
-    QCOMPARE(PrimesUpTo(1, takeBlock, &none), 1);
+    QCOMPARE(PrimesBetween(0, 1, takeBlock, &none), 1);
     QCOMPARE(none.count, 0);
-    QCOMPARE(PrimesUpTo(100, nullptr, nullptr), 0);
+    QCOMPARE(PrimesBetween(0, 100, nullptr, nullptr), 0);
 }
 
-void TestBignumPrimes::lastBlockOfPrimes()
+void TestBignumPrimes::listsOfPrimesInParts()
 {
     // 84 017 is the prime number 8192, which fills a block: nothing comes after it.
     PrimeSum full;
-    QCOMPARE(PrimesUpTo(84'017, takeBlock, &full), 1);
+    QCOMPARE(PrimesBetween(0, 84'017, takeBlock, &full), 1);
     QCOMPARE(full.blocks, full.count / 8192);
     // A list that is ended in its last block is ended.
     PrimeSum ended;
     ended.stopAfter = 1;
-    QCOMPARE(PrimesUpTo(10, takeBlock, &ended), 0);
+    QCOMPARE(PrimesBetween(0, 10, takeBlock, &ended), 0);
     QCOMPARE(ended.count, 4);
+    // A list that is asked for in two parts.
+    PrimeSum parts;
+    QCOMPARE(PrimesBetween(INT64_MIN, 6, takeBlock, &parts), 1);
+    QCOMPARE(PrimesBetween(7, 29, takeBlock, &parts), 1);
+    QCOMPARE(PrimesBetween(29, 7, takeBlock, &parts), 1);
+    QCOMPARE(parts.count, 10);
+    QCOMPARE(parts.last, 29U);
 }
 
 QTEST_APPLESS_MAIN(TestBignumPrimes)
