@@ -195,4 +195,5 @@ private:
 };
 
 NUMORA_TEST_MAIN(TestLecciones)
+#include "shell/core/Traduccion.h"
 #include "tst_Lecciones.moc"
