@@ -70,11 +70,13 @@ void FormLeccion::detenCorrida()
 
 QAbstractButton *FormLeccion::botonEnMarcha() const
 {
+    // Of several runs it is the one in sight that is meant.
+    QAbstractButton *hallado = nullptr;
     for (const BotonDeCorrida *corrida : findChildren<BotonDeCorrida *>()) {
-        if (corrida->enMarcha())
-            return corrida->boton();
+        if (corrida->enMarcha() && (!hallado || corrida->boton()->isVisible()))
+            hallado = corrida->boton();
     }
-    return botonDeParada();
+    return hallado ? hallado : botonDeParada();
 }
 
 void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel)
