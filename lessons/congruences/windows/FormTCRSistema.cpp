@@ -5,6 +5,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
@@ -102,7 +103,7 @@ void FormTCRSistema::cmdProblema1_Click()
 void FormTCRSistema::cmdResolver1_Click()
 {
     if (hayQueResolver())
-        cierraRespuesta(solucion(m_modelo->sistema()));
+        cierraRespuesta(resuelve(m_modelo->sistema()));
 }
 
 void FormTCRSistema::cmdSol1_Click()
@@ -137,11 +138,20 @@ void FormTCRSistema::abreRespuesta()
     ui->txtSol1->setReadOnly(false);
     ui->txtSol1->setText({});
     ui->txtSol1->viewport()->setBackgroundRole(QPalette::Base);
+    ui->lblAviso->clear();
 }
 
-void FormTCRSistema::cierraRespuesta(const QString &solucion)
+/// Where there is no solution the field says so as the service does, and the reason stands below.
+void FormTCRSistema::cierraRespuesta(const Resolucion &resolucion)
 {
-    ui->txtSol1->setText(solucion);
+    const QString *solucion = std::get_if<QString>(&resolucion);
+    ui->txtSol1->setText(solucion ? *solucion : TextoError.toString());
+    if (const auto *pareja = std::get_if<Contradiccion>(&resolucion))
+        muestraVeredicto(ui->lblAviso, false, pareja->texto());
+    else if (!solucion)
+        muestraVeredicto(ui->lblAviso, false,
+                         Traduce(u"Los números son demasiado largos: se hallan soluciones de "
+                                 "hasta 8191 cifras."_s));
     ui->cmdSol1->setEnabled(false);
     ui->txtSol1->setReadOnly(true);
     ui->txtSol1->viewport()->setBackgroundRole(QPalette::Button);
