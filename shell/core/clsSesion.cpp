@@ -1,16 +1,14 @@
 #include "shell/core/clsSesion.h"
 
 #include "bignum/gateway/Azar.h"
-#include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <array>
-#include <cmath>
-#include <limits>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -90,10 +88,7 @@ QString clsSesión::UserName() const
 
 std::int32_t clsSesión::Precisión() const
 {
-    const double valor = std::nearbyint(NumVal(lee(u"Aritmética"_s, u"Precisión"_s, u"100"_s)));
-    if (!(std::abs(valor) <= std::numeric_limits<std::int32_t>::max()))
-        throw ErrorEjecucion(ErrorEjecucion::Desbordamiento);
-    return static_cast<std::int32_t>(valor);
+    return aEntero32(NumVal(lee(u"Aritmética"_s, u"Precisión"_s, u"100"_s)));
 }
 
 void clsSesión::ponPrecisión(std::int32_t digitos)
