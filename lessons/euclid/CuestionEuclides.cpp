@@ -72,7 +72,6 @@ CuestionEuclides::Juicio CuestionEuclides::juzga(const QString &a, const QString
     if (!faltas.isEmpty())
         return {coincide, true, Traduce(u"Faltan datos: %1."_s).arg(faltas.join(u"; "_s))};
     return {coincide, false,
-            coincide
-                ? Traduce(u"Correcto"_s)
-                : Traduce(u"No es correcto (iteraciones: %1)"_s).arg(m_mcd.NumDivisiones())};
+            coincide ? Traduce(u"Correcto"_s)
+                     : Traduce(u"No es correcto (iteraciones: %1)"_s).arg(m_mcd.NumDivisiones())};
 }

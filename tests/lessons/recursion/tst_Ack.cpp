@@ -1,5 +1,6 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/recursion/functions/Ack.h"
+#include "lessons/recursion/functions/EnteroDeTexto.h"
 #include "lessons/recursion/functions/windows/ModeloAck.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -205,6 +206,35 @@ private Q_SLOTS:
         prueba.corrida.permitir();
         prueba.corrida.detener();
         QCOMPARE(prueba.ack.calcula(0, 1), 0);
+    }
+
+    void numerosSueltos_data()
+    {
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<int>("valor");
+        QTest::addColumn<int>("numero");
+        QTest::newRow("plain") << u"5000"_s << 5000 << 0;
+        QTest::newRow("blanks") << u" 7 "_s << 7 << 0;
+        QTest::newRow("half to even, down") << u"2,5"_s << 2 << 0;
+        QTest::newRow("half to even, up") << u"3.5"_s << 4 << 0;
+        QTest::newRow("exponent") << u"1,5e3"_s << 1500 << 0;
+        QTest::newRow("letters") << u"abc"_s << 0 << 13;
+        QTest::newRow("expression") << u"2*3"_s << 0 << 13;
+        QTest::newRow("empty") << QString() << 0 << 13;
+        QTest::newRow("beyond 32 bits") << u"3000000000"_s << 0 << 6;
+        QTest::newRow("beyond fixed point") << u"1e300"_s << 0 << 6;
+    }
+    void numerosSueltos()
+    {
+        QFETCH(QString, texto);
+        int valor = 0, numero = 0;
+        try {
+            valor = enteroDeTexto(texto, u"x"_s);
+        } catch (const ErrorEjecucion &error) {
+            numero = error.numero();
+        }
+        QTEST(valor, "valor");
+        QTEST(numero, "numero");
     }
 
     void laTablaDeAck()

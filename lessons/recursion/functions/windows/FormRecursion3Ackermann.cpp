@@ -1,6 +1,6 @@
 #include "lessons/recursion/functions/windows/FormRecursion3Ackermann.h"
 
-#include "lessons/recursion/EntradaNumerica.h"
+#include "lessons/recursion/functions/EnteroDeTexto.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCalculo.h"
