@@ -3,6 +3,7 @@
 #include "bignum/gateway/Azar.h"
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 #include <QRegularExpression>
@@ -42,7 +43,7 @@ struct Filas
 
     bool tienenSolucionLasPrimeras(int cuantas) const
     {
-        return RestoChino(restos.first(cuantas), modulos.first(cuantas)) != TextoError;
+        return !esError(RestoChino(restos.first(cuantas), modulos.first(cuantas)));
     }
 };
 
@@ -65,7 +66,7 @@ std::optional<Contradiccion> contradiccion(const Filas &filas, int f, int g)
     const QString divisor = Mcd(filas.modulos[f], filas.modulos[g]);
     const QString uno = Modulo(filas.restos[f], divisor);
     const QString otro = Modulo(filas.restos[g], divisor);
-    if (uno == otro || uno == TextoError || otro == TextoError)
+    if (uno == otro || esError(uno) || esError(otro))
         return {};
     return Contradiccion{filas.numeros[f], filas.numeros[g], divisor, uno, otro};
 }
@@ -155,17 +156,19 @@ QString Contradiccion::texto() const
 Resolucion resuelve(const SistemaCongruencias &sistema)
 {
     const Filas filas = filasDe(sistema);
-    QString solucion = RestoChino(filas.restos, filas.modulos);
-    if (solucion != TextoError)
-        return solucion;
-    if (auto pareja = contradiccion(filas))
-        return std::move(*pareja);
-    return FueraDeAlcance{};
+    const QString resultado = RestoChino(filas.restos, filas.modulos);
+    if (!esError(resultado))
+        return {Resolucion::Resuelto, resultado, {}};
+    if (const auto pareja = contradiccion(filas))
+        return {Resolucion::SinSolucion, resultado, pareja->texto()};
+    return {Resolucion::FueraDeAlcance, resultado,
+            Traduce(u"Los números son demasiado largos: se hallan soluciones de hasta 8191 "
+                    "cifras."_s)};
 }
 
 bool esSolucion(const SistemaCongruencias &sistema, const QString &expresion)
 {
     const Resolucion resolucion = resuelve(sistema);
-    const QString *solucion = std::get_if<QString>(&resolucion);
-    return solucion && Evalua(QString(expresion), {}, Aritmetica::Entera) == *solucion;
+    return resolucion.desenlace == Resolucion::Resuelto &&
+           calculaEntero(expresion) == resolucion.resultado;
 }

@@ -2,7 +2,6 @@
 
 #include <QList>
 #include <QString>
-#include <variant>
 
 /// One congruence as it was typed: n leaves `resto` when divided by `modulo`.
 struct Congruencia
@@ -49,18 +48,20 @@ struct Contradiccion
 
     /// For the student; long numbers are left out.
     QString texto() const;
-
-    bool operator==(const Contradiccion &) const = default;
 };
 
-/// The numbers are too long for the big-number service.
-struct FueraDeAlcance
+/// What became of a system.
+struct Resolucion
 {
-    bool operator==(const FueraDeAlcance &) const = default;
+    enum Desenlace {
+        Resuelto,
+        SinSolucion,
+        FueraDeAlcance ///< the numbers are too long for the big-number service
+    };
+    Desenlace desenlace;
+    QString resultado; ///< as the service tells it: the least non-negative solution, or "Error"
+    QString motivo;    ///< why there is none, for the student; empty with a solution
 };
-
-/// The least non-negative solution, in decimal digits, or why there is none.
-using Resolucion = std::variant<QString, Contradiccion, FueraDeAlcance>;
 
 /// Solves the counting rows, which must be valid. A system of congruences has a solution exactly
 /// when every two of them have one, so that of one without there are two rows to show. (Source: D.

@@ -126,9 +126,9 @@ bool FormTCRSistema::hayQueResolver()
     ui->FlexTCR->setCurrentIndex(m_modelo->index(
         fila, mala.restoValido() ? ModeloCongruencias::Modulo : ModeloCongruencias::Resto));
     ui->FlexTCR->setFocus();
-    interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
-                           Traduce(u"Fila %1: "_s).arg(fila + 1) + mala.defecto() + u'.',
-                           Traduce(u"Sistema no válido"_s));
+    interlocutor().avisa(this, Interlocutor::Icono::Exclamacion,
+                         Traduce(u"Fila %1: "_s).arg(fila + 1) + mala.defecto() + u'.',
+                         Traduce(u"Sistema no válido"_s));
     return false;
 }
 
@@ -144,14 +144,9 @@ void FormTCRSistema::abreRespuesta()
 /// Where there is no solution the field says so as the service does, and the reason stands below.
 void FormTCRSistema::cierraRespuesta(const Resolucion &resolucion)
 {
-    const QString *solucion = std::get_if<QString>(&resolucion);
-    ui->txtSol1->setText(solucion ? *solucion : TextoError.toString());
-    if (const auto *pareja = std::get_if<Contradiccion>(&resolucion))
-        muestraVeredicto(ui->lblAviso, false, pareja->texto());
-    else if (!solucion)
-        muestraVeredicto(ui->lblAviso, false,
-                         Traduce(u"Los números son demasiado largos: se hallan soluciones de "
-                                 "hasta 8191 cifras."_s));
+    ui->txtSol1->setText(resolucion.resultado);
+    if (!resolucion.motivo.isEmpty())
+        muestraVeredicto(ui->lblAviso, false, resolucion.motivo);
     ui->cmdSol1->setEnabled(false);
     ui->txtSol1->setReadOnly(true);
     ui->txtSol1->viewport()->setBackgroundRole(QPalette::Button);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QObject>
 #include "shell/core/run/Corrutina.h"
+#include <QObject>
 
 /// What a task waits for until somebody says that it has come: `co_await espera` goes on from the
 /// event loop after `cumple()`, which may be said before as well. Dies with the task.
@@ -18,8 +18,8 @@ public:
     void cumple()
     {
         if (!m_cumplida && m_quien)
-            QMetaObject::invokeMethod(&m_contexto, [this] { m_quien.resume(); },
-                                      Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                &m_contexto, [this] { m_quien.resume(); }, Qt::QueuedConnection);
         m_cumplida = true;
     }
 

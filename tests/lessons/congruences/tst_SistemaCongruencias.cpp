@@ -24,10 +24,15 @@ SistemaCongruencias sistema(const QString &texto)
 QString dicho(const SistemaCongruencias &filas)
 {
     const Resolucion resolucion = resuelve(filas);
-    if (const auto *pareja = std::get_if<Contradiccion>(&resolucion))
-        return pareja->texto();
-    const auto *solucion = std::get_if<QString>(&resolucion);
-    return solucion ? *solucion : u"out of reach"_s;
+    switch (resolucion.desenlace) {
+    case Resolucion::Resuelto:
+        return resolucion.resultado;
+    case Resolucion::SinSolucion:
+        return resolucion.motivo;
+    case Resolucion::FueraDeAlcance:
+        break;
+    }
+    return u"out of reach"_s;
 }
 
 } // namespace

@@ -153,7 +153,7 @@ void FormRecursion2Representacion::muestraPeriodo()
 {
     const std::optional<PeriodoModular> periodo = m_sucesion->periodo();
     if (!periodo) {
-        interlocutor().mensaje(
+        interlocutor().avisa(
             this, Interlocutor::Icono::Informacion,
             Traduce(u"El periodo es mayor que el conjunto de valores que se examina."_s),
             Traduce(u"Periodo grande"_s));
