@@ -5,6 +5,7 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
+#include <QRegularExpression>
 #include <cmath>
 #include <limits>
 
@@ -81,6 +82,18 @@ Lectura<Moneda> leeEntero(const QString &expresion, Moneda minimo, Moneda maximo
     if (!leido)
         return leido.razon();
     return *Moneda::deTexto(*leido);
+}
+
+bool EsNumerico(const QString &texto)
+{
+    static const QRegularExpression forma(
+        u"^\\s*[+-]?(\\d+([.,]\\d*)?|[.,]\\d+)([eEdD][+-]?\\d+)?\\s*$"_s);
+    return forma.match(texto).hasMatch() &&
+           std::isfinite(QString(texto)
+                             .replace(u',', u'.')
+                             .replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive)
+                             .trimmed()
+                             .toDouble());
 }
 
 std::int16_t aEntero16(double valor)

@@ -82,6 +82,10 @@ Lectura<Numero> leeEntero(const QString &expresion, Numero minimo, Numero maximo
     return static_cast<Numero>(leido->toLongLong());
 }
 
+/// Whether a whole text is a number: blanks around, sign, digits with a decimal part after "." or
+/// ",", exponent; within the range of a double.
+bool EsNumerico(const QString &texto);
+
 /// A number rounded half to even. Throws Desbordamiento beyond the type.
 std::int16_t aEntero16(double valor);
 std::int32_t aEntero32(double valor);

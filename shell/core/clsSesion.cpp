@@ -4,13 +4,10 @@
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/system/Cuenta.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
-#include <array>
-#include <pwd.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -78,12 +75,8 @@ QString clsSesión::AVIError() const
 
 QString clsSesión::UserName() const
 {
-    passwd cuenta;
-    passwd *hallada = nullptr;
-    std::array<char, 16384> bufer;
-    if (getpwuid_r(getuid(), &cuenta, bufer.data(), bufer.size(), &hallada) != 0 || !hallada)
-        return {};
-    return QFile::decodeName(hallada->pw_name).left(254);
+    constexpr qsizetype bufer = 255;
+    return nombreDeCuenta().left(bufer - 1);
 }
 
 std::int32_t clsSesión::Precisión() const
@@ -120,8 +113,25 @@ void clsSesión::anota(const QString &clave, const QVariant &valor)
     m_almacen.sync();
 }
 
+namespace {
+
+std::unique_ptr<clsSesión> &puesta()
+{
+    static std::unique_ptr<clsSesión> sesion;
+    return sesion;
+}
+
+} // namespace
+
 clsSesión &Sesión()
 {
-    static clsSesión sesion(QCoreApplication::applicationDirPath());
-    return sesion;
+    if (!puesta())
+        puesta() = std::make_unique<clsSesión>(QCoreApplication::applicationDirPath());
+    return *puesta();
+}
+
+std::unique_ptr<clsSesión> ponSesión(std::unique_ptr<clsSesión> otra)
+{
+    std::swap(puesta(), otra);
+    return otra;
 }

@@ -2,7 +2,6 @@
 
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Evento.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
@@ -19,11 +18,23 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QMouseEvent>
+#include <QScopeGuard>
 #include <QScreen>
+#include <QSplitter>
 #include <QStyle>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace {
+
+/// Where the session keeps the size of a lesson's window.
+QString claveDeTamano(const QWidget &leccion)
+{
+    return u"Ventanas/%1"_s.arg(leccion.objectName());
+}
+
+} // namespace
 
 FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
     : QMainWindow(padre),
@@ -31,7 +42,8 @@ FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
       m_lecciones(contenido.lecciones),
       m_hojaDeCalculo(contenido.hojaDeCalculo),
       m_timerPresentacion(new QTimer(this)),
-      m_timerLogo(new QTimer(this))
+      m_timerLogo(new QTimer(this)),
+      m_timerTamano(new QTimer(this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -49,6 +61,10 @@ FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
     conecta(m_timerLogo, &QTimer::timeout, this, &FormPrincipal::TimerLogo_Timer);
     m_timerPresentacion->setObjectName(u"TimerPresentacion"_s);
     m_timerPresentacion->setInterval(6s);
+    m_timerTamano->setSingleShot(true);
+    m_timerTamano->setInterval(300ms);
+    connect(m_timerTamano, &QTimer::timeout, this, &FormPrincipal::anotaTamanos);
+    connect(ui->Divisor, &QSplitter::splitterMoved, m_timerTamano, qOverload<>(&QTimer::start));
 }
 
 FormPrincipal::~FormPrincipal()
@@ -144,10 +160,16 @@ void FormPrincipal::recuperaTamano()
     }
 }
 
-void FormPrincipal::guardaTamano() const
+/// Sizes are noted a moment after they have changed, so that the end of the program writes nothing.
+void FormPrincipal::anotaTamanos()
 {
     Sesión().anota(u"Ventana/Geometria"_s, saveGeometry());
     Sesión().anota(u"Ventana/Division"_s, ui->Divisor->saveState());
+    const auto ventanas = ui->AreaDeTrabajo->subWindowList();
+    for (const QMdiSubWindow *ventana : ventanas) {
+        if (ventana->isVisible() && !ventana->isMaximized() && !ventana->isMinimized())
+            Sesión().anota(claveDeTamano(*ventana->widget()), ventana->size());
+    }
 }
 
 FormLeccion *FormPrincipal::abreLeccion(int fila)
@@ -182,19 +204,15 @@ void FormPrincipal::colocaVentana(FormLeccion *leccion)
     ui->AreaDeTrabajo->addSubWindow(ventana);
     ventana->setWindowIcon(leccion->windowIcon());
 
-    const QString clave = u"Ventanas/%1"_s.arg(leccion->objectName());
     const int escalon = ventana->style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const int desplazamiento = escalon * static_cast<int>((m_abiertas.size() - 1) % 4);
     const QSize area = ui->AreaDeTrabajo->viewport()->size();
     const QSize libre = area - QSize(desplazamiento, desplazamiento);
     const QSize propuesto = ventana->sizeHint().expandedTo(area * 0.9).boundedTo(libre);
-    ventana->resize(Sesión().recuerda(clave, propuesto).toSize().boundedTo(area));
+    ventana->resize(Sesión().recuerda(claveDeTamano(*leccion), propuesto).toSize().boundedTo(area));
     ventana->move(desplazamiento, desplazamiento);
-    connect(leccion, &FormLeccion::descargada, this, [ventana, clave] {
-        if (!ventana->isMaximized() && !ventana->isMinimized())
-            Sesión().anota(clave, ventana->size());
-    });
     ventana->show();
+    ventana->installEventFilter(this);
 }
 
 FormLeccion *FormPrincipal::leccionActiva() const
@@ -263,9 +281,9 @@ void FormPrincipal::Calculadora_Click()
                                                  {u"deepin-calculator"_s},
                                                  {u"xcalc"_s}};
     if (!interlocutor().lanzaAlguno(calculadoras))
-        interlocutor().mensaje(this, Interlocutor::Icono::Informacion,
-                               Traduce(u"No se encuentra ninguna calculadora en este equipo."_s),
-                               Traduce(u"Calculadora"_s));
+        interlocutor().avisa(this, Interlocutor::Icono::Informacion,
+                             Traduce(u"No se encuentra ninguna calculadora en este equipo."_s),
+                             Traduce(u"Calculadora"_s));
 }
 
 void FormPrincipal::calc_Click()
@@ -323,17 +341,72 @@ void FormPrincipal::showEvent(QShowEvent *suceso)
 
 void FormPrincipal::closeEvent(QCloseEvent *suceso)
 {
-    guardaTamano();
-    ui->AreaDeTrabajo->closeAllSubWindows();
-    // A lesson with unsaved work may have refused; one that is stopping has already gone.
-    const auto ventanas = ui->AreaDeTrabajo->subWindowList();
-    const bool quedaAlguna = std::any_of(ventanas.begin(), ventanas.end(),
-                                         [](const QMdiSubWindow *v) { return v->isVisible(); });
-    suceso->setAccepted(!quedaAlguna);
+    if (!m_cierrePermitido && !m_preguntando) {
+        m_enCierre = true;
+        m_tareas.lanza(pideCierre());
+        m_enCierre = false;
+    }
+    suceso->setAccepted(m_cierrePermitido);
+}
+
+/// Asks the lessons one after the other; all close or none. Where an answer is waited for the event
+/// is over by then, and the window is closed again.
+Tarea<> FormPrincipal::pideCierre()
+{
+    m_preguntando = true;
+    const auto respondido = qScopeGuard([this] { m_preguntando = false; });
+    const auto lecciones = abiertas();
+    for (const QPointer<FormLeccion> &leccion : lecciones) {
+        if (!leccion)
+            continue;
+        const bool puede = co_await leccion->puedeCerrarse();
+        if (!puede)
+            co_return;
+    }
+    for (const QPointer<FormLeccion> &leccion : lecciones) {
+        if (leccion)
+            leccion->cierraSinPreguntar();
+    }
+    m_cierrePermitido = true;
+    if (!m_enCierre)
+        close();
+}
+
+QList<QPointer<FormLeccion>> FormPrincipal::abiertas() const
+{
+    QList<QPointer<FormLeccion>> lecciones = m_abiertas.values();
+    lecciones.removeAll(nullptr);
+    return lecciones;
+}
+
+void FormPrincipal::guardaLoPendiente()
+{
+    for (const QPointer<FormLeccion> &leccion : abiertas())
+        evento(this, [&] { leccion->guardaLoPendiente(); });
+}
+
+void FormPrincipal::terminaSinPreguntar()
+{
+    guardaLoPendiente();
+    for (const QPointer<FormLeccion> &leccion : abiertas())
+        leccion->cierraSinPreguntar();
+    m_cierrePermitido = true;
+    close();
+}
+
+bool FormPrincipal::event(QEvent *suceso)
+{
+    static const QList<QEvent::Type> cambios{QEvent::Resize, QEvent::Move,
+                                             QEvent::WindowStateChange};
+    if (isVisible() && cambios.contains(suceso->type()))
+        m_timerTamano->start();
+    return QMainWindow::event(suceso);
 }
 
 bool FormPrincipal::eventFilter(QObject *objeto, QEvent *suceso)
 {
+    if (suceso->type() == QEvent::Resize && qobject_cast<QMdiSubWindow *>(objeto))
+        m_timerTamano->start();
     if (objeto == ui->FlexMenu->viewport() && suceso->type() == QEvent::MouseMove) {
         const auto *raton = static_cast<QMouseEvent *>(suceso);
         FlexMenu_MouseMove(ui->FlexMenu->indexAt(raton->position().toPoint()).row());

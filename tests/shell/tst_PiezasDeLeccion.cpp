@@ -2,7 +2,6 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModeloFilas.h"
-#include "shell/core/TextoDeDuracion.h"
 #include "shell/frame/PanelCuestiones.h"
 #include "tests/shell/support/Entorno.h"
 

@@ -19,24 +19,35 @@ public:
     {
         if (!m_cumplida && m_quien)
             QMetaObject::invokeMethod(
-                &m_contexto, [this] { m_quien.resume(); }, Qt::QueuedConnection);
+                &m_contexto, [this] { sigue(); }, Qt::QueuedConnection);
         m_cumplida = true;
     }
 
     class Turno
     {
     public:
-        explicit Turno(Espera &espera) : m_espera(&espera) {}
-        bool await_ready() const { return m_espera->m_cumplida; }
-        void await_suspend(std::coroutine_handle<> quien) const { m_espera->m_quien = quien; }
+        explicit Turno(Espera &espera) : m_espera(espera) {}
+        Turno(const Turno &) = delete;
+        Turno &operator=(const Turno &) = delete;
+        /// The task may die before what it waits for has come.
+        ~Turno() { m_espera.m_quien = {}; }
+
+        bool await_ready() const { return m_espera.m_cumplida; }
+        void await_suspend(std::coroutine_handle<> quien) { m_espera.m_quien = quien; }
         void await_resume() const {}
 
     private:
-        Espera *m_espera;
+        Espera &m_espera;
     };
     Turno operator co_await() { return Turno(*this); }
 
 private:
+    void sigue() const
+    {
+        if (m_quien)
+            m_quien.resume();
+    }
+
     QObject m_contexto;
     std::coroutine_handle<> m_quien;
     bool m_cumplida = false;

@@ -7,7 +7,8 @@
 #include <chrono>
 #include <optional>
 
-template <typename Fin> Tarea<> guarda(Tarea<Fin> corrida, std::optional<Fin> &fin)
+template <typename Fin>
+Tarea<> guarda(Tarea<Fin> corrida, std::optional<Fin> &fin)
 {
     fin = co_await corrida;
 }

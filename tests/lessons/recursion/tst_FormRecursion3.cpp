@@ -321,7 +321,7 @@ private Q_SLOTS:
         auto *tabla = control<Rejilla>(m_ventana, u"FlexAck"_s);
         tabla->selectionModel()->select({tabla->model()->index(0, 0), tabla->model()->index(1, 1)},
                                         QItemSelectionModel::ClearAndSelect);
-        QCOMPARE(tabla->seleccion(FormaDeCopia::Texto), u"0\t\t2\n1\t2\t3\n"_s);
+        QCOMPARE(tabla->seleccion(FormaDeCopia::Texto).completa().texto, u"0\t\t2\n1\t2\t3\n"_s);
     }
 
 private:

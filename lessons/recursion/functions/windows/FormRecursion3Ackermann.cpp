@@ -2,6 +2,7 @@
 
 #include "lessons/recursion/functions/EnteroDeTexto.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/Interlocutor.h"

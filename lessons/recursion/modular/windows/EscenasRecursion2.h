@@ -2,5 +2,5 @@
 
 #include "shell/frame/Leccion.h"
 
-/// The pictures of the lesson on modular recurrences in the gallery; `fila` is its row in the menu.
-QList<Escena> escenasRecursion2(int fila);
+/// The pictures of the lesson on modular recurrences in the gallery.
+QList<Escena> escenasRecursion2();
