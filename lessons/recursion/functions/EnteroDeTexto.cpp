@@ -1,28 +1,11 @@
-#include "lessons/recursion/EntradaNumerica.h"
+#include "lessons/recursion/functions/EnteroDeTexto.h"
 
 #include "bignum/gateway/ErrorEjecucion.h"
-#include "bignum/gateway/ModBignum.h"
+#include "bignum/gateway/Moneda.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
-
-std::optional<Moneda> evaluaEntrada(const QString &expresion)
-{
-    const QString valor = Evalua(QString(expresion), QString::number(Moneda::MaximoEntero));
-    if (!EsNumerico(valor))
-        return {};
-    return Moneda::deTexto(valor);
-}
-
-std::optional<std::int32_t> evaluaModulo(const QString &expresion)
-{
-    const std::optional<Moneda> valor = evaluaEntrada(expresion);
-    if (!valor || *valor <= Moneda())
-        return {};
-    const std::int32_t modulo = valor->aEntero32();
-    return modulo > 0 ? std::optional(modulo) : std::nullopt;
-}
 
 std::int32_t enteroDeTexto(const QString &texto, const QString &nombre)
 {
