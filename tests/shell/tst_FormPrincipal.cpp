@@ -15,8 +15,9 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMessageBox>
-#include <QToolButton>
+#include <QSessionManager>
 #include <csignal>
+#include <cstddef>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -318,14 +319,31 @@ private Q_SLOTS:
         ponInterlocutor(std::make_unique<Grabadora>());
     }
 
+    void alAcabarLaSesionNoPregunta_data()
+    {
+        QTest::addColumn<int>("senal"); // 0: the word of the desktop
+        QTest::newRow("SIGTERM") << SIGTERM;
+        QTest::newRow("SIGHUP") << SIGHUP;
+        QTest::newRow("the desktop's session") << 0;
+    }
     void alAcabarLaSesionNoPregunta()
     {
+        QFETCH(int, senal);
         const FinDeSesion fin(m_principal.get());
-        m_principal->abreLeccion(1)->findChild<QLineEdit *>()->setText(u"a medias"_s);
-        ::raise(SIGTERM);
+        auto *campo = m_principal->abreLeccion(1)->findChild<QLineEdit *>();
+        const auto guardado = [] { return Sesión().lee(u"P"_s, u"Uno"_s); };
+        campo->setText(u"al preguntar la sesión"_s);
+        // Nobody looks at the manager of a session that may still go on.
+        alignas(std::max_align_t) std::byte gestor[64]{};
+        Q_EMIT qApp->commitDataRequest(reinterpret_cast<QSessionManager &>(gestor));
+        QCOMPARE(guardado(), campo->text());
+        QVERIFY(m_principal->isVisible());
+        campo->setText(u"a medias"_s);
+        QEvent salir(QEvent::Quit);
+        senal == 0 ? QApplication::sendEvent(qApp, &salir) : ::raise(senal) == 0;
         QTRY_VERIFY(!m_principal->isVisible());
         QVERIFY(Entorno::grabadora().confirmaciones.isEmpty());
-        QCOMPARE(Sesión().lee(u"P"_s, u"Uno"_s), u"a medias"_s);
+        QCOMPARE(guardado(), u"a medias"_s);
     }
 
     void losColores()
