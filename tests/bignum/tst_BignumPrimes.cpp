@@ -180,6 +180,7 @@ void TestBignumPrimes::nextPrimes_data()
     QTest::addColumn<QByteArray>("next");
     QTest::newRow("far below two") << "-1000000000000000000000000"_ba
                                    << "2"_ba;
+    QTest::newRow("beyond the bits of a search") << "-1"_ba + QByteArray(4000, '0') << "2"_ba;
     QTest::newRow("one") << "1"_ba
                          << "2"_ba;
     QTest::newRow("two") << "2"_ba
@@ -250,6 +251,12 @@ void TestBignumPrimes::randomPrimesReachAllPrimes()
     QCOMPARE(drawn.size(), std::size_t{7});
     for (const auto &[prime, times] : drawn)
         QVERIFY2(times < 2 * 2000 / 7, prime.c_str());
+
+    // Of two bits one of the two primes is even.
+    drawn.clear();
+    for (int i = 0; i < 200; ++i)
+        ++drawn[call(RndPrimo, 2).value_or("failure")];
+    QCOMPARE(drawn.size(), std::size_t{2});
 }
 
 void TestBignumPrimes::countOfPrimes_data()
@@ -284,6 +291,7 @@ void TestBignumPrimes::streamOfPrimes()
     stopped.stopAfter = 1;
     QCOMPARE(PrimesUpTo(INT64_MAX, takeBlock, &stopped), 0);
     QVERIFY(stopped.count > 0 && stopped.count < 1000000);
+    QCOMPARE(PrimesUpTo(97, takeBlock, &stopped), 0); // the first block is the last
 
     PrimeSum none;
     QCOMPARE(PrimesUpTo(1, takeBlock, &none), 1);
