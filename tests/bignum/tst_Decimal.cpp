@@ -108,15 +108,6 @@ private Q_SLOTS:
         QTEST(QByteArray::fromStdString(decimal(rational.toStdString())), "expected");
     }
 
-    void precisionIsClamped()
-    {
-        EndBignum();
-        QCOMPARE(decimal("1/3").size(), std::size_t(102));
-        InitBignum(5000);
-        QCOMPARE(decimal("1/3").size(), std::size_t(1002));
-        QCOMPARE(ToDecimal("1/3", nullptr), 0);
-    }
-
     void theBufferIsTheLimit()
     {
         InitBignum(10);

@@ -337,14 +337,6 @@ private Q_SLOTS:
         QCOMPARE(evaluated(ZEval, repeated("(", 900) + "7" + repeated(")", 900)), "7");
     }
 
-    void nulls()
-    {
-        std::array<char, kBuffer> buffer{};
-        QCOMPARE(ZEval(nullptr, buffer.data()), 0);
-        QCOMPARE(ZEval("1", nullptr), 0);
-        QCOMPARE(QEval("1", nullptr), 0);
-    }
-
     void randomExpressions_data()
     {
         using Numbers = RandomExpression::Numbers;
