@@ -111,7 +111,8 @@ bool HojaDeCalculo::ValorDecimal(Celda celda)
     if (!celda.esDeDatos())
         return false;
     Casilla &c = casilla(celda);
-    if (c.resultado.trimmed().isEmpty() || EsDecimal(c.resultado))
+    // A negative decimal form is no EsDecimal, and the service reads no comma.
+    if (c.resultado.trimmed().isEmpty() || EsDecimal(c.resultado) || c.resultado.contains(u','))
         return false;
     CambioDeCelda cambio{celda, estado(celda), {}};
     c.resultado = ADecimal(c.resultado);

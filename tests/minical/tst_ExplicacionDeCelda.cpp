@@ -17,6 +17,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expresion");
         QTest::addColumn<QString>("empieza");
         QTest::newRow("empty cell") << u"A1+C7"_s << u"C7 está vacía."_s;
+        QTest::newRow("last column") << u"Y7+1"_s << u"Y7 está vacía."_s;
         QTest::newRow("cell with an error") << u"A1*B1"_s << u"B1 tiene un error."_s;
         QTest::newRow("name behind another") << u"A12+C7"_s << u"C7 está vacía."_s;
         QTest::newRow("itself") << u"D4+1"_s << u"La celda se usa a sí misma"_s;

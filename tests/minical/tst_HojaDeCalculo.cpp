@@ -153,6 +153,9 @@ private Q_SLOTS:
     {
         HojaDeCalculo hoja;
         entra(hoja, u"A1", u"10^24000"_s);
+        QCOMPARE(sustituyeVariables(hoja.Variables(), u"A1-"_s, 24'004).size(), 24'004);
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
+                                 sustituyeVariables(hoja.Variables(), u"A1-"_s, 24'003));
         const QString muchas = u"A1+"_s.repeated(30'000) + u"1"_s;
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, hoja.SustituirVariables(muchas));
         QCOMPARE(entra(hoja, u"B1", muchas), u"Error"_s);
@@ -209,7 +212,7 @@ private Q_SLOTS:
         QVERIFY(!hoja.ValorDecimal(en(u"A3")));
         QVERIFY(!hoja.ValorDecimal({0, 1}) && !hoja.Recalcular({1, 0}));
         entra(hoja, u"A4", u"-1/8"_s);
-        hoja.ValorDecimal(en(u"A4"));
+        QVERIFY(hoja.ValorDecimal(en(u"A4")) && !hoja.ValorDecimal(en(u"A4")));
         QCOMPARE(resultado(hoja, u"A4"), u"-0,125"_s);
     }
 
