@@ -2,7 +2,7 @@
 
 #include "shell/core/ModGlobal.h"
 #include "shell/core/PaginaTraducida.h"
-#include "shell/frame/Evento.h"
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/NavegadorPagina.h"
 #include "shell/look/Aspecto.h"
@@ -57,8 +57,17 @@ void FormLeccion::cierra()
 
 void FormLeccion::detenCorrida()
 {
-    if (QAbstractButton *boton = botonDeParada())
+    if (QAbstractButton *boton = botonEnMarcha())
         boton->click();
+}
+
+QAbstractButton *FormLeccion::botonEnMarcha() const
+{
+    for (const BotonDeCorrida *corrida : findChildren<BotonDeCorrida *>()) {
+        if (corrida->enMarcha())
+            return corrida->boton();
+    }
+    return botonDeParada();
 }
 
 void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel)
@@ -110,7 +119,12 @@ void FormLeccion::tsTema_Click(int indice)
 
 void FormLeccion::closeEvent(QCloseEvent *suceso)
 {
-    if (!m_descargada && !permiteCerrar()) {
+    if (!m_cierrePermitido) {
+        m_enCierre = true;
+        m_tareas.lanza(pideCierre());
+        m_enCierre = false;
+    }
+    if (!m_cierrePermitido) {
         suceso->ignore();
         return;
     }
@@ -121,6 +135,20 @@ void FormLeccion::closeEvent(QCloseEvent *suceso)
         return;
     suceso->ignore();
     desaparece();
+}
+
+/// Nothing can be asked while the event waits: where an answer is needed, the window stays, and is
+/// closed again once the user has allowed it.
+Tarea<> FormLeccion::pideCierre()
+{
+    m_cierrePermitido = co_await puedeCerrarse();
+    if (m_cierrePermitido && !m_enCierre)
+        cierra();
+}
+
+Tarea<bool> FormLeccion::puedeCerrarse()
+{
+    co_return permiteCerrar();
 }
 
 void FormLeccion::desaparece()
@@ -153,7 +181,7 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         return true;
     }
     if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
-        botonDeParada()) {
+        botonEnMarcha()) {
         evento(this, [this] { detenCorrida(); });
         return true;
     }

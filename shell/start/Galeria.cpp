@@ -34,6 +34,32 @@ namespace {
 class Callado : public Interlocutor
 {
 public:
+    void avisa(QWidget *, Icono, const QString &, const QString &) override {}
+    Tarea<> avisaYEspera(QWidget *, Icono, QString, QString) override { co_return; }
+    Tarea<QString> preguntaTexto(QWidget *, QString, QString) override { co_return QString(); }
+    Tarea<bool> preguntaSiNo(QWidget *, QString, QString) override { co_return false; }
+    Tarea<Guardado> preguntaGuardar(QWidget *, QString, QString) override
+    {
+        co_return Guardado::Descartar;
+    }
+    Tarea<QString> eligeArchivoParaAbrir(QWidget *, QString, QString, QStringList) override
+    {
+        co_return QString();
+    }
+    Tarea<Archivo> eligeArchivoParaGuardar(QWidget *, QString, QString, QStringList) override
+    {
+        co_return Archivo{};
+    }
+    Tarea<bool> eligeImpresora(QWidget *, std::shared_ptr<QPrinter>, QString) override
+    {
+        co_return false;
+    }
+    /// A folder beside the copy of the working folder, for what students share.
+    Tarea<QString> eligeCarpeta(QWidget *, QString, QString) override
+    {
+        QDir().mkpath(u"../Compartida"_s);
+        co_return QDir(u"../Compartida"_s).absolutePath();
+    }
     void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
     QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
     Guardado preguntaSiGuarda(QWidget *, const QString &, const QString &) override

@@ -50,6 +50,62 @@ Grabadora::Mensaje Grabadora::unico()
     return mensajes.takeFirst();
 }
 
+void Grabadora::avisa(QWidget *, Icono icono, const QString &texto, const QString &titulo)
+{
+    mensajes << Mensaje{icono, texto, titulo};
+}
+
+Tarea<> Grabadora::avisaYEspera(QWidget *padre, Icono icono, QString texto, QString titulo)
+{
+    avisa(padre, icono, texto, titulo);
+    co_return;
+}
+
+Tarea<QString> Grabadora::preguntaTexto(QWidget *, QString, QString)
+{
+    co_return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
+}
+
+Tarea<bool> Grabadora::preguntaSiNo(QWidget *, QString pregunta, QString)
+{
+    confirmaciones << pregunta;
+    co_return respondeSi;
+}
+
+Tarea<Interlocutor::Guardado> Grabadora::preguntaGuardar(QWidget *, QString texto, QString)
+{
+    preguntasSiGuarda << texto;
+    co_return guardados.isEmpty() ? Guardado::Cancelar : guardados.takeFirst();
+}
+
+Tarea<QString> Grabadora::eligeArchivoParaAbrir(QWidget *padre, QString titulo, QString propuesta,
+                                                QStringList filtros)
+{
+    const Archivo elegido =
+        co_await Grabadora::eligeArchivoParaGuardar(padre, titulo, propuesta, filtros);
+    co_return elegido.ruta;
+}
+
+Tarea<Interlocutor::Archivo> Grabadora::eligeArchivoParaGuardar(QWidget *, QString, QString,
+                                                                QStringList filtros)
+{
+    filtrosPedidos << filtros;
+    co_return archivos.isEmpty() ? Archivo() : archivos.takeFirst();
+}
+
+Tarea<bool> Grabadora::eligeImpresora(QWidget *, std::shared_ptr<QPrinter> impresora, QString)
+{
+    impresora->setOutputFormat(QPrinter::PdfFormat);
+    impresora->setOutputFileName(impresion);
+    co_return !impresion.isEmpty();
+}
+
+Tarea<QString> Grabadora::eligeCarpeta(QWidget *, QString, QString inicial)
+{
+    carpetasPedidas << inicial;
+    co_return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
+}
+
 void Grabadora::mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo)
 {
     mensajes << Mensaje{icono, texto, titulo};
