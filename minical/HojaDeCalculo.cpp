@@ -4,7 +4,6 @@
 #include "bignum/gateway/ModBignum.h"
 #include "minical/HojaGuardada.h"
 #include "minical/Sustitucion.h"
-#include "shell/core/Corrida.h"
 
 #include <algorithm>
 
@@ -141,22 +140,41 @@ void HojaDeCalculo::borra(const QList<Celda> &celdas)
     anota(paso);
 }
 
-bool HojaDeCalculo::pega(Celda esquina, const QList<QStringList> &bloque, Corrida &corrida)
+/// The step that a paste grows into. However the paste ends, what it has changed can be undone.
+class HojaDeCalculo::Pegado
 {
-    PasoDeEdicion paso;
+public:
+    explicit Pegado(HojaDeCalculo &hoja) : m_hoja(hoja) { m_hoja.m_pegando = true; }
+    Pegado(const Pegado &) = delete;
+    Pegado &operator=(const Pegado &) = delete;
+    ~Pegado()
+    {
+        m_hoja.m_pegando = false;
+        m_hoja.anota(m_paso);
+    }
+
+    void agrega(const CambioDeCelda &cambio) { m_paso << cambio; }
+
+private:
+    HojaDeCalculo &m_hoja;
+    PasoDeEdicion m_paso;
+};
+
+Tarea<bool> HojaDeCalculo::pega(Celda esquina, QList<QStringList> bloque, Billete billete)
+{
+    Pegado pegado(*this);
     bool todo = true;
-    for (int f = 0; f < bloque.size() && !corrida.detenida(); ++f) {
-        for (int c = 0; c < bloque[f].size() && !corrida.detenida(); ++c) {
+    for (int f = 0; f < bloque.size() && !billete.detenida(); ++f) {
+        for (int c = 0; c < bloque[f].size() && !billete.detenida(); ++c) {
             const Celda celda{esquina.fila + f, esquina.columna + c};
             const bool cabe = celda.esDeDatos() && bloque[f][c].size() <= LongitudMaxima;
             todo = todo && cabe;
             if (cabe && bloque[f][c] != casilla(celda).expresion)
-                paso << evaluaEn(celda, bloque[f][c]);
-            corrida.ceder();
+                pegado.agrega(evaluaEn(celda, bloque[f][c]));
+            co_await billete.ceder();
         }
     }
-    anota(paso);
-    return todo;
+    co_return todo;
 }
 
 EstadoDeCelda HojaDeCalculo::estado(Celda celda) const

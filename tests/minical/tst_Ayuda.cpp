@@ -1,4 +1,3 @@
-#include "shell/core/Corrida.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -129,8 +128,7 @@ private Q_SLOTS:
             for (const QString &linea : lineas)
                 bloque << QStringList{linea};
             HojaDeCalculo hoja;
-            Corrida corrida([] {});
-            QVERIFY(hoja.pega(en(u"A1"), bloque, corrida));
+            QVERIFY(hoja.pega(en(u"A1"), bloque, Billete()).completa());
             QCOMPARE(hoja.Resultados(static_cast<int>(bloque.size()), 1), ultimo);
         }
     }
