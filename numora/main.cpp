@@ -31,14 +31,6 @@ QSize tamano(const QString &texto)
     return leido.expandedTo({640, 480}).boundedTo({8192, 8192});
 }
 
-void presentaPrograma()
-{
-    QCoreApplication::setApplicationName(u"Numora"_s);
-    QCoreApplication::setApplicationVersion(QStringLiteral(NUMORA_VERSION));
-    QGuiApplication::setApplicationDisplayName(u"Numora"_s);
-    QGuiApplication::setDesktopFileName(u"numora"_s);
-}
-
 /// Answers --help and --version, which need neither a display nor a settings store.
 void contestaSinVentanas(int argc, char *argv[])
 {
@@ -62,7 +54,7 @@ void contestaSinVentanas(int argc, char *argv[])
 
 int main(int argc, char *argv[])
 {
-    presentaPrograma();
+    presentaPrograma(QStringLiteral(NUMORA_VERSION));
     contestaSinVentanas(argc, argv);
     const QApplication aplicacion(argc, argv);
 

@@ -2,6 +2,7 @@
 
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;

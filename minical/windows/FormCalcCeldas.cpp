@@ -10,6 +10,7 @@
 #include "minical/windows/FormCalcPortapapeles.h"
 #include "minical/windows/FormCalcRejilla.h"
 #include "minical/windows/FormZoom.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"

@@ -19,3 +19,6 @@ QString formatoDecimal(double valor, int decimales);
 
 /// A span of time as "hh:nn:ss"; hours start again after 24.
 QString formatoTiempo(std::chrono::milliseconds tiempo);
+
+/// A span of time in the unit that suits it, with three significant digits: "3,12 µs".
+QString textoDeDuracion(double nanosegundos);

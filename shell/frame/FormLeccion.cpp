@@ -1,7 +1,7 @@
 #include "shell/frame/FormLeccion.h"
 
 #include "shell/core/ModGlobal.h"
-#include "shell/core/PaginaTraducida.h"
+#include "shell/core/Traduccion.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/NavegadorPagina.h"

@@ -20,10 +20,21 @@
 #include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QSplitter>
 #include <QStyle>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace {
+
+/// Where the session keeps the size of a lesson's window.
+QString claveDeTamano(const QWidget &leccion)
+{
+    return u"Ventanas/%1"_s.arg(leccion.objectName());
+}
+
+} // namespace
 
 FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
     : QMainWindow(padre),
@@ -31,7 +42,8 @@ FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
       m_lecciones(contenido.lecciones),
       m_hojaDeCalculo(contenido.hojaDeCalculo),
       m_timerPresentacion(new QTimer(this)),
-      m_timerLogo(new QTimer(this))
+      m_timerLogo(new QTimer(this)),
+      m_timerTamano(new QTimer(this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -49,6 +61,10 @@ FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
     conecta(m_timerLogo, &QTimer::timeout, this, &FormPrincipal::TimerLogo_Timer);
     m_timerPresentacion->setObjectName(u"TimerPresentacion"_s);
     m_timerPresentacion->setInterval(6s);
+    m_timerTamano->setSingleShot(true);
+    m_timerTamano->setInterval(300ms);
+    connect(m_timerTamano, &QTimer::timeout, this, &FormPrincipal::anotaTamanos);
+    connect(ui->Divisor, &QSplitter::splitterMoved, m_timerTamano, qOverload<>(&QTimer::start));
 }
 
 FormPrincipal::~FormPrincipal()
@@ -144,10 +160,16 @@ void FormPrincipal::recuperaTamano()
     }
 }
 
-void FormPrincipal::guardaTamano() const
+/// Sizes are noted a moment after they have changed, so that the end of the program writes nothing.
+void FormPrincipal::anotaTamanos()
 {
     Sesión().anota(u"Ventana/Geometria"_s, saveGeometry());
     Sesión().anota(u"Ventana/Division"_s, ui->Divisor->saveState());
+    const auto ventanas = ui->AreaDeTrabajo->subWindowList();
+    for (const QMdiSubWindow *ventana : ventanas) {
+        if (ventana->isVisible() && !ventana->isMaximized() && !ventana->isMinimized())
+            Sesión().anota(claveDeTamano(*ventana->widget()), ventana->size());
+    }
 }
 
 FormLeccion *FormPrincipal::abreLeccion(int fila)
@@ -182,19 +204,15 @@ void FormPrincipal::colocaVentana(FormLeccion *leccion)
     ui->AreaDeTrabajo->addSubWindow(ventana);
     ventana->setWindowIcon(leccion->windowIcon());
 
-    const QString clave = u"Ventanas/%1"_s.arg(leccion->objectName());
     const int escalon = ventana->style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const int desplazamiento = escalon * static_cast<int>((m_abiertas.size() - 1) % 4);
     const QSize area = ui->AreaDeTrabajo->viewport()->size();
     const QSize libre = area - QSize(desplazamiento, desplazamiento);
     const QSize propuesto = ventana->sizeHint().expandedTo(area * 0.9).boundedTo(libre);
-    ventana->resize(Sesión().recuerda(clave, propuesto).toSize().boundedTo(area));
+    ventana->resize(Sesión().recuerda(claveDeTamano(*leccion), propuesto).toSize().boundedTo(area));
     ventana->move(desplazamiento, desplazamiento);
-    connect(leccion, &FormLeccion::descargada, this, [ventana, clave] {
-        if (!ventana->isMaximized() && !ventana->isMinimized())
-            Sesión().anota(clave, ventana->size());
-    });
     ventana->show();
+    ventana->installEventFilter(this);
 }
 
 FormLeccion *FormPrincipal::leccionActiva() const
@@ -323,7 +341,6 @@ void FormPrincipal::showEvent(QShowEvent *suceso)
 
 void FormPrincipal::closeEvent(QCloseEvent *suceso)
 {
-    guardaTamano();
     ui->AreaDeTrabajo->closeAllSubWindows();
     // A lesson with unsaved work may have refused; one that is stopping has already gone.
     const auto ventanas = ui->AreaDeTrabajo->subWindowList();
@@ -332,8 +349,19 @@ void FormPrincipal::closeEvent(QCloseEvent *suceso)
     suceso->setAccepted(!quedaAlguna);
 }
 
+bool FormPrincipal::event(QEvent *suceso)
+{
+    static const QList<QEvent::Type> cambios{QEvent::Resize, QEvent::Move,
+                                             QEvent::WindowStateChange};
+    if (isVisible() && cambios.contains(suceso->type()))
+        m_timerTamano->start();
+    return QMainWindow::event(suceso);
+}
+
 bool FormPrincipal::eventFilter(QObject *objeto, QEvent *suceso)
 {
+    if (suceso->type() == QEvent::Resize && qobject_cast<QMdiSubWindow *>(objeto))
+        m_timerTamano->start();
     if (objeto == ui->FlexMenu->viewport() && suceso->type() == QEvent::MouseMove) {
         const auto *raton = static_cast<QMouseEvent *>(suceso);
         FlexMenu_MouseMove(ui->FlexMenu->indexAt(raton->position().toPoint()).row());

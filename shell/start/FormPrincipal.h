@@ -42,6 +42,7 @@ public:
     QWidget *muestraAcercaDe(bool presentacion);
 
 protected:
+    bool event(QEvent *suceso) override;
     void closeEvent(QCloseEvent *suceso) override;
     void showEvent(QShowEvent *suceso) override;
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
@@ -51,7 +52,7 @@ private:
     void preparaOrdenes();
     void preparaAspecto();
     void recuperaTamano();
-    void guardaTamano() const;
+    void anotaTamanos();
     void colocaVentana(FormLeccion *leccion);
 
     void FlexMenu_Click(const QModelIndex &indice);
@@ -75,5 +76,6 @@ private:
     QHash<int, QPointer<FormLeccion>> m_abiertas;
     QTimer *m_timerPresentacion;
     QTimer *m_timerLogo;
+    QTimer *m_timerTamano;
     int m_filaResaltada = -1;
 };

@@ -105,9 +105,9 @@ public:
         retrata(*acercaDe, u"acercade"_s);
         acercaDe->close();
         retrata(m_principal, u"principal"_s);
-        const QList<Escena> escenas = m_contenido.escenas();
-        for (const Escena &escena : escenas)
-            retrata(escena);
+        for (int fila = 0; fila < m_contenido.lecciones.size(); ++fila)
+            retrataEscenas(m_contenido.lecciones[fila], fila);
+        retrataEscenas(m_contenido.hojaDeCalculo, FormPrincipal::FilaHojaDeCalculo);
         return m_bien;
     }
 
@@ -124,9 +124,16 @@ private:
         m_bien = ventana.grab().save(m_carpeta.filePath(nombre + u".png"_s)) && m_bien;
     }
 
-    void retrata(const Escena &escena)
+    void retrataEscenas(const Leccion &leccion, int fila)
     {
-        FormLeccion *leccion = m_principal.abreLeccion(escena.fila);
+        const QList<Escena> escenas = leccion.escenas ? leccion.escenas() : QList<Escena>();
+        for (const Escena &escena : escenas)
+            retrata(escena, fila);
+    }
+
+    void retrata(const Escena &escena, int fila)
+    {
+        FormLeccion *leccion = m_principal.abreLeccion(fila);
         if (!leccion)
             return;
         abreTema(*leccion->findChild<QTabBar *>(u"tsTema"_s), escena.tema);

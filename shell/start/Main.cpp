@@ -3,6 +3,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
+#include "shell/core/Traduccion.h"
 #include "shell/core/system/InstanciaUnica.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
@@ -33,6 +34,13 @@ void avisaDeCota(const QString &cota)
 }
 
 } // namespace
+
+void presentaPrograma(const QString &version)
+{
+    QCoreApplication::setApplicationName(u"Numora"_s);
+    QCoreApplication::setApplicationVersion(version);
+    QGuiApplication::setDesktopFileName(u"numora"_s);
+}
 
 QString idiomaDeLinea(const QString &lineaDeOrdenes)
 {

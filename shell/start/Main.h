@@ -10,6 +10,10 @@ class FormPrincipal;
 class InstanciaUnica;
 class clsSesión;
 
+/// Tells Qt and the desktop the name and the version of the program. No display name: it would be
+/// added to the titles of all windows, which are to be read as they are given.
+void presentaPrograma(const QString &version);
+
 /// The language that a command line (without the program's name) asks for. Where it contains "-i:"
 /// anywhere, its last token decides, from its fourth character on; tokens are what stands between
 /// single blanks. "Español" without "-i:".

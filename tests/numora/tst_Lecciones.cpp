@@ -89,7 +89,7 @@ private:
     {
         Entorno::limpia();
         Sesión().ponCarpeta(m_carpeta.path());
-        ClsRSA clave;
+        ClsRSA clave(Sesión());
         clave.ponDirMensajes(m_carpeta.path());
         clave.ponr(1);
         clave.ponq(1, u"257"_s);
@@ -195,4 +195,5 @@ private:
 };
 
 NUMORA_TEST_MAIN(TestLecciones)
+#include "shell/core/Traduccion.h"
 #include "tst_Lecciones.moc"

@@ -122,6 +122,17 @@ private Q_SLOTS:
         QCOMPARE(Sesión().carpeta(), u"/nadie"_s);
     }
 
+    /// A desktop adds the display name of a program to all titles. Qt gives the name for one only
+    /// while none is set.
+    void losTitulosQuedanComoSon()
+    {
+        const QString nombre = QApplication::applicationName();
+        QCOMPARE(nombre, u"Numora"_s);
+        const auto alFinal = qScopeGuard([&] { QApplication::setApplicationName(nombre); });
+        QApplication::setApplicationName(u"otro"_s);
+        QCOMPARE(QApplication::applicationDisplayName(), u"otro"_s);
+    }
+
     void presentacion_data()
     {
         QTest::addColumn<int>("salida");

@@ -251,14 +251,21 @@ private Q_SLOTS:
         QCOMPARE(Entorno::grabadora().abiertas.size(), 1);
     }
 
-    void recuerdaElTamanoDeCadaLeccion()
+    /// Sizes are noted when they change: the end of the program finds nothing to write.
+    void recuerdaLosTamanos()
     {
-        FormLeccion *leccion = m_principal->abreLeccion(1);
         const QSize tamano(420, 310);
+        FormLeccion *leccion = m_principal->abreLeccion(1);
         leccion->parentWidget()->resize(tamano);
+        const auto notado = [] { return Sesión().recuerda(u"Ventanas/FormUno"_s).toSize(); };
+        QTRY_COMPARE(notado(), tamano);
+        QVERIFY(!Sesión().recuerda(u"Ventana/Geometria"_s).toByteArray().isEmpty());
         leccion->cierra();
         QTRY_VERIFY(titulos().isEmpty());
         QCOMPARE(m_principal->abreLeccion(1)->parentWidget()->size(), tamano);
+        Sesión().anota(u"Ventanas/FormUno"_s, QSize());
+        m_principal->close();
+        QCOMPARE(notado(), QSize());
     }
 
     void losColores()

@@ -112,6 +112,16 @@ private Q_SLOTS:
         QCOMPARE(clsSesión(u"/otra"_s).carpeta(), u"C:\\no existe"_s);
     }
 
+    /// A test can stand on a session of its own; without one, the next use makes one.
+    void otraSesion()
+    {
+        auto deAntes = ponSesión(std::make_unique<clsSesión>(u"/del/programa"_s));
+        QCOMPARE(Sesión().carpetaPrograma(), u"/del/programa"_s);
+        ponSesión(nullptr);
+        QCOMPARE(Sesión().carpetaPrograma(), QCoreApplication::applicationDirPath());
+        ponSesión(std::move(deAntes));
+    }
+
     void precisionDeLaSesion()
     {
         QCOMPARE(Sesión().Precisión(), 100);

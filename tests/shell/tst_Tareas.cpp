@@ -119,7 +119,8 @@ private Q_SLOTS:
             QElapsedTimer reloj;
             reloj.start();
             bool servido = false;
-            QMetaObject::invokeMethod(this, [&] { servido = true; }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [&] { servido = true; }, Qt::QueuedConnection);
             while (!servido)
                 QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
             demoras << reloj.elapsed();

@@ -1,7 +1,7 @@
 #include "lessons/primes/windows/FormPrimosCuestiones.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "shell/controls/LineasSegunTexto.h"
+#include "shell/controls/CampoLargo.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"

@@ -4,7 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/primes/DivisionTentativa.h"
 #include "lessons/primes/windows/ModeloFactores.h"
-#include "shell/controls/LineasSegunTexto.h"
+#include "shell/controls/CampoLargo.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"

@@ -1,7 +1,8 @@
 #include "lessons/primes/windows/FormPrimosTest.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "shell/controls/LineasSegunTexto.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"

@@ -45,9 +45,13 @@ FormRSAMensajes::FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion)
 
     conecta(ui->FlexMensajes, &QTableView::clicked, this,
             [this](const QModelIndex &celda) { FlexMensajes_Click(celda.row()); });
-    conecta(ui->FlexMensajes->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex &celda) { FlexMensajes_Click(celda.row()); });
-    conecta(ui->FlexMensajes, &QTableView::activated, this, [this] { ui->recibir->click(); });
+    // Keys that lead to a row select it. The focus, on arriving, only makes one current.
+    conecta(ui->FlexMensajes->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { FlexMensajes_Click(filaElegida()); });
+    conecta(ui->FlexMensajes, &QTableView::activated, this, [this](const QModelIndex &celda) {
+        ui->FlexMensajes->selectRow(celda.row());
+        ui->recibir->click();
+    });
     conecta(ui->txtAsunto, &QLineEdit::returnPressed, this,
             [this] { ui->txtDestTextoOriginal->setFocus(); });
     conecta(ui->cmbDestinatario, &QComboBox::activated, this,
@@ -175,6 +179,13 @@ void FormRSAMensajes::cmbDestinatario_Validate()
 void FormRSAMensajes::txtDestTextoOriginal_Change()
 {
     habilita();
+}
+
+/// The row of the list that is selected; -1 when none is.
+int FormRSAMensajes::filaElegida() const
+{
+    const QModelIndexList filas = ui->FlexMensajes->selectionModel()->selectedRows();
+    return filas.isEmpty() ? -1 : filas.constFirst().row();
 }
 
 QString FormRSAMensajes::claveDeFila(int fila) const
@@ -339,7 +350,7 @@ void FormRSAMensajes::recibir_Click()
 
 void FormRSAMensajes::recibe()
 {
-    const int fila = ui->FlexMensajes->currentIndex().row();
+    const int fila = filaElegida();
     clsMensaje *mensaje = fila < 0 ? nullptr : m_mensajes.Item(claveDeFila(fila));
     if (!mensaje) {
         interlocutor().mensaje(this, Interlocutor::Icono::Informacion,
@@ -354,7 +365,7 @@ void FormRSAMensajes::recibe()
         escuchaErrores(*mensaje);
         mensaje->Recibe(m_leccion->corrida());
         // Another row may have been chosen meanwhile; this text waits in its own.
-        if (ui->FlexMensajes->currentIndex().row() == fila)
+        if (filaElegida() == fila)
             muestraMensaje(*mensaje);
     });
 }

@@ -51,6 +51,7 @@ private:
     QString estadoDeRevision(int ilegibles) const;
     void muestraLista(const QString &estado);
     void muestraUsuarios(const QStringList &usuarios);
+    int filaElegida() const;
     QString claveDeFila(int fila) const;
     void muestraMensaje(const clsMensaje &mensaje);
     void envia();

@@ -2,8 +2,8 @@
 
 #include "shell/core/run/Parada.h"
 
-#include <chrono>
 #include "shell/core/run/Corrutina.h"
+#include <chrono>
 #include <memory>
 
 class Cesiones;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QTimer>
 #include "shell/core/run/Corrutina.h"
+#include <QTimer>
 #include <deque>
 
 /// The runs of one owner that have given up the thread, and wait for the event loop to go on with

@@ -5,7 +5,8 @@
 #include <optional>
 #include <utility>
 
-template <typename T = void> class Tarea;
+template <typename T = void>
+class Tarea;
 
 namespace tarea {
 
@@ -62,11 +63,16 @@ private:
     Dueno *m_dueno = nullptr;
 };
 
-template <typename T> class PromesaDe : public Promesa
+template <typename T>
+class PromesaDe : public Promesa
 {
 public:
     Tarea<T> get_return_object();
-    template <typename U> void return_value(U &&valor) { m_valor.emplace(std::forward<U>(valor)); }
+    template <typename U>
+    void return_value(U &&valor)
+    {
+        m_valor.emplace(std::forward<U>(valor));
+    }
     T resultado()
     {
         lanzaSiFallo();
@@ -77,7 +83,8 @@ private:
     std::optional<T> m_valor;
 };
 
-template <> class PromesaDe<void> : public Promesa
+template <>
+class PromesaDe<void> : public Promesa
 {
 public:
     Tarea<void> get_return_object();
@@ -95,7 +102,8 @@ public:
 /// Arguments are taken by value, because the caller's may be gone when the body goes on; a lambda
 /// that captures must outlive the task it made. A body never deletes the window it works for but
 /// by `deleteLater`.
-template <typename T> class [[nodiscard]] Tarea
+template <typename T>
+class [[nodiscard]] Tarea
 {
 public:
     using promise_type = tarea::PromesaDe<T>;
@@ -149,14 +157,15 @@ public:
     private:
         Mango m_mango;
     };
-    Espera operator co_await() const & noexcept { return Espera(m_mango); }
-    Espera operator co_await() const && noexcept { return Espera(m_mango); }
+    Espera operator co_await() const &noexcept { return Espera(m_mango); }
+    Espera operator co_await() const &&noexcept { return Espera(m_mango); }
 
 private:
     Mango m_mango;
 };
 
-template <typename T> Tarea<T> tarea::PromesaDe<T>::get_return_object()
+template <typename T>
+Tarea<T> tarea::PromesaDe<T>::get_return_object()
 {
     return Tarea<T>(std::coroutine_handle<PromesaDe>::from_promise(*this));
 }

@@ -26,10 +26,10 @@ void Tareas::lanza(Tarea<> tarea)
 void Tareas::haTerminado(std::coroutine_handle<> tarea) noexcept
 {
     --m_vivas;
-    const auto error =
-        Tarea<>::Mango::from_address(tarea.address()).promise().error();
+    const auto error = Tarea<>::Mango::from_address(tarea.address()).promise().error();
     // Its frame is still on the stack.
-    QMetaObject::invokeMethod(&m_contexto, [this] { entierra(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &m_contexto, [this] { entierra(); }, Qt::QueuedConnection);
     if (error)
         m_alFallar(error);
 }

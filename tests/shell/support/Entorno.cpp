@@ -174,8 +174,7 @@ Entorno::Entorno(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     aplicacion = std::make_unique<QApplication>(argumentos, argv);
-    QApplication::setApplicationDisplayName(u"Numora"_s);
-    QApplication::setApplicationVersion(u"1.5.40"_s);
+    presentaPrograma(u"1.5.40"_s);
     QDir::setCurrent(carpetaDeTrabajo());
     preparaAplicacion();
     limpia();

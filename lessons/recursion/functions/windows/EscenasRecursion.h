@@ -2,8 +2,8 @@
 
 #include "shell/frame/Leccion.h"
 
-/// The pictures of the lesson on modular recurrences in the gallery; `fila` is its row in the menu.
-QList<Escena> escenasRecursion2(int fila);
+/// The pictures of the lesson on modular recurrences in the gallery.
+QList<Escena> escenasRecursion2();
 
 /// The same for the lesson on recursive functions.
-QList<Escena> escenasRecursion3(int fila);
+QList<Escena> escenasRecursion3();

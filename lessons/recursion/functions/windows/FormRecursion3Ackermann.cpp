@@ -2,6 +2,7 @@
 
 #include "lessons/recursion/EntradaNumerica.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCalculo.h"
 #include "shell/frame/Evento.h"

@@ -3,6 +3,7 @@
 #include "lessons/recursion/EntradaNumerica.h"
 #include "lessons/recursion/modular/TextoDeDefinicion.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
