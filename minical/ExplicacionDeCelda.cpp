@@ -2,9 +2,9 @@
 
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/Expresiones.h"
-#include "bignum/gateway/ModBignum.h"
 #include "minical/HojaDeCalculo.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 #include <QRegularExpression>
@@ -73,8 +73,8 @@ QString motivoDeNombre(const HojaDeCalculo &hoja, Celda celda, const QString &no
         return {};
     if (*usada == celda)
         return Traduce(u"La celda se usa a sí misma y no tiene valor todavía."_s);
-    return resultadoDe(hoja, *usada) == TextoError ? Traduce(u"%1 tiene un error."_s).arg(nombre)
-                                                   : Traduce(u"%1 está vacía."_s).arg(nombre);
+    return esError(resultadoDe(hoja, *usada)) ? Traduce(u"%1 tiene un error."_s).arg(nombre)
+                                              : Traduce(u"%1 está vacía."_s).arg(nombre);
 }
 
 /// Signs that other programs use, and what is written here.
@@ -178,5 +178,5 @@ QString explicacionDeCelda(const HojaDeCalculo &hoja, Celda celda)
     if (!celda.esDeDatos())
         return {};
     const QString &resultado = resultadoDe(hoja, celda);
-    return resultado == TextoError ? motivoDeError(hoja, celda) : longitud(resultado);
+    return esError(resultado) ? motivoDeError(hoja, celda) : longitud(resultado);
 }

@@ -4,6 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "minical/HojaGuardada.h"
 #include "minical/Sustitucion.h"
+#include "shell/core/Lectura.h"
 
 #include <algorithm>
 
@@ -20,7 +21,7 @@ void recorre(Accion accion)
 
 bool tieneValor(const QString &resultado)
 {
-    return !resultado.isEmpty() && resultado != TextoError;
+    return !resultado.isEmpty() && !esError(resultado);
 }
 
 } // namespace

@@ -184,12 +184,12 @@ void FormCalc::terminaEdiciones()
 void FormCalc::muestraActual()
 {
     const Celda celda = m_rejilla->actual();
-    const bool esError = m_hoja.Resultados(celda.fila, celda.columna) == TextoError;
+    const bool falla = esError(m_hoja.Resultados(celda.fila, celda.columna));
     QPalette colores = palette();
-    colores.setColor(QPalette::WindowText, esError ? Aspecto::error() : Aspecto::atenuado());
+    colores.setColor(QPalette::WindowText, falla ? Aspecto::error() : Aspecto::atenuado());
     m_estado->setPalette(colores);
     const QString explicacion = explicacionDeCelda(m_hoja, celda);
-    m_estado->setText(esError ? u"✗ "_s + explicacion : explicacion);
+    m_estado->setText(falla ? u"✗ "_s + explicacion : explicacion);
     m_expresion->muestra(celda, m_hoja.Expresiones(celda.fila, celda.columna));
 }
 

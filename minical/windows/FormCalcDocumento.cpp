@@ -49,7 +49,8 @@ QString explicacion(const FalloDeHoja &fallo)
     return {};
 }
 
-// An answer is awaited in a line of its own: g++ 12 loses a task that is awaited within a condition.
+// An answer is awaited in a line of its own: g++ 12 loses a task that is awaited within a
+// condition.
 
 /// What an action gives, computed under the hourglass: no box is shown before it is gone.
 template <typename Accion>
@@ -70,7 +71,7 @@ FormCalcDocumento::FormCalcDocumento(HojaDeCalculo &hoja, FormCalcRejilla &rejil
       m_copia(
           Sesión().carpetaDeAjustes(), u"minical.copia"_s,
           [this] { return m_descartada ? QByteArray() : m_documento.copia(m_rejilla.anchos()); },
-          nullptr)
+          ventana)
 {
     conecta(&m_copia, &CopiaDeTrabajo::fallida, ventana,
             [ventana](const ErrorEjecucion &error) { informaError(ventana, error); });
@@ -214,12 +215,13 @@ Tarea<> FormCalcDocumento::ofreceCopia()
     if (copia.isEmpty())
         co_return;
     const QString ruta = rutaDeCopia(copia);
-    const QString cual = ruta.isEmpty() ? QString() : u' ' + QFileInfo(ruta).fileName();
+    const QString cual = ruta.isEmpty() ? Traduce(u"La última vez quedó una hoja sin guardar."_s)
+                                        : Traduce(u"La última vez quedó sin guardar la hoja %1."_s)
+                                              .arg(QFileInfo(ruta).fileName());
     // The answer at hand loses nothing.
     const bool descarta = co_await interlocutor().preguntaSiNo(
         m_ventana,
-        Traduce(u"La última vez quedó una hoja sin guardar:%1."_s).arg(cual) + u'\n' +
-            Traduce(u"Si responde que no, se recupera. ¿Quiere descartarla?"_s),
+        cual + u'\n' + Traduce(u"Si responde que no, se recupera. ¿Quiere descartarla?"_s),
         tituloPropio());
     if (!descarta)
         muestra(conReloj([&] { return m_documento.recupera(copia); }), ruta);
