@@ -1,5 +1,6 @@
 #include "bignum/bignum.h"
 
+#include "bignum/arithmetic/FibonacciMethods.h"
 #include "bignum/arithmetic/ModularArithmetic.h"
 #include "bignum/expressions/Expression.h"
 #include "bignum/expressions/ExpressionFunctions.h"
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <initializer_list>
 #include <limits>
 
@@ -86,6 +88,22 @@ int32_t writeResultOf(const char *a, const char *b, char *out, Operation operati
 bool isInPrimeSearchRange(const mpz_class &n)
 {
     return mpz_sizeinbase(n.get_mpz_t(), 2) <= kMaxPrimeSearchBits;
+}
+
+mpz_class timedFibonacci(mpz_class (*method)(unsigned, Work &), unsigned n, int32_t turns,
+                         BignumCost &cost)
+{
+    using Clock = std::chrono::steady_clock;
+    mpz_class result;
+    Work work;
+    const auto begin = Clock::now();
+    for (int32_t i = 0; i < turns; ++i) {
+        work = {};
+        result = method(n, work);
+    }
+    const std::chrono::nanoseconds spent = Clock::now() - begin;
+    cost = {work.additions, work.products, spent.count()};
+    return result;
 }
 
 /// Two arrays of `count` buffers that take a factorization, entry by entry.
@@ -175,13 +193,12 @@ int32_t ListPrimes(int32_t limit)
     return guarded(0, [&] { return countPrimes(limit); });
 }
 
-int32_t PrimesUpTo(int64_t limit, BignumPrimeBlock block, void *context)
+int32_t PrimesBetween(int64_t first, int64_t last, BignumPrimeBlock block, void *context)
 {
-    return guarded(0, [&] {
-        return block != nullptr && streamPrimes(limit, [&](std::span<const std::uint64_t> primes) {
-                   return block(primes.data(), static_cast<int64_t>(primes.size()), context) != 0;
-               });
-    });
+    const auto handOver = [&](std::span<const std::uint64_t> primes) {
+        return block(primes.data(), static_cast<int64_t>(primes.size()), context) != 0;
+    };
+    return guarded(0, [&] { return block != nullptr && streamPrimes(first, last, handOver); });
 }
 
 int32_t Factors(const char *n, char *const *primes, char *const *exponents, int32_t count)
@@ -270,6 +287,21 @@ int32_t CRT(const char *const *remainders, const char *const *moduli, int32_t co
             congruences.push_back({*remainder, *modulus});
         }
         return chineseRemainder(congruences);
+    });
+}
+
+int32_t Fibonacci(int32_t method, int32_t n, int32_t turns, char *out, BignumCost *cost)
+{
+    return writeResult(out, kExpressionBuffer, [&]() -> std::optional<mpz_class> {
+        if (cost == nullptr)
+            return std::nullopt;
+        *cost = {};
+        const bool known = method == BIGNUM_ITERATION || method == BIGNUM_DOUBLING;
+        if (!known || turns < 1 || n < 0 || n > static_cast<int32_t>(kMaxFibonacci))
+            return std::nullopt;
+        return timedFibonacci(method == BIGNUM_ITERATION ? fibonacciByIteration
+                                                         : fibonacciByDoubling,
+                              static_cast<unsigned>(n), turns, *cost);
     });
 }
 

@@ -10,9 +10,9 @@
  *
  * Results. Unless told otherwise the returned value is a flag: 1 for success, 0 for failure. A
  * result is written with its final NUL into a buffer of the caller's, whose size is fixed for each
- * operation: 24576 bytes for ZEval and QEval, 16384 for ToDecimal, 8192 for every other output. A
- * result that does not fit is a failure; so is a null buffer. A failure leaves the empty text in
- * every output buffer. Numbers are written without a leading "+", zeros or blanks.
+ * operation: 24576 bytes for ZEval, QEval and Fibonacci, 16384 for ToDecimal, 8192 for every other
+ * output. A result that does not fit is a failure; so is a null buffer. A failure leaves the empty
+ * text in every output buffer. Numbers are written without a leading "+", zeros or blanks.
  *
  * Nothing is thrown through this interface. All operations may be called from several threads at
  * once; what waits for the one quadratic sieve takes turns. The only state kept between calls is
@@ -74,10 +74,12 @@ BIGNUM_API int32_t ListPrimes(int32_t limit);
  * go on, 0 to end the list. */
 typedef int32_t (*BignumPrimeBlock)(const uint64_t *primes, int64_t count, void *context);
 
-/* Hands the primes not above `limit` to `block`, in ascending order and in blocks of bounded size,
- * so that memory does not grow with the limit. `context` is passed on untouched. Returns 1 when all
- * primes were handed over, 0 when `block` ended the list or is null. */
-BIGNUM_API int32_t PrimesUpTo(int64_t limit, BignumPrimeBlock block, void *context);
+/* Hands the primes from `first` to `last` to `block`, in ascending order and in blocks of bounded
+ * size, so that memory does not grow with their number; none where `first` is larger. `context` is
+ * passed on untouched. Returns 1 when all primes were handed over, 0 when `block` ended the list or
+ * is null. */
+BIGNUM_API int32_t PrimesBetween(int64_t first, int64_t last, BignumPrimeBlock block,
+                                 void *context);
 
 /* The prime factors of |n| in ascending order and their exponents, into two arrays of `count`
  * buffers each; the entries after the last factor become empty texts. 0 and 1 have no factors.
@@ -121,6 +123,29 @@ BIGNUM_API int32_t InvMod(const char *a, const char *n, char *out);
  * 0, for count < 1, and when the least common multiple of the moduli exceeds 24575 digits. */
 BIGNUM_API int32_t CRT(const char *const *remainders, const char *const *moduli, int32_t count,
                        char *out);
+
+/* ---- Fibonacci numbers ------------------------------------------------------------------- */
+
+/* What a computation has cost. Additions include subtractions, and twofolds, which are additions of
+ * a number to itself. */
+typedef struct BignumCost
+{
+    int64_t additions;   /* of one turn */
+    int64_t products;    /* of one turn */
+    int64_t nanoseconds; /* of all turns together, without the writing of the result */
+} BignumCost;
+
+/* Ways to compute a Fibonacci number. */
+enum {
+    BIGNUM_ITERATION = 0, /* n - 1 additions, upwards from F(0) and F(1) */
+    BIGNUM_DOUBLING = 1 /* from F(k) and F(k+1) to F(2k) and F(2k+1), for each binary digit of n */
+};
+
+/* F(n), F(0) = 0, F(1) = 1, computed `turns` times over by one of the methods above, and what that
+ * has cost: a computation may be shorter than a tick of the clock. Failure for n outside 0..117592,
+ * the largest that `out` holds, for turns < 1, any other method, and a null `cost`, which is all
+ * zeros after other failures. */
+BIGNUM_API int32_t Fibonacci(int32_t method, int32_t n, int32_t turns, char *out, BignumCost *cost);
 
 /* ---- Notations and expressions ----------------------------------------------------------- */
 

@@ -1,5 +1,6 @@
 #include "bignum/expressions/ExpressionFunctions.h"
 
+#include "bignum/arithmetic/FibonacciMethods.h"
 #include "bignum/expressions/ExpressionArithmetic.h"
 #include "bignum/factoring/Factorization.h"
 #include "bignum/primes/Primality.h"
@@ -20,9 +21,6 @@ constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
 /// Up to these sizes a search or a test inside an expression takes about a second at most.
 constexpr std::size_t kMaxBitsToTest = 10'000;
 constexpr std::size_t kMaxBitsToSearch = 2'500;
-
-/// F(117592) is the largest Fibonacci number with no more digits than a value may have.
-constexpr unsigned long kMaxFibonacci = 117'592;
 
 mpz_class greatestCommonDivisor(Wholes arguments)
 {

@@ -18,8 +18,16 @@ QString celdaDeCSV(const QString &celda, QChar separador)
     return entrecomillada ? u'"' + QString(celda).replace(u'"', u"\"\""_s) + u'"' : celda;
 }
 
+/// A cell of nothing but dots stands for what is left out.
+bool esDePuntos(const QString &celda)
+{
+    return celda.size() > 1 && celda.count(u'·') == celda.size();
+}
+
 QString celdaDeTeX(const QString &celda)
 {
+    if (esDePuntos(celda))
+        return u"$\\cdots$"_s;
     QString s;
     for (const QChar c : celda) {
         switch (c.unicode()) {

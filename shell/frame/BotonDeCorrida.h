@@ -76,11 +76,17 @@ public:
         /// Ends the run before its time, as if it went.
         void termina();
 
+        /// Leaves the button in motion when the run goes, until a click on it stops it.
+        void deja() { m_boton = nullptr; }
+
     private:
         BotonDeCorrida *m_boton;
         Billete m_billete;
         std::uint64_t m_turno;
     };
+
+    /// Shows the look of a run that is about to begin, and the hourglass; a click still starts.
+    void anuncia();
 
     /// Puts the button, the pointer and the clock into motion for the run of that ticket.
     Marcha empieza(Billete billete);

@@ -2,7 +2,6 @@
 
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Evento.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
@@ -19,6 +18,7 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QMouseEvent>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSplitter>
 #include <QStyle>
@@ -281,9 +281,9 @@ void FormPrincipal::Calculadora_Click()
                                                  {u"deepin-calculator"_s},
                                                  {u"xcalc"_s}};
     if (!interlocutor().lanzaAlguno(calculadoras))
-        interlocutor().mensaje(this, Interlocutor::Icono::Informacion,
-                               Traduce(u"No se encuentra ninguna calculadora en este equipo."_s),
-                               Traduce(u"Calculadora"_s));
+        interlocutor().avisa(this, Interlocutor::Icono::Informacion,
+                             Traduce(u"No se encuentra ninguna calculadora en este equipo."_s),
+                             Traduce(u"Calculadora"_s));
 }
 
 void FormPrincipal::calc_Click()
@@ -341,12 +341,57 @@ void FormPrincipal::showEvent(QShowEvent *suceso)
 
 void FormPrincipal::closeEvent(QCloseEvent *suceso)
 {
-    ui->AreaDeTrabajo->closeAllSubWindows();
-    // A lesson with unsaved work may have refused; one that is stopping has already gone.
-    const auto ventanas = ui->AreaDeTrabajo->subWindowList();
-    const bool quedaAlguna = std::any_of(ventanas.begin(), ventanas.end(),
-                                         [](const QMdiSubWindow *v) { return v->isVisible(); });
-    suceso->setAccepted(!quedaAlguna);
+    if (!m_cierrePermitido && !m_preguntando) {
+        m_enCierre = true;
+        m_tareas.lanza(pideCierre());
+        m_enCierre = false;
+    }
+    suceso->setAccepted(m_cierrePermitido);
+}
+
+/// Asks the lessons one after the other; all close or none. Where an answer is waited for the event
+/// is over by then, and the window is closed again.
+Tarea<> FormPrincipal::pideCierre()
+{
+    m_preguntando = true;
+    const auto respondido = qScopeGuard([this] { m_preguntando = false; });
+    const auto lecciones = abiertas();
+    for (const QPointer<FormLeccion> &leccion : lecciones) {
+        if (!leccion)
+            continue;
+        const bool puede = co_await leccion->puedeCerrarse();
+        if (!puede)
+            co_return;
+    }
+    for (const QPointer<FormLeccion> &leccion : lecciones) {
+        if (leccion)
+            leccion->cierraSinPreguntar();
+    }
+    m_cierrePermitido = true;
+    if (!m_enCierre)
+        close();
+}
+
+QList<QPointer<FormLeccion>> FormPrincipal::abiertas() const
+{
+    QList<QPointer<FormLeccion>> lecciones = m_abiertas.values();
+    lecciones.removeAll(nullptr);
+    return lecciones;
+}
+
+void FormPrincipal::guardaLoPendiente()
+{
+    for (const QPointer<FormLeccion> &leccion : abiertas())
+        evento(this, [&] { leccion->guardaLoPendiente(); });
+}
+
+void FormPrincipal::terminaSinPreguntar()
+{
+    guardaLoPendiente();
+    for (const QPointer<FormLeccion> &leccion : abiertas())
+        leccion->cierraSinPreguntar();
+    m_cierrePermitido = true;
+    close();
 }
 
 bool FormPrincipal::event(QEvent *suceso)

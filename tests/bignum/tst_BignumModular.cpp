@@ -71,6 +71,7 @@ private Q_SLOTS:
     void congruences_data();
     void congruences();
     void congruencesOfRandomNumbers();
+    void fibonacciNumbers();
     void bases_data();
     void bases();
     void comparisons_data();
@@ -271,6 +272,35 @@ void TestBignumModular::congruencesOfRandomNumbers()
         for (const mpz_class &modulus : moduli)
             QVERIFY((x - secret) % modulus == 0);
     }
+}
+
+/// Against the function of the expressions, which goes another way.
+void TestBignumModular::fibonacciNumbers()
+{
+    Buffer<24576> out, expected;
+    BignumCost cost{};
+    const auto both = {BIGNUM_ITERATION, BIGNUM_DOUBLING};
+    for (const int n :
+         {0, 1, 2, 3, 4, 7, 8, 31, 32, 33, 93, 94, 255, 256, 4095, 117'591, 117'592}) {
+        QCOMPARE(ZEval(("fib(" + std::to_string(n) + ")").c_str(), expected.data()), 1);
+        for (const int method : both) {
+            QCOMPARE(Fibonacci(method, n, 2, out.data(), &cost), 1);
+            QCOMPARE(out.text(), expected.text());
+            QVERIFY(out.isIntact() && cost.nanoseconds >= 0);
+        }
+    }
+    // 20 is 10100 in binary: five steps, two of them with one addition more.
+    QCOMPARE(Fibonacci(BIGNUM_DOUBLING, 20, 3, out.data(), &cost), 1);
+    QCOMPARE(std::pair(cost.additions, cost.products), std::pair(int64_t{17}, int64_t{15}));
+    QCOMPARE(Fibonacci(BIGNUM_ITERATION, 20, 3, out.data(), &cost), 1);
+    QCOMPARE(std::pair(cost.additions, cost.products), std::pair(int64_t{19}, int64_t{0}));
+    for (const auto &[method, n, turns] :
+         {std::tuple(0, -1, 1), {1, 117'593, 1}, {0, 5, 0}, {2, 5, 1}}) {
+        QCOMPARE(Fibonacci(method, n, turns, out.data(), &cost), 0);
+        QVERIFY(out.text().empty() && cost.additions == 0);
+    }
+    QCOMPARE(Fibonacci(0, 5, 1, out.data(), nullptr), 0);
+    QCOMPARE(Fibonacci(0, 5, 1, nullptr, &cost), 0);
 }
 
 void TestBignumModular::bases_data()

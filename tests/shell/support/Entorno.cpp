@@ -23,7 +23,7 @@ bool esInofensivo(const QString &texto)
 {
     static const QStringList conocidos{u"propagateSizeHints"_s, u"RHI backend"_s,
                                        u"XDG_RUNTIME_DIR"_s,    u"PulseAudio"_s,
-                                       u"GStreamer"_s,          u"does not support raise"_s,
+                                       u"GStreamer"_s,          u"does not support "_s,
                                        u"video surface"_s,      u"QObject::startTimer"_s};
     return std::any_of(conocidos.begin(), conocidos.end(),
                        [&](const QString &conocido) { return texto.contains(conocido); });
