@@ -249,7 +249,7 @@ Tarea<bool> FormCalc::puedeCerrarse()
 void FormCalc::guardaLoPendiente()
 {
     terminaEdiciones();
-    m_documento->guardaCopia();
+    FormLeccion::guardaLoPendiente();
 }
 
 void FormCalc::closeEvent(QCloseEvent *suceso)

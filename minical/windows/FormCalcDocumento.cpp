@@ -139,7 +139,9 @@ Tarea<> FormCalcDocumento::guardaComo()
 
 Tarea<bool> FormCalcDocumento::guardaDondeEstaba()
 {
-    return m_documento.ruta().isEmpty() ? preguntaRutaYGuarda() : guardaEn(m_documento.ruta());
+    if (m_documento.ruta().isEmpty())
+        co_return co_await preguntaRutaYGuarda();
+    co_return guardaEn(m_documento.ruta());
 }
 
 Tarea<bool> FormCalcDocumento::preguntaRutaYGuarda()
@@ -151,18 +153,33 @@ Tarea<bool> FormCalcDocumento::preguntaRutaYGuarda()
         m_ventana, Traduce(u"Guardar la hoja"_s), propuesta, filtrosDeHoja());
     if (elegido.ruta.isEmpty())
         co_return false;
-    co_return co_await guardaEn(elegido.ruta);
+    co_return guardaEn(elegido.ruta);
 }
 
-Tarea<bool> FormCalcDocumento::guardaEn(QString ruta)
+bool FormCalcDocumento::guardaEn(const QString &ruta)
 {
-    if (!conReloj([&] { return m_documento.guarda(ruta, m_rejilla.anchos()); })) {
+    const bool guardada = escribe([&] {
+        if (conReloj([&] { return m_documento.guarda(ruta, m_rejilla.anchos()); }))
+            return true;
         avisa(Traduce(u"La hoja es demasiado grande para guardarla."_s));
-        co_return false;
+        return false;
+    });
+    if (guardada) {
+        recuerdaCarpeta(ruta);
+        m_copia.cambia();
     }
-    recuerdaCarpeta(ruta);
-    m_copia.cambia();
-    co_return true;
+    return guardada;
+}
+
+/// Writes a file; of one that cannot be written, says why.
+bool FormCalcDocumento::escribe(const std::function<bool()> &accion)
+{
+    try {
+        return accion();
+    } catch (const ErrorEjecucion &error) {
+        informaNoGuardado(m_ventana, error);
+        return false;
+    }
 }
 
 Tarea<> FormCalcDocumento::exporta()
@@ -175,8 +192,10 @@ Tarea<> FormCalcDocumento::exporta()
         filtros);
     if (elegido.ruta.isEmpty())
         co_return;
-    conReloj([&] {
+    escribe([&] {
+        const RelojDeArena reloj;
         escribeArchivo(elegido.ruta, csvDeHoja(m_hoja, elegido.filtro == 0 ? u',' : u'.'));
+        return true;
     });
 }
 

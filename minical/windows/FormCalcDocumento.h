@@ -5,6 +5,7 @@
 #include "shell/core/run/Tarea.h"
 
 #include <QObject>
+#include <functional>
 
 class FormCalcRejilla;
 class QWidget;
@@ -37,18 +38,17 @@ public:
 
     /// The sheet has changed: the copy of it follows.
     void cambia();
-    /// Brings the copy up to date at once. Throws what CopiaDeTrabajo throws.
-    void guardaCopia() { m_copia.guarda(); }
 
 Q_SIGNALS:
     /// Another sheet stands in the window.
     void abierta();
 
 private:
-    Tarea<bool> guardaEn(QString ruta);
+    bool guardaEn(const QString &ruta);
     Tarea<bool> guardaDondeEstaba();
     Tarea<bool> preguntaRutaYGuarda();
     bool muestra(const DocumentoDeHoja::Leida &leida, const QString &ruta);
+    bool escribe(const std::function<bool()> &accion);
     void avisa(const QString &texto);
     void recuerdaCarpeta(const QString &ruta);
     QString carpetaPropuesta() const;

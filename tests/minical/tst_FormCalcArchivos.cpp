@@ -84,7 +84,9 @@ private Q_SLOTS:
     {
         m->entra(u"A1", u"5"_s);
         guarda(u"no/existe.minical"_s);
-        QVERIFY(Entorno::grabadora().unico().texto.contains(u"existe.minical"_s));
+        const auto mensaje = Entorno::grabadora().unico();
+        QVERIFY(mensaje.texto.contains(u"existe.minical"_s));
+        QCOMPARE(mensaje.titulo, u"No se pudo guardar"_s);
         QCOMPARE((*m)->windowTitle(), u"Mini hoja de cálculo *"_s);
         // Nor when the window is closed.
         Entorno::grabadora().guardados = {Guardado::Guardar};
@@ -217,6 +219,9 @@ private Q_SLOTS:
         m->boton(u"Exportar"_s);
         QCOMPARE(Entorno::grabadora().filtrosPedidos.constLast().size(), 2);
         QTEST(lee(u"hoja.csv"_s), "texto");
+        Entorno::grabadora().archivos = {{ruta(u"no/hoja.csv"_s), filtro}};
+        m->boton(u"Exportar"_s);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"No se pudo guardar"_s);
         // Exporting saves nothing.
         QVERIFY((*m)->windowTitle().endsWith(u'*'));
     }
