@@ -167,6 +167,41 @@ BIGNUM_API int32_t ZEval(const char *expression, char *out);
 /* The same over the rationals, in lowest terms: "/" is exact and "%" needs whole operands. */
 BIGNUM_API int32_t QEval(const char *expression, char *out);
 
+/* Why QEval gives no value. */
+enum {
+    BIGNUM_NO_FAULT = 0,         /* it gives one */
+    BIGNUM_MISSING_OPERAND = 1,  /* a number or an opening bracket should stand there */
+    BIGNUM_MISSING_OPERATOR = 2, /* an operator should stand before it */
+    BIGNUM_MISPLACED = 3,        /* a bracket or ";" where it means nothing */
+    BIGNUM_UNKNOWN = 4,          /* no number, no operator and no function */
+    BIGNUM_BAD_ARGUMENTS = 5,    /* a function without its brackets or with too many arguments */
+    BIGNUM_ZERO_DIVISION = 6,
+    BIGNUM_NOT_WHOLE = 7,     /* a fraction where the operation needs whole numbers */
+    BIGNUM_OUT_OF_DOMAIN = 8, /* a factorial or a function of a number that it is not defined for */
+    BIGNUM_TOO_LARGE = 9,     /* a value of too many digits, a text too long, brackets too deep */
+    BIGNUM_TOO_SLOW = 10      /* it takes too long */
+};
+
+/* The first fault on the way through an expression. 1 to 5 are about a part of it, which begins
+ * behind `*start` bytes and is `*length` bytes long (0 at the end of the text); both are 0
+ * otherwise. It looks for a tenth of a second, a single long operation aside; then it is
+ * BIGNUM_TOO_SLOW. Also -1 when a pointer is null or memory ran out. */
+BIGNUM_API int32_t QEvalFault(const char *expression, int32_t *start, int32_t *length);
+
+/* A function of expressions. Each has two names, which may be the same. */
+typedef struct BignumFunction
+{
+    const char *spanish;
+    const char *international;
+    const char *description; /* in Spanish, UTF-8 */
+    int32_t minArguments;
+    int32_t maxArguments; /* INT32_MAX: any number */
+} BignumFunction;
+
+/* The functions of ZEval and QEval, one by one: fills `out` with the one at `index`, counted from
+ * 0, and returns 1; 0 behind the last one. The texts live as long as the library. */
+BIGNUM_API int32_t EvalFunction(int32_t index, BignumFunction *out);
+
 /* Compares two rationals: 2 when b > a, 1 when a > b, 0 when they are equal, -1 when one of them is
  * no number. The empty text counts as 0 here. */
 BIGNUM_API int32_t BMax(const char *a, const char *b);

@@ -309,6 +309,56 @@ private Q_SLOTS:
         QCOMPARE(evaluated(QEval, expression.toStdString()), "fails");
     }
 
+    void faults_data()
+    {
+        QTest::addColumn<QByteArray>("expression");
+        QTest::addColumn<int>("fault");
+        QTest::addColumn<QByteArray>("where");
+        const auto row = [](const QByteArray &expression, int fault, const char *where = "") {
+            QTest::newRow(expression.left(20).constData())
+                << expression << fault << QByteArray(where);
+        };
+        row("1/2", BIGNUM_NO_FAULT);
+        row("2**3", BIGNUM_MISSING_OPERAND, "*");
+        row("2+", BIGNUM_MISSING_OPERAND);
+        row("", BIGNUM_MISSING_OPERAND);
+        row("5 6", BIGNUM_MISSING_OPERATOR, "6");
+        row("1.000.000", BIGNUM_MISSING_OPERATOR, ".000");
+        row("(5 6)", BIGNUM_MISSING_OPERATOR, "6");
+        row("2)", BIGNUM_MISPLACED, ")");
+        row("(2]", BIGNUM_MISPLACED, "]");
+        row("1;2", BIGNUM_MISPLACED, ";");
+        row("1e3", BIGNUM_UNKNOWN, "e");
+        row("1<2", BIGNUM_UNKNOWN, "<");
+        row("5.", BIGNUM_UNKNOWN, "5.");
+        row("seno(1)", BIGNUM_UNKNOWN, "seno");
+        row("1+fi", BIGNUM_BAD_ARGUMENTS, "fi");
+        row("raiz(1;2)", BIGNUM_BAD_ARGUMENTS, "raiz");
+        row("1/(2-2)", BIGNUM_ZERO_DIVISION);
+        row("5%0", BIGNUM_ZERO_DIVISION);
+        row("2^70%0", BIGNUM_ZERO_DIVISION);
+        row("0^-1", BIGNUM_ZERO_DIVISION);
+        row("1/2%3", BIGNUM_NOT_WHOLE);
+        row("2^(1/2)", BIGNUM_NOT_WHOLE);
+        row("(-1)!", BIGNUM_OUT_OF_DOMAIN);
+        row("raiz(-1)", BIGNUM_OUT_OF_DOMAIN);
+        row("fi(0)", BIGNUM_OUT_OF_DOMAIN);
+        row("9^9^9", BIGNUM_TOO_LARGE);
+        row("10^24575", BIGNUM_TOO_LARGE);
+        row(QByteArray(2000, '('), BIGNUM_TOO_LARGE);
+        row("sigprimo(10^20000)", BIGNUM_TOO_SLOW);
+    }
+    void faults()
+    {
+        QFETCH(QByteArray, expression);
+        int32_t start = -1;
+        int32_t length = -1;
+        QTEST(int(QEvalFault(expression.constData(), &start, &length)), "fault");
+        QTEST(expression.mid(start, length), "where");
+        QCOMPARE(evaluated(QEval, expression.toStdString()) == "fails",
+                 QTest::currentDataTag() != QByteArray("1/2"));
+    }
+
     void growingDenominators()
     {
         std::string text = "0";
@@ -335,6 +385,17 @@ private Q_SLOTS:
         for (const char *onTheWay : {"10^24574*9-10^24574*9", "2^81638-2^81638", "2^81639-2^81639"})
             QCOMPARE(evaluated(QEval, onTheWay), evaluated(ZEval, onTheWay));
         QCOMPARE(evaluated(ZEval, repeated("(", 900) + "7" + repeated(")", 900)), "7");
+    }
+
+    void nulls()
+    {
+        std::array<char, kBuffer> buffer{};
+        QCOMPARE(ZEval(nullptr, buffer.data()), 0);
+        QCOMPARE(ZEval("1", nullptr), 0);
+        QCOMPARE(QEval("1", nullptr), 0);
+        int32_t place = 0;
+        QCOMPARE(QEvalFault(nullptr, &place, &place), -1);
+        QCOMPARE(EvalFunction(0, nullptr), 0);
     }
 
     void randomExpressions_data()
