@@ -1,15 +1,15 @@
 #include "bignum/bignum.h"
 
-#include "bignum/Decimal.h"
-#include "bignum/Expression.h"
-#include "bignum/Factorization.h"
-#include "bignum/ModularArithmetic.h"
-#include "bignum/NumberText.h"
-#include "bignum/Primality.h"
-#include "bignum/PrimeList.h"
-#include "bignum/QuadraticSieve.h"
-#include "bignum/RandomPrime.h"
-#include "bignum/TextCheck.h"
+#include "bignum/arithmetic/ModularArithmetic.h"
+#include "bignum/expressions/Expression.h"
+#include "bignum/factoring/Factorization.h"
+#include "bignum/factoring/QuadraticSieve.h"
+#include "bignum/primes/Primality.h"
+#include "bignum/primes/PrimeList.h"
+#include "bignum/primes/RandomPrime.h"
+#include "bignum/text/Decimal.h"
+#include "bignum/text/NumberText.h"
+#include "bignum/text/TextCheck.h"
 
 #include <algorithm>
 #include <atomic>

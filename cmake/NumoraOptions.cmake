@@ -29,15 +29,25 @@ target_compile_definitions(numora_qt_options INTERFACE
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
 # Qt's headers compiled once for all (NUMORA_PCH): half the time of a build from nothing. A target takes
-# them by numora_precompile; its definitions must be those of this one and more.
+# them by numora_precompile, or by numora_precompile_core where it may not know widgets; its definitions
+# must be those of the precompiled target and more.
 if(NUMORA_PCH)
     file(WRITE "${CMAKE_BINARY_DIR}/precompiled.cpp" "")
-    add_library(numora_precompiled OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
-    target_link_libraries(numora_precompiled PRIVATE numora_qt_options Qt6::Widgets)
-    target_precompile_headers(numora_precompiled PRIVATE <QtWidgets>)
+    foreach(kind core widgets)
+        add_library(numora_precompiled_${kind} OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
+    endforeach()
+    target_link_libraries(numora_precompiled_core PRIVATE numora_qt_options Qt6::Core)
+    target_precompile_headers(numora_precompiled_core PRIVATE <QtCore>)
+    target_link_libraries(numora_precompiled_widgets PRIVATE numora_qt_options Qt6::Widgets)
+    target_precompile_headers(numora_precompiled_widgets PRIVATE <QtWidgets>)
 endif()
+function(numora_precompile_core TARGET)
+    if(NUMORA_PCH)
+        target_precompile_headers(${TARGET} REUSE_FROM numora_precompiled_core)
+    endif()
+endfunction()
 function(numora_precompile TARGET)
     if(NUMORA_PCH)
-        target_precompile_headers(${TARGET} REUSE_FROM numora_precompiled)
+        target_precompile_headers(${TARGET} REUSE_FROM numora_precompiled_widgets)
     endif()
 endfunction()

@@ -1,6 +1,6 @@
 #include "minical/ArchivoDeHoja.h"
 
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 #include "minical/HojaDeCalculo.h"
 
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
 #include "minical/ColVariables.h"
 
-#include "bignum/ErrorEjecucion.h"
+#include "bignum/gateway/ErrorEjecucion.h"
 
 #include <iterator>
 

@@ -1,10 +1,10 @@
 #include "minical/ExplicacionDeCelda.h"
 
-#include "bignum/ErrorEjecucion.h"
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/ModBignum.h"
 #include "minical/HojaDeCalculo.h"
-#include "shell/Formatos.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
 
 #include <QRegularExpression>
 

@@ -1,7 +1,7 @@
 #include "minical/ExportaCSV.h"
 
 #include "minical/HojaDeCalculo.h"
-#include "shell/TextoDeRejilla.h"
+#include "shell/core/TextoDeRejilla.h"
 
 QByteArray csvDeHoja(const HojaDeCalculo &hoja, QChar signo)
 {

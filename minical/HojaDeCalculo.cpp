@@ -1,10 +1,10 @@
 #include "minical/HojaDeCalculo.h"
 
-#include "bignum/ErrorEjecucion.h"
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/ModBignum.h"
 #include "minical/HojaGuardada.h"
 #include "minical/Sustitucion.h"
-#include "shell/Corrida.h"
+#include "shell/core/Corrida.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Leccion.h"
+#include "shell/frame/Leccion.h"
 
 /// The lessons of the program, in the order of the menu, and the scenes of its gallery. A lesson
 /// without a factory has its row disabled.

@@ -1,8 +1,8 @@
-#include "shell/Main.h"
+#include "shell/start/Main.h"
 #include "numora/Lecciones.h"
-#include "shell/FormPrincipal.h"
-#include "shell/Galeria.h"
-#include "shell/InstanciaUnica.h"
+#include "shell/core/system/InstanciaUnica.h"
+#include "shell/start/FormPrincipal.h"
+#include "shell/start/Galeria.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

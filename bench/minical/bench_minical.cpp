@@ -1,7 +1,7 @@
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 #include "minical/ArchivoDeHoja.h"
-#include "minical/FormCalc.h"
 #include "minical/HojaDeCalculo.h"
+#include "minical/windows/FormCalc.h"
 
 #include <QApplication>
 #include <QTableView>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bignum/Moneda.h"
+#include "bignum/gateway/Moneda.h"
 
 /// The two trial divisions of the lesson as bare loops, without yields, stop flag or collection:
 /// what the real ones are measured against. Each gives the number of divisors tried.

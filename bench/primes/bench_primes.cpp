@@ -3,7 +3,7 @@
 #include "PlainLoops.h"
 #include "lessons/primes/CribaSegmentada.h"
 #include "lessons/primes/DivisionTentativa.h"
-#include "shell/Corrida.h"
+#include "shell/core/Corrida.h"
 
 #include <QCoreApplication>
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "GmpSteps.h"
 #include "RecursiveAck.h"
-#include "lessons/recursion/Ack.h"
-#include "lessons/recursion/Capicua.h"
-#include "lessons/recursion/Granizo.h"
+#include "lessons/recursion/functions/Ack.h"
+#include "lessons/recursion/functions/Capicua.h"
+#include "lessons/recursion/functions/Granizo.h"
 
 #include <QList>
 #include <algorithm>

@@ -1,11 +1,11 @@
-#include "bignum/ModBignum.h"
-#include "bignum/Windows1252.h"
 #include "bignum/bignum.h"
-#include "lessons/rsa/Buzon.h"
-#include "lessons/rsa/ClsRSA.h"
-#include "lessons/rsa/ColMensajes.h"
-#include "lessons/rsa/TextoEnBloques.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/ModBignum.h"
+#include "bignum/gateway/Windows1252.h"
+#include "lessons/rsa/key/ClsRSA.h"
+#include "lessons/rsa/key/TextoEnBloques.h"
+#include "lessons/rsa/mailbox/Buzon.h"
+#include "lessons/rsa/mailbox/ColMensajes.h"
+#include "shell/core/ModGlobal.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,11 +1,11 @@
 #include "bench/shell/Hijo.h"
 
 #include "numora/Lecciones.h"
-#include "shell/Corrida.h"
-#include "shell/FormLeccion.h"
-#include "shell/FormPrincipal.h"
-#include "shell/InstanciaUnica.h"
-#include "shell/Main.h"
+#include "shell/core/Corrida.h"
+#include "shell/core/system/InstanciaUnica.h"
+#include "shell/frame/FormLeccion.h"
+#include "shell/start/FormPrincipal.h"
+#include "shell/start/Main.h"
 
 #include <QApplication>
 #include <QFile>

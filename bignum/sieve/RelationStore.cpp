@@ -178,12 +178,16 @@ Relation RelationStore::relation(std::size_t i) const
     relation.large[0] = unpack(in);
     relation.large[1] = unpack(in);
     mpz_import(relation.root.get_mpz_t(), m_rootSize, -1, 1, 0, 0, in);
-    in += m_rootSize;
-    relation.factors.resize(unpack(in));
-    std::uint32_t last = 0;
-    for (std::uint32_t &factor : relation.factors)
-        factor = last += unpack(in);
+    appendFactors(i, relation.factors);
     return relation;
+}
+
+void RelationStore::appendFactors(std::size_t i, std::vector<std::uint32_t> &factors) const
+{
+    const Byte *in = rootBytes(i) + m_rootSize;
+    const std::size_t end = factors.size() + unpack(in);
+    for (std::uint32_t last = 0; factors.size() < end;)
+        factors.push_back(last += unpack(in));
 }
 
 std::size_t RelationStore::bytesUsed() const

@@ -37,6 +37,8 @@ public:
     Relation relation(std::size_t i) const;
     /// The large primes of relation number i alone.
     std::array<std::uint32_t, 2> largePrimes(std::size_t i) const;
+    /// Its factors alone, put behind what is in the list.
+    void appendFactors(std::size_t i, std::vector<std::uint32_t> &factors) const;
 
     const LargePrimeGraph &graph() const { return m_graph; }
     std::size_t bytesUsed() const;

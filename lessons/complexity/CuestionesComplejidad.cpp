@@ -1,9 +1,9 @@
 #include "lessons/complexity/CuestionesComplejidad.h"
 
-#include "bignum/Azar.h"
-#include "bignum/ModBignum.h"
-#include "shell/Formatos.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/Azar.h"
+#include "bignum/gateway/ModBignum.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
 

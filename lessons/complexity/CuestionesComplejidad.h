@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Cuestion.h"
+#include "shell/core/Cuestion.h"
 
 /// Draws n and asks for the number of calls of the recursive F(n).
 Cuestion sorteaLlamadas();

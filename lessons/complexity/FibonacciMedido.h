@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Corrida.h"
+#include "shell/core/Corrida.h"
 
 #include <QtGlobal>
 

@@ -1,7 +1,7 @@
 #include "lessons/congruences/ModeloCongruencias.h"
 
-#include "shell/Formatos.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
 
 #include <QLocale>
 #include <QRegularExpression>

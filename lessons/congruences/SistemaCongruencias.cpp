@@ -1,8 +1,8 @@
 #include "lessons/congruences/SistemaCongruencias.h"
 
-#include "bignum/Azar.h"
-#include "bignum/ModBignum.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/Azar.h"
+#include "bignum/gateway/ModBignum.h"
+#include "shell/core/ModGlobal.h"
 
 #include <QRegularExpression>
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "lessons/euclid/EcuacionDiofantica.h"
 
-#include "bignum/ErrorEjecucion.h"
-#include "shell/Formatos.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
 
 #include <cmath>
 

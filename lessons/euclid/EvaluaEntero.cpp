@@ -1,6 +1,6 @@
 #include "lessons/euclid/EvaluaEntero.h"
 
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 
 Moneda EvaluaEntero(const QString &expresion, Moneda maximo)
 {

@@ -1,7 +1,7 @@
 #include "lessons/euclid/TablaEuclides.h"
 
-#include "shell/Formatos.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,11 +1,11 @@
 #include "lessons/fibonacci/CuestionesFibonacci.h"
 
-#include "bignum/Azar.h"
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/Azar.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/fibonacci/ValorEntero.h"
 #include "lessons/fibonacci/Zeckendorf.h"
-#include "shell/Formatos.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
 
 #include <numeric>
 

@@ -1,6 +1,6 @@
 #include "lessons/fibonacci/IdentidadesFibonacci.h"
 
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/fibonacci/ValorEntero.h"
 
 #include <algorithm>

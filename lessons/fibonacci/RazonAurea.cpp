@@ -1,8 +1,8 @@
 #include "lessons/fibonacci/RazonAurea.h"
 
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/fibonacci/ValorEntero.h"
-#include "shell/Formatos.h"
+#include "shell/core/Formatos.h"
 
 #include <cmath>
 #include <numbers>

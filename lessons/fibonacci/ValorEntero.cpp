@@ -1,6 +1,6 @@
 #include "lessons/fibonacci/ValorEntero.h"
 
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 
 QString valorEntero(const QString &expresion)
 {

@@ -1,6 +1,6 @@
 #include "lessons/primes/ColFactores.h"
 
-#include "bignum/ErrorEjecucion.h"
+#include "bignum/gateway/ErrorEjecucion.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "lessons/primes/CribaSegmentada.h"
 
-#include "shell/Corrida.h"
+#include "shell/core/Corrida.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "lessons/primes/CuestionDosPrimos.h"
 
-#include "bignum/Azar.h"
+#include "bignum/gateway/Azar.h"
 
 #include <cmath>
 #include <cstdlib>

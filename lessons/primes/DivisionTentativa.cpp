@@ -1,8 +1,8 @@
 #include "lessons/primes/DivisionTentativa.h"
 
-#include "bignum/ErrorEjecucion.h"
-#include "shell/Corrida.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "shell/core/Corrida.h"
+#include "shell/core/ModGlobal.h"
 
 #include <cmath>
 #include <limits>

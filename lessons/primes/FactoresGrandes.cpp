@@ -1,6 +1,6 @@
 #include "lessons/primes/FactoresGrandes.h"
 
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 
 #include <cmath>
 

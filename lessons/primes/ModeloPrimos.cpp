@@ -1,6 +1,6 @@
 #include "lessons/primes/ModeloPrimos.h"
 
-#include "shell/Formatos.h"
+#include "shell/core/Formatos.h"
 
 void ModeloPrimos::pon(std::vector<std::uint32_t> primos)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bignum/Moneda.h"
+#include "bignum/gateway/Moneda.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,8 +1,8 @@
 #include "lessons/recursion/EntradaNumerica.h"
 
-#include "bignum/ErrorEjecucion.h"
-#include "bignum/ModBignum.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/ModBignum.h"
+#include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
 

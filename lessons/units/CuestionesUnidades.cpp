@@ -1,11 +1,11 @@
 #include "lessons/units/CuestionesUnidades.h"
 
-#include "bignum/Azar.h"
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/Azar.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/GrupoUnidades.h"
 #include "lessons/units/NotacionZn.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/ModGlobal.h"
 
 #include <numeric>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Cuestion.h"
+#include "shell/core/Cuestion.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 #include "lessons/units/FuncionEuler.h"
 
-#include "bignum/ModBignum.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/ModBignum.h"
+#include "shell/core/ModGlobal.h"
 
 #include <QStringList>
 

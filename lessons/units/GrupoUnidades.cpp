@@ -1,6 +1,6 @@
 #include "lessons/units/GrupoUnidades.h"
 
-#include "bignum/ErrorEjecucion.h"
+#include "bignum/gateway/ErrorEjecucion.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,7 +1,7 @@
 #include "lessons/units/InversoGrande.h"
 
-#include "bignum/Azar.h"
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/Azar.h"
+#include "bignum/gateway/ModBignum.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "lessons/units/ModeloUnidades.h"
 
-#include "shell/Formatos.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
 
 #include <utility>
 

@@ -1,10 +1,10 @@
 #include "lessons/units/ResumenUnidades.h"
 
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/NotacionZn.h"
-#include "shell/Formatos.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
 
 #include <numeric>
 

@@ -1,8 +1,8 @@
-#include "bignum/ErrorEjecucion.h"
-#include "bignum/ModBignum.h"
-#include "lessons/rsa/ClsRSA.h"
-#include "shell/ModGlobal.h"
-#include "shell/Rutas.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/ModBignum.h"
+#include "lessons/rsa/key/ClsRSA.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/core/Rutas.h"
 #include "tests/fuzz/FuzzTarget.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "bignum/ErrorEjecucion.h"
+#include "bignum/gateway/ErrorEjecucion.h"
 #include "minical/ArchivoDeHoja.h"
 #include "minical/HojaDeCalculo.h"
 #include "tests/fuzz/FuzzTarget.h"

@@ -1,6 +1,6 @@
-#include "bignum/ErrorEjecucion.h"
-#include "lessons/rsa/ArchivoMensaje.h"
-#include "lessons/rsa/TextoEnBloques.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "lessons/rsa/key/TextoEnBloques.h"
+#include "lessons/rsa/mailbox/ArchivoMensaje.h"
 #include "tests/fuzz/FuzzTarget.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "shell/Perfil.h"
+#include "shell/core/Perfil.h"
 #include "tests/fuzz/FuzzTarget.h"
 
 using namespace Qt::Literals::StringLiterals;

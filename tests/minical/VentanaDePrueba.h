@@ -1,6 +1,6 @@
 #pragma once
 
-#include "minical/FormCalc.h"
+#include "minical/windows/FormCalc.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractButton>

@@ -1,4 +1,4 @@
-#include "shell/Corrida.h"
+#include "shell/core/Corrida.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
 

@@ -1,5 +1,5 @@
-#include "bignum/ModBignum.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/ModBignum.h"
+#include "shell/core/ModGlobal.h"
 #include "tests/minical/VentanaDePrueba.h"
 
 #include <QAbstractItemModelTester>

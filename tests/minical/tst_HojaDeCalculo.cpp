@@ -1,9 +1,9 @@
-#include "bignum/ErrorEjecucion.h"
+#include "bignum/gateway/ErrorEjecucion.h"
 #include "minical/ExportaCSV.h"
 #include "minical/HojaGuardada.h"
 #include "minical/LineasDeHoja.h"
 #include "minical/Sustitucion.h"
-#include "shell/Corrida.h"
+#include "shell/core/Corrida.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
 

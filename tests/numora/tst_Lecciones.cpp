@@ -1,8 +1,8 @@
-#include "lessons/rsa/ClsRSA.h"
+#include "lessons/rsa/key/ClsRSA.h"
 #include "numora/Lecciones.h"
-#include "shell/FormLeccion.h"
-#include "shell/FormPrincipal.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/FormLeccion.h"
+#include "shell/start/FormPrincipal.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractButton>

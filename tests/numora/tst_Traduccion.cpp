@@ -1,8 +1,8 @@
 #include "numora/Lecciones.h"
-#include "shell/FormLeccion.h"
-#include "shell/FormPrincipal.h"
-#include "shell/ModGlobal.h"
-#include "shell/Perfil.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/core/Perfil.h"
+#include "shell/frame/FormLeccion.h"
+#include "shell/start/FormPrincipal.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractButton>

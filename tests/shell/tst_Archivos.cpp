@@ -1,8 +1,8 @@
-#include "bignum/ErrorEjecucion.h"
-#include "shell/Archivos.h"
-#include "shell/Perfil.h"
-#include "shell/Rutas.h"
-#include "shell/TextoDeRejilla.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "shell/core/Perfil.h"
+#include "shell/core/Rutas.h"
+#include "shell/core/TextoDeRejilla.h"
+#include "shell/core/system/Archivos.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
-#include "shell/FormPrincipal.h"
-#include "shell/InstanciaUnica.h"
-#include "shell/Main.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/core/system/InstanciaUnica.h"
+#include "shell/start/FormPrincipal.h"
+#include "shell/start/Main.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QDir>

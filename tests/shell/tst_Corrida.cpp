@@ -1,4 +1,4 @@
-#include "shell/Corrida.h"
+#include "shell/core/Corrida.h"
 
 #include <QElapsedTimer>
 #include <QTest>

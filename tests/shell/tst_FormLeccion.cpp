@@ -1,8 +1,8 @@
-#include "bignum/ErrorEjecucion.h"
-#include "shell/Evento.h"
-#include "shell/FormLeccion.h"
-#include "shell/FormPrincipal.h"
-#include "shell/NavegadorPagina.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "shell/frame/Evento.h"
+#include "shell/frame/FormLeccion.h"
+#include "shell/frame/NavegadorPagina.h"
+#include "shell/start/FormPrincipal.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QDir>

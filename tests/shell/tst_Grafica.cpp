@@ -1,4 +1,4 @@
-#include "shell/Grafica.h"
+#include "shell/plot/Grafica.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>

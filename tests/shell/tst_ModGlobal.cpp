@@ -1,7 +1,7 @@
-#include "bignum/ErrorEjecucion.h"
-#include "shell/Formatos.h"
-#include "shell/Main.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/start/Main.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QFile>

@@ -1,5 +1,5 @@
-#include "shell/Aspecto.h"
-#include "shell/NavegadorPagina.h"
+#include "shell/frame/NavegadorPagina.h"
+#include "shell/look/Aspecto.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QScrollBar>

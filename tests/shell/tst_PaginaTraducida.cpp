@@ -1,7 +1,7 @@
-#include "shell/FormLeccion.h"
-#include "shell/ModGlobal.h"
-#include "shell/NavegadorPagina.h"
-#include "shell/PaginaTraducida.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/core/PaginaTraducida.h"
+#include "shell/frame/FormLeccion.h"
+#include "shell/frame/NavegadorPagina.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QDir>

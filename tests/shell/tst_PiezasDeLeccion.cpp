@@ -1,8 +1,8 @@
-#include "shell/EnteroAcotado.h"
-#include "shell/Formatos.h"
-#include "shell/ModeloFilas.h"
-#include "shell/PanelCuestiones.h"
-#include "shell/TextoDeDuracion.h"
+#include "shell/core/EnteroAcotado.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModeloFilas.h"
+#include "shell/core/TextoDeDuracion.h"
+#include "shell/frame/PanelCuestiones.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>

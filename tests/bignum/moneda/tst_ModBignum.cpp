@@ -1,6 +1,6 @@
-#include "bignum/ErrorEjecucion.h"
-#include "bignum/ModBignum.h"
-#include "bignum/Windows1252.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/ModBignum.h"
+#include "bignum/gateway/Windows1252.h"
 
 #include <QTest>
 

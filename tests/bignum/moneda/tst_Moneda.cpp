@@ -1,6 +1,6 @@
-#include "bignum/Azar.h"
-#include "bignum/ErrorEjecucion.h"
-#include "bignum/Moneda.h"
+#include "bignum/gateway/Azar.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/Moneda.h"
 
 #include <QTest>
 #include <limits>

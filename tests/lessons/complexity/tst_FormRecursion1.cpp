@@ -1,6 +1,6 @@
-#include "lessons/complexity/FormRecursion1.h"
-#include "lessons/complexity/FormRecursion1DibujoArbol.h"
-#include "shell/Grafica.h"
+#include "lessons/complexity/windows/FormRecursion1.h"
+#include "lessons/complexity/windows/FormRecursion1DibujoArbol.h"
+#include "shell/plot/Grafica.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QCheckBox>

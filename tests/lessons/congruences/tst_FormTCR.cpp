@@ -1,6 +1,6 @@
-#include "lessons/congruences/FormTCR.h"
-#include "shell/CampoLargo.h"
-#include "shell/Rejilla.h"
+#include "lessons/congruences/windows/FormTCR.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/grid/Rejilla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QClipboard>

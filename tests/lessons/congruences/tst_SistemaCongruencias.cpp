@@ -1,4 +1,4 @@
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/congruences/ModeloCongruencias.h"
 #include "lessons/congruences/SistemaCongruencias.h"
 

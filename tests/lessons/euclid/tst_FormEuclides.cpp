@@ -1,6 +1,6 @@
-#include "lessons/euclid/FormEuclides.h"
-#include "shell/Rejilla.h"
-#include "shell/ReproductorAVI.h"
+#include "lessons/euclid/windows/FormEuclides.h"
+#include "shell/controls/ReproductorAVI.h"
+#include "shell/grid/Rejilla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>

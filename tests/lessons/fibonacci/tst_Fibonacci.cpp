@@ -1,4 +1,4 @@
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/fibonacci/CalculoFibonacci.h"
 #include "lessons/fibonacci/CuestionesFibonacci.h"
 #include "lessons/fibonacci/IdentidadesFibonacci.h"

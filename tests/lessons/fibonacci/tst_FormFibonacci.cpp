@@ -1,9 +1,9 @@
-#include "bignum/ModBignum.h"
-#include "lessons/fibonacci/FormFibonacci.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/fibonacci/Zeckendorf.h"
-#include "shell/CampoLargo.h"
-#include "shell/Grafica.h"
-#include "shell/ReproductorAVI.h"
+#include "lessons/fibonacci/windows/FormFibonacci.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/controls/ReproductorAVI.h"
+#include "shell/plot/Grafica.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>

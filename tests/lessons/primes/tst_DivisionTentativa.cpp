@@ -1,8 +1,8 @@
-#include "bignum/ErrorEjecucion.h"
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/primes/DivisionTentativa.h"
 #include "lessons/primes/FactoresGrandes.h"
-#include "shell/Corrida.h"
+#include "shell/core/Corrida.h"
 
 #include <QTest>
 #include <random>

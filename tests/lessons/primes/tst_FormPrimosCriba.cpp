@@ -1,6 +1,6 @@
-#include "lessons/primes/FormPrimos.h"
-#include "shell/Rejilla.h"
-#include "shell/ReproductorAVI.h"
+#include "lessons/primes/windows/FormPrimos.h"
+#include "shell/controls/ReproductorAVI.h"
+#include "shell/grid/Rejilla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>

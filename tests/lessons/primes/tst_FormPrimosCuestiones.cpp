@@ -1,7 +1,7 @@
 #include "lessons/primes/CuestionDosPrimos.h"
-#include "lessons/primes/FormPrimos.h"
-#include "shell/CampoLargo.h"
-#include "shell/ReproductorAVI.h"
+#include "lessons/primes/windows/FormPrimos.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/controls/ReproductorAVI.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>

@@ -1,8 +1,8 @@
-#include "lessons/primes/FormPrimos.h"
-#include "shell/CampoLargo.h"
-#include "shell/Rejilla.h"
-#include "shell/ReproductorAVI.h"
-#include "shell/clsSesion.h"
+#include "lessons/primes/windows/FormPrimos.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/controls/ReproductorAVI.h"
+#include "shell/core/clsSesion.h"
+#include "shell/grid/Rejilla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>

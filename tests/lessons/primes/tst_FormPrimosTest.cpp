@@ -1,6 +1,6 @@
-#include "lessons/primes/FormPrimos.h"
-#include "shell/CampoLargo.h"
-#include "shell/Dibujo.h"
+#include "lessons/primes/windows/FormPrimos.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/controls/Dibujo.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>

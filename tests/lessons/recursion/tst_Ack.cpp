@@ -1,6 +1,6 @@
-#include "bignum/ErrorEjecucion.h"
-#include "lessons/recursion/Ack.h"
-#include "lessons/recursion/ModeloAck.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "lessons/recursion/functions/Ack.h"
+#include "lessons/recursion/functions/windows/ModeloAck.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>

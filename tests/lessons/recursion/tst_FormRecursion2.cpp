@@ -1,6 +1,6 @@
-#include "lessons/recursion/FormRecursion2.h"
-#include "shell/Dibujo.h"
-#include "shell/Grafica.h"
+#include "lessons/recursion/modular/windows/FormRecursion2.h"
+#include "shell/controls/Dibujo.h"
+#include "shell/plot/Grafica.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QClipboard>

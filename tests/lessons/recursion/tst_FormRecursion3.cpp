@@ -1,7 +1,7 @@
-#include "lessons/recursion/FormRecursion3.h"
-#include "shell/CampoLargo.h"
-#include "shell/Dibujo.h"
-#include "shell/Grafica.h"
+#include "lessons/recursion/functions/windows/FormRecursion3.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/controls/Dibujo.h"
+#include "shell/plot/Grafica.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QBrush>

@@ -1,8 +1,8 @@
-#include "bignum/ErrorEjecucion.h"
+#include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/recursion/EntradaNumerica.h"
-#include "lessons/recursion/ModeloValores.h"
-#include "lessons/recursion/SucesionModular.h"
-#include "lessons/recursion/TextoDeDefinicion.h"
+#include "lessons/recursion/modular/ModeloValores.h"
+#include "lessons/recursion/modular/SucesionModular.h"
+#include "lessons/recursion/modular/TextoDeDefinicion.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>

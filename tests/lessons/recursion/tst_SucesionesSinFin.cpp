@@ -1,6 +1,6 @@
-#include "lessons/recursion/Capicua.h"
-#include "lessons/recursion/Granizo.h"
-#include "lessons/recursion/ModeloGranizo.h"
+#include "lessons/recursion/functions/Capicua.h"
+#include "lessons/recursion/functions/Granizo.h"
+#include "lessons/recursion/functions/ModeloGranizo.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>

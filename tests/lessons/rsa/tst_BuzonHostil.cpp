@@ -1,8 +1,8 @@
-#include "lessons/rsa/ArchivoMensaje.h"
-#include "lessons/rsa/Borrador.h"
-#include "lessons/rsa/Buzon.h"
-#include "lessons/rsa/CarpetaBuzon.h"
-#include "lessons/rsa/ColMensajes.h"
+#include "lessons/rsa/mailbox/ArchivoMensaje.h"
+#include "lessons/rsa/mailbox/Borrador.h"
+#include "lessons/rsa/mailbox/Buzon.h"
+#include "lessons/rsa/mailbox/CarpetaBuzon.h"
+#include "lessons/rsa/mailbox/ColMensajes.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
 #include <QProcess>

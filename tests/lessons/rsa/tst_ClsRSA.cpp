@@ -1,8 +1,8 @@
-#include "bignum/ModBignum.h"
-#include "bignum/Windows1252.h"
-#include "lessons/rsa/ClsRSA.h"
-#include "lessons/rsa/Entero16.h"
-#include "lessons/rsa/TextoEnBloques.h"
+#include "bignum/gateway/ModBignum.h"
+#include "bignum/gateway/Windows1252.h"
+#include "lessons/rsa/key/ClsRSA.h"
+#include "lessons/rsa/key/Entero16.h"
+#include "lessons/rsa/key/TextoEnBloques.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
 using namespace Qt::Literals::StringLiterals;

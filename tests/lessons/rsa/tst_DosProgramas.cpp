@@ -1,4 +1,4 @@
-#include "shell/ModGlobal.h"
+#include "shell/core/ModGlobal.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
 #include <QProcess>

@@ -1,4 +1,4 @@
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 #include "tests/lessons/rsa/support/VentanaRSA.h"
 
 /// The own key, and texts encrypted with it.

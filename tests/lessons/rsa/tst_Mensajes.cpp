@@ -1,8 +1,8 @@
-#include "bignum/Windows1252.h"
-#include "lessons/rsa/ArchivoMensaje.h"
-#include "lessons/rsa/Buzon.h"
-#include "lessons/rsa/ColMensajes.h"
-#include "lessons/rsa/clsMensaje.h"
+#include "bignum/gateway/Windows1252.h"
+#include "lessons/rsa/mailbox/ArchivoMensaje.h"
+#include "lessons/rsa/mailbox/Buzon.h"
+#include "lessons/rsa/mailbox/ColMensajes.h"
+#include "lessons/rsa/mailbox/clsMensaje.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
 using namespace Qt::Literals::StringLiterals;

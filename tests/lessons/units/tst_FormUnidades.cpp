@@ -1,8 +1,8 @@
-#include "bignum/ModBignum.h"
-#include "lessons/units/FormUnidades.h"
-#include "shell/CampoLargo.h"
-#include "shell/Rejilla.h"
-#include "shell/ReproductorAVI.h"
+#include "bignum/gateway/ModBignum.h"
+#include "lessons/units/windows/FormUnidades.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/controls/ReproductorAVI.h"
+#include "shell/grid/Rejilla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>

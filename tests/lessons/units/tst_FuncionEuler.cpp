@@ -1,4 +1,4 @@
-#include "bignum/ModBignum.h"
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/InversoGrande.h"
 #include "tests/shell/support/Entorno.h"

@@ -1,4 +1,4 @@
-#include "bignum/ErrorEjecucion.h"
+#include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/units/GrupoUnidades.h"
 
 #include <QTest>

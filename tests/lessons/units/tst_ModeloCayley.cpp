@@ -1,5 +1,5 @@
-#include "bignum/ErrorEjecucion.h"
-#include "lessons/units/ModeloCayley.h"
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "lessons/units/windows/ModeloCayley.h"
 #include "tests/shell/support/Contraste.h"
 
 #include <QAbstractItemModelTester>

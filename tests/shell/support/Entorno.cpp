@@ -1,8 +1,8 @@
 #include "tests/shell/support/Entorno.h"
 
-#include "bignum/ModBignum.h"
-#include "shell/Main.h"
-#include "shell/ModGlobal.h"
+#include "bignum/gateway/ModBignum.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/start/Main.h"
 
 #include <QDir>
 #include <QLocale>

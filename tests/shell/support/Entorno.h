@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Interlocutor.h"
+#include "shell/frame/Interlocutor.h"
 
 #include <QApplication>
 #include <QStringList>

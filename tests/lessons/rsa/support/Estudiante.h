@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/Archivos.h"
-#include "shell/ModGlobal.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/core/system/Archivos.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QDir>

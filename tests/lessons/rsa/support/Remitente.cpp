@@ -1,5 +1,5 @@
-#include "lessons/rsa/ArchivoMensaje.h"
-#include "lessons/rsa/Buzon.h"
+#include "lessons/rsa/mailbox/ArchivoMensaje.h"
+#include "lessons/rsa/mailbox/Buzon.h"
 
 #include <QCoreApplication>
 

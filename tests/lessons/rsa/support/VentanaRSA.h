@@ -1,9 +1,9 @@
 #pragma once
 
-#include "lessons/rsa/FormClaveRSA.h"
-#include "lessons/rsa/FormRSA.h"
-#include "shell/CampoLargo.h"
-#include "shell/Rejilla.h"
+#include "lessons/rsa/windows/FormClaveRSA.h"
+#include "lessons/rsa/windows/FormRSA.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/grid/Rejilla.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
 #include <QCheckBox>

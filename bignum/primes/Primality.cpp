@@ -1,0 +1,40 @@
+#include "bignum/primes/Primality.h"
+
+#include "bignum/primes/PrimalityTests.h"
+#include "bignum/primes/SystemRandom.h"
+
+namespace bignum {
+
+namespace {
+
+constexpr std::size_t kWordBits = 64;
+
+bool fitsWord(const mpz_class &n)
+{
+    return mpz_sizeinbase(n.get_mpz_t(), 2) <= kWordBits;
+}
+
+/// A uniform number in 2..n-2.
+mpz_class randomBase(const mpz_class &n)
+{
+    // 64 bits more than n has make the bias of the reduction negligible.
+    const mpz_class drawn = randomBits(mpz_sizeinbase(n.get_mpz_t(), 2) + kWordBits);
+    return drawn % (n - 3) + 2;
+}
+
+} // namespace
+
+bool isPrime(const mpz_class &n)
+{
+    if (n < 2)
+        return false;
+    if (fitsWord(n))
+        return isPrime(static_cast<std::uint64_t>(n.get_ui()));
+
+    constexpr unsigned long oddPrimesTo53 = 16294579238595022365UL; // their product
+    if (mpz_even_p(n.get_mpz_t()) || mpz_gcd_ui(nullptr, n.get_mpz_t(), oddPrimesTo53) != 1)
+        return false;
+    return passesStrongTest(n, 2) && passesLucasTest(n) && passesStrongTest(n, randomBase(n));
+}
+
+} // namespace bignum

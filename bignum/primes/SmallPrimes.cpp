@@ -1,0 +1,47 @@
+#include "bignum/primes/SmallPrimes.h"
+
+#include <limits>
+#include <primesieve.hpp>
+
+namespace bignum {
+
+namespace {
+
+SmallPrimes makeTable()
+{
+    SmallPrimes table;
+    primesieve::generate_primes(3, kSmallPrimeLimit, &table.primes);
+    PrimeGroup group{1, 0, 0};
+    for (const std::uint32_t prime : table.primes) {
+        if (group.product > std::numeric_limits<mp_limb_t>::max() / prime) {
+            table.groups.push_back(group);
+            group = {1, group.first + group.count, 0};
+        }
+        group.product *= prime;
+        ++group.count;
+    }
+    table.groups.push_back(group);
+    return table;
+}
+
+} // namespace
+
+const SmallPrimes &smallPrimes()
+{
+    static const SmallPrimes table = makeTable();
+    return table;
+}
+
+bool hasSmallFactor(const mpz_class &n)
+{
+    const SmallPrimes &table = smallPrimes();
+    for (const PrimeGroup &group : table.groups) {
+        const mp_limb_t residue = mpz_fdiv_ui(n.get_mpz_t(), group.product);
+        for (std::uint32_t i = 0; i < group.count; ++i)
+            if (residue % table.primes[group.first + i] == 0)
+                return true;
+    }
+    return false;
+}
+
+} // namespace bignum

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "bignum/gateway/Moneda.h"
+
+#include <QWidget>
+#include <memory>
+
+class ModeloEuclides;
+class QToolButton;
+
+namespace Ui {
+class FormEuclidesTabla;
+}
+
+/// The topic "Algoritmo de Euclides": the table of divisions of two numbers, which are typed in its
+/// first row, and the switch between the two algorithms in the status bar.
+class FormEuclidesTabla : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FormEuclidesTabla(QWidget *leccion);
+    ~FormEuclidesTabla() override;
+
+    bool RestosReducidos() const { return m_restosReducidos; }
+    void ponRestosReducidos(bool reducidos);
+
+private:
+    void preparaStatusBar();
+    void rehazTabla(Moneda dividendo, Moneda divisor);
+
+    void FlexEuclides_AfterEdit(int columna, const QString &texto);
+    void StatusBar_PanelClick();
+
+    std::unique_ptr<Ui::FormEuclidesTabla> ui;
+    ModeloEuclides *m_modelo;
+    QToolButton *m_panelAlgoritmo;
+    bool m_restosReducidos = false;
+};

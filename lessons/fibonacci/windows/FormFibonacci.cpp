@@ -1,0 +1,32 @@
+#include "lessons/fibonacci/windows/FormFibonacci.h"
+
+#include "lessons/fibonacci/CuestionesFibonacci.h"
+#include "lessons/fibonacci/windows/FormFibonacciAureo.h"
+#include "lessons/fibonacci/windows/FormFibonacciIdentidades.h"
+#include "lessons/fibonacci/windows/FormFibonacciValores.h"
+#include "lessons/fibonacci/windows/FormFibonacciZeckendorf.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/PanelCuestiones.h"
+#include "shell/look/Imagenes.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+FormFibonacci::FormFibonacci(QWidget *padre)
+    : FormLeccion(u"Fibonacci.html"_s, padre), m_valores(new FormFibonacciValores(corrida(), this))
+{
+    setObjectName(u"FormFibonacci"_s);
+    setWindowTitle(Traduce(u"Fibonacci"_s));
+    setWindowIcon(Icono(u"FIBONACCI"_s));
+    agregaIntroduccion(u"Introducción"_s);
+    agregaTema(u"Valores"_s, u"valores"_s, m_valores);
+    agregaTema(u"Número áureo"_s, u"aureo"_s, new FormFibonacciAureo(this));
+    agregaTema(u"Zeckendorf"_s, u"zeckendorf"_s, new FormFibonacciZeckendorf(this));
+    agregaTema(u"Identidades"_s, u"identidades"_s, new FormFibonacciIdentidades(this));
+    agregaTema(u"Cuestiones"_s, u"cuestiones"_s,
+               new PanelCuestiones(sorteaZeckendorf, sorteaMcd, this));
+}
+
+QAbstractButton *FormFibonacci::botonDeParada() const
+{
+    return m_valores->botonDeParada();
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "lessons/fibonacci/RazonAurea.h"
+#include "shell/core/ModeloFilas.h"
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class FormFibonacciAureo;
+}
+
+/// The topic "Número áureo": the quotients of neighbours, and how fast their error vanishes.
+class FormFibonacciAureo : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FormFibonacciAureo(QWidget *padre);
+    ~FormFibonacciAureo() override;
+
+protected:
+    void resizeEvent(QResizeEvent *suceso) override;
+
+private:
+    void cmdAureo_Click();
+
+    void muestra();
+    void representa();
+    void senalaPunto(int indice);
+
+    std::unique_ptr<Ui::FormFibonacciAureo> ui;
+    ModeloFilas m_modelo;
+    QList<CocienteFibonacci> m_cocientes;
+};

@@ -1,0 +1,91 @@
+#include "lessons/fibonacci/windows/FormFibonacciIdentidades.h"
+
+#include "shell/core/EnteroAcotado.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
+#include "shell/grid/ColumnasRepartidas.h"
+#include "shell/look/Imagenes.h"
+#include "shell/look/Textos.h"
+#include "ui_FormFibonacciIdentidades.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A number as it fits a column: its ends, and how many digits it has.
+QString abreviado(const QString &numero)
+{
+    constexpr int extremo = 6;
+    if (numero.size() <= 4 * extremo)
+        return formatoEntero(numero);
+    return numero.left(extremo) + u'…' + numero.right(extremo) +
+           Traduce(u" (%1 cifras)"_s).arg(formatoEntero(qint64{numero.size()}));
+}
+
+} // namespace
+
+FormFibonacciIdentidades::FormFibonacciIdentidades(QWidget *padre)
+    : QWidget(padre),
+      ui(std::make_unique<Ui::FormFibonacciIdentidades>()),
+      m_modelo({Traduce(u"Identidad"_s), Traduce(u"Fórmula"_s), Traduce(u"¿Se cumple?"_s),
+                Traduce(u"Miembro izquierdo"_s), Traduce(u"Miembro derecho"_s)})
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    ui->cmdProbar->setIcon(Icono(u"COMPROBAR"_s));
+    m_modelo.ponColumnasDeTexto({0, 1, 2});
+    ui->FlexIdentidades->setModel(&m_modelo);
+    ui->FlexIdentidades->setSelectionBehavior(QAbstractItemView::SelectRows);
+    ui->FlexIdentidades->ponTextoVacio(
+        Traduce(u"Escriba m y n y pulse «Probar»: aquí aparecerán las identidades"_s));
+    new ColumnasRepartidas(ui->FlexIdentidades);
+
+    conecta(ui->cmdProbar, &QPushButton::clicked, this, &FormFibonacciIdentidades::cmdProbar_Click);
+    for (QLineEdit *campo : {ui->TxtIndiceM, ui->TxtIndiceN}) {
+        conecta(campo, &QLineEdit::returnPressed, this, &FormFibonacciIdentidades::cmdProbar_Click);
+        conecta(campo, &QLineEdit::textChanged, ui->lblAvisoIdentidades, &QLabel::clear);
+    }
+    conecta(ui->FlexIdentidades->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex &celda) { FlexIdentidades_RowColChange(celda.row()); });
+}
+
+FormFibonacciIdentidades::~FormFibonacciIdentidades() = default;
+
+void FormFibonacciIdentidades::cmdProbar_Click()
+{
+    ui->lblAvisoIdentidades->clear();
+    const auto m = lee(ui->TxtIndiceM);
+    const auto n = m ? lee(ui->TxtIndiceN) : std::nullopt;
+    if (!n)
+        return;
+    m_identidades = pruebaIdentidades(*m, *n);
+    QList<QStringList> filas;
+    for (const IdentidadProbada &identidad : std::as_const(m_identidades)) {
+        filas << QStringList{Traduce(identidad.nombre), Traduce(identidad.formula),
+                             identidad.seCumple() ? Traduce(u"✓ Sí"_s) : Traduce(u"✗ No"_s),
+                             abreviado(identidad.izquierda), abreviado(identidad.derecha)};
+    }
+    m_modelo.ponFilas(filas);
+    ui->FlexIdentidades->selectRow(0);
+}
+
+std::optional<int> FormFibonacciIdentidades::lee(QLineEdit *campo)
+{
+    const auto valor = evaluaEnteroAcotado(campo->text(), 1, MaximoDeIdentidades);
+    if (!valor) {
+        rechaza(campo, ui->lblAvisoIdentidades,
+                Traduce(u"«%1» debe ser un número entero de 1 a %2."_s)
+                    .arg(campo->accessibleName(), formatoEntero(qint64{MaximoDeIdentidades})));
+    }
+    return valor;
+}
+
+/// The sides of the chosen identity, whole.
+void FormFibonacciIdentidades::FlexIdentidades_RowColChange(int fila)
+{
+    const IdentidadProbada identidad = m_identidades.value(fila);
+    ui->txtIzquierda->setText(identidad.izquierda);
+    ui->txtDerecha->setText(identidad.derecha);
+}

@@ -1,0 +1,84 @@
+#include "lessons/recursion/functions/Ack.h"
+
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "shell/core/ModGlobal.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+std::int32_t Ack::calcula(std::int32_t m, std::int32_t n)
+{
+    if (m < 0 || n < 0) {
+        throw ErrorEjecucion(ErrorEjecucion::ArgumentoNoValido,
+                             Traduce(u"x e y no pueden ser negativos."_s));
+    }
+    m_pila.clear();
+    Llamada llamada{m, n};
+    while (!m_corrida.detenida()) {
+        const std::int32_t valor = entra(llamada);
+        if (m_rendido)
+            break;
+        if (valor == 0)
+            llamada = aplaza(llamada);
+        else if (!devuelve(valor, llamada))
+            return valor;
+    }
+    abandona();
+    return 0;
+}
+
+/// Makes room, tests the cut-off, yields, and gives the value if it needs no other call; else 0.
+std::int32_t Ack::entra(Llamada llamada)
+{
+    const auto [m, n] = llamada;
+    m_memoria.hazSitio(m, n);
+    if (m > m_corte || n > m_corte) {
+        m_rendido = true;
+        m_corrida.detener();
+        return 0;
+    }
+    m_actual = llamada;
+    ++m_numLlamadas;
+    m_corrida.ceder();
+    std::int32_t valor = m_memoria.lee(m, n);
+    if (valor == 0 && m == 0) {
+        valor = n + 1;
+        m_memoria.escribe(m, n, valor);
+    }
+    return valor;
+}
+
+/// Puts a call on the stack and gives the one that it waits for.
+Ack::Llamada Ack::aplaza(Llamada llamada)
+{
+    const auto [m, n] = llamada;
+    m_pila.push_back({llamada, n == 0});
+    return n == 0 ? Llamada{m - 1, 1} : Llamada{m, n - 1};
+}
+
+/// Hands a value to the calls that wait for it. True when one of them goes on with another call;
+/// false when the value is that of the whole.
+bool Ack::devuelve(std::int32_t valor, Llamada &siguiente)
+{
+    while (!m_pila.empty()) {
+        Pendiente &ultima = m_pila.back();
+        if (!ultima.esperaSuValor) {
+            ultima.esperaSuValor = true;
+            siguiente = {ultima.llamada.m - 1, valor};
+            return true;
+        }
+        m_memoria.escribe(ultima.llamada.m, ultima.llamada.n, valor);
+        m_pila.pop_back();
+    }
+    return false;
+}
+
+/// The calls that wait all give 0, and leave it in their cells. There may be a million of them.
+void Ack::abandona()
+{
+    while (!m_pila.empty()) {
+        const Llamada llamada = m_pila.back().llamada;
+        m_pila.pop_back();
+        m_memoria.escribe(llamada.m, llamada.n, 0);
+        m_corrida.ceder();
+    }
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "lessons/recursion/functions/MemoriaAck.h"
+#include "shell/core/Corrida.h"
+
+#include <cstdint>
+#include <vector>
+
+/// Ackermann's function of two arguments (Rózsa Péter, 1935; Raphael M. Robinson, 1948), with
+/// memory and a cut-off. The calls that wait for others stand on a stack of our own, so that no
+/// cut-off exhausts the machine's.
+class Ack
+{
+public:
+    struct Llamada
+    {
+        std::int32_t m = 0;
+        std::int32_t n = 0;
+    };
+
+    Ack(MemoriaAck &memoria, Corrida &corrida, std::int32_t corte)
+        : m_memoria(memoria), m_corrida(corrida), m_corte(corte)
+    {
+    }
+
+    /// Ack(m, n), one yield a call; 0 when it was stopped, by the flag or by the cut-off, and then
+    /// every call that was waiting has written a 0 too. A call makes room for itself in the memory
+    /// before the cut-off looks at its arguments. Throws
+    /// ArgumentoNoValido for a negative argument, Desbordamiento when the memory has no room.
+    std::int32_t calcula(std::int32_t m, std::int32_t n);
+
+    /// An argument exceeded the cut-off, which set the stop flag.
+    bool rendido() const { return m_rendido; }
+
+    /// The call that is being evaluated.
+    const Llamada &actual() const { return m_actual; }
+
+    /// How many calls there have been, those answered from memory included.
+    std::int64_t numLlamadas() const { return m_numLlamadas; }
+
+private:
+    /// A call that waits. First, with both arguments positive, it waits for Ack(m, n - 1), and
+    /// then for the value that is its own.
+    struct Pendiente
+    {
+        Llamada llamada;
+        bool esperaSuValor;
+    };
+
+    std::int32_t entra(Llamada llamada);
+    Llamada aplaza(Llamada llamada);
+    bool devuelve(std::int32_t valor, Llamada &siguiente);
+    void abandona();
+
+    MemoriaAck &m_memoria;
+    Corrida &m_corrida;
+    std::int32_t m_corte;
+    std::vector<Pendiente> m_pila;
+    Llamada m_actual;
+    std::int64_t m_numLlamadas = 0;
+    bool m_rendido = false;
+};

@@ -1,0 +1,74 @@
+#include "lessons/recursion/modular/windows/FormRecursion2Funcion.h"
+
+#include "lessons/recursion/EntradaNumerica.h"
+#include "lessons/recursion/modular/TextoDeDefinicion.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/Evento.h"
+#include "shell/look/Aspecto.h"
+#include "shell/look/Imagenes.h"
+#include "shell/look/Textos.h"
+#include "ui_FormRecursion2Funcion.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+FormRecursion2Funcion::FormRecursion2Funcion(QWidget *leccion)
+    : QWidget(leccion), ui(std::make_unique<Ui::FormRecursion2Funcion>())
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    ui->cmdFunción->setIcon(Icono(u"VALIDAR"_s));
+    Aspecto::destaca(ui->lblIntroduce, 1.15);
+    conecta(ui->cmdFunción, &QPushButton::clicked, this, &FormRecursion2Funcion::cmdFuncion_Click);
+    for (auto *campo : {ui->txtAlfa, ui->TxtBeta, ui->TxtF1, ui->txtF2}) {
+        conecta(campo, &QLineEdit::returnPressed, this, &FormRecursion2Funcion::cmdFuncion_Click);
+        conecta(campo, &QLineEdit::textEdited, this, [this] { ui->lblAviso->clear(); });
+    }
+    muestraPrimeros({});
+}
+
+FormRecursion2Funcion::~FormRecursion2Funcion() = default;
+
+void FormRecursion2Funcion::cmdFuncion_Click()
+{
+    ui->lblAviso->clear();
+    DefinicionRecurrente definicion;
+    const bool completa = lee(ui->txtAlfa, definicion.alfa) && lee(ui->TxtBeta, definicion.beta) &&
+                          lee(ui->TxtF1, definicion.f1) && lee(ui->txtF2, definicion.f2);
+    if (!completa)
+        return;
+    avisa(Traduce(u"Función aceptada: %1. Elija ahora un módulo en «Representación»."_s)
+              .arg(textoDeDefinicion(definicion)),
+          false);
+    muestraPrimeros(definicion);
+    Q_EMIT aceptada(definicion);
+}
+
+/// Reads a field; one that holds no number gets the focus.
+bool FormRecursion2Funcion::lee(QLineEdit *campo, Moneda &valor)
+{
+    const std::optional<Moneda> leido = evaluaEntrada(campo->text());
+    if (leido) {
+        valor = *leido;
+        return true;
+    }
+    campo->setFocus();
+    campo->selectAll();
+    avisa(Traduce(u"«%1» no es un número entero: escriba un número o una expresión."_s)
+              .arg(campo->accessibleName()),
+          true);
+    return false;
+}
+
+void FormRecursion2Funcion::muestraPrimeros(const DefinicionRecurrente &definicion)
+{
+    ui->lblPrimeros->setText(Traduce(u"Primeros valores de la función aceptada, sin módulo: %1"_s)
+                                 .arg(textoDePrimerosValores(definicion)));
+}
+
+void FormRecursion2Funcion::avisa(const QString &texto, bool error)
+{
+    QPalette colores = palette();
+    colores.setColor(QPalette::WindowText, error ? Aspecto::error() : Aspecto::exito());
+    ui->lblAviso->setPalette(colores);
+    ui->lblAviso->setText((error ? u"✗ "_s : u"✓ "_s) + texto);
+}

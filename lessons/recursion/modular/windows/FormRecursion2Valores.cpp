@@ -1,0 +1,50 @@
+#include "lessons/recursion/modular/windows/FormRecursion2Valores.h"
+
+#include "lessons/recursion/modular/TextoDeDefinicion.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/Evento.h"
+#include "shell/look/Aspecto.h"
+#include "shell/look/Textos.h"
+#include "ui_FormRecursion2Valores.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+
+using namespace Qt::Literals::StringLiterals;
+
+FormRecursion2Valores::FormRecursion2Valores(QWidget *leccion)
+    : QWidget(leccion), ui(std::make_unique<Ui::FormRecursion2Valores>())
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    Aspecto::destaca(ui->lblFuncion, 1.15);
+    ui->FlexValores->setModel(&m_valores);
+    ui->FlexValores->ponTextoVacio(
+        Traduce(u"Aquí aparecerán los valores cuando elija un módulo en «Representación»"_s));
+    ui->FlexValores->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    conecta(ui->FlexValores, &QTableView::clicked, this, &FormRecursion2Valores::FlexValores_Click);
+}
+
+FormRecursion2Valores::~FormRecursion2Valores() = default;
+
+void FormRecursion2Valores::pon(const DefinicionRecurrente &definicion,
+                                const std::optional<SucesionModular> &sucesion)
+{
+    m_valores.pon(sucesion);
+    ui->lblFuncion->setText(textoDeDefinicion(definicion));
+    ui->lblModulo->setText(
+        sucesion ? Traduce(u"Módulo %1"_s).arg(formatoEntero(qint64{sucesion->modulo()}))
+                 : QString());
+    ui->lblCopiado->clear();
+}
+
+void FormRecursion2Valores::FlexValores_Click(const QModelIndex &celda)
+{
+    if (celda.column() != ModeloValores::Valor)
+        return;
+    const QString texto = celda.data().toString();
+    QApplication::clipboard()->setText(texto);
+    ui->lblCopiado->setText(Traduce(u"Copiado: f(%1) = %2"_s).arg(celda.row() + 1).arg(texto));
+}

@@ -1,6 +1,0 @@
-#pragma once
-
-#include "shell/Leccion.h"
-
-/// The pictures of the RSA lesson in the gallery; `fila` is its row in the menu.
-QList<Escena> escenasRSA(int fila);

@@ -1,0 +1,239 @@
+#include "lessons/rsa/key/ClsRSA.h"
+
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/ModBignum.h"
+#include "lessons/rsa/key/Entero16.h"
+#include "lessons/rsa/key/FicheroDeClave.h"
+#include "lessons/rsa/key/Potencias.h"
+#include "lessons/rsa/key/TextoEnBloques.h"
+#include "lessons/rsa/mailbox/CarpetaBuzon.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/core/Perfil.h"
+#include "shell/core/Rutas.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString producto(const QString &a, const QString &b)
+{
+    return Evalua(u"(%1)*(%2)"_s.arg(a, b), {}, Aritmetica::Entera);
+}
+
+QString productoDeAnteriores(const QString &a, const QString &b)
+{
+    return Evalua(u"((%1)-1)*((%2)-1)"_s.arg(a, b), {}, Aritmetica::Entera);
+}
+
+QString objecionAExponente(const QString &fiQ)
+{
+    return Traduce(u"El número s debe ser primo con "_s) + fiQ;
+}
+
+} // namespace
+
+QString ClsRSA::DirMensajes() const
+{
+    return Sesión().lee(u"RSA"_s, u"DirMensajes"_s);
+}
+
+void ClsRSA::ponDirMensajes(const QString &carpeta)
+{
+    Sesión().guarda(u"RSA"_s, u"DirMensajes"_s, carpeta);
+    QString copia = carpeta;
+    Q_EMIT CambiaBuzon(copia);
+}
+
+void ClsRSA::ponClaveOK(bool bien)
+{
+    m_claveOK = false;
+    if (bien)
+        SalvaClave();
+    m_claveOK = bien;
+}
+
+const QString &ClsRSA::q(int i) const
+{
+    if (i < 0 || i > 2)
+        throw ErrorEjecucion(ErrorEjecucion::IndiceFueraDeRango);
+    return m_q[static_cast<std::size_t>(i)];
+}
+
+void ClsRSA::ponq(int i, const QString &valor)
+{
+    if (i < 0 || i > 2)
+        throw ErrorEjecucion(ErrorEjecucion::IndiceFueraDeRango);
+    m_q[static_cast<std::size_t>(i)] = valor;
+}
+
+QString ClsRSA::FicheroClavePrivada() const
+{
+    return rutaParaGuardarClave();
+}
+
+void ClsRSA::SalvaClave() const
+{
+    Perfil::Entradas entradas{{u"r"_s, QString::number(m_r)}};
+    for (int i = 0; i <= 2; ++i)
+        entradas.append({u"q(%1)"_s.arg(i), q(i)});
+    entradas.append({u"s"_s, m_s});
+    entradas.append({u"t"_s, m_t});
+    entradas.append({u"NBits"_s, QString::number(m_nbits)});
+    entradas.append({u"Fi(Q)"_s, m_fiQ});
+    const QString ruta = rutaExistente(FicheroClavePrivada());
+    QDir().mkpath(QFileInfo(ruta).absolutePath());
+    Perfil::escribe(ruta, u"RSA"_s, entradas, Perfil::Acceso::Privado);
+}
+
+void ClsRSA::RecuperaClave()
+{
+    const QString ruta = rutaDeClaveGuardada();
+    if (ruta.isEmpty())
+        return;
+    Perfil fichero;
+    if (fichero.lee(rutaExistente(ruta)) != Perfil::Lectura::Correcta)
+        throw ErrorEjecucion(ErrorEjecucion::ErrorDeArchivo, QDir::toNativeSeparators(ruta));
+    m_r = aEntero16(fichero.valor(u"RSA"_s, u"r"_s, u"0"_s));
+    for (int i = 0; i <= 2; ++i)
+        ponq(i, fichero.valor(u"RSA"_s, u"q(%1)"_s.arg(i)));
+    m_s = fichero.valor(u"RSA"_s, u"s"_s);
+    m_t = fichero.valor(u"RSA"_s, u"t"_s);
+    m_nbits = aEntero16(fichero.valor(u"RSA"_s, u"NBits"_s));
+    m_fiQ = fichero.valor(u"RSA"_s, u"Fi(Q)"_s);
+    Valida();
+}
+
+void ClsRSA::PublicaClave() const
+{
+    const QByteArray contenido = Perfil::contenido(u"RSA"_s, {{u"q"_s, m_q[0]}, {u"s"_s, m_s}});
+    CarpetaBuzon(DirMensajes())
+        .subcarpetaCreada(subcarpetaPropia())
+        .sustituye(FicheroClavePublica, contenido);
+}
+
+bool ClsRSA::faltanDatos() const
+{
+    return m_q[1].isEmpty() || m_q[2].isEmpty() || m_s.isEmpty();
+}
+
+/// Refuses numbers that no key file could hold, before hours go into the test of a prime.
+void ClsRSA::compruebaTamano() const
+{
+    if (m_q[1].size() + m_q[2].size() <= MaximoDeCifras && m_s.size() <= MaximoDeCifras)
+        return;
+    throw ErrorEjecucion(
+        ErrorEjecucion::Desbordamiento,
+        Traduce(u"Los números de una clave tienen como mucho %1 cifras."_s).arg(MaximoDeCifras));
+}
+
+QString ClsRSA::objecionAPrimo(int i) const
+{
+    if (!EsPrimo(q(i)))
+        return u"q(%1)"_s.arg(i) + Traduce(u" debe ser primo."_s);
+    // The largest number that r characters can give.
+    const QString cota = u"255"_s.repeated(std::max<int>(m_r, 0));
+    if (!EsMayor(cota, q(i)))
+        return u"q(%1)"_s.arg(i) + Traduce(u" debe ser mayor que "_s) + cota + u'.';
+    return {};
+}
+
+QString ClsRSA::objecionATamano(std::int32_t bits) const
+{
+    if (m_nbitsRequeridos <= 0 || bits == m_nbitsRequeridos)
+        return {};
+    return Traduce(u"Se requiere una clave de "_s) + QString::number(m_nbitsRequeridos) +
+           Traduce(u" bits, y la actual tiene "_s) + QString::number(bits);
+}
+
+void ClsRSA::rechaza(const QString &mensaje)
+{
+    m_claveOK = false;
+    Q_EMIT ValidaClave(m_claveOK, mensaje);
+}
+
+void ClsRSA::Valida()
+{
+    m_claveOK = false;
+    if (faltanDatos())
+        return;
+    compruebaTamano();
+    for (const int i : {1, 2}) {
+        if (const QString objecion = objecionAPrimo(i); !objecion.isEmpty()) {
+            rechaza(objecion);
+            m_q[0].clear();
+            m_fiQ.clear();
+            return;
+        }
+    }
+    m_q[0] = producto(m_q[1], m_q[2]);
+    m_fiQ = productoDeAnteriores(m_q[1], m_q[2]);
+    m_nbits = static_cast<std::int16_t>(NumeroDeBits(m_q[0]));
+    QString mcd, inverso, otro;
+    McdExtendido(m_s, m_fiQ, mcd, inverso, otro);
+    if (mcd != u"1"_s) {
+        rechaza(objecionAExponente(m_fiQ));
+        return;
+    }
+    // The key is kept as soon as it is known to be one, and once more with the exponent that
+    // follows from it.
+    ponClaveOK(true);
+    m_t = Modulo(inverso, m_fiQ);
+    if (const QString objecion = objecionATamano(m_nbits); !objecion.isEmpty()) {
+        rechaza(objecion);
+        return;
+    }
+    ponClaveOK(true);
+    Q_EMIT ValidaClave(m_claveOK, Traduce(u"Clave OK"_s));
+}
+
+QString ClsRSA::Objecion() const
+{
+    if (faltanDatos())
+        return {};
+    compruebaTamano();
+    for (const int i : {1, 2}) {
+        if (const QString objecion = objecionAPrimo(i); !objecion.isEmpty())
+            return objecion;
+    }
+    const QString fiQ = productoDeAnteriores(m_q[1], m_q[2]);
+    if (Mcd(m_s, fiQ) != u"1"_s)
+        return objecionAExponente(fiQ);
+    return objecionATamano(NumeroDeBits(producto(m_q[1], m_q[2])));
+}
+
+QStringList ClsRSA::Codifica(const QString &texto, Corrida &corrida) const
+{
+    const QStringList numeros = bloquesDeTexto(texto, m_r);
+    // The key may be changed at a yield; a text is encrypted with one key.
+    Potencias potencias(m_s, m_q[0]);
+    QStringList bloques;
+    bloques.reserve(numeros.size());
+    for (const QString &numero : numeros) {
+        bloques << potencias.de(numero);
+        corrida.ceder();
+        if (corrida.detenida())
+            break;
+    }
+    return bloques;
+}
+
+QString ClsRSA::DesCodifica(const QStringList &bloques, Corrida &corrida) const
+{
+    Potencias potencias(m_t, m_q[0]);
+    QString texto;
+    for (const QString &bloque : bloques) {
+        const QString numero = potencias.de(bloque);
+        if (numero != TextoError)
+            texto += NumeroATexto(numero);
+        if (texto.size() > MaximoDescodificado)
+            throw ErrorEjecucion(ErrorEjecucion::MemoriaInsuficiente,
+                                 Traduce(u"El texto descodificado es demasiado largo."_s));
+        corrida.ceder();
+        if (corrida.detenida())
+            break;
+    }
+    return texto;
+}

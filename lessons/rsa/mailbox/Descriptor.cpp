@@ -1,0 +1,41 @@
+#include "lessons/rsa/mailbox/Descriptor.h"
+
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "shell/core/Rutas.h"
+
+#include <unistd.h>
+
+namespace {
+
+ErrorEjecucion::Numero numeroDeErrno(int codigo)
+{
+    switch (codigo) {
+    case ENOENT:
+    case ENOTDIR:
+        return ErrorEjecucion::RutaNoEncontrada;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case ELOOP: // a link where none is followed
+        return ErrorEjecucion::PermisoDenegado;
+    case ENOSPC:
+    case EDQUOT:
+        return ErrorEjecucion::DiscoLleno;
+    case EEXIST:
+        return ErrorEjecucion::ArchivoYaExiste;
+    default:
+        return ErrorEjecucion::ErrorDeArchivo;
+    }
+}
+
+} // namespace
+
+bool Descriptor::cierra()
+{
+    return m_fd < 0 || ::close(std::exchange(m_fd, -1)) == 0;
+}
+
+void falla(const QString &ruta, int codigo)
+{
+    throw ErrorEjecucion(numeroDeErrno(codigo), rutaDePlataforma(ruta));
+}

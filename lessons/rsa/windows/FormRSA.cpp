@@ -1,0 +1,89 @@
+#include "lessons/rsa/windows/FormRSA.h"
+
+#include "lessons/rsa/key/NumerosLargos.h"
+#include "lessons/rsa/windows/FormRSAClave.h"
+#include "lessons/rsa/windows/FormRSACodificacion.h"
+#include "lessons/rsa/windows/FormRSAMensajes.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/Evento.h"
+#include "shell/frame/Interlocutor.h"
+#include "shell/look/Imagenes.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString TemaMensajes = u"env-rec"_s;
+
+} // namespace
+
+FormRSA::FormRSA(QWidget *padre)
+    : FormLeccion(u"RSA.html"_s, padre),
+      m_panelClave(new FormRSAClave(m_clave, this)),
+      m_panelCodificacion(new FormRSACodificacion(m_clave, this)),
+      m_panelMensajes(new FormRSAMensajes(m_clave, this))
+{
+    setObjectName(u"FormRSA"_s);
+    setWindowTitle(Traduce(u"R.S.A."_s));
+    setWindowIcon(Icono(u"RSA"_s));
+    agregaIntroduccion(u"Introducción"_s);
+    agregaTema(u"Elección de clave"_s, {}, m_panelClave);
+    agregaTema(u"Codificación y descodificación"_s, u"cod-decod"_s, m_panelCodificacion);
+    m_panelMensajes->hide();
+
+    conecta(&m_clave, &ClsRSA::ValidaClave, this, &FormRSA::Clave_ValidaClave);
+    conecta(&m_clave, &ClsRSA::CambiaBuzon, this, &FormRSA::Clave_CambiaBuzon);
+    conecta(m_panelClave, &FormRSAClave::validada, this, &FormRSA::actualizaBuzon);
+    conecta(m_panelMensajes, &FormRSAMensajes::buzonPerdido, this, &FormRSA::actualizaBuzon);
+    evento(this, [this] { abre(); });
+}
+
+FormRSA::~FormRSA()
+{
+    // The panels use the key to their end, and would outlive it as mere children.
+    delete m_panelMensajes;
+    delete m_panelCodificacion;
+    delete m_panelClave;
+}
+
+void FormRSA::abre()
+{
+    // A damaged key file is told, and does not keep the mailbox away.
+    evento(this, [this] { m_clave.RecuperaClave(); });
+    m_panelClave->muestraClave();
+    m_clave.ponDirMensajes(m_clave.DirMensajes());
+}
+
+QAbstractButton *FormRSA::botonDeParada() const
+{
+    QAbstractButton *boton = m_panelCodificacion->botonDeParada();
+    return boton ? boton : m_panelMensajes->botonDeParada();
+}
+
+void FormRSA::Clave_ValidaClave(bool bien, const QString &mensaje)
+{
+    if (bien)
+        m_panelClave->muestraClave();
+    m_panelClave->muestraVeredicto(bien, mensaje);
+    m_panelCodificacion->permiteCodificar(bien);
+    if (!bien)
+        interlocutor().mensaje(this, Interlocutor::Icono::Critico, abreviaNumeros(mensaje),
+                               Traduce(u"Error en la clave"_s));
+}
+
+void FormRSA::Clave_CambiaBuzon()
+{
+    actualizaBuzon();
+    m_panelMensajes->revisaPronto();
+}
+
+/// The topic of messages is there for as long as there is a mailbox and a key to use it with.
+void FormRSA::actualizaBuzon()
+{
+    const bool listo = ExisteFichero(m_clave.DirMensajes()) && m_clave.ClaveOK();
+    m_panelClave->muestraBuzon(listo);
+    if (listo && !tieneTema(TemaMensajes))
+        agregaTema(u"Enviar y recibir"_s, TemaMensajes, m_panelMensajes);
+    else if (!listo)
+        quitaTema(TemaMensajes);
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "lessons/rsa/key/ClsRSA.h"
+#include "shell/frame/FormLeccion.h"
+
+class FormRSAClave;
+class FormRSACodificacion;
+class FormRSAMensajes;
+
+/// The lesson on RSA: choice of a key, encryption with it, and messages to others.
+class FormRSA : public FormLeccion
+{
+    Q_OBJECT
+
+public:
+    explicit FormRSA(QWidget *padre = nullptr);
+    ~FormRSA() override;
+
+protected:
+    QAbstractButton *botonDeParada() const override;
+
+private:
+    void abre();
+    void actualizaBuzon();
+    void Clave_ValidaClave(bool bien, const QString &mensaje);
+    void Clave_CambiaBuzon();
+
+    ClsRSA m_clave;
+    FormRSAClave *m_panelClave;
+    FormRSACodificacion *m_panelCodificacion;
+    FormRSAMensajes *m_panelMensajes;
+};

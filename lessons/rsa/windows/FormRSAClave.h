@@ -1,0 +1,62 @@
+#pragma once
+
+#include "lessons/rsa/key/ClsRSA.h"
+
+#include <QWidget>
+#include <memory>
+
+class CampoLargo;
+
+namespace Ui {
+class FormRSAClave;
+}
+
+/// The topic "Elección de clave": the numbers of the own key, the size that is demanded, the
+/// mailbox folder and the publication of the key.
+class FormRSAClave : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `clave` is the student's own key.
+    FormRSAClave(ClsRSA &clave, QWidget *leccion);
+    ~FormRSAClave() override;
+
+    /// Fills the fields from the key.
+    void muestraClave();
+    /// Shows the verdict of a validation beneath the fields.
+    void muestraVeredicto(bool bien, const QString &mensaje);
+    /// Shows the mailbox folder, and whether the key can be published in it.
+    void muestraBuzon(bool sePuedePublicar);
+
+Q_SIGNALS:
+    /// The key was validated: with a verdict, without one because a number is missing, or in vain
+    /// because it could not be saved.
+    void validada();
+
+protected:
+    void changeEvent(QEvent *suceso) override;
+
+private:
+    CampoLargo *txtQ(int i) const;
+    enum class Estado { Neutro, Bien, Mal };
+    void ponEstado(Estado estado, const QString &texto);
+    void muestraEstado();
+    void muestraObjecion();
+    void valida();
+
+    void txtQ_Validate(int i);
+    void txtQ_Return(int i);
+    void txtS_Validate();
+    void txtS_Return();
+    void txtR_Change();
+    void ChkNumBits_Click();
+    void TxtNumBits_Change();
+    void cmdBuzon_Click();
+    void cmdPublicarClave_Click();
+
+    std::unique_ptr<Ui::FormRSAClave> ui;
+    ClsRSA &m_clave;
+    Estado m_estado = Estado::Neutro;
+    QString m_textoDeEstado;
+};

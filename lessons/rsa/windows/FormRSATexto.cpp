@@ -1,0 +1,70 @@
+#include "lessons/rsa/windows/FormRSATexto.h"
+
+#include "lessons/rsa/key/TextoEnBloques.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/Interlocutor.h"
+
+#include <QTextBlock>
+#include <QTextOption>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// As many as Qt wraps between words without being felt.
+constexpr qsizetype MaximoSinBlancos = 5000;
+
+bool tienePalabraEnorme(QStringView texto)
+{
+    qsizetype seguidos = 0;
+    for (const QChar caracter : texto) {
+        seguidos = caracter.isSpace() ? 0 : seguidos + 1;
+        if (seguidos > MaximoSinBlancos)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+FormRSATexto::FormRSATexto(QWidget *padre) : QPlainTextEdit(padre)
+{
+    connect(document(), &QTextDocument::contentsChange, this,
+            [this](int lugar, int, int anadidos) { ajustaRenglones(lugar, anadidos); });
+}
+
+/// Told of each change before the lines are laid out.
+void FormRSATexto::ajustaRenglones(int lugar, int anadidos)
+{
+    // A long word from before may still be there, unless little is, or nothing of what was.
+    const int caracteres = document()->characterCount();
+    const bool quedaLoDeAntes = caracteres > MaximoSinBlancos && anadidos < caracteres - 1;
+    bool enorme = wordWrapMode() == QTextOption::WrapAnywhere && quedaLoDeAntes;
+    const QTextBlock fin = document()->findBlock(lugar + anadidos);
+    for (auto parrafo = document()->findBlock(lugar); !enorme && parrafo.isValid();
+         parrafo = parrafo.next()) {
+        enorme = parrafo.length() > MaximoSinBlancos && tienePalabraEnorme(parrafo.text());
+        if (parrafo == fin)
+            break;
+    }
+    const auto modo =
+        enorme ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
+    if (modo != wordWrapMode())
+        setWordWrapMode(modo);
+}
+
+bool seCodifica(QWidget *ventana, const QString &texto)
+{
+    const auto rechaza = [ventana](const QString &motivo, const QString &titulo) {
+        interlocutor().mensaje(ventana, Interlocutor::Icono::Exclamacion, motivo, titulo);
+        return false;
+    };
+    if (texto.size() > MaximoDeCaracteres)
+        return rechaza(Traduce(u"Un texto tiene como mucho %1 caracteres."_s)
+                           .arg(formatoEntero(MaximoDeCaracteres)),
+                       Traduce(u"Texto demasiado largo"_s));
+    if (const auto motivo = caracterInadmisible(texto))
+        return rechaza(*motivo, Traduce(u"Carácter no admitido"_s));
+    return true;
+}

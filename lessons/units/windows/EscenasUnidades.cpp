@@ -1,0 +1,43 @@
+#include "lessons/units/windows/EscenasUnidades.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+QList<Escena> escenasUnidades(int fila)
+{
+    const QString unidades = u"unidades"_s, cayley = u"cayley"_s, grandes = u"grandes"_s,
+                  cuestiones = u"cuestiones"_s;
+    const auto grupo = [](const QString &n, const QString &a) {
+        return QList<Paso>{
+            {u"txtN"_s, n}, {u"cmdUnidades"_s, {}}, {u"txtElemento"_s, a}, {u"cmdPotencias"_s, {}}};
+    };
+    const auto tabla = [](const QString &n, const QString &operacion) {
+        return QList<Paso>{{u"txtNCayley"_s, n}, {operacion, {}}};
+    };
+    const auto grande = [](const QString &n, const QString &a) {
+        return QList<Paso>{{u"txtNGrande"_s, n},
+                           {u"txtAGrande"_s, a},
+                           {u"cmdInverso"_s, {}},
+                           {u"cmdFi"_s, {}},
+                           {u"cmdFactores"_s, {}}};
+    };
+    return {{u"unidades-introduccion"_s, fila, u"intro"_s},
+            {u"unidades-grupo"_s, fila, unidades},
+            {u"unidades-grupo-vacio"_s, fila, unidades, grupo(QString(), QString())},
+            {u"unidades-grupo-ciclico"_s, fila, unidades, grupo(u"2*3^6"_s, u"5"_s)},
+            {u"unidades-grupo-no-unidad"_s, fila, unidades, grupo(u"360"_s, u"14"_s)},
+            {u"unidades-cayley"_s, fila, cayley},
+            {u"unidades-cayley-grande"_s, fila, cayley, tabla(u"59"_s, u"OptOperacion_0"_s)},
+            {u"unidades-cayley-producto"_s, fila, cayley, tabla(u"12"_s, u"OptOperacion_1"_s)},
+            {u"unidades-cayley-suma"_s, fila, cayley, tabla(u"24"_s, u"OptOperacion_2"_s)},
+            {u"unidades-grandes-vacio"_s, fila, grandes},
+            {u"unidades-grandes"_s, fila, grandes, grande(u"100!"_s, u"2^521-1"_s)},
+            {u"unidades-grandes-sin-inverso"_s, fila, grandes, grande(u"10^60-1"_s, u"10^30-1"_s)},
+            {u"unidades-cuestiones"_s, fila, cuestiones},
+            {u"unidades-cuestiones-fallo"_s,
+             fila,
+             cuestiones,
+             {{u"txtRespuesta_0"_s, u"0"_s},
+              {u"cmdComprobar_0"_s, {}},
+              {u"txtRespuesta_1"_s, u"0"_s},
+              {u"cmdComprobar_1"_s, {}}}}};
+}

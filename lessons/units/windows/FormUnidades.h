@@ -1,0 +1,12 @@
+#pragma once
+
+#include "shell/frame/FormLeccion.h"
+
+/// The lesson on the units of Z_n: inverses, orders, Euler's function.
+class FormUnidades : public FormLeccion
+{
+    Q_OBJECT
+
+public:
+    explicit FormUnidades(QWidget *padre = nullptr);
+};

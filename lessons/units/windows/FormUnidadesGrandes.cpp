@@ -1,0 +1,172 @@
+#include "lessons/units/windows/FormUnidadesGrandes.h"
+
+#include "bignum/gateway/Azar.h"
+#include "bignum/gateway/ModBignum.h"
+#include "lessons/units/FuncionEuler.h"
+#include "lessons/units/InversoGrande.h"
+#include "shell/core/EnteroGrande.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
+#include "shell/look/Aspecto.h"
+#include "shell/look/Imagenes.h"
+#include "shell/look/Textos.h"
+#include "ui_FormUnidadesGrandes.h"
+
+#include <QScopeGuard>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Longer numbers would only be slower, not more instructive.
+constexpr qsizetype MayorNumeroDeCifras = 1'000;
+
+constexpr int CifrasDelEjemplo = 200;
+
+} // namespace
+
+FormUnidadesGrandes::FormUnidadesGrandes(QWidget *leccion)
+    : QWidget(leccion), ui(std::make_unique<Ui::FormUnidadesGrandes>()), m_leccion(leccion)
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    ui->cmdEjemplo->setIcon(Icono(u"DADO"_s));
+    for (QLabel *rotulo : {ui->lblMcd, ui->lblFi})
+        Aspecto::destaca(rotulo, 1.1);
+    txtGrande_Change();
+
+    conecta(ui->cmdInverso, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdInverso_Click);
+    conecta(ui->cmdFi, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdFi_Click);
+    conecta(ui->cmdFactores, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdFactores_Click);
+    conecta(ui->cmdEjemplo, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdEjemplo_Click);
+    for (const CampoLargo *campo : {ui->txtNGrande, ui->txtAGrande}) {
+        conecta(campo, &CampoLargo::textoCambiado, this, &FormUnidadesGrandes::txtGrande_Change);
+        conecta(campo, &CampoLargo::returnPressed, this,
+                [this] { ui->cmdInverso->animateClick(); });
+    }
+}
+
+FormUnidadesGrandes::~FormUnidadesGrandes() = default;
+
+/// Results belong to the numbers that they were calculated from.
+void FormUnidadesGrandes::txtGrande_Change()
+{
+    muestraNeutro(ui->lblMcd, Traduce(u"Escriba a y n y pulse «Inverso»."_s));
+    muestraNeutro(ui->lblFi, Traduce(u"Escriba n y pulse «Función de Euler» o «Paso a paso»."_s));
+    ui->txtInverso->setText({});
+    ui->txtFi->clear();
+    m_fi.clear();
+}
+
+/// The modulus that its field stands for; without one, the label tells what it has to be.
+std::optional<QString> FormUnidadesGrandes::modulo(QLabel *rotulo)
+{
+    const auto n = evaluaEnteroGrande(ui->txtNGrande->text());
+    if (n && !n->startsWith(u'-') && *n != u"0"_s && n->size() <= MayorNumeroDeCifras)
+        return n;
+    muestraVeredicto(
+        rotulo, false,
+        Traduce(u"El módulo n es un número entero positivo de 1000 cifras como mucho."_s));
+    ui->txtNGrande->setFocus();
+    ui->txtNGrande->selectAll();
+    return {};
+}
+
+std::optional<QString> FormUnidadesGrandes::elemento()
+{
+    const auto a = evaluaEnteroGrande(ui->txtAGrande->text());
+    return a && a->size() <= 2 * MayorNumeroDeCifras ? a : std::nullopt;
+}
+
+void FormUnidadesGrandes::cmdInverso_Click()
+{
+    ui->txtInverso->setText({});
+    const auto n = modulo(ui->lblMcd);
+    if (!n)
+        return;
+    const auto a = elemento();
+    if (!a) {
+        muestraVeredicto(
+            ui->lblMcd, false,
+            Traduce(u"El elemento a es un número entero de 2000 cifras como mucho."_s));
+        ui->txtAGrande->setFocus();
+        ui->txtAGrande->selectAll();
+        return;
+    }
+    const InversoGrande resultado = invierte(*a, *n);
+    if (resultado.inverso.isEmpty()) {
+        muestraNeutro(ui->lblMcd,
+                      Traduce(u"a no es una unidad, porque mcd(a, n) no es 1. Es este:"_s));
+        ui->txtInverso->setText(resultado.mcd);
+        return;
+    }
+    muestraNeutro(ui->lblMcd, Traduce(u"mcd(a, n) = 1: a es una unidad. Su inverso es:"_s));
+    ui->txtInverso->setText(resultado.inverso);
+}
+
+void FormUnidadesGrandes::anunciaEspera()
+{
+    muestraNeutro(ui->lblFi, Traduce(u"Buscando los factores de n… (puede tardar dos minutos)"_s));
+    ui->lblFi->repaint();
+    m_leccion->setCursor(Qt::WaitCursor);
+}
+
+void FormUnidadesGrandes::cmdFi_Click()
+{
+    ui->txtFi->clear();
+    m_fi.clear();
+    const auto n = modulo(ui->lblFi);
+    if (!n)
+        return;
+    anunciaEspera();
+    const auto cursor = qScopeGuard([this] { m_leccion->unsetCursor(); });
+    const QString fi = FiEuler(*n);
+    if (fi == TextoError) {
+        muestraNeutro(ui->lblFi, Traduce(u"La biblioteca no encuentra todos los factores de n."_s));
+        return;
+    }
+    m_fi = fi;
+    ui->txtFi->setPlainText(u"φ(n) = "_s + fi);
+    muestraFi(*n, fi, Traduce(u"φ(n), según la biblioteca."_s));
+}
+
+void FormUnidadesGrandes::cmdFactores_Click()
+{
+    ui->txtFi->clear();
+    const auto n = modulo(ui->lblFi);
+    if (!n)
+        return;
+    anunciaEspera();
+    const auto cursor = qScopeGuard([this] { m_leccion->unsetCursor(); });
+    const FuncionEuler euler(*n);
+    ui->txtFi->setPlainText(euler.pasos());
+    if (euler.valor().isEmpty()) {
+        muestraNeutro(ui->lblFi, Traduce(u"No se conocen todos los factores de n."_s));
+        return;
+    }
+    muestraFi(*n, euler.valor(),
+              euler.valor() == m_fi
+                  ? Traduce(u"φ(n), por factores: la misma que da la biblioteca."_s)
+                  : Traduce(u"φ(n), por factores."_s));
+}
+
+/// Adds to the label what Euler's theorem says of the element, where it says something.
+void FormUnidadesGrandes::muestraFi(const QString &n, const QString &fi, const QString &rotulo)
+{
+    const auto a = elemento();
+    const bool esUnidad = a && Mcd(*a, n) == u"1"_s;
+    muestraNeutro(
+        ui->lblFi,
+        esUnidad
+            ? rotulo + u' ' +
+                  Traduce(u"Teorema de Euler: a^φ(n) da %1 módulo n."_s).arg(PotenciaMod(*a, fi, n))
+            : rotulo);
+}
+
+void FormUnidadesGrandes::cmdEjemplo_Click()
+{
+    ui->txtNGrande->setText(moduloFacil(CifrasDelEjemplo));
+    ui->txtAGrande->setText(PrimoAleatorio(static_cast<std::int16_t>(AleatorioEntre(300, 600))));
+    cmdInverso_Click();
+}

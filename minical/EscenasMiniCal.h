@@ -1,6 +1,0 @@
-#pragma once
-
-#include "shell/Leccion.h"
-
-/// The pictures of the spreadsheet in the gallery; `fila` is its row for the main window.
-QList<Escena> escenasMiniCal(int fila);

@@ -1,0 +1,41 @@
+#include "minical/windows/EscenasMiniCal.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A few cells of every kind: short and long results, fractions, decimals, an error.
+QList<Paso> hojaDeMuestra()
+{
+    const auto en = [](const QString &casillaYTexto) { return Paso{u"FlexCalc"_s, casillaYTexto}; };
+    return {en(u"0,0:1"_s),
+            en(u"1,0:(A1+2/A1)/2"_s),
+            en(u"2,0:(A2+2/A2)/2"_s),
+            en(u"3,0:(A3+2/A3)/2"_s),
+            en(u"0,2:2^64"_s),
+            en(u"1,2:100!"_s),
+            en(u"2,2:mcd(240;46)"_s),
+            en(u"0,3:100 mod 7"_s),
+            en(u"1,3:1/(C3-2)"_s),
+            en(u"2,3:fib(100)"_s),
+            en(u"0,4:1/7"_s),
+            en(u"0,4"_s),
+            Paso{u"ValorDecimal"_s, {}},
+            en(u"1,1:A4^2-2"_s),
+            en(u"3,0"_s)};
+}
+
+} // namespace
+
+QList<Escena> escenasMiniCal(int fila)
+{
+    QList<Paso> expresiones = hojaDeMuestra();
+    expresiones << Paso{u"MostrarExpresiones"_s, {}};
+    QList<Paso> enElError = hojaDeMuestra();
+    enElError << Paso{u"FlexCalc"_s, u"1,3"_s};
+    return {{u"minical-vacia"_s, fila, u"hoja"_s},
+            {u"minical-resultados"_s, fila, u"hoja"_s, hojaDeMuestra()},
+            {u"minical-expresiones"_s, fila, u"hoja"_s, expresiones},
+            {u"minical-error"_s, fila, u"hoja"_s, enElError},
+            {u"minical-ayuda"_s, fila, u"intro"_s}};
+}

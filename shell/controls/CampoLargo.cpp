@@ -1,0 +1,92 @@
+#include "shell/controls/CampoLargo.h"
+
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QRegularExpression>
+#include <QTextOption>
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString enUnaLinea(QString texto)
+{
+    static const QRegularExpression saltos(u"[\\r\\n\\x{2028}\\x{2029}]+"_s);
+    return texto.remove(saltos).left(CampoLargo::LongitudMaxima);
+}
+
+} // namespace
+
+CampoLargo::CampoLargo(QWidget *padre) : QPlainTextEdit(padre)
+{
+    setTabChangesFocus(true);
+    setWordWrapMode(QTextOption::WrapAnywhere);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { Q_EMIT textoCambiado(text()); });
+}
+
+void CampoLargo::setText(const QString &texto)
+{
+    const QString linea = enUnaLinea(texto);
+    if (linea != text())
+        setPlainText(linea);
+}
+
+void CampoLargo::setLineas(int lineas)
+{
+    m_lineas = lineas;
+    updateGeometry();
+}
+
+int CampoLargo::alto(int lineas) const
+{
+    const int margenes = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+    return fontMetrics().lineSpacing() * lineas + margenes + 2;
+}
+
+QSize CampoLargo::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(u'0') * 40, alto(m_lineas)};
+}
+
+QSize CampoLargo::minimumSizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(u'0') * 12, alto(1)};
+}
+
+void CampoLargo::keyPressEvent(QKeyEvent *suceso)
+{
+    if (suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter) {
+        // A key held down counts once, so that Enter does not start and stop a run in turns.
+        if (!suceso->isAutoRepeat() && !suceso->modifiers().testFlag(Qt::ShiftModifier))
+            Q_EMIT returnPressed();
+        return;
+    }
+    QPlainTextEdit::keyPressEvent(suceso);
+}
+
+void CampoLargo::focusInEvent(QFocusEvent *suceso)
+{
+    m_textoAlEntrar = text();
+    QPlainTextEdit::focusInEvent(suceso);
+    const bool porTeclado = suceso->reason() == Qt::TabFocusReason ||
+                            suceso->reason() == Qt::BacktabFocusReason ||
+                            suceso->reason() == Qt::ShortcutFocusReason;
+    if (porTeclado)
+        selectAll();
+}
+
+void CampoLargo::focusOutEvent(QFocusEvent *suceso)
+{
+    QPlainTextEdit::focusOutEvent(suceso);
+    if (suceso->reason() != Qt::PopupFocusReason && text() != m_textoAlEntrar)
+        Q_EMIT editingFinished();
+}
+
+void CampoLargo::insertFromMimeData(const QMimeData *datos)
+{
+    const QString linea = enUnaLinea(datos->text());
+    const int sitio = LongitudMaxima - document()->characterCount();
+    insertPlainText(linea.left(std::max(sitio, 0)));
+}

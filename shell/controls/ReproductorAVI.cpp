@@ -1,0 +1,144 @@
+#include "shell/controls/ReproductorAVI.h"
+
+#include "shell/core/Rutas.h"
+#include "shell/look/Aspecto.h"
+#include "shell/look/Imagenes.h"
+
+#include <QDir>
+#include <QFontMetrics>
+#include <QMediaFormat>
+#include <QMediaPlayer>
+#include <QPainter>
+#include <QPainterPath>
+#include <QUrl>
+#include <QVideoFrame>
+#include <QVideoSink>
+
+namespace {
+
+/// Whether the machine can play the animations. A player of Qt 6.4 crashes where the plug-ins of
+/// the media machinery are missing; the container is not asked for, because Qt does not know its
+/// AVI.
+bool hayConQueReproducir()
+{
+    static const bool hay = QMediaFormat()
+                                .supportedVideoCodecs(QMediaFormat::Decode)
+                                .contains(QMediaFormat::VideoCodec::VP8);
+    return hay;
+}
+
+} // namespace
+
+ReproductorAVI::ReproductorAVI(QWidget *padre) : QWidget(padre)
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    m_arranque.setSingleShot(true);
+    m_arranque.setInterval(250);
+    connect(&m_arranque, &QTimer::timeout, this, &ReproductorAVI::arranca);
+}
+
+void ReproductorAVI::carga(const QString &ruta, const QString &imagenFija)
+{
+    para();
+    m_ruta = ruta;
+    m_imagenFija = imagenFija;
+    m_fotograma = {};
+    update();
+}
+
+void ReproductorAVI::reproduce(Modo modo)
+{
+    m_modo = modo;
+    m_estado = Reproduciendo;
+    if (modo == Modo::UnaVez)
+        arranca();
+    else
+        m_arranque.start();
+}
+
+void ReproductorAVI::arranca()
+{
+    if (!hayConQueReproducir()) {
+        if (m_modo == Modo::UnaVez)
+            QTimer::singleShot(0, this, &ReproductorAVI::fin);
+        return;
+    }
+    preparaMotor();
+    m_motor->setLoops(m_modo == Modo::Continuo ? QMediaPlayer::Infinite : QMediaPlayer::Once);
+    const QString archivo = QDir::current().absoluteFilePath(rutaExistente(m_ruta));
+    m_motor->setSource(QUrl::fromLocalFile(archivo));
+    m_motor->play();
+}
+
+void ReproductorAVI::para()
+{
+    m_estado = Parado;
+    m_arranque.stop();
+    if (m_motor)
+        m_motor->stop();
+}
+
+void ReproductorAVI::preparaMotor()
+{
+    if (m_motor)
+        return;
+    m_motor = new QMediaPlayer(this);
+    m_salida = new QVideoSink(this);
+    m_motor->setVideoSink(m_salida);
+    connect(m_salida, &QVideoSink::videoFrameChanged, this, [this](const QVideoFrame &fotograma) {
+        // The player hands over an empty frame when it stops; the last picture stays instead.
+        if (const QImage imagen = fotograma.toImage(); !imagen.isNull())
+            m_fotograma = imagen;
+        update();
+    });
+    connect(m_motor, &QMediaPlayer::mediaStatusChanged, this, [this](auto estadoDelMedio) {
+        const bool acabada = estadoDelMedio == QMediaPlayer::EndOfMedia ||
+                             estadoDelMedio == QMediaPlayer::InvalidMedia;
+        if (acabada && m_estado == Reproduciendo && m_modo == Modo::UnaVez)
+            fin();
+    });
+}
+
+void ReproductorAVI::fin()
+{
+    m_estado = Parado;
+    Q_EMIT terminada();
+}
+
+QSize ReproductorAVI::sizeHint() const
+{
+    const int lado = fontMetrics().height() * 8;
+    return {lado, lado};
+}
+
+QSize ReproductorAVI::minimumSizeHint() const
+{
+    return sizeHint() / 3;
+}
+
+void ReproductorAVI::paintEvent(QPaintEvent *)
+{
+    if (m_imagenFija.isEmpty())
+        return; // nothing was loaded yet
+    QPainter pintor(this);
+    pintor.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const int lado = std::min(width(), height());
+    QRect cuadro(0, 0, lado, lado);
+    cuadro.moveCenter(rect().center());
+    QPainterPath marco;
+    marco.addRoundedRect(cuadro, lado / 12.0, lado / 12.0);
+    pintor.fillPath(marco, Aspecto::lienzo());
+    pintor.setClipPath(marco);
+    if (m_fotograma.isNull()) {
+        const int alto = lado * 3 / 4;
+        const QPixmap fija = Imagen(m_imagenFija, alto, devicePixelRatioF());
+        QRectF destino(QPointF(), fija.deviceIndependentSize());
+        destino.moveCenter(QRectF(cuadro).center());
+        pintor.drawPixmap(destino.topLeft(), fija);
+        return;
+    }
+    QSize tamano = m_fotograma.size().scaled(cuadro.size(), Qt::KeepAspectRatio);
+    QRect destino(QPoint(), tamano);
+    destino.moveCenter(cuadro.center());
+    pintor.drawImage(destino, m_fotograma);
+}

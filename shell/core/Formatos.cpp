@@ -1,0 +1,57 @@
+#include "shell/core/Formatos.h"
+
+#include <QLocale>
+#include <QStringList>
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+QString formatoEntero(const QString &digitos)
+{
+    // QLocale of Qt 6.4 groups wrongly where a locale leaves four digits ungrouped ("1234.567"), so
+    // only the separator is its.
+    const bool negativo = digitos.startsWith(u'-');
+    const QStringView magnitud = QStringView(digitos).sliced(negativo ? 1 : 0);
+    const bool esNumero =
+        !magnitud.isEmpty() && std::all_of(magnitud.begin(), magnitud.end(),
+                                           [](QChar c) { return c >= u'0' && c <= u'9'; });
+    if (!esNumero)
+        return digitos;
+    const QString separador = QLocale().groupSeparator();
+    QString s;
+    s.reserve(digitos.size() * 4 / 3 + 2);
+    for (qsizetype i = 0; i < magnitud.size(); ++i) {
+        if (i > 0 && (magnitud.size() - i) % 3 == 0)
+            s += separador;
+        s += magnitud[i];
+    }
+    return negativo ? QLocale().negativeSign() + s : s;
+}
+
+QString formatoEntero(qint64 valor)
+{
+    return formatoEntero(QString::number(valor));
+}
+
+QString formatoEntero(Moneda valor)
+{
+    const std::int64_t media = valor < Moneda() ? -Moneda::Escala / 2 : Moneda::Escala / 2;
+    const std::int64_t resto = valor.diezmilesimas() % Moneda::Escala;
+    const bool alejaDeCero = media < 0 ? resto <= media : resto >= media;
+    return formatoEntero(valor.entero() + (alejaDeCero ? (media < 0 ? -1 : 1) : 0));
+}
+
+QString formatoDecimal(double valor, int decimales)
+{
+    const QStringList partes = QString::number(valor, 'f', decimales).split(u'.');
+    const QString entera = formatoEntero(partes.first());
+    return partes.size() == 1 ? entera : entera + u',' + partes.last();
+}
+
+QString formatoTiempo(std::chrono::milliseconds tiempo)
+{
+    const auto s = std::chrono::duration_cast<std::chrono::seconds>(tiempo).count();
+    return u"%1:%2:%3"_s.arg(s / 3600 % 24, 2, 10, QChar(u'0'))
+        .arg(s / 60 % 60, 2, 10, QChar(u'0'))
+        .arg(s % 60, 2, 10, QChar(u'0'));
+}

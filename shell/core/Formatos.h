@@ -1,0 +1,21 @@
+#pragma once
+
+#include "bignum/gateway/Moneda.h"
+
+#include <QString>
+#include <chrono>
+
+/// A whole number with separators of thousands, as the pattern "#,###,###,##0" shows it in the
+/// system's locale.
+QString formatoEntero(qint64 valor);
+/// The same for a fixed-point number, rounded to whole units (half away from zero).
+QString formatoEntero(Moneda valor);
+/// The same for a number of any size given by its decimal digits; other texts come back unchanged.
+QString formatoEntero(const QString &digitos);
+
+/// A number with so many decimals, 0 or more, rounded: the whole part as above, and a decimal comma
+/// whatever the system's locale.
+QString formatoDecimal(double valor, int decimales);
+
+/// A span of time as "hh:nn:ss"; hours start again after 24.
+QString formatoTiempo(std::chrono::milliseconds tiempo);

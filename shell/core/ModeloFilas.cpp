@@ -1,0 +1,53 @@
+#include "shell/core/ModeloFilas.h"
+
+ModeloFilas::ModeloFilas(const QStringList &cabeceras, QObject *padre)
+    : QAbstractTableModel(padre), m_cabeceras(cabeceras)
+{
+}
+
+int ModeloFilas::rowCount(const QModelIndex &padre) const
+{
+    return padre.isValid() ? 0 : static_cast<int>(m_filas.size());
+}
+
+int ModeloFilas::columnCount(const QModelIndex &padre) const
+{
+    return padre.isValid() ? 0 : static_cast<int>(m_cabeceras.size());
+}
+
+QVariant ModeloFilas::data(const QModelIndex &indice, int papel) const
+{
+    if (!indice.isValid())
+        return {};
+    if (papel == Qt::TextAlignmentRole) {
+        const auto lado = m_deTexto.contains(indice.column()) ? Qt::AlignLeft : Qt::AlignRight;
+        return {lado | Qt::AlignVCenter};
+    }
+    return papel == Qt::DisplayRole ? m_filas.at(indice.row()).value(indice.column()) : QVariant();
+}
+
+QVariant ModeloFilas::headerData(int seccion, Qt::Orientation orientacion, int papel) const
+{
+    if (orientacion != Qt::Horizontal)
+        return papel == Qt::DisplayRole ? QVariant(seccion + 1) : QVariant();
+    if (papel == Qt::TextAlignmentRole) {
+        const auto lado = m_deTexto.contains(seccion) ? Qt::AlignLeft : Qt::AlignRight;
+        return {lado | Qt::AlignVCenter};
+    }
+    return papel == Qt::DisplayRole ? m_cabeceras.value(seccion) : QVariant();
+}
+
+void ModeloFilas::ponFilas(const QList<QStringList> &filas)
+{
+    beginResetModel();
+    m_filas = filas;
+    endResetModel();
+}
+
+void ModeloFilas::agrega(const QStringList &fila)
+{
+    const int ultima = rowCount();
+    beginInsertRows({}, ultima, ultima);
+    m_filas << fila;
+    endInsertRows();
+}

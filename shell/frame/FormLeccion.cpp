@@ -1,0 +1,161 @@
+#include "shell/frame/FormLeccion.h"
+
+#include "shell/core/ModGlobal.h"
+#include "shell/core/PaginaTraducida.h"
+#include "shell/frame/Evento.h"
+#include "shell/frame/Interlocutor.h"
+#include "shell/frame/NavegadorPagina.h"
+#include "shell/look/Aspecto.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMdiSubWindow>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
+    : QWidget(padre),
+      m_pagina(pagina),
+      m_tsTema(new QTabBar(this)),
+      m_paneles(new QStackedWidget(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_tsTema->setObjectName(u"tsTema"_s);
+    m_tsTema->setAccessibleName(Traduce(u"Temas de la lección"_s));
+    m_tsTema->setExpanding(false);
+    m_tsTema->setDrawBase(true);
+    auto *columna = new QVBoxLayout(this);
+    columna->setContentsMargins(0, Aspecto::Espacio / 2, 0, 0);
+    columna->setSpacing(0);
+    columna->addWidget(m_tsTema);
+    columna->addWidget(m_paneles);
+    conecta(m_tsTema, &QTabBar::currentChanged, this, &FormLeccion::tsTema_Click);
+    qApp->installEventFilter(this);
+}
+
+QString FormLeccion::URL() const
+{
+    return Sesión().carpeta() + u"\\Doc\\"_s + m_pagina;
+}
+
+void FormLeccion::muestraAyuda() const
+{
+    if (!URL().isEmpty())
+        interlocutor().abre(PaginaTraducida(URL(), Idioma()));
+}
+
+void FormLeccion::cierra()
+{
+    marco()->close();
+}
+
+void FormLeccion::detenCorrida()
+{
+    if (QAbstractButton *boton = botonDeParada())
+        boton->click();
+}
+
+void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel)
+{
+    const int indice = m_paneles->addWidget(panel);
+    panel->setObjectName(u"PanelFicha_%1"_s.arg(indice));
+    m_tsTema->addTab(Traduce(rotulo));
+    m_tsTema->setTabData(indice, clave);
+}
+
+void FormLeccion::quitaTema(const QString &clave)
+{
+    const int indice = indiceDeTema(clave);
+    if (indice < 0)
+        return;
+    // The panel goes first: the strip tells which topic comes to the front once the tab is gone.
+    QWidget *panel = m_paneles->widget(indice);
+    m_paneles->removeWidget(panel);
+    panel->hide();
+    m_tsTema->removeTab(indice);
+}
+
+int FormLeccion::indiceDeTema(const QString &clave) const
+{
+    for (int i = 0; i < m_tsTema->count(); ++i) {
+        if (m_tsTema->tabData(i).toString() == clave)
+            return i;
+    }
+    return -1;
+}
+
+void FormLeccion::agregaIntroduccion(const QString &rotulo)
+{
+    auto *panel = new QWidget(this);
+    auto *marco = new QVBoxLayout(panel);
+    marco->setContentsMargins(0, 0, 0, 0);
+    auto *pagina = new NavegadorPagina(panel);
+    pagina->setObjectName(u"wbIntro"_s);
+    pagina->setAccessibleName(Traduce(u"Introducción"_s));
+    pagina->navega(PaginaTraducida(URL(), Idioma()));
+    marco->addWidget(pagina);
+    agregaTema(rotulo, u"intro"_s, panel);
+}
+
+void FormLeccion::tsTema_Click(int indice)
+{
+    m_paneles->setCurrentIndex(indice);
+}
+
+void FormLeccion::closeEvent(QCloseEvent *suceso)
+{
+    if (!m_descargada && !permiteCerrar()) {
+        suceso->ignore();
+        return;
+    }
+    if (!m_descargada)
+        Q_EMIT descargada();
+    m_descargada = true;
+    if (!m_corrida.enCurso())
+        return;
+    suceso->ignore();
+    desaparece();
+}
+
+void FormLeccion::desaparece()
+{
+    // Handlers of this window are still on the stack, below the yield that served the close: the
+    // window goes out of sight now and is closed for good from the event queue after they are gone.
+    marco()->hide();
+    m_corrida.detener();
+    m_corrida.alTerminar([this] { QTimer::singleShot(0, this, &FormLeccion::cierra); });
+}
+
+QWidget *FormLeccion::marco()
+{
+    QWidget *hueco = qobject_cast<QMdiSubWindow *>(parentWidget());
+    return hueco ? hueco : this;
+}
+
+bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
+{
+    // Keys are taken here because fields and grids keep F1 and Escape for themselves.
+    const bool tecla = suceso->type() == QEvent::KeyRelease || suceso->type() == QEvent::KeyPress;
+    if (!tecla || !objeto->isWidgetType())
+        return QWidget::eventFilter(objeto, suceso);
+    auto *control = static_cast<QWidget *>(objeto);
+    const auto *pulsacion = static_cast<QKeyEvent *>(suceso);
+    if ((control != this && !isAncestorOf(control)) || pulsacion->isAutoRepeat())
+        return QWidget::eventFilter(objeto, suceso);
+    if (suceso->type() == QEvent::KeyRelease && pulsacion->key() == Qt::Key_F1) {
+        evento(this, [this] { muestraAyuda(); });
+        return true;
+    }
+    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
+        botonDeParada()) {
+        evento(this, [this] { detenCorrida(); });
+        return true;
+    }
+    return QWidget::eventFilter(objeto, suceso);
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "shell/core/Corrida.h"
+
+#include <QString>
+#include <QWidget>
+
+class NavegadorPagina;
+class QAbstractButton;
+class QStackedWidget;
+class QTabBar;
+
+/// The frame of every lesson window: a strip of topics (`tsTema`), one panel a topic (`PanelFicha`)
+/// of which the selected one is in front, the introduction page (`wbIntro`), help on F1, and the
+/// run that its computations share. The window may be closed during a run: it disappears at once,
+/// the run is told to stop, and the window is unloaded when the run has returned.
+class FormLeccion : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `pagina` is the file name of the lesson's page in the folder Doc.
+    explicit FormLeccion(const QString &pagina, QWidget *padre = nullptr);
+
+    /// The path of the help page, in Spanish: the working folder, then "\Doc\" and the page.
+    QString URL() const;
+
+    /// Opens the help page in the system's browser, in the language of the interface where it has
+    /// been translated.
+    void muestraAyuda() const;
+
+    /// Closes the window as its close button would.
+    void cierra();
+
+    /// Stops the run in progress as its stop button would; nothing without one.
+    void detenCorrida();
+
+    Corrida &corrida() { return m_corrida; }
+
+Q_SIGNALS:
+    /// The user has closed the window; it is not to be shown again.
+    void descargada();
+
+protected:
+    /// Adds a topic behind the others. The panel becomes the window's and is named PanelFicha_<n>,
+    /// counted from 0.
+    void agregaTema(const QString &rotulo, const QString &clave, QWidget *panel);
+
+    /// Takes a topic off the strip; its panel stays as it is, and may be added again. Nothing for a
+    /// key that no topic has.
+    void quitaTema(const QString &clave);
+    bool tieneTema(const QString &clave) const { return indiceDeTema(clave) >= 0; }
+
+    /// The first topic of every lesson: its page of introduction.
+    void agregaIntroduccion(const QString &rotulo);
+
+    /// The button that stops the run in progress by a click, which the Escape key presses; null
+    /// where there is nothing to stop.
+    virtual QAbstractButton *botonDeParada() const { return nullptr; }
+
+    /// Whether the window may be closed now (unsaved work and the like).
+    virtual bool permiteCerrar() { return true; }
+
+    void closeEvent(QCloseEvent *suceso) override;
+    bool eventFilter(QObject *objeto, QEvent *suceso) override;
+
+private:
+    int indiceDeTema(const QString &clave) const;
+    void tsTema_Click(int indice);
+    void desaparece();
+    QWidget *marco();
+
+    QString m_pagina;
+    QTabBar *m_tsTema;
+    QStackedWidget *m_paneles;
+    Corrida m_corrida;
+    bool m_descargada = false;
+};

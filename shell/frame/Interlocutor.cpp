@@ -1,0 +1,225 @@
+#include "shell/frame/Interlocutor.h"
+
+#include "shell/core/ModGlobal.h"
+#include "shell/core/Rutas.h"
+
+#include <QAbstractButton>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+std::unique_ptr<Interlocutor> &puesto()
+{
+    static std::unique_ptr<Interlocutor> objeto;
+    return objeto;
+}
+
+QMessageBox::Icon iconoDeCaja(Interlocutor::Icono icono)
+{
+    switch (icono) {
+    case Interlocutor::Icono::Informacion:
+        return QMessageBox::Information;
+    case Interlocutor::Icono::Exclamacion:
+        return QMessageBox::Warning;
+    case Interlocutor::Icono::Critico:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// Names the kinds of files in Qt's own dialogs, for which it has no Spanish words.
+class TiposDeArchivo : public QFileIconProvider
+{
+public:
+    QString type(const QFileInfo &info) const override
+    {
+        if (info.isDir())
+            return Traduce(u"Carpeta"_s);
+        return (Traduce(u"Archivo"_s) + u' ' + info.suffix()).trimmed();
+    }
+};
+
+/// The extension that a filter such as "Hojas (*.minical)" gives, without its dot.
+QString extension(const QString &filtro)
+{
+    static const QRegularExpression forma(u"\\*\\.(\\w+)"_s);
+    return forma.match(filtro).captured(1);
+}
+
+/// Begins where `propuesta` says: in that folder, or at that file.
+void prepara(QFileDialog &dialogo, const QString &propuesta, const QStringList &filtros)
+{
+    const QFileInfo info(propuesta);
+    dialogo.setNameFilters(filtros);
+    if (info.isDir()) {
+        dialogo.setDirectory(propuesta);
+        return;
+    }
+    if (info.absoluteDir().exists())
+        dialogo.setDirectory(info.absolutePath());
+    dialogo.selectFile(info.fileName());
+}
+
+/// A box does not break words: a number of thousands of digits would make it wider than the screen.
+/// What is longer than a screenful is cut in the middle.
+QString paraLaCaja(QString texto)
+{
+    constexpr qsizetype maximo = 2000;
+    constexpr qsizetype palabra = 70;
+    if (texto.size() > maximo)
+        texto = texto.first(maximo / 2) + u" … "_s + texto.last(maximo / 2);
+    qsizetype seguidos = 0;
+    for (qsizetype i = 0; i < texto.size(); ++i) {
+        seguidos = texto[i].isSpace() ? 0 : seguidos + 1;
+        if (seguidos > palabra) {
+            texto.insert(i, u'\n');
+            seguidos = 0;
+        }
+    }
+    return texto;
+}
+
+} // namespace
+
+Interlocutor::~Interlocutor() = default;
+
+void Interlocutor::mensaje(QWidget *padre, Icono icono, const QString &texto, const QString &titulo)
+{
+    QMessageBox caja(iconoDeCaja(icono), titulo, paraLaCaja(texto), QMessageBox::Ok, padre);
+    caja.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    caja.setTextFormat(Qt::PlainText);
+    caja.exec();
+}
+
+QString Interlocutor::pideTexto(QWidget *padre, const QString &pregunta, const QString &titulo)
+{
+    return QInputDialog::getText(padre, titulo, pregunta);
+}
+
+Interlocutor::Guardado Interlocutor::preguntaSiGuarda(QWidget *padre, const QString &texto,
+                                                      const QString &titulo)
+{
+    QMessageBox caja(QMessageBox::Question, titulo, texto,
+                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, padre);
+    caja.setDefaultButton(QMessageBox::Save);
+    caja.setTextFormat(Qt::PlainText);
+    caja.button(QMessageBox::Discard)->setText(Traduce(u"&No guardar"_s));
+    switch (caja.exec()) {
+    case QMessageBox::Save:
+        return Guardado::Guardar;
+    case QMessageBox::Discard:
+        return Guardado::Descartar;
+    default:
+        return Guardado::Cancelar;
+    }
+}
+
+QString Interlocutor::pideArchivoParaAbrir(QWidget *padre, const QString &titulo,
+                                           const QString &propuesta, const QStringList &filtros)
+{
+    TiposDeArchivo tipos;
+    QFileDialog dialogo(padre, titulo);
+    dialogo.setIconProvider(&tipos);
+    dialogo.setFileMode(QFileDialog::ExistingFile);
+    prepara(dialogo, propuesta, filtros);
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().constFirst() : QString();
+}
+
+Interlocutor::Archivo Interlocutor::pideArchivoParaGuardar(QWidget *padre, const QString &titulo,
+                                                           const QString &propuesta,
+                                                           const QStringList &filtros)
+{
+    TiposDeArchivo tipos;
+    QFileDialog dialogo(padre, titulo);
+    dialogo.setIconProvider(&tipos);
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    prepara(dialogo, propuesta, filtros);
+    dialogo.setDefaultSuffix(extension(filtros.value(0)));
+    QObject::connect(
+        &dialogo, &QFileDialog::filterSelected, &dialogo,
+        [&dialogo](const QString &filtro) { dialogo.setDefaultSuffix(extension(filtro)); });
+    if (dialogo.exec() != QDialog::Accepted)
+        return {};
+    const auto filtro = static_cast<int>(filtros.indexOf(dialogo.selectedNameFilter()));
+    return {dialogo.selectedFiles().constFirst(), std::max(filtro, 0)};
+}
+
+bool Interlocutor::pideImpresora(QWidget *padre, QPrinter &impresora, const QString &titulo)
+{
+    QPrintDialog dialogo(&impresora, padre);
+    dialogo.setWindowTitle(titulo);
+    return dialogo.exec() == QDialog::Accepted;
+}
+
+QString Interlocutor::pideCarpeta(QWidget *padre, const QString &pregunta, const QString &inicial)
+{
+    TiposDeArchivo tipos;
+    QFileDialog dialogo(padre, Traduce(u"Seleccionar carpeta"_s), rutaExistente(inicial));
+    dialogo.setFileMode(QFileDialog::Directory);
+    dialogo.setOption(QFileDialog::ShowDirsOnly);
+    // The desktop's own dialog has no place for the question.
+    dialogo.setOption(QFileDialog::DontUseNativeDialog);
+    dialogo.setIconProvider(&tipos);
+    dialogo.setViewMode(QFileDialog::List); // size and kind of a folder say nothing
+    if (auto *rejilla = qobject_cast<QGridLayout *>(dialogo.layout())) {
+        auto *rotulo = new QLabel(pregunta, &dialogo);
+        rotulo->setTextFormat(Qt::PlainText);
+        rotulo->setWordWrap(true);
+        rejilla->addWidget(rotulo, rejilla->rowCount(), 0, 1, rejilla->columnCount());
+    }
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
+}
+
+bool Interlocutor::confirma(QWidget *padre, const QString &pregunta, const QString &titulo)
+{
+    QMessageBox caja(QMessageBox::Question, titulo, pregunta, QMessageBox::Yes | QMessageBox::No,
+                     padre);
+    caja.setDefaultButton(QMessageBox::No);
+    caja.setTextFormat(Qt::PlainText);
+    return caja.exec() == QMessageBox::Yes;
+}
+
+void Interlocutor::abre(const QString &direccion)
+{
+    const QFileInfo archivo(rutaExistente(direccion));
+    const bool local = archivo.isAbsolute() || archivo.exists();
+    QDesktopServices::openUrl(local ? QUrl::fromLocalFile(archivo.absoluteFilePath())
+                                    : QUrl(direccion));
+}
+
+bool Interlocutor::lanzaAlguno(const QList<QStringList> &ordenes)
+{
+    for (const QStringList &orden : ordenes) {
+        const QString programa = QStandardPaths::findExecutable(orden.first());
+        if (!programa.isEmpty() && QProcess::startDetached(programa, orden.sliced(1)))
+            return true;
+    }
+    return false;
+}
+
+Interlocutor &interlocutor()
+{
+    static Interlocutor real;
+    return puesto() ? *puesto() : real;
+}
+
+std::unique_ptr<Interlocutor> ponInterlocutor(std::unique_ptr<Interlocutor> nuevo)
+{
+    std::swap(puesto(), nuevo);
+    return nuevo;
+}

@@ -1,0 +1,99 @@
+#include "shell/frame/PanelCuestiones.h"
+
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
+#include "shell/look/Aspecto.h"
+#include "shell/look/Imagenes.h"
+#include "shell/look/Textos.h"
+#include "ui_PanelCuestiones.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// How often a question is drawn again until it is another one; a draw among very few may repeat.
+constexpr int SorteosComoMucho = 20;
+
+/// The signs of print as the keyboard has them, and F(n) as expressions call it.
+QString comoExpresion(QString respuesta)
+{
+    static const QRegularExpression fibonacci(u"\\bF\\s*\\("_s);
+    return respuesta.replace(u'−', u'-')
+        .replace(u'·', u'*')
+        .replace(u'×', u'*')
+        .replace(fibonacci, u"fib("_s)
+        .trimmed();
+}
+
+} // namespace
+
+/// Where one question stands: what draws it, and its controls.
+struct PanelCuestiones::Lugar
+{
+    Sorteo sortea;
+    QLabel *enunciado;
+    QLineEdit *respuesta;
+    QPushButton *comprobar, *otra;
+    QLabel *veredicto;
+    Cuestion cuestion = {};
+};
+
+PanelCuestiones::PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, QWidget *padre)
+    : QWidget(padre), ui(std::make_unique<Ui::PanelCuestiones>())
+{
+    ui->setupUi(this);
+    traduceVentana(this);
+    m_lugares = {{primera, ui->lblEnunciado_0, ui->txtRespuesta_0, ui->cmdComprobar_0,
+                  ui->cmdOtra_0, ui->lblVeredicto_0},
+                 {segunda, ui->lblEnunciado_1, ui->txtRespuesta_1, ui->cmdComprobar_1,
+                  ui->cmdOtra_1, ui->lblVeredicto_1}};
+    for (QLabel *titulo : {ui->lblTitulo_0, ui->lblTitulo_1})
+        Aspecto::destaca(titulo, 1.15);
+    for (Lugar &lugar : m_lugares) {
+        lugar.comprobar->setIcon(Icono(u"COMPROBAR"_s));
+        lugar.otra->setIcon(Icono(u"DADO"_s));
+        conecta(lugar.comprobar, &QPushButton::clicked, this,
+                [this, &lugar] { cmdComprobar_Click(lugar); });
+        conecta(lugar.otra, &QPushButton::clicked, this, [&lugar] { cmdOtra_Click(lugar); });
+        conecta(lugar.respuesta, &QLineEdit::returnPressed, this,
+                [this, &lugar] { cmdComprobar_Click(lugar); });
+        // A verdict belongs to the answer that was judged.
+        conecta(lugar.respuesta, &QLineEdit::textChanged, lugar.veredicto, &QLabel::clear);
+        plantea(lugar);
+    }
+}
+
+PanelCuestiones::~PanelCuestiones() = default;
+
+void PanelCuestiones::plantea(Lugar &lugar)
+{
+    const QString anterior = lugar.cuestion.enunciado;
+    for (int vez = 0; vez < SorteosComoMucho && lugar.cuestion.enunciado == anterior; ++vez)
+        lugar.cuestion = lugar.sortea();
+    lugar.enunciado->setText(lugar.cuestion.enunciado);
+    lugar.respuesta->setPlaceholderText(lugar.cuestion.ejemplo);
+    lugar.respuesta->clear();
+    lugar.veredicto->clear();
+}
+
+void PanelCuestiones::cmdOtra_Click(Lugar &lugar)
+{
+    plantea(lugar);
+    lugar.respuesta->setFocus();
+}
+
+void PanelCuestiones::cmdComprobar_Click(Lugar &lugar)
+{
+    lugar.respuesta->setFocus();
+    const QString respuesta = comoExpresion(lugar.respuesta->text());
+    if (respuesta.isEmpty())
+        return;
+    const Juicio juicio = lugar.cuestion.juzga(respuesta);
+    muestraVeredicto(lugar.veredicto, juicio.acertada, juicio.palabra);
+    ui->ccrpAniEureka->carga(juicio.acertada ? Sesión().AVIEureka() : Sesión().AVIError(),
+                             juicio.acertada ? u"EUREKA"_s : u"ERROR"_s);
+    ui->ccrpAniEureka->reproduce(ReproductorAVI::Modo::UnaVez);
+}

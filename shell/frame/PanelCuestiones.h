@@ -1,0 +1,35 @@
+#pragma once
+
+#include "shell/core/Cuestion.h"
+
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+namespace Ui {
+class PanelCuestiones;
+}
+
+/// The topic "Cuestiones" of a lesson that asks two questions: each is drawn at random, judged with
+/// a word and an animation, and can be drawn anew. An answer may be written as the lessons print
+/// mathematics: "2 · F(11) − 1" is judged as "2 * fib(11) - 1".
+class PanelCuestiones : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using Sorteo = std::function<Cuestion()>;
+
+    PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, QWidget *padre);
+    ~PanelCuestiones() override;
+
+private:
+    struct Lugar;
+
+    static void plantea(Lugar &lugar);
+    static void cmdOtra_Click(Lugar &lugar);
+    void cmdComprobar_Click(Lugar &lugar);
+
+    std::unique_ptr<Ui::PanelCuestiones> ui;
+    std::vector<Lugar> m_lugares;
+};

@@ -1,0 +1,60 @@
+#include "shell/look/Textos.h"
+
+#include "shell/core/ModGlobal.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMetaProperty>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QWidget>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The properties that hold texts of the interface, in whatever class has them.
+constexpr std::array propiedades{"windowTitle", "toolTip",        "statusTip",
+                                 "whatsThis",   "accessibleName", "accessibleDescription",
+                                 "title",       "placeholderText"};
+
+void traducePropiedad(QObject *objeto, const char *propiedad)
+{
+    const QString texto = objeto->property(propiedad).toString();
+    if (texto.isEmpty())
+        return;
+    const QString traducido = Traduce(texto);
+    if (traducido != texto)
+        objeto->setProperty(propiedad, traducido);
+}
+
+void traduceObjeto(QObject *objeto)
+{
+    for (const char *propiedad : propiedades) {
+        if (objeto->metaObject()->indexOfProperty(propiedad) >= 0)
+            traducePropiedad(objeto, propiedad);
+    }
+    const bool rotulo = qobject_cast<QLabel *>(objeto) || qobject_cast<QAbstractButton *>(objeto) ||
+                        qobject_cast<QAction *>(objeto);
+    if (rotulo)
+        traducePropiedad(objeto, "text");
+    if (auto *fichas = qobject_cast<QTabWidget *>(objeto)) {
+        for (int i = 0; i < fichas->count(); ++i)
+            fichas->setTabText(i, Traduce(fichas->tabText(i)));
+    }
+}
+
+} // namespace
+
+void traduceVentana(QWidget *ventana)
+{
+    traduceObjeto(ventana);
+    const auto objetos = ventana->findChildren<QObject *>();
+    for (QObject *objeto : objetos)
+        traduceObjeto(objeto);
+}

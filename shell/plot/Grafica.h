@@ -1,0 +1,83 @@
+#pragma once
+
+#include "shell/plot/Encuadre.h"
+#include "shell/plot/ReglasDeGrafica.h"
+
+#include <QList>
+#include <QWidget>
+
+class EjeDeGrafica;
+
+/// A plot of a function of whole numbers: axes (`EjeX`, `EjeY`), points joined by thin lines, and
+/// under the mouse two rulers (`ReglaHorizontal`, `ReglaVertical`) with their coordinates
+/// (`LabelX`, `LabelY`). The point nearest to the pointer, or chosen with the arrow keys, is marked
+/// (`PuntoFunción`). The wheel and the keys + and - zoom, dragging pans, a double click or the key
+/// Home shows everything again.
+class Grafica : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Grafica(QWidget *padre = nullptr);
+
+    /// The points, by rising x, and the part of the plane that holds them, which is shown whole.
+    void ponPuntos(const QList<QPointF> &puntos, const QRectF &limites);
+    /// A stretch of x that stands out; nothing when its ends are equal.
+    void ponTramo(qreal desde, qreal hasta);
+    /// A straight line to compare the points with, dashed; none when its ends are equal. Like the
+    /// stretch, it goes when other points come.
+    void ponRecta(QPointF desde, QPointF hasta);
+    void borra();
+
+    /// What is shown while there are no points.
+    void ponTextoVacio(const QString &texto);
+
+    const Encuadre &encuadre() const { return m_encuadre; }
+
+    /// The index of the marked point; -1 when none is.
+    int puntoSenalado() const { return m_senalado; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// Another point is marked, or none (-1).
+    void senalado(int indice);
+
+protected:
+    void paintEvent(QPaintEvent *suceso) override;
+    void resizeEvent(QResizeEvent *suceso) override;
+    void mouseMoveEvent(QMouseEvent *suceso) override;
+    void mousePressEvent(QMouseEvent *suceso) override;
+    void mouseReleaseEvent(QMouseEvent *suceso) override;
+    void mouseDoubleClickEvent(QMouseEvent *suceso) override;
+    void wheelEvent(QWheelEvent *suceso) override;
+    void leaveEvent(QEvent *suceso) override;
+    void keyPressEvent(QKeyEvent *suceso) override;
+    void changeEvent(QEvent *suceso) override;
+    void contextMenuEvent(QContextMenuEvent *suceso) override;
+
+private:
+    void coloca();
+    void amplia(qreal factor);
+    void muestraTodo();
+    void sigue(QPointF pixel);
+    void quitaReglas();
+    void senala(int indice);
+    void colocaPunto();
+    void eligePunto(int indice);
+    int puntoCercano(qreal x) const;
+
+    Encuadre m_encuadre;
+    QList<QPointF> m_puntos;
+    QString m_textoVacio;
+    qreal m_tramoDesde = 0;
+    qreal m_tramoHasta = 0;
+    QPointF m_rectaDesde, m_rectaHasta;
+    QPointF m_agarre;
+    int m_senalado = -1;
+
+    EjeDeGrafica *m_ejeX, *m_ejeY;
+    QWidget *m_punto;
+    ReglasDeGrafica m_reglas;
+};

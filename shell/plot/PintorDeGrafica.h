@@ -1,0 +1,29 @@
+#pragma once
+
+#include "shell/plot/Encuadre.h"
+
+#include <QPalette>
+
+class QPainter;
+
+/// Draws a plot piece by piece, each over the ones before, in the colours of the program's look.
+class PintorDeGrafica
+{
+public:
+    PintorDeGrafica(const Encuadre &encuadre, const QPalette &colores, QPainter &pintor);
+
+    void fondo();
+    /// Shades what lies between two x; nothing when they are equal.
+    void tramo(qreal desde, qreal hasta);
+    void rejilla(const QList<qint64> &enX, const QList<qint64> &enY);
+    /// The points and the lines between them.
+    void funcion(const QList<QPointF> &puntos);
+    /// A dashed straight line over the points; nothing when its ends are equal.
+    void recta(QPointF desde, QPointF hasta);
+    void marcoDelFoco();
+
+private:
+    const Encuadre &m_encuadre;
+    const QPalette &m_colores;
+    QPainter &m_pintor;
+};

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "shell/frame/Leccion.h"
+
+#include <QHash>
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+#include <memory>
+
+class FormLeccion;
+class MenuLecciones;
+class MenuVentana;
+class PanelBienvenida;
+
+namespace Ui {
+class FormPrincipal;
+}
+
+/// The main window: the lesson menu, the toolbar, the animated logo, and the lessons as child
+/// windows. It is handed the table of lessons and knows none of them by name.
+class FormPrincipal : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit FormPrincipal(const Contenido &contenido, QWidget *padre = nullptr);
+    /// Shuts the big-number service down.
+    ~FormPrincipal() override;
+
+    /// Row of the spreadsheet in `abreLeccion`.
+    static constexpr int FilaHojaDeCalculo = -1;
+
+    /// Opens the window of a row of the menu, or brings the existing one to the front; null for a
+    /// row that does not exist or has no lesson yet.
+    FormLeccion *abreLeccion(int fila);
+
+    /// The lesson in the active child window, or null.
+    FormLeccion *leccionActiva() const;
+
+    /// Shows the about box; as the splash it goes away by itself after some seconds.
+    QWidget *muestraAcercaDe(bool presentacion);
+
+protected:
+    void closeEvent(QCloseEvent *suceso) override;
+    void showEvent(QShowEvent *suceso) override;
+    bool eventFilter(QObject *objeto, QEvent *suceso) override;
+
+private:
+    void preparaMenu(const Contenido &contenido);
+    void preparaOrdenes();
+    void preparaAspecto();
+    void recuperaTamano();
+    void guardaTamano() const;
+    void colocaVentana(FormLeccion *leccion);
+
+    void FlexMenu_Click(const QModelIndex &indice);
+    void FlexMenu_MouseMove(int fila);
+    void AniLogo_MouseDown(Qt::MouseButton boton);
+    void TimerLogo_Timer();
+    void Calculadora_Click();
+    void calc_Click();
+    void Algoritmos_Click();
+    void mnuCerrar_Click();
+    void mnuOtroPanel_Click();
+    void mnuDepartamento_Click();
+    void cambiaLetra(int pasos);
+
+    std::unique_ptr<Ui::FormPrincipal> ui;
+    MenuLecciones *m_menu;
+    MenuVentana *m_menuVentana;
+    PanelBienvenida *m_bienvenida;
+    QList<Leccion> m_lecciones;
+    Leccion m_hojaDeCalculo;
+    QHash<int, QPointer<FormLeccion>> m_abiertas;
+    QTimer *m_timerPresentacion;
+    QTimer *m_timerLogo;
+    int m_filaResaltada = -1;
+};

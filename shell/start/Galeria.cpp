@@ -1,0 +1,231 @@
+#include "shell/start/Galeria.h"
+
+#include "bignum/gateway/ModBignum.h"
+#include "shell/core/Rutas.h"
+#include "shell/frame/FormLeccion.h"
+#include "shell/frame/Interlocutor.h"
+#include "shell/look/Aspecto.h"
+#include "shell/look/Imagenes.h"
+#include "shell/start/FormPrincipal.h"
+#include "shell/start/Main.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSettings>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Answers every question by silence, so that no box stands in the way of a picture.
+class Callado : public Interlocutor
+{
+public:
+    void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
+    QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
+    Guardado preguntaSiGuarda(QWidget *, const QString &, const QString &) override
+    {
+        return Guardado::Descartar;
+    }
+    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &,
+                                 const QStringList &) override
+    {
+        return {};
+    }
+    Archivo pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
+                                   const QStringList &) override
+    {
+        return {};
+    }
+    bool pideImpresora(QWidget *, QPrinter &, const QString &) override { return false; }
+    /// A folder beside the copy of the working folder, for what students share.
+    QString pideCarpeta(QWidget *, const QString &, const QString &) override
+    {
+        QDir().mkpath(u"../Compartida"_s);
+        return QDir(u"../Compartida"_s).absolutePath();
+    }
+    bool confirma(QWidget *, const QString &, const QString &) override { return false; }
+    void abre(const QString &) override {}
+    bool lanzaAlguno(const QList<QStringList> &) override { return true; }
+};
+
+class Fotografo
+{
+public:
+    Fotografo(const Contenido &contenido, const OpcionesDeGaleria &opciones)
+        : m_contenido(contenido), m_carpeta(opciones.carpeta), m_principal(contenido)
+    {
+        m_principal.resize(opciones.tamano);
+    }
+
+    bool retrataTodo()
+    {
+        m_principal.show();
+        QWidget *acercaDe = m_principal.muestraAcercaDe(false);
+        espera(600ms);
+        retrata(*acercaDe, u"acercade"_s);
+        acercaDe->close();
+        retrata(m_principal, u"principal"_s);
+        const QList<Escena> escenas = m_contenido.escenas();
+        for (const Escena &escena : escenas)
+            retrata(escena);
+        return m_bien;
+    }
+
+private:
+    static void espera(std::chrono::milliseconds tiempo)
+    {
+        const QDeadlineTimer fin(tiempo);
+        while (!fin.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+
+    void retrata(QWidget &ventana, const QString &nombre)
+    {
+        m_bien = ventana.grab().save(m_carpeta.filePath(nombre + u".png"_s)) && m_bien;
+    }
+
+    void retrata(const Escena &escena)
+    {
+        FormLeccion *leccion = m_principal.abreLeccion(escena.fila);
+        if (!leccion)
+            return;
+        abreTema(*leccion->findChild<QTabBar *>(u"tsTema"_s), escena.tema);
+        espera(50ms);
+        if (escena.durante) {
+            QTimer::singleShot(escena.tras, leccion, [this, leccion, &escena] {
+                retrata(m_principal, escena.nombre);
+                leccion->detenCorrida();
+            });
+        }
+        for (const Paso &paso : escena.pasos)
+            da(paso, *leccion);
+        espera(400ms);
+        if (!escena.durante)
+            retrata(m_principal, escena.nombre);
+        leccion->cierra();
+        espera(20ms);
+    }
+
+    static void abreTema(QTabBar &temas, const QString &clave)
+    {
+        for (int i = 0; i < temas.count(); ++i) {
+            if (temas.tabData(i).toString() == clave)
+                temas.setCurrentIndex(i);
+        }
+    }
+
+    static void da(const Paso &paso, const QWidget &ventana)
+    {
+        auto *control = ventana.findChild<QWidget *>(paso.control);
+        if (paso.valor.endsWith(u'\n')) {
+            da({paso.control, paso.valor.chopped(1)}, ventana);
+            QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(control, &intro);
+        } else if (auto *tira = qobject_cast<QTabBar *>(control))
+            abreTema(*tira, paso.valor);
+        else if (auto *lista = qobject_cast<QComboBox *>(control))
+            lista->setCurrentText(paso.valor);
+        else if (auto *campo = qobject_cast<QLineEdit *>(control))
+            campo->setText(paso.valor);
+        else if (auto *texto = qobject_cast<QPlainTextEdit *>(control))
+            texto->setPlainText(paso.valor);
+        else if (auto *boton = qobject_cast<QAbstractButton *>(control))
+            boton->click();
+        else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
+            escribe(*rejilla, paso.valor);
+        else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
+            pestanas->setCurrentIndex(paso.valor.toInt());
+        else
+            qWarning("no such control in the scene: %s", qPrintable(paso.control));
+    }
+
+    /// "row,column:text", or "row,column" for the cell to become current; both counted from 0.
+    static void escribe(QAbstractItemView &rejilla, const QString &valor)
+    {
+        const QString casilla = valor.section(u':', 0, 0);
+        const QModelIndex indice = rejilla.model()->index(casilla.section(u',', 0, 0).toInt(),
+                                                          casilla.section(u',', 1).toInt());
+        if (casilla == valor)
+            rejilla.setCurrentIndex(indice);
+        else
+            rejilla.model()->setData(indice, valor.section(u':', 1), Qt::EditRole);
+    }
+
+    const Contenido &m_contenido;
+    QDir m_carpeta;
+    FormPrincipal m_principal;
+    bool m_bien = true;
+};
+
+/// A folder with all that is in it, to a place that may be written.
+void copiaCarpeta(const QString &origen, const QString &destino)
+{
+    QDir().mkpath(destino);
+    const auto entradas = QDir(origen).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    for (const QFileInfo &entrada : entradas) {
+        const QString copia = destino + u'/' + entrada.fileName();
+        if (entrada.isDir())
+            copiaCarpeta(entrada.filePath(), copia);
+        else
+            QFile::copy(entrada.filePath(), copia);
+    }
+}
+
+/// The animations and pages of the working folder.
+void copiaCarpetaDeTrabajo(const QString &origen, const QString &destino)
+{
+    for (const QString &parte : {u"/ClipArt"_s, u"/Doc"_s})
+        copiaCarpeta(origen + parte, destino + parte);
+}
+
+} // namespace
+
+int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
+{
+    // Windows note their sizes, and lessons write keys and messages: not among the user's files.
+    const QTemporaryDir deUsarYTirar;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, deUsarYTirar.path());
+    QTextStream errores(stderr);
+    if (!ExisteFichero(Sesión().carpeta() + u"\\ClipArt\\escudo.avi"_s)) {
+        errores << u"No se encuentra la carpeta de trabajo."_s << Qt::endl;
+        return 1;
+    }
+    const QString destino = QDir::current().absoluteFilePath(opciones.carpeta);
+    if (!QDir().mkpath(destino)) {
+        errores << u"No se puede crear la carpeta: "_s << destino << Qt::endl;
+        return 1;
+    }
+    Idioma() = opciones.idioma;
+    preparaAplicacion();
+    Aspecto::aplica(opciones.oscuro ? Aspecto::Tema::Oscuro : Aspecto::Tema::Claro);
+    const QString copia = deUsarYTirar.filePath(u"Numora"_s);
+    copiaCarpetaDeTrabajo(rutaExistente(Sesión().carpeta()), copia);
+    Sesión().ponCarpeta(copia);
+    QDir::setCurrent(copia);
+    ImgSiguiente() = Icono(u"SIGUIENTE"_s);
+    ImgStop() = Icono(u"STOP"_s);
+    IniciaBignum(Sesión().Precisión());
+    const auto anterior = ponInterlocutor(std::make_unique<Callado>());
+
+    OpcionesDeGaleria absolutas = opciones;
+    absolutas.carpeta = destino;
+    if (!Fotografo(contenido, absolutas).retrataTodo()) {
+        errores << u"No se puede escribir en la carpeta: "_s << destino << Qt::endl;
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,66 @@
+#include "shell/start/PanelBienvenida.h"
+
+#include "shell/core/ModGlobal.h"
+#include "shell/look/Aspecto.h"
+#include "shell/start/MenuLecciones.h"
+#include "shell/start/TarjetasDeLecciones.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+PanelBienvenida::PanelBienvenida(MenuLecciones *lecciones, QWidget *padre)
+    : QWidget(padre), m_contenido(new QWidget(this)), m_tarjetas(new TarjetasDeLecciones)
+{
+    auto *titulo = new QLabel(Traduce(u"Matemática discreta, paso a paso"_s), m_contenido);
+    titulo->setObjectName(u"lblBienvenida"_s);
+    titulo->setWordWrap(true);
+    Aspecto::destaca(titulo, 2);
+    auto *invitacion = new QLabel(
+        Traduce(u"Elija una lección: cada una trae una página para leer, herramientas para "
+                "experimentar y preguntas que el programa corrige."_s),
+        m_contenido);
+    invitacion->setObjectName(u"lblInvitacion"_s);
+    invitacion->setWordWrap(true);
+    Aspecto::destaca(invitacion, 1.1);
+
+    m_tarjetas->setObjectName(u"TarjetasDeLecciones"_s);
+    m_tarjetas->setAccessibleName(Traduce(u"Lecciones"_s));
+    m_tarjetas->setModel(lecciones);
+    setFocusProxy(m_tarjetas);
+    connect(m_tarjetas, &TarjetasDeLecciones::elegida, this, &PanelBienvenida::elegida);
+
+    auto *columna = new QVBoxLayout(m_contenido);
+    columna->setContentsMargins(0, 0, 0, 0);
+    columna->setSpacing(Aspecto::Espacio);
+    columna->addStretch(1);
+    columna->addWidget(titulo);
+    columna->addWidget(invitacion);
+    columna->addSpacing(Aspecto::Margen);
+    columna->addWidget(m_tarjetas, 100);
+    columna->addStretch(2);
+
+    auto *fila = new QHBoxLayout(this);
+    const int margen = 2 * Aspecto::Margen;
+    fila->setContentsMargins(margen, margen, margen, margen);
+    fila->addStretch(1);
+    fila->addWidget(m_contenido, 100);
+    fila->addStretch(1);
+    ajustaAncho();
+}
+
+void PanelBienvenida::changeEvent(QEvent *suceso)
+{
+    QWidget::changeEvent(suceso);
+    if (suceso->type() == QEvent::FontChange)
+        ajustaAncho();
+}
+
+void PanelBienvenida::ajustaAncho()
+{
+    constexpr int letras = 190; // three cards whose lines are still easy to read
+    m_contenido->setMaximumWidth(letras * fontMetrics().averageCharWidth());
+}
