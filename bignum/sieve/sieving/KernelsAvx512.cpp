@@ -1,4 +1,5 @@
 #include "bignum/sieve/plan/Parameters.h"
+#include "bignum/sieve/sieving/AlignedVector.h"
 #include "bignum/sieve/sieving/KernelSets.h"
 
 #if BIGNUM_SIEVE_X86
@@ -47,8 +48,8 @@ BIGNUM_AVX512 void move(const Roots &roots, std::size_t begin, std::size_t end, 
 /// The next positions of the roots of one chunk of primes: none is before the block at hand.
 struct Chunk
 {
-    alignas(kWidth * 4) std::uint32_t first[kChunk];
-    alignas(kWidth * 4) std::uint32_t second[kChunk];
+    alignas(kLine) std::uint32_t first[kChunk];
+    alignas(kLine) std::uint32_t second[kChunk];
 };
 
 /// Appends those of 16 positions that are in the block which ends at `blockEnd` to its bucket, and
