@@ -1,6 +1,6 @@
 #include "bignum/sieve/SquareRoot.h"
 
-#include "bignum/Primality.h"
+#include "bignum/primes/Primality.h"
 
 #include <algorithm>
 
