@@ -229,14 +229,16 @@ void TestSieveMatrix::squaresSplit()
     QFETCH(const std::size_t, parts);
     const NaiveRelations naive(mpz_class(number), 80, 60000, 10000);
     const auto sets = relationSets(naive.store, kNoStop);
-    const SparseMatrix matrix = parityMatrix(naive.store, sets, naive.primes.size(), kNoStop);
-    const auto found = gaussianDependencies(matrix, kNoStop);
+    const FilteredMatrix small =
+        filtered(parityMatrix(naive.store, sets, naive.primes.size(), kNoStop), kNoStop);
+    const auto found = gaussianDependencies(small.matrix, kNoStop);
     QVERIFY(found.size() >= 20);
     SplitNumber split(naive.n);
     for (const Dependency &dependency : found) {
         RelationSet relations;
-        for (const std::uint32_t set : dependency)
-            relations.insert(relations.end(), sets[set].begin(), sets[set].end());
+        for (const std::uint32_t column : dependency)
+            for (const std::uint32_t set : small.sources[column])
+                relations.insert(relations.end(), sets[set].begin(), sets[set].end());
         reduceToOddOnes(relations);
         const auto squares = congruentSquares(naive.store, relations, naive.primes, naive.n);
         QVERIFY(squares);
