@@ -1,0 +1,141 @@
+#include "bignum/sieve/plan/Parameters.h"
+#include "bignum/sieve/sieving/KernelSets.h"
+
+#if BIGNUM_SIEVE_X86
+
+#include <bit>
+#include <immintrin.h>
+
+// These functions alone are compiled for AVX-512, and called where the processor has it.
+#define BIGNUM_AVX512 __attribute__((target("avx512f,avx512bw")))
+
+namespace bignum::sieve {
+
+namespace {
+
+constexpr std::size_t kWidth = 16; // 32-bit lanes
+
+BIGNUM_AVX512 inline __m512i splat(std::uint32_t value)
+{
+    return _mm512_set1_epi32(static_cast<int>(value));
+}
+
+/// One of the two sums is beyond the modulus, or wraps around to a large number: the less is right.
+BIGNUM_AVX512 inline __m512i moveRoots(std::uint32_t *roots, __m512i shift, __m512i modulus,
+                                       bool down)
+{
+    const __m512i old = _mm512_loadu_si512(roots);
+    const __m512i near = down ? _mm512_sub_epi32(old, shift) : _mm512_add_epi32(old, shift);
+    const __m512i far = down ? _mm512_add_epi32(near, modulus) : _mm512_sub_epi32(near, modulus);
+    const __m512i root = _mm512_min_epu32(near, far);
+    _mm512_storeu_si512(roots, root);
+    return root;
+}
+
+BIGNUM_AVX512 void move(const Roots &roots, std::size_t begin, std::size_t end, bool down)
+{
+    for (std::size_t i = begin; i < end; i += kWidth) {
+        const __m512i modulus = _mm512_loadu_si512(roots.moduli + i);
+        const __m512i shift = _mm512_loadu_si512(roots.shifts + i);
+        moveRoots(roots.first + i, shift, modulus, down);
+        moveRoots(roots.second + i, shift, modulus, down);
+    }
+}
+
+BIGNUM_AVX512 inline void fill(__m512i at, __m512i modulus, __m512i tags, __m512i limit,
+                               std::uint32_t **bucketEnds)
+{
+    __mmask16 mask = _mm512_cmplt_epu32_mask(at, limit);
+    while (mask != 0) {
+        alignas(kWidth * 4) std::uint32_t entries[kWidth];
+        alignas(kWidth * 4) std::uint32_t blocks[kWidth];
+        const __m512i places = _mm512_and_si512(at, splat(kBlockSize - 1));
+        const __m512i block = _mm512_srli_epi32(at, std::countr_zero(kBlockSize));
+        const __m512i entry = _mm512_or_si512(tags, places);
+        _mm512_store_si512(entries, _mm512_maskz_compress_epi32(mask, entry));
+        _mm512_store_si512(blocks, _mm512_maskz_compress_epi32(mask, block));
+        const int count = std::popcount(mask);
+        for (int k = 0; k < count; ++k)
+            *bucketEnds[blocks[k]]++ = entries[k];
+        at = _mm512_add_epi32(at, modulus);
+        mask = _mm512_cmplt_epu32_mask(at, limit);
+    }
+}
+
+BIGNUM_AVX512 void moveAndFill(const Roots &roots, std::size_t begin, std::size_t end, bool down,
+                               std::uint32_t interval, std::uint32_t **bucketEnds)
+{
+    const __m512i limit = splat(interval);
+    const __m512i lanes = _mm512_set_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
+    __m512i tags = _mm512_slli_epi32(lanes, 16);
+    for (std::size_t i = begin; i < end; i += kWidth) {
+        const __m512i modulus = _mm512_loadu_si512(roots.moduli + i);
+        const __m512i shift = _mm512_loadu_si512(roots.shifts + i);
+        const __m512i first = moveRoots(roots.first + i, shift, modulus, down);
+        const __m512i second = moveRoots(roots.second + i, shift, modulus, down);
+        fill(first, modulus, tags, limit, bucketEnds);
+        fill(second, modulus, tags, limit, bucketEnds);
+        tags = _mm512_add_epi32(tags, splat(kWidth << 16));
+    }
+}
+
+BIGNUM_AVX512 std::size_t findHighBytes(const std::uint8_t *block, std::uint16_t *places)
+{
+    std::size_t count = 0;
+    for (std::uint32_t i = 0; i < kBlockSize; i += 64) {
+        std::uint64_t mask = _mm512_movepi8_mask(_mm512_loadu_si512(block + i));
+        for (; mask != 0; mask &= mask - 1)
+            places[count++] =
+                static_cast<std::uint16_t>(i + static_cast<unsigned>(std::countr_zero(mask)));
+    }
+    return count;
+}
+
+BIGNUM_AVX512 std::size_t findRoots(const Roots &roots, std::size_t begin, std::size_t end,
+                                    std::uint32_t position, std::span<std::uint32_t> found)
+{
+    std::size_t count = 0;
+    const __m512i at = splat(position);
+    const __m512 middle = _mm512_set1_ps(static_cast<float>(position) + 0.5F);
+    for (std::size_t i = begin; i < end; i += kWidth) {
+        const __m512 quotient = _mm512_mul_ps(middle, _mm512_loadu_ps(roots.inverses + i));
+        const __m512i multiple =
+            _mm512_mullo_epi32(_mm512_cvttps_epi32(quotient), _mm512_loadu_si512(roots.moduli + i));
+        const __m512i residue = _mm512_sub_epi32(at, multiple);
+        unsigned mask = _mm512_cmpeq_epi32_mask(residue, _mm512_loadu_si512(roots.first + i)) |
+                        static_cast<unsigned>(
+                            _mm512_cmpeq_epi32_mask(residue, _mm512_loadu_si512(roots.second + i)));
+        for (; mask != 0; mask &= mask - 1) {
+            const std::size_t index = i + static_cast<unsigned>(std::countr_zero(mask));
+            if (index < end && count < found.size())
+                found[count++] = static_cast<std::uint32_t>(index);
+        }
+    }
+    return count;
+}
+
+BIGNUM_AVX512 std::size_t findEntries(std::span<const std::uint32_t> bucket, std::uint32_t position,
+                                      std::span<std::uint32_t> found)
+{
+    std::size_t count = 0;
+    const __m512i wanted = splat(position);
+    const __m512i low = splat(0xFFFF);
+    for (std::size_t i = 0; i < bucket.size(); i += kWidth) {
+        const __m512i places = _mm512_and_si512(_mm512_loadu_si512(bucket.data() + i), low);
+        unsigned mask = _mm512_cmpeq_epi32_mask(places, wanted);
+        for (; mask != 0; mask &= mask - 1) {
+            const std::size_t index = i + static_cast<unsigned>(std::countr_zero(mask));
+            if (index < bucket.size() && count < found.size())
+                found[count++] = bucket[index] >> 16;
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+const Kernels kAvx512Kernels{move, moveAndFill, findHighBytes, findRoots, findEntries};
+
+} // namespace bignum::sieve
+
+#endif
