@@ -1,7 +1,7 @@
 #include "NaiveRelations.h"
 
-#include "bignum/sieve/BitLines.h"
-#include "bignum/sieve/RelationSets.h"
+#include "bignum/sieve/algebra/BitLines.h"
+#include "bignum/sieve/algebra/RelationSets.h"
 
 #include <QTest>
 #include <map>

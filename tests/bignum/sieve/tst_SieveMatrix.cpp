@@ -1,12 +1,12 @@
 #include "NaiveRelations.h"
 
-#include "bignum/sieve/BitBlock.h"
-#include "bignum/sieve/BitLines.h"
-#include "bignum/sieve/BlockLanczos.h"
-#include "bignum/sieve/Dependencies.h"
-#include "bignum/sieve/MatrixFilter.h"
-#include "bignum/sieve/RelationSets.h"
-#include "bignum/sieve/SquareRoot.h"
+#include "bignum/sieve/algebra/BitBlock.h"
+#include "bignum/sieve/algebra/BitLines.h"
+#include "bignum/sieve/algebra/BlockLanczos.h"
+#include "bignum/sieve/algebra/Dependencies.h"
+#include "bignum/sieve/algebra/MatrixFilter.h"
+#include "bignum/sieve/algebra/RelationSets.h"
+#include "bignum/sieve/algebra/SquareRoot.h"
 
 #include <QTest>
 #include <algorithm>
