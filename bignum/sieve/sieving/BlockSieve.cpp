@@ -1,33 +1,67 @@
 #include "bignum/sieve/sieving/BlockSieve.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace bignum::sieve {
 
 namespace {
 
-/// From so many hits on a loop costs less than the jumps that a fixed number of hits saves.
-constexpr std::uint32_t kManyHits = 8;
+/// Smaller primes are sieved one by one: a row of them would differ too much in its hits.
+constexpr std::uint32_t kFirstInRow = 512;
+
+/// The primes of a row: two vectors of the baseline, and the compiler knows vectors of this size
+/// on every machine.
+constexpr std::size_t kRow = 16;
+using Lanes [[gnu::vector_size(kRow * 2)]] = std::uint16_t;
+
+/// Bytes behind the block for the hits beyond it: many, since a byte that was written shortly
+/// before has to be waited for.
+constexpr std::uint16_t kUnread = 2048;
+
+void subtract(std::uint8_t &byte, std::uint8_t log)
+{
+    byte = static_cast<std::uint8_t>(byte - log);
+}
+
+/// The same at all places of a row. Written out, since a loop would take as long as its work.
+template <std::size_t... I>
+[[gnu::always_inline]] inline void subtractAt(const Lanes &places, std::uint8_t *bytes,
+                                              std::uint8_t log, std::index_sequence<I...> /*lanes*/)
+{
+    std::uint16_t at[kRow];
+    std::memcpy(at, &places, sizeof at);
+    (subtract(bytes[at[I]], log), ...);
+}
 
 } // namespace
 
 BlockSieve::BlockSieve(const Plan &plan, const BaseParts &parts)
-    : m_start(parts.scale.start()),
-      m_firstIndex(parts.sieved),
-      m_first(parts.bucketed - parts.sieved),
-      m_second(m_first.size()),
-      m_bytes(kBlockSize + kLine)
+    : m_start(parts.scale.start()), m_firstIndex(parts.sieved), m_bytes(kBlockSize + kUnread)
 {
-    for (const LogRange &range : parts.blockwise)
-        for (std::size_t i = range.begin; i < range.end; ++i) {
-            const std::uint32_t p = plan.base.primes[i];
-            m_primes.push_back(static_cast<std::uint16_t>(p));
-            const std::uint32_t hits = std::min(kBlockSize / p, kManyHits);
-            if (i == range.begin || m_groups.back().hits != hits)
-                m_groups.push_back({i - m_firstIndex, 0, range.log, hits});
-            m_groups.back().end = i + 1 - m_firstIndex;
-        }
+    const auto &primes = plan.base.primes;
+    const auto isSmall = [](std::uint32_t p) { return p < kFirstInRow; };
+    const auto inRows =
+        std::partition_point(primes.begin() + static_cast<std::ptrdiff_t>(parts.sieved),
+                             primes.begin() + static_cast<std::ptrdiff_t>(parts.bucketed), isSmall);
+    // So many primes are sieved one by one that the others fill their rows.
+    std::size_t single = static_cast<std::size_t>(inRows - primes.begin()) - parts.sieved;
+    single += (parts.bucketed - parts.sieved - single) % kRow;
+    for (std::size_t i = parts.sieved; i < parts.bucketed; ++i)
+        m_primes.push_back(static_cast<std::uint16_t>(primes[i]));
+    for (std::size_t i = 0; i < single; ++i)
+        m_single.push_back(rowOf(parts, i, i + 1));
+    for (std::size_t i = single; i < m_primes.size(); i += kRow)
+        m_rows.push_back(rowOf(parts, i, i + kRow));
+    m_first.resize(m_primes.size());
+    m_second.resize(m_primes.size());
+}
+
+BlockSieve::Row BlockSieve::rowOf(const BaseParts &parts, std::size_t begin, std::size_t end) const
+{
+    return {kBlockSize / m_primes[end - 1], kBlockSize / m_primes[begin] + 1,
+            parts.scale.of(m_primes[(begin + end) / 2])};
 }
 
 void BlockSieve::begin(const Roots &roots)
@@ -38,64 +72,62 @@ void BlockSieve::begin(const Roots &roots)
     }
 }
 
-void BlockSieve::sieveMany(const Group &group)
+void BlockSieve::sievePrime(std::size_t index, std::uint8_t log)
 {
     std::uint8_t *const bytes = m_bytes.data();
-    const std::uint8_t log = group.log;
-    for (std::size_t i = group.begin; i < group.end; ++i) {
-        const std::uint32_t p = m_primes[i];
-        std::uint32_t low = std::min(m_first[i], m_second[i]);
-        std::uint32_t high = std::max(m_first[i], m_second[i]);
-        for (; high + 3 * p < kBlockSize; low += 4 * p, high += 4 * p)
-            for (std::uint32_t k = 0; k < 4; ++k) {
-                bytes[low + k * p] = static_cast<std::uint8_t>(bytes[low + k * p] - log);
-                bytes[high + k * p] = static_cast<std::uint8_t>(bytes[high + k * p] - log);
-            }
-        for (; high < kBlockSize; low += p, high += p) {
-            bytes[low] = static_cast<std::uint8_t>(bytes[low] - log);
-            bytes[high] = static_cast<std::uint8_t>(bytes[high] - log);
+    const std::uint32_t p = m_primes[index];
+    std::uint32_t low = std::min(m_first[index], m_second[index]);
+    std::uint32_t high = std::max(m_first[index], m_second[index]);
+    for (; high + 3 * p < kBlockSize; low += 4 * p, high += 4 * p)
+        for (std::uint32_t k = 0; k < 4; ++k) {
+            subtract(bytes[low + k * p], log);
+            subtract(bytes[high + k * p], log);
         }
-        if (low < kBlockSize) {
-            bytes[low] = static_cast<std::uint8_t>(bytes[low] - log);
-            low += p;
-        }
-        m_first[i] = static_cast<std::uint16_t>(low - kBlockSize);
-        m_second[i] = static_cast<std::uint16_t>(high - kBlockSize);
+    for (; high < kBlockSize; low += p, high += p) {
+        subtract(bytes[low], log);
+        subtract(bytes[high], log);
     }
+    if (low < kBlockSize) {
+        subtract(bytes[low], log);
+        low += p;
+    }
+    m_first[index] = static_cast<std::uint16_t>(low - kBlockSize);
+    m_second[index] = static_cast<std::uint16_t>(high - kBlockSize);
 }
 
-/// The last hit, which may fall beyond the block, goes to an unread byte then: no jump has to be
-/// foreseen. Different bytes serve different primes, so that none waits for another.
-template <std::uint32_t Hits>
-void BlockSieve::sieveFew(const Group &group)
+/// All primes of the row take a step at the same time. A step that would leave the block goes to an
+/// unread byte: no jump has to be foreseen.
+void BlockSieve::sieveLanes(std::uint16_t *positions, const std::uint16_t *primes, const Row &row)
 {
+    constexpr std::make_index_sequence<kRow> lanes;
     std::uint8_t *const bytes = m_bytes.data();
-    const std::uint8_t log = group.log;
-    const auto sieveRoot = [&](std::uint32_t at, std::uint32_t p) {
-        for (std::uint32_t k = 0; k < Hits; ++k, at += p)
-            bytes[at] = static_cast<std::uint8_t>(bytes[at] - log);
-        const bool inside = at < kBlockSize;
-        std::uint8_t &last = bytes[inside ? at : kBlockSize | (at & (kLine - 1))];
-        last = static_cast<std::uint8_t>(last - log);
-        return static_cast<std::uint16_t>(at - kBlockSize + (inside ? p : 0));
-    };
-    for (std::size_t i = group.begin; i < group.end; ++i) {
-        const std::uint32_t p = m_primes[i];
-        m_first[i] = sieveRoot(m_first[i], p);
-        m_second[i] = sieveRoot(m_second[i], p);
+    const auto [leastHits, mostHits, log] = row;
+    Lanes at;
+    Lanes step;
+    std::memcpy(&at, positions, sizeof at);
+    std::memcpy(&step, primes, sizeof step);
+    for (std::uint32_t hit = 0; hit < leastHits; ++hit, at += step)
+        subtractAt(at, bytes, log, lanes);
+    for (std::uint32_t hit = leastHits; hit < mostHits; ++hit) {
+        const Lanes beyond = 0 - (at >> 15); // all ones from kBlockSize on
+        subtractAt(at & ~(beyond & (kBlockSize - kUnread)), bytes, log, lanes);
+        at += step & ~beyond;
     }
+    at -= kBlockSize;
+    std::memcpy(positions, &at, sizeof at);
 }
 
 void BlockSieve::sieveNext()
 {
-    using Sieve = void (BlockSieve::*)(const Group &);
-    static constexpr Sieve sieves[] = {
-        &BlockSieve::sieveFew<0>, &BlockSieve::sieveFew<1>, &BlockSieve::sieveFew<2>,
-        &BlockSieve::sieveFew<3>, &BlockSieve::sieveFew<4>, &BlockSieve::sieveFew<5>,
-        &BlockSieve::sieveFew<6>, &BlockSieve::sieveFew<7>, &BlockSieve::sieveMany};
     std::fill_n(m_bytes.begin(), kBlockSize, m_start);
-    for (const Group &group : m_groups)
-        (this->*sieves[group.hits])(group);
+    for (std::size_t i = 0; i < m_single.size(); ++i)
+        sievePrime(i, m_single[i].log);
+    std::size_t i = m_single.size();
+    for (const Row &row : m_rows) {
+        sieveLanes(&m_first[i], &m_primes[i], row);
+        sieveLanes(&m_second[i], &m_primes[i], row);
+        i += kRow;
+    }
 }
 
 } // namespace bignum::sieve

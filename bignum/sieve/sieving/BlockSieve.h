@@ -3,8 +3,6 @@
 #include "bignum/sieve/sieving/AlignedVector.h"
 #include "bignum/sieve/sieving/BaseParts.h"
 
-#include <span>
-
 namespace bignum::sieve {
 
 /// Sieves with the primes that are not much longer than a block, block after block.
@@ -22,25 +20,24 @@ public:
     std::uint8_t *bytes() { return m_bytes.data(); }
 
 private:
-    /// Primes that meet a block `hits` times or once more, all with one logarithm.
-    struct Group
+    /// A prime that meets a block often, or several primes of about one size.
+    struct Row
     {
-        std::size_t begin;
-        std::size_t end;
+        std::uint32_t leastHits; ///< of a root of any of them in a block
+        std::uint32_t mostHits;
         std::uint8_t log;
-        std::uint32_t hits;
     };
 
-    void sieveMany(const Group &group);
-    template <std::uint32_t Hits>
-    void sieveFew(const Group &group);
+    Row rowOf(const BaseParts &parts, std::size_t begin, std::size_t end) const;
+    void sievePrime(std::size_t index, std::uint8_t log);
+    void sieveLanes(std::uint16_t *positions, const std::uint16_t *primes, const Row &row);
 
     std::uint8_t m_start;
-    std::size_t m_firstIndex;
-    std::vector<Group> m_groups; ///< by index less m_firstIndex
+    std::size_t m_firstIndex;  ///< in the base
+    std::vector<Row> m_single; ///< a prime each, from the first on
+    std::vector<Row> m_rows;   ///< then primes by the row
     AlignedVector<std::uint16_t> m_primes;
-    AlignedVector<std::uint16_t>
-        m_first; ///< the next position of each prime, from the block's begin
+    AlignedVector<std::uint16_t> m_first; ///< the next positions, from the begin of the block
     AlignedVector<std::uint16_t> m_second;
     AlignedVector<std::uint8_t> m_bytes; ///< the block, and bytes that are never read behind it
 };

@@ -3,17 +3,19 @@
 
 #if BIGNUM_SIEVE_X86
 
+#include <algorithm>
 #include <bit>
 #include <immintrin.h>
 
 // These functions alone are compiled for AVX-512, and called where the processor has it.
-#define BIGNUM_AVX512 __attribute__((target("avx512f,avx512bw")))
+#define BIGNUM_AVX512 __attribute__((target("avx512f,avx512bw,popcnt")))
 
 namespace bignum::sieve {
 
 namespace {
 
-constexpr std::size_t kWidth = 16; // 32-bit lanes
+constexpr std::size_t kWidth = 16;  // 32-bit lanes
+constexpr std::size_t kChunk = 512; // primes whose positions stay in the first-level cache
 
 BIGNUM_AVX512 inline __m512i splat(std::uint32_t value)
 {
@@ -42,40 +44,63 @@ BIGNUM_AVX512 void move(const Roots &roots, std::size_t begin, std::size_t end, 
     }
 }
 
-BIGNUM_AVX512 inline void fill(__m512i at, __m512i modulus, __m512i tags, __m512i limit,
-                               std::uint32_t **bucketEnds)
+/// The next positions of the roots of one chunk of primes: none is before the block at hand.
+struct Chunk
 {
-    __mmask16 mask = _mm512_cmplt_epu32_mask(at, limit);
-    while (mask != 0) {
-        alignas(kWidth * 4) std::uint32_t entries[kWidth];
-        alignas(kWidth * 4) std::uint32_t blocks[kWidth];
-        const __m512i places = _mm512_and_si512(at, splat(kBlockSize - 1));
-        const __m512i block = _mm512_srli_epi32(at, std::countr_zero(kBlockSize));
-        const __m512i entry = _mm512_or_si512(tags, places);
-        _mm512_store_si512(entries, _mm512_maskz_compress_epi32(mask, entry));
-        _mm512_store_si512(blocks, _mm512_maskz_compress_epi32(mask, block));
-        const int count = std::popcount(mask);
-        for (int k = 0; k < count; ++k)
-            *bucketEnds[blocks[k]]++ = entries[k];
-        at = _mm512_add_epi32(at, modulus);
-        mask = _mm512_cmplt_epu32_mask(at, limit);
+    alignas(kWidth * 4) std::uint32_t first[kChunk];
+    alignas(kWidth * 4) std::uint32_t second[kChunk];
+};
+
+/// Appends those of 16 positions that are in the block which ends at `blockEnd` to its bucket, and
+/// goes on to the next ones of their primes.
+BIGNUM_AVX512 inline std::uint32_t *enter(std::uint32_t *positions, __m512i modulus, __m512i tags,
+                                          __m512i blockEnd, std::uint32_t *bucketEnd)
+{
+    const __m512i at = _mm512_load_si512(positions);
+    const __mmask16 inside = _mm512_cmplt_epu32_mask(at, blockEnd);
+    const __m512i entry = _mm512_or_si512(tags, _mm512_and_si512(at, splat(kBlockSize - 1)));
+    _mm512_storeu_si512(bucketEnd, _mm512_maskz_compress_epi32(inside, entry));
+    _mm512_store_si512(positions, _mm512_mask_add_epi32(at, inside, at, modulus));
+    return bucketEnd + _mm_popcnt_u32(inside);
+}
+
+/// A block at a time, so that the end of one bucket alone is at work and stays in a register.
+BIGNUM_AVX512 void fillChunk(Chunk &chunk, const std::uint32_t *moduli, std::size_t size,
+                             std::uint32_t firstTag, std::uint32_t interval,
+                             std::uint32_t **bucketEnds)
+{
+    const __m512i lanes = _mm512_set_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
+    const __m512i firstTags = _mm512_slli_epi32(_mm512_add_epi32(lanes, splat(firstTag)), 16);
+    for (std::uint32_t blockEnd = kBlockSize; blockEnd <= interval; blockEnd += kBlockSize) {
+        const __m512i limit = splat(blockEnd);
+        __m512i tags = firstTags;
+        std::uint32_t *end = *bucketEnds;
+        for (std::size_t i = 0; i < size; i += kWidth) {
+            const __m512i modulus = _mm512_loadu_si512(moduli + i);
+            end = enter(chunk.first + i, modulus, tags, limit, end);
+            end = enter(chunk.second + i, modulus, tags, limit, end);
+            tags = _mm512_add_epi32(tags, splat(kWidth << 16));
+        }
+        *bucketEnds++ = end;
     }
 }
 
 BIGNUM_AVX512 void moveAndFill(const Roots &roots, std::size_t begin, std::size_t end, bool down,
                                std::uint32_t interval, std::uint32_t **bucketEnds)
 {
-    const __m512i limit = splat(interval);
-    const __m512i lanes = _mm512_set_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
-    __m512i tags = _mm512_slli_epi32(lanes, 16);
-    for (std::size_t i = begin; i < end; i += kWidth) {
-        const __m512i modulus = _mm512_loadu_si512(roots.moduli + i);
-        const __m512i shift = _mm512_loadu_si512(roots.shifts + i);
-        const __m512i first = moveRoots(roots.first + i, shift, modulus, down);
-        const __m512i second = moveRoots(roots.second + i, shift, modulus, down);
-        fill(first, modulus, tags, limit, bucketEnds);
-        fill(second, modulus, tags, limit, bucketEnds);
-        tags = _mm512_add_epi32(tags, splat(kWidth << 16));
+    Chunk chunk;
+    for (std::size_t at = begin; at < end; at += kChunk) {
+        const std::size_t size = std::min(kChunk, end - at);
+        for (std::size_t i = 0; i < size; i += kWidth) {
+            const __m512i modulus = _mm512_loadu_si512(roots.moduli + at + i);
+            const __m512i shift = _mm512_loadu_si512(roots.shifts + at + i);
+            _mm512_store_si512(chunk.first + i,
+                               moveRoots(roots.first + at + i, shift, modulus, down));
+            _mm512_store_si512(chunk.second + i,
+                               moveRoots(roots.second + at + i, shift, modulus, down));
+        }
+        fillChunk(chunk, roots.moduli + at, size, static_cast<std::uint32_t>(at - begin), interval,
+                  bucketEnds);
     }
 }
 
