@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bignum/sieve/SparseMatrix.h"
 #include "bignum/sieve/StopSignal.h"
+#include "bignum/sieve/algebra/SparseMatrix.h"
 
 namespace bignum::sieve {
 

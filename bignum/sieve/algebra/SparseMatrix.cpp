@@ -1,4 +1,4 @@
-#include "bignum/sieve/SparseMatrix.h"
+#include "bignum/sieve/algebra/SparseMatrix.h"
 
 #include <algorithm>
 #include <iterator>

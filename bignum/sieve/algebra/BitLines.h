@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bignum/sieve/SparseMatrix.h"
+#include "bignum/sieve/algebra/SparseMatrix.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,7 +1,7 @@
-#include "bignum/sieve/BlockLanczos.h"
+#include "bignum/sieve/algebra/BlockLanczos.h"
 
-#include "bignum/sieve/BitBlock.h"
-#include "bignum/sieve/BitLines.h"
+#include "bignum/sieve/algebra/BitBlock.h"
+#include "bignum/sieve/algebra/BitLines.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,4 +1,4 @@
-#include "bignum/sieve/MatrixFilter.h"
+#include "bignum/sieve/algebra/MatrixFilter.h"
 
 #include <algorithm>
 #include <iterator>

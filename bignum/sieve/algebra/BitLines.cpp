@@ -1,4 +1,4 @@
-#include "bignum/sieve/BitLines.h"
+#include "bignum/sieve/algebra/BitLines.h"
 
 #include <bit>
 #include <limits>

@@ -1,7 +1,7 @@
-#include "bignum/sieve/Dependencies.h"
+#include "bignum/sieve/algebra/Dependencies.h"
 
-#include "bignum/sieve/BitLines.h"
-#include "bignum/sieve/BlockLanczos.h"
+#include "bignum/sieve/algebra/BitLines.h"
+#include "bignum/sieve/algebra/BlockLanczos.h"
 
 #include <algorithm>
 

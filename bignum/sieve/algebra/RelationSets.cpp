@@ -1,4 +1,4 @@
-#include "bignum/sieve/RelationSets.h"
+#include "bignum/sieve/algebra/RelationSets.h"
 
 #include <limits>
 #include <numeric>

@@ -1,4 +1,4 @@
-#include "bignum/sieve/BitBlock.h"
+#include "bignum/sieve/algebra/BitBlock.h"
 
 #include <bit>
 

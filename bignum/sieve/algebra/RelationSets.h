@@ -1,8 +1,8 @@
 #pragma once
 
 #include "bignum/sieve/RelationStore.h"
-#include "bignum/sieve/SparseMatrix.h"
 #include "bignum/sieve/StopSignal.h"
+#include "bignum/sieve/algebra/SparseMatrix.h"
 
 namespace bignum::sieve {
 

@@ -1,4 +1,4 @@
-#include "bignum/sieve/SquareRoot.h"
+#include "bignum/sieve/algebra/SquareRoot.h"
 
 #include "bignum/primes/Primality.h"
 
