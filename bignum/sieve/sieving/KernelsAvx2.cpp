@@ -40,6 +40,34 @@ BIGNUM_AVX2 inline unsigned laneMask(__m256i lanes)
     return static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(lanes)));
 }
 
+/// a·b mod p. The quotient may be one too large or too small, and the remainder then wraps around
+/// or is not below p: the less is right.
+BIGNUM_AVX2 inline __m256i multiply(__m256i a, __m256i b, __m256i p, __m256 inverse)
+{
+    const __m256 product = _mm256_mul_ps(_mm256_cvtepi32_ps(a), _mm256_cvtepi32_ps(b));
+    const __m256i quotient = _mm256_cvttps_epi32(_mm256_mul_ps(product, inverse));
+    const __m256i rest =
+        _mm256_sub_epi32(_mm256_mullo_epi32(a, b), _mm256_mullo_epi32(quotient, p));
+    const __m256i low = _mm256_min_epu32(rest, _mm256_add_epi32(rest, p));
+    return _mm256_min_epu32(low, _mm256_sub_epi32(low, p));
+}
+
+BIGNUM_AVX2 void addRow(const FamilyRow &row, std::size_t size)
+{
+    const __m256i gamma = splat(row.gamma);
+    for (std::size_t i = 0; i < size; i += kWidth) {
+        const __m256i p = load(row.moduli + i);
+        const __m256 inverse = _mm256_loadu_ps(row.inverses + i);
+        const __m256i inverseQ = load(row.inverseQ + i);
+        const __m256i shift = multiply(gamma, inverseQ, p, inverse);
+        const __m256i sum = _mm256_add_epi32(load(row.sum + i), shift);
+        const __m256i product = multiply(load(row.product + i), inverseQ, p, inverse);
+        store(row.shifts + i, shift);
+        store(row.sum + i, _mm256_min_epu32(sum, _mm256_sub_epi32(sum, p)));
+        store(row.product + i, product);
+    }
+}
+
 /// One of the two sums is beyond the modulus, or wraps around to a large number: the less is right.
 BIGNUM_AVX2 inline __m256i moveRoots(std::uint32_t *roots, __m256i shift, __m256i modulus,
                                      bool down)
@@ -188,7 +216,7 @@ BIGNUM_AVX2 std::size_t findEntries(std::span<const std::uint32_t> bucket, std::
 
 } // namespace
 
-const Kernels kAvx2Kernels{move, moveAndFill, findHighBytes, findRoots, findEntries};
+const Kernels kAvx2Kernels{addRow, move, moveAndFill, findHighBytes, findRoots, findEntries};
 
 } // namespace bignum::sieve
 
