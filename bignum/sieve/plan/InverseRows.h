@@ -1,7 +1,7 @@
 #pragma once
 
+#include "bignum/sieve/AlignedVector.h"
 #include "bignum/sieve/plan/FactorBase.h"
-#include "bignum/sieve/sieving/AlignedVector.h"
 
 #include <map>
 

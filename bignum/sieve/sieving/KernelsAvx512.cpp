@@ -1,5 +1,5 @@
+#include "bignum/sieve/AlignedVector.h"
 #include "bignum/sieve/plan/Parameters.h"
-#include "bignum/sieve/sieving/AlignedVector.h"
 #include "bignum/sieve/sieving/KernelSets.h"
 
 #if BIGNUM_SIEVE_X86

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "bignum/sieve/AlignedVector.h"
 #include "bignum/sieve/plan/InverseRows.h"
 #include "bignum/sieve/plan/Polynomial.h"
-#include "bignum/sieve/sieving/AlignedVector.h"
 
 namespace bignum::sieve {
 
