@@ -169,7 +169,7 @@ private Q_SLOTS:
             copia();
             QCOMPARE(Entorno::grabadora().unico().titulo, u"No se ha copiado"_s);
         }
-        modelo.pon(4'000'000, 1, u"1"_s);
+        modelo.pon(5'000'000, 1, u"1"_s); // the most that fits
         const auto boton = [&] { return rejilla.findChild<QPushButton *>(u"cmdDetenCopia"_s); };
         copia();
         QVERIFY(!rejilla.tareas().vacias());

@@ -339,11 +339,16 @@ private Q_SLOTS:
         QCOMPARE(guardado(), campo->text());
         QVERIFY(m_principal->isVisible());
         campo->setText(u"a medias"_s);
+        const QPointer<QWidget> acercaDe = m_principal->muestraAcercaDe(true);
         QEvent salir(QEvent::Quit);
         senal == 0 ? QApplication::sendEvent(qApp, &salir) : ::raise(senal) == 0;
         QTRY_VERIFY(!m_principal->isVisible());
         QVERIFY(Entorno::grabadora().confirmaciones.isEmpty());
         QCOMPARE(guardado(), u"a medias"_s);
+        // The box that shows the main window when it goes away does so no more.
+        if (acercaDe)
+            acercaDe->close();
+        QVERIFY(!m_principal->isVisible());
     }
 
     void losColores()
