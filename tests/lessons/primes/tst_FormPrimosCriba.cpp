@@ -84,10 +84,13 @@ private Q_SLOTS:
         m_rejilla->selectionModel()->select(
             QItemSelection(m_rejilla->model()->index(0, 0), m_rejilla->model()->index(1, 3)),
             QItemSelectionModel::ClearAndSelect);
-        QCOMPARE(m_rejilla->seleccion(FormaDeCopia::Texto), u"2\t3\t5\t7\n11\t13\t17\t19\n"_s);
+        QCOMPARE(m_rejilla->seleccion(FormaDeCopia::Texto).completa().texto,
+                 u"2\t3\t5\t7\n11\t13\t17\t19\n"_s);
         // The columns have no names, and their numbers would pass for primes.
         m_rejilla->selectAll();
-        QVERIFY(m_rejilla->seleccion(FormaDeCopia::Texto).startsWith(u"2\t3\t5\t7\n"_s));
+        QVERIFY(m_rejilla->seleccion(FormaDeCopia::Texto)
+                    .completa()
+                    .texto.startsWith(u"2\t3\t5\t7\n"_s));
     }
 
     void entradasRechazadas_data()

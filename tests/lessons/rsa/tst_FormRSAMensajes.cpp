@@ -304,11 +304,51 @@ private Q_SLOTS:
         preparaBuzon();
         boton(u"cmdPublicarClave"_s)->click();
         eligeFila(0);
-        boton(u"recibir"_s)->click();
-        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText().size(), 1'000'000);
+        // Over a text as into none.
+        for (const QString &antes : {QString(), u"x"_s}) {
+            escribeMensaje({}, antes);
+            boton(u"recibir"_s)->click();
+            QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText().size(), 1'000'000);
+        }
         area(u"txtDestTextoOriginal"_s)->setPlainText(u"corto "_s.repeated(2000));
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->wordWrapMode(),
                  QTextOption::WrapAtWordBoundaryOrAnywhere);
+    }
+
+    /// What was written to somebody is theirs until it is sent or emptied, whatever is looked at or
+    /// read meanwhile, and whether or not the window is closed.
+    void losBorradoresSeQuedan()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nhola\r\n1\r\n");
+        preparaBuzon();
+        escribeMensaje(u"sin nadie"_s, u"uno"_s);
+        eligeUsuario(u"eva"_s); // it goes to the first who is named
+        QCOMPARE(escrito(), u"sin nadie|uno"_s);
+        escribeMensaje(u"a medias"_s, u"dos"_s);
+        eligeFila(0);
+        QCOMPARE(escrito(), u"hola|"_s);
+        QVERIFY(rotulo(u"lblEstadoBuzon"_s).contains(u"a eva"_s));
+        escribeMensaje(u"a ana"_s, u"tres"_s); // an answer, in the place of what is read
+        eligeUsuario(u"eva"_s);
+        QCOMPARE(escrito(), u"a medias|dos"_s);
+        eligeFila(0);
+        QCOMPARE(escrito(), u"hola|"_s);
+        eligeUsuario(u"ANA"_s);
+        QCOMPARE(escrito(), u"a ana|tres"_s);
+        abre();
+        temasDe()->setCurrentIndex(3);
+        QTRY_VERIFY(rotulo(u"lblEstadoBuzon"_s).endsWith(u"Borradores para: ana, eva"_s));
+        eligeUsuario(u"eva"_s);
+        QCOMPARE(escrito(), u"a medias|dos"_s);
+        Entorno::grabadora().respondeSi = true;
+        boton(u"enviar"_s)->click();
+        eligeUsuario(u"ana"_s);
+        QCOMPARE(escrito(), u"a ana|tres"_s);
+        escribeMensaje({}, {});
+        const QString copia = Sesión().carpetaDeAjustes() + u"/RSA.borradores"_s;
+        QVERIFY(QFile::exists(copia));
+        cierra();
+        QVERIFY(!QFile::exists(copia));
     }
 
     void revisarNoEstropeaLoEscrito()
