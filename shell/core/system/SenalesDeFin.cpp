@@ -40,8 +40,7 @@ SenalesDeFin::SenalesDeFin(QObject *padre) : QObject(padre), m_oidos(std::make_u
     accion.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     for (std::size_t i = 0; i < senales.size(); ++i)
         ::sigaction(senales[i], &accion, &m_oidos->deAntes[i]);
-    m_oidos->lector =
-        std::make_unique<QSocketNotifier>(m_oidos->tubo[0], QSocketNotifier::Read);
+    m_oidos->lector = std::make_unique<QSocketNotifier>(m_oidos->tubo[0], QSocketNotifier::Read);
     connect(m_oidos->lector.get(), &QSocketNotifier::activated, this, [this] {
         m_oidos->lector->setEnabled(false);
         Q_EMIT oida();

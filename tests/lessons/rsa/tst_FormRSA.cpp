@@ -105,7 +105,7 @@ private Q_SLOTS:
         linea(u"txtR"_s)->setText(QString());
         QVERIFY(boton(u"cmdCodificar"_s)->isEnabled());
         area(u"txtTextoOriginal"_s)->setPlainText(u"a"_s);
-        boton(u"cmdCodificar"_s)->click();
+        pulsa(u"cmdCodificar"_s);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"Tamaño de la palabra"_s);
     }
 
@@ -148,15 +148,15 @@ private Q_SLOTS:
         abre();
         ponClave(u"257"_s, u"263"_s, u"5"_s);
         area(u"txtTextoOriginal"_s)->setPlainText(u"HOLA"_s);
-        boton(u"cmdCodificar"_s)->click();
+        pulsa(u"cmdCodificar"_s);
         const auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexTextoCodificado"_s);
         QCOMPARE(rejilla->seleccion(FormaDeCopia::Texto),
                  u"Texto codificado\n57666\n43715\n51784\n23519\n"_s);
         area(u"txtTextoOriginal"_s)->clear();
-        boton(u"cmdDescodificar"_s)->click();
+        pulsa(u"cmdDescodificar"_s);
         QCOMPARE(area(u"txtTextoOriginal"_s)->toPlainText(), u"HOLA"_s);
         area(u"txtTextoOriginal"_s)->setPlainText(u"Γειά"_s);
-        boton(u"cmdCodificar"_s)->click();
+        pulsa(u"cmdCodificar"_s);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"Carácter no admitido"_s);
         QCOMPARE(rejilla->model()->rowCount(), 4);
     }
