@@ -197,6 +197,34 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_yo->enBuzon(u"ana"_s)).entryList(QDir::Files | QDir::Hidden).size(), 2);
     }
 
+    /// Of those that nobody named, the old ones are swept by who writes there next.
+    void loQueDejaUnProgramaMuerto()
+    {
+        const auto hace = [this](const QString &nombre, int horas) {
+            m_yo->escribe(u"ana/"_s + nombre, "medio");
+            QFile archivo(m_yo->enBuzon(u"ana/"_s + nombre));
+            QVERIFY(archivo.open(QIODevice::ReadWrite));
+            archivo.setFileTime(QDateTime::currentDateTime().addSecs(-3600 * horas),
+                                QFileDevice::FileModificationTime);
+        };
+        hace(u".numora-1f.tmp"_s, 23);
+        hace(u".numora-2f.tmp"_s, 25);
+        hace(u"otro.tmp"_s, 25);
+        dejaMensaje(m_yo->buzon(), u"ana"_s, "x");
+        QCOMPARE(QDir(m_yo->enBuzon(u"ana"_s)).entryList(QDir::Files | QDir::Hidden).join(u' '),
+                 u".numora-1f.tmp otro.tmp RSA1.msg"_s);
+    }
+
+    void hastaElLimiteYNoMas()
+    {
+        m_yo->escribe(u"ana/justo"_s, QByteArray(100, 'x'));
+        m_yo->escribe(u"ana/uno mas"_s, QByteArray(101, 'x'));
+        const CarpetaCompartida carpeta = CarpetaCompartida(m_yo->buzon()).subcarpeta(u"ana"_s);
+        QCOMPARE(carpeta.lee(u"justo"_s, 100).size(), 100);
+        QCOMPARE(numeroDeError([&] { carpeta.lee(u"uno mas"_s, 100); }),
+                 int(ErrorEjecucion::ErrorDeArchivo));
+    }
+
     /// What is made in a shared mailbox is as open as the mailbox, whatever the account's mask.
     void losDemasPuedenEntrar()
     {

@@ -25,9 +25,12 @@ private Q_SLOTS:
         QCOMPARE(temas().size(), 3);
         Entorno::grabadora().unico();
         escribe(u"txtS"_s, u"5"_s);
+        boton(u"cmdPublicarClave"_s)->click();
+        QVERIFY(rotulo(u"lblEstado"_s).contains(u"publicada"_s));
         temasDe()->setCurrentIndex(3);
-        // Cancelling forgets the mailbox.
+        // Cancelling forgets the mailbox, and that the key was published there.
         eligeBuzon({});
+        QCOMPARE(rotulo(u"lblEstado"_s), u"✓ Clave OK"_s);
         QCOMPARE(Entorno::grabadora().carpetasPedidas, QStringList({QString(), m_yo->buzon()}));
         QCOMPARE(temas().size(), 3);
         QVERIFY(!boton(u"cmdPublicarClave"_s)->isEnabled());
