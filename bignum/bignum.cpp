@@ -1,9 +1,10 @@
 #include "bignum/bignum.h"
 
+#include "bignum/arithmetic/FibonacciMethods.h"
 #include "bignum/arithmetic/ModularArithmetic.h"
 #include "bignum/expressions/Expression.h"
+#include "bignum/expressions/ExpressionFunctions.h"
 #include "bignum/factoring/Factorization.h"
-#include "bignum/factoring/QuadraticSieve.h"
 #include "bignum/primes/Primality.h"
 #include "bignum/primes/PrimeList.h"
 #include "bignum/primes/RandomPrime.h"
@@ -13,7 +14,9 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <initializer_list>
+#include <limits>
 
 using namespace bignum;
 
@@ -42,11 +45,11 @@ void clear(std::initializer_list<char *> buffers)
 }
 
 /// What `operation` returns, or `failure` where it throws: no exception may cross the interface.
-template <typename Operation>
-int32_t guarded(int32_t failure, Operation operation) noexcept
+template <typename Result = int32_t, typename Operation>
+Result guarded(Result failure, Operation operation) noexcept
 {
     try {
-        return static_cast<int32_t>(operation());
+        return static_cast<Result>(operation());
     } catch (...) {
         return failure;
     }
@@ -86,6 +89,22 @@ bool isInPrimeSearchRange(const mpz_class &n)
     return mpz_sizeinbase(n.get_mpz_t(), 2) <= kMaxPrimeSearchBits;
 }
 
+mpz_class timedFibonacci(mpz_class (*method)(unsigned, Work &), unsigned n, int32_t turns,
+                         BignumCost &cost)
+{
+    using Clock = std::chrono::steady_clock;
+    mpz_class result;
+    Work work;
+    const auto begin = Clock::now();
+    for (int32_t i = 0; i < turns; ++i) {
+        work = {};
+        result = method(n, work);
+    }
+    const std::chrono::nanoseconds spent = Clock::now() - begin;
+    cost = {work.additions, work.products, spent.count()};
+    return result;
+}
+
 /// Two arrays of `count` buffers that take a factorization, entry by entry.
 struct FactorBuffers
 {
@@ -100,7 +119,7 @@ struct FactorBuffers
                 writeText({}, array[i], 1);
     }
 
-    bool write(const std::vector<PrimePower> &powers) const
+    bool write(const std::vector<FoundFactor> &powers) const
     {
         if (powers.size() > count || (count > 0 && (bases == nullptr || exponents == nullptr)))
             return false;
@@ -114,6 +133,42 @@ struct FactorBuffers
     }
 };
 
+double secondsOf(std::chrono::steady_clock::duration time)
+{
+    return std::chrono::duration<double>(time).count();
+}
+
+BignumFactor toldOf(const FoundFactor &factor, const std::string &base)
+{
+    const Discovery &how = factor.how;
+    return {.base = base.c_str(),
+            .exponent = static_cast<int64_t>(factor.exponent),
+            .isPrime = factor.prime ? 1 : 0,
+            .method = static_cast<int32_t>(how.method),
+            .curveBound = how.curveBound,
+            .curves = how.curves,
+            .relations = static_cast<int64_t>(how.sieve.relations),
+            .partials = static_cast<int64_t>(how.sieve.partials),
+            .polynomials = static_cast<int64_t>(how.sieve.polynomials),
+            .basePrimes = static_cast<int64_t>(how.sieve.base),
+            .columns = static_cast<int64_t>(how.sieve.columns),
+            .methodSeconds = secondsOf(how.took),
+            .seconds = secondsOf(factor.after)};
+}
+
+int32_t endCode(SearchEnd end)
+{
+    switch (end) {
+    case SearchEnd::Complete:
+        return BIGNUM_ALL_PRIMES;
+    case SearchEnd::CompositeLeft:
+        return BIGNUM_COMPOSITE_LEFT;
+    case SearchEnd::Stopped:
+        return BIGNUM_FACTORS_STOPPED;
+    }
+    return BIGNUM_FACTORS_FAILED;
+}
+
 } // namespace
 
 int32_t InitBignum(int32_t digits)
@@ -125,10 +180,8 @@ int32_t InitBignum(int32_t digits)
 int32_t EndBignum(void)
 {
     precision = kDefaultPrecision;
-    return guarded(0, [] {
-        stopSieve();
-        return true;
-    });
+    StopSignal::requestAll();
+    return 1;
 }
 
 int32_t IsPrime(const char *n)
@@ -173,28 +226,44 @@ int32_t ListPrimes(int32_t limit)
     return guarded(0, [&] { return countPrimes(limit); });
 }
 
-int32_t PrimesUpTo(int64_t limit, BignumPrimeBlock block, void *context)
+int32_t PrimesBetween(int64_t first, int64_t last, BignumPrimeBlock block, void *context)
 {
-    return guarded(0, [&] {
-        return block != nullptr && streamPrimes(limit, [&](std::span<const std::uint64_t> primes) {
-                   return block(primes.data(), static_cast<int64_t>(primes.size()), context) != 0;
-               });
-    });
+    const auto handOver = [&](std::span<const std::uint64_t> primes) {
+        return block(primes.data(), static_cast<int64_t>(primes.size()), context) != 0;
+    };
+    return guarded(0, [&] { return block != nullptr && streamPrimes(first, last, handOver); });
 }
 
 int32_t Factors(const char *n, char *const *primes, char *const *exponents, int32_t count)
 {
     const FactorBuffers buffers{primes, exponents, count < 0 ? 0 : static_cast<std::size_t>(count)};
     buffers.clear();
-    return guarded(0, [&] {
+    const auto end = guarded<std::optional<SearchEnd>>({}, [&]() -> std::optional<SearchEnd> {
         const auto number = integerOf(n);
         if (!number)
-            return false;
+            return std::nullopt;
         const Factorization factors = factorize(*number, Effort::Full);
-        if (buffers.write(factors.powers))
-            return factors.complete;
+        return buffers.write(factors.powers) ? std::optional(factors.end) : std::nullopt;
+    });
+    if (!end)
         buffers.clear();
-        return false;
+    return end == SearchEnd::Complete ? 1 : 0;
+}
+
+int32_t FactorsAsFound(const char *n, BignumFactorFound found, void *context)
+{
+    return guarded<int32_t>(BIGNUM_FACTORS_FAILED, [&]() -> int32_t {
+        const auto number = integerOf(n);
+        if (!number)
+            return BIGNUM_NO_NUMBER;
+        if (found == nullptr)
+            return BIGNUM_FACTORS_FAILED;
+        const auto hand = [&](const FoundFactor &factor) {
+            const std::string base = toText(factor.base);
+            const BignumFactor told = toldOf(factor, base);
+            return found(&told, context) != 0;
+        };
+        return endCode(findFactors(*number, Effort::Full, hand));
     });
 }
 
@@ -271,6 +340,21 @@ int32_t CRT(const char *const *remainders, const char *const *moduli, int32_t co
     });
 }
 
+int32_t Fibonacci(int32_t method, int32_t n, int32_t turns, char *out, BignumCost *cost)
+{
+    return writeResult(out, kExpressionBuffer, [&]() -> std::optional<mpz_class> {
+        if (cost == nullptr)
+            return std::nullopt;
+        *cost = {};
+        const bool known = method == BIGNUM_ITERATION || method == BIGNUM_DOUBLING;
+        if (!known || turns < 1 || n < 0 || n > static_cast<int32_t>(kMaxFibonacci))
+            return std::nullopt;
+        return timedFibonacci(method == BIGNUM_ITERATION ? fibonacciByIteration
+                                                         : fibonacciByDoubling,
+                              static_cast<unsigned>(n), turns, *cost);
+    });
+}
+
 int32_t ToBasis(int32_t base, const char *n, char *out)
 {
     return writeResult(out, kNumberBuffer, [&]() -> std::optional<std::string> {
@@ -300,6 +384,34 @@ int32_t QEval(const char *expression, char *out)
 {
     return writeResult(out, kExpressionBuffer,
                        [&] { return evaluateRational(textOf(expression)); });
+}
+
+int32_t QEvalFault(const char *expression, int32_t *start, int32_t *length)
+{
+    if (expression == nullptr || start == nullptr || length == nullptr)
+        return -1;
+    *start = *length = 0;
+    return guarded(-1, [&] {
+        const NoValue reason = rationalFault(expression);
+        if (reason.where.data() != nullptr) {
+            *start = static_cast<int32_t>(reason.where.data() - expression);
+            *length = static_cast<int32_t>(reason.where.size());
+        }
+        return reason.fault;
+    });
+}
+
+int32_t EvalFunction(int32_t index, BignumFunction *out)
+{
+    const auto functions = expressionFunctions();
+    if (out == nullptr || index < 0 || static_cast<std::size_t>(index) >= functions.size())
+        return 0;
+    const ExpressionFunction &function = functions[static_cast<std::size_t>(index)];
+    constexpr std::size_t most = std::numeric_limits<int32_t>::max();
+    *out = {function.spanish, function.international, function.description,
+            static_cast<int32_t>(function.minArguments),
+            static_cast<int32_t>(std::min(function.maxArguments, most))};
+    return 1;
 }
 
 int32_t BMax(const char *a, const char *b)

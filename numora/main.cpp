@@ -1,7 +1,6 @@
 #include "shell/start/Main.h"
 #include "numora/Lecciones.h"
-#include "shell/core/system/InstanciaUnica.h"
-#include "shell/start/FormPrincipal.h"
+#include "shell/look/TextosDeQt.h"
 #include "shell/start/Galeria.h"
 
 #include <QApplication>
@@ -68,6 +67,6 @@ int main(int argc, char *argv[])
                                                 .oscuro = opciones.isSet(u"oscuro"_s),
                                                 .idioma = idiomaDeLinea(linea)});
 
-    const ProgramaEnMarcha programa = Main(linea, contenidoDelPrograma());
-    return programa.principal ? QApplication::exec() : 0;
+    const Programa programa(linea, contenidoDelPrograma());
+    return QApplication::exec();
 }

@@ -51,20 +51,25 @@ void BotonDeCorrida::ponAnimacion(ReproductorAVI *animacion)
     m_animacion = animacion;
 }
 
+void BotonDeCorrida::anuncia()
+{
+    ++m_turno;
+    viste(m_aspectoEnMarcha);
+    if (m_espera)
+        m_espera->setCursor(Qt::WaitCursor);
+}
+
 BotonDeCorrida::Marcha BotonDeCorrida::empieza(Billete billete)
 {
     m_billete = billete;
     m_enMarcha = true;
     m_inicio = std::chrono::steady_clock::now();
-    viste(m_aspectoEnMarcha);
-    if (m_espera)
-        m_espera->setCursor(Qt::WaitCursor);
+    anuncia();
     if (m_animacion && m_animacion->estado() != ReproductorAVI::Reproduciendo)
         m_animacion->reproduce(ReproductorAVI::Modo::Continuo);
     if (m_reloj)
         m_timer.start();
     muestraTiempo();
-    ++m_turno;
     Q_EMIT empezada();
     return {this, std::move(billete)};
 }

@@ -7,12 +7,25 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-void informaError(QWidget *ventana, const ErrorEjecucion &error)
+namespace {
+
+void informa(QWidget *ventana, const ErrorEjecucion &error, const QString &titulo)
 {
     const QString nombre = Traduce(ErrorEjecucion::nombre(error.numero()) + u'.');
     const QString detalle = error.detalle().isEmpty() ? QString() : u'\n' + error.detalle();
-    interlocutor().avisa(ventana, Interlocutor::Icono::Exclamacion, nombre + detalle,
-                         Traduce(u"Error en tiempo de ejecución"_s));
+    interlocutor().avisa(ventana, Interlocutor::Icono::Exclamacion, nombre + detalle, titulo);
+}
+
+} // namespace
+
+void informaError(QWidget *ventana, const ErrorEjecucion &error)
+{
+    informa(ventana, error, Traduce(u"Error en tiempo de ejecución"_s));
+}
+
+void informaNoGuardado(QWidget *ventana, const ErrorEjecucion &error)
+{
+    informa(ventana, error, Traduce(u"No se pudo guardar"_s));
 }
 
 void informaError(QWidget *ventana, const std::exception_ptr &error)

@@ -11,7 +11,10 @@
 /// Shows a run-time error to the user: title "Error en tiempo de ejecución", text its Spanish name.
 void informaError(QWidget *ventana, const ErrorEjecucion &error);
 
-/// The same for any exception; what is none of ours is told by what it says of itself.
+/// The same under the title "No se pudo guardar": what was to be saved stands in the window alone.
+void informaNoGuardado(QWidget *ventana, const ErrorEjecucion &error);
+
+/// As the first for any exception; what is none of ours is told by what it says of itself.
 void informaError(QWidget *ventana, const std::exception_ptr &error);
 
 /// Runs what an event asks for. An error ends it, is shown once, and goes no further: no exception

@@ -1,5 +1,6 @@
 #include "shell/frame/FormLeccion.h"
 
+#include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Traduccion.h"
 #include "shell/frame/BotonDeCorrida.h"
@@ -12,6 +13,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
+#include <QScopeGuard>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTimer>
@@ -46,13 +48,18 @@ QString FormLeccion::URL() const
 
 void FormLeccion::muestraAyuda() const
 {
-    if (!URL().isEmpty())
-        interlocutor().abre(PaginaTraducida(URL(), Idioma()));
+    interlocutor().abre(PaginaTraducida(URL(), Idioma()));
 }
 
 void FormLeccion::cierra()
 {
     marco()->close();
+}
+
+void FormLeccion::cierraSinPreguntar()
+{
+    m_cierrePermitido = true;
+    cierra();
 }
 
 void FormLeccion::detenCorrida()
@@ -63,11 +70,13 @@ void FormLeccion::detenCorrida()
 
 QAbstractButton *FormLeccion::botonEnMarcha() const
 {
+    // Of several runs it is the one in sight that is meant.
+    QAbstractButton *hallado = nullptr;
     for (const BotonDeCorrida *corrida : findChildren<BotonDeCorrida *>()) {
-        if (corrida->enMarcha())
-            return corrida->boton();
+        if (corrida->enMarcha() && (!hallado || corrida->boton()->isVisible()))
+            hallado = corrida->boton();
     }
-    return botonDeParada();
+    return hallado ? hallado : botonDeParada();
 }
 
 void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel)
@@ -119,7 +128,7 @@ void FormLeccion::tsTema_Click(int indice)
 
 void FormLeccion::closeEvent(QCloseEvent *suceso)
 {
-    if (!m_cierrePermitido) {
+    if (!m_cierrePermitido && !m_preguntando) {
         m_enCierre = true;
         m_tareas.lanza(pideCierre());
         m_enCierre = false;
@@ -141,6 +150,8 @@ void FormLeccion::closeEvent(QCloseEvent *suceso)
 /// closed again once the user has allowed it.
 Tarea<> FormLeccion::pideCierre()
 {
+    m_preguntando = true;
+    const auto respondido = qScopeGuard([this] { m_preguntando = false; });
     m_cierrePermitido = co_await puedeCerrarse();
     if (m_cierrePermitido && !m_enCierre)
         cierra();
@@ -149,6 +160,12 @@ Tarea<> FormLeccion::pideCierre()
 Tarea<bool> FormLeccion::puedeCerrarse()
 {
     co_return permiteCerrar();
+}
+
+void FormLeccion::guardaLoPendiente()
+{
+    for (CopiaDeTrabajo *copia : findChildren<CopiaDeTrabajo *>())
+        copia->guarda();
 }
 
 void FormLeccion::desaparece()

@@ -33,6 +33,9 @@ public:
     /// Closes the window as its close button would.
     void cierra();
 
+    /// Closes it without asking, because the user has been asked or cannot be.
+    void cierraSinPreguntar();
+
     /// Stops the run in progress as its stop button would; nothing without one.
     void detenCorrida();
 
@@ -45,8 +48,10 @@ public:
     /// the answer.
     virtual Tarea<bool> puedeCerrarse();
 
-    /// Keeps unsaved work where the next start finds it, without asking: the session ends.
-    virtual void guardaLoPendiente() {}
+    /// Keeps unsaved work where the next start finds it, without asking: the session ends. Brings
+    /// the copies of the window's work up to date. Throws ErrorEjecucion when one cannot be
+    /// written.
+    virtual void guardaLoPendiente();
 
 Q_SIGNALS:
     /// The user has closed the window; it is not to be shown again.
@@ -91,5 +96,6 @@ private:
     bool m_descargada = false;
     bool m_cierrePermitido = false;
     bool m_enCierre = false;
+    bool m_preguntando = false;
     TareasDeVentana m_tareas{this, m_parada};
 };

@@ -66,9 +66,9 @@ void formAcercaDe::cmdSysInfo_Click()
                                                  {u"gnome-system-monitor"_s},
                                                  {u"lshw-gtk"_s}};
     if (!interlocutor().lanzaAlguno(herramientas))
-        interlocutor().mensaje(parentWidget(), Interlocutor::Icono::Informacion,
-                               Traduce(u"System Information Is Unavailable At This Time"_s),
-                               windowTitle());
+        interlocutor().avisa(parentWidget(), Interlocutor::Icono::Informacion,
+                             Traduce(u"System Information Is Unavailable At This Time"_s),
+                             windowTitle());
 }
 
 void formAcercaDe::lblDisclaimer_Click()

@@ -1,7 +1,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/start/Main.h"
+#include "shell/look/TextosDeQt.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QFile>
@@ -100,6 +100,10 @@ private Q_SLOTS:
         Idioma() = idioma;
         instalaTextosDeQt();
         QTEST(QCoreApplication::translate("QPlatformTheme", "Cancel"), "texto");
+        const bool espanol = QTest::currentDataTag() != "translated"_ba;
+        // One that Qt's own Spanish lacks.
+        QCOMPARE(QCoreApplication::translate("QPrintSettingsOutput", "Off"),
+                 espanol ? u"No"_s : u"Off"_s);
     }
 
     void carpetaDeLaSesion()

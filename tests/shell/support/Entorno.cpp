@@ -23,7 +23,7 @@ bool esInofensivo(const QString &texto)
 {
     static const QStringList conocidos{u"propagateSizeHints"_s, u"RHI backend"_s,
                                        u"XDG_RUNTIME_DIR"_s,    u"PulseAudio"_s,
-                                       u"GStreamer"_s,          u"does not support raise"_s,
+                                       u"GStreamer"_s,          u"does not support "_s,
                                        u"video surface"_s,      u"QObject::startTimer"_s};
     return std::any_of(conocidos.begin(), conocidos.end(),
                        [&](const QString &conocido) { return texto.contains(conocido); });
@@ -195,6 +195,11 @@ void Entorno::limpia()
     Idioma() = u"Español"_s;
     QSettings(QSettings::IniFormat, QSettings::UserScope, u"Numora"_s, u"Numora"_s).clear();
     Sesión().ponCarpeta(carpetaDeTrabajo());
+    // A window that went without being closed has left a copy of its work.
+    QDir ajustesPropios(Sesión().carpetaDeAjustes());
+    const QStringList copias = ajustesPropios.entryList({u"*.copia"_s}, QDir::Files);
+    for (const QString &copia : copias)
+        ajustesPropios.remove(copia);
     ponInterlocutor(std::make_unique<Grabadora>());
     IniciaBignum(100);
 }
