@@ -3,8 +3,8 @@
 #include "bignum/arithmetic/FibonacciMethods.h"
 #include "bignum/arithmetic/ModularArithmetic.h"
 #include "bignum/expressions/Expression.h"
+#include "bignum/expressions/ExpressionFunctions.h"
 #include "bignum/factoring/Factorization.h"
-#include "bignum/factoring/QuadraticSieve.h"
 #include "bignum/primes/Primality.h"
 #include "bignum/primes/PrimeList.h"
 #include "bignum/primes/RandomPrime.h"
@@ -16,6 +16,7 @@
 #include <atomic>
 #include <chrono>
 #include <initializer_list>
+#include <limits>
 
 using namespace bignum;
 
@@ -44,11 +45,11 @@ void clear(std::initializer_list<char *> buffers)
 }
 
 /// What `operation` returns, or `failure` where it throws: no exception may cross the interface.
-template <typename Operation>
-int32_t guarded(int32_t failure, Operation operation) noexcept
+template <typename Result = int32_t, typename Operation>
+Result guarded(Result failure, Operation operation) noexcept
 {
     try {
-        return static_cast<int32_t>(operation());
+        return static_cast<Result>(operation());
     } catch (...) {
         return failure;
     }
@@ -118,7 +119,7 @@ struct FactorBuffers
                 writeText({}, array[i], 1);
     }
 
-    bool write(const std::vector<PrimePower> &powers) const
+    bool write(const std::vector<FoundFactor> &powers) const
     {
         if (powers.size() > count || (count > 0 && (bases == nullptr || exponents == nullptr)))
             return false;
@@ -132,6 +133,42 @@ struct FactorBuffers
     }
 };
 
+double secondsOf(std::chrono::steady_clock::duration time)
+{
+    return std::chrono::duration<double>(time).count();
+}
+
+BignumFactor toldOf(const FoundFactor &factor, const std::string &base)
+{
+    const Discovery &how = factor.how;
+    return {.base = base.c_str(),
+            .exponent = static_cast<int64_t>(factor.exponent),
+            .isPrime = factor.prime ? 1 : 0,
+            .method = static_cast<int32_t>(how.method),
+            .curveBound = how.curveBound,
+            .curves = how.curves,
+            .relations = static_cast<int64_t>(how.sieve.relations),
+            .partials = static_cast<int64_t>(how.sieve.partials),
+            .polynomials = static_cast<int64_t>(how.sieve.polynomials),
+            .basePrimes = static_cast<int64_t>(how.sieve.base),
+            .columns = static_cast<int64_t>(how.sieve.columns),
+            .methodSeconds = secondsOf(how.took),
+            .seconds = secondsOf(factor.after)};
+}
+
+int32_t endCode(SearchEnd end)
+{
+    switch (end) {
+    case SearchEnd::Complete:
+        return BIGNUM_ALL_PRIMES;
+    case SearchEnd::CompositeLeft:
+        return BIGNUM_COMPOSITE_LEFT;
+    case SearchEnd::Stopped:
+        return BIGNUM_FACTORS_STOPPED;
+    }
+    return BIGNUM_FACTORS_FAILED;
+}
+
 } // namespace
 
 int32_t InitBignum(int32_t digits)
@@ -143,10 +180,8 @@ int32_t InitBignum(int32_t digits)
 int32_t EndBignum(void)
 {
     precision = kDefaultPrecision;
-    return guarded(0, [] {
-        stopSieve();
-        return true;
-    });
+    StopSignal::requestAll();
+    return 1;
 }
 
 int32_t IsPrime(const char *n)
@@ -203,15 +238,32 @@ int32_t Factors(const char *n, char *const *primes, char *const *exponents, int3
 {
     const FactorBuffers buffers{primes, exponents, count < 0 ? 0 : static_cast<std::size_t>(count)};
     buffers.clear();
-    return guarded(0, [&] {
+    const auto end = guarded<std::optional<SearchEnd>>({}, [&]() -> std::optional<SearchEnd> {
         const auto number = integerOf(n);
         if (!number)
-            return false;
+            return std::nullopt;
         const Factorization factors = factorize(*number, Effort::Full);
-        if (buffers.write(factors.powers))
-            return factors.complete;
+        return buffers.write(factors.powers) ? std::optional(factors.end) : std::nullopt;
+    });
+    if (!end)
         buffers.clear();
-        return false;
+    return end == SearchEnd::Complete ? 1 : 0;
+}
+
+int32_t FactorsAsFound(const char *n, BignumFactorFound found, void *context)
+{
+    return guarded<int32_t>(BIGNUM_FACTORS_FAILED, [&]() -> int32_t {
+        const auto number = integerOf(n);
+        if (!number)
+            return BIGNUM_NO_NUMBER;
+        if (found == nullptr)
+            return BIGNUM_FACTORS_FAILED;
+        const auto hand = [&](const FoundFactor &factor) {
+            const std::string base = toText(factor.base);
+            const BignumFactor told = toldOf(factor, base);
+            return found(&told, context) != 0;
+        };
+        return endCode(findFactors(*number, Effort::Full, hand));
     });
 }
 
@@ -332,6 +384,34 @@ int32_t QEval(const char *expression, char *out)
 {
     return writeResult(out, kExpressionBuffer,
                        [&] { return evaluateRational(textOf(expression)); });
+}
+
+int32_t QEvalFault(const char *expression, int32_t *start, int32_t *length)
+{
+    if (expression == nullptr || start == nullptr || length == nullptr)
+        return -1;
+    *start = *length = 0;
+    return guarded(-1, [&] {
+        const NoValue reason = rationalFault(expression);
+        if (reason.where.data() != nullptr) {
+            *start = static_cast<int32_t>(reason.where.data() - expression);
+            *length = static_cast<int32_t>(reason.where.size());
+        }
+        return reason.fault;
+    });
+}
+
+int32_t EvalFunction(int32_t index, BignumFunction *out)
+{
+    const auto functions = expressionFunctions();
+    if (out == nullptr || index < 0 || static_cast<std::size_t>(index) >= functions.size())
+        return 0;
+    const ExpressionFunction &function = functions[static_cast<std::size_t>(index)];
+    constexpr std::size_t most = std::numeric_limits<int32_t>::max();
+    *out = {function.spanish, function.international, function.description,
+            static_cast<int32_t>(function.minArguments),
+            static_cast<int32_t>(std::min(function.maxArguments, most))};
+    return 1;
 }
 
 int32_t BMax(const char *a, const char *b)

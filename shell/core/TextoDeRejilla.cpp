@@ -113,3 +113,15 @@ QString textoDeRejilla(const QList<QStringList> &filas, FormaDeCopia forma, bool
         escritor.agrega(fila);
     return escritor.termina();
 }
+
+QList<QStringList> filasDeTexto(QString texto)
+{
+    texto.replace(u"\r\n"_s, u"\n"_s);
+    if (texto.endsWith(u'\n'))
+        texto.chop(1);
+    QList<QStringList> filas;
+    const QStringList lineas = texto.split(u'\n');
+    for (const QString &linea : lineas)
+        filas << linea.split(u'\t');
+    return filas;
+}

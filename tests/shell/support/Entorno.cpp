@@ -195,6 +195,11 @@ void Entorno::limpia()
     Idioma() = u"Español"_s;
     QSettings(QSettings::IniFormat, QSettings::UserScope, u"Numora"_s, u"Numora"_s).clear();
     Sesión().ponCarpeta(carpetaDeTrabajo());
+    // A window that went without being closed has left a copy of its work.
+    QDir ajustesPropios(Sesión().carpetaDeAjustes());
+    const QStringList copias = ajustesPropios.entryList({u"*.copia"_s}, QDir::Files);
+    for (const QString &copia : copias)
+        ajustesPropios.remove(copia);
     ponInterlocutor(std::make_unique<Grabadora>());
     IniciaBignum(100);
 }
