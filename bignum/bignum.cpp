@@ -5,7 +5,6 @@
 #include "bignum/expressions/Expression.h"
 #include "bignum/expressions/ExpressionFunctions.h"
 #include "bignum/factoring/Factorization.h"
-#include "bignum/factoring/QuadraticSieve.h"
 #include "bignum/primes/Primality.h"
 #include "bignum/primes/PrimeList.h"
 #include "bignum/primes/RandomPrime.h"
@@ -46,11 +45,11 @@ void clear(std::initializer_list<char *> buffers)
 }
 
 /// What `operation` returns, or `failure` where it throws: no exception may cross the interface.
-template <typename Operation>
-int32_t guarded(int32_t failure, Operation operation) noexcept
+template <typename Result = int32_t, typename Operation>
+Result guarded(Result failure, Operation operation) noexcept
 {
     try {
-        return static_cast<int32_t>(operation());
+        return static_cast<Result>(operation());
     } catch (...) {
         return failure;
     }
@@ -120,7 +119,7 @@ struct FactorBuffers
                 writeText({}, array[i], 1);
     }
 
-    bool write(const std::vector<PrimePower> &powers) const
+    bool write(const std::vector<FoundFactor> &powers) const
     {
         if (powers.size() > count || (count > 0 && (bases == nullptr || exponents == nullptr)))
             return false;
@@ -134,6 +133,42 @@ struct FactorBuffers
     }
 };
 
+double secondsOf(std::chrono::steady_clock::duration time)
+{
+    return std::chrono::duration<double>(time).count();
+}
+
+BignumFactor toldOf(const FoundFactor &factor, const std::string &base)
+{
+    const Discovery &how = factor.how;
+    return {.base = base.c_str(),
+            .exponent = static_cast<int64_t>(factor.exponent),
+            .isPrime = factor.prime ? 1 : 0,
+            .method = static_cast<int32_t>(how.method),
+            .curveBound = how.curveBound,
+            .curves = how.curves,
+            .relations = static_cast<int64_t>(how.sieve.relations),
+            .partials = static_cast<int64_t>(how.sieve.partials),
+            .polynomials = static_cast<int64_t>(how.sieve.polynomials),
+            .basePrimes = static_cast<int64_t>(how.sieve.base),
+            .columns = static_cast<int64_t>(how.sieve.columns),
+            .methodSeconds = secondsOf(how.took),
+            .seconds = secondsOf(factor.after)};
+}
+
+int32_t endCode(SearchEnd end)
+{
+    switch (end) {
+    case SearchEnd::Complete:
+        return BIGNUM_ALL_PRIMES;
+    case SearchEnd::CompositeLeft:
+        return BIGNUM_COMPOSITE_LEFT;
+    case SearchEnd::Stopped:
+        return BIGNUM_FACTORS_STOPPED;
+    }
+    return BIGNUM_FACTORS_FAILED;
+}
+
 } // namespace
 
 int32_t InitBignum(int32_t digits)
@@ -145,10 +180,8 @@ int32_t InitBignum(int32_t digits)
 int32_t EndBignum(void)
 {
     precision = kDefaultPrecision;
-    return guarded(0, [] {
-        stopSieve();
-        return true;
-    });
+    StopSignal::requestAll();
+    return 1;
 }
 
 int32_t IsPrime(const char *n)
@@ -205,15 +238,32 @@ int32_t Factors(const char *n, char *const *primes, char *const *exponents, int3
 {
     const FactorBuffers buffers{primes, exponents, count < 0 ? 0 : static_cast<std::size_t>(count)};
     buffers.clear();
-    return guarded(0, [&] {
+    const auto end = guarded<std::optional<SearchEnd>>({}, [&]() -> std::optional<SearchEnd> {
         const auto number = integerOf(n);
         if (!number)
-            return false;
+            return std::nullopt;
         const Factorization factors = factorize(*number, Effort::Full);
-        if (buffers.write(factors.powers))
-            return factors.complete;
+        return buffers.write(factors.powers) ? std::optional(factors.end) : std::nullopt;
+    });
+    if (!end)
         buffers.clear();
-        return false;
+    return end == SearchEnd::Complete ? 1 : 0;
+}
+
+int32_t FactorsAsFound(const char *n, BignumFactorFound found, void *context)
+{
+    return guarded<int32_t>(BIGNUM_FACTORS_FAILED, [&]() -> int32_t {
+        const auto number = integerOf(n);
+        if (!number)
+            return BIGNUM_NO_NUMBER;
+        if (found == nullptr)
+            return BIGNUM_FACTORS_FAILED;
+        const auto hand = [&](const FoundFactor &factor) {
+            const std::string base = toText(factor.base);
+            const BignumFactor told = toldOf(factor, base);
+            return found(&told, context) != 0;
+        };
+        return endCode(findFactors(*number, Effort::Full, hand));
     });
 }
 

@@ -15,8 +15,9 @@
  * text in every output buffer. Numbers are written without a leading "+", zeros or blanks.
  *
  * Nothing is thrown through this interface. All operations may be called from several threads at
- * once; what waits for the one quadratic sieve takes turns. The only state kept between calls is
- * the precision of ToDecimal.
+ * once; the factoring of larger numbers starts threads of its own, one for each core that the
+ * process may use, and ends them before it returns. The only state kept between calls is the
+ * precision of ToDecimal.
  */
 #ifndef BIGNUM_H
 #define BIGNUM_H
@@ -42,8 +43,9 @@ extern "C" {
  * Returns 1. */
 BIGNUM_API int32_t InitBignum(int32_t precision);
 
-/* Gives back what the library keeps between calls; the precision is 100 again. The library may
- * still be used afterwards. Returns 1. */
+/* Stops what other threads factor by then, within about 50 ms where numbers have at most some
+ * hundred digits (the calls return what they have), and sets the precision to 100 again. The
+ * library may still be used afterwards. Returns 1. */
 BIGNUM_API int32_t EndBignum(void);
 
 /* ---- Primes ------------------------------------------------------------------------------ */
@@ -86,11 +88,58 @@ BIGNUM_API int32_t PrimesBetween(int64_t first, int64_t last, BignumPrimeBlock b
  * Returns 1 when every entry is prime. Returns 0 when a composite could not be split, which then
  * stands last, and on failure: n is no number, it has more than `count` different factors, a
  * pointer is null; all entries are then empty.
- * The effort is bounded: a product of two 34-digit primes is split (composites of up to 70 digits
- * are), larger ones yield factors of up to 25 or 30 digits; a composite out of reach comes back
- * unsplit within about two minutes. */
+ * The effort is bounded by 100 seconds: on two cores of a present machine a composite of up to 80
+ * digits is split, whatever its factors; larger ones yield factors of up to 25 or 30 digits. What
+ * is out of reach comes back unsplit within about two minutes. */
 BIGNUM_API int32_t Factors(const char *n, char *const *primes, char *const *exponents,
                            int32_t count);
+
+/* What a factor was found by. */
+enum BignumMethod {
+    BIGNUM_NO_METHOD = 0,      /* it is n itself: there was nothing to find */
+    BIGNUM_TRIAL_DIVISION = 1, /* divided out, or left when that was done */
+    BIGNUM_RHO = 2,            /* Pollard's rho method */
+    BIGNUM_CURVE = 3,          /* an elliptic curve */
+    BIGNUM_SIEVE = 4,          /* the quadratic sieve */
+    BIGNUM_ROOT = 5            /* what was left is a power of it */
+};
+
+/* A factor as it is handed over. All fields but `base` hold for the composite of which the factor
+ * was split off; those of other methods are 0. */
+struct BignumFactor
+{
+    const char *base;     /* its digits, however many; valid during the call only */
+    int64_t exponent;     /* the power of it that divides n */
+    int32_t isPrime;      /* 0 for a composite that could not be split */
+    int32_t method;       /* a BignumMethod */
+    double curveBound;    /* curves: the first bound of the one that found it */
+    int64_t curves;       /* curves: how many were begun by then, that one included */
+    int64_t relations;    /* sieve: how many it collected */
+    int64_t partials;     /* sieve: those among them with large primes */
+    int64_t polynomials;  /* sieve: how many it went through */
+    int64_t basePrimes;   /* sieve: the size of its factor base */
+    int64_t columns;      /* sieve: the order of the matrix that was solved */
+    double methodSeconds; /* what the method took */
+    double seconds;       /* from the beginning of the call until the factor was known */
+};
+
+/* Receives a factor. Returns nonzero to go on, 0 to end the search. */
+typedef int32_t (*BignumFactorFound)(const struct BignumFactor *factor, void *context);
+
+/* How FactorsAsFound ended. */
+enum BignumFactorsEnd {
+    BIGNUM_FACTORS_FAILED = -1, /* out of memory, or `found` is null */
+    BIGNUM_NO_NUMBER = 0,       /* n is no number */
+    BIGNUM_ALL_PRIMES = 1,      /* the factors handed over are all prime, and their product |n| */
+    BIGNUM_COMPOSITE_LEFT = 2,  /* their product is |n|, but one at least is composite */
+    BIGNUM_FACTORS_STOPPED = 3  /* by `found` or by EndBignum */
+};
+
+/* The factors of |n| as Factors gives them, each handed to `found` as soon as it is known, in the
+ * order in which that happens; composites that were left come last, also when EndBignum stopped the
+ * search. Once `found` has returned 0 it is not called again. 0 and 1 have no factors. `context` is
+ * passed on untouched; `found` is called by the thread that called. Returns a BignumFactorsEnd. */
+BIGNUM_API int32_t FactorsAsFound(const char *n, BignumFactorFound found, void *context);
 
 /* Euler's function of n; EulerFi("1") is 1. Failure for n < 1, and where Factors could not split
  * n. */

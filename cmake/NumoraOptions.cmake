@@ -18,6 +18,10 @@ if(NUMORA_SANITIZE)
     target_compile_options(numora_options INTERFACE
         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
+if(NUMORA_SANITIZE_THREADS)
+    target_compile_options(numora_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+    target_link_options(numora_options INTERFACE -fsanitize=thread)
+endif()
 if(NUMORA_FUZZ)
     # Counts the edges that an input reaches, which is what guides the fuzzer.
     target_compile_options(numora_options INTERFACE -fsanitize=fuzzer-no-link)

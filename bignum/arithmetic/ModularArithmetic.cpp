@@ -90,7 +90,7 @@ std::optional<mpz_class> chineseRemainder(const std::vector<Congruence> &congrue
     for (const Congruence &next : congruences) {
         if (next.modulus == 0 || !merge(merged, next))
             return std::nullopt;
-        if (mpz_sizeinbase(merged.modulus.get_mpz_t(), 10) > kMaxInputDigits + 1)
+        if (decimalDigits(merged.modulus) > kMaxInputDigits)
             return std::nullopt;
     }
     return merged.remainder;

@@ -1,33 +1,54 @@
 #include "bignum/factoring/EllipticCurves.h"
 
+#include "bignum/factoring/Threads.h"
+
+#include <atomic>
 #include <ecm.h>
+#include <mutex>
 
 namespace bignum {
 
 namespace {
 
-/// What the running curve of this thread looks at: its hook is handed no argument.
-thread_local const Deadline *currentDeadline = nullptr;
-
-int deadlinePassed()
+/// What the threads that look for a factor of one number have in common.
+struct Search
 {
-    return currentDeadline->passed() ? 1 : 0;
+    const mpz_class &n;
+    std::span<const CurveLevel> levels;
+    const StopSignal &stop;
+    std::atomic<bool> found{false};
+    std::mutex mutex{}; ///< guards what follows
+    std::size_t level = 0;
+    int curvesOfLevel = 0; ///< that were begun
+    int curves = 0;        ///< of all levels
+    std::optional<CurveFactor> result{};
+};
+
+/// What the running curve of this thread looks at: its hook is handed no argument.
+thread_local const Search *currentSearch = nullptr;
+
+int isEnded()
+{
+    return currentSearch->found || currentSearch->stop.stopped() ? 1 : 0;
 }
 
-/// The parameters of one level, which keep what its curves have in common.
+/// The parameters of a thread's curves, which keep what those of one bound have in common.
 class CurveParameters
 {
 public:
-    explicit CurveParameters(const Deadline &deadline)
+    explicit CurveParameters(const Search &search)
     {
         ecm_init(m_parameters);
-        m_parameters->stop_asap = deadlinePassed;
-        currentDeadline = &deadline;
+        m_parameters->stop_asap = isEnded;
+        // Numbers next to a power of two have an arithmetic of their own there, which keeps its
+        // buffers in variables that all threads share.
+        m_parameters->repr = ECM_MOD_NOBASE2;
+        currentSearch = &search;
     }
     ~CurveParameters()
     {
         ecm_clear(m_parameters);
-        currentDeadline = nullptr;
+        currentSearch = nullptr;
     }
     CurveParameters(const CurveParameters &) = delete;
     CurveParameters &operator=(const CurveParameters &) = delete;
@@ -54,21 +75,51 @@ private:
     ecm_params m_parameters;
 };
 
+/// The next curve that nobody has begun.
+std::optional<CurveLevel> nextCurve(Search &search)
+{
+    const std::lock_guard lock(search.mutex);
+    while (search.level < search.levels.size() &&
+           search.curvesOfLevel == search.levels[search.level].curves) {
+        ++search.level;
+        search.curvesOfLevel = 0;
+    }
+    if (search.level == search.levels.size())
+        return std::nullopt;
+    ++search.curvesOfLevel;
+    ++search.curves;
+    return CurveLevel{search.levels[search.level].bound, search.curves};
+}
+
+void tryCurves(Search &search)
+{
+    std::optional<CurveParameters> parameters;
+    double bound = 0;
+    while (const auto curve =
+               search.found || search.stop.stopped() ? std::nullopt : nextCurve(search)) {
+        if (curve->bound != bound)
+            parameters.emplace(search);
+        bound = curve->bound;
+        const auto factor = parameters->tryCurve(search.n, bound);
+        if (!factor)
+            continue;
+        const std::lock_guard lock(search.mutex);
+        if (!search.found)
+            search.result = {*factor, bound, curve->curves};
+        search.found = true;
+    }
+}
+
 } // namespace
 
-std::optional<mpz_class> curveFactor(const mpz_class &n, std::span<const CurveLevel> levels,
-                                     const Deadline &deadline)
+std::optional<CurveFactor> curveFactor(const mpz_class &n, std::span<const CurveLevel> levels,
+                                       const StopSignal &stop, unsigned threads)
 {
-    for (const CurveLevel &level : levels) {
-        CurveParameters parameters(deadline);
-        for (int i = 0; i < level.curves; ++i) {
-            if (deadline.passed())
-                return std::nullopt;
-            if (const auto factor = parameters.tryCurve(n, level.bound))
-                return factor;
-        }
-    }
-    return std::nullopt;
+    if (levels.empty())
+        return std::nullopt;
+    Search search{n, levels, stop};
+    runOnThreads(threads, [&] { tryCurves(search); });
+    return search.result;
 }
 
 } // namespace bignum

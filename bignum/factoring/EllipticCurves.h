@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bignum/Deadline.h"
+#include "bignum/sieve/StopSignal.h"
 
 #include <gmpxx.h>
 #include <optional>
@@ -11,14 +11,21 @@ namespace bignum {
 /// So many curves to one first bound.
 struct CurveLevel
 {
-    double bound; ///< at most 10^6: beyond, a curve may outlast its deadline by far
+    double bound; ///< at most 10^6: beyond, a curve may outlast a stop by far
     int curves;
 };
 
+struct CurveFactor
+{
+    mpz_class factor;
+    double bound; ///< of the curve that found it
+    int curves;   ///< begun by then
+};
+
 /// A proper factor of the odd composite n, looked for with elliptic curves (H. W. Lenstra,
-/// "Factoring integers with elliptic curves", 1987) level by level; nothing when the levels are
-/// through or the deadline has passed.
-std::optional<mpz_class> curveFactor(const mpz_class &n, std::span<const CurveLevel> levels,
-                                     const Deadline &deadline);
+/// "Factoring integers with elliptic curves", 1987) level by level, on so many threads; nothing
+/// when the levels are through or the search is stopped.
+std::optional<CurveFactor> curveFactor(const mpz_class &n, std::span<const CurveLevel> levels,
+                                       const StopSignal &stop, unsigned threads);
 
 } // namespace bignum

@@ -1,27 +1,17 @@
 #pragma once
 
-#include <gmpxx.h>
+#include "bignum/factoring/FactorSearch.h"
+
 #include <optional>
 #include <vector>
 
 namespace bignum {
 
-/// base^exponent in a factorization. `prime` is false for a composite that could not be split.
-struct PrimePower
-{
-    mpz_class base;
-    unsigned long exponent;
-    bool prime;
-};
-
 struct Factorization
 {
-    std::vector<PrimePower> powers; ///< primes in ascending order, then what was left composite
-    bool complete;                  ///< every base is prime
+    std::vector<FoundFactor> powers; ///< primes in ascending order, then what was left composite
+    SearchEnd end;
 };
-
-/// How long to try: Full takes up to about two minutes, Brief about a second.
-enum class Effort { Full, Brief };
 
 /// The factors of |n|; none for 0 and 1.
 Factorization factorize(const mpz_class &n, Effort effort);

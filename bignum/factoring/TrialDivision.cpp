@@ -18,13 +18,13 @@ unsigned long divisionLimit(const mpz_class &n)
 
 } // namespace
 
-std::vector<PrimePower> removeSmallFactors(mpz_class &n)
+std::vector<SmallFactor> removeSmallFactors(mpz_class &n)
 {
-    std::vector<PrimePower> found;
+    std::vector<SmallFactor> found;
     const mp_bitcnt_t twos = mpz_scan1(n.get_mpz_t(), 0);
     if (twos > 0) {
         n >>= twos;
-        found.push_back({2, twos, true});
+        found.push_back({2, twos});
     }
 
     const SmallPrimes &table = smallPrimes();
@@ -38,7 +38,7 @@ std::vector<PrimePower> removeSmallFactors(mpz_class &n)
             if (residue % p.get_ui() != 0)
                 continue;
             const mp_bitcnt_t exponent = mpz_remove(n.get_mpz_t(), n.get_mpz_t(), p.get_mpz_t());
-            found.push_back({p, exponent, true});
+            found.push_back({p, exponent});
         }
     }
     return found;

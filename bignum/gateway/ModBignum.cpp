@@ -144,8 +144,6 @@ QString ADecimal(const QString &racional)
     if (::ToDecimal(paraBignum(racional).constData(), bufer.datos()) == 0)
         return TextoError.toString();
     QString s = bufer.cortado();
-    if (s.startsWith(u'.'))
-        return u"0,"_s + s.sliced(1);
     if (const auto punto = s.indexOf(u'.'); punto >= 0)
         s[punto] = u',';
     return s;

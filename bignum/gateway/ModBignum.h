@@ -61,7 +61,8 @@ QString Evalua(QString &&expresion, const std::optional<QString> &maximo = {},
 /// a value below the range.
 Moneda EvaluaMoneda(QString expresion, Moneda maximo);
 
-/// The decimal form of a rational result, with a decimal comma.
+/// The decimal form of a rational result, with a decimal comma and a digit in front of it. "Error"
+/// for a text that is none.
 QString ADecimal(const QString &racional);
 
 bool EsPrimo(const QString &n);

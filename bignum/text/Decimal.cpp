@@ -18,11 +18,10 @@ mpz_class powerOfTen(std::size_t exponent)
 /// The zeros between the point and the first digit of n / d, for 0 < n < d.
 std::size_t leadingZeros(const mpz_class &n, const mpz_class &d)
 {
-    // Digit counts put the quotient between 10^(a-b-1) and 10^(a-b+1); mpz_sizeinbase may count one
-    // digit too many on either side. Start below every case and count up.
-    const std::size_t digitsOfN = mpz_sizeinbase(n.get_mpz_t(), 10);
-    const std::size_t digitsOfD = mpz_sizeinbase(d.get_mpz_t(), 10);
-    std::size_t zeros = digitsOfD > digitsOfN + 2 ? digitsOfD - digitsOfN - 2 : 0;
+    // Digit counts put the quotient between 10^(a-b-1) and 10^(a-b+1): start below and count up.
+    const std::size_t digitsOfN = decimalDigits(n);
+    const std::size_t digitsOfD = decimalDigits(d);
+    std::size_t zeros = digitsOfD > digitsOfN + 1 ? digitsOfD - digitsOfN - 1 : 0;
     mpz_class scaled = n * powerOfTen(zeros + 1);
     while (scaled < d) {
         scaled *= 10;

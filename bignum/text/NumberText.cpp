@@ -77,6 +77,14 @@ std::optional<mpq_class> parseRational(std::string_view text)
     return value;
 }
 
+std::size_t decimalDigits(const mpz_class &value)
+{
+    const std::size_t most = mpz_sizeinbase(value.get_mpz_t(), 10);
+    mpz_class least; // of so many digits
+    mpz_ui_pow_ui(least.get_mpz_t(), 10, most - 1);
+    return most > 1 && mpz_cmpabs(value.get_mpz_t(), least.get_mpz_t()) < 0 ? most - 1 : most;
+}
+
 std::string toText(const mpz_class &value)
 {
     if (value.fits_slong_p())

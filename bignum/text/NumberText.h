@@ -30,6 +30,10 @@ std::optional<mpz_class> parseInteger(std::string_view text);
 /// The rational written in `text` as "p" or "p/q" with q > 0, in lowest terms.
 std::optional<mpq_class> parseRational(std::string_view text);
 
+/// How many decimal digits |value| has, 1 for 0. Exact, as mpz_sizeinbase, which may say one too
+/// many, is not.
+std::size_t decimalDigits(const mpz_class &value);
+
 /// Decimal digits, with "-" before a negative value.
 std::string toText(const mpz_class &value);
 

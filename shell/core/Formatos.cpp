@@ -1,5 +1,7 @@
 #include "shell/core/Formatos.h"
 
+#include "shell/core/ModGlobal.h"
+
 #include <QLocale>
 #include <QStringList>
 #include <algorithm>
@@ -40,6 +42,25 @@ QString formatoEntero(Moneda valor)
     const std::int64_t resto = valor.diezmilesimas() % Moneda::Escala;
     const bool alejaDeCero = media < 0 ? resto <= media : resto >= media;
     return formatoEntero(valor.entero() + (alejaDeCero ? (media < 0 ? -1 : 1) : 0));
+}
+
+QString formatoAbreviado(const QString &digitos)
+{
+    constexpr int extremo = 6;
+    if (digitos.size() <= 4 * extremo)
+        return formatoEntero(digitos);
+    const qsizetype cifras = digitos.size() - (digitos.startsWith(u'-') ? 1 : 0);
+    return digitos.left(extremo) + u'…' + digitos.right(extremo) +
+           Traduce(u" (%1 cifras)"_s).arg(formatoEntero(qint64{cifras}));
+}
+
+QString enSuperindice(const QString &numero)
+{
+    static const QString cifras = u"⁰¹²³⁴⁵⁶⁷⁸⁹"_s;
+    QString texto;
+    for (const QChar c : numero)
+        texto += c == u'-' ? QChar(u'⁻') : cifras.at(c.digitValue());
+    return texto;
 }
 
 QString formatoDecimal(double valor, int decimales)

@@ -53,6 +53,7 @@ void BotonDeCorrida::ponAnimacion(ReproductorAVI *animacion)
 
 void BotonDeCorrida::anuncia()
 {
+    ++m_turno;
     viste(m_aspectoEnMarcha);
     if (m_espera)
         m_espera->setCursor(Qt::WaitCursor);
@@ -69,7 +70,6 @@ BotonDeCorrida::Marcha BotonDeCorrida::empieza(Billete billete)
     if (m_reloj)
         m_timer.start();
     muestraTiempo();
-    ++m_turno;
     Q_EMIT empezada();
     return {this, std::move(billete)};
 }

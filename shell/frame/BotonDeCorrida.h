@@ -85,8 +85,12 @@ public:
         std::uint64_t m_turno;
     };
 
-    /// Shows the look of a run that is about to begin, and the hourglass; a click still starts.
+    /// Shows the look of a run that is about to begin, and the hourglass; a click still starts, and
+    /// takes the button over.
     void anuncia();
+
+    /// Grows with whatever takes the button over: what is announced or begins.
+    std::uint64_t turno() const { return m_turno; }
 
     /// Puts the button, the pointer and the clock into motion for the run of that ticket.
     Marcha empieza(Billete billete);
@@ -115,7 +119,7 @@ private:
     QPointer<ReproductorAVI> m_animacion;
     Aspecto m_aspectoEnReposo;
     Aspecto m_aspectoEnMarcha;
-    QTimer m_timer;
+    QTimer m_timer{this};
     std::chrono::steady_clock::time_point m_inicio;
     Billete m_billete;
     std::uint64_t m_turno = 0;

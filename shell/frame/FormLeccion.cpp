@@ -48,8 +48,7 @@ QString FormLeccion::URL() const
 
 void FormLeccion::muestraAyuda() const
 {
-    if (!URL().isEmpty())
-        interlocutor().abre(PaginaTraducida(URL(), Idioma()));
+    interlocutor().abre(PaginaTraducida(URL(), Idioma()));
 }
 
 void FormLeccion::cierra()

@@ -2,6 +2,7 @@
 
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/Rutas.h"
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
@@ -23,7 +24,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextStream>
-#include <QTimer>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -119,6 +120,16 @@ private:
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
     }
 
+    /// Until the runs of a lesson are over, or have clearly gone astray.
+    static void esperaCorridas(const FormLeccion &leccion)
+    {
+        const QDeadlineTimer fin(60s);
+        const auto corridas = leccion.findChildren<BotonDeCorrida *>();
+        const auto enMarcha = [](const BotonDeCorrida *corrida) { return corrida->enMarcha(); };
+        while (std::any_of(corridas.begin(), corridas.end(), enMarcha) && !fin.hasExpired())
+            espera(20ms);
+    }
+
     void retrata(QWidget &ventana, const QString &nombre)
     {
         m_bien = ventana.grab().save(m_carpeta.filePath(nombre + u".png"_s)) && m_bien;
@@ -138,17 +149,15 @@ private:
             return;
         abreTema(*leccion->findChild<QTabBar *>(u"tsTema"_s), escena.tema);
         espera(50ms);
-        if (escena.durante) {
-            QTimer::singleShot(escena.tras, leccion, [this, leccion, &escena] {
-                retrata(m_principal, escena.nombre);
-                leccion->detenCorrida();
-            });
-        }
-        for (const Paso &paso : escena.pasos)
+        for (const Paso &paso : escena.pasos) {
+            esperaCorridas(*leccion);
             da(paso, *leccion);
-        espera(400ms);
+        }
         if (!escena.durante)
-            retrata(m_principal, escena.nombre);
+            esperaCorridas(*leccion);
+        espera(escena.durante ? escena.tras : 400ms);
+        retrata(m_principal, escena.nombre);
+        leccion->detenCorrida();
         leccion->cierra();
         espera(20ms);
     }

@@ -230,6 +230,7 @@ private Q_SLOTS:
         row("rest by zero", "1%0", "fails", "fails");
         row("modular power", "3^1000000000000%1000007", "273158", "273158");
         row("its sign", "-3^2%7", "5", "5");
+        row("its sign, large", "-3^100%7", "3", "3");
         row("negative modulus", "3^5%-7", "5", "5");
         row("power behind a product", "2*3^4%7", "1", "1");
         row("power modulo zero", "2^5%0", "fails", "fails");
@@ -248,6 +249,9 @@ private Q_SLOTS:
         row("absolute", "abs(-3/4)", "1", "3/4");
         row("smallest, largest", "min(3;1/2)+max(1/3;1/4)", "0", "5/6");
         row("Euler", "fi(36)+phi(97)", "108", "108");
+        // Two primes of 39 digits: more than a second's work.
+        row("Euler of what is not split", "fi(nextprime(10^38)*nextprime(3*10^38))", "fails",
+            "fails");
         row("Fibonacci", "fib(100)", "354224848179261915075", "354224848179261915075");
         row("primality", "primo(97)+10*isprime(91)", "1", "1");
         row("next prime", "sigprimo(97)+nextprime(-5)", "103", "103");

@@ -103,11 +103,11 @@ QString Mono::actua()
         respondeCaja(caja);
     } else {
         using Acto = void (Mono::*)();
-        static constexpr Acto actos[] = {&Mono::abreVentana,  &Mono::cambiaTema,    &Mono::cambiaTema,
-                                         &Mono::pulsaBoton,   &Mono::pulsaBoton,    &Mono::pulsaBoton,
-                                         &Mono::escribe,      &Mono::escribe,       &Mono::tecla,
-                                         &Mono::arrastra,     &Mono::cambiaAspecto, &Mono::cierraVentana,
-                                         &Mono::cambiaTamano};
+        static constexpr Acto actos[] = {
+            &Mono::abreVentana, &Mono::cambiaTema, &Mono::cambiaTema,    &Mono::pulsaBoton,
+            &Mono::pulsaBoton,  &Mono::pulsaBoton, &Mono::escribe,       &Mono::escribe,
+            &Mono::tecla,       &Mono::arrastra,   &Mono::cambiaAspecto, &Mono::cierraVentana,
+            &Mono::cambiaTamano};
         (this->*actos[numero(static_cast<int>(std::size(actos)))])();
     }
     deja(numero(4) == 0 ? numero(60) : 0);
@@ -179,10 +179,9 @@ void Mono::escribe()
 
 void Mono::tecla()
 {
-    static constexpr Qt::Key teclas[] = {Qt::Key_Escape, Qt::Key_Tab,   Qt::Key_Return,
-                                         Qt::Key_Left,   Qt::Key_Right, Qt::Key_Down,
-                                         Qt::Key_F6,     Qt::Key_Space, Qt::Key_Delete,
-                                         Qt::Key_C,      Qt::Key_V,     Qt::Key_Z};
+    static constexpr Qt::Key teclas[] = {
+        Qt::Key_Escape, Qt::Key_Tab,   Qt::Key_Return, Qt::Key_Left, Qt::Key_Right, Qt::Key_Down,
+        Qt::Key_F6,     Qt::Key_Space, Qt::Key_Delete, Qt::Key_C,    Qt::Key_V,     Qt::Key_Z};
     const Qt::Key cual = teclas[numero(static_cast<int>(std::size(teclas)))];
     const bool letra = cual >= Qt::Key_A && cual <= Qt::Key_Z;
     QWidget *donde = QApplication::focusWidget();

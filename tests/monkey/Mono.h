@@ -41,7 +41,8 @@ private:
     void deja(int milisegundos);
     QString quéFalla() const;
 
-    template <typename Control> Control *alguno(QWidget *donde);
+    template <typename Control>
+    Control *alguno(QWidget *donde);
     int numero(int limite);
     void anota(const QString &acto);
 

@@ -51,8 +51,8 @@ private Q_SLOTS:
             if (mal.isEmpty())
                 mal = mono.recoge();
             actos += mono.actos();
-            QVERIFY2(mal.isEmpty(), qPrintable(mal + u"\nafter:\n  "_s +
-                                               mono.diario().join(u"\n  "_s)));
+            QVERIFY2(mal.isEmpty(),
+                     qPrintable(mal + u"\nafter:\n  "_s + mono.diario().join(u"\n  "_s)));
         }
         qInfo("seed %u: %d acts in %lld s", semilla, actos, reloj.elapsed() / 1000);
     }

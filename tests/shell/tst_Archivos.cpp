@@ -63,8 +63,9 @@ private Q_SLOTS:
         const auto dueno =
             QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
         QCOMPARE(QFileInfo(ruta).permissions() & ~dueno, QFile::Permissions());
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
-                                 Perfil::escribe(ruta, u"RSA"_s, {{u"r"_s, u"1\n[Otra]"_s}}));
+        for (const QString &valor : {u"1\n[Otra]"_s, u"1\r[Otra]"_s})
+            QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
+                                     Perfil::escribe(ruta, u"RSA"_s, {{u"r"_s, valor}}));
         QCOMPARE(leeArchivo(ruta, 100), "[RSA]\r\nr=1\r\nq(0)=33\r\n"_ba);
     }
 

@@ -1,6 +1,7 @@
 #include "shell/controls/CampoLargo.h"
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/grid/Rejilla.h"
 #include "shell/look/Aspecto.h"
 #include "shell/start/FormAcercaDe.h"
@@ -86,10 +87,40 @@ private Q_SLOTS:
         QTest::keyClicks(campo, u"97"_s);
         QTest::keyClick(campo, Qt::Key_Return);
         QCOMPARE(entradas.count(), 1);
+        QKeyEvent mantenida(QEvent::KeyPress, Qt::Key_Return, {}, {}, /*autorep*/ true);
+        QApplication::sendEvent(campo, &mantenida);
+        QCOMPARE(entradas.count(), 1);
         QCOMPARE(campo->text(), u"97"_s);
         QTest::keyClick(campo, Qt::Key_Tab);
         QVERIFY(otro->hasFocus());
         QCOMPARE(ediciones.count(), 1);
+        campo->setFocus();
+        QTest::keyClick(campo, Qt::Key_Tab);
+        QCOMPARE(ediciones.count(), 1);
+    }
+
+    void columnasSegunLoQueMuestran_data()
+    {
+        QTest::addColumn<int>("ancho");
+        QTest::addColumn<bool>("caben");
+        QTest::newRow("wide") << 900 << true;
+        QTest::newRow("narrow") << 150 << false;
+    }
+    void columnasSegunLoQueMuestran()
+    {
+        QFETCH(int, ancho);
+        QStandardItemModel modelo(1, 3);
+        Rejilla rejilla;
+        rejilla.setModel(&modelo);
+        new ColumnasRepartidas(&rejilla);
+        rejilla.resize(ancho, 100);
+        rejilla.show();
+        modelo.setItem(0, 1, new QStandardItem(QString(20, u'7')));
+        QTRY_VERIFY(rejilla.columnWidth(1) >
+                    rejilla.fontMetrics().horizontalAdvance(QString(19, u'7')));
+        const int suma = rejilla.horizontalHeader()->length(), todo = rejilla.viewport()->width();
+        QVERIFY(suma >= todo);
+        QTEST(suma == todo, "caben");
     }
 
     void rejillaCopia()

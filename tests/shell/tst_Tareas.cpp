@@ -153,7 +153,8 @@ private Q_SLOTS:
     {
         int vivos = 0;
         qint64 pasos = 0;
-        m_tareas->lanza(corre(m_tareas->billete(), vivos, pasos));
+        const Billete billete = m_tareas->billete(); // outlives the run, and its queue with it
+        m_tareas->lanza(corre(billete, vivos, pasos));
         QCOMPARE(vivos, 1);
         m_tareas.reset();
         QCOMPARE(vivos, 0);

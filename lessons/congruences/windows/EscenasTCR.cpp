@@ -24,6 +24,8 @@ QList<Escena> escenasTCR()
             {u"tcr-problema"_s, tema, doce},
             {u"tcr-problema-resuelto"_s, tema, doce + QList<Paso>{resuelve}},
             {u"tcr-sun"_s, tema, sun + QList<Paso>{resuelve}},
+            {u"tcr-sin-solucion"_s, tema,
+             sun + QList<Paso>{celda(u"3,0"_s, u"1"_s), celda(u"3,1"_s, u"21"_s), resuelve}},
             {u"tcr-defectos"_s, tema,
              sun + QList<Paso>{celda(u"1,1"_s, u"0"_s), celda(u"2,0"_s, u"dos"_s)}}};
 }

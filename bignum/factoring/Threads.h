@@ -1,0 +1,32 @@
+#pragma once
+
+#include <exception>
+#include <thread>
+#include <vector>
+
+namespace bignum {
+
+/// Runs the work on so many threads, the caller's among them, and returns when all are through; on
+/// fewer where no more can be had. What a thread throws ends that thread alone, and what the
+/// caller's throws is thrown once the others are through.
+template <typename Work>
+void runOnThreads(unsigned threads, const Work &work)
+{
+    const auto guarded = [&work] {
+        try {
+            work();
+        } catch (const std::exception &) {
+            // Out of memory: the other threads go on.
+        }
+    };
+    std::vector<std::jthread> others;
+    try {
+        while (others.size() + 1 < threads)
+            others.emplace_back(guarded);
+    } catch (const std::exception &) {
+        // Fewer threads do as well.
+    }
+    work();
+}
+
+} // namespace bignum

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace bignum {
+
+/// The cores that this process may run on, 1 at least.
+unsigned availableCores();
+
+} // namespace bignum

@@ -1,0 +1,39 @@
+#include "bignum/sieve/algebra/SparseMatrix.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace bignum::sieve {
+
+std::vector<std::uint32_t> sumOf(const std::vector<std::uint32_t> &a,
+                                 const std::vector<std::uint32_t> &b)
+{
+    std::vector<std::uint32_t> sum;
+    sum.reserve(a.size() + b.size());
+    std::set_symmetric_difference(a.begin(), a.end(), b.begin(), b.end(), std::back_inserter(sum));
+    return sum;
+}
+
+void reduceToOddOnes(std::vector<std::uint32_t> &list)
+{
+    std::sort(list.begin(), list.end());
+    std::size_t kept = 0;
+    for (const std::uint32_t value : list) {
+        if (kept > 0 && list[kept - 1] == value)
+            --kept;
+        else
+            list[kept++] = value;
+    }
+    list.resize(kept);
+}
+
+bool isDependency(const SparseMatrix &matrix, const Dependency &columns)
+{
+    std::vector<bool> odd(matrix.rows);
+    for (const std::uint32_t column : columns)
+        for (const std::uint32_t row : matrix.columns[column])
+            odd[row] = !odd[row];
+    return !columns.empty() && std::find(odd.begin(), odd.end(), true) == odd.end();
+}
+
+} // namespace bignum::sieve

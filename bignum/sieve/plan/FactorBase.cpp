@@ -1,0 +1,25 @@
+#include "bignum/sieve/plan/FactorBase.h"
+
+#include "bignum/sieve/Word.h"
+#include "bignum/sieve/plan/SmallModulus.h"
+
+#include <primesieve.hpp>
+
+namespace bignum::sieve {
+
+FactorBase::FactorBase(const mpz_class &kn, std::size_t size) : primes{1, 2}, roots{0, 1}
+{
+    primes.reserve(size);
+    roots.reserve(size);
+    primesieve::iterator candidates;
+    candidates.next_prime(); // 2, which is there already
+    while (primes.size() < size) {
+        const auto p = static_cast<std::uint32_t>(candidates.next_prime());
+        if (const auto root = squareRootModulo(modulo(kn, p), p)) {
+            primes.push_back(p);
+            roots.push_back(*root);
+        }
+    }
+}
+
+} // namespace bignum::sieve

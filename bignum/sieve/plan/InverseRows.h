@@ -1,0 +1,27 @@
+#pragma once
+
+#include "bignum/sieve/AlignedVector.h"
+#include "bignum/sieve/plan/FactorBase.h"
+
+#include <map>
+
+namespace bignum::sieve {
+
+/// The inverses of a prime q of the base modulo all primes of the base, kept for every `a` that q
+/// divides.
+class InverseRows
+{
+public:
+    InverseRows(const FactorBase &base, std::size_t places) : m_base(base), m_places(places) {}
+
+    /// By base index, for places() places; 0 at the index of q itself, below kFirstOddPrime, and
+    /// from the end of the base on.
+    const std::uint32_t *row(std::uint32_t index);
+
+private:
+    const FactorBase &m_base;
+    std::size_t m_places;
+    std::map<std::uint32_t, AlignedVector<std::uint32_t>> m_rows;
+};
+
+} // namespace bignum::sieve

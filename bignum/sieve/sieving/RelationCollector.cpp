@@ -1,0 +1,81 @@
+#include "bignum/sieve/sieving/RelationCollector.h"
+
+#include "bignum/sieve/sieving/FamilySieve.h"
+
+#include <new>
+#include <system_error>
+#include <thread>
+
+namespace bignum::sieve {
+
+namespace {
+
+/// Relations that a thread gathers before it asks for the store.
+constexpr std::size_t kBatch = 64;
+/// Blocks sieved (some 30 us each) between two looks at the clock.
+constexpr std::uint32_t kBlocksUnwatched = 16;
+
+} // namespace
+
+CollectOutcome RelationCollector::collect(RelationStore &store, std::size_t wanted,
+                                          const StopSignal &stop, unsigned threads)
+{
+    Run run(store, wanted, stop);
+    std::vector<std::thread> others;
+    try {
+        while (others.size() + 1 < threads)
+            others.emplace_back([this, &run] { work(run); });
+    } catch (const std::exception &) {
+        // Fewer threads do as well.
+    }
+    work(run);
+    for (std::thread &other : others)
+        other.join();
+    return run.outcome;
+}
+
+/// The first thread that ends for a reason of its own tells it; the others follow.
+void RelationCollector::work(Run &run)
+{
+    CollectOutcome outcome = CollectOutcome::OutOfMemory;
+    try {
+        outcome = sieve(run);
+    } catch (const std::bad_alloc &) {
+        run.ended = true;
+    }
+    const std::lock_guard lock(run.mutex);
+    if (outcome != CollectOutcome::Exhausted && run.outcome != CollectOutcome::OutOfMemory)
+        run.outcome = outcome;
+    if (outcome != CollectOutcome::Exhausted)
+        run.ended = true;
+}
+
+CollectOutcome RelationCollector::sieve(Run &run)
+{
+    FamilySieve family(m_plan);
+    std::vector<Relation> &relations = family.relations();
+    std::uint32_t unwatched = 0;
+    const auto handOver = [&] {
+        run.store.add(relations);
+        relations.clear();
+    };
+    while (auto factors = m_source.next()) {
+        family.begin(std::move(*factors));
+        while (family.sieveNext()) {
+            ++m_polynomials;
+            if (relations.size() >= kBatch)
+                handOver();
+            if (run.store.independent() >= run.wanted)
+                return CollectOutcome::Enough;
+            unwatched += m_plan.parameters.blocks;
+            if (run.ended || (unwatched >= kBlocksUnwatched && run.stop.stopped()))
+                return CollectOutcome::Stopped;
+            unwatched %= kBlocksUnwatched;
+        }
+    }
+    handOver();
+    return run.store.independent() >= run.wanted ? CollectOutcome::Enough
+                                                 : CollectOutcome::Exhausted;
+}
+
+} // namespace bignum::sieve
