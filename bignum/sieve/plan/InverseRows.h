@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bignum/sieve/AlignedVector.h"
 #include "bignum/sieve/plan/FactorBase.h"
 
 #include <map>
@@ -11,14 +12,16 @@ namespace bignum::sieve {
 class InverseRows
 {
 public:
-    explicit InverseRows(const FactorBase &base) : m_base(base) {}
+    InverseRows(const FactorBase &base, std::size_t places) : m_base(base), m_places(places) {}
 
-    /// By base index; 0 at the index of q itself, and below kFirstOddPrime.
-    const std::vector<std::uint32_t> &row(std::uint32_t index);
+    /// By base index, for places() places; 0 at the index of q itself, below kFirstOddPrime, and
+    /// from the end of the base on.
+    const std::uint32_t *row(std::uint32_t index);
 
 private:
     const FactorBase &m_base;
-    std::map<std::uint32_t, std::vector<std::uint32_t>> m_rows;
+    std::size_t m_places;
+    std::map<std::uint32_t, AlignedVector<std::uint32_t>> m_rows;
 };
 
 } // namespace bignum::sieve

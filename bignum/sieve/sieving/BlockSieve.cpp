@@ -15,6 +15,7 @@ constexpr std::uint32_t kFirstInRow = 512;
 /// on every machine.
 constexpr std::size_t kRow = 16;
 using Lanes [[gnu::vector_size(kRow * 2)]] = std::uint16_t;
+using WideLanes [[gnu::vector_size(kRow * 4)]] = std::uint32_t;
 
 /// Bytes behind the block for the hits beyond it: many, since a byte that was written shortly
 /// before has to be waited for.
@@ -33,6 +34,19 @@ template <std::size_t... I>
     std::uint16_t at[kRow];
     std::memcpy(at, &places, sizeof at);
     (subtract(bytes[at[I]], log), ...);
+}
+
+void narrow(const std::uint32_t *roots, AlignedVector<std::uint16_t> &positions)
+{
+    std::size_t i = 0;
+    for (; i + kRow <= positions.size(); i += kRow) {
+        WideLanes wide;
+        std::memcpy(&wide, roots + i, sizeof wide);
+        const Lanes lanes = __builtin_convertvector(wide, Lanes);
+        std::memcpy(&positions[i], &lanes, sizeof lanes);
+    }
+    for (; i < positions.size(); ++i)
+        positions[i] = static_cast<std::uint16_t>(roots[i]);
 }
 
 } // namespace
@@ -66,10 +80,8 @@ BlockSieve::Row BlockSieve::rowOf(const BaseParts &parts, std::size_t begin, std
 
 void BlockSieve::begin(const Roots &roots)
 {
-    for (std::size_t i = 0; i < m_primes.size(); ++i) {
-        m_first[i] = static_cast<std::uint16_t>(roots.first[m_firstIndex + i]);
-        m_second[i] = static_cast<std::uint16_t>(roots.second[m_firstIndex + i]);
-    }
+    narrow(roots.first + m_firstIndex, m_first);
+    narrow(roots.second + m_firstIndex, m_second);
 }
 
 void BlockSieve::sievePrime(std::size_t index, std::uint8_t log)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bignum/sieve/sieving/AlignedVector.h"
+#include "bignum/sieve/AlignedVector.h"
 #include "bignum/sieve/sieving/BaseParts.h"
 
 namespace bignum::sieve {

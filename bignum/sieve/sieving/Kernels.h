@@ -17,6 +17,9 @@ constexpr std::size_t kLanes = 16;
 constexpr std::uint32_t kNoModulus = 0x7FFFFFFF;
 constexpr std::uint32_t kNoRoot = 0x7FFFFFFE;
 
+/// Quotients of products by smaller moduli are right to one unit when they are found with floats.
+constexpr std::uint32_t kModulusBound = 1U << 22;
+
 /// The two roots of a polynomial modulo each prime, as positions below the prime, and by how much
 /// they move to the next polynomial. By base index, each array on a cache line of its own.
 struct Roots
@@ -28,9 +31,25 @@ struct Roots
     const std::uint32_t *shifts; ///< below the moduli
 };
 
+/// What is made modulo each prime, factor q of `a` after factor. By base index.
+struct FamilyRow
+{
+    const std::uint32_t *moduli;
+    const float *inverses;         ///< of the moduli
+    const std::uint32_t *inverseQ; ///< 1/q
+    std::uint32_t gamma;           ///< below 2^31, as the moduli
+    std::uint32_t *shifts;         ///< becomes gamma/q
+    std::uint32_t *sum;            ///< to which gamma/q is added
+    std::uint32_t *product;        ///< which is multiplied by 1/q
+};
+
 /// The inner loops that vectors make faster, in the version for one level.
 struct Kernels
 {
+    /// Takes a factor of `a` into account for 0 <= index < size, a multiple of kLanes. The moduli
+    /// are kNoModulus, where all is 0, or below kModulusBound.
+    void (*addRow)(const FamilyRow &row, std::size_t size);
+
     /// Moves the roots of begin <= index < end, a multiple of kLanes each.
     void (*move)(const Roots &roots, std::size_t begin, std::size_t end, bool down);
 

@@ -1,3 +1,4 @@
+#include "bignum/sieve/AlignedVector.h"
 #include "bignum/sieve/plan/Parameters.h"
 #include "bignum/sieve/sieving/KernelSets.h"
 
@@ -20,6 +21,34 @@ constexpr std::size_t kChunk = 512; // primes whose positions stay in the first-
 BIGNUM_AVX512 inline __m512i splat(std::uint32_t value)
 {
     return _mm512_set1_epi32(static_cast<int>(value));
+}
+
+/// a·b mod p. The quotient may be one too large or too small, and the remainder then wraps around
+/// or is not below p: the less is right.
+BIGNUM_AVX512 inline __m512i multiply(__m512i a, __m512i b, __m512i p, __m512 inverse)
+{
+    const __m512 product = _mm512_mul_ps(_mm512_cvtepi32_ps(a), _mm512_cvtepi32_ps(b));
+    const __m512i quotient = _mm512_cvttps_epi32(_mm512_mul_ps(product, inverse));
+    const __m512i rest =
+        _mm512_sub_epi32(_mm512_mullo_epi32(a, b), _mm512_mullo_epi32(quotient, p));
+    const __m512i low = _mm512_min_epu32(rest, _mm512_add_epi32(rest, p));
+    return _mm512_min_epu32(low, _mm512_sub_epi32(low, p));
+}
+
+BIGNUM_AVX512 void addRow(const FamilyRow &row, std::size_t size)
+{
+    const __m512i gamma = splat(row.gamma);
+    for (std::size_t i = 0; i < size; i += kWidth) {
+        const __m512i p = _mm512_loadu_si512(row.moduli + i);
+        const __m512 inverse = _mm512_loadu_ps(row.inverses + i);
+        const __m512i inverseQ = _mm512_loadu_si512(row.inverseQ + i);
+        const __m512i shift = multiply(gamma, inverseQ, p, inverse);
+        const __m512i sum = _mm512_add_epi32(_mm512_loadu_si512(row.sum + i), shift);
+        const __m512i product = _mm512_loadu_si512(row.product + i);
+        _mm512_storeu_si512(row.shifts + i, shift);
+        _mm512_storeu_si512(row.sum + i, _mm512_min_epu32(sum, _mm512_sub_epi32(sum, p)));
+        _mm512_storeu_si512(row.product + i, multiply(product, inverseQ, p, inverse));
+    }
 }
 
 /// One of the two sums is beyond the modulus, or wraps around to a large number: the less is right.
@@ -47,8 +76,8 @@ BIGNUM_AVX512 void move(const Roots &roots, std::size_t begin, std::size_t end, 
 /// The next positions of the roots of one chunk of primes: none is before the block at hand.
 struct Chunk
 {
-    alignas(kWidth * 4) std::uint32_t first[kChunk];
-    alignas(kWidth * 4) std::uint32_t second[kChunk];
+    alignas(kLine) std::uint32_t first[kChunk];
+    alignas(kLine) std::uint32_t second[kChunk];
 };
 
 /// Appends those of 16 positions that are in the block which ends at `blockEnd` to its bucket, and
@@ -159,7 +188,7 @@ BIGNUM_AVX512 std::size_t findEntries(std::span<const std::uint32_t> bucket, std
 
 } // namespace
 
-const Kernels kAvx512Kernels{move, moveAndFill, findHighBytes, findRoots, findEntries};
+const Kernels kAvx512Kernels{addRow, move, moveAndFill, findHighBytes, findRoots, findEntries};
 
 } // namespace bignum::sieve
 

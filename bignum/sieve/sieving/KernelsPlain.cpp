@@ -1,4 +1,5 @@
 #include "bignum/sieve/plan/Parameters.h"
+#include "bignum/sieve/plan/SmallModulus.h"
 #include "bignum/sieve/sieving/KernelSets.h"
 
 #include <bit>
@@ -16,6 +17,16 @@ std::uint32_t moved(std::uint32_t root, std::uint32_t shift, std::uint32_t modul
         return root >= shift ? root - shift : root + modulus - shift;
     const std::uint32_t sum = root + shift;
     return sum >= modulus ? sum - modulus : sum;
+}
+
+void addRow(const FamilyRow &row, std::size_t size)
+{
+    for (std::size_t i = 0; i < size; ++i) {
+        const std::uint32_t p = row.moduli[i];
+        row.shifts[i] = multiplyModulo(row.gamma, row.inverseQ[i], p);
+        row.sum[i] = moved(row.sum[i], row.shifts[i], p, false);
+        row.product[i] = multiplyModulo(row.product[i], row.inverseQ[i], p);
+    }
 }
 
 void move(const Roots &roots, std::size_t begin, std::size_t end, bool down)
@@ -81,6 +92,6 @@ std::size_t findEntries(std::span<const std::uint32_t> bucket, std::uint32_t pos
 
 } // namespace
 
-const Kernels kPlainKernels{move, moveAndFill, findHighBytes, findRoots, findEntries};
+const Kernels kPlainKernels{addRow, move, moveAndFill, findHighBytes, findRoots, findEntries};
 
 } // namespace bignum::sieve

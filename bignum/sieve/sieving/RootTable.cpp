@@ -25,14 +25,14 @@ std::uint32_t halfModulo(std::uint32_t a, std::uint32_t p)
 
 RootTable::RootTable(const Plan &plan)
     : m_plan(plan),
-      m_inverseRows(plan.base),
       m_moduli(roundUp(plan.base.size()), kNoModulus),
+      m_inverseRows(plan.base, m_moduli.size()),
       m_inverses(m_moduli.size()),
       m_first(m_moduli.size(), kNoRoot),
       m_second(m_moduli.size(), kNoRoot),
       m_noShift(m_moduli.size()),
-      m_inverseOfA(plan.base.size()),
-      m_sum(plan.base.size())
+      m_inverseOfA(m_moduli.size()),
+      m_sum(m_moduli.size())
 {
     for (std::size_t i = kFirstOddPrime; i < plan.base.size(); ++i)
         m_moduli[i] = plan.base.primes[i];
@@ -42,26 +42,19 @@ RootTable::RootTable(const Plan &plan)
 
 void RootTable::begin(const Polynomial &polynomial)
 {
-    m_inverseOfA.assign(m_inverseOfA.size(), 1);
-    m_sum.assign(m_sum.size(), 0);
+    m_inverseOfA.assign(places(), 1);
+    m_sum.assign(places(), 0);
     m_shifts.resize(polynomial.factors().size());
-    for (std::size_t row = 0; row < m_shifts.size(); ++row)
-        addRow(m_inverseRows.row(polynomial.factors()[row]), polynomial.gammas()[row], row);
-    findFirstRoots(polynomial.liftedByA());
-}
-
-/// B[i] / a = gamma[i] / q[i]: no long number has to be reduced.
-void RootTable::addRow(const std::vector<std::uint32_t> &inverses, std::uint32_t gamma,
-                       std::size_t row)
-{
-    AlignedVector<std::uint32_t> &shifts = m_shifts[row];
-    shifts.resize(places());
-    for (std::size_t i = kFirstOddPrime; i < m_plan.base.size(); ++i) {
-        const std::uint32_t p = m_moduli[i];
-        shifts[i] = multiplyModulo(gamma, inverses[i], p);
-        m_sum[i] = addModulo(m_sum[i], shifts[i], p);
-        m_inverseOfA[i] = multiplyModulo(m_inverseOfA[i], inverses[i], p);
+    for (std::size_t i = 0; i < m_shifts.size(); ++i) {
+        m_shifts[i].resize(places());
+        // B[i] / a = gamma[i] / q[i]: no long number has to be reduced.
+        const FamilyRow row{
+            m_moduli.data(),        m_inverses.data(),  m_inverseRows.row(polynomial.factors()[i]),
+            polynomial.gammas()[i], m_shifts[i].data(), m_sum.data(),
+            m_inverseOfA.data()};
+        m_plan.kernels->addRow(row, places());
     }
+    findFirstRoots(polynomial.liftedByA());
 }
 
 /// x = (+-sqrt(kn) - b) / 2a, where b / a is the sum of the shifts, and one more if lifted.

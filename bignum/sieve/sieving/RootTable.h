@@ -1,8 +1,8 @@
 #pragma once
 
+#include "bignum/sieve/AlignedVector.h"
 #include "bignum/sieve/plan/InverseRows.h"
 #include "bignum/sieve/plan/Polynomial.h"
-#include "bignum/sieve/sieving/AlignedVector.h"
 
 namespace bignum::sieve {
 
@@ -25,19 +25,18 @@ public:
     Roots resting();
 
 private:
-    void addRow(const std::vector<std::uint32_t> &inverses, std::uint32_t gamma, std::size_t row);
     void findFirstRoots(bool liftedByA);
 
     const Plan &m_plan;
-    InverseRows m_inverseRows;
     AlignedVector<std::uint32_t> m_moduli;
+    InverseRows m_inverseRows;
     AlignedVector<float> m_inverses;
     AlignedVector<std::uint32_t> m_first;
     AlignedVector<std::uint32_t> m_second;
     std::vector<AlignedVector<std::uint32_t>> m_shifts; ///< B[row] / a
     AlignedVector<std::uint32_t> m_noShift;
-    std::vector<std::uint32_t> m_inverseOfA;
-    std::vector<std::uint32_t> m_sum; ///< of all shifts
+    AlignedVector<std::uint32_t> m_inverseOfA;
+    AlignedVector<std::uint32_t> m_sum; ///< of all shifts
 };
 
 } // namespace bignum::sieve
