@@ -17,7 +17,7 @@ int32_t addUp(const uint64_t *primes, int64_t count, void *context)
 int32_t sumOfPrimesUpTo10(void)
 {
     int32_t sum = 0;
-    return PrimesUpTo(10, addUp, &sum) == 1 ? sum : -1;
+    return PrimesBetween(0, 10, addUp, &sum) == 1 ? sum : -1;
 }
 
 int32_t addExponent(const struct BignumFactor *factor, void *context)
