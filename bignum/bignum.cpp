@@ -1,7 +1,9 @@
 #include "bignum/bignum.h"
 
+#include "bignum/arithmetic/FibonacciMethods.h"
 #include "bignum/arithmetic/ModularArithmetic.h"
 #include "bignum/expressions/Expression.h"
+#include "bignum/expressions/ExpressionFunctions.h"
 #include "bignum/factoring/Factorization.h"
 #include "bignum/primes/Primality.h"
 #include "bignum/primes/PrimeList.h"
@@ -14,6 +16,7 @@
 #include <atomic>
 #include <chrono>
 #include <initializer_list>
+#include <limits>
 
 using namespace bignum;
 
@@ -84,6 +87,22 @@ int32_t writeResultOf(const char *a, const char *b, char *out, Operation operati
 bool isInPrimeSearchRange(const mpz_class &n)
 {
     return mpz_sizeinbase(n.get_mpz_t(), 2) <= kMaxPrimeSearchBits;
+}
+
+mpz_class timedFibonacci(mpz_class (*method)(unsigned, Work &), unsigned n, int32_t turns,
+                         BignumCost &cost)
+{
+    using Clock = std::chrono::steady_clock;
+    mpz_class result;
+    Work work;
+    const auto begin = Clock::now();
+    for (int32_t i = 0; i < turns; ++i) {
+        work = {};
+        result = method(n, work);
+    }
+    const std::chrono::nanoseconds spent = Clock::now() - begin;
+    cost = {work.additions, work.products, spent.count()};
+    return result;
 }
 
 /// Two arrays of `count` buffers that take a factorization, entry by entry.
@@ -207,13 +226,12 @@ int32_t ListPrimes(int32_t limit)
     return guarded(0, [&] { return countPrimes(limit); });
 }
 
-int32_t PrimesUpTo(int64_t limit, BignumPrimeBlock block, void *context)
+int32_t PrimesBetween(int64_t first, int64_t last, BignumPrimeBlock block, void *context)
 {
-    return guarded(0, [&] {
-        return block != nullptr && streamPrimes(limit, [&](std::span<const std::uint64_t> primes) {
-                   return block(primes.data(), static_cast<int64_t>(primes.size()), context) != 0;
-               });
-    });
+    const auto handOver = [&](std::span<const std::uint64_t> primes) {
+        return block(primes.data(), static_cast<int64_t>(primes.size()), context) != 0;
+    };
+    return guarded(0, [&] { return block != nullptr && streamPrimes(first, last, handOver); });
 }
 
 int32_t Factors(const char *n, char *const *primes, char *const *exponents, int32_t count)
@@ -322,6 +340,21 @@ int32_t CRT(const char *const *remainders, const char *const *moduli, int32_t co
     });
 }
 
+int32_t Fibonacci(int32_t method, int32_t n, int32_t turns, char *out, BignumCost *cost)
+{
+    return writeResult(out, kExpressionBuffer, [&]() -> std::optional<mpz_class> {
+        if (cost == nullptr)
+            return std::nullopt;
+        *cost = {};
+        const bool known = method == BIGNUM_ITERATION || method == BIGNUM_DOUBLING;
+        if (!known || turns < 1 || n < 0 || n > static_cast<int32_t>(kMaxFibonacci))
+            return std::nullopt;
+        return timedFibonacci(method == BIGNUM_ITERATION ? fibonacciByIteration
+                                                         : fibonacciByDoubling,
+                              static_cast<unsigned>(n), turns, *cost);
+    });
+}
+
 int32_t ToBasis(int32_t base, const char *n, char *out)
 {
     return writeResult(out, kNumberBuffer, [&]() -> std::optional<std::string> {
@@ -351,6 +384,34 @@ int32_t QEval(const char *expression, char *out)
 {
     return writeResult(out, kExpressionBuffer,
                        [&] { return evaluateRational(textOf(expression)); });
+}
+
+int32_t QEvalFault(const char *expression, int32_t *start, int32_t *length)
+{
+    if (expression == nullptr || start == nullptr || length == nullptr)
+        return -1;
+    *start = *length = 0;
+    return guarded(-1, [&] {
+        const NoValue reason = rationalFault(expression);
+        if (reason.where.data() != nullptr) {
+            *start = static_cast<int32_t>(reason.where.data() - expression);
+            *length = static_cast<int32_t>(reason.where.size());
+        }
+        return reason.fault;
+    });
+}
+
+int32_t EvalFunction(int32_t index, BignumFunction *out)
+{
+    const auto functions = expressionFunctions();
+    if (out == nullptr || index < 0 || static_cast<std::size_t>(index) >= functions.size())
+        return 0;
+    const ExpressionFunction &function = functions[static_cast<std::size_t>(index)];
+    constexpr std::size_t most = std::numeric_limits<int32_t>::max();
+    *out = {function.spanish, function.international, function.description,
+            static_cast<int32_t>(function.minArguments),
+            static_cast<int32_t>(std::min(function.maxArguments, most))};
+    return 1;
 }
 
 int32_t BMax(const char *a, const char *b)

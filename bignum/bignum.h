@@ -10,9 +10,9 @@
  *
  * Results. Unless told otherwise the returned value is a flag: 1 for success, 0 for failure. A
  * result is written with its final NUL into a buffer of the caller's, whose size is fixed for each
- * operation: 24576 bytes for ZEval and QEval, 16384 for ToDecimal, 8192 for every other output. A
- * result that does not fit is a failure; so is a null buffer. A failure leaves the empty text in
- * every output buffer. Numbers are written without a leading "+", zeros or blanks.
+ * operation: 24576 bytes for ZEval, QEval and Fibonacci, 16384 for ToDecimal, 8192 for every other
+ * output. A result that does not fit is a failure; so is a null buffer. A failure leaves the empty
+ * text in every output buffer. Numbers are written without a leading "+", zeros or blanks.
  *
  * Nothing is thrown through this interface. All operations may be called from several threads at
  * once; the factoring of larger numbers starts threads of its own, one for each core that the
@@ -76,10 +76,12 @@ BIGNUM_API int32_t ListPrimes(int32_t limit);
  * go on, 0 to end the list. */
 typedef int32_t (*BignumPrimeBlock)(const uint64_t *primes, int64_t count, void *context);
 
-/* Hands the primes not above `limit` to `block`, in ascending order and in blocks of bounded size,
- * so that memory does not grow with the limit. `context` is passed on untouched. Returns 1 when all
- * primes were handed over, 0 when `block` ended the list or is null. */
-BIGNUM_API int32_t PrimesUpTo(int64_t limit, BignumPrimeBlock block, void *context);
+/* Hands the primes from `first` to `last` to `block`, in ascending order and in blocks of bounded
+ * size, so that memory does not grow with their number; none where `first` is larger. `context` is
+ * passed on untouched. Returns 1 when all primes were handed over, 0 when `block` ended the list or
+ * is null. */
+BIGNUM_API int32_t PrimesBetween(int64_t first, int64_t last, BignumPrimeBlock block,
+                                 void *context);
 
 /* The prime factors of |n| in ascending order and their exponents, into two arrays of `count`
  * buffers each; the entries after the last factor become empty texts. 0 and 1 have no factors.
@@ -171,6 +173,29 @@ BIGNUM_API int32_t InvMod(const char *a, const char *n, char *out);
 BIGNUM_API int32_t CRT(const char *const *remainders, const char *const *moduli, int32_t count,
                        char *out);
 
+/* ---- Fibonacci numbers ------------------------------------------------------------------- */
+
+/* What a computation has cost. Additions include subtractions, and twofolds, which are additions of
+ * a number to itself. */
+typedef struct BignumCost
+{
+    int64_t additions;   /* of one turn */
+    int64_t products;    /* of one turn */
+    int64_t nanoseconds; /* of all turns together, without the writing of the result */
+} BignumCost;
+
+/* Ways to compute a Fibonacci number. */
+enum {
+    BIGNUM_ITERATION = 0, /* n - 1 additions, upwards from F(0) and F(1) */
+    BIGNUM_DOUBLING = 1 /* from F(k) and F(k+1) to F(2k) and F(2k+1), for each binary digit of n */
+};
+
+/* F(n), F(0) = 0, F(1) = 1, computed `turns` times over by one of the methods above, and what that
+ * has cost: a computation may be shorter than a tick of the clock. Failure for n outside 0..117592,
+ * the largest that `out` holds, for turns < 1, any other method, and a null `cost`, which is all
+ * zeros after other failures. */
+BIGNUM_API int32_t Fibonacci(int32_t method, int32_t n, int32_t turns, char *out, BignumCost *cost);
+
 /* ---- Notations and expressions ----------------------------------------------------------- */
 
 /* n in base 2 to 36, with the digits 0-9 and a-z and "-" before a negative n. Failure for any
@@ -190,6 +215,41 @@ BIGNUM_API int32_t ZEval(const char *expression, char *out);
 
 /* The same over the rationals, in lowest terms: "/" is exact and "%" needs whole operands. */
 BIGNUM_API int32_t QEval(const char *expression, char *out);
+
+/* Why QEval gives no value. */
+enum {
+    BIGNUM_NO_FAULT = 0,         /* it gives one */
+    BIGNUM_MISSING_OPERAND = 1,  /* a number or an opening bracket should stand there */
+    BIGNUM_MISSING_OPERATOR = 2, /* an operator should stand before it */
+    BIGNUM_MISPLACED = 3,        /* a bracket or ";" where it means nothing */
+    BIGNUM_UNKNOWN = 4,          /* no number, no operator and no function */
+    BIGNUM_BAD_ARGUMENTS = 5,    /* a function without its brackets or with too many arguments */
+    BIGNUM_ZERO_DIVISION = 6,
+    BIGNUM_NOT_WHOLE = 7,     /* a fraction where the operation needs whole numbers */
+    BIGNUM_OUT_OF_DOMAIN = 8, /* a factorial or a function of a number that it is not defined for */
+    BIGNUM_TOO_LARGE = 9,     /* a value of too many digits, a text too long, brackets too deep */
+    BIGNUM_TOO_SLOW = 10      /* it takes too long */
+};
+
+/* The first fault on the way through an expression. 1 to 5 are about a part of it, which begins
+ * behind `*start` bytes and is `*length` bytes long (0 at the end of the text); both are 0
+ * otherwise. It looks for a tenth of a second, a single long operation aside; then it is
+ * BIGNUM_TOO_SLOW. Also -1 when a pointer is null or memory ran out. */
+BIGNUM_API int32_t QEvalFault(const char *expression, int32_t *start, int32_t *length);
+
+/* A function of expressions. Each has two names, which may be the same. */
+typedef struct BignumFunction
+{
+    const char *spanish;
+    const char *international;
+    const char *description; /* in Spanish, UTF-8 */
+    int32_t minArguments;
+    int32_t maxArguments; /* INT32_MAX: any number */
+} BignumFunction;
+
+/* The functions of ZEval and QEval, one by one: fills `out` with the one at `index`, counted from
+ * 0, and returns 1; 0 behind the last one. The texts live as long as the library. */
+BIGNUM_API int32_t EvalFunction(int32_t index, BignumFunction *out);
 
 /* Compares two rationals: 2 when b > a, 1 when a > b, 0 when they are equal, -1 when one of them is
  * no number. The empty text counts as 0 here. */

@@ -4,6 +4,9 @@ add_library(numora_options INTERFACE)
 # Headers are named from the top folder, so that an include shows which subsystem it comes from.
 target_include_directories(numora_options INTERFACE "${CMAKE_SOURCE_DIR}")
 target_compile_options(numora_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+# clang 14 compiles coroutines of C++20 but does not say so, which the standard library asks for.
+target_compile_definitions(numora_options INTERFACE
+    $<$<AND:$<CXX_COMPILER_ID:Clang>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,15>>:__cpp_impl_coroutine=201902L>)
 if(NUMORA_WERROR)
     target_compile_options(numora_options INTERFACE -Werror)
 endif()
@@ -14,6 +17,10 @@ if(NUMORA_SANITIZE)
     # g++ loses track of what is initialised in instrumented code; the plain build keeps the warning.
     target_compile_options(numora_options INTERFACE
         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+endif()
+if(NUMORA_SANITIZE_THREADS)
+    target_compile_options(numora_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+    target_link_options(numora_options INTERFACE -fsanitize=thread)
 endif()
 if(NUMORA_FUZZ)
     # Counts the edges that an input reaches, which is what guides the fuzzer.

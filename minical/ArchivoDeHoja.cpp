@@ -1,7 +1,7 @@
 #include "minical/ArchivoDeHoja.h"
 
-#include "bignum/gateway/ModBignum.h"
 #include "minical/HojaDeCalculo.h"
+#include "shell/core/Lectura.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -77,10 +77,10 @@ bool concuerdan(const CeldaGuardada &celda)
     if (celda.expresion.isEmpty() || celda.expresion.size() > HojaDeCalculo::LongitudMaxima)
         return false;
     if (!celda.valor)
-        return celda.resultado.isEmpty() || celda.resultado == TextoError;
+        return celda.resultado.isEmpty() || esError(celda.resultado);
     if (celda.expresion.trimmed().isEmpty() || !esValor(*celda.valor))
         return false;
-    return celda.resultado == *celda.valor || celda.resultado == TextoError ||
+    return celda.resultado == *celda.valor || esError(celda.resultado) ||
            esFormaDecimal(celda.resultado);
 }
 

@@ -1,9 +1,10 @@
 #include "minical/ExplicacionDeCelda.h"
 
 #include "bignum/gateway/ErrorEjecucion.h"
-#include "bignum/gateway/ModBignum.h"
+#include "bignum/gateway/Expresiones.h"
 #include "minical/HojaDeCalculo.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 #include <QRegularExpression>
@@ -72,8 +73,61 @@ QString motivoDeNombre(const HojaDeCalculo &hoja, Celda celda, const QString &no
         return {};
     if (*usada == celda)
         return Traduce(u"La celda se usa a sí misma y no tiene valor todavía."_s);
-    return resultadoDe(hoja, *usada) == TextoError ? Traduce(u"%1 tiene un error."_s).arg(nombre)
-                                                   : Traduce(u"%1 está vacía."_s).arg(nombre);
+    return esError(resultadoDe(hoja, *usada)) ? Traduce(u"%1 tiene un error."_s).arg(nombre)
+                                              : Traduce(u"%1 está vacía."_s).arg(nombre);
+}
+
+/// Signs that other programs use, and what is written here.
+QString motivoDeCostumbre(const QString &texto)
+{
+    static const QRegularExpression conMillares(u"[0-9]+([.,][0-9]+){2,}"_s);
+    if (const QString numero = conMillares.match(texto).captured(); !numero.isEmpty())
+        return Traduce(u"«%1» no es un número: el punto y la coma separan los decimales."_s)
+            .arg(numero);
+    if (texto.contains(u"**"_s))
+        return Traduce(u"La potencia se escribe «^», no «**»."_s);
+    return {};
+}
+
+/// The sign or the operation for which the service gives no value.
+QString motivoDelFallo(const QString &texto)
+{
+    using Clase = FalloDeExpresion::Clase;
+    const FalloDeExpresion fallo = falloDeExpresion(texto);
+    switch (fallo.clase) {
+    case Clase::Ninguno:
+        return Traduce(u"Con los valores de ahora ya no falla: recalcule esta (F9)."_s);
+    case Clase::FaltaNumero:
+    case Clase::FaltaOperacion:
+        if (const QString motivo = motivoDeCostumbre(texto); !motivo.isEmpty())
+            return motivo;
+        if (fallo.donde.isEmpty())
+            return Traduce(u"Falta un número al final."_s);
+        return (fallo.clase == Clase::FaltaNumero
+                    ? Traduce(u"Falta un número delante de «%1»."_s)
+                    : Traduce(u"Falta una operación delante de «%1»."_s))
+            .arg(fallo.donde);
+    case Clase::FueraDeLugar:
+        return Traduce(u"«%1» no puede ir en ese lugar."_s).arg(fallo.donde);
+    case Clase::Desconocido:
+        return Traduce(u"No se entiende «%1»: no es número, celda, función ni operación."_s)
+            .arg(fallo.donde);
+    case Clase::Argumentos:
+        return Traduce(u"«%1» lleva sus argumentos entre paréntesis, y no más de los debidos."_s)
+            .arg(fallo.donde);
+    case Clase::DivisionPorCero:
+        return Traduce(u"Divide entre 0."_s);
+    case Clase::NoEsEntero:
+        return Traduce(u"El resto, el factorial, el exponente y casi todas las funciones piden "
+                       "números enteros."_s);
+    case Clase::FueraDeDominio:
+        return Traduce(u"El factorial o la función no está definido para ese número."_s);
+    case Clase::DemasiadoGrande:
+        return Traduce(u"Da un número demasiado largo."_s);
+    case Clase::DemasiadoTrabajo:
+        return Traduce(u"Calcularlo llevaría demasiado tiempo."_s);
+    }
+    return {};
 }
 
 QString cifras(QStringView numero)
@@ -116,11 +170,7 @@ QString motivoDeError(const HojaDeCalculo &hoja, Celda celda)
         return motivo;
     if (separaConComas(texto))
         return Traduce(u"Los argumentos se separan con punto y coma, como en mcd(12;18)."_s);
-    const QString motivo =
-        Traduce(u"La expresión no se entiende, divide entre 0 o da un número demasiado largo."_s);
-    if (primerNombre(expresionDe(hoja, celda)).isEmpty())
-        return motivo;
-    return motivo + u' ' + Traduce(u"Si las celdas que usa han cambiado, recalcule esta (F9)."_s);
+    return motivoDelFallo(texto);
 }
 
 QString explicacionDeCelda(const HojaDeCalculo &hoja, Celda celda)
@@ -128,5 +178,5 @@ QString explicacionDeCelda(const HojaDeCalculo &hoja, Celda celda)
     if (!celda.esDeDatos())
         return {};
     const QString &resultado = resultadoDe(hoja, celda);
-    return resultado == TextoError ? motivoDeError(hoja, celda) : longitud(resultado);
+    return esError(resultado) ? motivoDeError(hoja, celda) : longitud(resultado);
 }

@@ -53,6 +53,8 @@ public:
     const PasoDeEdicion &rehace();
 
     void marcaGuardado() { m_guardado = m_hechos; }
+    /// What is in sight stands in no file, however much is undone.
+    void marcaSinGuardar() { m_guardado.reset(); }
     bool modificado() const { return m_guardado != m_hechos; }
 
 private:

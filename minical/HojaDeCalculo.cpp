@@ -4,7 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "minical/HojaGuardada.h"
 #include "minical/Sustitucion.h"
-#include "shell/core/Corrida.h"
+#include "shell/core/Lectura.h"
 
 #include <algorithm>
 
@@ -21,7 +21,7 @@ void recorre(Accion accion)
 
 bool tieneValor(const QString &resultado)
 {
-    return !resultado.isEmpty() && resultado != TextoError;
+    return !resultado.isEmpty() && !esError(resultado);
 }
 
 } // namespace
@@ -111,7 +111,8 @@ bool HojaDeCalculo::ValorDecimal(Celda celda)
     if (!celda.esDeDatos())
         return false;
     Casilla &c = casilla(celda);
-    if (c.resultado.trimmed().isEmpty() || EsDecimal(c.resultado))
+    // A negative decimal form is no EsDecimal, and the service reads no comma.
+    if (c.resultado.trimmed().isEmpty() || EsDecimal(c.resultado) || c.resultado.contains(u','))
         return false;
     CambioDeCelda cambio{celda, estado(celda), {}};
     c.resultado = ADecimal(c.resultado);
@@ -140,22 +141,41 @@ void HojaDeCalculo::borra(const QList<Celda> &celdas)
     anota(paso);
 }
 
-bool HojaDeCalculo::pega(Celda esquina, const QList<QStringList> &bloque, Corrida &corrida)
+/// The step that a paste grows into. However the paste ends, what it has changed can be undone.
+class HojaDeCalculo::Pegado
 {
-    PasoDeEdicion paso;
+public:
+    explicit Pegado(HojaDeCalculo &hoja) : m_hoja(hoja) { m_hoja.m_pegando = true; }
+    Pegado(const Pegado &) = delete;
+    Pegado &operator=(const Pegado &) = delete;
+    ~Pegado()
+    {
+        m_hoja.m_pegando = false;
+        m_hoja.anota(m_paso);
+    }
+
+    void agrega(const CambioDeCelda &cambio) { m_paso << cambio; }
+
+private:
+    HojaDeCalculo &m_hoja;
+    PasoDeEdicion m_paso;
+};
+
+Tarea<bool> HojaDeCalculo::pega(Celda esquina, QList<QStringList> bloque, Billete billete)
+{
+    Pegado pegado(*this);
     bool todo = true;
-    for (int f = 0; f < bloque.size() && !corrida.detenida(); ++f) {
-        for (int c = 0; c < bloque[f].size() && !corrida.detenida(); ++c) {
+    for (int f = 0; f < bloque.size() && !billete.detenida(); ++f) {
+        for (int c = 0; c < bloque[f].size() && !billete.detenida(); ++c) {
             const Celda celda{esquina.fila + f, esquina.columna + c};
             const bool cabe = celda.esDeDatos() && bloque[f][c].size() <= LongitudMaxima;
             todo = todo && cabe;
             if (cabe && bloque[f][c] != casilla(celda).expresion)
-                paso << evaluaEn(celda, bloque[f][c]);
-            corrida.ceder();
+                pegado.agrega(evaluaEn(celda, bloque[f][c]));
+            co_await billete.ceder();
         }
     }
-    anota(paso);
-    return todo;
+    co_return todo;
 }
 
 EstadoDeCelda HojaDeCalculo::estado(Celda celda) const

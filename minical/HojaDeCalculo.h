@@ -4,13 +4,15 @@
 #include "minical/ColVariables.h"
 #include "minical/Historial.h"
 
+#include "shell/core/run/Billete.h"
+#include "shell/core/run/Tarea.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <functional>
 #include <vector>
 
-class Corrida;
 struct HojaGuardada;
 
 /// The sheet: what its cells hold and show, and what happens when one is edited. A cell that uses
@@ -61,10 +63,12 @@ public:
     /// Enters a block of expressions from a cell on, as one step; what falls outside the grid or is
     /// too long is left out. Yields once a cell; when stopped, what is done stays done. True when
     /// everything found its place.
-    bool pega(Celda esquina, const QList<QStringList> &bloque, Corrida &corrida);
+    Tarea<bool> pega(Celda esquina, QList<QStringList> bloque, Billete billete);
 
     Historial &historial() { return m_historial; }
     const Historial &historial() const { return m_historial; }
+    /// Whether there is work that has not been saved, a paste that is going on included.
+    bool modificada() const { return m_pegando || m_historial.modificado(); }
     /// Take back the last step, do it again; the cells that changed.
     QList<Celda> deshace();
     QList<Celda> rehace();
@@ -85,6 +89,7 @@ private:
         QString resultado;
         bool muestraExpresion = false;
     };
+    class Pegado;
 
     static std::size_t lugar(int fila, int columna);
     Casilla &casilla(Celda celda) { return m_casillas[lugar(celda.fila, celda.columna)]; }
@@ -104,4 +109,5 @@ private:
     std::vector<Casilla> m_casillas;
     ColVariables m_variables;
     Historial m_historial;
+    bool m_pegando = false;
 };

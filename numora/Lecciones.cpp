@@ -10,8 +10,9 @@
 #include "lessons/fibonacci/windows/FormFibonacci.h"
 #include "lessons/primes/windows/EscenasPrimos.h"
 #include "lessons/primes/windows/FormPrimos.h"
-#include "lessons/recursion/functions/windows/EscenasRecursion.h"
+#include "lessons/recursion/functions/windows/EscenasRecursion3.h"
 #include "lessons/recursion/functions/windows/FormRecursion3.h"
+#include "lessons/recursion/modular/windows/EscenasRecursion2.h"
 #include "lessons/recursion/modular/windows/FormRecursion2.h"
 #include "lessons/rsa/windows/EscenasRSA.h"
 #include "lessons/rsa/windows/FormRSA.h"
@@ -19,7 +20,6 @@
 #include "lessons/units/windows/FormUnidades.h"
 #include "minical/windows/EscenasMiniCal.h"
 #include "minical/windows/FormCalc.h"
-#include "shell/start/FormPrincipal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,28 +38,28 @@ Contenido contenidoDelPrograma()
     Contenido contenido;
     contenido.lecciones = {
         {u"FIBONACCI"_s, u"Fibonacci"_s, crea<FormFibonacci>,
-         u"La sucesión, su razón áurea y sus identidades, calculadas de tres maneras."_s},
+         u"La sucesión, su razón áurea y sus identidades, calculadas de tres maneras."_s,
+         escenasFibonacci},
         {u"EUCLIDES"_s, u"Algoritmo de Euclides"_s, crea<FormEuclides>,
-         u"El máximo común divisor paso a paso, y las ecuaciones diofánticas lineales."_s},
+         u"El máximo común divisor paso a paso, y las ecuaciones diofánticas lineales."_s,
+         escenasEuclides},
         {u"PRIMOS"_s, u"Primos"_s, crea<FormPrimos>,
-         u"Reconocer números primos, cribarlos y descomponer en factores."_s},
+         u"Reconocer números primos, cribarlos y descomponer en factores."_s, escenasPrimos},
         {u"UNIDADES"_s, u"Unidades"_s, crea<FormUnidades>,
-         u"Los elementos invertibles de Zₙ, sus órdenes y la función de Euler."_s},
+         u"Los elementos invertibles de Zₙ, sus órdenes y la función de Euler."_s, escenasUnidades},
         {u"RSA"_s, u"Criptografía RSA"_s, crea<FormRSA>,
-         u"Crear claves, cifrar textos e intercambiar mensajes secretos."_s},
+         u"Crear claves, cifrar textos e intercambiar mensajes secretos."_s, escenasRSA},
         {u"TCR"_s, u"Teorema chino del resto"_s, crea<FormTCR>,
-         u"Hallar el número que deja los restos pedidos al dividirlo por varios módulos."_s},
+         u"Hallar el número que deja los restos pedidos al dividirlo por varios módulos."_s,
+         escenasTCR},
         {u"RECURSION"_s, u"Recursión y complejidad"_s, crea<FormRecursión1>,
-         u"Lo que cuesta llamarse a sí mismo: llamadas, tiempos y torres de Hanói."_s},
+         u"Lo que cuesta llamarse a sí mismo: llamadas, tiempos y torres de Hanói."_s,
+         escenasRecursion1},
         {u"RECURMOD"_s, u"Recursión modular"_s, crea<FormRecursión2>,
-         u"Sucesiones definidas módulo m y el periodo con el que se repiten."_s},
+         u"Sucesiones definidas módulo m y el periodo con el que se repiten."_s, escenasRecursion2},
         {u"FUNREC"_s, u"Funciones recursivas"_s, crea<FormRecursión3>,
-         u"La función de Ackermann, los números del granizo y los capicúas."_s}};
-    contenido.hojaDeCalculo = {u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>};
-    contenido.escenas = [] {
-        return escenasFibonacci(0) + escenasEuclides(1) + escenasPrimos(2) + escenasUnidades(3) +
-               escenasRSA(4) + escenasTCR(5) + escenasRecursion1(6) + escenasRecursion2(7) +
-               escenasRecursion3(8) + escenasMiniCal(FormPrincipal::FilaHojaDeCalculo);
-    };
+         u"La función de Ackermann, los números del granizo y los capicúas."_s, escenasRecursion3}};
+    contenido.hojaDeCalculo = {
+        u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>, {}, escenasMiniCal};
     return contenido;
 }

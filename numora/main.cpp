@@ -1,7 +1,6 @@
 #include "shell/start/Main.h"
 #include "numora/Lecciones.h"
-#include "shell/core/system/InstanciaUnica.h"
-#include "shell/start/FormPrincipal.h"
+#include "shell/look/TextosDeQt.h"
 #include "shell/start/Galeria.h"
 
 #include <QApplication>
@@ -31,14 +30,6 @@ QSize tamano(const QString &texto)
     return leido.expandedTo({640, 480}).boundedTo({8192, 8192});
 }
 
-void presentaPrograma()
-{
-    QCoreApplication::setApplicationName(u"Numora"_s);
-    QCoreApplication::setApplicationVersion(QStringLiteral(NUMORA_VERSION));
-    QGuiApplication::setApplicationDisplayName(u"Numora"_s);
-    QGuiApplication::setDesktopFileName(u"numora"_s);
-}
-
 /// Answers --help and --version, which need neither a display nor a settings store.
 void contestaSinVentanas(int argc, char *argv[])
 {
@@ -62,7 +53,7 @@ void contestaSinVentanas(int argc, char *argv[])
 
 int main(int argc, char *argv[])
 {
-    presentaPrograma();
+    presentaPrograma(QStringLiteral(NUMORA_VERSION));
     contestaSinVentanas(argc, argv);
     const QApplication aplicacion(argc, argv);
 
@@ -76,6 +67,6 @@ int main(int argc, char *argv[])
                                                 .oscuro = opciones.isSet(u"oscuro"_s),
                                                 .idioma = idiomaDeLinea(linea)});
 
-    const ProgramaEnMarcha programa = Main(linea, contenidoDelPrograma());
-    return programa.principal ? QApplication::exec() : 0;
+    const Programa programa(linea, contenidoDelPrograma());
+    return QApplication::exec();
 }

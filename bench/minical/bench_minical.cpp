@@ -3,7 +3,10 @@
 #include "minical/HojaDeCalculo.h"
 #include "minical/windows/FormCalc.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QTableView>
 #include <QTextStream>
 #include <algorithm>
@@ -148,6 +151,33 @@ double savingAndOpening(const QList<Celda> &cells)
     return time;
 }
 
+/// Milliseconds of a click on a cell of so many digits while the zoom is on.
+double clickOnZoomedCell(int digits)
+{
+    FormCalc window;
+    window.setAttribute(Qt::WA_DeleteOnClose, false);
+    window.resize(1200, 700);
+    window.show();
+    auto *grid = window.findChild<QTableView *>(u"FlexCalc"_s);
+    grid->model()->setData(grid->model()->index(0, 0), u"10^%1/3-1/3"_s.arg(digits - 1));
+    window.findChild<QAbstractButton *>(u"Zoom"_s)->click();
+    const auto click = [&](int row) {
+        const QPoint place = grid->visualRect(grid->model()->index(row, 0)).center();
+        QMouseEvent press(QEvent::MouseButtonPress, place, grid->viewport()->mapToGlobal(place),
+                          Qt::LeftButton, Qt::LeftButton, {});
+        QMouseEvent release(QEvent::MouseButtonRelease, place, grid->viewport()->mapToGlobal(place),
+                            Qt::LeftButton, {}, {});
+        QCoreApplication::sendEvent(grid->viewport(), &press);
+        QCoreApplication::sendEvent(grid->viewport(), &release);
+        QCoreApplication::processEvents();
+    };
+    const double micros = microsecondsPerCell(
+        1, [&] { click(1); }, [&] { click(0); });
+    const auto *text = window.findChild<QPlainTextEdit *>(u"txtZoom"_s);
+    require(text->toPlainText().size() >= digits - 1, "the zoom");
+    return micros / 1000;
+}
+
 void row(const QString &what, const std::function<double(const QList<Celda> &)> &measure)
 {
     QTextStream out(stdout);
@@ -177,5 +207,8 @@ int main(int argc, char *argv[])
     row(u"recalculated"_s, recalculating);
     row(u"saved and opened"_s, savingAndOpening);
     row(u"filled in the window, painted"_s, fillingTheWindow);
+    for (const int digits : {6000, 12'000, 24'000})
+        QTextStream(stdout) << u"click on a zoomed cell of %1 digits: %2 ms\n"_s.arg(digits).arg(
+            clickOnZoomedCell(digits), 0, 'f', 1);
     return 0;
 }

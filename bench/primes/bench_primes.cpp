@@ -3,7 +3,7 @@
 #include "PlainLoops.h"
 #include "lessons/primes/CribaSegmentada.h"
 #include "lessons/primes/DivisionTentativa.h"
-#include "shell/core/Corrida.h"
+#include "shell/core/run/Tareas.h"
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -60,20 +60,36 @@ void requireSame(bool same)
         throw std::runtime_error("the two sides found different primes");
 }
 
+/// Does a run to its end, with the event loop that it yields to.
+void run(const std::function<Tarea<>(Billete)> &body)
+{
+    Tareas tasks([](const std::exception_ptr &error) { std::rethrow_exception(error); });
+    tasks.lanza(body(tasks.billete()));
+    while (!tasks.vacias())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+Tarea<> naive(Moneda n, Billete ticket)
+{
+    requireSame((co_await FactorizaIngenuo(n, ticket)).Count() == 1);
+}
+
+Tarea<> improved(Moneda n, int times, Billete ticket)
+{
+    for (int i = 0; i < times; ++i)
+        requireSame((co_await FactorizaMejorado(n, ticket)).Count() == 1);
+}
+
 void measureTrialDivisions()
 {
-    constexpr double bound = 1.3;
+    constexpr double bound = 1.15;
     constexpr double millions = 1e6;
     {
         const Moneda prime = Moneda::deEntero(20'000'003);
         const auto steps = static_cast<double>(naiveLoop(prime));
-        const Pair best = bestOf(
-            [&] {
-                Corrida corrida;
-                Moneda n = prime;
-                requireSame(FactorizaIngenuo(n, corrida).Count() == 1);
-            },
-            [&] { naiveLoop(prime); });
+        const Pair best =
+            bestOf([&] { run([&](Billete ticket) { return naive(prime, std::move(ticket)); }); },
+                   [&] { naiveLoop(prime); });
         printRow("naive trial division", steps / best.ours / millions, steps / best.peer / millions,
                  "million steps/s", best.ours / best.peer, bound);
     }
@@ -82,11 +98,7 @@ void measureTrialDivisions()
         const Moneda prime = Moneda::deEntero(9'663'873'007);
         const auto steps = times * static_cast<double>(improvedLoop(prime));
         const Pair best = bestOf(
-            [&] {
-                Corrida corrida;
-                for (int i = 0; i < times; ++i)
-                    requireSame(FactorizaMejorado(prime, corrida).Count() == 1);
-            },
+            [&] { run([&](Billete ticket) { return improved(prime, times, std::move(ticket)); }); },
             [&] {
                 for (int i = 0; i < times; ++i)
                     improvedLoop(prime);
@@ -102,8 +114,7 @@ void measureSieve(std::int64_t limit, double bound)
     std::vector<std::uint32_t> primes;
     const Pair best = bestOf(
         [&] {
-            Corrida corrida;
-            sieve.criba(limit, corrida, [](int) {});
+            run([&](Billete ticket) { return sieve.criba(limit, std::move(ticket), [](int) {}); });
         },
         [&] {
             primes.clear();

@@ -146,7 +146,7 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     Sesión().ponCarpeta(settings.path());
     IniciaBignum(100);
-    ClsRSA key;
+    ClsRSA key(Sesión());
     // The first primes above 1.5 · 2^255 and 1.75 · 2^255, whose product has 512 bits.
     key.ponq(1, PrimoSiguiente(Evalua(u"3*2^254"_s)));
     key.ponq(2, PrimoSiguiente(Evalua(u"7*2^253"_s)));

@@ -15,8 +15,10 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// What one evaluation may use of a caller's patience and of the stack.
-constexpr std::chrono::seconds kPatience{2};
+/// What one evaluation may use of a caller's patience and of the stack; less where only the reason
+/// of a failure is looked for, which is asked for again and again.
+constexpr std::chrono::milliseconds kPatience{2000};
+constexpr std::chrono::milliseconds kBriefPatience{100};
 constexpr int kMaxDepth = 1000;
 
 /// What the arguments of all function calls may have together: "2^80000;" is a short text for ten
@@ -47,22 +49,32 @@ template <typename Number>
 class Evaluator
 {
 public:
-    explicit Evaluator(std::string_view text) : m_tokens(text) { m_tokens.next(m_token); }
+    Evaluator(std::string_view text, std::chrono::milliseconds patience)
+        : m_tokens(text), m_patience(patience)
+    {
+        m_tokens.next(m_token);
+    }
 
     Number evaluate()
     {
         Value result = parseSettled(Any);
-        require(m_token.kind == TokenKind::End);
+        if (m_token.kind != TokenKind::End)
+            refuse(m_token.kind == TokenKind::Close || m_token.kind == TokenKind::Separator
+                       ? Fault::Misplaced
+                       : Fault::MissingOperator);
         return std::move(result.value);
     }
 
 private:
     using Value = Operand<Number>;
 
-    static void require(bool condition)
+    /// Ends the evaluation at the token at hand; one that has no meaning anywhere is the fault
+    /// itself.
+    [[noreturn]] void refuse(Fault fault) const
     {
-        if (!condition)
-            throw NoValue();
+        const bool unknown = m_token.kind == TokenKind::Invalid ||
+                             (m_token.kind == TokenKind::Name && !findFunction(m_token.text));
+        throw NoValue{unknown ? Fault::Unknown : fault, m_token.text};
     }
 
     void advance()
@@ -85,8 +97,8 @@ private:
     {
         const auto now = Clock::now();
         if (!m_deadline)
-            m_deadline = now + kPatience;
-        require(now < *m_deadline);
+            m_deadline = now + m_patience;
+        require(now < *m_deadline, Fault::TooSlow);
     }
 
     /// Forms the power that may be pending, for all but a modular one.
@@ -111,7 +123,7 @@ private:
 
     Value parse(int strength)
     {
-        require(++m_depth <= kMaxDepth);
+        require(++m_depth <= kMaxDepth, Fault::TooLarge);
         Value left = parseOperand();
         while (true) {
             if (m_token.is(TokenKind::Operator, '!')) {
@@ -223,7 +235,7 @@ private:
         case TokenKind::Operator:
             return parseSigned();
         default:
-            throw NoValue();
+            refuse(Fault::MissingOperand);
         }
     }
 
@@ -238,7 +250,8 @@ private:
     Value parseSigned()
     {
         const bool minus = m_token.text.front() == '-';
-        require(minus || m_token.text.front() == '+');
+        if (!minus && m_token.text.front() != '+')
+            refuse(Fault::MissingOperand);
         advance();
         Value operand = parse(Prefix);
         if (minus && operand.exponent)
@@ -253,9 +266,17 @@ private:
         const char closing = closingFor(m_token.text.front());
         advance();
         Value inside = parse(Any);
-        require(m_token.is(TokenKind::Close, closing));
-        advance();
+        close(closing);
         return inside;
+    }
+
+    void close(char closing)
+    {
+        if (!m_token.is(TokenKind::Close, closing))
+            refuse(m_token.kind == TokenKind::Number || m_token.kind == TokenKind::Name
+                       ? Fault::MissingOperator
+                       : Fault::Misplaced);
+        advance();
     }
 
     static char closingFor(char opening)
@@ -267,22 +288,24 @@ private:
 
     Number parseCall()
     {
-        const ExpressionFunction *function = findFunction(m_token.text);
-        require(function != nullptr);
+        const std::string_view name = m_token.text;
+        const ExpressionFunction *function = findFunction(name);
+        if (!function)
+            refuse(Fault::Unknown);
         advance();
-        require(m_token.kind == TokenKind::Open);
+        if (m_token.kind != TokenKind::Open)
+            throw NoValue{Fault::BadArguments, name};
         const char closing = closingFor(m_token.text.front());
         std::vector<Number> arguments;
         do {
             advance();
             arguments.push_back(parseSettled(Any).value);
             m_argumentBits += arithmetic::bits(arguments.back());
-            require(m_argumentBits <= kMaxArgumentBits);
+            require(m_argumentBits <= kMaxArgumentBits, Fault::TooLarge);
         } while (m_token.kind == TokenKind::Separator);
-        require(m_token.is(TokenKind::Close, closing));
-        advance();
-        require(arguments.size() >= function->minArguments &&
-                arguments.size() <= function->maxArguments);
+        close(closing);
+        if (arguments.size() < function->minArguments || arguments.size() > function->maxArguments)
+            throw NoValue{Fault::BadArguments, name};
         return call(*function, arguments);
     }
 
@@ -308,19 +331,25 @@ private:
     TokenKind m_previous = TokenKind::End;
     int m_depth = 0;
     std::size_t m_argumentBits = 0;
+    std::chrono::milliseconds m_patience;
     std::optional<Clock::time_point> m_deadline;
 };
+
+/// Throws NoValue where there is none.
+template <typename Number>
+std::string evaluateWithin(std::chrono::milliseconds patience, std::string_view text)
+{
+    require(text.size() <= kMaxText, Fault::TooLarge);
+    std::string result = toText(Evaluator<Number>(text, patience).evaluate());
+    require(result.size() < kExpressionBuffer, Fault::TooLarge);
+    return result;
+}
 
 template <typename Number>
 std::optional<std::string> evaluate(std::string_view text)
 {
-    if (text.size() > kMaxText)
-        return std::nullopt;
     try {
-        std::string result = toText(Evaluator<Number>(text).evaluate());
-        if (result.size() >= kExpressionBuffer)
-            return std::nullopt;
-        return result;
+        return evaluateWithin<Number>(kPatience, text);
     } catch (const NoValue &) {
         return std::nullopt;
     }
@@ -336,6 +365,16 @@ std::optional<std::string> evaluateInteger(std::string_view text)
 std::optional<std::string> evaluateRational(std::string_view text)
 {
     return evaluate<mpq_class>(text);
+}
+
+NoValue rationalFault(std::string_view text)
+{
+    try {
+        evaluateWithin<mpq_class>(kBriefPatience, text);
+        return {Fault::None};
+    } catch (const NoValue &reason) {
+        return reason;
+    }
 }
 
 } // namespace bignum

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "bignum/expressions/ExpressionFault.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,5 +25,10 @@ std::optional<std::string> evaluateInteger(std::string_view text);
 /// The same over the rationals: / is exact, % needs whole operands, and so does every function but
 /// abs, min and max. The value is written as "p" or "p/q" in lowest terms.
 std::optional<std::string> evaluateRational(std::string_view text);
+
+/// Why evaluateRational gives nothing, and where: the first fault on the way through the text.
+/// Fault::None for an expression that has a value. Takes a tenth of a second at most, or one long
+/// operation; what needs more is Fault::TooSlow.
+NoValue rationalFault(std::string_view text);
 
 } // namespace bignum

@@ -16,12 +16,6 @@ constexpr std::size_t kMaxBits = kMaxInputDigits * 33220 / 10000 + 1;
 /// The largest n whose factorial is worth computing: 10000! has 35660 digits, beyond every buffer.
 constexpr unsigned long kMaxFactorial = 10'000;
 
-void require(bool condition)
-{
-    if (!condition)
-        throw NoValue();
-}
-
 mpz_class powerOfTen(std::size_t exponent)
 {
     mpz_class result;
@@ -31,16 +25,16 @@ mpz_class powerOfTen(std::size_t exponent)
 
 void readWhole(mpz_class &value, std::string_view digits)
 {
-    require(digits.size() <= kMaxInputDigits);
+    require(digits.size() <= kMaxInputDigits, Fault::TooLarge);
     readDigits(value, digits);
 }
 
 /// base^exponent for |base| >= 2, refused before it is computed where it cannot fit.
 mpz_class largePower(const mpz_class &base, const mpz_class &exponent)
 {
-    require(exponent.fits_ulong_p());
+    require(exponent.fits_ulong_p(), Fault::TooLarge);
     const unsigned long e = exponent.get_ui();
-    require(e <= kMaxBits && (bits(base) - 1) * e <= kMaxBits);
+    require(e <= kMaxBits && (bits(base) - 1) * e <= kMaxBits, Fault::TooLarge);
     mpz_class result;
     mpz_pow_ui(result.get_mpz_t(), base.get_mpz_t(), e);
     checkSize(result);
@@ -61,14 +55,14 @@ std::size_t bits(const mpq_class &value)
 
 void checkSize(const mpz_class &value)
 {
-    require(wordBits(value) <= kMaxBits || bits(value) <= kMaxBits);
+    require(wordBits(value) <= kMaxBits || bits(value) <= kMaxBits, Fault::TooLarge);
 }
 
 void checkSize(const mpq_class &value)
 {
     // The one bit more is that of a whole number's denominator: whole numbers have the same bound
     // in both evaluators.
-    require(wordBits(value) <= kMaxBits || bits(value) <= kMaxBits + 1);
+    require(wordBits(value) <= kMaxBits || bits(value) <= kMaxBits + 1, Fault::TooLarge);
 }
 
 void read(mpq_class &value, std::string_view digits, std::size_t point)
@@ -104,13 +98,14 @@ const mpz_class &whole(const mpz_class &value)
 
 const mpz_class &whole(const mpq_class &value)
 {
-    require(isWhole(value));
+    require(isWhole(value), Fault::NotWhole);
     return value.get_num();
 }
 
 void multiply(mpz_class &a, const mpz_class &b)
 {
-    require(wordBits(a) + wordBits(b) <= kMaxBits || bits(a) + bits(b) <= kMaxBits + 1);
+    require(wordBits(a) + wordBits(b) <= kMaxBits || bits(a) + bits(b) <= kMaxBits + 1,
+            Fault::TooLarge);
     a *= b;
     checkSize(a);
 }
@@ -157,20 +152,20 @@ void divide(mpz_class &a, const mpz_class &b)
 
 void divide(mpq_class &a, const mpq_class &b)
 {
-    require(b != 0);
+    require(b != 0, Fault::ZeroDivision);
     a /= b;
     checkSize(a);
 }
 
 void reduce(mpz_class &a, const mpz_class &m)
 {
-    require(m != 0);
+    require(m != 0, Fault::ZeroDivision);
     mpz_mod(a.get_mpz_t(), a.get_mpz_t(), m.get_mpz_t());
 }
 
 void reduce(mpq_class &a, const mpq_class &m)
 {
-    require(isWhole(a));
+    require(isWhole(a), Fault::NotWhole);
     reduce(a.get_num(), whole(m));
 }
 
@@ -180,7 +175,7 @@ mpz_class power(const mpz_class &base, const mpz_class &exponent)
         return 1;
     if (base == -1)
         return mpz_even_p(exponent.get_mpz_t()) ? 1 : -1;
-    require(exponent > 0);
+    require(exponent > 0, base == 0 ? Fault::ZeroDivision : Fault::NotWhole);
     return base == 0 ? mpz_class(0) : largePower(base, exponent);
 }
 
@@ -188,7 +183,7 @@ mpq_class power(const mpq_class &base, const mpq_class &exponent)
 {
     const mpz_class &e = whole(exponent);
     if (e < 0) {
-        require(base != 0);
+        require(base != 0, Fault::ZeroDivision);
         return power(mpq_class(1 / base), mpq_class(-e));
     }
     // A fraction in lowest terms stays so when both parts are raised.
@@ -201,7 +196,8 @@ mpq_class power(const mpq_class &base, const mpq_class &exponent)
 
 mpz_class factorial(const mpz_class &n)
 {
-    require(n >= 0 && n <= kMaxFactorial);
+    require(n >= 0, Fault::OutOfDomain);
+    require(n <= kMaxFactorial, Fault::TooLarge);
     mpz_class result;
     mpz_fac_ui(result.get_mpz_t(), n.get_ui());
     checkSize(result);
@@ -219,9 +215,9 @@ mpz_class modularPower(const mpz_class &base, const mpz_class &exponent, const m
     // takes about a second at most.
     constexpr std::size_t freeBits = 10'000;
     constexpr std::size_t maximum = freeBits * freeBits;
-    require(bits(exponent) * bits(m) <= maximum);
+    require(bits(exponent) * bits(m) <= maximum, Fault::TooSlow);
     const auto result = powerMod(base, exponent, m);
-    require(result.has_value());
+    require(result.has_value(), Fault::ZeroDivision);
     return *result;
 }
 

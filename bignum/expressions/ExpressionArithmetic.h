@@ -1,14 +1,11 @@
 #pragma once
 
+#include "bignum/expressions/ExpressionFault.h"
+
 #include <gmpxx.h>
 #include <string_view>
 
 namespace bignum {
-
-/// Thrown inside the evaluator when an expression has no value; never leaves it.
-struct NoValue
-{
-};
 
 /// The operations of expressions over both number types. Each throws NoValue where the result is
 /// undefined, not of the type, or larger than any value may be; sizes are estimated before what is

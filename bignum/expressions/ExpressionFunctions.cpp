@@ -1,5 +1,6 @@
 #include "bignum/expressions/ExpressionFunctions.h"
 
+#include "bignum/arithmetic/FibonacciMethods.h"
 #include "bignum/expressions/ExpressionArithmetic.h"
 #include "bignum/factoring/Factorization.h"
 #include "bignum/primes/Primality.h"
@@ -21,15 +22,6 @@ constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
 constexpr std::size_t kMaxBitsToTest = 10'000;
 constexpr std::size_t kMaxBitsToSearch = 2'500;
 
-/// F(117592) is the largest Fibonacci number with no more digits than a value may have.
-constexpr unsigned long kMaxFibonacci = 117'592;
-
-void require(bool condition)
-{
-    if (!condition)
-        throw NoValue();
-}
-
 mpz_class greatestCommonDivisor(Wholes arguments)
 {
     mpz_class result;
@@ -50,20 +42,22 @@ mpz_class leastCommonMultiple(Wholes arguments)
 
 mpz_class integerRoot(Wholes arguments)
 {
-    require(arguments[0] >= 0);
+    require(arguments[0] >= 0, Fault::OutOfDomain);
     return sqrt(arguments[0]);
 }
 
 mpz_class euler(Wholes arguments)
 {
+    require(arguments[0] > 0, Fault::OutOfDomain);
     const auto result = eulerPhi(arguments[0], Effort::Brief);
-    require(result.has_value());
+    require(result.has_value(), Fault::TooSlow);
     return *result;
 }
 
 mpz_class fibonacci(Wholes arguments)
 {
-    require(arguments[0] >= 0 && arguments[0] <= kMaxFibonacci);
+    require(arguments[0] >= 0, Fault::OutOfDomain);
+    require(arguments[0] <= kMaxFibonacci, Fault::TooLarge);
     mpz_class result;
     mpz_fib_ui(result.get_mpz_t(), arguments[0].get_ui());
     return result;
@@ -71,13 +65,13 @@ mpz_class fibonacci(Wholes arguments)
 
 mpz_class primality(Wholes arguments)
 {
-    require(arithmetic::bits(arguments[0]) <= kMaxBitsToTest);
+    require(arithmetic::bits(arguments[0]) <= kMaxBitsToTest, Fault::TooSlow);
     return isPrime(arguments[0]) ? 1 : 0;
 }
 
 mpz_class followingPrime(Wholes arguments)
 {
-    require(arithmetic::bits(arguments[0]) <= kMaxBitsToSearch);
+    require(arithmetic::bits(arguments[0]) <= kMaxBitsToSearch, Fault::TooSlow);
     return nextPrime(arguments[0]);
 }
 
@@ -101,11 +95,11 @@ constexpr std::array<ExpressionFunction, 10> functions{{
     {"mcd", "gcd", 1, kAnyNumber, "máximo común divisor", greatestCommonDivisor, nullptr},
     {"mcm", "lcm", 1, kAnyNumber, "mínimo común múltiplo", leastCommonMultiple, nullptr},
     {"abs", "abs", 1, 1, "valor absoluto", nullptr, absolute},
-    {"raiz", "sqrt", 1, 1, "parte entera de la raíz cuadrada", integerRoot, nullptr},
-    {"fi", "phi", 1, 1, "función de Euler", euler, nullptr},
+    {"raiz", "sqrt", 1, 1, "raíz cuadrada entera, por defecto", integerRoot, nullptr},
+    {"fi", "phi", 1, 1, "función φ de Euler", euler, nullptr},
     {"fib", "fib", 1, 1, "número de Fibonacci", fibonacci, nullptr},
     {"primo", "isprime", 1, 1, "1 si es primo, 0 si no", primality, nullptr},
-    {"sigprimo", "nextprime", 1, 1, "primo siguiente", followingPrime, nullptr},
+    {"sigprimo", "nextprime", 1, 1, "el primo siguiente", followingPrime, nullptr},
     {"min", "min", 1, kAnyNumber, "el menor", nullptr, smallest},
     {"max", "max", 1, kAnyNumber, "el mayor", nullptr, largest},
 }};

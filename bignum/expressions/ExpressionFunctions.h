@@ -7,14 +7,15 @@
 
 namespace bignum {
 
-/// A function of the expression language: one row of the table that parser and help share.
+/// A function of the expression language: one row of the table that parser, completion and
+/// help share.
 struct ExpressionFunction
 {
-    std::string_view spanish;
-    std::string_view international;
+    const char *spanish;
+    const char *international;
     std::size_t minArguments;
     std::size_t maxArguments;
-    std::string_view description; ///< Spanish, for the student
+    const char *description; ///< Spanish, for the student, in UTF-8
     /// One of the two: a function of whole numbers, or of any.
     mpz_class (*ofWholes)(std::span<const mpz_class> arguments);
     const mpq_class &(*ofRationals)(std::span<mpq_class> arguments);

@@ -22,6 +22,8 @@ QString ErrorEjecucion::nombre(Numero numero)
         return u"División por cero"_s;
     case TipoNoCoincide:
         return u"No coinciden los tipos"_s;
+    case ErrorInterno:
+        return u"Error interno"_s;
     case ArchivoNoEncontrado:
         return u"No se encontró el archivo"_s;
     case ErrorDeArchivo:

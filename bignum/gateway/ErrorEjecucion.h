@@ -15,6 +15,7 @@ public:
         IndiceFueraDeRango = 9,
         DivisionPorCero = 11,
         TipoNoCoincide = 13,
+        ErrorInterno = 51,
         ArchivoNoEncontrado = 53,
         ErrorDeArchivo = 57,
         ArchivoYaExiste = 58,

@@ -98,22 +98,31 @@ void ReescribeMod(QString &expresion)
     }
 }
 
-QString Evalua(QString &expresion, const std::optional<QString> &maximo, Aritmetica aritmetica)
+Evaluacion EvaluaConDesenlace(QString &expresion, const std::optional<QString> &maximo,
+                              Aritmetica aritmetica)
 {
     if (expresion.trimmed().isEmpty())
-        return {};
+        return {Evaluacion::Vacia, {}};
     ReescribeMod(expresion);
     const QByteArray texto = paraBignum(u"0+("_s + expresion + u')');
     Bufer bufer(BuferExpresion);
     const auto evalua = aritmetica == Aritmetica::Entera ? ZEval : QEval;
     if (evalua(texto.constData(), bufer.datos()) == 0)
-        return TextoError.toString();
+        return {Evaluacion::SinValor, {}};
     const QString valor = bufer.cortado();
     if (!maximo || !EsMayor(comoFraccion(*maximo), valor))
-        return valor;
+        return {Evaluacion::ConValor, valor};
     if (avisoDeCota())
         avisoDeCota()(*maximo);
-    return TextoError.toString();
+    return {Evaluacion::SobreLaCota, {}};
+}
+
+QString Evalua(QString &expresion, const std::optional<QString> &maximo, Aritmetica aritmetica)
+{
+    const Evaluacion evaluacion = EvaluaConDesenlace(expresion, maximo, aritmetica);
+    const bool falla = evaluacion.desenlace == Evaluacion::SinValor ||
+                       evaluacion.desenlace == Evaluacion::SobreLaCota;
+    return falla ? TextoError.toString() : evaluacion.valor;
 }
 
 QString Evalua(QString &&expresion, const std::optional<QString> &maximo, Aritmetica aritmetica)
@@ -135,8 +144,6 @@ QString ADecimal(const QString &racional)
     if (::ToDecimal(paraBignum(racional).constData(), bufer.datos()) == 0)
         return TextoError.toString();
     QString s = bufer.cortado();
-    if (s.startsWith(u'.'))
-        return u"0,"_s + s.sliced(1);
     if (const auto punto = s.indexOf(u'.'); punto >= 0)
         s[punto] = u',';
     return s;

@@ -29,9 +29,26 @@ enum class Aritmetica { Racional, Entera };
 /// ArgumentoNoValido when the text begins with the word, for nothing stands before it.
 void ReescribeMod(QString &expresion);
 
-/// The value of an expression, which is rewritten in place (ReescribeMod). An empty or blank text
-/// gives the empty text; a value above `maximo` calls the installed notice and gives "Error".
-/// Throws what ReescribeMod throws.
+/// What became of an expression: its value, or why it has none.
+struct Evaluacion
+{
+    enum Desenlace {
+        ConValor,
+        Vacia,      ///< an empty or blank text
+        SinValor,   ///< the library does not evaluate it
+        SobreLaCota ///< its value exceeds the bound, and the installed notice was called
+    };
+    Desenlace desenlace = Vacia;
+    QString valor; ///< empty without a value
+};
+
+/// Evaluates an expression, which is rewritten in place (ReescribeMod), up to a bound. Throws what
+/// ReescribeMod throws.
+Evaluacion EvaluaConDesenlace(QString &expresion, const std::optional<QString> &maximo = {},
+                              Aritmetica aritmetica = Aritmetica::Racional);
+
+/// The value of an expression, as EvaluaConDesenlace finds it: the empty text for an empty or blank
+/// one, "Error" for any other that has none.
 QString Evalua(QString &expresion, const std::optional<QString> &maximo = {},
                Aritmetica aritmetica = Aritmetica::Racional);
 /// The same for a text that nobody looks at afterwards.
@@ -44,7 +61,8 @@ QString Evalua(QString &&expresion, const std::optional<QString> &maximo = {},
 /// a value below the range.
 Moneda EvaluaMoneda(QString expresion, Moneda maximo);
 
-/// The decimal form of a rational result, with a decimal comma.
+/// The decimal form of a rational result, with a decimal comma and a digit in front of it. "Error"
+/// for a text that is none.
 QString ADecimal(const QString &racional);
 
 bool EsPrimo(const QString &n);

@@ -102,7 +102,7 @@ std::optional<Moneda> Moneda::deTexto(QStringView texto)
     for (int i = std::max(decimales, 0); i < decimalesLeidos; ++i)
         valor = valor < tope ? valor * 10 : valor;
     valor = 2 * valor + (restoNoNulo ? 1 : 0);
-    const Entero128 redondo = divideAlPar(negativo ? -valor : valor, 2 * Escala);
+    const Entero128 redondo = divideAlPar(negativo ? -valor : valor, Entero128{2} * Escala);
     return comprobada(redondo);
 }
 

@@ -1,5 +1,6 @@
 #include "bignum/primes/PrimeList.h"
 
+#include <algorithm>
 #include <primesieve.hpp>
 #include <vector>
 
@@ -13,18 +14,18 @@ std::int64_t countPrimes(std::int64_t limit)
         primesieve::count_primes(0, static_cast<std::uint64_t>(limit)));
 }
 
-bool streamPrimes(std::int64_t limit,
+bool streamPrimes(std::int64_t first, std::int64_t last,
                   const std::function<bool(std::span<const std::uint64_t>)> &block)
 {
     constexpr std::size_t blockSize = 8192;
-    if (limit < 2)
+    if (last < 2 || first > last)
         return true;
 
-    const auto last = static_cast<std::uint64_t>(limit);
-    primesieve::iterator primes(0, last);
+    const auto end = static_cast<std::uint64_t>(last);
+    primesieve::iterator primes(static_cast<std::uint64_t>(std::max<std::int64_t>(first, 0)), end);
     std::vector<std::uint64_t> buffer;
     buffer.reserve(blockSize);
-    for (std::uint64_t p = primes.next_prime(); p <= last; p = primes.next_prime()) {
+    for (std::uint64_t p = primes.next_prime(); p <= end; p = primes.next_prime()) {
         buffer.push_back(p);
         if (buffer.size() == blockSize) {
             if (!block(buffer))

@@ -20,9 +20,12 @@ struct LineAllocator
     {
     }
 
+    /// A line more than asked for, since a vector that is read from the middle of a line may reach
+    /// beyond the last element.
     T *allocate(std::size_t count)
     {
-        return static_cast<T *>(::operator new (count * sizeof(T), std::align_val_t{kLine}));
+        return static_cast<T *>(
+            ::operator new (count * sizeof(T) + kLine, std::align_val_t{kLine}));
     }
     void deallocate(T *memory, std::size_t) { ::operator delete (memory, std::align_val_t{kLine}); }
 

@@ -37,9 +37,36 @@ SistemaCongruencias planteaSistema(int k);
 /// The counting rows.
 SistemaCongruencias filasQueCuentan(const SistemaCongruencias &sistema);
 
-/// The least non-negative solution of the counting rows, which must be valid; "Error" when there is
-/// none.
-QString solucion(const SistemaCongruencias &sistema);
+/// Two rows that no number fulfils at once: modulo a common divisor of their moduli they ask for
+/// different remainders. Rows are counted from 1 as the grid labels them, those that do not count
+/// included.
+struct Contradiccion
+{
+    int fila1, fila2;
+    QString divisor;        ///< the greatest common divisor of their moduli
+    QString resto1, resto2; ///< what each asks for modulo that
+
+    /// For the student; long numbers are left out.
+    QString texto() const;
+};
+
+/// What became of a system.
+struct Resolucion
+{
+    enum Desenlace {
+        Resuelto,
+        SinSolucion,
+        FueraDeAlcance ///< the numbers are too long for the big-number service
+    };
+    Desenlace desenlace;
+    QString resultado; ///< as the service tells it: the least non-negative solution, or "Error"
+    QString motivo;    ///< why there is none, for the student; empty with a solution
+};
+
+/// Solves the counting rows, which must be valid. A system of congruences has a solution exactly
+/// when every two of them have one, so that of one without there are two rows to show. (Source: D.
+/// E. Knuth, The Art of Computer Programming, vol. 2, 1997, section 4.3.2, exercise 3.)
+Resolucion resuelve(const SistemaCongruencias &sistema);
 
 /// Whether a student's expression has the solution as its value. Throws what Evalua throws.
 bool esSolucion(const SistemaCongruencias &sistema, const QString &expresion);

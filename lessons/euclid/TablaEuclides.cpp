@@ -18,7 +18,9 @@ struct Coeficientes
 DivisionEuclides divide(Moneda dividendo, Moneda divisor, AlgoritmoEuclides algoritmo)
 {
     Moneda q = Moneda::deReal(cocienteEntero(dividendo, divisor));
-    Moneda r = dividendo - q * divisor;
+    // Whole numbers: the product may lie below the range where the dividend is negative, the
+    // remainder never does.
+    Moneda r = Moneda::deEntero(dividendo.entero() - q.entero() * divisor.entero());
     // 2·r > d and D - (q + 1)·d, written so that they stay in range whatever the two numbers: one
     // may still be there from the other algorithm, with its larger bound.
     if (algoritmo == AlgoritmoEuclides::RestosReducidos && r > divisor - r) {

@@ -1,10 +1,39 @@
 #pragma once
 
-#include "lessons/primes/clsFactorPrimo.h"
+#include "bignum/gateway/Moneda.h"
 
 #include <QString>
+#include <cstdint>
 #include <memory>
 #include <vector>
+
+class ColFactores;
+
+/// A prime factor and its exponent.
+class clsFactorPrimo
+{
+public:
+    clsFactorPrimo(Moneda primo, std::int32_t exponente);
+    ~clsFactorPrimo();
+    clsFactorPrimo(const clsFactorPrimo &) = delete;
+    clsFactorPrimo &operator=(const clsFactorPrimo &) = delete;
+
+    Moneda Primo() const { return m_primo; }
+    void ponPrimo(Moneda primo) { m_primo = primo; }
+
+    std::int32_t exponente() const { return m_exponente; }
+    void ponExponente(std::int32_t exponente) { m_exponente = exponente; }
+
+    /// Factors that belong to this one, such as those of its exponent; empty until somebody fills
+    /// them.
+    ColFactores &Factores();
+    void ponFactores(std::unique_ptr<ColFactores> factores);
+
+private:
+    Moneda m_primo;
+    std::int32_t m_exponente;
+    std::unique_ptr<ColFactores> m_factores;
+};
 
 /// The prime factors of a number in the order in which they were found, each under a key: the
 /// decimal text of the prime followed by "P". A number of machine size has so few of them that a

@@ -1,7 +1,5 @@
 #include "lessons/primes/CribaSegmentada.h"
 
-#include "shell/core/Corrida.h"
-
 #include <algorithm>
 
 namespace {
@@ -18,60 +16,80 @@ std::uint64_t lugarDe(std::uint64_t candidato)
     return 2 * ((candidato + 1) / 6 - 1) + (candidato % 6 == 1 ? 1 : 0);
 }
 
+/// How many values of k, or primes that strike, go between two yields: one that awaits costs as
+/// much as the striking itself.
+constexpr int Tramo = 64;
+
 } // namespace
 
-void CribaSegmentada::criba(std::int64_t limite, Corrida &corrida, const Avance &avance)
+Tarea<> CribaSegmentada::criba(std::int64_t limite, Billete billete, Avance avance)
 {
-    m_numeros = {2, 3};
-    m_tachadores.clear();
-    m_seguros = m_numeros.size();
-    m_informado = 0;
-    m_porcentaje = 0;
+    empieza(limite);
     std::int64_t c = 0;
-    for (m_k = 1; c <= limite && !corrida.detenida(); m_k += ValoresPorBloque) {
-        generaBloque(limite, corrida);
-        cribaBloque(limite, corrida, avance);
+    for (m_k = 1; c <= limite && !billete.detenida(); m_k += ValoresPorBloque) {
+        for (int desde = 0; desde < ValoresPorBloque; desde += Tramo) {
+            generaTramo(desde);
+            co_await billete.ceder();
+        }
+        m_orden = m_lugar = 0;
+        while (tachaTramo(avance)) {
+            co_await billete.ceder();
+            if (billete.detenida()) {
+                const std::uint64_t p = tachador();
+                vuelcaBloque(p * p);
+                co_return;
+            }
+        }
+        vuelcaBloque(6 * (m_k + ValoresPorBloque));
         c = static_cast<std::int64_t>(6 * (m_k + ValoresPorBloque - 1) + 1);
     }
 }
 
-void CribaSegmentada::generaBloque(std::int64_t limite, Corrida &corrida)
+void CribaSegmentada::empieza(std::int64_t limite)
 {
+    m_limite = limite;
+    m_numeros = {2, 3};
+    m_tachadores.clear();
+    m_seguros = m_numeros.size();
     m_candidatos = 0;
-    for (std::size_t j = 0; j < ValoresPorBloque; ++j) {
-        const auto centro = static_cast<std::int64_t>(6 * (m_k + j));
-        m_vivo[2 * j] = centro - 1 <= limite;
-        m_vivo[2 * j + 1] = centro + 1 <= limite;
-        m_candidatos += (m_vivo[2 * j] ? 1U : 0U) + (m_vivo[2 * j + 1] ? 1U : 0U);
-        corrida.ceder();
-    }
+    m_informado = 0;
+    m_porcentaje = 0;
 }
 
-/// Strikes the block by 5, 7, 11, … as long as a square lies within it. A composite falls by its
-/// least prime factor, whose square it is not below; so primes with larger squares have nothing
-/// left to strike. A prime of this very block is reached after all lesser ones have struck.
-void CribaSegmentada::cribaBloque(std::int64_t limite, Corrida &corrida, const Avance &avance)
+/// Lists the candidates of some values of k.
+void CribaSegmentada::generaTramo(int desde)
 {
-    std::size_t lugar = 0;
-    for (std::size_t orden = 0;; ++orden) {
-        const std::uint64_t p = primo(orden, lugar);
-        const std::uint64_t fin = ultimo();
-        informa(fin, static_cast<std::uint64_t>(limite), avance);
-        if (p == 0 || p * p > fin)
-            break;
-        corrida.ceder();
-        if (corrida.detenida()) {
-            vuelcaBloque(p * p);
-            return;
-        }
-        if (orden == m_tachadores.size())
-            m_tachadores.push_back(tachadorDe(p));
-        tacha(m_tachadores[orden]);
+    m_candidatos = desde == 0 ? 0 : m_candidatos;
+    for (int j = desde; j < std::min(desde + Tramo, ValoresPorBloque); ++j) {
+        const auto lugar = static_cast<std::size_t>(2 * j);
+        const auto centro = static_cast<std::int64_t>(6 * (m_k + static_cast<std::uint64_t>(j)));
+        m_vivo[lugar] = centro - 1 <= m_limite;
+        m_vivo[lugar + 1] = centro + 1 <= m_limite;
+        m_candidatos += (m_vivo[lugar] ? 1U : 0U) + (m_vivo[lugar + 1] ? 1U : 0U);
     }
-    vuelcaBloque(6 * (m_k + ValoresPorBloque));
 }
 
-void CribaSegmentada::informa(std::uint64_t fin, std::uint64_t limite, const Avance &avance)
+/// Strikes the block by some of the primes 5, 7, 11, … whose squares lie within it; false when all
+/// have struck. A composite falls by its least prime factor, whose square it is not below; so
+/// primes with larger squares have nothing left to strike. A prime of this very block is reached
+/// after all lesser ones have struck.
+bool CribaSegmentada::tachaTramo(const Avance &avance)
+{
+    for (int i = 0; i < Tramo; ++i) {
+        const std::uint64_t p = tachador();
+        const std::uint64_t fin = ultimo();
+        informa(fin, avance);
+        if (p == 0 || p * p > fin)
+            return false;
+        if (m_orden == m_tachadores.size())
+            m_tachadores.push_back(tachadorDe(p));
+        tacha(m_tachadores[m_orden]);
+        pasaAlSiguiente();
+    }
+    return true;
+}
+
+void CribaSegmentada::informa(std::uint64_t fin, const Avance &avance)
 {
     constexpr std::uint64_t primerCandidato = 5;
     // The last number changes a few times a block, while this is asked for every prime: a quotient
@@ -79,22 +97,27 @@ void CribaSegmentada::informa(std::uint64_t fin, std::uint64_t limite, const Ava
     if (fin == m_informado || fin < primerCandidato)
         return;
     m_informado = fin;
-    const auto porcentaje = static_cast<int>(100 * fin / limite);
+    const auto porcentaje = static_cast<int>(100 * fin / static_cast<std::uint64_t>(m_limite));
     if (porcentaje != m_porcentaje && avance)
         avance(porcentaje);
     m_porcentaje = porcentaje;
 }
 
-/// The primes from 5 on by their order: those listed before this block, then what is alive in it
-/// from `lugar` on, which moves behind the prime given. 0 when the block is at its end.
-std::uint64_t CribaSegmentada::primo(std::size_t orden, std::size_t &lugar) const
+/// The prime whose turn it is: one listed before this block by its order, then the first that is
+/// alive in it from `m_lugar` on. 0 when the block is at its end.
+std::uint64_t CribaSegmentada::tachador()
 {
-    constexpr std::size_t dosYTres = 2;
-    if (orden + dosYTres < m_numeros.size())
-        return m_numeros[orden + dosYTres];
-    while (lugar < m_candidatos && !m_vivo[lugar])
-        ++lugar;
-    return lugar < m_candidatos ? candidato(2 * (m_k - 1) + lugar++) : 0;
+    if (!deEsteBloque())
+        return m_numeros[m_orden + DosYTres];
+    while (m_lugar < m_candidatos && !m_vivo[m_lugar])
+        ++m_lugar;
+    return m_lugar < m_candidatos ? candidato(2 * (m_k - 1) + m_lugar) : 0;
+}
+
+void CribaSegmentada::pasaAlSiguiente()
+{
+    m_lugar += deEsteBloque() ? 1 : 0;
+    ++m_orden;
 }
 
 /// From the square on: p·p, and p times the next number of the other class.

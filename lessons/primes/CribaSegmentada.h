@@ -1,12 +1,13 @@
 #pragma once
 
+#include "shell/core/run/Billete.h"
+#include "shell/core/run/Tarea.h"
+
 #include <array>
 #include <cstdint>
 #include <functional>
 #include <span>
 #include <vector>
-
-class Corrida;
 
 /// The sieve of Eratosthenes over the numbers 6k ± 1, in blocks of 1000 values of k: a block of
 /// 2000 candidates is listed, then the multiples of each prime found so far are struck out of it,
@@ -23,10 +24,10 @@ public:
     /// that number turns out to be composite, so that it ends with the largest prime.
     using Avance = std::function<void(int porcentaje)>;
 
-    /// Lists the primes up to `limite`, at most 2^32 - 6001, yielding once for each k and once for
-    /// each prime that strikes. 2 and 3 are always listed, even beyond the limit. The list keeps
-    /// what a stopped run had listed.
-    void criba(std::int64_t limite, Corrida &corrida, const Avance &avance);
+    /// Lists the primes up to `limite`, at most 2^32 - 6001, and may be stopped wherever some
+    /// values of k have been listed or some primes have struck. 2 and 3 are always listed, even
+    /// beyond the limit. The list keeps what a stopped run had listed. The sieve outlives the task.
+    Tarea<> criba(std::int64_t limite, Billete billete, Avance avance);
 
     /// The numbers listed, ascending. After a run that was stopped the last block may hold
     /// composites that were not struck yet.
@@ -38,6 +39,7 @@ public:
 
 private:
     static constexpr std::size_t CandidatosPorBloque = 2 * ValoresPorBloque;
+    static constexpr std::size_t DosYTres = 2; ///< listed, but they strike nothing
 
     /// A prime that strikes, and where it goes on: the places, counted over all blocks, of its next
     /// multiples by 6m - 1 and by 6m + 1.
@@ -47,10 +49,14 @@ private:
         std::array<std::uint64_t, 2> lugares;
     };
 
-    void generaBloque(std::int64_t limite, Corrida &corrida);
-    void cribaBloque(std::int64_t limite, Corrida &corrida, const Avance &avance);
-    void informa(std::uint64_t fin, std::uint64_t limite, const Avance &avance);
-    std::uint64_t primo(std::size_t orden, std::size_t &lugar) const;
+    void empieza(std::int64_t limite);
+    void generaTramo(int desde);
+    bool tachaTramo(const Avance &avance);
+    void informa(std::uint64_t fin, const Avance &avance);
+    /// Whether the prime that strikes next was found in the block in work.
+    bool deEsteBloque() const { return m_orden + DosYTres >= m_numeros.size(); }
+    std::uint64_t tachador();
+    void pasaAlSiguiente();
     static Tachador tachadorDe(std::uint64_t primo);
     void tacha(Tachador &tachador);
     std::uint64_t ultimo() const;
@@ -59,11 +65,14 @@ private:
     std::vector<std::uint32_t> m_numeros;
     std::vector<Tachador> m_tachadores;
     std::size_t m_seguros = 0;
+    std::int64_t m_limite = 0;
 
     // The block in work: its candidates are 6k - 1, 6k + 1 for k from m_k on.
     std::array<bool, CandidatosPorBloque> m_vivo{};
     std::size_t m_candidatos = 0; ///< those that do not exceed the limit
     std::uint64_t m_k = 1;
+    std::size_t m_orden = 0;       ///< how many primes have struck the block
+    std::size_t m_lugar = 0;       ///< behind the last candidate of the block that has
     std::uint64_t m_informado = 0; ///< the largest number when the percentage was computed
     int m_porcentaje = 0;
 };

@@ -1,7 +1,6 @@
 #include "lessons/primes/DivisionTentativa.h"
 
 #include "bignum/gateway/ErrorEjecucion.h"
-#include "shell/core/Corrida.h"
 #include "shell/core/ModGlobal.h"
 
 #include <cmath>
@@ -31,48 +30,81 @@ std::int16_t siguiente(std::int16_t paso)
     return static_cast<std::int16_t>(paso + 1);
 }
 
+/// A loop that awaits at every step runs half as fast again: so many trials run between two yields.
+constexpr int Tramo = 64;
+
+/// Tries divisors until one divides, which is then `d`; false when it has tried as many as a
+/// stretch holds.
+bool divideAlguno(Moneda n, Moneda &d)
+{
+    Moneda divisor = d;
+    for (int i = 0; i < Tramo; ++i) {
+        if (ModCy(n, divisor) == Cero) {
+            d = divisor;
+            return true;
+        }
+        divisor = divisor == Dos ? Tres : divisor + Dos;
+    }
+    d = divisor;
+    return false;
+}
+
+enum class Hallazgo { Nada, Divisor, Raiz };
+
+/// Tries the numbers 6m ± 1: until one divides, until it is above the square root, or as many as a
+/// stretch holds.
+Hallazgo pruebaSeises(Moneda n, Moneda &d, std::int16_t &k)
+{
+    const double raiz = std::sqrt(n.real());
+    for (int i = 0; i < Tramo; ++i) {
+        if (raiz < d.real())
+            return Hallazgo::Raiz;
+        if (ModCy(n, d) == Cero)
+            return Hallazgo::Divisor;
+        // From 6m - 1 to 6m + 1 it is two, from there to the next 6m - 1 four.
+        d = d + Moneda::deEntero(k % 2 == 0 ? 2 : 4);
+        k = siguiente(k);
+    }
+    return Hallazgo::Nada;
+}
+
 } // namespace
 
-ColFactores FactorizaIngenuo(Moneda &n, Corrida &corrida)
+Tarea<ColFactores> FactorizaIngenuo(Moneda &n, Billete billete)
 {
     ColFactores factores;
     Moneda d = Dos;
-    while (n > Uno && !corrida.detenida()) {
-        corrida.ceder();
-        if (ModCy(n, d) != Cero) {
-            d = d == Dos ? Tres : d + Dos;
-        } else {
+    while (n > Uno && !billete.detenida()) {
+        co_await billete.ceder();
+        if (divideAlguno(n, d)) {
             factores.Add(d, 1);
             n = cociente(n, d);
         }
     }
-    return factores;
+    co_return factores;
 }
 
-ColFactores FactorizaMejorado(Moneda n, Corrida &corrida)
+Tarea<ColFactores> FactorizaMejorado(Moneda n, Billete billete)
 {
     ColFactores factores;
     // Every prime divides 0 for ever.
     if (n == Cero)
-        return factores;
+        co_return factores;
     extrae(n, Dos, factores);
     extrae(n, Tres, factores);
     Moneda d = Moneda::deEntero(5);
     std::int16_t k = 0;
     while (n > Uno) {
-        corrida.ceder();
-        if (std::sqrt(n.real()) < d.real()) {
+        co_await billete.ceder();
+        const Hallazgo hallazgo = pruebaSeises(n, d, k);
+        if (hallazgo == Hallazgo::Raiz) {
             factores.Add(n, 1);
             break;
         }
-        if (ModCy(n, d) == Cero) {
+        if (hallazgo == Hallazgo::Divisor) {
             factores.Add(d, 1);
             n = cociente(n, d);
-            continue;
         }
-        // From 6m - 1 to 6m + 1 it is two, from there to the next 6m - 1 four.
-        d = d + Moneda::deEntero(k % 2 == 0 ? 2 : 4);
-        k = siguiente(k);
     }
-    return factores;
+    co_return factores;
 }

@@ -1,20 +1,23 @@
 #include "lessons/primes/PrimosDelServicio.h"
 
-#include "bignum/bignum.h"
+#include "bignum/gateway/OtrasEntradas.h"
 
-#include <span>
+#include <algorithm>
 
-PrimosDelServicio listaPrimos(std::int32_t limite)
+Tarea<PrimosDelServicio> listaPrimos(std::int32_t limite, Billete billete,
+                                     std::function<void(int porcentaje)> avance)
 {
+    // A millisecond's work between two yields.
+    constexpr std::int64_t tramo = 1'000'000;
     PrimosDelServicio lista;
-    lista.cuantos = ListPrimes(limite);
+    lista.cuantos = CuentaPrimos(limite);
     lista.numeros.reserve(static_cast<std::size_t>(lista.cuantos));
-    const auto recoge = [](const std::uint64_t *primos, std::int64_t n, void *destino) {
-        for (const std::uint64_t primo : std::span(primos, static_cast<std::size_t>(n)))
-            static_cast<std::vector<std::uint32_t> *>(destino)->push_back(
-                static_cast<std::uint32_t>(primo));
-        return std::int32_t(1);
-    };
-    PrimesUpTo(limite, recoge, &lista.numeros);
-    return lista;
+    for (std::int64_t desde = 0; desde <= limite && !billete.detenida(); desde += tramo) {
+        const std::int64_t hasta = std::min<std::int64_t>(limite, desde + tramo - 1);
+        AgregaPrimos(desde, static_cast<std::int32_t>(hasta), lista.numeros);
+        if (avance)
+            avance(static_cast<int>(100 * hasta / std::max(limite, 1)));
+        co_await billete.ceder();
+    }
+    co_return lista;
 }

@@ -27,15 +27,15 @@ QList<Paso> hojaDeMuestra()
 
 } // namespace
 
-QList<Escena> escenasMiniCal(int fila)
+QList<Escena> escenasMiniCal()
 {
     QList<Paso> expresiones = hojaDeMuestra();
     expresiones << Paso{u"MostrarExpresiones"_s, {}};
     QList<Paso> enElError = hojaDeMuestra();
     enElError << Paso{u"FlexCalc"_s, u"1,3"_s};
-    return {{u"minical-vacia"_s, fila, u"hoja"_s},
-            {u"minical-resultados"_s, fila, u"hoja"_s, hojaDeMuestra()},
-            {u"minical-expresiones"_s, fila, u"hoja"_s, expresiones},
-            {u"minical-error"_s, fila, u"hoja"_s, enElError},
-            {u"minical-ayuda"_s, fila, u"intro"_s}};
+    return {{u"minical-vacia"_s, u"hoja"_s},
+            {u"minical-resultados"_s, u"hoja"_s, hojaDeMuestra()},
+            {u"minical-expresiones"_s, u"hoja"_s, expresiones},
+            {u"minical-error"_s, u"hoja"_s, enElError},
+            {u"minical-ayuda"_s, u"intro"_s}};
 }

@@ -1,23 +1,24 @@
 #include "minical/windows/FormCalc.h"
 
+#include "minical/windows/FormCalcDocumento.h"
 #include "minical/windows/FormCalcExpresion.h"
 #include "minical/windows/FormCalcLetra.h"
 #include "minical/windows/FormCalcModelo.h"
 #include "minical/windows/FormCalcOrden.h"
+#include "minical/windows/FormCalcPortapapeles.h"
 #include "minical/windows/FormCalcRejilla.h"
 #include "minical/windows/FormZoom.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 
 #include <QAction>
 #include <QBoxLayout>
-#include <QFileInfo>
+#include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
+#include <QScopedValueRollback>
 #include <QShowEvent>
 #include <QTimer>
 #include <QToolBar>
@@ -37,25 +38,30 @@ FormCalc::FormCalc(QWidget *padre) : FormLeccion(u"MiniCal.html"_s, padre)
 
 FormCalc::~FormCalc()
 {
-    // A cell that is being edited hands its text to the sheet as the window goes: not later, when
-    // the sheet is no more.
-    hide();
+    // What is being typed belongs to the sheet, and to the copy of it, which is written next.
+    evento(this, [this] { terminaEdiciones(); });
 }
 
 void FormCalc::showEvent(QShowEvent *suceso)
 {
     FormLeccion::showEvent(suceso);
+    if (suceso->spontaneous())
+        return;
     // The keys go to the sheet as soon as the window is open; while it opens, its frame takes the
     // focus for itself.
-    if (!suceso->spontaneous())
-        QTimer::singleShot(0, m_rejilla, qOverload<>(&QWidget::setFocus));
+    QTimer::singleShot(0, m_rejilla, [this] {
+        m_rejilla->setFocus();
+        if (!std::exchange(m_copiaOfrecida, true))
+            m_tareas.lanza(m_documento->ofreceCopia());
+    });
 }
 
 void FormCalc::preparaHoja()
 {
-    auto *panel = new QWidget(this);
+    m_panel = std::make_unique<QWidget>(this);
+    QWidget *panel = m_panel.get();
     m_rejilla = new FormCalcRejilla(panel);
-    m_modelo = new FormCalcModelo(m_hoja, this);
+    m_modelo = new FormCalcModelo(m_hoja, m_rejilla);
     m_rejilla->setObjectName(u"FlexCalc"_s);
     m_rejilla->setAccessibleName(Traduce(u"Hoja de cálculo"_s));
     m_rejilla->setModel(m_modelo);
@@ -63,15 +69,21 @@ void FormCalc::preparaHoja()
     // The corner of the headers is current at first, not A1, which the grid would take by itself.
     m_rejilla->setCurrentIndex({});
     m_expresion = new FormCalcExpresion(panel);
+    m_portapapeles = new FormCalcPortapapeles(m_hoja, *m_rejilla, panel);
+    m_documento = std::make_unique<FormCalcDocumento>(m_hoja, *m_rejilla, this);
     auto *columna = new QVBoxLayout(panel);
     columna->setContentsMargins(0, 0, 0, 0);
     columna->setSpacing(Aspecto::Espacio / 2);
     columna->addWidget(m_expresion);
     columna->addWidget(m_rejilla);
     columna->addWidget(preparaEstado(panel));
-    columna->addWidget(preparaAviso(panel));
+    columna->addWidget(m_portapapeles);
     agregaTema(u"Hoja de cálculo"_s, u"hoja"_s, panel);
+    conectaHoja();
+}
 
+void FormCalc::conectaHoja()
+{
     conecta(m_modelo, &FormCalcModelo::evaluada, this, [this](Celda celda) {
         actualizaZoom(celda);
         alCambiarHoja();
@@ -79,6 +91,7 @@ void FormCalc::preparaHoja()
     conecta(m_modelo, &FormCalcModelo::dataChanged, this, [this](const QModelIndex &cambiada) {
         if (cambiada == m_rejilla->currentIndex())
             muestraActual();
+        m_documento->cambia();
     });
     conecta(m_rejilla->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this] { muestraActual(); });
@@ -95,6 +108,15 @@ void FormCalc::preparaHoja()
     conecta(m_rejilla, &FormCalcRejilla::borrar, this, &FormCalc::FlexCalc_Borrar);
     conecta(m_rejilla, &FormCalcRejilla::pegar, this, &FormCalc::FlexCalc_Pegar);
     conecta(m_rejilla, &FormCalcRejilla::menuPedido, this, &FormCalc::FlexCalc_Menu);
+    conecta(m_portapapeles, &FormCalcPortapapeles::pegando, this, &FormCalc::ponPegando);
+    conecta(m_portapapeles, &FormCalcPortapapeles::pegada, this, [this] {
+        actualizaZoom(m_rejilla->actual());
+        alCambiarHoja();
+    });
+    conecta(m_documento.get(), &FormCalcDocumento::abierta, this, [this] {
+        ponZoomEn(m_rejilla->actual());
+        alCambiarHoja();
+    });
 }
 
 /// What is to be told about the current cell.
@@ -110,22 +132,6 @@ QWidget *FormCalc::preparaEstado(QWidget *panel)
     return m_estado;
 }
 
-/// What stands below the grid while a long paste is going on.
-QWidget *FormCalc::preparaAviso(QWidget *panel)
-{
-    m_aviso = new QWidget(panel);
-    m_aviso->hide();
-    m_cmdDetener = new QPushButton(ImgStop(), Traduce(u"D&etener"_s), m_aviso);
-    m_cmdDetener->setObjectName(u"cmdDetener"_s);
-    m_cmdDetener->setToolTip(Traduce(u"Deja de pegar; lo pegado se queda"_s));
-    conecta(m_cmdDetener, &QPushButton::clicked, this, [this] { corrida().detener(); });
-    auto *fila = new QHBoxLayout(m_aviso);
-    fila->addWidget(new QLabel(Traduce(u"Calculando lo que se ha pegado…"_s), m_aviso));
-    fila->addStretch();
-    fila->addWidget(m_cmdDetener);
-    return m_aviso;
-}
-
 void FormCalc::preparaBarra()
 {
     m_barra = new QToolBar(this);
@@ -134,21 +140,12 @@ void FormCalc::preparaBarra()
     m_barra->setIconSize({24, 24});
     static_cast<QBoxLayout *>(layout())->insertWidget(0, m_barra);
 
-    m_txtPrecision = new QLineEdit(m_barra);
-    m_txtPrecision->setObjectName(u"txtPrecisión"_s);
-    m_txtPrecision->setFont(letraDeHoja());
-    m_txtPrecision->setText(QString::number(Sesión().Precisión()));
-    m_txtPrecision->setToolTip(
-        Traduce(u"Precisión: cifras de los valores decimales, hasta 1000"_s));
-    m_txtPrecision->setAccessibleName(Traduce(u"Precisión"_s));
-    constexpr int anchoDeMuestra = 9;
-    m_txtPrecision->setMaximumWidth(
-        m_txtPrecision->fontMetrics().horizontalAdvance(QString(anchoDeMuestra, u'0')));
-
+    preparaPrecision();
     for (const Orden &orden : ordenes()) {
         if (orden.clave == u"ValidarPrecisión"_s) {
             m_barra->addSeparator();
             m_barra->addWidget(m_txtPrecision)->setObjectName(u"Precisión"_s);
+            m_avisoDePrecision = m_barra->addWidget(m_lblPrecision);
         }
         agregaOrden(orden);
     }
@@ -157,6 +154,25 @@ void FormCalc::preparaBarra()
     guardar->setPopupMode(QToolButton::MenuButtonPopup);
     guardar->addAction(accion(u"GuardarComo"_s));
     conecta(m_txtPrecision, &QLineEdit::returnPressed, this, &FormCalc::ValidarPrecision);
+    muestraPrecision();
+}
+
+void FormCalc::preparaPrecision()
+{
+    m_txtPrecision = new QLineEdit(m_barra);
+    m_txtPrecision->setObjectName(u"txtPrecisión"_s);
+    m_txtPrecision->setFont(letraDeHoja());
+    m_txtPrecision->setToolTip(
+        Traduce(u"Precisión: cifras de los valores decimales, hasta 1000"_s));
+    m_txtPrecision->setAccessibleName(Traduce(u"Precisión"_s));
+    constexpr int anchoDeMuestra = 9;
+    m_txtPrecision->setMaximumWidth(
+        m_txtPrecision->fontMetrics().horizontalAdvance(QString(anchoDeMuestra, u'0')));
+    m_lblPrecision = new QLabel(m_barra);
+    m_lblPrecision->setObjectName(u"lblPrecisión"_s);
+    QPalette colores = palette();
+    colores.setColor(QPalette::WindowText, Aspecto::error());
+    m_lblPrecision->setPalette(colores);
 }
 
 QAction *FormCalc::agregaOrden(const Orden &orden)
@@ -169,7 +185,8 @@ QAction *FormCalc::agregaOrden(const Orden &orden)
     accion->setShortcutContext(enLaRejilla ? Qt::WidgetShortcut : Qt::WidgetWithChildrenShortcut);
     (enLaRejilla ? static_cast<QWidget *>(m_rejilla) : this)->addAction(accion);
     m_acciones.insert(orden.clave, accion);
-    conecta(accion, &QAction::triggered, this, [this, &orden] { Toolbar_ButtonClick(orden); });
+    conecta(accion, &QAction::triggered, this,
+            [this, &orden] { return Toolbar_ButtonClick(&orden); });
 
     if (orden.sitio == Orden::Sitio::TrasRaya)
         m_barra->addSeparator();
@@ -182,16 +199,14 @@ QAction *FormCalc::agregaOrden(const Orden &orden)
     return accion;
 }
 
-QAbstractButton *FormCalc::botonDeParada() const
-{
-    return m_aviso->isHidden() ? nullptr : m_cmdDetener;
-}
-
-void FormCalc::Toolbar_ButtonClick(const Orden &orden)
+Tarea<> FormCalc::Toolbar_ButtonClick(const Orden *orden)
 {
     // A button takes no focus: what is being typed is still in its field.
     terminaEdiciones();
-    (this->*orden.hace)();
+    if (const auto *enSeguida = std::get_if<void (FormCalc::*)()>(&orden->hace))
+        (this->**enSeguida)();
+    else
+        co_await (this->*std::get<Tarea<> (FormCalc::*)()>(orden->hace))();
     alCambiarHoja();
 }
 
@@ -201,22 +216,45 @@ void FormCalc::alCambiarHoja()
     const Historial &historial = m_hoja.historial();
     accion(u"Deshacer"_s)->setEnabled(historial.puedeDeshacer());
     accion(u"Rehacer"_s)->setEnabled(historial.puedeRehacer());
-    QString titulo = Traduce(u"Mini hoja de cálculo"_s);
-    if (!m_ruta.isEmpty())
-        titulo += u" - "_s + QFileInfo(m_ruta).fileName();
-    setWindowTitle(historial.modificado() ? titulo + u" *"_s : titulo);
+    setWindowTitle(m_documento->titulo());
 }
 
 void FormCalc::FlexCalc_Menu(const QPoint &donde)
 {
-    QMenu menu(this);
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
     const QList<QStringList> grupos{{u"CopiarResultado"_s, u"CopiarExpresión"_s, u"Cortar"_s},
                                     {u"Deshacer"_s, u"Rehacer"_s},
                                     {u"ValorDecimal"_s, u"Recalcular"_s, u"Zoom"_s}};
     for (const QStringList &grupo : grupos) {
-        menu.addSeparator();
+        menu->addSeparator();
         for (const QString &clave : grupo)
-            menu.addAction(accion(clave));
+            menu->addAction(accion(clave));
     }
-    menu.exec(donde);
+    menu->popup(donde);
+}
+
+Tarea<bool> FormCalc::puedeCerrarse()
+{
+    // One question is enough, however often the window is told to close.
+    if (m_preguntando)
+        co_return false;
+    const QScopedValueRollback<bool> guardia(m_preguntando, true);
+    terminaEdiciones();
+    const bool permite = co_await m_documento->confirmaDescarte();
+    alCambiarHoja();
+    co_return permite;
+}
+
+void FormCalc::guardaLoPendiente()
+{
+    terminaEdiciones();
+    FormLeccion::guardaLoPendiente();
+}
+
+void FormCalc::closeEvent(QCloseEvent *suceso)
+{
+    FormLeccion::closeEvent(suceso);
+    if (m_zoom && suceso->isAccepted())
+        m_zoom->close();
 }

@@ -5,15 +5,17 @@
 
 #include <QHash>
 #include <memory>
+#include <variant>
 
+class FormCalcDocumento;
 class FormCalcExpresion;
 class FormCalcModelo;
+class FormCalcPortapapeles;
 class FormCalcRejilla;
 class FormZoom;
 class QAction;
 class QLabel;
 class QLineEdit;
-class QPushButton;
 class QToolBar;
 
 /// The spreadsheet: a grid of exact expressions, its commands, its page of help, and a zoom of the
@@ -26,9 +28,12 @@ public:
     explicit FormCalc(QWidget *padre = nullptr);
     ~FormCalc() override;
 
+    Tareas &tareas() { return m_tareas; }
+
+    Tarea<bool> puedeCerrarse() override;
+    void guardaLoPendiente() override;
+
 protected:
-    QAbstractButton *botonDeParada() const override;
-    bool permiteCerrar() override;
     void showEvent(QShowEvent *suceso) override;
     void closeEvent(QCloseEvent *suceso) override;
 
@@ -37,13 +42,14 @@ private:
     static const QList<Orden> &ordenes();
 
     void preparaBarra();
+    void preparaPrecision();
     QAction *agregaOrden(const Orden &orden);
     void preparaHoja();
+    void conectaHoja();
     QWidget *preparaEstado(QWidget *panel);
-    QWidget *preparaAviso(QWidget *panel);
     QAction *accion(const QString &clave) const { return m_acciones.value(clave); }
 
-    void Toolbar_ButtonClick(const Orden &orden);
+    Tarea<> Toolbar_ButtonClick(const Orden *orden);
     void ValorDecimal();
     void Recalcular();
     void MostrarExpresiones();
@@ -53,48 +59,47 @@ private:
     void CopiarExpresion();
     void CopiarResultado();
     void Cortar();
-    void Nuevo();
-    void Abrir();
-    void Guardar();
-    void GuardarComo();
-    void Exportar();
-    void Imprimir();
+    Tarea<> Nuevo();
+    Tarea<> Abrir();
+    Tarea<> Guardar();
+    Tarea<> GuardarComo();
+    Tarea<> Exportar();
+    Tarea<> Imprimir();
     void Deshacer();
     void Rehacer();
 
     void FlexCalc_Click(Celda celda);
     void FlexCalc_Borrar();
-    void FlexCalc_Pegar();
+    Tarea<> FlexCalc_Pegar();
     void FlexCalc_Menu(const QPoint &donde);
     void txtExpresion_Editada(Celda celda, const QString &expresion, bool conIntro);
 
-    void copia(bool expresiones);
     void ponPegando(bool pegando);
     void enfocaCambiadas(const QList<Celda> &celdas);
     void terminaEdiciones();
     void muestraActual();
+    void muestraPrecision();
     void alCambiarHoja();
     void actualizaZoom(Celda celda);
     void ponZoomEn(Celda rotulo);
-
-    bool guardaEn(const QString &ruta);
-    bool guardaComo();
-    void abreArchivo(const QString &ruta);
-    bool confirmaDescarte();
-    void ponRuta(const QString &ruta);
-    QString carpetaPropuesta() const;
-    QString nombreDeHoja() const;
 
     HojaDeCalculo m_hoja;
     FormCalcModelo *m_modelo = nullptr;
     FormCalcRejilla *m_rejilla = nullptr;
     FormCalcExpresion *m_expresion = nullptr;
+    FormCalcPortapapeles *m_portapapeles = nullptr;
     QLabel *m_estado = nullptr;
-    QWidget *m_aviso = nullptr;
-    QPushButton *m_cmdDetener = nullptr;
     QToolBar *m_barra = nullptr;
     QLineEdit *m_txtPrecision = nullptr;
+    QLabel *m_lblPrecision = nullptr;
+    QAction *m_avisoDePrecision = nullptr;
     FormZoom *m_zoom = nullptr;
     QHash<QString, QAction *> m_acciones;
-    QString m_ruta; ///< the file of the sheet; empty while it has none
+    bool m_copiaOfrecida = false;
+    bool m_preguntando = false; ///< whether the window may be closed
+    // What follows goes first, and looks at what stands above: the tasks, the copy of the sheet,
+    // and the grid with all that stands around it.
+    std::unique_ptr<QWidget> m_panel;
+    std::unique_ptr<FormCalcDocumento> m_documento;
+    TareasDeVentana m_tareas{this, parada()};
 };

@@ -4,10 +4,13 @@
 #include "bignum/gateway/Moneda.h"
 #include "minical/ExplicacionDeCelda.h"
 #include "minical/windows/FormCalc.h"
+#include "minical/windows/FormCalcDocumento.h"
 #include "minical/windows/FormCalcExpresion.h"
 #include "minical/windows/FormCalcModelo.h"
+#include "minical/windows/FormCalcPortapapeles.h"
 #include "minical/windows/FormCalcRejilla.h"
 #include "minical/windows/FormZoom.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"
@@ -15,6 +18,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QToolBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,6 +59,85 @@ void FormCalc::ValidarPrecision()
         return;
     if (const auto digitos = Moneda::deTexto(resultado))
         Sesión().ponPrecisión(digitos->aEntero32());
+    m_avisoDePrecision->setVisible(false);
+}
+
+/// A stored number that is too large for any precision is shown as it is, for it can be mended
+/// nowhere but here.
+void FormCalc::muestraPrecision()
+{
+    try {
+        m_txtPrecision->setText(QString::number(Sesión().Precisión()));
+        m_avisoDePrecision->setVisible(false);
+    } catch (const ErrorEjecucion &) {
+        m_txtPrecision->setText(Sesión().lee(u"Aritmética"_s, u"Precisión"_s).trimmed());
+        m_lblPrecision->setText(
+            u" ✗ "_s + Traduce(u"Pasa de %1: escriba otra y valídela."_s).arg(MaximaPrecision));
+    }
+}
+
+void FormCalc::CopiarExpresion()
+{
+    m_portapapeles->copia(true);
+}
+
+void FormCalc::CopiarResultado()
+{
+    m_portapapeles->copia(false);
+}
+
+/// What is cut is what can be entered elsewhere again: the expressions.
+void FormCalc::Cortar()
+{
+    m_portapapeles->copia(true);
+    FlexCalc_Borrar();
+}
+
+Tarea<> FormCalc::FlexCalc_Pegar()
+{
+    return m_portapapeles->pega(m_tareas.billete());
+}
+
+/// A large block takes its time: only the stop button answers meanwhile.
+void FormCalc::ponPegando(bool pegando)
+{
+    m_rejilla->setDisabled(pegando);
+    m_expresion->setDisabled(pegando);
+    m_barra->setDisabled(pegando);
+    for (QAction *orden : std::as_const(m_acciones))
+        orden->setDisabled(pegando);
+    if (!pegando)
+        m_rejilla->setFocus();
+}
+
+Tarea<> FormCalc::Nuevo()
+{
+    return m_documento->nuevo();
+}
+
+Tarea<> FormCalc::Abrir()
+{
+    return m_documento->abre();
+}
+
+Tarea<> FormCalc::Guardar()
+{
+    return m_documento->guarda();
+}
+
+Tarea<> FormCalc::GuardarComo()
+{
+    return m_documento->guardaComo();
+}
+
+Tarea<> FormCalc::Exportar()
+{
+    return m_documento->exporta();
+}
+
+Tarea<> FormCalc::Imprimir()
+{
+    return m_documento->imprime();
 }
 
 void FormCalc::Deshacer()
@@ -101,12 +184,12 @@ void FormCalc::terminaEdiciones()
 void FormCalc::muestraActual()
 {
     const Celda celda = m_rejilla->actual();
-    const bool esError = m_hoja.Resultados(celda.fila, celda.columna) == TextoError;
+    const bool falla = esError(m_hoja.Resultados(celda.fila, celda.columna));
     QPalette colores = palette();
-    colores.setColor(QPalette::WindowText, esError ? Aspecto::error() : Aspecto::atenuado());
+    colores.setColor(QPalette::WindowText, falla ? Aspecto::error() : Aspecto::atenuado());
     m_estado->setPalette(colores);
     const QString explicacion = explicacionDeCelda(m_hoja, celda);
-    m_estado->setText(esError ? u"✗ "_s + explicacion : explicacion);
+    m_estado->setText(falla ? u"✗ "_s + explicacion : explicacion);
     m_expresion->muestra(celda, m_hoja.Expresiones(celda.fila, celda.columna));
 }
 

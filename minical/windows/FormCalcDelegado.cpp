@@ -1,8 +1,9 @@
 #include "minical/windows/FormCalcDelegado.h"
 
-#include "minical/HojaDeCalculo.h"
+#include "minical/windows/FormCalcCampo.h"
 #include "shell/core/ModGlobal.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
@@ -47,11 +48,10 @@ int FormCalcDelegado::salto(const QWidget *editor)
 QWidget *FormCalcDelegado::createEditor(QWidget *padre, const QStyleOptionViewItem &opcion,
                                         const QModelIndex &) const
 {
-    auto *editor = new QLineEdit(padre);
+    auto *editor = new FormCalcCampo(padre);
     editor->setObjectName(u"txtCelda"_s);
     editor->setAccessibleName(Traduce(u"Expresión de la celda"_s));
     editor->setFont(padre->font());
-    editor->setMaxLength(HojaDeCalculo::LongitudMaxima);
     editor->setAutoFillBackground(true);
     editor->setMinimumHeight(opcion.rect.height());
     QObject::connect(editor, &QLineEdit::textChanged, editor,
@@ -99,7 +99,12 @@ void FormCalcDelegado::initStyleOption(QStyleOptionViewItem *opcion,
 
 bool FormCalcDelegado::eventFilter(QObject *objeto, QEvent *suceso)
 {
+    // A box that has something to say about the edit does not end it.
+    if (suceso->type() == QEvent::FocusOut && QApplication::activeModalWidget())
+        return false;
     if (suceso->type() == QEvent::KeyPress) {
+        if (static_cast<FormCalcCampo *>(objeto)->teclaDeLaLista(*static_cast<QKeyEvent *>(suceso)))
+            return true;
         const auto *tecla = static_cast<QKeyEvent *>(suceso);
         const bool intro = tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter;
         const int sentido = tecla->modifiers() & Qt::ShiftModifier ? -1 : 1;

@@ -1,6 +1,6 @@
 #include "minical/windows/FormCalcExpresion.h"
 
-#include "minical/HojaDeCalculo.h"
+#include "minical/windows/FormCalcCampo.h"
 #include "minical/windows/FormCalcLetra.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
@@ -9,12 +9,11 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 
 using namespace Qt::Literals::StringLiterals;
 
 FormCalcExpresion::FormCalcExpresion(QWidget *padre)
-    : QWidget(padre), m_lblCelda(new QLabel(this)), m_txtExpresion(new QLineEdit(this))
+    : QWidget(padre), m_lblCelda(new QLabel(this)), m_txtExpresion(new FormCalcCampo(this))
 {
     m_lblCelda->setObjectName(u"lblCelda"_s);
     m_lblCelda->setAccessibleName(Traduce(u"Celda actual"_s));
@@ -27,15 +26,14 @@ FormCalcExpresion::FormCalcExpresion(QWidget *padre)
     m_txtExpresion->setPlaceholderText(
         Traduce(u"Elija una celda y escriba una expresión, como 2^64 o (A1+A2)/2"_s));
     m_txtExpresion->setFont(letraDeHoja());
-    m_txtExpresion->setMaxLength(HojaDeCalculo::LongitudMaxima);
     m_txtExpresion->installEventFilter(this);
     auto *fila = new QHBoxLayout(this);
     fila->setContentsMargins(0, 0, 0, 0);
     fila->setSpacing(Aspecto::Espacio / 2);
     fila->addWidget(m_lblCelda);
     fila->addWidget(m_txtExpresion);
-    conecta(m_txtExpresion, &QLineEdit::returnPressed, this, [this] { acepta(true); });
-    conecta(m_txtExpresion, &QLineEdit::editingFinished, this, [this] { acepta(false); });
+    conecta(m_txtExpresion, &FormCalcCampo::returnPressed, this, [this] { acepta(true); });
+    conecta(m_txtExpresion, &FormCalcCampo::editingFinished, this, [this] { acepta(false); });
     muestra({}, {});
 }
 
@@ -65,8 +63,10 @@ void FormCalcExpresion::acepta(bool conIntro)
 
 bool FormCalcExpresion::eventFilter(QObject *objeto, QEvent *suceso)
 {
-    if (suceso->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent *>(suceso)->key() == Qt::Key_Escape) {
+    const bool tecla = suceso->type() == QEvent::KeyPress;
+    if (tecla && m_txtExpresion->teclaDeLaLista(*static_cast<QKeyEvent *>(suceso)))
+        return true;
+    if (tecla && static_cast<QKeyEvent *>(suceso)->key() == Qt::Key_Escape) {
         m_txtExpresion->setModified(false);
         Q_EMIT abandonada();
         return true;

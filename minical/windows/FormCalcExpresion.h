@@ -4,8 +4,8 @@
 
 #include <QWidget>
 
+class FormCalcCampo;
 class QLabel;
-class QLineEdit;
 
 /// The line above the grid: the name of the current cell and its whole expression, which can be
 /// edited there as well as in the cell.
@@ -36,5 +36,5 @@ private:
 
     Celda m_celda;
     QLabel *m_lblCelda;
-    QLineEdit *m_txtExpresion;
+    FormCalcCampo *m_txtExpresion;
 };

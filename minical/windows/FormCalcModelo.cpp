@@ -1,8 +1,8 @@
 #include "minical/windows/FormCalcModelo.h"
 
-#include "bignum/gateway/ModBignum.h"
 #include "minical/ExplicacionDeCelda.h"
 #include "minical/HojaDeCalculo.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 
@@ -86,24 +86,24 @@ QVariant FormCalcModelo::data(const QModelIndex &indice, int papel) const
         return {};
     const Celda c = celda(indice);
     const QString &texto = m_hoja.texto(c);
-    const bool esError = texto == TextoError;
+    const bool falla = esError(texto);
     switch (papel) {
     case Qt::DisplayRole:
         return texto;
     case Qt::EditRole:
         return m_hoja.Expresiones(c.fila, c.columna);
     case Qt::ToolTipRole:
-        return esError ? Traduce(u"Error: %1"_s).arg(motivoDeError(m_hoja, c)) : enLineas(texto);
+        return falla ? Traduce(u"Error: %1"_s).arg(motivoDeError(m_hoja, c)) : enLineas(texto);
     case Qt::AccessibleTextRole:
         return QString(NombreCelda(c) + u": "_s + texto);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
     case Qt::ForegroundRole:
-        return esError ? QVariant(Aspecto::error()) : QVariant();
+        return falla ? QVariant(Aspecto::error()) : QVariant();
     case Qt::FontRole:
-        return esError ? QVariant(negrita()) : QVariant();
+        return falla ? QVariant(negrita()) : QVariant();
     case Qt::BackgroundRole:
-        if (QColor fondo = Aspecto::error(); esError) {
+        if (QColor fondo = Aspecto::error(); falla) {
             constexpr int tenue = 36;
             fondo.setAlpha(tenue);
             return fondo;
@@ -139,9 +139,12 @@ bool FormCalcModelo::setData(const QModelIndex &indice, const QVariant &valor, i
 {
     if (papel != Qt::EditRole || !checkIndex(indice, CheckIndexOption::IndexIsValid))
         return false;
+    const QString texto = valor.toString();
+    if (texto.size() > HojaDeCalculo::LongitudMaxima)
+        return false;
     const RelojDeArena reloj;
     const Celda c = celda(indice);
-    if (m_hoja.finDeEdicion(c, valor.toString().left(HojaDeCalculo::LongitudMaxima)))
+    if (m_hoja.finDeEdicion(c, texto))
         Q_EMIT evaluada(c);
     return true;
 }

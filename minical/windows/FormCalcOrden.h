@@ -4,6 +4,7 @@
 
 #include <QKeySequence>
 #include <QList>
+#include <variant>
 
 /// A command of the sheet: its key, its picture and texts, and what carries it out.
 struct FormCalc::Orden
@@ -21,6 +22,6 @@ struct FormCalc::Orden
     QString rotulo;
     QString ayuda;
     QList<QKeySequence> teclas;
-    void (FormCalc::*hace)();
+    std::variant<void (FormCalc::*)(), Tarea<> (FormCalc::*)()> hace;
     Sitio sitio = Sitio::Barra;
 };

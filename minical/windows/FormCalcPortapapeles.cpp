@@ -1,47 +1,23 @@
-// The window of the sheet: copying, cutting and pasting.
+#include "minical/windows/FormCalcPortapapeles.h"
 
-#include "minical/windows/FormCalc.h"
-#include "minical/windows/FormCalcExpresion.h"
-#include "minical/windows/FormCalcModelo.h"
+#include "minical/BloqueDeCeldas.h"
+#include "minical/HojaDeCalculo.h"
 #include "minical/windows/FormCalcRejilla.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/core/TextoDeRejilla.h"
+#include "shell/frame/BotonDeCorrida.h"
+#include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
-#include <QToolBar>
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// The cells of a text from the clipboard: lines of fields between tabs.
-QList<QStringList> bloqueDe(QString texto)
-{
-    texto.replace(u"\r\n"_s, u"\n"_s);
-    if (texto.endsWith(u'\n'))
-        texto.chop(1);
-    QList<QStringList> bloque;
-    const QStringList lineas = texto.split(u'\n');
-    for (const QString &linea : lineas)
-        bloque << linea.split(u'\t');
-    return bloque;
-}
-
-/// One cell goes into each of those that are selected; a larger block stays as it is.
-QList<QStringList> repetido(const QList<QStringList> &bloque, const QList<Celda> &elegidas)
-{
-    if (bloque.size() != 1 || bloque.constFirst().size() != 1)
-        return bloque;
-    const Celda primera = elegidas.constFirst();
-    const Celda ultima = elegidas.constLast();
-    const QStringList fila(ultima.columna - primera.columna + 1, bloque.constFirst().constFirst());
-    return QList<QStringList>(ultima.fila - primera.fila + 1, fila);
-}
 
 int anchoDe(const QList<QStringList> &bloque)
 {
@@ -53,82 +29,59 @@ int anchoDe(const QList<QStringList> &bloque)
 
 } // namespace
 
-void FormCalc::CopiarExpresion()
+FormCalcPortapapeles::FormCalcPortapapeles(HojaDeCalculo &hoja, FormCalcRejilla &rejilla,
+                                           QWidget *padre)
+    : QWidget(padre), m_hoja(hoja), m_rejilla(rejilla)
 {
-    copia(true);
+    hide();
+    auto *boton = new QPushButton(this);
+    boton->setObjectName(u"cmdDetener"_s);
+    const BotonDeCorrida::Aspecto aspecto{u"STOP"_s, Traduce(u"D&etener"_s),
+                                          Traduce(u"Deja de pegar; lo pegado se queda"_s)};
+    m_cmdDetener = new BotonDeCorrida(boton, aspecto, aspecto);
+    auto *fila = new QHBoxLayout(this);
+    fila->addWidget(new QLabel(Traduce(u"Calculando lo que se ha pegado…"_s), this));
+    fila->addStretch();
+    fila->addWidget(boton);
+    conecta(boton, &QPushButton::clicked, this, [this] { m_cmdDetener->detiene(); });
+    conecta(m_cmdDetener, &BotonDeCorrida::empezada, this, [this, boton] {
+        show();
+        Q_EMIT pegando(true);
+        boton->setFocus();
+    });
+    conecta(m_cmdDetener, &BotonDeCorrida::terminada, this, [this] {
+        hide();
+        Q_EMIT pegando(false);
+    });
 }
 
-void FormCalc::CopiarResultado()
+void FormCalcPortapapeles::copia(bool expresiones)
 {
-    copia(false);
+    QList<Celda> celdas = m_rejilla.seleccionadas();
+    // The commands look at no header; there the texts are empty.
+    if (celdas.isEmpty())
+        celdas << m_rejilla.actual();
+    QApplication::clipboard()->setText(textoDeCeldas(m_hoja, celdas, expresiones));
 }
 
-/// One cell as it is; several as lines with tabs, as every spreadsheet takes them.
-void FormCalc::copia(bool expresiones)
-{
-    const auto texto = [&](Celda celda) {
-        return expresiones ? m_hoja.Expresiones(celda.fila, celda.columna)
-                           : m_hoja.Resultados(celda.fila, celda.columna);
-    };
-    const QList<Celda> celdas = m_rejilla->seleccionadas();
-    if (celdas.size() <= 1) {
-        QApplication::clipboard()->setText(texto(m_rejilla->actual()));
-        return;
-    }
-    QList<QStringList> filas;
-    int fila = 0;
-    for (const Celda celda : celdas) {
-        if (celda.fila != fila)
-            filas << QStringList();
-        fila = celda.fila;
-        filas.last() << texto(celda);
-    }
-    QApplication::clipboard()->setText(textoDeRejilla(filas, FormaDeCopia::Texto));
-}
-
-/// What is cut is what can be entered elsewhere again: the expressions.
-void FormCalc::Cortar()
-{
-    copia(true);
-    FlexCalc_Borrar();
-}
-
-/// A large block takes its time: only the stop button answers meanwhile.
-void FormCalc::ponPegando(bool pegando)
-{
-    m_rejilla->setDisabled(pegando);
-    m_expresion->setDisabled(pegando);
-    m_barra->setDisabled(pegando);
-    for (QAction *orden : std::as_const(m_acciones))
-        orden->setDisabled(pegando);
-    m_aviso->setVisible(pegando);
-    if (pegando)
-        m_cmdDetener->setFocus();
-    else
-        m_rejilla->setFocus();
-}
-
-void FormCalc::FlexCalc_Pegar()
+Tarea<> FormCalcPortapapeles::pega(Billete billete)
 {
     const QString texto = QApplication::clipboard()->text();
-    if (texto.isEmpty() || corrida().enCurso())
-        return;
-    if (!m_rejilla->actual().esDeDatos())
-        m_rejilla->setCurrentIndex(m_modelo->index(0, 0));
-    const QList<Celda> elegidas = m_rejilla->seleccionadas();
-    const QList<QStringList> bloque = repetido(bloqueDe(texto), elegidas);
+    if (texto.isEmpty() || m_cmdDetener->enMarcha())
+        co_return;
+    if (!m_rejilla.actual().esDeDatos())
+        m_rejilla.setCurrentIndex(m_rejilla.model()->index(0, 0));
+    const QList<Celda> elegidas = m_rejilla.seleccionadas();
+    const QList<QStringList> bloque = bloqueParaPegar(texto, elegidas);
     const Celda esquina = elegidas.constFirst();
-    const Corrida::Tramo tramo(corrida());
-    corrida().permitir();
-    ponPegando(true);
-    const bool todo = m_hoja.pega(esquina, bloque, corrida());
-    ponPegando(false);
-    m_rejilla->elige(esquina, {esquina.fila + static_cast<int>(bloque.size()) - 1,
-                               esquina.columna + anchoDe(bloque) - 1});
-    actualizaZoom(m_rejilla->actual());
-    alCambiarHoja();
+    auto marcha = m_cmdDetener->empieza(billete);
+    const bool todo = co_await m_hoja.pega(esquina, bloque, billete);
+    marcha.termina();
+    m_rejilla.elige(esquina, {esquina.fila + static_cast<int>(bloque.size()) - 1,
+                              esquina.columna + anchoDe(bloque) - 1});
+    Q_EMIT pegada();
     if (!todo)
-        interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
-                               Traduce(u"Parte de lo que se ha pegado no cabe en la hoja."_s),
-                               Traduce(u"Mini hoja de cálculo"_s));
+        interlocutor().avisa(this, Interlocutor::Icono::Exclamacion,
+                             Traduce(u"Parte de lo que se ha pegado no cabe en la hoja."_s),
+                             Traduce(u"Mini hoja de cálculo"_s));
 }

@@ -32,8 +32,8 @@ FormZoom::FormZoom(QWidget *hoja) : QWidget(hoja, Qt::Tool), ui(std::make_unique
     move(hoja->mapToGlobal(hoja->rect().bottomRight()) - rect().bottomRight() -
          QPoint(Rincon, Rincon));
     ui->txtZoom->setFont(letraDeHoja());
-    // Nothing but an arbitrary place breaks a number.
-    ui->txtZoom->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    // A number has no words: to look for the ends of one at every line takes quadratic time.
+    ui->txtZoom->setWordWrapMode(QTextOption::WrapAnywhere);
     ui->txtZoom->installEventFilter(this);
     ponPuntos(PuntosAlAbrir);
     conecta(ui->SliderZoom, &QSlider::valueChanged, this, &FormZoom::SliderZoom_Scroll);
@@ -50,7 +50,9 @@ void FormZoom::prepara()
 
 void FormZoom::ponTexto(const QString &texto)
 {
-    ui->txtZoom->setPlainText(texto);
+    // A click on a cell comes twice, as a move and as a click.
+    if (texto != ui->txtZoom->toPlainText())
+        ui->txtZoom->setPlainText(texto);
 }
 
 void FormZoom::SliderZoom_Scroll(int puntos)

@@ -1,8 +1,11 @@
 #include "shell/core/Formatos.h"
 
+#include "shell/core/ModGlobal.h"
+
 #include <QLocale>
 #include <QStringList>
 #include <algorithm>
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,6 +44,25 @@ QString formatoEntero(Moneda valor)
     return formatoEntero(valor.entero() + (alejaDeCero ? (media < 0 ? -1 : 1) : 0));
 }
 
+QString formatoAbreviado(const QString &digitos)
+{
+    constexpr int extremo = 6;
+    if (digitos.size() <= 4 * extremo)
+        return formatoEntero(digitos);
+    const qsizetype cifras = digitos.size() - (digitos.startsWith(u'-') ? 1 : 0);
+    return digitos.left(extremo) + u'…' + digitos.right(extremo) +
+           Traduce(u" (%1 cifras)"_s).arg(formatoEntero(qint64{cifras}));
+}
+
+QString enSuperindice(const QString &numero)
+{
+    static const QString cifras = u"⁰¹²³⁴⁵⁶⁷⁸⁹"_s;
+    QString texto;
+    for (const QChar c : numero)
+        texto += c == u'-' ? QChar(u'⁻') : cifras.at(c.digitValue());
+    return texto;
+}
+
 QString formatoDecimal(double valor, int decimales)
 {
     const QStringList partes = QString::number(valor, 'f', decimales).split(u'.');
@@ -54,4 +76,18 @@ QString formatoTiempo(std::chrono::milliseconds tiempo)
     return u"%1:%2:%3"_s.arg(s / 3600 % 24, 2, 10, QChar(u'0'))
         .arg(s / 60 % 60, 2, 10, QChar(u'0'))
         .arg(s % 60, 2, 10, QChar(u'0'));
+}
+
+QString textoDeDuracion(double nanosegundos)
+{
+    static const std::array unidades{u" ns"_s, u" µs"_s, u" ms"_s, u" s"_s};
+    std::size_t unidad = 0;
+    double valor = nanosegundos;
+    // 999,5 would be rounded up to four digits.
+    while (valor >= 999.5 && unidad + 1 < unidades.size()) {
+        valor /= 1000;
+        ++unidad;
+    }
+    const int decimales = valor < 9.995 ? 2 : valor < 99.95 ? 1 : 0;
+    return formatoDecimal(valor, decimales) + unidades.at(unidad);
 }

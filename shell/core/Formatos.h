@@ -13,9 +13,19 @@ QString formatoEntero(Moneda valor);
 /// The same for a number of any size given by its decimal digits; other texts come back unchanged.
 QString formatoEntero(const QString &digitos);
 
+/// A number of any size as it fits a line: one of more than 24 digits by its ends and how many it
+/// has, "123456…654321 (157 cifras)", any other as formatoEntero.
+QString formatoAbreviado(const QString &digitos);
+
+/// The digits, and the sign, of a number as an exponent: "⁻¹²".
+QString enSuperindice(const QString &numero);
+
 /// A number with so many decimals, 0 or more, rounded: the whole part as above, and a decimal comma
 /// whatever the system's locale.
 QString formatoDecimal(double valor, int decimales);
 
 /// A span of time as "hh:nn:ss"; hours start again after 24.
 QString formatoTiempo(std::chrono::milliseconds tiempo);
+
+/// A span of time in the unit that suits it, with three significant digits: "3,12 µs".
+QString textoDeDuracion(double nanosegundos);

@@ -6,27 +6,14 @@
 #include <QString>
 #include <cstdint>
 
-/// The language in which the program is written.
-inline constexpr QStringView IdiomaPropio = u"Español";
-
 /// The language of the interface: the name of the section of Numora.txt that `Traduce` reads.
-/// IdiomaPropio until another one is put there.
+/// "Español", in which the program is written, until another one is put there.
 QString &Idioma();
 
-/// Whether the interface has been translated into the current language. Where it has not, its texts
-/// are Spanish.
-bool HayTraduccion();
-
-/// The translation of a Spanish interface text into the current language: the entry of Numora.txt
-/// beside the program, at most 1023 characters; the text itself when there is none. Blanks at the
-/// ends of a text are not part of its key and are kept; a line break stands in the file as "\n",
-/// and
-/// "=" in a key as "\e".
+/// The translation of a Spanish interface text into the current language: its entry in Numora.txt
+/// beside the program (entradaDeNumora); the text itself when there is none. Blanks at the ends of
+/// a text are not part of its key and are kept.
 QString Traduce(const QString &texto);
-
-/// Whether a whole text is a number: blanks around, sign, digits with a decimal part after "." or
-/// ",", exponent; within the range of a double.
-bool EsNumerico(const QString &texto);
 
 /// The value of the leading number of a numeric text (decimal point ".", exponent E or D); 0 when
 /// the whole is not numeric.

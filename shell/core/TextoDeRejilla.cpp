@@ -18,8 +18,16 @@ QString celdaDeCSV(const QString &celda, QChar separador)
     return entrecomillada ? u'"' + QString(celda).replace(u'"', u"\"\""_s) + u'"' : celda;
 }
 
+/// A cell of nothing but dots stands for what is left out.
+bool esDePuntos(const QString &celda)
+{
+    return celda.size() > 1 && celda.count(u'·') == celda.size();
+}
+
 QString celdaDeTeX(const QString &celda)
 {
+    if (esDePuntos(celda))
+        return u"$\\cdots$"_s;
     QString s;
     for (const QChar c : celda) {
         switch (c.unicode()) {
@@ -104,4 +112,16 @@ QString textoDeRejilla(const QList<QStringList> &filas, FormaDeCopia forma, bool
     for (const QStringList &fila : filas)
         escritor.agrega(fila);
     return escritor.termina();
+}
+
+QList<QStringList> filasDeTexto(QString texto)
+{
+    texto.replace(u"\r\n"_s, u"\n"_s);
+    if (texto.endsWith(u'\n'))
+        texto.chop(1);
+    QList<QStringList> filas;
+    const QStringList lineas = texto.split(u'\n');
+    for (const QString &linea : lineas)
+        filas << linea.split(u'\t');
+    return filas;
 }

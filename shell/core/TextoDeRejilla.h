@@ -34,3 +34,7 @@ private:
 /// The same for rows that are all at hand.
 QString textoDeRejilla(const QList<QStringList> &filas, FormaDeCopia forma,
                        bool comaDecimal = true);
+
+/// The rows of a text in which lines stand for rows and tabs between cells, as spreadsheets copy
+/// them; line ends may be CR LF, and the last one may be missing.
+QList<QStringList> filasDeTexto(QString texto);

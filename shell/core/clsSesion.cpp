@@ -1,18 +1,13 @@
 #include "shell/core/clsSesion.h"
 
 #include "bignum/gateway/Azar.h"
-#include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/system/Cuenta.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
-#include <array>
-#include <cmath>
-#include <limits>
-#include <pwd.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -80,20 +75,13 @@ QString clsSesión::AVIError() const
 
 QString clsSesión::UserName() const
 {
-    passwd cuenta;
-    passwd *hallada = nullptr;
-    std::array<char, 16384> bufer;
-    if (getpwuid_r(getuid(), &cuenta, bufer.data(), bufer.size(), &hallada) != 0 || !hallada)
-        return {};
-    return QFile::decodeName(hallada->pw_name).left(254);
+    constexpr qsizetype bufer = 255;
+    return nombreDeCuenta().left(bufer - 1);
 }
 
 std::int32_t clsSesión::Precisión() const
 {
-    const double valor = std::nearbyint(NumVal(lee(u"Aritmética"_s, u"Precisión"_s, u"100"_s)));
-    if (!(std::abs(valor) <= std::numeric_limits<std::int32_t>::max()))
-        throw ErrorEjecucion(ErrorEjecucion::Desbordamiento);
-    return static_cast<std::int32_t>(valor);
+    return aEntero32(NumVal(lee(u"Aritmética"_s, u"Precisión"_s, u"100"_s)));
 }
 
 void clsSesión::ponPrecisión(std::int32_t digitos)
@@ -125,8 +113,25 @@ void clsSesión::anota(const QString &clave, const QVariant &valor)
     m_almacen.sync();
 }
 
+namespace {
+
+std::unique_ptr<clsSesión> &puesta()
+{
+    static std::unique_ptr<clsSesión> sesion;
+    return sesion;
+}
+
+} // namespace
+
 clsSesión &Sesión()
 {
-    static clsSesión sesion(QCoreApplication::applicationDirPath());
-    return sesion;
+    if (!puesta())
+        puesta() = std::make_unique<clsSesión>(QCoreApplication::applicationDirPath());
+    return *puesta();
+}
+
+std::unique_ptr<clsSesión> ponSesión(std::unique_ptr<clsSesión> otra)
+{
+    std::swap(puesta(), otra);
+    return otra;
 }

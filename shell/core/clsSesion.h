@@ -3,6 +3,7 @@
 #include <QSettings>
 #include <QString>
 #include <cstdint>
+#include <memory>
 
 /// The settings of the user who runs the program. Every property but the working folder is read
 /// from or written to the settings store on each access.
@@ -56,3 +57,7 @@ private:
 
 /// The one session of the process, created at its first use.
 clsSesión &Sesión();
+
+/// Puts another one there and gives back the one that stood there; after null the next use creates
+/// one.
+std::unique_ptr<clsSesión> ponSesión(std::unique_ptr<clsSesión> otra);

@@ -1,8 +1,9 @@
 #include "shell/frame/FormLeccion.h"
 
+#include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/core/PaginaTraducida.h"
-#include "shell/frame/Evento.h"
+#include "shell/core/Traduccion.h"
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/NavegadorPagina.h"
 #include "shell/look/Aspecto.h"
@@ -12,6 +13,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
+#include <QScopeGuard>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTimer>
@@ -46,8 +48,7 @@ QString FormLeccion::URL() const
 
 void FormLeccion::muestraAyuda() const
 {
-    if (!URL().isEmpty())
-        interlocutor().abre(PaginaTraducida(URL(), Idioma()));
+    interlocutor().abre(PaginaTraducida(URL(), Idioma()));
 }
 
 void FormLeccion::cierra()
@@ -55,10 +56,27 @@ void FormLeccion::cierra()
     marco()->close();
 }
 
+void FormLeccion::cierraSinPreguntar()
+{
+    m_cierrePermitido = true;
+    cierra();
+}
+
 void FormLeccion::detenCorrida()
 {
-    if (QAbstractButton *boton = botonDeParada())
+    if (QAbstractButton *boton = botonEnMarcha())
         boton->click();
+}
+
+QAbstractButton *FormLeccion::botonEnMarcha() const
+{
+    // Of several runs it is the one in sight that is meant.
+    QAbstractButton *hallado = nullptr;
+    for (const BotonDeCorrida *corrida : findChildren<BotonDeCorrida *>()) {
+        if (corrida->enMarcha() && (!hallado || corrida->boton()->isVisible()))
+            hallado = corrida->boton();
+    }
+    return hallado ? hallado : botonDeParada();
 }
 
 void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel)
@@ -110,7 +128,12 @@ void FormLeccion::tsTema_Click(int indice)
 
 void FormLeccion::closeEvent(QCloseEvent *suceso)
 {
-    if (!m_descargada && !permiteCerrar()) {
+    if (!m_cierrePermitido && !m_preguntando) {
+        m_enCierre = true;
+        m_tareas.lanza(pideCierre());
+        m_enCierre = false;
+    }
+    if (!m_cierrePermitido) {
         suceso->ignore();
         return;
     }
@@ -121,6 +144,28 @@ void FormLeccion::closeEvent(QCloseEvent *suceso)
         return;
     suceso->ignore();
     desaparece();
+}
+
+/// Nothing can be asked while the event waits: where an answer is needed, the window stays, and is
+/// closed again once the user has allowed it.
+Tarea<> FormLeccion::pideCierre()
+{
+    m_preguntando = true;
+    const auto respondido = qScopeGuard([this] { m_preguntando = false; });
+    m_cierrePermitido = co_await puedeCerrarse();
+    if (m_cierrePermitido && !m_enCierre)
+        cierra();
+}
+
+Tarea<bool> FormLeccion::puedeCerrarse()
+{
+    co_return permiteCerrar();
+}
+
+void FormLeccion::guardaLoPendiente()
+{
+    for (CopiaDeTrabajo *copia : findChildren<CopiaDeTrabajo *>())
+        copia->guarda();
 }
 
 void FormLeccion::desaparece()
@@ -153,7 +198,7 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         return true;
     }
     if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
-        botonDeParada()) {
+        botonEnMarcha()) {
         evento(this, [this] { detenCorrida(); });
         return true;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/core/Corrida.h"
+#include "shell/frame/Evento.h"
 
 #include <QString>
 #include <QWidget>
@@ -32,10 +33,25 @@ public:
     /// Closes the window as its close button would.
     void cierra();
 
+    /// Closes it without asking, because the user has been asked or cannot be.
+    void cierraSinPreguntar();
+
     /// Stops the run in progress as its stop button would; nothing without one.
     void detenCorrida();
 
     Corrida &corrida() { return m_corrida; }
+
+    /// The stop line that the runs of the lesson's panels share.
+    const std::shared_ptr<Parada> &parada() const { return m_parada; }
+
+    /// Whether the window may be closed: asks about unsaved work where there is some, and waits for
+    /// the answer.
+    virtual Tarea<bool> puedeCerrarse();
+
+    /// Keeps unsaved work where the next start finds it, without asking: the session ends. Brings
+    /// the copies of the window's work up to date. Throws ErrorEjecucion when one cannot be
+    /// written.
+    virtual void guardaLoPendiente();
 
 Q_SIGNALS:
     /// The user has closed the window; it is not to be shown again.
@@ -68,11 +84,18 @@ private:
     int indiceDeTema(const QString &clave) const;
     void tsTema_Click(int indice);
     void desaparece();
+    Tarea<> pideCierre();
+    QAbstractButton *botonEnMarcha() const;
     QWidget *marco();
 
     QString m_pagina;
     QTabBar *m_tsTema;
     QStackedWidget *m_paneles;
     Corrida m_corrida;
+    std::shared_ptr<Parada> m_parada = std::make_shared<Parada>();
     bool m_descargada = false;
+    bool m_cierrePermitido = false;
+    bool m_enCierre = false;
+    bool m_preguntando = false;
+    TareasDeVentana m_tareas{this, m_parada};
 };

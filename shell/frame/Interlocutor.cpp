@@ -2,6 +2,7 @@
 
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
+#include "shell/core/run/Espera.h"
 
 #include <QAbstractButton>
 #include <QDesktopServices>
@@ -12,6 +13,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
@@ -94,9 +96,198 @@ QString paraLaCaja(QString texto)
     return texto;
 }
 
+/// A dialog that a task has opened. It goes when the task does, or with its parent.
+class Abierto
+{
+public:
+    explicit Abierto(QDialog *dialogo) : m_dialogo(dialogo)
+    {
+        // Over a window that is at work, the box is not.
+        m_dialogo->setCursor(Qt::ArrowCursor);
+        m_dialogo->setWindowModality(Qt::ApplicationModal);
+        QObject::connect(dialogo, &QDialog::finished, m_respondido.contexto(),
+                         [this](int resultado) {
+                             m_resultado = resultado;
+                             m_respondido.cumple();
+                         });
+        QObject::connect(dialogo, &QObject::destroyed, m_respondido.contexto(),
+                         [this] { m_respondido.cumple(); });
+        m_dialogo->show();
+    }
+    Abierto(const Abierto &) = delete;
+    Abierto &operator=(const Abierto &) = delete;
+    ~Abierto()
+    {
+        if (!m_dialogo)
+            return;
+        m_dialogo->hide();
+        m_dialogo->deleteLater();
+    }
+
+    Espera &respondido() { return m_respondido; }
+
+    /// Of `QDialog::done`; Rejected when it went away without an answer.
+    int resultado() const { return m_dialogo ? m_resultado : int(QDialog::Rejected); }
+
+private:
+    QPointer<QDialog> m_dialogo;
+    Espera m_respondido;
+    int m_resultado = QDialog::Rejected;
+};
+
+QMessageBox *creaCaja(QWidget *padre, QMessageBox::Icon icono, const QString &texto,
+                      const QString &titulo, QMessageBox::StandardButtons botones)
+{
+    auto *caja = new QMessageBox(icono, titulo, paraLaCaja(texto), botones, padre);
+    caja->setTextFormat(Qt::PlainText);
+    // A short text would leave no room for the title.
+    if (auto *rejilla = qobject_cast<QGridLayout *>(caja->layout())) {
+        const int anchoDeBotones = 160;
+        rejilla->addItem(
+            new QSpacerItem(caja->fontMetrics().horizontalAdvance(titulo) + anchoDeBotones, 0),
+            rejilla->rowCount(), 0, 1, rejilla->columnCount());
+    }
+    return caja;
+}
+
+QMessageBox *creaAviso(QWidget *padre, Interlocutor::Icono icono, const QString &texto,
+                       const QString &titulo)
+{
+    auto *caja = creaCaja(padre, iconoDeCaja(icono), texto, titulo, QMessageBox::Ok);
+    caja->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return caja;
+}
+
+QFileDialog *creaDialogo(QWidget *padre, const QString &titulo)
+{
+    auto *dialogo = new QFileDialog(padre, titulo);
+    // The provider must outlive the dialog, which asks it until the end.
+    static TiposDeArchivo tipos;
+    dialogo->setIconProvider(&tipos);
+    return dialogo;
+}
+
 } // namespace
 
 Interlocutor::~Interlocutor() = default;
+
+void Interlocutor::avisa(QWidget *padre, Icono icono, const QString &texto, const QString &titulo)
+{
+    QMessageBox *caja = creaAviso(padre, icono, texto, titulo);
+    caja->setAttribute(Qt::WA_DeleteOnClose);
+    caja->setCursor(Qt::ArrowCursor);
+    caja->setWindowModality(Qt::ApplicationModal);
+    caja->show();
+}
+
+Tarea<> Interlocutor::avisaYEspera(QWidget *padre, Icono icono, QString texto, QString titulo)
+{
+    Abierto caja(creaAviso(padre, icono, texto, titulo));
+    co_await caja.respondido();
+}
+
+Tarea<QString> Interlocutor::preguntaTexto(QWidget *padre, QString pregunta, QString titulo)
+{
+    QPointer<QInputDialog> dialogo = new QInputDialog(padre);
+    dialogo->setWindowTitle(titulo);
+    dialogo->setLabelText(pregunta);
+    Abierto abierto(dialogo);
+    co_await abierto.respondido();
+    co_return abierto.resultado() == QDialog::Accepted ? dialogo->textValue() : QString();
+}
+
+Tarea<bool> Interlocutor::preguntaSiNo(QWidget *padre, QString pregunta, QString titulo)
+{
+    auto *caja = creaCaja(padre, QMessageBox::Question, pregunta, titulo,
+                          QMessageBox::Yes | QMessageBox::No);
+    caja->setDefaultButton(QMessageBox::No);
+    Abierto abierto(caja);
+    co_await abierto.respondido();
+    co_return abierto.resultado() == QMessageBox::Yes;
+}
+
+Tarea<Interlocutor::Guardado> Interlocutor::preguntaGuardar(QWidget *padre, QString texto,
+                                                            QString titulo)
+{
+    auto *caja = creaCaja(padre, QMessageBox::Question, texto, titulo,
+                          QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    caja->setDefaultButton(QMessageBox::Save);
+    caja->button(QMessageBox::Discard)->setText(Traduce(u"&No guardar"_s));
+    Abierto abierto(caja);
+    co_await abierto.respondido();
+    switch (abierto.resultado()) {
+    case QMessageBox::Save:
+        co_return Guardado::Guardar;
+    case QMessageBox::Discard:
+        co_return Guardado::Descartar;
+    default:
+        co_return Guardado::Cancelar;
+    }
+}
+
+Tarea<QString> Interlocutor::eligeArchivoParaAbrir(QWidget *padre, QString titulo,
+                                                   QString propuesta, QStringList filtros)
+{
+    QPointer<QFileDialog> dialogo = creaDialogo(padre, titulo);
+    dialogo->setFileMode(QFileDialog::ExistingFile);
+    prepara(*dialogo, propuesta, filtros);
+    Abierto abierto(dialogo);
+    co_await abierto.respondido();
+    co_return abierto.resultado() == QDialog::Accepted ? dialogo->selectedFiles().constFirst()
+                                                       : QString();
+}
+
+Tarea<Interlocutor::Archivo> Interlocutor::eligeArchivoParaGuardar(QWidget *padre, QString titulo,
+                                                                   QString propuesta,
+                                                                   QStringList filtros)
+{
+    QPointer<QFileDialog> dialogo = creaDialogo(padre, titulo);
+    dialogo->setAcceptMode(QFileDialog::AcceptSave);
+    prepara(*dialogo, propuesta, filtros);
+    dialogo->setDefaultSuffix(extension(filtros.value(0)));
+    QObject::connect(
+        dialogo, &QFileDialog::filterSelected, dialogo,
+        [d = dialogo.data()](const QString &filtro) { d->setDefaultSuffix(extension(filtro)); });
+    Abierto abierto(dialogo);
+    co_await abierto.respondido();
+    if (abierto.resultado() != QDialog::Accepted)
+        co_return Archivo{};
+    const auto filtro = static_cast<int>(filtros.indexOf(dialogo->selectedNameFilter()));
+    co_return Archivo{dialogo->selectedFiles().constFirst(), std::max(filtro, 0)};
+}
+
+Tarea<bool> Interlocutor::eligeImpresora(QWidget *padre, std::shared_ptr<QPrinter> impresora,
+                                         QString titulo)
+{
+    auto *dialogo = new QPrintDialog(impresora.get(), padre);
+    dialogo->setWindowTitle(titulo);
+    Abierto abierto(dialogo);
+    co_await abierto.respondido();
+    co_return abierto.resultado() == QDialog::Accepted;
+}
+
+Tarea<QString> Interlocutor::eligeCarpeta(QWidget *padre, QString pregunta, QString inicial)
+{
+    QPointer<QFileDialog> dialogo = creaDialogo(padre, Traduce(u"Seleccionar carpeta"_s));
+    dialogo->setDirectory(rutaExistente(inicial));
+    dialogo->setFileMode(QFileDialog::Directory);
+    dialogo->setOption(QFileDialog::ShowDirsOnly);
+    // The desktop's own dialog has no place for the question.
+    dialogo->setOption(QFileDialog::DontUseNativeDialog);
+    static TiposDeArchivo tipos; // another view is made with the option
+    dialogo->setIconProvider(&tipos);
+    dialogo->setViewMode(QFileDialog::List); // size and kind of a folder say nothing
+    if (auto *rejilla = qobject_cast<QGridLayout *>(dialogo->layout())) {
+        auto *rotulo = new QLabel(pregunta, dialogo);
+        rotulo->setTextFormat(Qt::PlainText);
+        rotulo->setWordWrap(true);
+        rejilla->addWidget(rotulo, rejilla->rowCount(), 0, 1, rejilla->columnCount());
+    }
+    Abierto abierto(dialogo);
+    co_await abierto.respondido();
+    co_return abierto.resultado() == QDialog::Accepted ? dialogo->selectedFiles().value(0)
+                                                       : QString();
+}
 
 void Interlocutor::mensaje(QWidget *padre, Icono icono, const QString &texto, const QString &titulo)
 {

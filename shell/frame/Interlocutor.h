@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/core/run/Tarea.h"
+
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -10,12 +12,28 @@ class QWidget;
 /// Everything by which the program speaks to the user or the desktop outside its own windows:
 /// message boxes, questions, files to choose, the system's browser, other programs. One object
 /// stands behind it; the gallery and the tests put their own there.
+///
+/// Questions are awaited: no event loop runs inside them. Whoever asks is gone on with when the
+/// user has answered, and when its window is gone the question goes with it. A parent that dies
+/// takes its box along, which counts as cancelled.
 class Interlocutor
 {
 public:
     enum class Icono { Informacion, Exclamacion, Critico };
 
     virtual ~Interlocutor();
+
+    /// Shows a message box and does not wait for it.
+    virtual void avisa(QWidget *padre, Icono icono, const QString &texto, const QString &titulo);
+
+    /// The same, and waits until the user has closed it.
+    virtual Tarea<> avisaYEspera(QWidget *padre, Icono icono, QString texto, QString titulo);
+
+    /// A line of text; empty when the user cancels.
+    virtual Tarea<QString> preguntaTexto(QWidget *padre, QString pregunta, QString titulo);
+
+    /// Whether the user says yes to a question; the answer at hand is no.
+    virtual Tarea<bool> preguntaSiNo(QWidget *padre, QString pregunta, QString titulo);
 
     virtual void mensaje(QWidget *padre, Icono icono, const QString &texto, const QString &titulo);
 
@@ -27,6 +45,8 @@ public:
     /// Whether unsaved work is to be saved before it goes away. Closing the box is Cancelar.
     virtual Guardado preguntaSiGuarda(QWidget *padre, const QString &texto, const QString &titulo);
 
+    virtual Tarea<Guardado> preguntaGuardar(QWidget *padre, QString texto, QString titulo);
+
     struct Archivo
     {
         QString ruta;   ///< empty when the user cancels
@@ -35,19 +55,26 @@ public:
 
     /// An existing file. `filtros` are "Hojas de MiniCal (*.minical)" and the like; `propuesta` is
     /// a folder or a file, and may be empty.
+    virtual Tarea<QString> eligeArchivoParaAbrir(QWidget *padre, QString titulo, QString propuesta,
+                                                 QStringList filtros);
     virtual QString pideArchivoParaAbrir(QWidget *padre, const QString &titulo,
                                          const QString &propuesta, const QStringList &filtros);
 
     /// A file to write; the user has been asked about one that exists. A name without an extension
     /// gets that of the chosen filter.
+    virtual Tarea<Archivo> eligeArchivoParaGuardar(QWidget *padre, QString titulo,
+                                                   QString propuesta, QStringList filtros);
     virtual Archivo pideArchivoParaGuardar(QWidget *padre, const QString &titulo,
                                            const QString &propuesta, const QStringList &filtros);
 
     /// Lets the user choose a printer and its settings; false when the user cancels.
+    virtual Tarea<bool> eligeImpresora(QWidget *padre, std::shared_ptr<QPrinter> impresora,
+                                       QString titulo);
     virtual bool pideImpresora(QWidget *padre, QPrinter &impresora, const QString &titulo);
 
     /// An existing folder, looked for from `inicial` on, under the lines of `pregunta`; empty when
     /// the user cancels.
+    virtual Tarea<QString> eligeCarpeta(QWidget *padre, QString pregunta, QString inicial);
     virtual QString pideCarpeta(QWidget *padre, const QString &pregunta, const QString &inicial);
 
     /// Whether the user says yes to a question; the answer at hand is no.

@@ -8,16 +8,6 @@
 class FormLeccion;
 class QWidget;
 
-/// A window that the main window can open.
-struct Leccion
-{
-    QString icono;  ///< resource name
-    QString rotulo; ///< caption in the menu, Spanish
-    /// Makes the window; empty while the lesson does not exist, and its row is then disabled.
-    std::function<FormLeccion *(QWidget *padre)> crea;
-    QString descripcion = {}; ///< what it teaches, a line, Spanish
-};
-
 /// One step of a scene of the gallery: what a student would do to bring a window into a state.
 struct Paso
 {
@@ -28,12 +18,10 @@ struct Paso
     QString valor;
 };
 
-/// A picture of the gallery: a lesson, one of its topics, and the steps before the picture is
-/// taken.
+/// A picture of the gallery: a topic of a lesson, and the steps before the picture is taken.
 struct Escena
 {
     QString nombre; ///< file name without extension
-    int fila;       ///< row of the lesson menu; -1 is the spreadsheet
     QString tema;   ///< key of the topic
     QList<Paso> pasos = {};
     /// The last step starts a run: the picture is taken while it runs, and then it is stopped.
@@ -42,12 +30,22 @@ struct Escena
     std::chrono::milliseconds tras{1500};
 };
 
+/// A window that the main window can open.
+struct Leccion
+{
+    QString icono;  ///< resource name
+    QString rotulo; ///< caption in the menu, Spanish
+    /// Makes the window; empty while the lesson does not exist, and its row is then disabled.
+    std::function<FormLeccion *(QWidget *padre)> crea;
+    QString descripcion = {}; ///< what it teaches, a line, Spanish
+    /// Gives its pictures for the gallery, which asks for them once it stands on settings of its
+    /// own: some scenes name the user.
+    std::function<QList<Escena>()> escenas = {};
+};
+
 /// What the program is made of. `main.cpp` writes it down; the shell knows no lesson by name.
 struct Contenido
 {
     QList<Leccion> lecciones; ///< the rows of the menu, top to bottom
     Leccion hojaDeCalculo;
-    /// Gives the scenes of the gallery. They are made when it asks for them: some name the user,
-    /// and the settings that they look into are not the user's there.
-    std::function<QList<Escena>()> escenas;
 };

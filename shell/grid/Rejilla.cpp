@@ -1,15 +1,19 @@
 #include "shell/grid/Rejilla.h"
 
+#include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/frame/Interlocutor.h"
+#include "shell/grid/AvanceDeCopia.h"
 #include "shell/look/Aspecto.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QLocale>
 #include <QMenu>
 #include <QPainter>
+#include <array>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -32,22 +36,13 @@ void Rejilla::ponTextoVacio(const QString &texto)
     viewport()->update();
 }
 
-QString Rejilla::seleccion(FormaDeCopia forma) const
+Tarea<Copia> Rejilla::seleccion(FormaDeCopia forma, AvanceDeFilas avance, Billete billete)
 {
     if (!model() || model()->rowCount() == 0)
-        return {};
-    QItemSelectionRange rango = elegido();
-    const bool todo = !rango.isValid() || (rango.width() == 1 && rango.height() == 1);
-    if (todo)
-        rango = contenido();
-    EscritorDeRejilla escritor(forma, rango.width() + (m_rotulosDeFila ? 1 : 0),
-                               QLocale().decimalPoint() == u","_s);
-    const bool columnasEnteras = todo || rango.height() == model()->rowCount();
-    if (columnasEnteras && !horizontalHeader()->isHidden())
-        escritor.agrega(cabecera(rango));
-    for (int f = rango.top(); f <= rango.bottom(); ++f)
-        escritor.agrega(fila(f, rango));
-    return escritor.termina();
+        co_return Copia();
+    Copia hecha =
+        co_await copiaCeldas(model(), elegidas(), forma, std::move(avance), std::move(billete));
+    co_return hecha;
 }
 
 /// The selected cells; not valid when there are none.
@@ -56,42 +51,46 @@ QItemSelectionRange Rejilla::elegido() const
     return selectionModel() ? selectionModel()->selection().value(0) : QItemSelectionRange();
 }
 
-/// All cells; of a grid to write in, the empty rows at its end are no contents.
-QItemSelectionRange Rejilla::contenido() const
+CeldasPorCopiar Rejilla::elegidas() const
 {
-    const auto hasta = [this](int ultima) {
-        return QItemSelectionRange(model()->index(0, 0),
-                                   model()->index(ultima, model()->columnCount() - 1));
-    };
-    int ultima = model()->rowCount() - 1;
-    while (ultima > 0 && fila(ultima, hasta(ultima)).join(QString()).isEmpty())
-        --ultima;
-    return hasta(ultima);
-}
-
-QStringList Rejilla::cabecera(const QItemSelectionRange &rango) const
-{
-    QStringList celdas(m_rotulosDeFila ? 1 : 0);
-    for (int c = rango.left(); c <= rango.right(); ++c)
-        celdas << model()->headerData(c, Qt::Horizontal).toString();
+    const QItemSelectionRange rango = elegido();
+    const bool todas = !rango.isValid() || (rango.width() == 1 && rango.height() == 1);
+    const bool enteras = todas || rango.height() == model()->rowCount();
+    CeldasPorCopiar celdas{rango.top(), rango.bottom(), rango.left(), rango.right()};
+    if (todas)
+        celdas = {0, model()->rowCount() - 1, 0, model()->columnCount() - 1};
+    celdas.conCabecera = enteras && !horizontalHeader()->isHidden();
+    celdas.conRotulos = m_rotulosDeFila;
+    celdas.sinFinal = todas;
     return celdas;
 }
 
-QStringList Rejilla::fila(int numero, const QItemSelectionRange &rango) const
+Tarea<> Rejilla::copia(FormaDeCopia forma)
 {
-    QStringList celdas;
-    if (m_rotulosDeFila)
-        celdas << model()->headerData(numero, Qt::Vertical).toString();
-    for (int c = rango.left(); c <= rango.right(); ++c)
-        celdas << model()->index(numero, c).data().toString();
-    return celdas;
-}
-
-void Rejilla::copia(FormaDeCopia forma) const
-{
-    const QString texto = seleccion(forma);
-    if (!texto.isEmpty())
-        QApplication::clipboard()->setText(texto);
+    if (!model())
+        co_return;
+    // A later copy takes the place of the one that is on.
+    m_tareas.detener();
+    if (!m_avance)
+        m_avance = new AvanceDeCopia(this);
+    const auto marcha = m_avance->empieza(model()->rowCount(), m_tareas.billete());
+    const Copia hecha = co_await seleccion(
+        forma, [avance = m_avance](int filas) { avance->ponHechas(filas); }, marcha.billete());
+    if (hecha.fin == Copia::NoCabe)
+        interlocutor().avisa(
+            this, Interlocutor::Icono::Informacion,
+            Traduce(
+                u"Es demasiado para copiarlo de una vez: caben %1 celdas y %2 caracteres. Elija "
+                u"menos filas o menos columnas."_s)
+                .arg(formatoEntero(Copia::MaximoDeCeldas),
+                     formatoEntero(Copia::MaximoDeCaracteres)),
+            Traduce(u"No se ha copiado"_s));
+    if (hecha.fin == Copia::Detenida && !marcha.billete().detenida())
+        interlocutor().avisa(this, Interlocutor::Icono::Informacion,
+                             Traduce(u"La tabla ha cambiado mientras se copiaba."_s),
+                             Traduce(u"No se ha copiado"_s));
+    if (!hecha.texto.isEmpty())
+        QApplication::clipboard()->setText(hecha.texto);
 }
 
 void Rejilla::keyPressEvent(QKeyEvent *suceso)
@@ -104,19 +103,26 @@ void Rejilla::keyPressEvent(QKeyEvent *suceso)
     if (rango.isValid() && rango.width() == 1 && rango.height() == 1)
         QApplication::clipboard()->setText(rango.topLeft().data().toString());
     else
-        copia(FormaDeCopia::Texto);
+        m_tareas.lanza(copia(FormaDeCopia::Texto));
 }
 
 void Rejilla::contextMenuEvent(QContextMenuEvent *suceso)
 {
-    QMenu menu(this);
-    menu.addAction(Traduce(u"&Copiar"_s), this, [this] { copia(FormaDeCopia::Texto); });
-    menu.addAction(Traduce(u"Copiar como C&SV"_s), this, [this] { copia(FormaDeCopia::CSV); });
-    menu.addAction(Traduce(u"Copiar como &TeX"_s), this, [this] { copia(FormaDeCopia::TeX); });
-    menu.addSeparator();
-    menu.addAction(Traduce(u"Seleccionar &todo"_s), this, &QTableView::selectAll);
-    menu.setEnabled(model() && model()->rowCount() > 0);
-    menu.exec(suceso->globalPos());
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const std::array<std::pair<QString, FormaDeCopia>, 3> formas{
+        {{u"&Copiar"_s, FormaDeCopia::Texto},
+         {u"Copiar como C&SV"_s, FormaDeCopia::CSV},
+         {u"Copiar como &TeX"_s, FormaDeCopia::TeX}}};
+    for (const auto &[rotulo, forma] : formas) {
+        conecta(menu->addAction(Traduce(rotulo)), &QAction::triggered, this,
+                [this, forma = forma] { m_tareas.lanza(copia(forma)); });
+    }
+    menu->addSeparator();
+    conecta(menu->addAction(Traduce(u"Seleccionar &todo"_s)), &QAction::triggered, this,
+            &QTableView::selectAll);
+    menu->setEnabled(model() && model()->rowCount() > 0);
+    menu->popup(suceso->globalPos());
 }
 
 void Rejilla::paintEvent(QPaintEvent *suceso)

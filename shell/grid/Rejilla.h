@@ -1,13 +1,16 @@
 #pragma once
 
-#include "shell/core/TextoDeRejilla.h"
+#include "shell/core/CopiaDeCeldas.h"
+#include "shell/frame/Evento.h"
 
 #include <QItemSelection>
 #include <QTableView>
 
+class AvanceDeCopia;
+
 /// The grid of every lesson: a table view whose cells can be copied by Ctrl+C and from its context
 /// menu, as text, CSV or TeX, with headers when whole columns are taken; with a hint in the middle
-/// while it is empty.
+/// while it is empty. A long copy is a run, which shows how far it is and can be stopped.
 class Rejilla : public QTableView
 {
     Q_OBJECT
@@ -22,7 +25,10 @@ public:
     void ponRotulosDeFilaEnCopia(bool con) { m_rotulosDeFila = con; }
 
     /// The selected cells (all when none or one is selected), in their form; empty without rows.
-    QString seleccion(FormaDeCopia forma) const;
+    Tarea<Copia> seleccion(
+        FormaDeCopia forma, AvanceDeFilas avance = [](int) {}, Billete billete = {});
+
+    Tareas &tareas() { return m_tareas; }
 
 protected:
     void keyPressEvent(QKeyEvent *suceso) override;
@@ -31,11 +37,11 @@ protected:
 
 private:
     QItemSelectionRange elegido() const;
-    QItemSelectionRange contenido() const;
-    QStringList cabecera(const QItemSelectionRange &rango) const;
-    QStringList fila(int numero, const QItemSelectionRange &rango) const;
-    void copia(FormaDeCopia forma) const;
+    CeldasPorCopiar elegidas() const;
+    Tarea<> copia(FormaDeCopia forma);
 
     QString m_textoVacio;
+    AvanceDeCopia *m_avance = nullptr; ///< made by the first copy
     bool m_rotulosDeFila = false;
+    TareasDeVentana m_tareas{this};
 };

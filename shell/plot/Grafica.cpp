@@ -2,6 +2,7 @@
 
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"
 #include "shell/plot/EjeDeGrafica.h"
 #include "shell/plot/PintorDeGrafica.h"
@@ -313,10 +314,12 @@ void Grafica::changeEvent(QEvent *suceso)
 
 void Grafica::contextMenuEvent(QContextMenuEvent *suceso)
 {
-    QMenu menu(this);
-    menu.addAction(Traduce(u"&Copiar la gráfica"_s), this,
-                   [this] { QApplication::clipboard()->setPixmap(grab()); });
-    menu.addAction(Traduce(u"&Ver todo"_s), this, &Grafica::muestraTodo);
-    menu.setEnabled(!m_puntos.isEmpty());
-    menu.exec(suceso->globalPos());
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    conecta(menu->addAction(Traduce(u"&Copiar la gráfica"_s)), &QAction::triggered, this,
+            [this] { QApplication::clipboard()->setPixmap(grab()); });
+    conecta(menu->addAction(Traduce(u"&Ver todo"_s)), &QAction::triggered, this,
+            &Grafica::muestraTodo);
+    menu->setEnabled(!m_puntos.isEmpty());
+    menu->popup(suceso->globalPos());
 }

@@ -27,7 +27,7 @@ formAcercaDe::formAcercaDe(QWidget *padre)
     ui->lblDisclaimer->setCursor(Cursor(u"MANO"_s, {10, 3}));
     ui->lblDisclaimer->installEventFilter(this);
     setWindowIcon(Icono(u"NUMORA"_s));
-    const QString titulo = QApplication::applicationDisplayName();
+    const QString titulo = QApplication::applicationName();
     setWindowTitle(Traduce(u"Acerca de "_s) + titulo);
     const auto version = QVersionNumber::fromString(QApplication::applicationVersion());
     ui->lblVersion->setText(Traduce(u"Versión beta "_s) +
@@ -66,9 +66,9 @@ void formAcercaDe::cmdSysInfo_Click()
                                                  {u"gnome-system-monitor"_s},
                                                  {u"lshw-gtk"_s}};
     if (!interlocutor().lanzaAlguno(herramientas))
-        interlocutor().mensaje(parentWidget(), Interlocutor::Icono::Informacion,
-                               Traduce(u"System Information Is Unavailable At This Time"_s),
-                               windowTitle());
+        interlocutor().avisa(parentWidget(), Interlocutor::Icono::Informacion,
+                             Traduce(u"System Information Is Unavailable At This Time"_s),
+                             windowTitle());
 }
 
 void formAcercaDe::lblDisclaimer_Click()

@@ -2,7 +2,6 @@
 
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Evento.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
@@ -16,11 +15,10 @@
 
 #include <QActionGroup>
 #include <QApplication>
-#include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QScreen>
-#include <QStyle>
+#include <QSplitter>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -31,7 +29,8 @@ FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
       m_lecciones(contenido.lecciones),
       m_hojaDeCalculo(contenido.hojaDeCalculo),
       m_timerPresentacion(new QTimer(this)),
-      m_timerLogo(new QTimer(this))
+      m_timerLogo(new QTimer(this)),
+      m_timerTamano(new QTimer(this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -49,6 +48,10 @@ FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
     conecta(m_timerLogo, &QTimer::timeout, this, &FormPrincipal::TimerLogo_Timer);
     m_timerPresentacion->setObjectName(u"TimerPresentacion"_s);
     m_timerPresentacion->setInterval(6s);
+    m_timerTamano->setSingleShot(true);
+    m_timerTamano->setInterval(300ms);
+    connect(m_timerTamano, &QTimer::timeout, this, &FormPrincipal::anotaTamanos);
+    connect(ui->Divisor, &QSplitter::splitterMoved, m_timerTamano, qOverload<>(&QTimer::start));
 }
 
 FormPrincipal::~FormPrincipal()
@@ -144,66 +147,6 @@ void FormPrincipal::recuperaTamano()
     }
 }
 
-void FormPrincipal::guardaTamano() const
-{
-    Sesión().anota(u"Ventana/Geometria"_s, saveGeometry());
-    Sesión().anota(u"Ventana/Division"_s, ui->Divisor->saveState());
-}
-
-FormLeccion *FormPrincipal::abreLeccion(int fila)
-{
-    const bool esHoja = fila == FilaHojaDeCalculo;
-    if (!esHoja && (fila < 0 || fila >= m_lecciones.size()))
-        return nullptr;
-    const Leccion &leccion = esHoja ? m_hojaDeCalculo : m_lecciones[fila];
-    if (!leccion.crea)
-        return nullptr;
-    QPointer<FormLeccion> &abierta = m_abiertas[fila];
-    if (!abierta) {
-        abierta = leccion.crea(nullptr);
-        connect(abierta, &FormLeccion::descargada, this, [this, fila] { m_abiertas.remove(fila); });
-        colocaVentana(abierta);
-    }
-    auto *ventana = qobject_cast<QMdiSubWindow *>(abierta->parentWidget());
-    if (ventana->isMinimized())
-        ventana->showNormal();
-    ui->AreaDeTrabajo->setActiveSubWindow(ventana);
-    return abierta;
-}
-
-void FormPrincipal::colocaVentana(FormLeccion *leccion)
-{
-    auto *ventana = new QMdiSubWindow;
-    // The system menu of a child window has a Ctrl+W of its own, which would make the main window's
-    // ambiguous; everything in it is in the menu "Ventana" and on the title bar.
-    ventana->setSystemMenu(nullptr);
-    ventana->setWidget(leccion);
-    ventana->setAttribute(Qt::WA_DeleteOnClose);
-    ui->AreaDeTrabajo->addSubWindow(ventana);
-    ventana->setWindowIcon(leccion->windowIcon());
-
-    const QString clave = u"Ventanas/%1"_s.arg(leccion->objectName());
-    const int escalon = ventana->style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    const int desplazamiento = escalon * static_cast<int>((m_abiertas.size() - 1) % 4);
-    const QSize area = ui->AreaDeTrabajo->viewport()->size();
-    const QSize libre = area - QSize(desplazamiento, desplazamiento);
-    const QSize propuesto = ventana->sizeHint().expandedTo(area * 0.9).boundedTo(libre);
-    ventana->resize(Sesión().recuerda(clave, propuesto).toSize().boundedTo(area));
-    ventana->move(desplazamiento, desplazamiento);
-    connect(leccion, &FormLeccion::descargada, this, [ventana, clave] {
-        if (!ventana->isMaximized() && !ventana->isMinimized())
-            Sesión().anota(clave, ventana->size());
-    });
-    ventana->show();
-}
-
-FormLeccion *FormPrincipal::leccionActiva() const
-{
-    const QMdiSubWindow *ventana = ui->AreaDeTrabajo->currentSubWindow();
-    return ventana && ventana->isVisible() ? qobject_cast<FormLeccion *>(ventana->widget())
-                                           : nullptr;
-}
-
 QWidget *FormPrincipal::muestraAcercaDe(bool presentacion)
 {
     auto *acercaDe = new formAcercaDe(this);
@@ -263,9 +206,9 @@ void FormPrincipal::Calculadora_Click()
                                                  {u"deepin-calculator"_s},
                                                  {u"xcalc"_s}};
     if (!interlocutor().lanzaAlguno(calculadoras))
-        interlocutor().mensaje(this, Interlocutor::Icono::Informacion,
-                               Traduce(u"No se encuentra ninguna calculadora en este equipo."_s),
-                               Traduce(u"Calculadora"_s));
+        interlocutor().avisa(this, Interlocutor::Icono::Informacion,
+                             Traduce(u"No se encuentra ninguna calculadora en este equipo."_s),
+                             Traduce(u"Calculadora"_s));
 }
 
 void FormPrincipal::calc_Click()
@@ -321,19 +264,19 @@ void FormPrincipal::showEvent(QShowEvent *suceso)
     ui->FlexMenu->setFocus();
 }
 
-void FormPrincipal::closeEvent(QCloseEvent *suceso)
+bool FormPrincipal::event(QEvent *suceso)
 {
-    guardaTamano();
-    ui->AreaDeTrabajo->closeAllSubWindows();
-    // A lesson with unsaved work may have refused; one that is stopping has already gone.
-    const auto ventanas = ui->AreaDeTrabajo->subWindowList();
-    const bool quedaAlguna = std::any_of(ventanas.begin(), ventanas.end(),
-                                         [](const QMdiSubWindow *v) { return v->isVisible(); });
-    suceso->setAccepted(!quedaAlguna);
+    static const QList<QEvent::Type> cambios{QEvent::Resize, QEvent::Move,
+                                             QEvent::WindowStateChange};
+    if (isVisible() && cambios.contains(suceso->type()))
+        m_timerTamano->start();
+    return QMainWindow::event(suceso);
 }
 
 bool FormPrincipal::eventFilter(QObject *objeto, QEvent *suceso)
 {
+    if (suceso->type() == QEvent::Resize && qobject_cast<QMdiSubWindow *>(objeto))
+        m_timerTamano->start();
     if (objeto == ui->FlexMenu->viewport() && suceso->type() == QEvent::MouseMove) {
         const auto *raton = static_cast<QMouseEvent *>(suceso);
         FlexMenu_MouseMove(ui->FlexMenu->indexAt(raton->position().toPoint()).row());

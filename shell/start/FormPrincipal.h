@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/frame/Evento.h"
 #include "shell/frame/Leccion.h"
 
 #include <QHash>
@@ -41,7 +42,14 @@ public:
     /// Shows the about box; as the splash it goes away by itself after some seconds.
     QWidget *muestraAcercaDe(bool presentacion);
 
+    /// Has every lesson keep its unsaved work where it is found again, asking nothing.
+    void guardaLoPendiente();
+
+    /// The same, then closes all windows and this one.
+    void terminaSinPreguntar();
+
 protected:
+    bool event(QEvent *suceso) override;
     void closeEvent(QCloseEvent *suceso) override;
     void showEvent(QShowEvent *suceso) override;
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
@@ -51,8 +59,10 @@ private:
     void preparaOrdenes();
     void preparaAspecto();
     void recuperaTamano();
-    void guardaTamano() const;
+    void anotaTamanos();
     void colocaVentana(FormLeccion *leccion);
+    QList<QPointer<FormLeccion>> abiertas() const;
+    Tarea<> pideCierre();
 
     void FlexMenu_Click(const QModelIndex &indice);
     void FlexMenu_MouseMove(int fila);
@@ -75,5 +85,10 @@ private:
     QHash<int, QPointer<FormLeccion>> m_abiertas;
     QTimer *m_timerPresentacion;
     QTimer *m_timerLogo;
+    QTimer *m_timerTamano;
     int m_filaResaltada = -1;
+    bool m_cierrePermitido = false;
+    bool m_enCierre = false;
+    bool m_preguntando = false;
+    TareasDeVentana m_tareas{this};
 };

@@ -2,6 +2,7 @@
 
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/Rutas.h"
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
@@ -23,7 +24,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextStream>
-#include <QTimer>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -34,6 +35,32 @@ namespace {
 class Callado : public Interlocutor
 {
 public:
+    void avisa(QWidget *, Icono, const QString &, const QString &) override {}
+    Tarea<> avisaYEspera(QWidget *, Icono, QString, QString) override { co_return; }
+    Tarea<QString> preguntaTexto(QWidget *, QString, QString) override { co_return QString(); }
+    Tarea<bool> preguntaSiNo(QWidget *, QString, QString) override { co_return false; }
+    Tarea<Guardado> preguntaGuardar(QWidget *, QString, QString) override
+    {
+        co_return Guardado::Descartar;
+    }
+    Tarea<QString> eligeArchivoParaAbrir(QWidget *, QString, QString, QStringList) override
+    {
+        co_return QString();
+    }
+    Tarea<Archivo> eligeArchivoParaGuardar(QWidget *, QString, QString, QStringList) override
+    {
+        co_return Archivo{};
+    }
+    Tarea<bool> eligeImpresora(QWidget *, std::shared_ptr<QPrinter>, QString) override
+    {
+        co_return false;
+    }
+    /// A folder beside the copy of the working folder, for what students share.
+    Tarea<QString> eligeCarpeta(QWidget *, QString, QString) override
+    {
+        QDir().mkpath(u"../Compartida"_s);
+        co_return QDir(u"../Compartida"_s).absolutePath();
+    }
     void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
     QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
     Guardado preguntaSiGuarda(QWidget *, const QString &, const QString &) override
@@ -79,9 +106,9 @@ public:
         retrata(*acercaDe, u"acercade"_s);
         acercaDe->close();
         retrata(m_principal, u"principal"_s);
-        const QList<Escena> escenas = m_contenido.escenas();
-        for (const Escena &escena : escenas)
-            retrata(escena);
+        for (int fila = 0; fila < m_contenido.lecciones.size(); ++fila)
+            retrataEscenas(m_contenido.lecciones[fila], fila);
+        retrataEscenas(m_contenido.hojaDeCalculo, FormPrincipal::FilaHojaDeCalculo);
         return m_bien;
     }
 
@@ -93,29 +120,44 @@ private:
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
     }
 
+    /// Until the runs of a lesson are over, or have clearly gone astray.
+    static void esperaCorridas(const FormLeccion &leccion)
+    {
+        const QDeadlineTimer fin(60s);
+        const auto corridas = leccion.findChildren<BotonDeCorrida *>();
+        const auto enMarcha = [](const BotonDeCorrida *corrida) { return corrida->enMarcha(); };
+        while (std::any_of(corridas.begin(), corridas.end(), enMarcha) && !fin.hasExpired())
+            espera(20ms);
+    }
+
     void retrata(QWidget &ventana, const QString &nombre)
     {
         m_bien = ventana.grab().save(m_carpeta.filePath(nombre + u".png"_s)) && m_bien;
     }
 
-    void retrata(const Escena &escena)
+    void retrataEscenas(const Leccion &leccion, int fila)
     {
-        FormLeccion *leccion = m_principal.abreLeccion(escena.fila);
+        const QList<Escena> escenas = leccion.escenas ? leccion.escenas() : QList<Escena>();
+        for (const Escena &escena : escenas)
+            retrata(escena, fila);
+    }
+
+    void retrata(const Escena &escena, int fila)
+    {
+        FormLeccion *leccion = m_principal.abreLeccion(fila);
         if (!leccion)
             return;
         abreTema(*leccion->findChild<QTabBar *>(u"tsTema"_s), escena.tema);
         espera(50ms);
-        if (escena.durante) {
-            QTimer::singleShot(escena.tras, leccion, [this, leccion, &escena] {
-                retrata(m_principal, escena.nombre);
-                leccion->detenCorrida();
-            });
-        }
-        for (const Paso &paso : escena.pasos)
+        for (const Paso &paso : escena.pasos) {
+            esperaCorridas(*leccion);
             da(paso, *leccion);
-        espera(400ms);
+        }
         if (!escena.durante)
-            retrata(m_principal, escena.nombre);
+            esperaCorridas(*leccion);
+        espera(escena.durante ? escena.tras : 400ms);
+        retrata(m_principal, escena.nombre);
+        leccion->detenCorrida();
         leccion->cierra();
         espera(20ms);
     }

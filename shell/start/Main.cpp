@@ -3,36 +3,43 @@
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
+#include "shell/core/Traduccion.h"
 #include "shell/core/system/InstanciaUnica.h"
-#include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
+#include "shell/look/TextosDeQt.h"
+#include "shell/start/FinDeSesion.h"
 #include "shell/start/FormPrincipal.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QLibraryInfo>
-#include <QPointer>
-#include <QTranslator>
+#include <QEventLoopLocker>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-bool hayCarpetaDeTrabajo(clsSesión &sesion)
+bool hayCarpetaDeTrabajo()
 {
-    return ExisteFichero(sesion.carpeta() + u"\\ClipArt\\escudo.avi"_s);
+    return ExisteFichero(Sesión().carpeta() + u"\\ClipArt\\escudo.avi"_s);
 }
 
 void avisaDeCota(const QString &cota)
 {
-    interlocutor().mensaje(QApplication::activeWindow(), Interlocutor::Icono::Informacion,
-                           Traduce(u"El mayor número permitido es "_s) + cota,
-                           Traduce(u"Número demasiado grande"_s));
+    interlocutor().avisa(QApplication::activeWindow(), Interlocutor::Icono::Informacion,
+                         Traduce(u"El mayor número permitido es "_s) + cota,
+                         Traduce(u"Número demasiado grande"_s));
 }
 
 } // namespace
+
+void presentaPrograma(const QString &version)
+{
+    QCoreApplication::setApplicationName(u"Numora"_s);
+    QCoreApplication::setApplicationVersion(version);
+    QGuiApplication::setDesktopFileName(u"numora"_s);
+}
 
 QString idiomaDeLinea(const QString &lineaDeOrdenes)
 {
@@ -41,24 +48,16 @@ QString idiomaDeLinea(const QString &lineaDeOrdenes)
     return lineaDeOrdenes.split(u' ').constLast().mid(3);
 }
 
-bool encuentraCarpetaDeTrabajo(clsSesión &sesion, const std::function<QString()> &pregunta)
+Tarea<bool> encuentraCarpetaDeTrabajo()
 {
     constexpr int preguntas = 2;
-    for (int i = 1; i <= preguntas && !hayCarpetaDeTrabajo(sesion); ++i)
-        sesion.ponCarpeta(pregunta());
-    return hayCarpetaDeTrabajo(sesion);
-}
-
-void instalaTextosDeQt()
-{
-    static QPointer<QTranslator> textos;
-    delete textos;
-    // A translated interface leaves Qt's own English texts.
-    if (HayTraduccion())
-        return;
-    textos = new QTranslator(QCoreApplication::instance());
-    if (textos->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(textos);
+    for (int i = 1; i <= preguntas && !hayCarpetaDeTrabajo(); ++i) {
+        const QString respuesta = co_await interlocutor().preguntaTexto(
+            nullptr, u"¿Dónde se encuentran los ficheros del sistema Numora?"_s,
+            u"Carpeta de trabajo"_s);
+        Sesión().ponCarpeta(respuesta);
+    }
+    co_return hayCarpetaDeTrabajo();
 }
 
 void preparaAplicacion()
@@ -70,25 +69,31 @@ void preparaAplicacion()
     instalaTextosDeQt();
 }
 
-ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido)
+Programa::Programa(const QString &lineaDeOrdenes, const Contenido &contenido)
 {
+    m_tareas.lanza(Main(lineaDeOrdenes, contenido));
+}
+
+Programa::~Programa() = default;
+
+/// The start routine: refuses a second instance, finds the working folder, takes the language,
+/// loads the main window without showing it, shows the splash, and starts the big-number service.
+Tarea<> Programa::Main(QString lineaDeOrdenes, Contenido contenido)
+{
+    // The box that closes is the last window: the program goes on as long as this is held, and
+    // quits when it is let go and there is still no window.
+    const QEventLoopLocker enMarcha;
     preparaAplicacion();
-    ProgramaEnMarcha programa;
-    programa.instancia =
-        std::make_unique<InstanciaUnica>(Sesión().carpetaDeAjustes() + u"/Numora.lock"_s);
-    if (programa.instancia->hayOtra()) {
-        interlocutor().mensaje(nullptr, Interlocutor::Icono::Informacion,
-                               u"Ya hay abierta una sesión del sistema Numora"_s,
-                               u"En ejecución"_s);
-        return {};
+    m_instancia = std::make_unique<InstanciaUnica>(Sesión().carpetaDeAjustes() + u"/Numora.lock"_s);
+    if (m_instancia->hayOtra()) {
+        co_await interlocutor().avisaYEspera(nullptr, Interlocutor::Icono::Informacion,
+                                             u"Ya hay abierta una sesión del sistema Numora"_s,
+                                             u"En ejecución"_s);
+        co_return;
     }
-    const auto pregunta = [] {
-        return interlocutor().pideTexto(nullptr,
-                                        u"¿Dónde se encuentran los ficheros del sistema Numora?"_s,
-                                        u"Carpeta de trabajo"_s);
-    };
-    if (!encuentraCarpetaDeTrabajo(Sesión(), pregunta))
-        return {};
+    const bool hallada = co_await encuentraCarpetaDeTrabajo();
+    if (!hallada)
+        co_return;
 
     Idioma() = idiomaDeLinea(lineaDeOrdenes);
     instalaTextosDeQt();
@@ -96,9 +101,10 @@ ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido)
     ImgSiguiente() = Icono(u"SIGUIENTE"_s);
     ImgStop() = Icono(u"STOP"_s);
 
-    programa.principal = std::make_unique<FormPrincipal>(contenido);
-    programa.principal->muestraAcercaDe(/*presentacion*/ true);
+    m_principal = std::make_unique<FormPrincipal>(contenido);
+    m_principal->muestraAcercaDe(/*presentacion*/ true);
     QCoreApplication::processEvents();
-    evento(programa.principal.get(), [] { IniciaBignum(Sesión().Precisión()); });
-    return programa;
+    // From here on: to be told to end before the event loop runs, ends the program at once.
+    m_fin = std::make_unique<FinDeSesion>(m_principal.get());
+    evento(m_principal.get(), [] { IniciaBignum(Sesión().Precisión()); });
 }

@@ -1,37 +1,48 @@
 #pragma once
 
+#include "shell/frame/Evento.h"
 #include "shell/frame/Leccion.h"
 
 #include <QString>
-#include <functional>
 #include <memory>
 
+class FinDeSesion;
 class FormPrincipal;
 class InstanciaUnica;
-class clsSesión;
+
+/// Tells Qt and the desktop the name and the version of the program. No display name: it would be
+/// added to the titles of all windows, which are to be read as they are given.
+void presentaPrograma(const QString &version);
 
 /// The language that a command line (without the program's name) asks for. Where it contains "-i:"
 /// anywhere, its last token decides, from its fourth character on; tokens are what stands between
 /// single blanks. "Español" without "-i:".
 QString idiomaDeLinea(const QString &lineaDeOrdenes);
 
-/// Makes sure that the session's working folder holds the program's files, asking by `pregunta` at
-/// most twice and storing whatever it answers. False when the last answer is wrong too.
-bool encuentraCarpetaDeTrabajo(clsSesión &sesion, const std::function<QString()> &pregunta);
+/// Makes sure that the session's working folder holds the program's files, asking the user at most
+/// twice and storing whatever is answered. False when the last answer is wrong too.
+Tarea<bool> encuentraCarpetaDeTrabajo();
 
-/// What lives while the program runs. Empty when it was not to run.
-struct ProgramaEnMarcha
+/// What lives while the program runs.
+class Programa
 {
-    std::unique_ptr<InstanciaUnica> instancia;
-    std::unique_ptr<FormPrincipal> principal;
+public:
+    /// Begins the start routine, which goes on from the event loop where the user is asked. The
+    /// program quits by itself when it ends without a main window.
+    Programa(const QString &lineaDeOrdenes, const Contenido &contenido);
+    ~Programa();
+
+    /// Null before the start routine has come so far, and when it ends before.
+    FormPrincipal *principal() const { return m_principal.get(); }
+
+private:
+    Tarea<> Main(QString lineaDeOrdenes, Contenido contenido);
+
+    std::unique_ptr<InstanciaUnica> m_instancia;
+    std::unique_ptr<FormPrincipal> m_principal;
+    std::unique_ptr<FinDeSesion> m_fin;
+    TareasDeVentana m_tareas{nullptr};
 };
-
-/// The start routine: refuses a second instance, finds the working folder, takes the language,
-/// loads the main window without showing it, shows the splash, and starts the big-number service.
-ProgramaEnMarcha Main(const QString &lineaDeOrdenes, const Contenido &contenido);
-
-/// Qt's own texts ("Aceptar", "Opciones:") in Spanish, unless the interface is in another language.
-void instalaTextosDeQt();
 
 /// Style, palette, type size and Qt's own texts, as the user's settings have them.
 void preparaAplicacion();

@@ -1,5 +1,7 @@
 #include "BignumCalls.h"
 
+#include <QProcess>
+#include <chrono>
 #include <thread>
 
 namespace {
@@ -66,7 +68,14 @@ private Q_SLOTS:
     void eulersFunction();
     void eulersFunctionCountsUnits();
     void twoThreadsAtOnce();
-    void sieveStartsAgain();
+    void asFound_data();
+    void asFound();
+    void theTakerEndsTheSearch();
+    void noNumberAndNoTaker();
+    void whatIsOutOfReachComesLast();
+    void endBignumStops_data();
+    void endBignumStops();
+    void processMayEndMeanwhile();
 };
 
 void TestBignumFactors::known_data()
@@ -88,6 +97,8 @@ void TestBignumFactors::known_data()
     row("18446744030759878681", "4294967291^2"); // the square of the largest prime of 32 bits
     // Round-looking, with an eight-digit factor.
     row("126582278481012658227848101265822806309", "32384567 3908722277528449221749609969027");
+    row("1000000000000000000000000000000000000000420217",
+        "14853224237640427 67325449612875386921338313771");
     row("340282366920938463463374607431768211457", "59649589127497217 5704689200685129054721");
     row("618970019642690137449562111", "618970019642690137449562111"); // 2^89 - 1
     row("147573952589676412927", "193707721 761838257287");            // 2^67 - 1
@@ -241,15 +252,152 @@ void TestBignumFactors::twoThreadsAtOnce()
     QCOMPARE(failures, std::vector<int>(4, 0));
 }
 
-void TestBignumFactors::sieveStartsAgain()
+namespace {
+
+/// "2^3 division, 11 rho", with "?" after a composite.
+struct Taken
 {
-    Random random(31);
-    for (int i = 0; i < 5; ++i) {
-        QVERIFY(factors(primeOfDigits(random, 14) * primeOfDigits(random, 15)));
-        QCOMPARE(EndBignum(), 1);
-    }
-    QCOMPARE(EndBignum(), 1);
+    std::string text;
+    std::size_t most = 1000; ///< factors to take
+    std::size_t count = 0;
+    bool countsFit = true; ///< what a method does not count is 0, and what it counts is not
+};
+
+int32_t take(const BignumFactor *factor, void *context)
+{
+    static const std::vector<std::string> methods{"itself", "division", "rho",
+                                                  "curve",  "sieve",    "root"};
+    Taken &taken = *static_cast<Taken *>(context);
+    taken.text += (taken.text.empty() ? "" : ", ") + std::string(factor->base) +
+                  (factor->exponent == 1 ? "" : "^" + std::to_string(factor->exponent)) +
+                  (factor->isPrime == 0 ? "? " : " ") +
+                  methods.at(static_cast<std::size_t>(factor->method));
+    const bool bySieve = factor->method == BIGNUM_SIEVE;
+    const bool byCurve = factor->method == BIGNUM_CURVE;
+    taken.countsFit = taken.countsFit && (factor->relations > 0) == bySieve &&
+                      (factor->columns > 0) == bySieve && (factor->curves > 0) == byCurve &&
+                      (factor->curveBound > 0) == byCurve &&
+                      factor->seconds >= factor->methodSeconds;
+    return ++taken.count < taken.most ? 1 : 0;
 }
 
-QTEST_APPLESS_MAIN(TestBignumFactors)
+/// A number of so many digits that nothing splits within the effort: its two factors are primes of
+/// half as many digits each, or nearly.
+mpz_class outOfReach(unsigned digits)
+{
+    Random random(77);
+    return primeOfDigits(random, digits / 2) * primeOfDigits(random, digits - digits / 2);
+}
+
+} // namespace
+
+void TestBignumFactors::asFound_data()
+{
+    QTest::addColumn<std::string>("number");
+    QTest::addColumn<std::string>("found");
+    const auto row = [](const std::string &number, const std::string &expected) {
+        QTest::newRow(number.c_str()) << number << expected;
+    };
+    row("0", "");
+    row("1", "");
+    row("-7", "7 itself");
+    row("1000000007", "1000000007 itself");
+    row("360", "2^3 division, 3^2 division, 5 division");
+    row("6000000042", "2 division, 3 division, 1000000007 division");
+    row("1000000016000000063", "1000000009 rho, 1000000007 rho");
+    row("1000000000000000000000000000114000000000000000000000000003249",
+        "1000000000000000000000000000057^2 root");
+}
+
+void TestBignumFactors::asFound()
+{
+    QFETCH(const std::string, number);
+    Taken taken;
+    QCOMPARE(FactorsAsFound(number.c_str(), take, &taken), BIGNUM_ALL_PRIMES);
+    QTEST(taken.text, "found");
+    QVERIFY(taken.countsFit);
+}
+
+void TestBignumFactors::theTakerEndsTheSearch()
+{
+    Taken taken{.text = "", .most = 2};
+    QCOMPARE(FactorsAsFound("30030", take, &taken), BIGNUM_FACTORS_STOPPED);
+    QCOMPARE(taken.text, std::string("2 division, 3 division"));
+}
+
+void TestBignumFactors::noNumberAndNoTaker()
+{
+    Taken taken;
+    for (const char *text : {"", "x", "1/2", "-"})
+        QCOMPARE(FactorsAsFound(text, take, &taken), BIGNUM_NO_NUMBER);
+    QCOMPARE(FactorsAsFound(nullptr, take, &taken), BIGNUM_NO_NUMBER);
+    QCOMPARE(FactorsAsFound("6", nullptr, &taken), BIGNUM_FACTORS_FAILED);
+    QCOMPARE(taken.text, std::string());
+}
+
+void TestBignumFactors::whatIsOutOfReachComesLast()
+{
+    // Too long to be tested for primality, and longer than any buffer of Factors.
+    const std::string repeated = "7" + std::string(8999, '7');
+    Taken taken;
+    QCOMPARE(FactorsAsFound(repeated.c_str(), take, &taken), BIGNUM_COMPOSITE_LEFT);
+    QVERIFY(taken.text.starts_with("3^2 division, 7^2 division, 11 division, "));
+    QVERIFY(taken.text.ends_with("? division"));
+    QCOMPARE(factored(repeated).flag, 0);
+}
+
+void TestBignumFactors::endBignumStops_data()
+{
+    QTest::addColumn<unsigned>("digits");
+    QTest::newRow("in the sieve") << 79U;
+    QTest::newRow("in the curves") << 110U;
+}
+
+void TestBignumFactors::endBignumStops()
+{
+    QFETCH(const unsigned, digits);
+    using Clock = std::chrono::steady_clock;
+    const mpz_class hard = outOfReach(digits);
+    const mpz_class number = 12 * hard;
+    Factored result;
+    Clock::time_point ended;
+    std::thread worker([&] {
+        result = factored(number.get_str());
+        ended = Clock::now();
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(700));
+    const auto asked = Clock::now();
+    QCOMPARE(EndBignum(), 1);
+    worker.join();
+    QCOMPARE(result.flag, 0);
+    QCOMPARE(written(result), "2^2 3 " + hard.get_str() + "?");
+    // 50 ms on a machine that is idle.
+    QVERIFY2(ended - asked < std::chrono::milliseconds(1000), "the stop took too long");
+    QVERIFY(factors(mpz_class("1000000016000000063"))); // the library goes on
+}
+
+void TestBignumFactors::processMayEndMeanwhile()
+{
+    // A child of this test that leaves while its threads are in the sieve.
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--leave")});
+    QVERIFY(child.waitForFinished(20000));
+    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(child.exitCode(), 0);
+}
+
+/// With an argument of its own the test is the process that ends while it factors.
+int main(int argc, char **argv)
+{
+    if (argc == 2 && std::string_view(argv[1]) == "--leave") {
+        const std::string number = outOfReach(79).get_str();
+        std::thread([number] { factored(number); }).detach();
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        return 0;
+    }
+    QCoreApplication application(argc, argv);
+    TestBignumFactors test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_BignumFactors.moc"

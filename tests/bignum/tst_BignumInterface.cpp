@@ -4,6 +4,7 @@
 #include <thread>
 
 extern "C" int32_t sumOfPrimesUpTo10(void);
+extern "C" int32_t exponentsOf360(void);
 
 namespace {
 
@@ -35,6 +36,7 @@ private Q_SLOTS:
 void TestBignumInterface::headerServesC()
 {
     QCOMPARE(sumOfPrimesUpTo10(), 17);
+    QCOMPARE(exponentsOf360(), 6);
 }
 
 void TestBignumInterface::numberTexts_data()

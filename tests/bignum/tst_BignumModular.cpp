@@ -65,12 +65,12 @@ private Q_SLOTS:
     void bezoutEdges_data();
     void bezoutEdges();
     void bezoutHoldsForRandomNumbers();
-    void remaindersOfRandomNumbers();
-    void inversesOfRandomNumbers();
+    void remaindersAndInversesOfRandomNumbers();
     void powersOfRandomNumbers();
     void congruences_data();
     void congruences();
     void congruencesOfRandomNumbers();
+    void fibonacciNumbers();
     void bases_data();
     void bases();
     void comparisons_data();
@@ -174,31 +174,22 @@ void TestBignumModular::bezoutHoldsForRandomNumbers()
     }
 }
 
-void TestBignumModular::remaindersOfRandomNumbers()
+void TestBignumModular::remaindersAndInversesOfRandomNumbers()
 {
     Random random(12);
     for (int i = 0; i < 2000; ++i) {
         const mpz_class a = random.anySize(1000);
-        const mpz_class m = random.anySize(500);
+        const mpz_class m = random.anySize(300);
+        const std::string inverted = inverse(a.get_str(), m.get_str());
+        QCOMPARE(inverted != kFailure, m != 0 && gcd(a, m) == 1);
         if (m == 0)
             continue;
         const mpz_class r(modulo(a.get_str(), m.get_str()));
         QVERIFY(r >= 0 && r < abs(m) && (a - r) % m == 0);
-    }
-}
-
-void TestBignumModular::inversesOfRandomNumbers()
-{
-    Random random(13);
-    for (int i = 0; i < 2000; ++i) {
-        const mpz_class a = random.anySize(300);
-        const mpz_class n = random.anySize(300);
-        const auto result = call(InvMod, a.get_str().c_str(), n.get_str().c_str());
-        QCOMPARE(result.has_value(), n != 0 && gcd(a, n) == 1);
-        if (!result)
-            continue;
-        const mpz_class x(*result);
-        QVERIFY(x >= 0 && x < abs(n) && (a * x - 1) % n == 0);
+        if (inverted != kFailure) {
+            const mpz_class x(inverted);
+            QVERIFY(x >= 0 && x < abs(m) && (a * x - 1) % m == 0);
+        }
     }
 }
 
@@ -273,6 +264,35 @@ void TestBignumModular::congruencesOfRandomNumbers()
     }
 }
 
+/// Against the function of the expressions, which goes another way.
+void TestBignumModular::fibonacciNumbers()
+{
+    Buffer<24576> out, expected;
+    BignumCost cost{};
+    const auto both = {BIGNUM_ITERATION, BIGNUM_DOUBLING};
+    for (const int n :
+         {0, 1, 2, 3, 4, 7, 8, 31, 32, 33, 93, 94, 255, 256, 4095, 117'591, 117'592}) {
+        QCOMPARE(ZEval(("fib(" + std::to_string(n) + ")").c_str(), expected.data()), 1);
+        for (const int method : both) {
+            QCOMPARE(Fibonacci(method, n, 2, out.data(), &cost), 1);
+            QCOMPARE(out.text(), expected.text());
+            QVERIFY(out.isIntact() && cost.nanoseconds >= 0);
+        }
+    }
+    // 20 is 10100 in binary: five steps, two of them with one addition more.
+    QCOMPARE(Fibonacci(BIGNUM_DOUBLING, 20, 3, out.data(), &cost), 1);
+    QCOMPARE(std::pair(cost.additions, cost.products), std::pair(int64_t{17}, int64_t{15}));
+    QCOMPARE(Fibonacci(BIGNUM_ITERATION, 20, 3, out.data(), &cost), 1);
+    QCOMPARE(std::pair(cost.additions, cost.products), std::pair(int64_t{19}, int64_t{0}));
+    for (const auto &[method, n, turns] :
+         {std::tuple(0, -1, 1), {1, 117'593, 1}, {0, 5, 0}, {2, 5, 1}}) {
+        QCOMPARE(Fibonacci(method, n, turns, out.data(), &cost), 0);
+        QVERIFY(out.text().empty() && cost.additions == 0);
+    }
+    QCOMPARE(Fibonacci(0, 5, 1, out.data(), nullptr), 0);
+    QCOMPARE(Fibonacci(0, 5, 1, nullptr, &cost), 0);
+}
+
 void TestBignumModular::bases_data()
 {
     QTest::addColumn<int>("base");
@@ -302,32 +322,23 @@ void TestBignumModular::comparisons_data()
     QTest::addColumn<QByteArray>("a");
     QTest::addColumn<QByteArray>("b");
     QTest::addColumn<int>("result");
+    const auto row = [](const char *name, const QByteArray &a, const QByteArray &b, int result) {
+        QTest::newRow(name) << a << b << result;
+    };
     const QByteArray long1 = "1"_ba + QByteArray(20000, '0');
-    QTest::newRow("b larger") << "2"_ba
-                              << "10"_ba << 2;
-    QTest::newRow("a larger") << "10"_ba
-                              << "9"_ba << 1;
-    QTest::newRow("equal") << "10"_ba
-                           << " +010"_ba << 0;
-    QTest::newRow("negative") << "-10"_ba
-                              << "-9"_ba << 2;
-    QTest::newRow("rationals") << "1/3"_ba
-                               << "1/2"_ba << 2;
-    QTest::newRow("equal rationals") << "2/4"_ba
-                                     << "1/2"_ba << 0;
-    QTest::newRow("rational and integer") << "7/2"_ba
-                                          << "3"_ba << 1;
-    QTest::newRow("empty is zero") << ""_ba
-                                   << "1"_ba << 2;
-    QTest::newRow("blank is zero") << "0"_ba
-                                   << "  "_ba << 0;
-    QTest::newRow("long") << long1 << long1 + "0"_ba << 2;
-    QTest::newRow("no number") << "1"_ba
-                               << "Error"_ba << -1;
-    QTest::newRow("denominator zero") << "1/0"_ba
-                                      << "5"_ba << -1;
-    QTest::newRow("negative denominator") << "1/-2"_ba
-                                          << "5"_ba << -1;
+    row("b larger", "2", "10", 2);
+    row("a larger", "10", "9", 1);
+    row("equal", "10", " +010", 0);
+    row("negative", "-10", "-9", 2);
+    row("rationals", "1/3", "1/2", 2);
+    row("equal rationals", "2/4", "1/2", 0);
+    row("rational and integer", "7/2", "3", 1);
+    row("empty is zero", "", "1", 2);
+    row("blank is zero", "0", "  ", 0);
+    row("long", long1, long1 + "0", 2);
+    row("no number", "1", "Error", -1);
+    row("denominator zero", "1/0", "5", -1);
+    row("negative denominator", "1/-2", "5", -1);
 }
 
 void TestBignumModular::comparisons()

@@ -230,6 +230,7 @@ private Q_SLOTS:
         row("rest by zero", "1%0", "fails", "fails");
         row("modular power", "3^1000000000000%1000007", "273158", "273158");
         row("its sign", "-3^2%7", "5", "5");
+        row("its sign, large", "-3^100%7", "3", "3");
         row("negative modulus", "3^5%-7", "5", "5");
         row("power behind a product", "2*3^4%7", "1", "1");
         row("power modulo zero", "2^5%0", "fails", "fails");
@@ -248,6 +249,9 @@ private Q_SLOTS:
         row("absolute", "abs(-3/4)", "1", "3/4");
         row("smallest, largest", "min(3;1/2)+max(1/3;1/4)", "0", "5/6");
         row("Euler", "fi(36)+phi(97)", "108", "108");
+        // Two primes of 39 digits: more than a second's work.
+        row("Euler of what is not split", "fi(nextprime(10^38)*nextprime(3*10^38))", "fails",
+            "fails");
         row("Fibonacci", "fib(100)", "354224848179261915075", "354224848179261915075");
         row("primality", "primo(97)+10*isprime(91)", "1", "1");
         row("next prime", "sigprimo(97)+nextprime(-5)", "103", "103");
@@ -305,6 +309,56 @@ private Q_SLOTS:
         QCOMPARE(evaluated(QEval, expression.toStdString()), "fails");
     }
 
+    void faults_data()
+    {
+        QTest::addColumn<QByteArray>("expression");
+        QTest::addColumn<int>("fault");
+        QTest::addColumn<QByteArray>("where");
+        const auto row = [](const QByteArray &expression, int fault, const char *where = "") {
+            QTest::newRow(expression.left(20).constData())
+                << expression << fault << QByteArray(where);
+        };
+        row("1/2", BIGNUM_NO_FAULT);
+        row("2**3", BIGNUM_MISSING_OPERAND, "*");
+        row("2+", BIGNUM_MISSING_OPERAND);
+        row("", BIGNUM_MISSING_OPERAND);
+        row("5 6", BIGNUM_MISSING_OPERATOR, "6");
+        row("1.000.000", BIGNUM_MISSING_OPERATOR, ".000");
+        row("(5 6)", BIGNUM_MISSING_OPERATOR, "6");
+        row("2)", BIGNUM_MISPLACED, ")");
+        row("(2]", BIGNUM_MISPLACED, "]");
+        row("1;2", BIGNUM_MISPLACED, ";");
+        row("1e3", BIGNUM_UNKNOWN, "e");
+        row("1<2", BIGNUM_UNKNOWN, "<");
+        row("5.", BIGNUM_UNKNOWN, "5.");
+        row("seno(1)", BIGNUM_UNKNOWN, "seno");
+        row("1+fi", BIGNUM_BAD_ARGUMENTS, "fi");
+        row("raiz(1;2)", BIGNUM_BAD_ARGUMENTS, "raiz");
+        row("1/(2-2)", BIGNUM_ZERO_DIVISION);
+        row("5%0", BIGNUM_ZERO_DIVISION);
+        row("2^70%0", BIGNUM_ZERO_DIVISION);
+        row("0^-1", BIGNUM_ZERO_DIVISION);
+        row("1/2%3", BIGNUM_NOT_WHOLE);
+        row("2^(1/2)", BIGNUM_NOT_WHOLE);
+        row("(-1)!", BIGNUM_OUT_OF_DOMAIN);
+        row("raiz(-1)", BIGNUM_OUT_OF_DOMAIN);
+        row("fi(0)", BIGNUM_OUT_OF_DOMAIN);
+        row("9^9^9", BIGNUM_TOO_LARGE);
+        row("10^24575", BIGNUM_TOO_LARGE);
+        row(QByteArray(2000, '('), BIGNUM_TOO_LARGE);
+        row("sigprimo(10^20000)", BIGNUM_TOO_SLOW);
+    }
+    void faults()
+    {
+        QFETCH(QByteArray, expression);
+        int32_t start = -1;
+        int32_t length = -1;
+        QTEST(int(QEvalFault(expression.constData(), &start, &length)), "fault");
+        QTEST(expression.mid(start, length), "where");
+        QCOMPARE(evaluated(QEval, expression.toStdString()) == "fails",
+                 QTest::currentDataTag() != QByteArray("1/2"));
+    }
+
     void growingDenominators()
     {
         std::string text = "0";
@@ -339,6 +393,9 @@ private Q_SLOTS:
         QCOMPARE(ZEval(nullptr, buffer.data()), 0);
         QCOMPARE(ZEval("1", nullptr), 0);
         QCOMPARE(QEval("1", nullptr), 0);
+        int32_t place = 0;
+        QCOMPARE(QEvalFault(nullptr, &place, &place), -1);
+        QCOMPARE(EvalFunction(0, nullptr), 0);
     }
 
     void randomExpressions_data()

@@ -2,7 +2,9 @@
 #include "bignum/bignum.h"
 
 int32_t addUp(const uint64_t *primes, int64_t count, void *context);
+int32_t addExponent(const struct BignumFactor *factor, void *context);
 int32_t sumOfPrimesUpTo10(void);
+int32_t exponentsOf360(void);
 
 int32_t addUp(const uint64_t *primes, int64_t count, void *context)
 {
@@ -15,5 +17,18 @@ int32_t addUp(const uint64_t *primes, int64_t count, void *context)
 int32_t sumOfPrimesUpTo10(void)
 {
     int32_t sum = 0;
-    return PrimesUpTo(10, addUp, &sum) == 1 ? sum : -1;
+    return PrimesBetween(0, 10, addUp, &sum) == 1 ? sum : -1;
+}
+
+int32_t addExponent(const struct BignumFactor *factor, void *context)
+{
+    int32_t *sum = context;
+    *sum += (int32_t)factor->exponent;
+    return factor->isPrime;
+}
+
+int32_t exponentsOf360(void)
+{
+    int32_t sum = 0;
+    return FactorsAsFound("360", addExponent, &sum) == BIGNUM_ALL_PRIMES ? sum : -1;
 }

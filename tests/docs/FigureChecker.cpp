@@ -1,119 +1,79 @@
-#include "FigureChecker.h"
+#include "PageCheckers.h"
 
-#include <QFile>
-#include <QSet>
 #include <QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QSet<QString> kElements{u"svg"_s,     u"title"_s,   u"desc"_s,           u"g"_s,
-                              u"defs"_s,    u"rect"_s,    u"line"_s,           u"circle"_s,
-                              u"ellipse"_s, u"polygon"_s, u"path"_s,           u"polyline"_s,
-                              u"text"_s,    u"tspan"_s,   u"linearGradient"_s, u"radialGradient"_s,
-                              u"stop"_s,    u"use"_s};
+const QStringList kElements =
+    u"svg title desc g defs rect line circle ellipse polygon path polyline text tspan "
+    "linearGradient radialGradient stop use"_s.split(u' ');
 
 // Read by browsers and skipped by the renderer, so that the two would show different pictures.
-const QSet<QString> kForbiddenAttributes{u"class"_s,
-                                         u"style"_s,
-                                         u"filter"_s,
-                                         u"mask"_s,
-                                         u"clip-path"_s,
-                                         u"marker-end"_s,
-                                         u"marker-mid"_s,
-                                         u"marker-start"_s,
-                                         u"paint-order"_s,
-                                         u"dominant-baseline"_s,
-                                         u"baseline-shift"_s,
-                                         u"dx"_s,
-                                         u"dy"_s};
+const QStringList kForbiddenAttributes =
+    u"class style filter mask clip-path marker-end marker-mid marker-start paint-order "
+    "dominant-baseline baseline-shift dx dy"_s.split(u' ');
 
-class Figure
+QStringList elementFaults(const QString &name, const QXmlStreamAttributes &attributes)
 {
-public:
-    explicit Figure(QXmlStreamReader &xml) : m_xml(xml) {}
-
-    FigureReport read()
-    {
-        while (!m_xml.atEnd()) {
-            if (m_xml.readNext() == QXmlStreamReader::StartElement)
-                startElement();
-        }
-        if (m_xml.hasError())
-            fault(m_xml.errorString());
-        if (!m_titled)
-            fault(u"no <title>"_s);
-        return m_report;
+    QStringList faults;
+    if (!kElements.contains(name))
+        faults << u"<%1> is not drawn by the program"_s.arg(name);
+    for (const QXmlStreamAttribute &attribute : attributes) {
+        if (kForbiddenAttributes.contains(attribute.qualifiedName()))
+            faults << u"%1= is not read by the program"_s.arg(attribute.qualifiedName());
     }
+    if (name == u"text" && !attributes.hasAttribute(u"font-family"_s))
+        faults << u"<text> without font-family"_s;
+    return faults;
+}
 
-private:
-    void fault(const QString &what)
-    {
-        m_report.faults << u"line %1: %2"_s.arg(m_xml.lineNumber()).arg(what);
-    }
+QString drawn(QString element, const QXmlStreamAttributes &attributes)
+{
+    if (element == u"text" || element == u"tspan")
+        return element;
+    for (const QXmlStreamAttribute &attribute : attributes)
+        element += u" %1=\"%2\""_s.arg(attribute.qualifiedName(), attribute.value());
+    return element;
+}
 
-    void startElement()
-    {
-        const QString name = m_xml.name().toString();
-        if (!kElements.contains(name))
-            fault(u"<%1> is not drawn by the program"_s.arg(name));
-        const QXmlStreamAttributes attributes = m_xml.attributes();
-        for (const QXmlStreamAttribute &attribute : attributes) {
-            if (kForbiddenAttributes.contains(attribute.qualifiedName().toString()))
-                fault(u"%1= is not read by the program"_s.arg(attribute.qualifiedName()));
-        }
-        m_titled = m_titled || name == u"title";
-        if (name == u"text" && !attributes.hasAttribute(u"font-family"_s))
-            fault(u"<text> without font-family"_s);
-        if (name == u"svg")
-            readSize(attributes);
-    }
-
-    void readSize(const QXmlStreamAttributes &attributes)
-    {
-        m_report.size =
-            QSize(attributes.value(u"width"_s).toInt(), attributes.value(u"height"_s).toInt());
-        const QString box = u"0 0 %1 %2"_s.arg(m_report.size.width()).arg(m_report.size.height());
-        if (m_report.size.isEmpty())
-            fault(u"width and height in whole pixels are needed"_s);
-        else if (attributes.value(u"viewBox"_s) != box)
-            fault(u"viewBox is not \"%1\""_s.arg(box));
-    }
-
-    QXmlStreamReader &m_xml;
-    FigureReport m_report;
-    bool m_titled = false;
-};
+QStringList sizeFaults(QSize size, QStringView viewBox)
+{
+    if (size.isEmpty())
+        return {u"width and height in whole pixels are needed"_s};
+    const QString box = u"0 0 %1 %2"_s.arg(size.width()).arg(size.height());
+    return viewBox == box ? QStringList() : QStringList{u"viewBox is not \"%1\""_s.arg(box)};
+}
 
 } // namespace
 
 FigureReport checkFigure(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {{u"cannot be read: "_s + file.errorString()}, {}};
-    QXmlStreamReader xml(&file);
-    return Figure(xml).read();
-}
-
-QStringList drawingOf(const QString &path)
-{
-    QStringList drawn;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return drawn;
-    QXmlStreamReader xml(&file);
+    FigureReport report;
+    bool titled = false;
+    QXmlStreamReader xml(readAll(path));
+    const auto note = [&](const QStringList &faults) {
+        for (const QString &fault : faults)
+            report.faults << u"line %1: %2"_s.arg(xml.lineNumber()).arg(fault);
+    };
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
-        QString element = xml.name().toString();
-        if (element != u"text" && element != u"tspan") {
-            const QXmlStreamAttributes attributes = xml.attributes();
-            for (const QXmlStreamAttribute &attribute : attributes)
-                element += u" %1=\"%2\""_s.arg(attribute.qualifiedName(), attribute.value());
-        }
-        drawn << element;
+        const QString name = xml.name().toString();
+        const QXmlStreamAttributes attributes = xml.attributes();
+        note(elementFaults(name, attributes));
+        report.drawing << drawn(name, attributes);
+        titled = titled || name == u"title";
+        if (name != u"svg")
+            continue;
+        report.size =
+            QSize(attributes.value(u"width"_s).toInt(), attributes.value(u"height"_s).toInt());
+        note(sizeFaults(report.size, attributes.value(u"viewBox"_s)));
     }
-    return drawn;
+    if (xml.hasError())
+        note({xml.errorString()});
+    if (!titled)
+        note({u"no <title>"_s});
+    return report;
 }

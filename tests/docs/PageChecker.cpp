@@ -1,9 +1,6 @@
-#include "PageChecker.h"
-
-#include "FigureChecker.h"
+#include "PageCheckers.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QUrl>
 #include <QXmlStreamReader>
@@ -12,24 +9,20 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QSet<QString> kVoid{u"meta"_s, u"link"_s, u"img"_s, u"br"_s, u"hr"_s, u"col"_s};
+const QStringList kVoid = u"meta link img br hr col"_s.split(u' ');
 
-const QSet<QString> kElements{
-    u"html"_s,      u"head"_s,  u"meta"_s,  u"title"_s,   u"link"_s,   u"body"_s, u"header"_s,
-    u"footer"_s,    u"nav"_s,   u"main"_s,  u"section"_s, u"h1"_s,     u"h2"_s,   u"h3"_s,
-    u"p"_s,         u"ul"_s,    u"ol"_s,    u"li"_s,      u"dl"_s,     u"dt"_s,   u"dd"_s,
-    u"table"_s,     u"thead"_s, u"tbody"_s, u"tr"_s,      u"th"_s,     u"td"_s,   u"img"_s,
-    u"a"_s,         u"b"_s,     u"i"_s,     u"em"_s,      u"strong"_s, u"sup"_s,  u"sub"_s,
-    u"span"_s,      u"var"_s,   u"code"_s,  u"pre"_s,     u"kbd"_s,    u"br"_s,   u"hr"_s,
-    u"blockquote"_s};
+const QStringList kElements =
+    u"html head meta title link body header footer nav main section h1 h2 h3 p ul ol li dl dt dd "
+    "table thead tbody tr th td img a b i em strong sup sub span var code pre kbd br hr "
+    "blockquote"_s.split(u' ');
+
+} // namespace
 
 QString readAll(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
-
-} // namespace
 
 /// One pass over one page.
 class PageReading
@@ -71,10 +64,9 @@ private:
     void checkSelfClosed(const QString &text)
     {
         static const QRegularExpression selfClosed(u"<([A-Za-z][A-Za-z0-9]*)[^<>]*/>"_s);
-        for (auto it = selfClosed.globalMatch(text); it.hasNext();) {
-            const QString name = it.next().captured(1);
-            if (!kVoid.contains(name))
-                fault(u"<%1/> is not closed for a browser"_s.arg(name));
+        for (const QRegularExpressionMatch &match : selfClosed.globalMatch(text)) {
+            if (!kVoid.contains(match.captured(1)))
+                fault(u"<%1/> is not closed for a browser"_s.arg(match.captured(1)));
         }
     }
 
@@ -184,22 +176,24 @@ private:
 PageChecker::PageChecker(const QString &folder, const QString &language, const QString &sheet)
     : m_folder(folder), m_language(language), m_sheet(sheet)
 {
-    static const QRegularExpression className(u"\\.([a-z][a-z0-9-]*)[^{}]*\\{"_s);
+    static const QRegularExpression className(u"\\.([a-z][a-z0-9-]*)(?=[^{}]*\\{)"_s);
     static const QRegularExpression comment(u"/\\*.*?\\*/"_s,
                                             QRegularExpression::DotMatchesEverythingOption);
     const QString rules = readAll(folder + u'/' + sheet).remove(comment);
-    for (qsizetype at = 0;;) {
-        const QRegularExpressionMatch match = className.match(rules, at);
-        if (!match.hasMatch())
-            break;
+    for (const QRegularExpressionMatch &match : className.globalMatch(rules))
         m_classes << match.captured(1);
-        at = match.capturedEnd(1);
-    }
 }
 
 QStringList PageChecker::pages() const
 {
     return QDir(m_folder).entryList({u"*.html"_s}, QDir::Files, QDir::Name);
+}
+
+QStringList PageChecker::figures() const
+{
+    const QDir folder(m_folder + u"/figuras"_s);
+    return folder.entryList({u"*.svg"_s}, QDir::Files, QDir::Name)
+        .replaceInStrings(QRegularExpression(u"^"_s), u"figuras/"_s);
 }
 
 QStringList PageChecker::faults(const QString &page)
@@ -221,16 +215,9 @@ const QSet<QString> &PageChecker::anchors(const QString &page)
     return ids;
 }
 
+/// Whether the file exists within the folder (file names tell letter cases apart here).
 bool PageChecker::exists(const QString &relativePath) const
 {
-    if (relativePath.isEmpty() || QDir::isAbsolutePath(relativePath))
-        return false;
-    QDir folder(m_folder);
-    QStringList steps = relativePath.split(u'/');
-    const QString name = steps.takeLast();
-    for (const QString &step : std::as_const(steps)) {
-        if (!folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot).contains(step) || !folder.cd(step))
-            return false;
-    }
-    return folder.entryList(QDir::Files).contains(name);
+    return !relativePath.isEmpty() && !QDir::isAbsolutePath(relativePath) &&
+           !relativePath.contains(u".."_s) && QFileInfo(m_folder + u'/' + relativePath).isFile();
 }

@@ -1,7 +1,4 @@
-#include "FigureChecker.h"
-#include "NameChecker.h"
-#include "PageChecker.h"
-#include "TranslationChecker.h"
+#include "PageCheckers.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -41,10 +38,8 @@ class TestPageCheckers : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pageFaultsAreFound_data();
-    void pageFaultsAreFound();
-    void figureFaultsAreFound_data();
-    void figureFaultsAreFound();
+    void faultsAreFound_data();
+    void faultsAreFound();
     void pagesOfAnotherLanguage();
     void translationFaultsAreFound_data();
     void translationFaultsAreFound();
@@ -52,12 +47,15 @@ private Q_SLOTS:
     void nameFaultsAreFound();
 };
 
-void TestPageCheckers::pageFaultsAreFound_data()
+void TestPageCheckers::faultsAreFound_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("fault"); // a part of the one fault expected, empty for none
-    const auto body = [](const char *row, const QString &text, const QString &fault) {
-        QTest::newRow(row) << page(kHead, text) << fault;
+    const auto row = [](const char *name, const QString &text, const QString &fault) {
+        QTest::newRow(name) << text << fault;
+    };
+    const auto body = [&](const char *name, const QString &text, const QString &fault) {
+        row(name, page(kHead, text), fault);
     };
     body(
         "fit",
@@ -93,15 +91,25 @@ void TestPageCheckers::pageFaultsAreFound_data()
     body("inline style", u"<p style=\"color: black\">x</p>"_s, u"style="_s);
     body("id twice", u"<p id=\"a\">x</p>"_s, u"used twice"_s);
     body("self-closed element", u"<p/>"_s, u"<p/>"_s);
-    QTest::newRow("no title") << page(kHead.mid(kHead.indexOf(u"<link"_s)), QString())
-                              << u"no title"_s;
-    QTest::newRow("no style sheet") << page(u"<title>T</title>"_s, QString()) << u"estilo.css"_s;
-    QTest::newRow("no language") << page(kHead, QString()).remove(u" lang=\"es\""_s) << u"lang"_s;
-    QTest::newRow("not well-formed")
-        << page(kHead, QString()).replace(u"</h1>"_s, u"</h2>"_s) << u"mismatch"_s;
+    const QString empty = page(kHead, QString()), blank = svg(QString());
+    row("no title", page(kHead.mid(kHead.indexOf(u"<link"_s)), QString()), u"no title"_s);
+    row("no style sheet", page(u"<title>T</title>"_s, QString()), u"estilo.css"_s);
+    row("no language", QString(empty).remove(u" lang=\"es\""_s), u"lang"_s);
+    row("not well-formed", QString(empty).replace(u"</h1>"_s, u"</h2>"_s), u"mismatch"_s);
+
+    row("figure", svg(u"<text font-family=\"sans-serif\">x</text>"_s), QString());
+    row("filter", svg(u"<filter id=\"f\"/>"_s), u"<filter>"_s);
+    row("embedded page", svg(u"<foreignObject/>"_s), u"<foreignObject>"_s);
+    row("masked", svg(u"<rect mask=\"url(#m)\"/>"_s), u"mask="_s);
+    row("CSS class", svg(u"<rect class=\"r\"/>"_s), u"class="_s);
+    row("text without a face", svg(u"<text>x</text>"_s), u"font-family"_s);
+    row("no size", QString(blank).remove(u"width=\"40\" "_s), u"whole pixels"_s);
+    row("scaled", QString(blank).replace(u"0 0 40"_s, u"0 0 80"_s), u"viewBox"_s);
+    row("figure without a title", QString(blank).remove(u"<title>t</title>"_s), u"<title>"_s);
+    row("figure not well-formed", svg(u"<g></g></g>"_s), u"line 1"_s);
 }
 
-void TestPageCheckers::pageFaultsAreFound()
+void TestPageCheckers::faultsAreFound()
 {
     QFETCH(QString, text);
     QFETCH(QString, fault);
@@ -110,37 +118,11 @@ void TestPageCheckers::pageFaultsAreFound()
     write(folder.filePath(u"estilo.css"_s), u"/* .nada { */\n.caja { color: red; }"_s);
     write(folder.filePath(u"otra.html"_s), u"<html><p id=\"b\">x</p></html>"_s);
     write(folder.filePath(u"f/f.svg"_s), svg(QString()));
-    write(folder.filePath(u"esta.html"_s), text);
+    const QString file = text.startsWith(u"<svg") ? u"esta.svg"_s : u"esta.html"_s;
+    write(folder.filePath(file), text);
 
-    const QStringList faults = PageChecker(folder.path()).faults(u"esta.html"_s);
-    QCOMPARE(faults.size(), fault.isEmpty() ? 0 : 1);
-    QVERIFY2(faults.join(u' ').contains(fault), qPrintable(faults.join(u' ')));
-}
-
-void TestPageCheckers::figureFaultsAreFound_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("fault");
-    QTest::newRow("fit") << svg(u"<text font-family=\"sans-serif\">x</text>"_s) << QString();
-    QTest::newRow("filter") << svg(u"<filter id=\"f\"/>"_s) << u"<filter>"_s;
-    QTest::newRow("embedded page") << svg(u"<foreignObject/>"_s) << u"<foreignObject>"_s;
-    QTest::newRow("masked") << svg(u"<rect mask=\"url(#m)\"/>"_s) << u"mask="_s;
-    QTest::newRow("CSS class") << svg(u"<rect class=\"r\"/>"_s) << u"class="_s;
-    QTest::newRow("text without a face") << svg(u"<text>x</text>"_s) << u"font-family"_s;
-    QTest::newRow("no size") << svg(QString()).remove(u"width=\"40\" "_s) << u"whole pixels"_s;
-    QTest::newRow("scaled") << svg(QString()).replace(u"0 0 40"_s, u"0 0 80"_s) << u"viewBox"_s;
-    QTest::newRow("no title") << svg(QString()).remove(u"<title>t</title>"_s) << u"<title>"_s;
-    QTest::newRow("not well-formed") << svg(u"<g></g></g>"_s) << u"line 1"_s;
-}
-
-void TestPageCheckers::figureFaultsAreFound()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, fault);
-    QTemporaryDir folder;
-    const QString path = folder.filePath(u"f.svg"_s);
-    write(path, text);
-    const QStringList faults = checkFigure(path).faults;
+    const QStringList faults = file.endsWith(u"svg") ? checkFigure(folder.filePath(file)).faults
+                                                     : PageChecker(folder.path()).faults(file);
     QCOMPARE(faults.size(), fault.isEmpty() ? 0 : 1);
     QVERIFY2(faults.join(u' ').contains(fault), qPrintable(faults.join(u' ')));
 }
@@ -175,12 +157,12 @@ void TestPageCheckers::translationFaultsAreFound_data()
     row("page left out", u"p.html"_s, QString(), u"p.html: not translated"_s);
     row("page of its own", u"q.html"_s, page(kHead, QString()), u"q.html: translates nothing"_s);
     row("place left out", u"p.html"_s, page(kHead, QString()), u"p.html: no place #b"_s);
-    row("figure left out", u"figuras/f.svg"_s, QString(), u"f.svg: not translated"_s);
+    row("figure left out", u"figuras/f.svg"_s, QString(), u"figuras/f.svg: not translated"_s);
     row("other words", u"figuras/f.svg"_s, svg(words.arg(u"9"_s, u"two"_s, u"1"_s)), QString());
     row("other drawing", u"figuras/f.svg"_s, svg(words.arg(u"1"_s, u"two"_s, u"2"_s)),
-        u"f.svg: drawn differently"_s);
+        u"figuras/f.svg: drawn differently"_s);
     row("words left out", u"figuras/f.svg"_s, svg(u"<rect x=\"1\"/>"_s),
-        u"f.svg: drawn differently"_s);
+        u"figuras/f.svg: drawn differently"_s);
 }
 
 void TestPageCheckers::translationFaultsAreFound()

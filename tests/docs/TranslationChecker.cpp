@@ -1,10 +1,8 @@
-#include "TranslationChecker.h"
+#include "PageCheckers.h"
 
-#include "FigureChecker.h"
-#include "PageChecker.h"
-
-#include <QDir>
 #include <QLocale>
+#include <QRegularExpression>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,45 +23,73 @@ QStringList unmatched(const QStringList &originals, const QStringList &translati
     return faults;
 }
 
-QStringList pageFaults(const QString &original, const QString &translation)
+/// A text of the interface as a page writes it.
+QString asNamed(QString text)
 {
-    PageChecker originals(original);
-    PageChecker translations(translation);
-    const QStringList pages = originals.pages();
-    const QStringList translated = translations.pages();
-    QStringList faults = unmatched(pages, translated);
-    for (const QString &page : pages) {
-        if (!translated.contains(page))
-            continue;
-        const QSet<QString> missing = originals.anchors(page) - translations.anchors(page);
-        for (const QString &id : missing)
-            faults << page + u": no place #"_s + id;
-    }
-    return faults;
+    text.remove(u'&');
+    if (text.endsWith(u'…'))
+        text.chop(1);
+    return text.replace(u'\'', u'’').trimmed();
 }
 
-QStringList figureFaults(const QString &original, const QString &translation)
+QHash<QString, QStringList> translationsIn(const QString &path, const QString &section)
 {
-    const auto figures = [](const QString &folder) {
-        return QDir(folder + u"/figuras"_s).entryList({u"*.svg"_s}, QDir::Files, QDir::Name);
-    };
-    const QStringList names = figures(original);
-    const QStringList translated = figures(translation);
-    QStringList faults = unmatched(names, translated);
-    for (const QString &name : names) {
-        const QString path = u"/figuras/"_s + name;
-        if (translated.contains(name) &&
-            drawingOf(original + path) != drawingOf(translation + path))
-            faults << name + u": drawn differently"_s;
+    QHash<QString, QStringList> translations;
+    bool inside = false;
+    for (const QString &line : readAll(path).split(u'\n')) {
+        const qsizetype equals = line.indexOf(u'=');
+        if (line.startsWith(u'['))
+            inside = line.trimmed() == u'[' + section + u']';
+        else if (inside && equals > 0)
+            translations[asNamed(line.first(equals))] << asNamed(line.sliced(equals + 1));
     }
-    return faults;
+    return translations;
+}
+
+bool isNamed(const QString &page, const QString &name)
+{
+    const QString pattern = u"[“«„‘]%1[”»“’]"_s.arg(QRegularExpression::escape(name));
+    return page.contains(QRegularExpression(pattern));
 }
 
 } // namespace
 
 QStringList translationFaults(const QString &original, const QString &translation)
 {
-    return pageFaults(original, translation) + figureFaults(original, translation);
+    PageChecker originals(original), translations(translation);
+    const QStringList pages = originals.pages(), translated = translations.pages();
+    const QStringList figures = originals.figures(), redrawn = translations.figures();
+    QStringList faults = unmatched(pages, translated) + unmatched(figures, redrawn);
+    for (const QString &page : pages) {
+        if (!translated.contains(page))
+            continue;
+        for (const QString &id : originals.anchors(page) - translations.anchors(page))
+            faults << page + u": no place #"_s + id;
+    }
+    for (const QString &figure : figures) {
+        if (redrawn.contains(figure) && checkFigure(original + u'/' + figure).drawing !=
+                                            checkFigure(translation + u'/' + figure).drawing)
+            faults << figure + u": drawn differently"_s;
+    }
+    return faults;
+}
+
+QStringList nameFaults(const QString &spanish, const QString &translation, const QString &texts,
+                       const QString &section)
+{
+    static const QRegularExpression quoted(u"«([^»]+)»"_s);
+    const QHash<QString, QStringList> translations = translationsIn(texts, section);
+    QStringList faults;
+    for (const QRegularExpressionMatch &match : quoted.globalMatch(spanish)) {
+        const QString name = match.captured(1);
+        const QStringList names = translations.value(asNamed(name));
+        const bool named = std::any_of(names.begin(), names.end(), [&](const QString &own) {
+            return isNamed(translation, own);
+        });
+        if (!names.isEmpty() && !named)
+            faults << u"«%1» is not named “%2”"_s.arg(name, names.join(u"” or “"_s));
+    }
+    return faults;
 }
 
 QString languageOfFolder(const QString &name)

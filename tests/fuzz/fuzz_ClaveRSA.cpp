@@ -40,7 +40,7 @@ void checkGoodKey(const ClsRSA &key)
     check(key.FiQ() == u"1"_s || Evalua(u"((%1)*(%2)) mod (%3)"_s.arg(key.s(), key.t(), key.FiQ()),
                                         {}, Aritmetica::Entera) == u"1"_s,
           "t is the inverse of s");
-    ClsRSA again;
+    ClsRSA again(Sesión());
     again.RecuperaClave();
     check(again.ClaveOK() && again.q(0) == key.q(0) && again.t() == key.t(),
           "a saved key is read back");
@@ -52,7 +52,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static const bool started = (start(), true);
     static_cast<void>(started);
-    ClsRSA key;
+    ClsRSA key(Sesión());
     QFile file(rutaDePlataforma(key.FicheroClavePrivada()));
     check(file.open(QIODevice::WriteOnly), "the key file can be written");
     file.write(reinterpret_cast<const char *>(data), static_cast<qint64>(size));

@@ -1,4 +1,4 @@
-#include "shell/core/Corrida.h"
+#include "bignum/gateway/Expresiones.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -36,10 +36,23 @@ void filaPorPagina()
         QTest::newRow(qPrintable(pagina.ruta)) << pagina;
 }
 
+QString contenido(const QString &ruta)
+{
+    QFile archivo(Entorno::carpetaDeTrabajo() + u'/' + ruta);
+    return archivo.open(QIODevice::ReadOnly) ? QString::fromUtf8(archivo.readAll()) : QString();
+}
+
 QString texto(const Pagina &pagina)
 {
-    QFile archivo(Entorno::carpetaDeTrabajo() + u"/Doc/"_s + pagina.ruta);
-    return archivo.open(QIODevice::ReadOnly) ? QString::fromUtf8(archivo.readAll()) : QString();
+    return contenido(u"Doc/"_s + pagina.ruta);
+}
+
+/// What the table of translations says for a text.
+QString enIngles(const QString &original)
+{
+    const QString tabla = contenido(u"Numora.txt"_s);
+    const auto inicio = tabla.indexOf(u'\n' + original + u'=') + original.size() + 2;
+    return tabla.mid(inicio, tabla.indexOf(u'\n', inicio) - inicio);
 }
 
 QList<QList<Fila>> tablas(const Pagina &pagina)
@@ -112,6 +125,28 @@ private Q_SLOTS:
         QVERIFY(situados > 10);
     }
 
+    /// The page tells of the functions what the library's table does: all of them, in its order.
+    void funciones_data() { filaPorPagina(); }
+    void funciones()
+    {
+        QFETCH(Pagina, pagina);
+        const bool ingles = pagina.ruta.startsWith(u"English"_s);
+        QStringList enLaPagina;
+        const auto todas = tablas(pagina);
+        for (const QList<Fila> &tabla : todas) {
+            for (const Fila &fila : tabla) {
+                const QString nombre = dato(fila, {u"Función"_s, u"Function"_s});
+                if (!nombre.isEmpty())
+                    enLaPagina << nombre + u": "_s + dato(fila, {u"Qué da"_s, u"What it gives"_s});
+            }
+        }
+        QStringList enLaTabla;
+        for (const FuncionDeExpresiones &f : funcionesDeExpresiones())
+            enLaTabla << (ingles ? f.internacional + u": "_s + enIngles(f.descripcion)
+                                 : f.nombre + u": "_s + f.descripcion);
+        QCOMPARE(enLaPagina, enLaTabla);
+    }
+
     /// The blocks to paste give the last result of the table that stands below each.
     void bloques_data() { filaPorPagina(); }
     void bloques()
@@ -129,8 +164,7 @@ private Q_SLOTS:
             for (const QString &linea : lineas)
                 bloque << QStringList{linea};
             HojaDeCalculo hoja;
-            Corrida corrida([] {});
-            QVERIFY(hoja.pega(en(u"A1"), bloque, corrida));
+            QVERIFY(hoja.pega(en(u"A1"), bloque, Billete()).completa());
             QCOMPARE(hoja.Resultados(static_cast<int>(bloque.size()), 1), ultimo);
         }
     }

@@ -1,3 +1,4 @@
+#include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/ModGlobal.h"
 #include "tests/minical/VentanaDePrueba.h"
@@ -5,9 +6,9 @@
 #include <QAbstractItemModelTester>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QLabel>
 #include <QTabBar>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QToolBar>
 
 using namespace Qt::Literals::StringLiterals;
@@ -179,6 +180,23 @@ private Q_SLOTS:
             QCOMPARE(Entorno::grabadora().unico().texto, mensaje);
     }
 
+    /// Where a stored precision cannot be read, it can be mended all the same.
+    void unaPrecisionDesmedida()
+    {
+        Sesión().guarda(u"Aritmética"_s, u"Precisión"_s, u" 99999999999"_s);
+        m = std::make_unique<VentanaDePrueba>();
+        auto *campo = control<QLineEdit>(m->ventana(), u"txtPrecisión"_s);
+        const auto *aviso = control<QLabel>(m->ventana(), u"lblPrecisión"_s);
+        QCOMPARE(campo->text(), u"99999999999"_s);
+        QVERIFY(aviso->isVisible() && aviso->text().contains(u"Pasa de 1000"_s));
+        m->boton(u"ValidarPrecisión"_s);
+        QVERIFY(aviso->isVisible());
+        campo->setText(u"50"_s);
+        m->boton(u"ValidarPrecisión"_s);
+        QCOMPARE(Sesión().Precisión(), 50);
+        QTRY_VERIFY(!aviso->isVisible());
+    }
+
     void laPrecisionRige()
     {
         control<QLineEdit>(m->ventana(), u"txtPrecisión"_s)->setText(u"6"_s);
@@ -265,14 +283,13 @@ private Q_SLOTS:
     {
         const QStringList fila(25, u"fib(100000)"_s);
         QApplication::clipboard()->setText((fila.join(u'\t') + u'\n').repeated(99));
-        QTimer::singleShot(0, m->ventana(), [&] {
-            auto *boton = control<QAbstractButton>(m->ventana(), u"cmdDetener"_s);
-            QVERIFY(boton->isVisible() && boton->hasFocus());
-            QVERIFY(!m->rejilla()->isEnabled());
-            QVERIFY(!control<QAbstractButton>(m->ventana(), u"Abrir"_s)->isEnabled());
-            QTest::keyClick(boton, Qt::Key_Escape);
-        });
         m->pulsa(Qt::Key_V, Qt::ControlModifier);
+        auto *boton = control<QAbstractButton>(m->ventana(), u"cmdDetener"_s);
+        QVERIFY(boton->isVisible() && boton->hasFocus());
+        QVERIFY(!m->rejilla()->isEnabled());
+        QVERIFY(!control<QAbstractButton>(m->ventana(), u"Abrir"_s)->isEnabled());
+        QTest::keyClick(boton, Qt::Key_Escape);
+        QTRY_VERIFY(m->rejilla()->isEnabled());
         QVERIFY(!m->texto(u"A1").isEmpty());
         QCOMPARE(m->texto(u"Y99"), QString());
         QVERIFY(m->rejilla()->hasFocus());
@@ -280,6 +297,32 @@ private Q_SLOTS:
         QVERIFY(control<QAbstractButton>(m->ventana(), u"Abrir"_s)->isEnabled());
         m->boton(u"Deshacer"_s);
         QCOMPARE(m->texto(u"A1"), QString());
+    }
+
+    void unPegadoQueFallaDejaLaHojaEnUso()
+    {
+        const auto falla =
+            connect(m->rejilla()->model(), &QAbstractItemModel::dataChanged, this,
+                    [] { throw ErrorEjecucion(ErrorEjecucion::MemoriaInsuficiente); });
+        QApplication::clipboard()->setText(u"1\t2"_s);
+        m->pulsa(Qt::Key_V, Qt::ControlModifier);
+        disconnect(falla);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Error en tiempo de ejecución"_s);
+        QVERIFY(m->rejilla()->isEnabled());
+        m->entra(u"B1", u"6*7"_s);
+        QCOMPARE(m->texto(u"B1"), u"42"_s);
+    }
+
+    void cerrarEnMitadDeUnPegado()
+    {
+        const QStringList fila(25, u"fib(100000)"_s);
+        QApplication::clipboard()->setText((fila.join(u'\t') + u'\n').repeated(99));
+        m->pulsa(Qt::Key_V, Qt::ControlModifier);
+        Entorno::grabadora().guardados = {Interlocutor::Guardado::Descartar};
+        QVERIFY(m->ventana()->close());
+        QCOMPARE(Entorno::grabadora().preguntasSiGuarda.size(), 1);
+        m.reset();
+        QCoreApplication::processEvents();
     }
 
     void laAyuda()

@@ -84,7 +84,9 @@ private Q_SLOTS:
     {
         m->entra(u"A1", u"5"_s);
         guarda(u"no/existe.minical"_s);
-        QVERIFY(Entorno::grabadora().unico().texto.contains(u"existe.minical"_s));
+        const auto mensaje = Entorno::grabadora().unico();
+        QVERIFY(mensaje.texto.contains(u"existe.minical"_s));
+        QCOMPARE(mensaje.titulo, u"No se pudo guardar"_s);
         QCOMPARE((*m)->windowTitle(), u"Mini hoja de cálculo *"_s);
         // Nor when the window is closed.
         Entorno::grabadora().guardados = {Guardado::Guardar};
@@ -122,6 +124,71 @@ private Q_SLOTS:
         QVERIFY(!m->ventana()->close());
     }
 
+    /// The hourglass is gone before a box comes.
+    void ningunaCajaBajoElRelojDeArena()
+    {
+        struct Mira : Grabadora
+        {
+            void avisa(QWidget *padre, Icono icono, const QString &t, const QString &r) override
+            {
+                QVERIFY(!QGuiApplication::overrideCursor());
+                Grabadora::avisa(padre, icono, t, r);
+            }
+        };
+        ponInterlocutor(std::make_unique<Mira>());
+        escribe(u"mala.minical"_s, "x");
+        abre(u"mala.minical"_s);
+        QCOMPARE(Entorno::grabadora().mensajes.size(), 1);
+        Entorno::grabadora().impresion = ruta(u"no/hoja.pdf"_s);
+        m->boton(u"Imprimir"_s);
+        QCOMPARE(Entorno::grabadora().mensajes.size(), 2);
+    }
+
+    /// What was not saved when the window went is offered by the next one, and back if it is
+    /// wanted.
+    void laCopiaVuelve_data()
+    {
+        QTest::addColumn<bool>("descarta");
+        QTest::newRow("recovered") << false;
+        QTest::newRow("discarded") << true;
+    }
+    void laCopiaVuelve()
+    {
+        QFETCH(bool, descarta);
+        guarda(u"hoja.minical"_s);
+        m->entra(u"A1", u"1/8"_s);
+        m->rejilla()->setColumnWidth(1, 300);
+        m->ve(u"B1");
+        m->teclea(u"A1*2"_s);
+        m.reset();
+        Entorno::grabadora().respondeSi = descarta;
+        m = std::make_unique<VentanaDePrueba>();
+        QTRY_COMPARE(Entorno::grabadora().confirmaciones.size(), 1);
+        QVERIFY(Entorno::grabadora().confirmaciones.constFirst().contains(u"hoja.minical"_s));
+        QTRY_COMPARE(m->texto(u"A1"), descarta ? QString() : u"1/8"_s);
+        QCOMPARE((*m)->windowTitle(),
+                 descarta ? u"Mini hoja de cálculo"_s : u"Mini hoja de cálculo - hoja.minical *"_s);
+        if (!descarta) {
+            QCOMPARE(m->texto(u"B1"), u"1/4"_s);
+            QVERIFY(m->rejilla()->columnWidth(1) > 280);
+            m->boton(u"Guardar"_s);
+        }
+        m.reset();
+        m = std::make_unique<VentanaDePrueba>();
+        QCoreApplication::processEvents();
+        QCOMPARE(Entorno::grabadora().confirmaciones.size(), 1);
+    }
+
+    void loDescartadoNoVuelve()
+    {
+        m->entra(u"A1", u"5"_s);
+        Entorno::grabadora().guardados = {Guardado::Descartar};
+        QVERIFY(m->ventana()->close());
+        m = std::make_unique<VentanaDePrueba>();
+        QCoreApplication::processEvents();
+        QCOMPARE(Entorno::grabadora().confirmaciones, QStringList());
+    }
+
     void hojaNueva()
     {
         m->entra(u"A1", u"5"_s);
@@ -152,6 +219,9 @@ private Q_SLOTS:
         m->boton(u"Exportar"_s);
         QCOMPARE(Entorno::grabadora().filtrosPedidos.constLast().size(), 2);
         QTEST(lee(u"hoja.csv"_s), "texto");
+        Entorno::grabadora().archivos = {{ruta(u"no/hoja.csv"_s), filtro}};
+        m->boton(u"Exportar"_s);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"No se pudo guardar"_s);
         // Exporting saves nothing.
         QVERIFY((*m)->windowTitle().endsWith(u'*'));
     }

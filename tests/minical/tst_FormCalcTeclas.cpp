@@ -1,7 +1,9 @@
 #include "tests/minical/VentanaDePrueba.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
+#include <QListWidget>
 #include <QMouseEvent>
 
 using namespace Qt::Literals::StringLiterals;
@@ -176,6 +178,68 @@ private Q_SLOTS:
         QCOMPARE(nombre->text(), u"A1"_s);
         m->boton(u"Deshacer"_s);
         QCOMPARE(nombre->text() + linea->text(), u"B21/3+1/3"_s);
+    }
+
+    /// What would make an expression too long is refused as a whole, in the cell and above it.
+    void loDemasiadoLargoSeRechaza_data()
+    {
+        QTest::addColumn<bool>("enLaCelda");
+        QTest::newRow("cell") << true;
+        QTest::newRow("line") << false;
+    }
+    void loDemasiadoLargoSeRechaza()
+    {
+        QFETCH(bool, enLaCelda);
+        m->ve(u"A1");
+        m->teclea(u"2"_s);
+        auto *linea = control<QLineEdit>(m->ventana(), u"txtExpresión"_s);
+        if (!enLaCelda)
+            linea->setFocus();
+        QLineEdit *campo = enLaCelda ? m->editor() : linea;
+        QApplication::clipboard()->setText(u"1+"_s.repeated(49'999) + u"1234"_s);
+        campo->paste();
+        QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"Parte de lo que"_s));
+        QCOMPARE(campo->text(), u"2"_s);
+        QApplication::clipboard()->setText(u"+1"_s.repeated(49'999) + u"0"_s);
+        campo->paste();
+        QCOMPARE(campo->text().size(), 100'000);
+        QTest::keyClick(campo, Qt::Key_Return);
+        QTRY_COMPARE(m->texto(u"A1"), u"50010"_s);
+    }
+
+    void lasFuncionesSeOfrecen_data()
+    {
+        QTest::addColumn<QString>("escrito");
+        QTest::addColumn<QList<Qt::Key>>("teclas");
+        QTest::addColumn<QString>("queda");
+        const auto fila = [](const char *nombre, const QString &escrito,
+                             const QList<Qt::Key> &teclas, const QString &queda) {
+            QTest::newRow(nombre) << escrito << teclas << queda;
+        };
+        fila("first one", u"2+MC"_s, {Qt::Key_Tab}, u"2+mcd("_s);
+        fila("chosen", u"mc"_s, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}, u"mcm("_s);
+        fila("back up", u"mi"_s, {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return}, u"min("_s);
+        fila("put away", u"fi"_s, {Qt::Key_Escape}, u"fi"_s);
+        fila("gone with the bracket", u"fi(7)"_s, {}, u"fi(7)"_s);
+        fila("no such name", u"xy"_s, {}, u"xy"_s);
+    }
+    void lasFuncionesSeOfrecen()
+    {
+        QFETCH(QString, escrito);
+        QFETCH(QList<Qt::Key>, teclas);
+        m->ve(u"A1");
+        m->teclea(escrito);
+        const auto *lista = m->editor()->findChild<QListWidget *>(u"lstFunciones"_s);
+        QCOMPARE(lista && lista->isVisible(), !teclas.isEmpty());
+        for (const Qt::Key tecla : teclas)
+            m->pulsa(tecla);
+        QVERIFY(!lista || !lista->isVisible());
+        QVERIFY(m->editor());
+        QTEST(m->editor()->text(), "queda");
+        // With none chosen, Enter is what it always is.
+        m->pulsa(Qt::Key_Return);
+        QVERIFY(!m->editor());
+        QCOMPARE(m->actual(), u"A2"_s);
     }
 
     /// A button of the toolbar takes what stands in the line, as it does with an edit in a cell.

@@ -3,7 +3,7 @@
 #include "minical/HojaGuardada.h"
 #include "minical/LineasDeHoja.h"
 #include "minical/Sustitucion.h"
-#include "shell/core/Corrida.h"
+#include "shell/core/run/Tareas.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -153,6 +153,9 @@ private Q_SLOTS:
     {
         HojaDeCalculo hoja;
         entra(hoja, u"A1", u"10^24000"_s);
+        QCOMPARE(sustituyeVariables(hoja.Variables(), u"A1-"_s, 24'004).size(), 24'004);
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
+                                 sustituyeVariables(hoja.Variables(), u"A1-"_s, 24'003));
         const QString muchas = u"A1+"_s.repeated(30'000) + u"1"_s;
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, hoja.SustituirVariables(muchas));
         QCOMPARE(entra(hoja, u"B1", muchas), u"Error"_s);
@@ -209,7 +212,7 @@ private Q_SLOTS:
         QVERIFY(!hoja.ValorDecimal(en(u"A3")));
         QVERIFY(!hoja.ValorDecimal({0, 1}) && !hoja.Recalcular({1, 0}));
         entra(hoja, u"A4", u"-1/8"_s);
-        hoja.ValorDecimal(en(u"A4"));
+        QVERIFY(hoja.ValorDecimal(en(u"A4")) && !hoja.ValorDecimal(en(u"A4")));
         QCOMPARE(resultado(hoja, u"A4"), u"-0,125"_s);
     }
 
@@ -327,21 +330,54 @@ private Q_SLOTS:
     void pegar()
     {
         HojaDeCalculo hoja;
-        Corrida corrida([] {});
-        QVERIFY(hoja.pega(en(u"A1"), {{u"2"_s, u"A1^10"_s}, {u"B1+1"_s}}, corrida));
+        const Billete sinCeder;
+        QVERIFY(hoja.pega(en(u"A1"), {{u"2"_s, u"A1^10"_s}, {u"B1+1"_s}}, sinCeder).completa());
         QCOMPARE(resultado(hoja, u"B1"), u"1024"_s);
         QCOMPARE(resultado(hoja, u"A2"), u"1025"_s);
-        QVERIFY(!hoja.pega(en(u"Y99"), {{u"1"_s, u"2"_s}, {u"3"_s}}, corrida));
+        QVERIFY(!hoja.pega(en(u"Y99"), {{u"1"_s, u"2"_s}, {u"3"_s}}, sinCeder).completa());
         QCOMPARE(resultado(hoja, u"Y99"), u"1"_s);
         hoja.deshace();
         hoja.deshace();
         QCOMPARE(hoja.ultimaUsada(), Celda());
-        // Stopped at once: what had been entered can be undone.
-        Corrida parada([&] { parada.detener(); });
-        hoja.pega(en(u"A1"), QList<QStringList>(99, QStringList(25, u"fib(20000)"_s)), parada);
-        QVERIFY(hoja.ultimaUsada().fila >= 1 && hoja.ultimaUsada().fila < 99);
+    }
+
+    /// Stopped, broken off by an error or gone with its window: what had been entered can be
+    /// undone.
+    void unPegadoAMedias_data()
+    {
+        QTest::addColumn<int>("como");
+        QTest::newRow("stopped") << 0;
+        QTest::newRow("error") << 1;
+        QTest::newRow("window closed") << 2;
+    }
+    void unPegadoAMedias()
+    {
+        QFETCH(int, como);
+        HojaDeCalculo hoja;
+        int errores = 0;
+        auto tareas = std::make_unique<Tareas>([&](const std::exception_ptr &) { ++errores; });
+        int celdas = 0;
+        hoja.alCambiar = [&](Celda) {
+            if (como == 1 && ++celdas == 3)
+                throw ErrorEjecucion(ErrorEjecucion::MemoriaInsuficiente);
+        };
+        const auto corre = [](HojaDeCalculo &h, Billete billete) -> Tarea<> {
+            co_await h.pega(en(u"A1"), QList<QStringList>(99, QStringList(25, u"fib(20000)"_s)),
+                            billete);
+        };
+        tareas->lanza(corre(hoja, tareas->billete()));
+        QCOMPARE(hoja.modificada(), true);
+        QVERIFY(hoja.ultimaUsada().columna >= 1 && hoja.ultimaUsada().fila < 99);
+        if (como == 0)
+            tareas->detener();
+        if (como == 2)
+            tareas.reset();
+        QTRY_VERIFY(!tareas || tareas->vacias());
+        QCOMPARE(errores, como == 1 ? 1 : 0);
+        hoja.alCambiar = {};
         hoja.deshace();
-        QCOMPARE(hoja.ultimaUsada(), Celda());
+        QVERIFY(hoja.ultimaUsada().columna <= (como == 1 ? 3 : 0) &&
+                !hoja.historial().puedeDeshacer());
     }
 
     void csv_data()

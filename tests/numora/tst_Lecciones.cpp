@@ -1,9 +1,9 @@
-#include "lessons/rsa/key/ClsRSA.h"
 #include "numora/Lecciones.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/Traduccion.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/start/FormPrincipal.h"
-#include "tests/shell/support/Entorno.h"
+#include "tests/numora/Estudiante.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -22,12 +22,7 @@ class TestLecciones : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        for (const QString &parte : {u"ClipArt"_s, u"Doc"_s})
-            QFile::link(Entorno::carpetaDeTrabajo() + u'/' + parte, m_carpeta.filePath(parte));
-    }
-    void init() { preparaEstudiante(); }
+    void init() { m_estudiante.prepara(); }
 
     /// The topic that needs a key and a mailbox is among those that are looked at.
     void elTemaDeLosMensajesEsta()
@@ -83,24 +78,9 @@ private Q_SLOTS:
     }
 
 private:
-    /// A student in a working folder of their own, with a good key and a mailbox, so that the
-    /// topics that come and go are there.
-    void preparaEstudiante() const
-    {
-        Entorno::limpia();
-        Sesión().ponCarpeta(m_carpeta.path());
-        ClsRSA clave;
-        clave.ponDirMensajes(m_carpeta.path());
-        clave.ponr(1);
-        clave.ponq(1, u"257"_s);
-        clave.ponq(2, u"263"_s);
-        clave.pons(u"5"_s);
-        clave.Valida();
-    }
-
     void temas()
     {
-        preparaEstudiante();
+        m_estudiante.prepara();
         QTest::addColumn<QString>("idioma");
         QTest::addColumn<int>("fila");
         QTest::addColumn<int>("tema");
@@ -189,7 +169,7 @@ private:
         return true;
     }
 
-    QTemporaryDir m_carpeta;
+    Estudiante m_estudiante;
     Contenido m_contenido = contenidoDelPrograma();
     std::unique_ptr<FormLeccion> m_leccion;
 };

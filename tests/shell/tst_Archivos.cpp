@@ -4,6 +4,7 @@
 #include "shell/core/TextoDeRejilla.h"
 #include "shell/core/system/Archivos.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -62,8 +63,9 @@ private Q_SLOTS:
         const auto dueno =
             QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
         QCOMPARE(QFileInfo(ruta).permissions() & ~dueno, QFile::Permissions());
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
-                                 Perfil::escribe(ruta, u"RSA"_s, {{u"r"_s, u"1\n[Otra]"_s}}));
+        for (const QString &valor : {u"1\n[Otra]"_s, u"1\r[Otra]"_s})
+            QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
+                                     Perfil::escribe(ruta, u"RSA"_s, {{u"r"_s, valor}}));
         QCOMPARE(leeArchivo(ruta, 100), "[RSA]\r\nr=1\r\nq(0)=33\r\n"_ba);
     }
 
@@ -80,6 +82,26 @@ private Q_SLOTS:
         escribeArchivo(archivo, "123456789");
         QCOMPARE(numeroDe([&] { leeArchivo(archivo, 8); }), int(ErrorEjecucion::ErrorDeArchivo));
         QCOMPARE(leeArchivo(archivo, 9), "123456789"_ba);
+    }
+
+    /// The rest of a killed program goes after a day; one that is being written stays.
+    void restos()
+    {
+        const QDir carpeta(m_carpeta.path());
+        const auto escribe = [&](const QString &nombre, int horas) {
+            QFile archivo(carpeta.filePath(nombre));
+            QVERIFY(archivo.open(QIODevice::WriteOnly));
+            const QDateTime fecha = QDateTime::currentDateTime().addSecs(-3600 * horas);
+            QVERIFY(archivo.setFileTime(fecha, QFileDevice::FileModificationTime));
+        };
+        escribe(u".numora-1a.tmp"_s, 25);
+        escribe(u".numora-1b.tmp"_s, 23);
+        escribe(u".numora-1c.msg"_s, 25);
+        QVERIFY(QFile::link(u"/etc/hostname"_s, carpeta.filePath(u".numora-1d.tmp"_s)));
+        barreRestos(carpeta.path(), u".numora-*.tmp"_s);
+        barreRestos(u"/no/hay"_s, u"*"_s);
+        QCOMPARE(carpeta.entryList({u".numora*"_s}, QDir::AllEntries | QDir::Hidden),
+                 (QStringList{u".numora-1b.tmp"_s, u".numora-1c.msg"_s, u".numora-1d.tmp"_s}));
     }
 
     void rutas()

@@ -81,9 +81,9 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, respuestas);
         Sesión().ponCarpeta(u"/equivocada"_s);
-        int preguntas = 0;
-        const auto pregunta = [&] { return respuestas.value(preguntas++); };
-        QTEST(encuentraCarpetaDeTrabajo(Sesión(), pregunta), "hallada");
+        Entorno::grabadora().respuestas = respuestas;
+        QTEST(encuentraCarpetaDeTrabajo().completa(), "hallada");
+        const auto preguntas = int(respuestas.size() - Entorno::grabadora().respuestas.size());
         QTEST(preguntas, "preguntas");
         QCOMPARE(Sesión().lee(u"Programa"_s, u"Carpeta"_s), respuestas.value(preguntas - 1));
     }
@@ -103,10 +103,10 @@ private Q_SLOTS:
     void segundaInstancia()
     {
         const pid_t otro = procesoConCerrojo(Sesión().carpetaDeAjustes() + u"/Numora.lock"_s);
-        const ProgramaEnMarcha programa = Main(QString(), {});
+        const Programa programa({}, {});
         kill(otro, SIGKILL);
         waitpid(otro, nullptr, 0);
-        QVERIFY(!programa.principal);
+        QVERIFY(!programa.principal());
         const auto mensaje = Entorno::grabadora().unico();
         QCOMPARE(mensaje.texto, u"Ya hay abierta una sesión del sistema Numora"_s);
         QCOMPARE(mensaje.titulo, u"En ejecución"_s);
@@ -117,9 +117,20 @@ private Q_SLOTS:
     {
         Sesión().ponCarpeta(u"/equivocada"_s);
         Entorno::grabadora().respuestas = {u"/nada"_s, u"/nadie"_s};
-        QVERIFY(!Main(QString(), {}).principal);
+        QVERIFY(!Programa({}, {}).principal());
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
         QCOMPARE(Sesión().carpeta(), u"/nadie"_s);
+    }
+
+    /// A desktop adds the display name of a program to all titles. Qt gives the name for one only
+    /// while none is set.
+    void losTitulosQuedanComoSon()
+    {
+        const QString nombre = QApplication::applicationName();
+        QCOMPARE(nombre, u"Numora"_s);
+        const auto alFinal = qScopeGuard([&] { QApplication::setApplicationName(nombre); });
+        QApplication::setApplicationName(u"otro"_s);
+        QCOMPARE(QApplication::applicationDisplayName(), u"otro"_s);
     }
 
     void presentacion_data()
@@ -133,13 +144,13 @@ private Q_SLOTS:
     {
         QFETCH(int, salida);
         QDir::setCurrent(u"/"_s);
-        const ProgramaEnMarcha programa = Main(u"-i:English"_s, {});
-        QVERIFY(programa.principal);
+        const Programa programa(u"-i:English"_s, {});
+        QVERIFY(programa.principal());
         QCOMPARE(Idioma(), u"English"_s);
         QCOMPARE(QDir::currentPath(), Entorno::carpetaDeTrabajo());
-        QVERIFY(!programa.principal->isVisible());
+        QVERIFY(!programa.principal()->isVisible());
 
-        auto *acercaDe = control<QWidget>(programa.principal.get(), u"formAcercaDe"_s);
+        auto *acercaDe = control<QWidget>(programa.principal(), u"formAcercaDe"_s);
         QVERIFY(QTest::qWaitForWindowActive(acercaDe));
         QCOMPARE(control<QLabel>(acercaDe, u"lblVersion"_s)->text(), u"Versión beta 1.5 Rev. 40"_s);
         if (salida == 0)
@@ -151,9 +162,9 @@ private Q_SLOTS:
             otra.show();
             otra.activateWindow();
         }
-        QTRY_VERIFY(programa.principal->isVisible());
-        QTRY_VERIFY(!programa.principal->findChild<QWidget *>(u"formAcercaDe"_s));
-        const auto *reloj = control<QTimer>(programa.principal.get(), u"TimerPresentacion"_s);
+        QTRY_VERIFY(programa.principal()->isVisible());
+        QTRY_VERIFY(!programa.principal()->findChild<QWidget *>(u"formAcercaDe"_s));
+        const auto *reloj = control<QTimer>(programa.principal(), u"TimerPresentacion"_s);
         QVERIFY(!reloj->isActive());
     }
 };

@@ -1,6 +1,7 @@
 #include "shell/controls/CampoLargo.h"
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/grid/Rejilla.h"
 #include "shell/look/Aspecto.h"
 #include "shell/start/FormAcercaDe.h"
@@ -8,8 +9,11 @@
 #include "tests/shell/support/Entorno.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -18,6 +22,35 @@
 using namespace Qt::Literals::StringLiterals;
 
 Q_DECLARE_METATYPE(Aspecto::Tema)
+
+namespace {
+
+/// A table of any size with the same text in all its cells.
+class Tabla : public QAbstractTableModel
+{
+public:
+    void pon(int filas, int columnas, const QString &celda)
+    {
+        beginResetModel();
+        m_filas = filas;
+        m_columnas = columnas;
+        m_celda = celda;
+        endResetModel();
+    }
+    int rowCount(const QModelIndex &) const override { return m_filas; }
+    int columnCount(const QModelIndex &) const override { return m_columnas; }
+    QVariant data(const QModelIndex &, int papel) const override
+    {
+        return papel == Qt::DisplayRole ? m_celda : QVariant();
+    }
+
+private:
+    int m_filas = 0;
+    int m_columnas = 0;
+    QString m_celda;
+};
+
+} // namespace
 
 class TestControles : public QObject
 {
@@ -54,10 +87,40 @@ private Q_SLOTS:
         QTest::keyClicks(campo, u"97"_s);
         QTest::keyClick(campo, Qt::Key_Return);
         QCOMPARE(entradas.count(), 1);
+        QKeyEvent mantenida(QEvent::KeyPress, Qt::Key_Return, {}, {}, /*autorep*/ true);
+        QApplication::sendEvent(campo, &mantenida);
+        QCOMPARE(entradas.count(), 1);
         QCOMPARE(campo->text(), u"97"_s);
         QTest::keyClick(campo, Qt::Key_Tab);
         QVERIFY(otro->hasFocus());
         QCOMPARE(ediciones.count(), 1);
+        campo->setFocus();
+        QTest::keyClick(campo, Qt::Key_Tab);
+        QCOMPARE(ediciones.count(), 1);
+    }
+
+    void columnasSegunLoQueMuestran_data()
+    {
+        QTest::addColumn<int>("ancho");
+        QTest::addColumn<bool>("caben");
+        QTest::newRow("wide") << 900 << true;
+        QTest::newRow("narrow") << 150 << false;
+    }
+    void columnasSegunLoQueMuestran()
+    {
+        QFETCH(int, ancho);
+        QStandardItemModel modelo(1, 3);
+        Rejilla rejilla;
+        rejilla.setModel(&modelo);
+        new ColumnasRepartidas(&rejilla);
+        rejilla.resize(ancho, 100);
+        rejilla.show();
+        modelo.setItem(0, 1, new QStandardItem(QString(20, u'7')));
+        QTRY_VERIFY(rejilla.columnWidth(1) >
+                    rejilla.fontMetrics().horizontalAdvance(QString(19, u'7')));
+        const int suma = rejilla.horizontalHeader()->length(), todo = rejilla.viewport()->width();
+        QVERIFY(suma >= todo);
+        QTEST(suma == todo, "caben");
     }
 
     void rejillaCopia()
@@ -69,9 +132,10 @@ private Q_SLOTS:
                 modelo.setItem(f, c, new QStandardItem(QString::number(10 * f + c)));
         }
         Rejilla rejilla;
-        QCOMPARE(rejilla.seleccion(FormaDeCopia::Texto), QString());
+        QCOMPARE(rejilla.seleccion(FormaDeCopia::Texto).completa().texto, QString());
         rejilla.setModel(&modelo);
-        QCOMPARE(rejilla.seleccion(FormaDeCopia::CSV), u"n;f(n)\r\n0;1\r\n10;11\r\n"_s);
+        QCOMPARE(rejilla.seleccion(FormaDeCopia::CSV).completa().texto,
+                 u"n;f(n)\r\n0;1\r\n10;11\r\n"_s);
         rejilla.setCurrentIndex(modelo.index(1, 1));
         QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QApplication::clipboard()->text(), u"11"_s);
@@ -87,6 +151,64 @@ private Q_SLOTS:
         modelo.removeRows(0, modelo.rowCount());
         QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QApplication::clipboard()->text(), u"n\tf(n)\n0\t1\n10\t11\n"_s);
+    }
+
+    /// What does not fit is told before anything is begun, and the rest can be stopped.
+    void rejillaGrande()
+    {
+        Tabla modelo;
+        Rejilla rejilla;
+        rejilla.setModel(&modelo);
+        rejilla.show();
+        QApplication::clipboard()->setText(u"de antes"_s);
+        const auto copia = [&] { QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier); };
+        for (const auto &[filas, columnas, celda] :
+             {std::tuple{1'000'000, 1'000'000, u"1"_s}, {2, 2, QString(20'000'000, u'1')}}) {
+            modelo.pon(filas, columnas, celda);
+            copia();
+            QCOMPARE(Entorno::grabadora().unico().titulo, u"No se ha copiado"_s);
+        }
+        modelo.pon(4'000'000, 1, u"1"_s);
+        const auto boton = [&] { return rejilla.findChild<QPushButton *>(u"cmdDetenCopia"_s); };
+        copia();
+        QVERIFY(!rejilla.tareas().vacias());
+        QTRY_VERIFY(boton()->isVisible());
+        boton()->click();
+        QTRY_VERIFY(rejilla.tareas().vacias());
+        copia();
+        modelo.pon(1, 1, u"1"_s);
+        QTRY_COMPARE(Entorno::grabadora().mensajes.size(), 1);
+        QCOMPARE(Entorno::grabadora().unico().texto,
+                 u"La tabla ha cambiado mientras se copiaba."_s);
+        QVERIFY(!boton()->isVisible());
+        QCOMPARE(QApplication::clipboard()->text(), u"de antes"_s);
+        modelo.pon(300'000, 1, u"1"_s);
+        rejilla.horizontalHeader()->hide();
+        copia();
+        QTRY_VERIFY_WITH_TIMEOUT(rejilla.tareas().vacias(), 20'000);
+        QCOMPARE(QApplication::clipboard()->text(), u"1\n"_s.repeated(300'000));
+    }
+
+    void elMenuDeLaRejilla()
+    {
+        QStandardItemModel modelo(1, 2);
+        modelo.setItem(0, 0, new QStandardItem(u"···"_s));
+        modelo.setVerticalHeaderLabels({u"fila"_s});
+        Rejilla rejilla;
+        rejilla.setModel(&modelo);
+        rejilla.horizontalHeader()->hide();
+        rejilla.ponRotulosDeFilaEnCopia(true);
+        rejilla.show();
+        QContextMenuEvent pide(QContextMenuEvent::Keyboard, {1, 1},
+                               rejilla.mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(&rejilla, &pide);
+        QPointer<QMenu> menu = rejilla.findChild<QMenu *>();
+        QVERIFY(menu && menu->isVisible());
+        menu->actions().at(2)->trigger();
+        QCOMPARE(QApplication::clipboard()->text(),
+                 u"\\begin{tabular}{rrr}\nfila & $\\cdots$ &  \\\\\n\\end{tabular}\n"_s);
+        menu->close();
+        QTRY_VERIFY(!menu);
     }
 
     void animacionSinArchivo()

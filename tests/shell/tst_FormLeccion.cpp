@@ -1,5 +1,5 @@
 #include "bignum/gateway/ErrorEjecucion.h"
-#include "shell/frame/Evento.h"
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/NavegadorPagina.h"
 #include "shell/start/FormPrincipal.h"
@@ -9,9 +9,10 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTabBar>
-#include <QTimer>
 #include <QVBoxLayout>
+#include <stdexcept>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,6 +32,7 @@ public:
         columna->addWidget(boton);
         agregaTema(u"Correr"_s, u"correr"_s, panel);
         campo->setObjectName(u"campo"_s);
+        m_corrida.ponEspera(this);
         conecta(boton, &QPushButton::clicked, this, &FormCorredor::boton_Click);
     }
 
@@ -38,27 +40,29 @@ public:
     using FormLeccion::quitaTema;
     using FormLeccion::tieneTema;
 
+    Tareas &tareas() { return m_tareas; }
+
+    static inline int vivas = 0; ///< runs whose frames have not been given back
     QLineEdit *campo = new QLineEdit;
     QPushButton *boton = new QPushButton;
-    bool acabada = false;
-
-protected:
-    QAbstractButton *botonDeParada() const override { return boton; }
 
 private:
-    void boton_Click()
+    Tarea<> boton_Click()
     {
-        if (corrida().enCurso()) {
-            corrida().detener();
-            return;
+        if (m_corrida.enMarcha()) {
+            m_corrida.detiene();
+            co_return;
         }
-        const Corrida::Tramo tramo(corrida());
-        corrida().permitir();
-        while (!corrida().detenida())
-            corrida().ceder();
-        campo->setText(u"fin"_s); // the window must still be there
-        acabada = true;
+        ++vivas;
+        const auto alFinal = qScopeGuard([] { --vivas; });
+        const auto marcha = m_corrida.empieza(m_tareas.billete());
+        while (!marcha.billete().detenida())
+            co_await marcha.billete().ceder();
+        campo->setText(u"fin"_s);
     }
+
+    BotonDeCorrida m_corrida{boton, BotonDeCorrida::calcular(), BotonDeCorrida::detener()};
+    TareasDeVentana m_tareas{this, parada()};
 };
 
 } // namespace
@@ -123,40 +127,51 @@ private Q_SLOTS:
         FormCorredor leccion;
         muestra(leccion);
         leccion.campo->setFocus();
-        QTimer::singleShot(50, [&] { QTest::keyClick(leccion.campo, Qt::Key_Escape); });
         QTest::mouseClick(leccion.boton, Qt::LeftButton);
-        QVERIFY(leccion.acabada);
+        QCOMPARE(leccion.boton->toolTip(), u"Detener cálculo"_s);
+        QCOMPARE(leccion.cursor().shape(), Qt::WaitCursor);
+        QTest::qWait(30);
+        QTest::keyClick(leccion.campo, Qt::Key_Escape);
+        QTRY_COMPARE(leccion.campo->text(), u"fin"_s);
+        QCOMPARE(leccion.boton->accessibleName(), u"Calcular"_s);
+        QCOMPARE(leccion.cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(FormCorredor::vivas, 0);
     }
 
+    void cerrarDuranteLaCorrida_data()
+    {
+        QTest::addColumn<int>("espera");
+        QTest::newRow("in the first yield") << 0;
+        QTest::newRow("later") << 50;
+    }
+    /// The run goes with its window: nothing computes on out of sight.
     void cerrarDuranteLaCorrida()
     {
+        QFETCH(int, espera);
         QPointer<FormCorredor> leccion = new FormCorredor;
         muestra(*leccion);
-        bool acabada = false;
-        QTimer::singleShot(50, [&] {
-            leccion->cierra();
-            QVERIFY(leccion && !leccion->isVisible());
-        });
-        connect(leccion, &QObject::destroyed, this, [&] { acabada = true; });
         QTest::mouseClick(leccion->boton, Qt::LeftButton);
-        QTRY_VERIFY(acabada);
-        QVERIFY(!leccion);
+        QCOMPARE(FormCorredor::vivas, 1);
+        QTest::qWait(espera);
+        leccion->cierra();
+        QTRY_VERIFY(!leccion);
+        QCOMPARE(FormCorredor::vivas, 0);
     }
 
     void cerrarElProgramaDuranteLaCorrida()
     {
         Contenido contenido;
         contenido.lecciones = {{u"PRIMOS"_s, u"Una"_s, nueva}, {u"RSA"_s, u"Otra"_s, nueva}};
-        auto principal = std::make_unique<FormPrincipal>(contenido);
-        principal->show();
-        QPointer<FormCorredor> una = abre(*principal, 0);
-        QPointer<FormCorredor> otra = abre(*principal, 1);
-        // The second run starts inside a yield of the first.
-        QTimer::singleShot(30, [&] { otra->boton->click(); });
-        QTimer::singleShot(80, [&] { QVERIFY(principal->close()); });
+        FormPrincipal principal(contenido);
+        principal.show();
+        QPointer<FormCorredor> una = abre(principal, 0);
+        QPointer<FormCorredor> otra = abre(principal, 1);
         una->boton->click();
-        QVERIFY(!principal->isVisible());
+        otra->boton->click();
+        QTest::qWait(50);
+        QVERIFY(principal.close());
         QTRY_VERIFY(!una && !otra);
+        QCOMPARE(FormCorredor::vivas, 0);
     }
 
     void unaLeccionQueSeCierraNoEstorbaALaNueva()
@@ -166,13 +181,11 @@ private Q_SLOTS:
         FormPrincipal principal(contenido);
         principal.show();
         QPointer<FormCorredor> vieja = abre(principal, 0);
-        FormCorredor *recien = nullptr;
-        QTimer::singleShot(30, [&] {
-            vieja->cierra();
-            recien = abre(principal, 0);
-        });
         vieja->boton->click();
-        QVERIFY(recien && recien != vieja);
+        QTest::qWait(30);
+        vieja->cierra();
+        const FormCorredor *recien = abre(principal, 0);
+        QVERIFY(recien != vieja);
         QTRY_VERIFY(!vieja);
         QCOMPARE(principal.abreLeccion(0), recien);
     }
@@ -183,7 +196,9 @@ private Q_SLOTS:
         conecta(leccion.campo, &QLineEdit::textChanged, &leccion, [](const QString &texto) {
             if (texto == u"mal"_s)
                 throw ErrorEjecucion(ErrorEjecucion::Desbordamiento);
-            throw std::bad_alloc();
+            if (texto == u"peor"_s)
+                throw std::bad_alloc();
+            throw std::out_of_range("lejos");
         });
         leccion.campo->setText(u"mal"_s);
         const auto primero = Entorno::grabadora().unico();
@@ -191,6 +206,8 @@ private Q_SLOTS:
         QCOMPARE(primero.texto, u"Desbordamiento."_s);
         leccion.campo->setText(u"peor"_s);
         QCOMPARE(Entorno::grabadora().unico().texto, u"Memoria insuficiente."_s);
+        leccion.campo->setText(u"lo peor"_s);
+        QCOMPARE(Entorno::grabadora().unico().texto, u"Error interno.\nlejos"_s);
     }
 
 private:

@@ -2,6 +2,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/look/Aspecto.h"
+#include "shell/start/FinDeSesion.h"
 #include "shell/start/FormPrincipal.h"
 #include "shell/start/MenuLecciones.h"
 #include "shell/start/PanelBienvenida.h"
@@ -13,22 +14,35 @@
 #include <QListView>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMessageBox>
 #include <QToolButton>
+#include <csignal>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// A lesson with one field, under whatever name.
+/// A lesson with one field, under whatever name. With text in it, it asks before it closes.
 class FormPrueba : public FormLeccion
 {
 public:
-    explicit FormPrueba(const QString &nombre) : FormLeccion(nombre + u".html"_s)
+    explicit FormPrueba(const QString &nombre)
+        : FormLeccion(nombre + u".html"_s), m_campo(new QLineEdit(this))
     {
         setObjectName(u"Form"_s + nombre);
         setWindowTitle(nombre);
-        agregaTema(u"Tema"_s, u"tema"_s, new QLineEdit(this));
+        agregaTema(u"Tema"_s, u"tema"_s, m_campo);
     }
+    Tarea<bool> puedeCerrarse() override
+    {
+        if (m_campo->text().isEmpty())
+            co_return true;
+        co_return co_await interlocutor().preguntaSiNo(this, windowTitle(), {});
+    }
+    void guardaLoPendiente() override { Sesión().guarda(u"P"_s, windowTitle(), m_campo->text()); }
+
+private:
+    QLineEdit *m_campo;
 };
 
 Contenido contenidoDePrueba()
@@ -251,14 +265,67 @@ private Q_SLOTS:
         QCOMPARE(Entorno::grabadora().abiertas.size(), 1);
     }
 
-    void recuerdaElTamanoDeCadaLeccion()
+    /// Sizes are noted when they change: the end of the program finds nothing to write.
+    void recuerdaLosTamanos()
     {
-        FormLeccion *leccion = m_principal->abreLeccion(1);
         const QSize tamano(420, 310);
+        FormLeccion *leccion = m_principal->abreLeccion(1);
         leccion->parentWidget()->resize(tamano);
+        const auto notado = [] { return Sesión().recuerda(u"Ventanas/FormUno"_s).toSize(); };
+        QTRY_COMPARE(notado(), tamano);
+        QVERIFY(!Sesión().recuerda(u"Ventana/Geometria"_s).toByteArray().isEmpty());
         leccion->cierra();
         QTRY_VERIFY(titulos().isEmpty());
         QCOMPARE(m_principal->abreLeccion(1)->parentWidget()->size(), tamano);
+        Sesión().anota(u"Ventanas/FormUno"_s, QSize());
+        m_principal->close();
+        QCOMPARE(notado(), QSize());
+    }
+
+    /// All lessons close or none, whatever each of them was told.
+    void preguntaATodasAntesDeCerrar()
+    {
+        for (const int fila : {0, 1, 2})
+            m_principal->abreLeccion(fila);
+        for (const int fila : {1, 2})
+            m_principal->abreLeccion(fila)->findChild<QLineEdit *>()->setText(u"x"_s);
+        QVERIFY(!m_principal->close());
+        QCOMPARE(Entorno::grabadora().confirmaciones.size(), 1);
+        QCOMPARE(titulos().size(), 3);
+        Entorno::grabadora().respondeSi = true;
+        QVERIFY(m_principal->close());
+        QCOMPARE(Entorno::grabadora().confirmaciones.size(), 3);
+        QTRY_VERIFY(titulos().isEmpty());
+    }
+
+    /// With the real box: the event of the close is over when the user answers.
+    void cierraCuandoSeContesta()
+    {
+        m_principal->abreLeccion(0)->findChild<QLineEdit *>()->setText(u"x"_s);
+        const auto grabadora = ponInterlocutor(nullptr);
+        const auto contesta = [&](QMessageBox::StandardButton boton) {
+            for (int vez = 0; vez < 2; ++vez) // a second try while it is asked asks nothing
+                QVERIFY(!m_principal->close());
+            const auto cajas = m_principal->findChildren<QMessageBox *>();
+            QCOMPARE(cajas.size(), 1);
+            cajas.first()->button(boton)->click();
+            QTRY_VERIFY(m_principal->findChildren<QMessageBox *>().isEmpty());
+        };
+        contesta(QMessageBox::No);
+        QVERIFY(m_principal->isVisible());
+        contesta(QMessageBox::Yes);
+        QTRY_VERIFY(!m_principal->isVisible());
+        ponInterlocutor(std::make_unique<Grabadora>());
+    }
+
+    void alAcabarLaSesionNoPregunta()
+    {
+        const FinDeSesion fin(m_principal.get());
+        m_principal->abreLeccion(1)->findChild<QLineEdit *>()->setText(u"a medias"_s);
+        ::raise(SIGTERM);
+        QTRY_VERIFY(!m_principal->isVisible());
+        QVERIFY(Entorno::grabadora().confirmaciones.isEmpty());
+        QCOMPARE(Sesión().lee(u"P"_s, u"Uno"_s), u"a medias"_s);
     }
 
     void losColores()

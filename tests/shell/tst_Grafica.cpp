@@ -93,7 +93,7 @@ private Q_SLOTS:
         Grafica grafica;
         llena(grafica);
         QSignalSpy senalado(&grafica, &Grafica::senalado);
-        const QPointF sitio = grafica.encuadre().aPixel({40.3, 700});
+        const QPointF sitio = grafica.encuadre().aPixel({39.7, 700});
         QTest::mouseMove(&grafica, sitio.toPoint());
         QCOMPARE(rotulo(grafica, u"LabelX"_s), u"40"_s);
         const auto y = rotulo(grafica, u"LabelY"_s).remove(u'.').toInt();

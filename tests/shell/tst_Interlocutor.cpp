@@ -1,3 +1,4 @@
+#include "shell/frame/Evento.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractButton>
@@ -9,9 +10,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 #include <QTreeView>
 #include <QUrl>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 using Guardado = Interlocutor::Guardado;
@@ -19,19 +20,32 @@ Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 
 namespace {
 
-/// Does something to the dialog that the next call opens; closes it in any case, lest it wait for
-/// ever.
-template <typename Dialogo>
-void enElDialogo(const std::function<void(Dialogo &)> &accion)
+template <typename T>
+Tarea<> apunta(Tarea<T> pregunta, std::optional<T> &dada)
 {
-    QTimer::singleShot(0, qApp, [accion] {
-        auto *abierto = QApplication::activeModalWidget();
-        auto *dialogo = qobject_cast<Dialogo *>(abierto);
-        QVERIFY(dialogo);
-        accion(*dialogo);
-        if (abierto->isVisible())
-            dialogo->reject();
-    });
+    dada = co_await pregunta;
+}
+
+template <typename Dialogo>
+Dialogo *abierto()
+{
+    auto *dialogo = qobject_cast<Dialogo *>(QApplication::activeModalWidget());
+    if (!dialogo)
+        qFatal("no such dialog is open");
+    return dialogo;
+}
+
+/// What a question is answered once something has been done to the dialog that it opens.
+template <typename Dialogo, typename T, typename Accion>
+T respuesta(Tarea<T> pregunta, const Accion &accion)
+{
+    std::optional<T> dada;
+    TareasDeVentana tareas(nullptr);
+    tareas.lanza(apunta(std::move(pregunta), dada));
+    accion(*abierto<Dialogo>());
+    if (!QTest::qWaitFor([&] { return dada.has_value(); }))
+        QTest::qFail("the question is not answered", __FILE__, __LINE__);
+    return dada.value_or(T());
 }
 
 } // namespace
@@ -103,11 +117,13 @@ private Q_SLOTS:
     void siGuarda()
     {
         QFETCH(QMessageBox::StandardButton, boton);
-        enElDialogo<QMessageBox>([&](QMessageBox &caja) {
+        const auto pulsa = [&](QMessageBox &caja) {
             QCOMPARE(caja.text(), u"¿Guardar?"_s);
             boton == QMessageBox::NoButton ? caja.close() : (caja.button(boton)->click(), true);
-        });
-        QTEST(m_real.preguntaSiGuarda(nullptr, u"¿Guardar?"_s, u"Hoja"_s), "respuesta");
+        };
+        QTEST(respuesta<QMessageBox>(m_real.preguntaGuardar(nullptr, u"¿Guardar?"_s, u"Hoja"_s),
+                                     pulsa),
+              "respuesta");
     }
 
     void archivoParaGuardar_data()
@@ -127,7 +143,7 @@ private Q_SLOTS:
         QFETCH(QString, ruta);
         const QTemporaryDir carpeta;
         const QStringList filtros{u"Uno (*.uno)"_s, u"Dos (*.dos)"_s};
-        enElDialogo<QFileDialog>([&](QFileDialog &dialogo) {
+        const auto escribe = [&](QFileDialog &dialogo) {
             if (filtro != 0) {
                 dialogo.selectNameFilter(filtros[filtro]);
                 Q_EMIT dialogo.filterSelected(filtros[filtro]);
@@ -136,9 +152,11 @@ private Q_SLOTS:
             if (!nombre.isEmpty())
                 campo->setText(nombre);
             QTest::keyClick(campo, Qt::Key_Return);
-        });
-        const auto elegido = m_real.pideArchivoParaGuardar(
-            nullptr, u"Guardar"_s, carpeta.filePath(u"hoja.uno"_s), filtros);
+        };
+        const auto elegido = respuesta<QFileDialog>(
+            m_real.eligeArchivoParaGuardar(nullptr, u"Guardar"_s, carpeta.filePath(u"hoja.uno"_s),
+                                           filtros),
+            escribe);
         QCOMPARE(elegido.ruta, carpeta.filePath(ruta));
         QCOMPARE(elegido.filtro, filtro);
     }
@@ -148,7 +166,7 @@ private Q_SLOTS:
         const QTemporaryDir carpeta;
         QFile archivo(carpeta.filePath(u"hoja.uno"_s));
         QVERIFY(archivo.open(QIODevice::WriteOnly));
-        enElDialogo<QFileDialog>([&](QFileDialog &dialogo) {
+        const auto escribe = [&](QFileDialog &dialogo) {
             QCOMPARE(dialogo.directory(), QDir(carpeta.path()));
             auto *lista = control<QTreeView>(&dialogo, u"treeView"_s);
             const auto tipo = [lista] {
@@ -158,48 +176,47 @@ private Q_SLOTS:
             auto *campo = control<QLineEdit>(&dialogo, u"fileNameEdit"_s);
             campo->setText(u"hoja.uno"_s);
             QTest::keyClick(campo, Qt::Key_Return);
-        });
-        const QStringList filtros{u"Uno (*.uno)"_s};
-        QCOMPARE(m_real.pideArchivoParaAbrir(nullptr, u"Abrir"_s, carpeta.path(), filtros),
-                 archivo.fileName());
-        enElDialogo<QFileDialog>([](QFileDialog &dialogo) { dialogo.reject(); });
-        QCOMPARE(m_real.pideArchivoParaAbrir(nullptr, u"Abrir"_s, carpeta.path(), filtros),
-                 QString());
-        enElDialogo<QFileDialog>([](QFileDialog &dialogo) { dialogo.reject(); });
-        QCOMPARE(m_real.pideArchivoParaGuardar(nullptr, u"Guardar"_s, carpeta.path(), filtros).ruta,
-                 QString());
+        };
+        const auto renuncia = [](QFileDialog &dialogo) { dialogo.reject(); };
+        const auto abre = [&] {
+            return m_real.eligeArchivoParaAbrir(nullptr, u"Abrir"_s, carpeta.path(),
+                                                {u"Uno (*.uno)"_s});
+        };
+        QCOMPARE(respuesta<QFileDialog>(abre(), escribe), archivo.fileName());
+        QCOMPARE(respuesta<QFileDialog>(abre(), renuncia), QString());
+        auto guarda = m_real.eligeArchivoParaGuardar(nullptr, u"Guardar"_s, carpeta.path(), {});
+        QCOMPARE(respuesta<QFileDialog>(std::move(guarda), renuncia).ruta, QString());
     }
 
-    void pideCarpeta_data()
+    void carpeta_data()
     {
         QTest::addColumn<bool>("acepta");
         QTest::newRow("chosen") << true;
         QTest::newRow("cancelled") << false;
     }
-    void pideCarpeta()
+    void carpeta()
     {
         QFETCH(bool, acepta);
         const QTemporaryDir inicial;
         QString pregunta;
-        QTimer::singleShot(0, this, [&] {
-            auto *dialogo = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-            QVERIFY(dialogo);
-            for (const QLabel *rotulo : dialogo->findChildren<QLabel *>()) {
+        const auto elige = [&](QFileDialog &dialogo) {
+            for (const QLabel *rotulo : dialogo.findChildren<QLabel *>()) {
                 if (rotulo->text().contains(u'\n') && rotulo->isVisible())
                     pregunta = rotulo->text();
             }
             if (acepta)
-                dialogo->selectFile(inicial.path());
-            dialogo->findChild<QDialogButtonBox *>()
+                dialogo.selectFile(inicial.path());
+            dialogo.findChild<QDialogButtonBox *>()
                 ->button(acepta ? QDialogButtonBox::Open : QDialogButtonBox::Cancel)
                 ->click();
-        });
-        QCOMPARE(m_real.pideCarpeta(nullptr, u"Uno.\n(Dos)"_s, inicial.path()),
+        };
+        QCOMPARE(respuesta<QFileDialog>(
+                     m_real.eligeCarpeta(nullptr, u"Uno.\n(Dos)"_s, inicial.path()), elige),
                  acepta ? inicial.path() : QString());
         QCOMPARE(pregunta, u"Uno.\n(Dos)"_s);
     }
 
-    void confirma_data()
+    void siONo_data()
     {
         QTest::addColumn<int>("tecla");
         QTest::addColumn<bool>("respuesta");
@@ -207,18 +224,56 @@ private Q_SLOTS:
         QTest::newRow("Escape") << int(Qt::Key_Escape) << false;
         QTest::newRow("yes") << 0 << true;
     }
-    void confirma()
+    void siONo()
     {
         QFETCH(int, tecla);
-        QTimer::singleShot(0, this, [&] {
-            auto *caja = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            QVERIFY(caja);
+        const auto contesta = [&](QMessageBox &caja) {
             if (tecla == 0)
-                caja->button(QMessageBox::Yes)->click();
+                caja.button(QMessageBox::Yes)->click();
             else
-                QTest::keyClick(caja, Qt::Key(tecla));
-        });
-        QTEST(m_real.confirma(nullptr, u"¿Seguro?"_s, u"Título"_s), "respuesta");
+                QTest::keyClick(&caja, Qt::Key(tecla));
+        };
+        QTEST(respuesta<QMessageBox>(m_real.preguntaSiNo(nullptr, u"¿Seguro?"_s, u"Título"_s),
+                                     contesta),
+              "respuesta");
+    }
+
+    /// A box over a window that goes is an answer as careful as Escape; one that only tells goes
+    /// along.
+    void laCajaSeVaConSuVentana()
+    {
+        auto ventana = std::make_unique<QWidget>();
+        m_real.avisa(ventana.get(), Interlocutor::Icono::Critico, u"Texto"_s, u"Título"_s);
+        const QPointer<QMessageBox> aviso = abierto<QMessageBox>();
+        auto pregunta = m_real.preguntaSiNo(ventana.get(), u"¿Seguro?"_s, u"Título"_s);
+        QCOMPARE(
+            respuesta<QMessageBox>(std::move(pregunta), [&](QMessageBox &) { ventana.reset(); }),
+            false);
+        QVERIFY(!aviso);
+    }
+
+    /// Whoever asks may be gone before the answer.
+    void laCajaSeVaConSuTarea()
+    {
+        std::optional<bool> dada;
+        auto tareas = std::make_unique<TareasDeVentana>(nullptr);
+        tareas->lanza(apunta(m_real.preguntaSiNo(nullptr, u"¿Seguro?"_s, u"Título"_s), dada));
+        const QPointer<QMessageBox> caja = abierto<QMessageBox>();
+        tareas.reset();
+        QTRY_VERIFY(!caja);
+        QVERIFY(!dada);
+    }
+
+    /// A short text leaves room for the title, and the pointer of a busy window is not the box's.
+    void lasCajasSeLeen()
+    {
+        QWidget ventana;
+        ventana.setCursor(Qt::WaitCursor);
+        const QString titulo = u"Un título bastante más largo que el texto de la caja"_s;
+        m_real.avisa(&ventana, Interlocutor::Icono::Informacion, u"Sí."_s, titulo);
+        const auto *caja = abierto<QMessageBox>();
+        QVERIFY(caja->width() > caja->fontMetrics().horizontalAdvance(titulo));
+        QCOMPARE(caja->cursor().shape(), Qt::ArrowCursor);
     }
 
 private:

@@ -1,7 +1,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/start/Main.h"
+#include "shell/look/TextosDeQt.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QFile>
@@ -100,6 +100,10 @@ private Q_SLOTS:
         Idioma() = idioma;
         instalaTextosDeQt();
         QTEST(QCoreApplication::translate("QPlatformTheme", "Cancel"), "texto");
+        const bool espanol = QTest::currentDataTag() != "translated"_ba;
+        // One that Qt's own Spanish lacks.
+        QCOMPARE(QCoreApplication::translate("QPrintSettingsOutput", "Off"),
+                 espanol ? u"No"_s : u"Off"_s);
     }
 
     void carpetaDeLaSesion()
@@ -110,6 +114,16 @@ private Q_SLOTS:
         QCOMPARE(sesion.lee(u"Programa"_s, u"Carpeta"_s, u"nada"_s), QString());
         sesion.ponCarpeta(u"C:\\no existe"_s);
         QCOMPARE(clsSesión(u"/otra"_s).carpeta(), u"C:\\no existe"_s);
+    }
+
+    /// A test can stand on a session of its own; without one, the next use makes one.
+    void otraSesion()
+    {
+        auto deAntes = ponSesión(std::make_unique<clsSesión>(u"/del/programa"_s));
+        QCOMPARE(Sesión().carpetaPrograma(), u"/del/programa"_s);
+        ponSesión(nullptr);
+        QCOMPARE(Sesión().carpetaPrograma(), QCoreApplication::applicationDirPath());
+        ponSesión(std::move(deAntes));
     }
 
     void precisionDeLaSesion()

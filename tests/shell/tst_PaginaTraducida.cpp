@@ -1,5 +1,5 @@
 #include "shell/core/ModGlobal.h"
-#include "shell/core/PaginaTraducida.h"
+#include "shell/core/Traduccion.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/NavegadorPagina.h"
 #include "tests/shell/support/Entorno.h"

@@ -1,7 +1,7 @@
-#include "shell/core/EnteroAcotado.h"
+#include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModeloFilas.h"
-#include "shell/core/TextoDeDuracion.h"
 #include "shell/frame/PanelCuestiones.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -11,10 +11,9 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
-
-Q_DECLARE_METATYPE(std::optional<std::int32_t>)
 
 /// Small pieces that lessons are built of.
 class TestPiezasDeLeccion : public QObject
@@ -27,29 +26,57 @@ private Q_SLOTS:
     void enteros_data()
     {
         QTest::addColumn<QString>("expresion");
-        QTest::addColumn<std::optional<std::int32_t>>("valor");
-        QTest::addColumn<bool>("avisa");
-        const std::optional<std::int32_t> ninguno;
-        QTest::newRow("least") << u"3"_s << std::optional(3) << false;
-        QTest::newRow("largest") << u"10^2"_s << std::optional(100) << false;
-        QTest::newRow("blanks") << u" 4 + 4 "_s << std::optional(8) << false;
-        QTest::newRow("below") << u"2"_s << ninguno << false;
-        QTest::newRow("negative") << u"-50"_s << ninguno << false;
-        QTest::newRow("above") << u"101"_s << ninguno << true;
-        QTest::newRow("far above") << u"10^40"_s << ninguno << true;
-        QTest::newRow("fraction") << u"7/2"_s << ninguno << false;
-        QTest::newRow("fraction above") << u"201/2"_s << ninguno << true;
-        QTest::newRow("words") << u"tres"_s << ninguno << false;
-        QTest::newRow("empty") << QString() << ninguno << false;
+        QTest::addColumn<int>("valor");
+        QTest::addColumn<QString>("razon");
+        const auto fila = [](const char *nombre, const QString &expresion, int valor,
+                             const QString &razon = {}) {
+            QTest::newRow(nombre) << expresion << valor << razon;
+        };
+        const QString menor = u"El menor número permitido es 3."_s;
+        const QString mayor = u"El mayor número permitido es 1.000."_s;
+        const QString incalculable = u"Lo escrito no es una expresión que se pueda calcular."_s;
+        fila("least", u"3"_s, 3);
+        fila("largest", u"10^3"_s, 1000);
+        fila("blanks", u" 4 + 4 "_s, 8);
+        fila("below", u"2"_s, 0, menor);
+        fila("negative", u"-50"_s, 0, menor);
+        fila("above", u"1001"_s, 0, mayor);
+        fila("far above", u"10^40"_s, 0, mayor);
+        fila("fraction", u"7/2"_s, 0, u"El valor escrito no es un número entero."_s);
+        fila("fraction above", u"2001/2"_s, 0, mayor);
+        fila("words", u"tres"_s, 0, incalculable);
+        fila("division by zero", u"1/0"_s, 0, incalculable);
+        fila("empty", u" "_s, 0, u"Escriba un número entero."_s);
     }
+    /// One reader for all types; only a value above the bound has a box as well.
     void enteros()
     {
         QFETCH(QString, expresion);
-        QFETCH(std::optional<std::int32_t>, valor);
-        QFETCH(bool, avisa);
-        QCOMPARE(evaluaEnteroAcotado(expresion, 3, 100), valor);
-        QCOMPARE(Entorno::grabadora().mensajes.size(), avisa ? 1 : 0);
-        Entorno::grabadora().mensajes.clear();
+        QFETCH(QString, razon);
+        const auto comprueba = [&](const auto &leido, const QString &valor) {
+            QCOMPARE(leido ? QString() : leido.razon().frase(), razon);
+            if (leido)
+                QTEST(valor.toInt(), "valor");
+            QCOMPARE(!Entorno::grabadora().mensajes.isEmpty(), razon.contains(u"mayor"));
+            Entorno::grabadora().mensajes.clear();
+        };
+        const auto maquina = leeEntero(expresion, 3, 1000);
+        comprueba(maquina, maquina ? QString::number(*maquina) : QString());
+        const auto fijo = leeEntero(expresion, Moneda::deEntero(3), Moneda::deEntero(1000));
+        comprueba(fijo, fijo ? fijo->texto() : QString());
+        const auto texto = leeEntero(expresion, {u"3"_s, u"1000"_s});
+        comprueba(texto, texto ? *texto : QString());
+    }
+
+    void redondeados()
+    {
+        QCOMPARE(aEntero16(2.5), std::int16_t{2});
+        QCOMPARE(aEntero16(3.5), std::int16_t{4});
+        QCOMPARE(aEntero16(-32768.5), std::int16_t{-32768});
+        for (const double valor : {32767.5, -32769.0, std::nan("")})
+            QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, aEntero16(valor));
+        QCOMPARE(aEntero32(2147483646.5), 2147483646);
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, aEntero32(2147483647.5));
     }
 
     void modeloDeFilas()

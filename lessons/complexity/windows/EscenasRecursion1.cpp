@@ -2,36 +2,32 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-QList<Escena> escenasRecursion1(int fila)
+QList<Escena> escenasRecursion1()
 {
     const Paso mide{u"cmdMedir"_s, {}};
     const Paso mueve{u"cmdMover"_s, {}};
     const Paso disco{u"cmdSiguienteMovimiento"_s, {}};
     const Paso llamada{u"cmdSiguienteLlamada"_s, {}};
-    return {{u"recursion1-introduccion"_s, fila, u"intro"_s},
-            {u"recursion1-fibonacci-vacia"_s, fila, u"fibonacci"_s},
-            {u"recursion1-fibonacci"_s, fila, u"fibonacci"_s, {mide}},
+    return {{u"recursion1-introduccion"_s, u"intro"_s},
+            {u"recursion1-fibonacci-vacia"_s, u"fibonacci"_s},
+            {u"recursion1-fibonacci"_s, u"fibonacci"_s, {mide}},
             {u"recursion1-fibonacci-llamadas"_s,
-             fila,
              u"fibonacci"_s,
              {{u"TxtHasta"_s, u"25"_s}, mide, {u"optLlamadas"_s, {}}}},
             {u"recursion1-fibonacci-en-marcha"_s,
-             fila,
              u"fibonacci"_s,
              {{u"TxtHasta"_s, u"45"_s}, mide},
              true},
-            {u"recursion1-arbol"_s, fila, u"arbol"_s},
+            {u"recursion1-arbol"_s, u"arbol"_s},
             {u"recursion1-arbol-paso"_s,
-             fila,
              u"arbol"_s,
              {llamada, llamada, llamada, llamada, llamada, llamada, llamada, llamada}},
-            {u"recursion1-arbol-memoria"_s, fila, u"arbol"_s, {{u"chkMemoria"_s, {}}}},
-            {u"recursion1-hanoi"_s, fila, u"hanoi"_s},
-            {u"recursion1-hanoi-paso"_s, fila, u"hanoi"_s, {disco, disco, disco, disco, disco}},
-            {u"recursion1-hanoi-en-marcha"_s, fila, u"hanoi"_s, {mueve}},
-            {u"recursion1-cuestiones"_s, fila, u"cuestiones"_s},
+            {u"recursion1-arbol-memoria"_s, u"arbol"_s, {{u"chkMemoria"_s, {}}}},
+            {u"recursion1-hanoi"_s, u"hanoi"_s},
+            {u"recursion1-hanoi-paso"_s, u"hanoi"_s, {disco, disco, disco, disco, disco}},
+            {u"recursion1-hanoi-en-marcha"_s, u"hanoi"_s, {mueve}},
+            {u"recursion1-cuestiones"_s, u"cuestiones"_s},
             {u"recursion1-cuestiones-juzgada"_s,
-             fila,
              u"cuestiones"_s,
              {{u"txtRespuesta_1"_s, u"2^3 + 1"_s}, {u"cmdComprobar_1"_s, {}}}}};
 }

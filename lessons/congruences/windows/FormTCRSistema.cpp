@@ -5,6 +5,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
@@ -102,7 +103,7 @@ void FormTCRSistema::cmdProblema1_Click()
 void FormTCRSistema::cmdResolver1_Click()
 {
     if (hayQueResolver())
-        cierraRespuesta(solucion(m_modelo->sistema()));
+        cierraRespuesta(resuelve(m_modelo->sistema()));
 }
 
 void FormTCRSistema::cmdSol1_Click()
@@ -125,9 +126,9 @@ bool FormTCRSistema::hayQueResolver()
     ui->FlexTCR->setCurrentIndex(m_modelo->index(
         fila, mala.restoValido() ? ModeloCongruencias::Modulo : ModeloCongruencias::Resto));
     ui->FlexTCR->setFocus();
-    interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
-                           Traduce(u"Fila %1: "_s).arg(fila + 1) + mala.defecto() + u'.',
-                           Traduce(u"Sistema no válido"_s));
+    interlocutor().avisa(this, Interlocutor::Icono::Exclamacion,
+                         Traduce(u"Fila %1: "_s).arg(fila + 1) + mala.defecto() + u'.',
+                         Traduce(u"Sistema no válido"_s));
     return false;
 }
 
@@ -137,11 +138,15 @@ void FormTCRSistema::abreRespuesta()
     ui->txtSol1->setReadOnly(false);
     ui->txtSol1->setText({});
     ui->txtSol1->viewport()->setBackgroundRole(QPalette::Base);
+    ui->lblAviso->clear();
 }
 
-void FormTCRSistema::cierraRespuesta(const QString &solucion)
+/// Where there is no solution the field says so as the service does, and the reason stands below.
+void FormTCRSistema::cierraRespuesta(const Resolucion &resolucion)
 {
-    ui->txtSol1->setText(solucion);
+    ui->txtSol1->setText(resolucion.resultado);
+    if (!resolucion.motivo.isEmpty())
+        muestraVeredicto(ui->lblAviso, false, resolucion.motivo);
     ui->cmdSol1->setEnabled(false);
     ui->txtSol1->setReadOnly(true);
     ui->txtSol1->viewport()->setBackgroundRole(QPalette::Button);

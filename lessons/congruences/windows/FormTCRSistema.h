@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lessons/congruences/SistemaCongruencias.h"
+
 #include <QWidget>
 #include <memory>
 
@@ -23,7 +25,7 @@ private:
     void preparaRejilla();
     bool hayQueResolver();
     void abreRespuesta();
-    void cierraRespuesta(const QString &solucion);
+    void cierraRespuesta(const Resolucion &resolucion);
     void borraCeldas();
     void pegaCeldas();
 

@@ -16,26 +16,25 @@ QList<Paso> respuesta(const QString &a, const QString &b, const QString &n)
 
 } // namespace
 
-QList<Escena> escenasEuclides(int fila)
+QList<Escena> escenasEuclides()
 {
     const QString tabla = u"euclides"_s, ecuaciones = u"diofantica"_s, cuestiones = u"cuestiones"_s;
-    return {
-        {u"euclides-introduccion"_s, fila, u"intro"_s},
-        {u"euclides-tabla"_s, fila, tabla},
-        {u"euclides-tabla-reducidos"_s,
-         fila,
-         tabla,
-         {{u"StatusBar_1"_s, {}}, {u"FlexEuclides"_s, u"0,2:46"_s}}},
-        {u"euclides-tabla-grande"_s,
-         fila,
-         tabla,
-         {{u"FlexEuclides"_s, u"0,1:922337203685477"_s},
-          {u"FlexEuclides"_s, u"0,2:570035741062561"_s}}},
-        {u"euclides-ecuacion-vacia"_s, fila, ecuaciones},
-        {u"euclides-ecuacion"_s, fila, ecuaciones, ecuacion(u"6"_s, u"10"_s, u"100"_s)},
-        {u"euclides-ecuacion-muchas"_s, fila, ecuaciones, ecuacion(u"1"_s, u"1"_s, u"10^12"_s)},
-        {u"euclides-ecuacion-sin"_s, fila, ecuaciones, ecuacion(u"5"_s, u"10"_s, u"3"_s)},
-        {u"euclides-cuestiones"_s, fila, cuestiones},
-        {u"euclides-cuestiones-acierto"_s, fila, cuestiones, respuesta(u"34"_s, u"21"_s, u"7"_s)},
-        {u"euclides-cuestiones-fallo"_s, fila, cuestiones, respuesta(u"21"_s, u"34"_s, u"7"_s)}};
+    return {{u"euclides-introduccion"_s, u"intro"_s},
+            {u"euclides-tabla"_s, tabla},
+            {u"euclides-tabla-reducidos"_s,
+             tabla,
+             {{u"StatusBar_1"_s, {}}, {u"FlexEuclides"_s, u"0,2:46"_s}}},
+            {u"euclides-tabla-grande"_s,
+             tabla,
+             {{u"FlexEuclides"_s, u"0,1:922337203685477"_s},
+              {u"FlexEuclides"_s, u"0,2:570035741062561"_s}}},
+            {u"euclides-tabla-rechazada"_s, tabla, {{u"FlexEuclides"_s, u"0,2:25/2"_s}}},
+            {u"euclides-ecuacion-vacia"_s, ecuaciones},
+            {u"euclides-ecuacion"_s, ecuaciones, ecuacion(u"6"_s, u"10"_s, u"100"_s)},
+            {u"euclides-ecuacion-muchas"_s, ecuaciones, ecuacion(u"1"_s, u"1"_s, u"10^12"_s)},
+            {u"euclides-ecuacion-sin"_s, ecuaciones, ecuacion(u"5"_s, u"10"_s, u"3"_s)},
+            {u"euclides-cuestiones"_s, cuestiones},
+            {u"euclides-cuestiones-faltan"_s, cuestiones, respuesta(u"34"_s, u"0"_s, QString())},
+            {u"euclides-cuestiones-acierto"_s, cuestiones, respuesta(u"34"_s, u"21"_s, u"7"_s)},
+            {u"euclides-cuestiones-fallo"_s, cuestiones, respuesta(u"21"_s, u"34"_s, u"7"_s)}};
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lessons/euclid/clsExtMCD.h"
+#include "lessons/euclid/CuestionEuclides.h"
 
 #include <QWidget>
 #include <memory>
@@ -20,9 +20,7 @@ public:
 
 private:
     void cmdProblema_Click();
-    QString veredicto(bool acierto);
-    void muestraVeredicto(bool acierto);
 
     std::unique_ptr<Ui::FormEuclidesCuestiones> ui;
-    clsExtMCD m_mcd;
+    CuestionEuclides m_cuestion;
 };

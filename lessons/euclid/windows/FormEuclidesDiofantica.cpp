@@ -1,7 +1,7 @@
 #include "lessons/euclid/windows/FormEuclidesDiofantica.h"
 
-#include "lessons/euclid/EvaluaEntero.h"
 #include "lessons/euclid/ModeloSoluciones.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/grid/ColumnasRepartidas.h"
@@ -43,10 +43,12 @@ void FormEuclidesDiofantica::ResuelveEcuacion()
 {
     // An error on the way must not leave the solutions of other numbers in sight.
     muestra({{}, Traduce(u"Soluciones"_s), {}});
-    const Moneda mayor = Moneda::deEntero(Moneda::MaximoEntero);
-    const Moneda a = EvaluaEntero(m_txtN[0]->text(), mayor);
-    const Moneda b = EvaluaEntero(m_txtN[1]->text(), mayor);
-    const Moneda c = EvaluaEntero(m_txtN[2]->text(), mayor);
+    const auto valor = [this](int indice) {
+        const Moneda mayor = Moneda::deEntero(Moneda::MaximoEntero);
+        const auto leido = leeEntero(m_txtN[indice]->text(), -mayor, mayor);
+        return leido ? *leido : Moneda();
+    };
+    const Moneda a = valor(0), b = valor(1), c = valor(2);
     muestra(m_ecuacion.resuelve(a, b, c));
 }
 

@@ -1,9 +1,10 @@
 #include "lessons/euclid/windows/FormEuclidesTabla.h"
 
-#include "lessons/euclid/EvaluaEntero.h"
 #include "lessons/euclid/windows/ModeloEuclides.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
@@ -87,7 +88,16 @@ void FormEuclidesTabla::FlexEuclides_AfterEdit(int columna, const QString &texto
 {
     const auto algoritmo =
         m_restosReducidos ? AlgoritmoEuclides::RestosReducidos : AlgoritmoEuclides::Estandar;
-    const Moneda valor = EvaluaEntero(texto, mayorNumero(algoritmo));
+    ui->lblAviso->clear();
+    const auto leido =
+        leeEntero(texto, Moneda::deEntero(-Moneda::MaximoEntero), mayorNumero(algoritmo));
+    if (!leido)
+        muestraVeredicto(
+            ui->lblAviso, false,
+            Traduce(u"%1: %2 Cuenta como 0."_s)
+                .arg(m_modelo->headerData(columna, Qt::Horizontal, Qt::DisplayRole).toString(),
+                     leido.razon().frase()));
+    const Moneda valor = leido ? *leido : Moneda();
     if (columna == ModeloEuclides::Dividendo)
         rehazTabla(valor, m_modelo->tabla().divisor());
     else

@@ -2,7 +2,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-QList<Escena> escenasFibonacci(int fila)
+QList<Escena> escenasFibonacci()
 {
     const Paso calcula{u"cmdCalcular"_s, {}};
     const Paso porDefinicion{u"optMetodo_0"_s, {}};
@@ -10,10 +10,9 @@ QList<Escena> escenasFibonacci(int fila)
     const Paso hastaElFinal{u"cmdTodo"_s, {}};
     const Paso prueba{u"cmdProbar"_s, {}};
     return {
-        {u"fibonacci-introduccion"_s, fila, u"intro"_s},
-        {u"fibonacci-valores-vacia"_s, fila, u"valores"_s},
+        {u"fibonacci-introduccion"_s, u"intro"_s},
+        {u"fibonacci-valores-vacia"_s, u"valores"_s},
         {u"fibonacci-valores"_s,
-         fila,
          u"valores"_s,
          {porDefinicion,
           calcula,
@@ -24,34 +23,24 @@ QList<Escena> escenasFibonacci(int fila)
           {u"TxtN"_s, u"10000"_s},
           calcula}},
         {u"fibonacci-valores-en-marcha"_s,
-         fila,
          u"valores"_s,
          {{u"TxtN"_s, u"50"_s}, porDefinicion, calcula},
          true},
-        {u"fibonacci-valores-rechazado"_s, fila, u"valores"_s, {{u"TxtN"_s, u"5/2"_s}, calcula}},
-        {u"fibonacci-aureo"_s, fila, u"aureo"_s},
-        {u"fibonacci-aureo-500"_s,
-         fila,
-         u"aureo"_s,
-         {{u"TxtHasta"_s, u"500"_s}, {u"cmdAureo"_s, {}}}},
-        {u"fibonacci-zeckendorf-vacia"_s, fila, u"zeckendorf"_s},
+        {u"fibonacci-valores-rechazado"_s, u"valores"_s, {{u"TxtN"_s, u"5/2"_s}, calcula}},
+        {u"fibonacci-aureo"_s, u"aureo"_s},
+        {u"fibonacci-aureo-500"_s, u"aureo"_s, {{u"TxtHasta"_s, u"500"_s}, {u"cmdAureo"_s, {}}}},
+        {u"fibonacci-zeckendorf-vacia"_s, u"zeckendorf"_s},
         {u"fibonacci-zeckendorf-a-medias"_s,
-         fila,
          u"zeckendorf"_s,
          {{u"cmdSiguiente"_s, {}}, {u"cmdSiguiente"_s, {}}}},
-        {u"fibonacci-zeckendorf"_s,
-         fila,
-         u"zeckendorf"_s,
-         {{u"TxtNumero"_s, u"10^15"_s}, hastaElFinal}},
-        {u"fibonacci-identidades-vacia"_s, fila, u"identidades"_s},
-        {u"fibonacci-identidades"_s, fila, u"identidades"_s, {prueba}},
+        {u"fibonacci-zeckendorf"_s, u"zeckendorf"_s, {{u"TxtNumero"_s, u"10^15"_s}, hastaElFinal}},
+        {u"fibonacci-identidades-vacia"_s, u"identidades"_s},
+        {u"fibonacci-identidades"_s, u"identidades"_s, {prueba}},
         {u"fibonacci-identidades-grandes"_s,
-         fila,
          u"identidades"_s,
          {{u"TxtIndiceM"_s, u"1000"_s}, {u"TxtIndiceN"_s, u"1500"_s}, prueba}},
-        {u"fibonacci-cuestiones"_s, fila, u"cuestiones"_s},
+        {u"fibonacci-cuestiones"_s, u"cuestiones"_s},
         {u"fibonacci-cuestiones-juzgada"_s,
-         fila,
          u"cuestiones"_s,
          {{u"txtRespuesta_0"_s, u"89 + 55"_s}, {u"cmdComprobar_0"_s, {}}}}};
 }

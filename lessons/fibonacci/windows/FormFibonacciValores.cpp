@@ -3,7 +3,6 @@
 #include "shell/core/EnteroAcotado.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/core/TextoDeDuracion.h"
 #include "shell/frame/BotonDeCalculo.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"

@@ -9,28 +9,19 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-FormPrimos::FormPrimos(QWidget *padre)
-    : FormLeccion(u"Primos.html"_s, padre),
-      m_criba(new FormPrimosCriba(this)),
-      m_factorizacion(new FormPrimosFactorizacion(this))
+FormPrimos::FormPrimos(QWidget *padre) : FormLeccion(u"Primos.html"_s, padre)
 {
+    auto *criba = new FormPrimosCriba(this);
+    auto *factorizacion = new FormPrimosFactorizacion(this);
     setObjectName(u"FormPrimos"_s);
     setWindowTitle(Traduce(u"Primos"_s));
     setWindowIcon(Icono(u"PRIMOS"_s));
     agregaIntroduccion(u"Introducción"_s);
-    agregaTema(u"Criba de Eratóstenes"_s, u"criba"_s, m_criba);
+    agregaTema(u"Criba de Eratóstenes"_s, u"criba"_s, criba);
     agregaTema(u"Test de primos"_s, u"test"_s, new FormPrimosTest(this));
-    agregaTema(u"Factorización"_s, u"factorizacion"_s, m_factorizacion);
+    agregaTema(u"Factorización"_s, u"factorizacion"_s, factorizacion);
     agregaTema(u"Cuestiones"_s, u"cuestiones"_s, new FormPrimosCuestiones(this));
     // The time of a factorization stands in the panel of the sieve as well, to be compared.
-    connect(m_factorizacion, &FormPrimosFactorizacion::tiempoMedido, m_criba,
+    connect(factorizacion, &FormPrimosFactorizacion::tiempoMedido, criba,
             &FormPrimosCriba::muestraTiempo);
-}
-
-QAbstractButton *FormPrimos::botonDeParada() const
-{
-    // One run may have been started inside the other: then it is the one in sight that is meant.
-    QAbstractButton *criba = m_criba->botonDeParada();
-    QAbstractButton *factorizacion = m_factorizacion->botonDeParada();
-    return factorizacion && (!criba || m_factorizacion->isVisible()) ? factorizacion : criba;
 }

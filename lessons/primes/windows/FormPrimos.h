@@ -2,9 +2,6 @@
 
 #include "shell/frame/FormLeccion.h"
 
-class FormPrimosCriba;
-class FormPrimosFactorizacion;
-
 /// The lesson on primes.
 class FormPrimos : public FormLeccion
 {
@@ -12,11 +9,4 @@ class FormPrimos : public FormLeccion
 
 public:
     explicit FormPrimos(QWidget *padre = nullptr);
-
-protected:
-    QAbstractButton *botonDeParada() const override;
-
-private:
-    FormPrimosCriba *m_criba;
-    FormPrimosFactorizacion *m_factorizacion;
 };

@@ -3,19 +3,17 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/primes/CribaSegmentada.h"
 #include "lessons/primes/ModeloPrimos.h"
-#include "lessons/primes/PrimosDelServicio.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Evento.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/look/Aspecto.h"
-#include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
 #include "ui_FormPrimosCriba.h"
 
 #include <QHeaderView>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -24,7 +22,8 @@ const QString Maximo = u"100000000"_s;
 QString resumen(qint64 cuantos, qint64 mayor, bool detenida)
 {
     if (cuantos == 0)
-        return Traduce(u"No hay primos hasta ese número"_s);
+        return Traduce(detenida ? u"Criba detenida antes de hallar ningún primo"_s
+                                : u"No hay primos hasta ese número"_s);
     if (cuantos == 1)
         return Traduce(u"Un solo primo: %1"_s).arg(formatoEntero(mayor));
     return Traduce(detenida ? u"Criba detenida: %1 primos; el mayor es %2"_s
@@ -38,7 +37,8 @@ FormPrimosCriba::FormPrimosCriba(FormLeccion *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormPrimosCriba>()),
       m_leccion(leccion),
-      m_modelo(new ModeloPrimos(this))
+      m_modelo(new ModeloPrimos(this)),
+      m_tareas(this, leccion->parada())
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -50,7 +50,10 @@ FormPrimosCriba::FormPrimosCriba(FormLeccion *leccion)
     ui->FlexPrimos->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     ui->FlexPrimos->ponTextoVacio(
         Traduce(u"Escriba hasta qué número y pulse el botón: aquí aparecerán los primos."_s));
-    ponEnReposo();
+    m_boton = new BotonDeCorrida(ui->BtnCriba, {u"CRIBA"_s, {}, Traduce(u"Realizar la criba"_s)},
+                                 {u"STOP"_s, {}, Traduce(u"Detener cálculo"_s)});
+    m_boton->ponReloj(ui->lblTiempo, 100ms);
+    m_boton->ponAnimacion(ui->ccrpAniCriba);
 
     conecta(ui->BtnCriba, &QPushButton::clicked, this, &FormPrimosCriba::BtnCriba_Click);
     conecta(ui->txtMaxPrimo, &QLineEdit::returnPressed, this,
@@ -59,100 +62,74 @@ FormPrimosCriba::FormPrimosCriba(FormLeccion *leccion)
 
 FormPrimosCriba::~FormPrimosCriba() = default;
 
-QAbstractButton *FormPrimosCriba::botonDeParada() const
-{
-    const bool enMarcha = ui->ccrpAniCriba->estado() == ReproductorAVI::Reproduciendo;
-    return enMarcha ? ui->BtnCriba : nullptr;
-}
-
 void FormPrimosCriba::muestraTiempo(const QString &tiempo)
 {
     ui->lblTiempo->setText(tiempo);
 }
 
-void FormPrimosCriba::BtnCriba_Click()
+Tarea<> FormPrimosCriba::BtnCriba_Click()
 {
-    const Corrida::Tramo tramo(m_leccion->corrida());
-    if (botonDeParada()) {
-        m_leccion->corrida().detener();
-        ponEnReposo();
-        return;
+    if (m_boton->enMarcha()) {
+        m_boton->detiene();
+        co_return;
     }
     const std::optional<Moneda> cota = Moneda::deTexto(Evalua(ui->txtMaxPrimo->text(), Maximo));
     if (!cota) {
         ui->txtMaxPrimo->setFocus();
         ui->txtMaxPrimo->selectAll();
-        return;
+        co_return;
     }
     const std::int32_t limite = cota->aEntero32();
-    m_leccion->corrida().permitir();
+    const bool propia = ui->optTipoCriba_0->isChecked();
     ponEnMarcha();
-    if (ui->optTipoCriba_0->isChecked()) {
-        criba(limite);
-    } else {
-        PrimosDelServicio lista = listaPrimos(limite);
-        ui->ProgressBar->setValue(100);
-        ponEnReposo();
-        muestraPrimos(std::move(lista.numeros), lista.cuantos, false);
-    }
-}
-
-void FormPrimosCriba::criba(std::int32_t limite)
-{
-    // The run that yields may be overtaken by one that a second start began inside it; then the
-    // panel belongs to the later one.
-    const auto esta = m_criba = std::make_shared<CribaSegmentada>();
-    esta->criba(limite, m_leccion->corrida(), [this](int porcentaje) {
-        ui->ProgressBar->setValue(porcentaje);
-        muestraTiempoTranscurrido();
-    });
-    if (m_criba != esta)
-        return;
-    ponEnReposo();
-    const auto primos = esta->primos();
-    muestraPrimos({primos.begin(), primos.end()}, static_cast<qint64>(primos.size()),
-                  m_leccion->corrida().detenida());
+    auto marcha = m_boton->empieza(m_tareas.billete());
+    const Billete billete = marcha.billete();
+    co_await billete.cederYa();
+    const auto avance = [&](int porcentaje) {
+        if (marcha.vigente())
+            ui->ProgressBar->setValue(porcentaje);
+    };
+    PrimosDelServicio lista;
+    if (propia)
+        lista = co_await criba(limite, billete, avance);
+    else
+        lista = co_await listaPrimos(limite, billete, avance);
+    if (!marcha.vigente())
+        co_return;
+    marcha.termina();
+    muestraPrimos(std::move(lista), billete.detenida());
 }
 
 void FormPrimosCriba::ponEnMarcha()
 {
-    ui->BtnCriba->setIcon(ImgStop());
-    ui->BtnCriba->setToolTip(Traduce(u"Detener cálculo"_s));
-    ui->BtnCriba->setAccessibleName(ui->BtnCriba->toolTip());
-    ui->ccrpAniCriba->reproduce(ReproductorAVI::Modo::Continuo);
+    m_modelo->pon({});
+    ui->FlexPrimos->ponTextoVacio(Traduce(u"Cribando…"_s));
     ui->ProgressBar->setFormat(u"%p %"_s);
     ui->ProgressBar->setValue(0);
     ui->lblResumen->clear();
-    m_inicio = std::chrono::steady_clock::now();
-    muestraTiempoTranscurrido();
-    m_leccion->corrida().cederYa();
 }
 
-void FormPrimosCriba::ponEnReposo()
+Tarea<PrimosDelServicio> FormPrimosCriba::criba(std::int32_t limite, Billete billete,
+                                                std::function<void(int porcentaje)> avance)
 {
-    ui->ccrpAniCriba->para();
-    ui->BtnCriba->setIcon(Icono(u"CRIBA"_s));
-    ui->BtnCriba->setToolTip(Traduce(u"Realizar la criba"_s));
-    ui->BtnCriba->setAccessibleName(ui->BtnCriba->toolTip());
+    const auto esta = m_criba = std::make_shared<CribaSegmentada>();
+    co_await esta->criba(limite, billete, std::move(avance));
+    const auto primos = esta->primos();
+    co_return PrimosDelServicio{static_cast<std::int32_t>(primos.size()),
+                                {primos.begin(), primos.end()}};
 }
 
-void FormPrimosCriba::muestraTiempoTranscurrido()
+void FormPrimosCriba::muestraPrimos(PrimosDelServicio lista, bool detenida)
 {
-    const auto ahora = std::chrono::steady_clock::now();
-    muestraTiempo(
-        formatoTiempo(std::chrono::duration_cast<std::chrono::milliseconds>(ahora - m_inicio)));
-}
-
-void FormPrimosCriba::muestraPrimos(std::vector<std::uint32_t> primos, qint64 cuantos,
-                                    bool detenida)
-{
-    muestraTiempoTranscurrido();
     m_leccion->setCursor(Qt::WaitCursor);
-    const qint64 mayor = primos.empty() ? 0 : primos.back();
-    m_modelo->pon(std::move(primos));
+    // What the library counts beforehand is not there when the list was stopped.
+    const auto cuantos = detenida ? static_cast<qint64>(lista.numeros.size()) : lista.cuantos;
+    const qint64 mayor = lista.numeros.empty() ? 0 : lista.numeros.back();
+    m_modelo->pon(std::move(lista.numeros));
     // The bar stands where the largest prime does, nearly always short of 100 %.
     if (!detenida)
         ui->ProgressBar->setFormat(Traduce(u"Terminada"_s));
     ui->lblResumen->setText(resumen(cuantos, mayor, detenida));
+    ui->FlexPrimos->ponTextoVacio(ui->lblResumen->text());
     m_leccion->unsetCursor();
 }

@@ -1,14 +1,15 @@
 #pragma once
 
+#include "lessons/primes/PrimosDelServicio.h"
+#include "shell/frame/BotonDeCorrida.h"
+#include "shell/frame/Evento.h"
+
 #include <QWidget>
-#include <chrono>
 #include <memory>
-#include <vector>
 
 class CribaSegmentada;
 class FormLeccion;
 class ModeloPrimos;
-class QAbstractButton;
 namespace Ui {
 class FormPrimosCriba;
 }
@@ -23,23 +24,22 @@ public:
     explicit FormPrimosCriba(FormLeccion *leccion);
     ~FormPrimosCriba() override;
 
-    /// The button that stops the sieve; null while none runs.
-    QAbstractButton *botonDeParada() const;
+    Tareas &tareas() { return m_tareas; }
 
     /// Writes a time into the label of the panel.
     void muestraTiempo(const QString &tiempo);
 
 private:
-    void BtnCriba_Click();
-    void criba(std::int32_t limite);
+    Tarea<> BtnCriba_Click();
     void ponEnMarcha();
-    void ponEnReposo();
-    void muestraTiempoTranscurrido();
-    void muestraPrimos(std::vector<std::uint32_t> primos, qint64 cuantos, bool detenida);
+    Tarea<PrimosDelServicio> criba(std::int32_t limite, Billete billete,
+                                   std::function<void(int porcentaje)> avance);
+    void muestraPrimos(PrimosDelServicio lista, bool detenida);
 
     std::unique_ptr<Ui::FormPrimosCriba> ui;
     FormLeccion *m_leccion;
     ModeloPrimos *m_modelo;
+    BotonDeCorrida *m_boton;
     std::shared_ptr<CribaSegmentada> m_criba; ///< the last sieve, kept between runs
-    std::chrono::steady_clock::time_point m_inicio;
+    TareasDeVentana m_tareas;
 };

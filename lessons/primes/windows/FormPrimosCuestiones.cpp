@@ -1,7 +1,8 @@
 #include "lessons/primes/windows/FormPrimosCuestiones.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "shell/controls/LineasSegunTexto.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
@@ -64,13 +65,13 @@ void FormPrimosCuestiones::cmdProblema_Click()
 std::optional<QString> FormPrimosCuestiones::primoDe(CampoLargo *campo)
 {
     const QString numero = Evalua(campo->text());
-    const bool evaluado = !numero.isEmpty() && !numero.startsWith(TextoError);
+    const bool evaluado = !numero.isEmpty() && !esError(numero);
     if (evaluado && EsPrimo(numero))
         return numero;
     if (evaluado) {
-        interlocutor().mensaje(this, Interlocutor::Icono::Informacion,
-                               Traduce(u"El número "_s) + numero + Traduce(u" no es primo"_s),
-                               Traduce(u"Solución errónea"_s));
+        interlocutor().avisa(this, Interlocutor::Icono::Informacion,
+                             Traduce(u"El número "_s) + numero + Traduce(u" no es primo"_s),
+                             Traduce(u"Solución errónea"_s));
     }
     campo->setFocus();
     return {};
@@ -81,7 +82,7 @@ QString FormPrimosCuestiones::binarioDelProducto(const QString &primo1, const QS
 {
     QString expresion = u"("_s + primo1 + u")*("_s + primo2 + u")"_s;
     const QString producto = Evalua(expresion);
-    if (producto.startsWith(TextoError))
+    if (esError(producto))
         return {};
     const QString binario = EnBase(2, producto);
     const bool hayCifras = !binario.isEmpty() && binario.front().isDigit();

@@ -4,14 +4,13 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/primes/DivisionTentativa.h"
 #include "lessons/primes/windows/ModeloFactores.h"
-#include "shell/controls/LineasSegunTexto.h"
+#include "shell/controls/CampoLargo.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Evento.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
-#include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
 #include "ui_FormPrimosFactorizacion.h"
 
@@ -23,9 +22,8 @@ using namespace std::chrono_literals;
 FormPrimosFactorizacion::FormPrimosFactorizacion(FormLeccion *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormPrimosFactorizacion>()),
-      m_leccion(leccion),
       m_modelo(new ModeloFactores(this)),
-      m_timerFactorizando(this)
+      m_tareas(this, leccion->parada())
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -42,66 +40,56 @@ FormPrimosFactorizacion::FormPrimosFactorizacion(FormLeccion *leccion)
     new LineasSegunTexto(ui->TxtN, 3, 6);
     new LineasSegunTexto(ui->txtFactorElegido, 2, 6);
     new LineasSegunTexto(ui->txtProductoDeFactores, 2, 8);
-    m_timerFactorizando.setObjectName(u"TimerFactorizando"_s);
-    m_timerFactorizando.setInterval(100ms);
-    ponBotonEnReposo();
+    m_boton = new BotonDeCorrida(ui->BtnFactoriza, {u"FACTORIZAR"_s, {}, Traduce(u"Factorizar"_s)},
+                                 {u"STOP"_s, {}, Traduce(u"Detener factorización"_s)});
+    m_boton->timer().setObjectName(u"TimerFactorizando"_s);
+    m_boton->ponReloj(ui->lblTiempoFactorizando, 100ms);
+    m_boton->ponEspera(leccion);
+    m_boton->ponAnimacion(ui->ccrpAniFactorizando);
 
     conecta(ui->BtnFactoriza, &QPushButton::clicked, this,
             &FormPrimosFactorizacion::BtnFactoriza_Click);
     conecta(ui->TxtN, &CampoLargo::returnPressed, this,
             [this] { ui->BtnFactoriza->animateClick(); });
-    conecta(&m_timerFactorizando, &QTimer::timeout, this,
-            &FormPrimosFactorizacion::TimerFactorizando_Timer);
     conecta(ui->FlexFactores->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &celda) { FlexFactores_EnterCell(celda.row()); });
 }
 
 FormPrimosFactorizacion::~FormPrimosFactorizacion() = default;
 
-QAbstractButton *FormPrimosFactorizacion::botonDeParada() const
+Tarea<> FormPrimosFactorizacion::BtnFactoriza_Click()
 {
-    return m_timerFactorizando.isActive() ? ui->BtnFactoriza : nullptr;
-}
-
-void FormPrimosFactorizacion::BtnFactoriza_Click()
-{
-    const Corrida::Tramo tramo(m_leccion->corrida());
-    if (m_timerFactorizando.isActive()) {
+    if (m_boton->enMarcha()) {
         detiene();
-        return;
+        co_return;
     }
     // The wheels turn from the first moment, and go on turning when the input is refused.
     ui->ccrpAniFactorizando->reproduce(ReproductorAVI::Modo::Continuo);
     const QString numero = Evalua(ui->TxtN->text());
-    if (numero.isEmpty() || numero.startsWith(TextoError)) {
+    if (numero.isEmpty() || esError(numero)) {
         ui->TxtN->setFocus();
-        return;
+        co_return;
     }
     // What is chosen now holds for the whole run, whatever is clicked meanwhile.
     const Algoritmo elegido = algoritmo();
     Moneda moneda;
     if (elegido != Avanzado) {
         if (excedeElLimite(numero))
-            return;
+            co_return;
         const auto leida = Moneda::deTexto(numero);
         if (!leida)
             throw ErrorEjecucion(ErrorEjecucion::TipoNoCoincide, numero);
         moneda = *leida;
     }
-    ponEnMarcha();
-    factoriza(elegido, numero, moneda);
-    termina();
+    co_await factoriza(elegido, numero, moneda);
 }
 
 /// The naive loop returns at its next yield; the other algorithms run to their end regardless, and
 /// then their factors are shown.
 void FormPrimosFactorizacion::detiene()
 {
-    m_timerFactorizando.stop();
-    m_leccion->corrida().detener();
-    ponBotonEnReposo();
-    ui->ccrpAniFactorizando->para();
-    m_leccion->unsetCursor();
+    ui->lblResultado->setText(Traduce(u"Detenida."_s));
+    m_boton->detiene();
 }
 
 FormPrimosFactorizacion::Algoritmo FormPrimosFactorizacion::algoritmo() const
@@ -116,83 +104,92 @@ bool FormPrimosFactorizacion::excedeElLimite(const QString &numero)
     const QString limite = QString::number(Moneda::MaximoEntero);
     if (!EsMayor(limite, numero))
         return false;
-    interlocutor().mensaje(this, Interlocutor::Icono::Informacion,
-                           Traduce(u"Solo puede dar números grandes con el algoritmo avanzado."_s) +
-                               u'\n' + Traduce(u"Con el algoritmo seleccionado, el máximo es "_s) +
-                               limite,
-                           Traduce(u"Número demasiado grande"_s));
+    interlocutor().avisa(this, Interlocutor::Icono::Informacion,
+                         Traduce(u"Solo puede dar números grandes con el algoritmo avanzado."_s) +
+                             u'\n' + Traduce(u"Con el algoritmo seleccionado, el máximo es "_s) +
+                             limite,
+                         Traduce(u"Número demasiado grande"_s));
     return true;
 }
 
-void FormPrimosFactorizacion::ponEnMarcha()
+/// Nothing of another number stands on screen while this one is factored.
+void FormPrimosFactorizacion::ponEnMarcha(Algoritmo elegido, const QString &numero)
 {
-    ui->BtnFactoriza->setIcon(ImgStop());
-    ui->BtnFactoriza->setToolTip(Traduce(u"Detener factorización"_s));
-    ui->BtnFactoriza->setAccessibleName(ui->BtnFactoriza->toolTip());
-    m_leccion->setCursor(Qt::WaitCursor);
-    m_leccion->corrida().cederYa();
-    m_leccion->corrida().permitir();
-    m_inicio = std::chrono::steady_clock::now();
-    m_timerFactorizando.start();
-    TimerFactorizando_Timer();
-    m_leccion->corrida().cederYa();
+    m_boton->anuncia();
+    ui->FlexFactores->ponTextoVacio(Traduce(u"Factorizando…"_s));
+    m_modelo->pon({});
+    FlexFactores_EnterCell(-1);
+    ui->txtProductoDeFactores->setText({});
+    ui->lblResultado->setText(
+        elegido == Avanzado && puedeTardar(numero)
+            ? Traduce(u"Factorizando… Con tantas cifras puede durar hasta dos minutos, en los que "
+                      u"la ventana no responde."_s)
+            : Traduce(u"Factorizando…"_s));
 }
 
-void FormPrimosFactorizacion::factoriza(Algoritmo elegido, const QString &numero, Moneda moneda)
+Tarea<> FormPrimosFactorizacion::factoriza(Algoritmo elegido, QString numero, Moneda moneda)
+{
+    ponEnMarcha(elegido, numero);
+    const auto turno = m_boton->turno();
+    const Billete previo = m_tareas.billete();
+    co_await previo.cederYa();
+    // A second click may have started another factorization meanwhile.
+    if (turno != m_boton->turno())
+        co_return;
+    auto marcha = m_boton->empieza(m_tareas.billete());
+    const Billete billete = marcha.billete();
+    co_await billete.cederYa();
+    try {
+        const TablaDeFactores tabla = co_await halla(elegido, numero, moneda, billete);
+        if (!marcha.vigente())
+            co_return;
+        muestra(tabla);
+    } catch (const ErrorEjecucion &) {
+        // It ends the event, and leaves the window as it stands.
+        marcha.deja();
+        throw;
+    }
+    marcha.termina();
+    Q_EMIT tiempoMedido(ui->lblTiempoFactorizando->text());
+}
+
+Tarea<TablaDeFactores> FormPrimosFactorizacion::halla(Algoritmo elegido, QString numero,
+                                                      Moneda moneda, Billete billete)
 {
     if (elegido == Avanzado) {
-        m_modelo->pon(factorizaGrande(numero));
-    } else {
-        auto factores = std::make_unique<ColFactores>(
-            elegido == Ingenuo ? FactorizaIngenuo(moneda, m_leccion->corrida())
-                               : FactorizaMejorado(moneda, m_leccion->corrida()));
-        m_factores = std::move(factores);
-        m_modelo->pon(*m_factores);
+        // Nothing is painted any more until it has returned.
+        ui->lblResultado->repaint();
+        co_return factorizaGrande(numero);
     }
-    ui->txtProductoDeFactores->setText(m_modelo->producto());
-    ui->FlexFactores->ponTextoVacio(Traduce(u"Ningún factor primo."_s));
-    if (m_modelo->rowCount() > 0)
+    ColFactores factores;
+    if (elegido == Ingenuo)
+        factores = co_await FactorizaIngenuo(moneda, billete);
+    else
+        factores = co_await FactorizaMejorado(moneda, billete);
+    const TablaDeFactores tabla = tablaDe(numero, factores);
+    m_factores = std::make_unique<ColFactores>(std::move(factores));
+    co_return tabla;
+}
+
+void FormPrimosFactorizacion::muestra(const TablaDeFactores &tabla)
+{
+    m_modelo->pon(tabla);
+    ui->txtProductoDeFactores->setText(tabla.producto());
+    ui->lblResultado->setText(tabla.frase());
+    ui->FlexFactores->ponTextoVacio(tabla.frase());
+    const bool hayFilas = !tabla.filas.isEmpty();
+    if (hayFilas)
         ui->FlexFactores->setCurrentIndex(m_modelo->index(0, ModeloFactores::Factor));
-    FlexFactores_EnterCell(m_modelo->rowCount() > 0 ? 0 : -1);
-}
-
-void FormPrimosFactorizacion::termina()
-{
-    m_leccion->unsetCursor();
-    TimerFactorizando_Timer();
-    m_timerFactorizando.stop();
-    Q_EMIT tiempoMedido(ui->lblTiempoFactorizando->text());
-    ponBotonEnReposo();
-    if (ui->ccrpAniFactorizando->estado() == ReproductorAVI::Reproduciendo)
-        ui->ccrpAniFactorizando->para();
-}
-
-void FormPrimosFactorizacion::TimerFactorizando_Timer()
-{
-    ui->lblTiempoFactorizando->setText(tiempoTranscurrido());
-    m_leccion->corrida().cederYa();
+    FlexFactores_EnterCell(hayFilas ? 0 : -1);
 }
 
 /// Shows the factor of the current row whole, whatever its length.
 void FormPrimosFactorizacion::FlexFactores_EnterCell(int fila)
 {
     const bool hayFactor = fila >= 0 && fila < m_modelo->rowCount();
-    const QString factor = hayFactor ? m_modelo->factor(fila) : QString();
+    const QString factor = hayFactor ? m_modelo->tabla().filas[fila].factor : QString();
     ui->txtFactorElegido->setText(factor);
     ui->lblFactorElegido->setText(
         hayFactor ? Traduce(u"Factor &elegido (cifras: %1)"_s).arg(formatoEntero(factor.size()))
                   : Traduce(u"Factor &elegido"_s));
-}
-
-QString FormPrimosFactorizacion::tiempoTranscurrido() const
-{
-    const auto ahora = std::chrono::steady_clock::now();
-    return formatoTiempo(std::chrono::duration_cast<std::chrono::milliseconds>(ahora - m_inicio));
-}
-
-void FormPrimosFactorizacion::ponBotonEnReposo()
-{
-    ui->BtnFactoriza->setIcon(Icono(u"FACTORIZAR"_s));
-    ui->BtnFactoriza->setToolTip(Traduce(u"Factorizar"_s));
-    ui->BtnFactoriza->setAccessibleName(ui->BtnFactoriza->toolTip());
 }

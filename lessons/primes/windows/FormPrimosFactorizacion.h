@@ -1,15 +1,16 @@
 #pragma once
 
-#include <QTimer>
+#include "bignum/gateway/Moneda.h"
+#include "lessons/primes/TablaDeFactores.h"
+#include "shell/frame/BotonDeCorrida.h"
+#include "shell/frame/Evento.h"
+
 #include <QWidget>
-#include <chrono>
 #include <memory>
 
 class ColFactores;
 class FormLeccion;
 class ModeloFactores;
-class Moneda;
-class QAbstractButton;
 namespace Ui {
 class FormPrimosFactorizacion;
 }
@@ -24,8 +25,7 @@ public:
     explicit FormPrimosFactorizacion(FormLeccion *leccion);
     ~FormPrimosFactorizacion() override;
 
-    /// The button that stops the factorization; null while none runs.
-    QAbstractButton *botonDeParada() const;
+    Tareas &tareas() { return m_tareas; }
 
 Q_SIGNALS:
     /// How long the factorization that has ended took, as "hh:nn:ss".
@@ -34,23 +34,20 @@ Q_SIGNALS:
 private:
     enum Algoritmo { Ingenuo, Mejorado, Avanzado };
 
-    void BtnFactoriza_Click();
-    void TimerFactorizando_Timer();
+    Tarea<> BtnFactoriza_Click();
     void FlexFactores_EnterCell(int fila);
 
     void detiene();
     Algoritmo algoritmo() const;
     bool excedeElLimite(const QString &numero);
-    void ponEnMarcha();
-    void factoriza(Algoritmo elegido, const QString &numero, Moneda moneda);
-    void termina();
-    QString tiempoTranscurrido() const;
-    void ponBotonEnReposo();
+    void ponEnMarcha(Algoritmo elegido, const QString &numero);
+    Tarea<> factoriza(Algoritmo elegido, QString numero, Moneda moneda);
+    Tarea<TablaDeFactores> halla(Algoritmo elegido, QString numero, Moneda moneda, Billete billete);
+    void muestra(const TablaDeFactores &tabla);
 
     std::unique_ptr<Ui::FormPrimosFactorizacion> ui;
-    FormLeccion *m_leccion;
     ModeloFactores *m_modelo;
+    BotonDeCorrida *m_boton;
     std::unique_ptr<ColFactores> m_factores; ///< those found by trial division
-    QTimer m_timerFactorizando;
-    std::chrono::steady_clock::time_point m_inicio;
+    TareasDeVentana m_tareas;
 };

@@ -1,7 +1,8 @@
 #include "lessons/primes/windows/FormPrimosTest.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "shell/controls/LineasSegunTexto.h"
+#include "shell/controls/CampoLargo.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"
@@ -9,13 +10,47 @@
 #include "shell/look/Textos.h"
 #include "ui_FormPrimosTest.h"
 
+#include <QLayout>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 const QString MaximoDeBits = u"2000"_s;
 
+/// From these sizes on the longest calls take two seconds or more.
+constexpr std::int32_t BitsDelTest = 8'000;
+constexpr std::int32_t BitsDelSiguiente = 2'500;
+constexpr std::int32_t BitsDelAlAzar = 1'800;
+
 } // namespace
+
+/// What tells that a call of the number service is going on, during which nothing is painted: the
+/// hourglass and, where it may take more than two seconds, a line. Both stand on screen before the
+/// call begins.
+class FormPrimosTest::Espera
+{
+public:
+    Espera(FormPrimosTest *panel, bool larga) : m_panel(panel)
+    {
+        panel->m_leccion->setCursor(Qt::WaitCursor);
+        if (!larga)
+            return;
+        panel->ui->lblEspera->setText(
+            Traduce(u"Con un número tan grande puede tardar desde segundos hasta minutos, en los "
+                    u"que la ventana no responde."_s));
+        panel->layout()->activate();
+        panel->repaint();
+    }
+    ~Espera() { m_panel->ui->lblEspera->clear(); }
+    Espera(const Espera &) = delete;
+    Espera &operator=(const Espera &) = delete;
+
+    void quitaElReloj() { m_panel->m_leccion->unsetCursor(); }
+
+private:
+    FormPrimosTest *m_panel;
+};
 
 FormPrimosTest::FormPrimosTest(QWidget *leccion)
     : QWidget(leccion), ui(std::make_unique<Ui::FormPrimosTest>()), m_leccion(leccion)
@@ -85,17 +120,23 @@ void FormPrimosTest::txtNumero_Change()
 void FormPrimosTest::cmdEsPrimo_Click()
 {
     const QString numero = ui->txtNúmero->text();
-    SetSemaforo(EsPrimo(numero));
-    ui->txtNumBits->setText(QString::number(NumeroDeBits(numero)));
+    const std::int32_t bits = NumeroDeBits(numero);
+    {
+        Espera espera(this, bits >= BitsDelTest);
+        SetSemaforo(EsPrimo(numero));
+        espera.quitaElReloj();
+    }
+    ui->txtNumBits->setText(QString::number(bits));
 }
 
 void FormPrimosTest::cmdSigPrimo_Click()
 {
-    m_leccion->setCursor(Qt::WaitCursor);
-    const QString primo = PrimoSiguiente(ui->txtNúmero->text());
+    const QString numero = ui->txtNúmero->text();
+    Espera espera(this, NumeroDeBits(numero) >= BitsDelSiguiente);
+    const QString primo = PrimoSiguiente(numero);
     if (muestraPrimo(primo))
         ui->txtNumBits->setText(QString::number(NumeroDeBits(primo)));
-    m_leccion->unsetCursor();
+    espera.quitaElReloj();
 }
 
 void FormPrimosTest::txtNumBits_Change()
@@ -110,13 +151,13 @@ void FormPrimosTest::cmdNumBits_Click()
         ui->txtNumBits->setFocus();
         return;
     }
-    m_leccion->setCursor(Qt::WaitCursor);
     const std::int16_t bits = Moneda::deTexto(resultado).value_or(Moneda()).aEntero16();
+    Espera espera(this, bits >= BitsDelAlAzar);
     if (bits <= 0) {
         // The pointer stays an hourglass until the next search succeeds.
         ui->txtNumBits->setFocus();
         return;
     }
     muestraPrimo(PrimoAleatorio(bits));
-    m_leccion->unsetCursor();
+    espera.quitaElReloj();
 }

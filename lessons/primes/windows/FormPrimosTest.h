@@ -19,6 +19,8 @@ public:
     ~FormPrimosTest() override;
 
 private:
+    class Espera;
+
     void SetSemaforo(bool primo);
     bool muestraPrimo(const QString &primo);
     void ponVeredicto(const QString &texto);

@@ -1,54 +1,21 @@
 #include "lessons/primes/windows/ModeloFactores.h"
 
-#include "lessons/primes/ColFactores.h"
 #include "shell/core/ModGlobal.h"
 
 #include <QColor>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-QString superindice(const QString &cifras)
-{
-    static const QString altas = u"⁰¹²³⁴⁵⁶⁷⁸⁹"_s;
-    QString texto;
-    for (const QChar cifra : cifras)
-        texto += altas[cifra.digitValue()];
-    return texto;
-}
-
-} // namespace
-
-void ModeloFactores::pon(const ColFactores &factores)
-{
-    // Trial division meets the factors in ascending order.
-    FactoresGrandes filas{{}, true};
-    for (const clsFactorPrimo &factor : factores)
-        filas.filas.append({factor.Primo().texto(), QString::number(factor.exponente())});
-    pon(filas);
-}
-
-void ModeloFactores::pon(const FactoresGrandes &factores)
+void ModeloFactores::pon(const TablaDeFactores &tabla)
 {
     beginResetModel();
-    m_filas = factores.filas;
-    m_completa = factores.completa;
+    m_tabla = tabla;
     endResetModel();
-}
-
-QString ModeloFactores::producto() const
-{
-    QStringList potencias;
-    for (const FilaDeFactor &fila : m_filas)
-        potencias << (fila.exponente == u"1"_s ? fila.factor
-                                               : fila.factor + superindice(fila.exponente));
-    return potencias.join(u" · "_s);
 }
 
 int ModeloFactores::rowCount(const QModelIndex &padre) const
 {
-    return padre.isValid() ? 0 : static_cast<int>(m_filas.size());
+    return padre.isValid() ? 0 : static_cast<int>(m_tabla.filas.size());
 }
 
 int ModeloFactores::columnCount(const QModelIndex &padre) const
@@ -58,8 +25,9 @@ int ModeloFactores::columnCount(const QModelIndex &padre) const
 
 QVariant ModeloFactores::data(const QModelIndex &indice, int papel) const
 {
-    const FilaDeFactor &fila = m_filas[indice.row()];
-    const bool compuesto = !m_completa && indice.row() == m_filas.size() - 1;
+    const FilaDeFactor &fila = m_tabla.filas[indice.row()];
+    const bool compuesto = m_tabla.desenlace == TablaDeFactores::QuedaCompuesto &&
+                           indice.row() == m_tabla.filas.size() - 1;
     switch (papel) {
     case Qt::DisplayRole:
         return indice.column() == Factor ? fila.factor : fila.exponente;

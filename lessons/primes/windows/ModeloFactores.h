@@ -1,12 +1,10 @@
 #pragma once
 
-#include "lessons/primes/FactoresGrandes.h"
+#include "lessons/primes/TablaDeFactores.h"
 
 #include <QAbstractTableModel>
 
-class ColFactores;
-
-/// The table of factors: the prime and its exponent.
+/// The table of factors: the prime and its exponent, the last row in red where it is composite.
 class ModeloFactores : public QAbstractTableModel
 {
     Q_OBJECT
@@ -16,14 +14,8 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    void pon(const ColFactores &factores);
-    /// The last row is painted red unless the factorization is complete.
-    void pon(const FactoresGrandes &factores);
-
-    const QString &factor(int fila) const { return m_filas[fila].factor; }
-
-    /// The factors as a product, "2³ · 3² · 5"; empty without factors.
-    QString producto() const;
+    void pon(const TablaDeFactores &tabla);
+    const TablaDeFactores &tabla() const { return m_tabla; }
 
     int rowCount(const QModelIndex &padre = {}) const override;
     int columnCount(const QModelIndex &padre = {}) const override;
@@ -31,6 +23,5 @@ public:
     QVariant headerData(int seccion, Qt::Orientation orientacion, int papel) const override;
 
 private:
-    QList<FilaDeFactor> m_filas;
-    bool m_completa = true;
+    TablaDeFactores m_tabla;
 };

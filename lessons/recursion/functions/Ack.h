@@ -1,9 +1,13 @@
 #pragma once
 
 #include "lessons/recursion/functions/MemoriaAck.h"
-#include "shell/core/Corrida.h"
+#include "shell/core/run/Billete.h"
+#include "shell/core/run/Tarea.h"
 
+#include <QString>
 #include <cstdint>
+#include <memory>
+#include <optional>
 #include <vector>
 
 /// Ackermann's function of two arguments (Rózsa Péter, 1935; Raphael M. Robinson, 1948), with
@@ -18,18 +22,18 @@ public:
         std::int32_t n = 0;
     };
 
-    Ack(MemoriaAck &memoria, Corrida &corrida, std::int32_t corte)
-        : m_memoria(memoria), m_corrida(corrida), m_corte(corte)
+    Ack(std::shared_ptr<MemoriaAck> memoria, std::int32_t corte, Billete billete)
+        : m_memoria(std::move(memoria)), m_billete(std::move(billete)), m_corte(corte)
     {
     }
 
-    /// Ack(m, n), one yield a call; 0 when it was stopped, by the flag or by the cut-off, and then
+    /// Ack(m, n), one step a call; 0 when it was stopped, by the ticket or by the cut-off, and then
     /// every call that was waiting has written a 0 too. A call makes room for itself in the memory
     /// before the cut-off looks at its arguments. Throws
     /// ArgumentoNoValido for a negative argument, Desbordamiento when the memory has no room.
-    std::int32_t calcula(std::int32_t m, std::int32_t n);
+    Tarea<std::int32_t> calcula(std::int32_t m, std::int32_t n);
 
-    /// An argument exceeded the cut-off, which set the stop flag.
+    /// An argument exceeded the cut-off, which stopped all runs of the stop line.
     bool rendido() const { return m_rendido; }
 
     /// The call that is being evaluated.
@@ -47,16 +51,23 @@ private:
         bool esperaSuValor;
     };
 
+    std::optional<std::int32_t> avanza(Llamada &llamada);
     std::int32_t entra(Llamada llamada);
     Llamada aplaza(Llamada llamada);
     bool devuelve(std::int32_t valor, Llamada &siguiente);
     void abandona();
 
-    MemoriaAck &m_memoria;
-    Corrida &m_corrida;
+    std::shared_ptr<MemoriaAck> m_memoria;
+    Billete m_billete;
     std::int32_t m_corte;
     std::vector<Pendiente> m_pila;
     Llamada m_actual;
     std::int64_t m_numLlamadas = 0;
     bool m_rendido = false;
 };
+
+/// A call as it is written: "Ack(2, 3)".
+QString textoDeLlamada(Ack::Llamada llamada);
+/// A call and its value: "Ack(2, 3) = 9"; of one that was given up, with the value 0, that it is
+/// unfinished.
+QString textoDeValor(Ack::Llamada llamada, std::int32_t valor);

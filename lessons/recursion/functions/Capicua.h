@@ -1,6 +1,7 @@
 #pragma once
 
-#include "shell/core/Corrida.h"
+#include "shell/core/run/Billete.h"
+#include "shell/core/run/Tarea.h"
 
 #include <QString>
 #include <QStringList>
@@ -15,16 +16,18 @@ public:
     enum class Fin {
         Hallado,
         Detenida,
-        SinNumero ///< what stands there does not begin with a digit: "Error", blank, negative
+        SinValor, ///< the start is no expression, or its value is too long to compute
+        Negativo, ///< the value of the start begins with a sign
+        DemasiadasCifras
     };
 
     /// Two hundred sums, more than which nobody reads.
     static constexpr int NumerosGuardados = 201;
 
-    /// Starts from the value of an expression, one yield a step, until a palindrome stands there;
-    /// the flag stops it. No number of steps is too many, but the big-number service ends at 24 575
+    /// Starts from the value of an expression and goes on until a palindrome stands there; the
+    /// ticket stops it. No number of steps is too many, but the big-number service ends at 24 575
     /// digits. Throws what Evalua throws.
-    Fin busca(const QString &inicio, Corrida &corrida);
+    Tarea<Fin> busca(QString inicio, Billete billete);
 
     const QString &actual() const { return m_actual; }
     /// The numbers of the first sums, each with what it became: numeros()[k] plus its reverse is
@@ -33,6 +36,8 @@ public:
     qint64 numSumas() const { return m_numSumas; }
 
 private:
+    Fin porqueNoEsNumero() const;
+
     QString m_actual;
     QStringList m_numeros;
     qint64 m_numSumas = 0;

@@ -1,21 +1,25 @@
 #include "lessons/recursion/functions/Granizo.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/Lectura.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-FinDeGranizo correGranizo(const QString &inicio, HistoriaGranizo &historia, Corrida &corrida)
+Tarea<FinDeGranizo> correGranizo(QString inicio, std::shared_ptr<HistoriaGranizo> historia,
+                                 Billete billete)
 {
-    historia.reinicia(inicio);
+    historia->reinicia(inicio);
     QString valor = inicio;
     do {
-        valor = siguienteGranizo(valor);
-        historia.agrega(valor);
-        corrida.ceder();
-        if (corrida.detenida())
-            return FinDeGranizo::Detenido;
-        if (valor == TextoError)
-            return FinDeGranizo::Error;
+        const QString anterior = valor;
+        valor = siguienteGranizo(anterior);
+        historia->agrega(valor);
+        co_await billete.ceder();
+        if (billete.detenida())
+            co_return FinDeGranizo::Detenido;
+        if (esError(valor))
+            co_return esError(Modulo(anterior, u"2"_s)) ? FinDeGranizo::SinEntero
+                                                        : FinDeGranizo::DemasiadasCifras;
     } while (valor != u"1"_s);
-    return FinDeGranizo::EnUno;
+    co_return FinDeGranizo::EnUno;
 }

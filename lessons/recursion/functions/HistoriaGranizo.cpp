@@ -1,6 +1,7 @@
 #include "lessons/recursion/functions/HistoriaGranizo.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/Lectura.h"
 
 #include <algorithm>
 
@@ -19,7 +20,7 @@ constexpr qint64 CosteDeHito = 64;
 QString siguienteGranizo(const QString &h)
 {
     const QString resto = Modulo(h, u"2"_s);
-    if (resto == TextoError)
+    if (esError(resto))
         return resto;
     QString expresion = resto == u"0"_s ? h + u"/2"_s : u"3*"_s + h + u"+1"_s;
     return Evalua(expresion);

@@ -44,9 +44,3 @@ void MemoriaAck::escribe(std::int32_t m, std::int32_t n, std::int32_t valor)
         m_valores[columna].resize(fila + 1, Vacia);
     m_valores[columna][fila] = valor;
 }
-
-void MemoriaAck::vacia()
-{
-    m_valores.clear();
-    m_valores.shrink_to_fit();
-}

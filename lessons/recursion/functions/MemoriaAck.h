@@ -30,9 +30,6 @@ public:
 
     void escribe(std::int32_t m, std::int32_t n, std::int32_t valor);
 
-    /// Forgets the values and keeps the size.
-    void vacia();
-
 private:
     static constexpr std::int32_t Vacia = -1;
     std::int32_t casilla(std::int32_t m, std::int32_t n) const;

@@ -7,11 +7,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-ModeloGranizo::ModeloGranizo(const HistoriaGranizo &historia, QObject *padre)
-    : QAbstractTableModel(padre), m_historia(historia)
-{
-}
-
 int ModeloGranizo::rowCount(const QModelIndex &padre) const
 {
     return padre.isValid() ? 0 : m_filas;
@@ -29,10 +24,10 @@ QVariant ModeloGranizo::data(const QModelIndex &indice, int papel) const
     if (papel != Qt::DisplayRole && papel != Qt::ToolTipRole)
         return {};
     // Between two calls of `publica` the oldest steps may have been forgotten.
-    const qint64 paso = std::max(m_primero + indice.row(), m_historia.primero());
+    const qint64 paso = std::max(m_primero + indice.row(), m_historia->primero());
     if (indice.column() == Paso)
         return QString::number(paso);
-    const QString valor = m_historia.valor(paso);
+    const QString valor = m_historia->valor(paso);
     return papel == Qt::DisplayRole ? valor
                                     : Traduce(u"Cifras: %1"_s).arg(formatoEntero(valor.size()));
 }
@@ -48,21 +43,22 @@ QVariant ModeloGranizo::headerData(int seccion, Qt::Orientation orientacion, int
 
 void ModeloGranizo::publica()
 {
-    const auto filas = static_cast<int>(m_historia.ultimo() - m_historia.primero() + 1);
+    const auto filas = static_cast<int>(m_historia->ultimo() - m_historia->primero() + 1);
     if (filas > m_filas) {
         beginInsertRows({}, m_filas, filas - 1);
         m_filas = filas;
         endInsertRows();
     }
-    if (m_primero != m_historia.primero()) {
-        m_primero = m_historia.primero();
+    if (m_primero != m_historia->primero()) {
+        m_primero = m_historia->primero();
         Q_EMIT dataChanged(index(0, 0), index(m_filas - 1, NumColumnas - 1));
     }
 }
 
-void ModeloGranizo::reinicia()
+void ModeloGranizo::pon(std::shared_ptr<const HistoriaGranizo> historia)
 {
     beginResetModel();
+    m_historia = std::move(historia);
     m_filas = 0;
     m_primero = 0;
     endResetModel();

@@ -3,6 +3,7 @@
 #include "lessons/recursion/functions/HistoriaGranizo.h"
 
 #include <QAbstractTableModel>
+#include <memory>
 
 /// The steps of a hailstone sequence and their values, a row each. The sequence grows while it
 /// runs; views hear of it by `publica`.
@@ -11,7 +12,7 @@ class ModeloGranizo : public QAbstractTableModel
 public:
     enum Columna { Paso, Valor, NumColumnas };
 
-    explicit ModeloGranizo(const HistoriaGranizo &historia, QObject *padre = nullptr);
+    using QAbstractTableModel::QAbstractTableModel;
 
     int rowCount(const QModelIndex &padre = {}) const override;
     int columnCount(const QModelIndex &padre = {}) const override;
@@ -21,11 +22,11 @@ public:
     /// Tells the views which steps there are now.
     void publica();
 
-    /// Tells the views that another sequence begins: no rows until the next `publica`.
-    void reinicia();
+    /// Another sequence: no rows until the next `publica`.
+    void pon(std::shared_ptr<const HistoriaGranizo> historia);
 
 private:
-    const HistoriaGranizo &m_historia;
+    std::shared_ptr<const HistoriaGranizo> m_historia = std::make_shared<HistoriaGranizo>();
     qint64 m_primero = 0;
     int m_filas = 0;
 };

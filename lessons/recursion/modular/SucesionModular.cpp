@@ -4,6 +4,7 @@
 #include "shell/core/ModGlobal.h"
 
 #include <QHash>
+#include <limits>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -29,6 +30,23 @@ std::optional<std::int32_t> combina(std::int32_t alfa, std::int32_t a, std::int3
 }
 
 } // namespace
+
+Lectura<Moneda> leeCoeficiente(const QString &expresion)
+{
+    const Moneda mayor = Moneda::deEntero(Moneda::MaximoEntero);
+    return leeEntero(expresion, -mayor, mayor);
+}
+
+Lectura<std::int32_t> leeModulo(const QString &expresion)
+{
+    const auto leido = leeEntero(expresion, std::int64_t{1}, Moneda::MaximoEntero);
+    if (!leido)
+        return leido.razon();
+    constexpr std::int32_t mayor = std::numeric_limits<std::int32_t>::max();
+    if (*leido > mayor)
+        return NoLeido{NoLeido::Mayor, QString::number(mayor)};
+    return static_cast<std::int32_t>(*leido);
+}
 
 SucesionModular::SucesionModular(const DefinicionRecurrente &definicion, std::int32_t m)
     : m_modulo(m)

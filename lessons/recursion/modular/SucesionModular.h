@@ -1,10 +1,9 @@
 #pragma once
 
-#include "bignum/gateway/Moneda.h"
+#include "shell/core/Lectura.h"
 
 #include <array>
 #include <cstdint>
-#include <optional>
 
 /// What determines f: f(n) = alfa f(n-1) + beta f(n-2) for n > 2, and its first two values.
 struct DefinicionRecurrente
@@ -16,6 +15,14 @@ struct DefinicionRecurrente
 
     bool operator==(const DefinicionRecurrente &) const = default;
 };
+
+/// The value of an expression as a coefficient or a first value: a whole number within the range of
+/// Moneda. Throws what Evalua throws.
+Lectura<Moneda> leeCoeficiente(const QString &expresion);
+
+/// The same as a modulus: a whole number from 1 to 2^31 - 1. Only a value beyond the range of
+/// Moneda calls the notice of the bound.
+Lectura<std::int32_t> leeModulo(const QString &expresion);
 
 /// Where a sequence begins to repeat itself, and after how many terms it does.
 struct PeriodoModular

@@ -3,7 +3,6 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/rsa/key/Entero16.h"
-#include "lessons/rsa/key/FicheroDeClave.h"
 #include "lessons/rsa/key/Potencias.h"
 #include "lessons/rsa/key/TextoEnBloques.h"
 #include "lessons/rsa/mailbox/CarpetaBuzon.h"
@@ -37,12 +36,12 @@ QString objecionAExponente(const QString &fiQ)
 
 QString ClsRSA::DirMensajes() const
 {
-    return Sesión().lee(u"RSA"_s, u"DirMensajes"_s);
+    return m_sesion.lee(u"RSA"_s, u"DirMensajes"_s);
 }
 
 void ClsRSA::ponDirMensajes(const QString &carpeta)
 {
-    Sesión().guarda(u"RSA"_s, u"DirMensajes"_s, carpeta);
+    m_sesion.guarda(u"RSA"_s, u"DirMensajes"_s, carpeta);
     QString copia = carpeta;
     Q_EMIT CambiaBuzon(copia);
 }
@@ -71,7 +70,7 @@ void ClsRSA::ponq(int i, const QString &valor)
 
 QString ClsRSA::FicheroClavePrivada() const
 {
-    return rutaParaGuardarClave();
+    return m_fichero.rutaParaGuardar();
 }
 
 void ClsRSA::SalvaClave() const
@@ -90,7 +89,7 @@ void ClsRSA::SalvaClave() const
 
 void ClsRSA::RecuperaClave()
 {
-    const QString ruta = rutaDeClaveGuardada();
+    const QString ruta = m_fichero.rutaGuardada();
     if (ruta.isEmpty())
         return;
     Perfil fichero;
@@ -110,7 +109,7 @@ void ClsRSA::PublicaClave() const
 {
     const QByteArray contenido = Perfil::contenido(u"RSA"_s, {{u"q"_s, m_q[0]}, {u"s"_s, m_s}});
     CarpetaBuzon(DirMensajes())
-        .subcarpetaCreada(subcarpetaPropia())
+        .subcarpetaCreada(m_fichero.subcarpetaPropia())
         .sustituye(FicheroClavePublica, contenido);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lessons/rsa/key/FicheroDeClave.h"
 #include "shell/core/Corrida.h"
 
 #include <QObject>
@@ -23,7 +24,11 @@ public:
     /// The most digits of a number of a key, which is what a value of a key file holds.
     static constexpr int MaximoDeCifras = 8191;
 
-    explicit ClsRSA(QObject *padre = nullptr) : QObject(padre) {}
+    /// `sesion` is whose settings and files these are; it outlives the key.
+    explicit ClsRSA(clsSesión &sesion) : m_sesion(sesion), m_fichero(sesion) {}
+
+    clsSesión &sesion() const { return m_sesion; }
+    const FicheroDeClave &fichero() const { return m_fichero; }
 
     /// The shared mailbox folder, kept in the user's settings and read from there at each access.
     QString DirMensajes() const;
@@ -105,6 +110,8 @@ private:
     QString objecionATamano(std::int32_t bits) const;
     void rechaza(const QString &mensaje);
 
+    clsSesión &m_sesion;
+    FicheroDeClave m_fichero;
     std::array<QString, 3> m_q;
     QString m_fiQ, m_s, m_t, m_errores;
     std::int16_t m_nbitsRequeridos = 0;

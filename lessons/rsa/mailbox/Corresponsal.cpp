@@ -1,20 +1,23 @@
 #include "lessons/rsa/mailbox/Corresponsal.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "shell/core/ModGlobal.h"
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
-Corresponsal::Corresponsal(ClsRSA &propia) : m_propia(propia)
+Corresponsal::Corresponsal(ClsRSA &propia) : m_propia(propia), m_clave(propia.sesion())
 {
-    QObject::connect(&m_propia, &ClsRSA::ValidaClave, &m_clave,
-                     [this](bool &bien) { m_propiaPisada = m_propiaPisada && !bien; });
+    QObject::connect(&m_propia, &ClsRSA::ValidaClave, &m_clave, [this](bool &bien) {
+        if (bien)
+            haVuelto();
+    });
 }
 
 Corresponsal::Numeros Corresponsal::numerosDe(const QString &usuario) const
 {
     // The user's folder is found without regard to case, so the name is compared so as well.
-    const bool esPropio = usuario.compare(Sesión().UserName(), Qt::CaseInsensitive) == 0;
+    const bool esPropio = usuario.compare(m_propia.fichero().usuario(), Qt::CaseInsensitive) == 0;
     return {leeClavePublica(m_propia.DirMensajes(), usuario), esPropio ? m_propia.t() : QString()};
 }
 
@@ -26,6 +29,7 @@ void Corresponsal::elige(const QString &usuario)
     m_clave.pons(m_numeros.publica.s);
     m_clave.ponr(1);
     m_clave.pont(m_numeros.t);
+    m_propia.fichero().aparta();
     m_propiaPisada = true;
     m_clave.ponClaveOK(true);
 }
@@ -42,7 +46,18 @@ bool Corresponsal::haCambiado() const
 
 void Corresponsal::devuelveClavePropia()
 {
-    if (m_propiaPisada && m_propia.ClaveOK())
+    if (!m_propiaPisada)
+        return;
+    if (m_propia.ClaveOK())
         m_propia.SalvaClave();
-    m_propiaPisada = false;
+    else
+        m_propia.fichero().recupera();
+    haVuelto();
+}
+
+/// The own key is in its file again.
+void Corresponsal::haVuelto()
+{
+    if (std::exchange(m_propiaPisada, false))
+        m_propia.fichero().retiraCopia();
 }

@@ -4,8 +4,9 @@
 #include "lessons/rsa/mailbox/Buzon.h"
 
 /// The user whom the student has chosen to write to or to read, with the key that this takes.
-/// Choosing one writes the correspondent's numbers into the private key file; the student's own key
-/// goes back there with its next good validation, or when it is told to.
+/// Choosing one writes the correspondent's numbers into the private key file, beside which the
+/// student's own key is kept meanwhile; it goes back there with its next good validation, or when
+/// it is told to.
 class Corresponsal
 {
 public:
@@ -41,6 +42,7 @@ private:
         bool operator==(const Numeros &) const = default;
     };
     Numeros numerosDe(const QString &usuario) const;
+    void haVuelto();
 
     ClsRSA &m_propia;
     ClsRSA m_clave;

@@ -4,7 +4,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-QList<Escena> escenasRSA(int fila)
+QList<Escena> escenasRSA()
 {
     const QString p = u"618970019642690137449562111"_s;
     const QString q = u"170141183460469231731687303715884105727"_s;
@@ -15,24 +15,22 @@ QList<Escena> escenasRSA(int fila)
         valida +
         QList<Paso>{{u"cmdBuzon"_s, {}}, {u"cmdPublicarClave"_s, {}}, {u"tsTema"_s, u"env-rec"_s}};
     return {
-        {u"rsa-introduccion"_s, fila, u"intro"_s},
-        {u"rsa-clave-vacia"_s, fila, clave},
+        {u"rsa-introduccion"_s, u"intro"_s},
+        {u"rsa-clave-vacia"_s, clave},
         {u"rsa-clave-objecion"_s,
-         fila,
          clave,
          {{u"txtQ_1"_s, u"259"_s}, {u"txtQ_2"_s, u"263"_s}, {u"txtS"_s, u"5"_s}}},
-        {u"rsa-clave-escrita"_s, fila, clave, {{u"txtQ_1"_s, p}, {u"txtQ_2"_s, q}, {u"txtS"_s, s}}},
+        {u"rsa-clave-escrita"_s, clave, {{u"txtQ_1"_s, p}, {u"txtQ_2"_s, q}, {u"txtS"_s, s}}},
         {u"rsa-codificacion"_s,
-         fila,
          u"cod-decod"_s,
          {{u"txtTextoOriginal"_s, u"¿Quedamos mañana a las cinco?"_s}}},
-        {u"rsa-clave"_s, fila, clave, valida},
-        {u"rsa-codificado"_s, fila, clave,
+        {u"rsa-clave"_s, clave, valida},
+        {u"rsa-codificado"_s, clave,
          valida + QList<Paso>{{u"tsTema"_s, u"cod-decod"_s},
                               {u"txtTextoOriginal"_s, u"¿Quedamos mañana a las cinco?"_s},
                               {u"cmdCodificar"_s, {}}}},
-        {u"rsa-mensajes-vacio"_s, fila, clave, publica},
-        {u"rsa-mensajes"_s, fila, clave,
+        {u"rsa-mensajes-vacio"_s, clave, publica},
+        {u"rsa-mensajes"_s, clave,
          publica + QList<Paso>{{u"cmbDestinatario"_s, Sesión().UserName() + u'\n'},
                                {u"txtAsunto"_s, u"La merienda"_s},
                                {u"txtDestTextoOriginal"_s, u"¿Quedamos mañana a las cinco?"_s},

@@ -49,9 +49,20 @@ FormRSA::~FormRSA()
 void FormRSA::abre()
 {
     // A damaged key file is told, and does not keep the mailbox away.
-    evento(this, [this] { m_clave.RecuperaClave(); });
+    evento(this, [this] { recuperaClave(); });
     m_panelClave->muestraClave();
     m_clave.ponDirMensajes(m_clave.DirMensajes());
+}
+
+void FormRSA::recuperaClave()
+{
+    if (m_clave.fichero().recupera())
+        interlocutor().mensaje(
+            this, Interlocutor::Icono::Informacion,
+            Traduce(
+                u"La última sesión acabó de repente. Su clave privada ha vuelto a su fichero."_s),
+            Traduce(u"Clave recuperada"_s));
+    m_clave.RecuperaClave();
 }
 
 QAbstractButton *FormRSA::botonDeParada() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lessons/rsa/key/ClsRSA.h"
+#include "shell/core/clsSesion.h"
 #include "shell/frame/FormLeccion.h"
 
 class FormRSAClave;
@@ -21,11 +22,12 @@ protected:
 
 private:
     void abre();
+    void recuperaClave();
     void actualizaBuzon();
     void Clave_ValidaClave(bool bien, const QString &mensaje);
     void Clave_CambiaBuzon();
 
-    ClsRSA m_clave;
+    ClsRSA m_clave{Sesión()};
     FormRSAClave *m_panelClave;
     FormRSACodificacion *m_panelCodificacion;
     FormRSAMensajes *m_panelMensajes;

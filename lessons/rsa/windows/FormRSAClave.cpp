@@ -127,7 +127,7 @@ void FormRSAClave::muestraObjecion()
 {
     const bool cabe = std::max({ui->txtQ_1->text().size(), ui->txtQ_2->text().size(),
                                 ui->txtS->text().size()}) <= CifrasAlVuelo;
-    ClsRSA escrita;
+    ClsRSA escrita(m_clave.sesion());
     escrita.ponr(m_clave.r());
     escrita.ponNBitsRequeridos(m_clave.NBitsRequeridos());
     escrita.ponq(1, ui->txtQ_1->text());

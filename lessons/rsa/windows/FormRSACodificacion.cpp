@@ -97,6 +97,6 @@ void FormRSACodificacion::descodifica()
     for (const QStringList &fila : m_bloques.filas())
         bloques << fila.constFirst();
     m_mandos.corre(ui->cmdDescodificar, Traduce(u"Detener la descodificación"_s), [&] {
-        ui->txtTextoOriginal->setPlainText(m_clave.DesCodifica(bloques, m_leccion->corrida()));
+        ui->txtTextoOriginal->ponTexto(m_clave.DesCodifica(bloques, m_leccion->corrida()));
     });
 }

@@ -17,17 +17,28 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+std::unique_ptr<Ui::FormRSAMensajes> montada(QWidget *panel)
+{
+    auto ui = std::make_unique<Ui::FormRSAMensajes>();
+    ui->setupUi(panel);
+    return ui;
+}
+
+} // namespace
+
 FormRSAMensajes::FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion)
     : QWidget(leccion),
-      ui(std::make_unique<Ui::FormRSAMensajes>()),
+      ui(montada(this)),
       m_clave(clave),
       m_corresponsal(clave),
       m_tabla(Traduce(u"<Dirigido a     |<De           |<Asunto"_s)),
       m_leccion(leccion),
       m_mandos(leccion->corrida(), [this] { habilita(); }),
-      m_ventanaClave(new FormClaveRSA(this))
+      m_ventanaClave(new FormClaveRSA(this)),
+      m_redaccion(ui->txtAsunto, ui->txtDestTextoOriginal, clave.sesion().carpetaDeAjustes(), this)
 {
-    ui->setupUi(this);
     traduceVentana(this);
     ui->enviar->setIcon(Icono(u"ENVIAR"_s));
     ui->recibir->setIcon(Icono(u"RECIBIR"_s));
@@ -45,22 +56,28 @@ FormRSAMensajes::FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion)
 
     conecta(ui->FlexMensajes, &QTableView::clicked, this,
             [this](const QModelIndex &celda) { FlexMensajes_Click(celda.row()); });
-    conecta(ui->FlexMensajes->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex &celda) { FlexMensajes_Click(celda.row()); });
-    conecta(ui->FlexMensajes, &QTableView::activated, this, [this] { ui->recibir->click(); });
+    // Keys that lead to a row select it. The focus, on arriving, only makes one current.
+    conecta(ui->FlexMensajes->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { FlexMensajes_Click(filaElegida()); });
+    conecta(ui->FlexMensajes, &QTableView::activated, this, [this](const QModelIndex &celda) {
+        ui->FlexMensajes->selectRow(celda.row());
+        ui->recibir->click();
+    });
     conecta(ui->txtAsunto, &QLineEdit::returnPressed, this,
             [this] { ui->txtDestTextoOriginal->setFocus(); });
-    conecta(ui->cmbDestinatario, &QComboBox::activated, this,
-            [this] { cmbDestinatario_Validate(); });
+    conecta(ui->cmbDestinatario, &QComboBox::activated, this, [this] { cmbDestinatario_Click(); });
+    conecta(ui->cmbDestinatario->lineEdit(), &QLineEdit::returnPressed, this,
+            &FormRSAMensajes::cmbDestinatario_Click);
     conecta(ui->cmbDestinatario->lineEdit(), &QLineEdit::editingFinished, this,
             &FormRSAMensajes::cmbDestinatario_Validate);
-    conecta(ui->txtDestTextoOriginal, &QPlainTextEdit::textChanged, this,
-            &FormRSAMensajes::txtDestTextoOriginal_Change);
+    conecta(&m_redaccion, &FormRSARedaccion::cambiada, this, &FormRSAMensajes::habilita);
+    conecta(&m_redaccion, &FormRSARedaccion::avisa, ui->lblEstadoBuzon, &QLabel::setText);
     conecta(&m_timerRevision, &QTimer::timeout, this, &FormRSAMensajes::TimerRevision_Timer);
     conecta(m_ventanaClave, &FormClaveRSA::puedeRecibir, this, [this] { habilita(); });
     conecta(ui->enviar, &QToolButton::clicked, this, &FormRSAMensajes::enviar_Click);
     conecta(ui->recibir, &QToolButton::clicked, this, &FormRSAMensajes::recibir_Click);
     conecta(ui->revisar, &QToolButton::clicked, this, &FormRSAMensajes::revisar_Click);
+    evento(this, [this] { m_redaccion.recupera(); });
 }
 
 FormRSAMensajes::~FormRSAMensajes()
@@ -99,7 +116,7 @@ bool FormRSAMensajes::eventFilter(QObject *objeto, QEvent *suceso)
 
 void FormRSAMensajes::habilita()
 {
-    const bool hayTexto = !ui->txtDestTextoOriginal->toPlainText().trimmed().isEmpty();
+    const bool hayTexto = !m_redaccion.texto().trimmed().isEmpty();
     const bool puedeEnviar = !m_corresponsal.usuario().isEmpty() && hayTexto;
     const bool puedeRecibir = !m_ventanaClave->t().trimmed().isEmpty();
     const QAbstractButton *parada = m_mandos.botonDeParada();
@@ -154,27 +171,40 @@ void FormRSAMensajes::FlexMensajes_Click(int fila)
 
 void FormRSAMensajes::muestraMensaje(const clsMensaje &mensaje)
 {
-    ui->txtAsunto->setText(mensaje.Asunto());
-    ui->txtDestTextoOriginal->setPlainText(mensaje.TextoOriginal());
+    m_redaccion.muestraMensaje(mensaje.Destinatario(), mensaje.Asunto(), mensaje.TextoOriginal());
+}
+
+void FormRSAMensajes::cmbDestinatario_Click()
+{
+    nombra(ui->cmbDestinatario->currentText().trimmed());
 }
 
 void FormRSAMensajes::cmbDestinatario_Validate()
 {
+    // A field that is merely left chooses nobody anew.
     const QString usuario = ui->cmbDestinatario->currentText().trimmed();
-    if (usuario == m_corresponsal.usuario()) {
-        actualizaDestinatario();
-        return;
-    }
-    m_filaMostrada = -1;
-    if (usuario.isEmpty())
-        olvidaDestinatario();
-    else
-        eligeDestinatario(usuario);
+    if (usuario != m_corresponsal.usuario())
+        nombra(usuario);
 }
 
-void FormRSAMensajes::txtDestTextoOriginal_Change()
+void FormRSAMensajes::nombra(const QString &usuario)
 {
-    habilita();
+    const bool esOtro = usuario != m_corresponsal.usuario();
+    if (m_redaccion.dirige(usuario) || esOtro)
+        m_filaMostrada = -1;
+    if (usuario.isEmpty())
+        olvidaDestinatario();
+    else if (esOtro)
+        eligeDestinatario(usuario);
+    else
+        actualizaDestinatario();
+}
+
+/// The row of the list that is selected; -1 when none is.
+int FormRSAMensajes::filaElegida() const
+{
+    const QModelIndexList filas = ui->FlexMensajes->selectionModel()->selectedRows();
+    return filas.isEmpty() ? -1 : filas.constFirst().row();
 }
 
 QString FormRSAMensajes::claveDeFila(int fila) const
@@ -228,13 +258,15 @@ void FormRSAMensajes::vaciaLista()
     muestraLista({});
 }
 
-QString FormRSAMensajes::estadoDeRevision(int ilegibles) const
+QString FormRSAMensajes::estadoDeRevision(int ilegibles)
 {
     QString estado = Traduce(u"Mensajes: %1"_s).arg(formatoEntero(m_mensajes.Count()));
     if (m_leccion->corrida().detenida())
         estado.prepend(Traduce(u"Revisión detenida"_s) + u". "_s);
     if (ilegibles > 0)
         estado += u". "_s + Traduce(u"No se han podido leer: %1"_s).arg(ilegibles);
+    if (const QStringList nombres = m_redaccion.pendientes(); !nombres.isEmpty())
+        estado += u". "_s + Traduce(u"Borradores para: %1"_s).arg(nombres.join(u", "_s));
     return estado;
 }
 
@@ -264,6 +296,10 @@ void FormRSAMensajes::muestraUsuarios(const QStringList &usuarios)
     const QString escrito = ui->cmbDestinatario->currentText();
     ui->cmbDestinatario->clear();
     ui->cmbDestinatario->addItems(usuarios);
+    for (const QString &nombre : m_redaccion.pendientes()) {
+        if (!usuarios.contains(nombre, Qt::CaseInsensitive))
+            ui->cmbDestinatario->addItem(nombre);
+    }
     ui->cmbDestinatario->setCurrentText(escrito);
 }
 
@@ -298,8 +334,8 @@ void FormRSAMensajes::enviar_Click()
 
 void FormRSAMensajes::envia()
 {
-    const QString texto = ui->txtDestTextoOriginal->toPlainText();
-    const QString asunto = ui->txtAsunto->text();
+    const QString texto = m_redaccion.texto();
+    const QString asunto = m_redaccion.asunto();
     const QString destinatario = m_corresponsal.usuario();
     if (esRepetido(destinatario, asunto) || !seCodifica(this, texto) || !seCodifica(this, asunto))
         return;
@@ -324,6 +360,8 @@ void FormRSAMensajes::envia()
         if (m_leccion->corrida().detenida())
             return;
         mensaje.Envia();
+        if (mensaje.MensajeOK())
+            m_redaccion.enviado(asunto, texto);
         const QString fichero = mensaje.NombreFichero().section(u'\\', -1);
         ui->lblEstadoBuzon->setText(Traduce(mensaje.MensajeOK()
                                                 ? u"Mensaje enviado a %1 (%2)"_s
@@ -339,7 +377,7 @@ void FormRSAMensajes::recibir_Click()
 
 void FormRSAMensajes::recibe()
 {
-    const int fila = ui->FlexMensajes->currentIndex().row();
+    const int fila = filaElegida();
     clsMensaje *mensaje = fila < 0 ? nullptr : m_mensajes.Item(claveDeFila(fila));
     if (!mensaje) {
         interlocutor().mensaje(this, Interlocutor::Icono::Informacion,
@@ -354,7 +392,7 @@ void FormRSAMensajes::recibe()
         escuchaErrores(*mensaje);
         mensaje->Recibe(m_leccion->corrida());
         // Another row may have been chosen meanwhile; this text waits in its own.
-        if (ui->FlexMensajes->currentIndex().row() == fila)
+        if (filaElegida() == fila)
             muestraMensaje(*mensaje);
     });
 }

@@ -3,6 +3,7 @@
 #include "lessons/rsa/mailbox/ColMensajes.h"
 #include "lessons/rsa/mailbox/Corresponsal.h"
 #include "lessons/rsa/windows/FormRSACorrida.h"
+#include "lessons/rsa/windows/FormRSARedaccion.h"
 #include "lessons/rsa/windows/TablaDeTextos.h"
 
 #include <QTimer>
@@ -48,10 +49,12 @@ private:
     void olvidaDestinatario();
     void revisa();
     void vaciaLista();
-    QString estadoDeRevision(int ilegibles) const;
+    QString estadoDeRevision(int ilegibles);
     void muestraLista(const QString &estado);
     void muestraUsuarios(const QStringList &usuarios);
+    int filaElegida() const;
     QString claveDeFila(int fila) const;
+    void nombra(const QString &usuario);
     void muestraMensaje(const clsMensaje &mensaje);
     void envia();
     void recibe();
@@ -60,8 +63,8 @@ private:
     void habilita();
 
     void FlexMensajes_Click(int fila);
+    void cmbDestinatario_Click();
     void cmbDestinatario_Validate();
-    void txtDestTextoOriginal_Change();
     void enviar_Click();
     void recibir_Click();
     void revisar_Click();
@@ -77,4 +80,5 @@ private:
     FormRSACorrida m_mandos;
     FormClaveRSA *m_ventanaClave;
     int m_filaMostrada = -1;
+    FormRSARedaccion m_redaccion;
 };

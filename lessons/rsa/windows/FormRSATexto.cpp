@@ -5,6 +5,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Interlocutor.h"
 
+#include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextOption>
 
@@ -26,6 +27,11 @@ bool tienePalabraEnorme(QStringView texto)
     return false;
 }
 
+QTextOption::WrapMode modoPara(bool enorme)
+{
+    return enorme ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
+
 } // namespace
 
 FormRSATexto::FormRSATexto(QWidget *padre) : QPlainTextEdit(padre)
@@ -34,9 +40,20 @@ FormRSATexto::FormRSATexto(QWidget *padre) : QPlainTextEdit(padre)
             [this](int lugar, int, int anadidos) { ajustaRenglones(lugar, anadidos); });
 }
 
+void FormRSATexto::ponTexto(const QString &texto)
+{
+    // Replacing a text lays out the new one before anybody is told of more than that the old is
+    // gone.
+    const QScopedValueRollback<bool> poniendo(m_poniendo, true);
+    setWordWrapMode(modoPara(tienePalabraEnorme(texto)));
+    setPlainText(texto);
+}
+
 /// Told of each change before the lines are laid out.
 void FormRSATexto::ajustaRenglones(int lugar, int anadidos)
 {
+    if (m_poniendo)
+        return;
     // A long word from before may still be there, unless little is, or nothing of what was.
     const int caracteres = document()->characterCount();
     const bool quedaLoDeAntes = caracteres > MaximoSinBlancos && anadidos < caracteres - 1;
@@ -48,10 +65,8 @@ void FormRSATexto::ajustaRenglones(int lugar, int anadidos)
         if (parrafo == fin)
             break;
     }
-    const auto modo =
-        enorme ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
-    if (modo != wordWrapMode())
-        setWordWrapMode(modo);
+    if (modoPara(enorme) != wordWrapMode())
+        setWordWrapMode(modoPara(enorme));
 }
 
 bool seCodifica(QWidget *ventana, const QString &texto)

@@ -10,8 +10,13 @@ class FormRSATexto : public QPlainTextEdit
 public:
     explicit FormRSATexto(QWidget *padre = nullptr);
 
+    /// Shows a text in the place of the one that is there, which setPlainText may take minutes for.
+    void ponTexto(const QString &texto);
+
 private:
     void ajustaRenglones(int lugar, int anadidos);
+
+    bool m_poniendo = false;
 };
 
 /// Whether a text can be encrypted; a message box on the window says why not.

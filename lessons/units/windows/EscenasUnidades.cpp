@@ -2,7 +2,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-QList<Escena> escenasUnidades(int fila)
+QList<Escena> escenasUnidades()
 {
     const QString unidades = u"unidades"_s, cayley = u"cayley"_s, grandes = u"grandes"_s,
                   cuestiones = u"cuestiones"_s;
@@ -20,21 +20,20 @@ QList<Escena> escenasUnidades(int fila)
                            {u"cmdFi"_s, {}},
                            {u"cmdFactores"_s, {}}};
     };
-    return {{u"unidades-introduccion"_s, fila, u"intro"_s},
-            {u"unidades-grupo"_s, fila, unidades},
-            {u"unidades-grupo-vacio"_s, fila, unidades, grupo(QString(), QString())},
-            {u"unidades-grupo-ciclico"_s, fila, unidades, grupo(u"2*3^6"_s, u"5"_s)},
-            {u"unidades-grupo-no-unidad"_s, fila, unidades, grupo(u"360"_s, u"14"_s)},
-            {u"unidades-cayley"_s, fila, cayley},
-            {u"unidades-cayley-grande"_s, fila, cayley, tabla(u"59"_s, u"OptOperacion_0"_s)},
-            {u"unidades-cayley-producto"_s, fila, cayley, tabla(u"12"_s, u"OptOperacion_1"_s)},
-            {u"unidades-cayley-suma"_s, fila, cayley, tabla(u"24"_s, u"OptOperacion_2"_s)},
-            {u"unidades-grandes-vacio"_s, fila, grandes},
-            {u"unidades-grandes"_s, fila, grandes, grande(u"100!"_s, u"2^521-1"_s)},
-            {u"unidades-grandes-sin-inverso"_s, fila, grandes, grande(u"10^60-1"_s, u"10^30-1"_s)},
-            {u"unidades-cuestiones"_s, fila, cuestiones},
+    return {{u"unidades-introduccion"_s, u"intro"_s},
+            {u"unidades-grupo"_s, unidades},
+            {u"unidades-grupo-vacio"_s, unidades, grupo(QString(), QString())},
+            {u"unidades-grupo-ciclico"_s, unidades, grupo(u"2*3^6"_s, u"5"_s)},
+            {u"unidades-grupo-no-unidad"_s, unidades, grupo(u"360"_s, u"14"_s)},
+            {u"unidades-cayley"_s, cayley},
+            {u"unidades-cayley-grande"_s, cayley, tabla(u"59"_s, u"OptOperacion_0"_s)},
+            {u"unidades-cayley-producto"_s, cayley, tabla(u"12"_s, u"OptOperacion_1"_s)},
+            {u"unidades-cayley-suma"_s, cayley, tabla(u"24"_s, u"OptOperacion_2"_s)},
+            {u"unidades-grandes-vacio"_s, grandes},
+            {u"unidades-grandes"_s, grandes, grande(u"100!"_s, u"2^521-1"_s)},
+            {u"unidades-grandes-sin-inverso"_s, grandes, grande(u"10^60-1"_s, u"10^30-1"_s)},
+            {u"unidades-cuestiones"_s, cuestiones},
             {u"unidades-cuestiones-fallo"_s,
-             fila,
              cuestiones,
              {{u"txtRespuesta_0"_s, u"0"_s},
               {u"cmdComprobar_0"_s, {}},

@@ -1,5 +1,6 @@
 #include "shell/core/system/Archivos.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -66,4 +67,15 @@ QByteArray leeArchivo(const QString &ruta, qint64 maximo)
     if (bytes.size() > maximo)
         throw ErrorEjecucion(ErrorEjecucion::ErrorDeArchivo, nombre);
     return bytes;
+}
+
+void barreRestos(const QString &carpeta, const QString &patron)
+{
+    const QDateTime haceUnDia = QDateTime::currentDateTime().addDays(-1);
+    const auto restos =
+        QDir(carpeta).entryInfoList({patron}, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo &resto : restos) {
+        if (resto.lastModified() < haceUnDia)
+            QFile::remove(resto.filePath());
+    }
 }

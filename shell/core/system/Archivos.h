@@ -16,5 +16,10 @@ void escribeArchivo(const QString &ruta, const QByteArray &contenido, bool priva
 /// one PermisoDenegado.
 QByteArray leeArchivo(const QString &ruta, qint64 maximo);
 
+/// Takes away what programs killed in the midst of writing have left in a folder: the ordinary
+/// files whose names have the form of `patron` ("*" for any characters) and that nobody has written
+/// to for a day. What cannot be taken away stays.
+void barreRestos(const QString &carpeta, const QString &patron);
+
 /// The error that a file operation ended in, with the file's name as its detail.
 ErrorEjecucion errorDeArchivo(const QFileDevice &archivo, const QString &ruta);

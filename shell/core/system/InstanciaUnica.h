@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
 /// The rule that one user runs one copy of the program at a time: a lock on a file beside the
 /// user's settings. The kernel holds it, so that it cannot outlive the process, crashed or not; two
@@ -18,6 +19,7 @@ public:
     bool hayOtra() const { return m_hayOtra; }
 
 private:
-    int m_descriptor = -1;
+    struct Cerrojo;
+    std::unique_ptr<Cerrojo> m_cerrojo;
     bool m_hayOtra = false;
 };

@@ -4,6 +4,7 @@
 #include "tests/shell/support/Entorno.h"
 
 #include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -112,9 +113,14 @@ private Q_SLOTS:
 
     void sinSolucion()
     {
+        const auto *aviso = control<QLabel>(m_ventana.get(), u"lblAviso"_s);
         escribe({u"1"_s, u"6"_s, u"8"_s, u"10"_s});
         m_resuelve->click();
         QCOMPARE(m_solucion->text(), u"Error"_s);
+        QCOMPARE(aviso->text(),
+                 u"✗ Las filas 1 y 2 se contradicen módulo 2: piden los restos 1 y 0."_s);
+        escribe({u"1"_s}, 1);
+        QCOMPARE(aviso->text(), QString());
     }
 
     void filaConDefecto()
@@ -156,7 +162,7 @@ private Q_SLOTS:
         QTest::keyClick(m_rejilla, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QApplication::clipboard()->text(), u"2\t3\n3\t5\n"_s);
         m_rejilla->clearSelection();
-        QCOMPARE(m_rejilla->seleccion(FormaDeCopia::Texto),
+        QCOMPARE(m_rejilla->seleccion(FormaDeCopia::Texto).completa().texto,
                  u"n da resto\tal dividirlo entre\n2\t3\n3\t5\n2\t1.001\n"_s);
         m_rejilla->selectionModel()->select({celda(0, 0), celda(1, 1)},
                                             QItemSelectionModel::ClearAndSelect);

@@ -20,6 +20,21 @@ SistemaCongruencias sistema(const QString &texto)
     return filas;
 }
 
+/// What is said of a system: its solution, or why there is none.
+QString dicho(const SistemaCongruencias &filas)
+{
+    const Resolucion resolucion = resuelve(filas);
+    switch (resolucion.desenlace) {
+    case Resolucion::Resuelto:
+        return resolucion.resultado;
+    case Resolucion::SinSolucion:
+        return resolucion.motivo;
+    case Resolucion::FueraDeAlcance:
+        break;
+    }
+    return u"out of reach"_s;
+}
+
 } // namespace
 
 class TestSistemaCongruencias : public QObject
@@ -42,15 +57,35 @@ private Q_SLOTS:
         QTest::newRow("one row") << u"17 5"_s << u"2"_s;
         QTest::newRow("negative remainder") << u"-1 3, -1 5"_s << u"14"_s;
         QTest::newRow("moduli that agree") << u"2 6, 8 10"_s << u"8"_s;
-        QTest::newRow("moduli that disagree") << u"1 6, 8 10"_s << u"Error"_s;
         QTest::newRow("half a row does not count") << u"2 3, 3 , 2 7"_s << u"2"_s;
+        QTest::newRow("moduli that disagree")
+            << u"1 2, 0 4"_s
+            << u"Las filas 1 y 2 se contradicen módulo 2: piden los restos 1 y 0."_s;
+        QTest::newRow("the last row, and one that does not count")
+            << u"2 3, 5 , 1 5, 1 8000, 8 9, 1 21"_s
+            << u"Las filas 1 y 6 se contradicen módulo 3: piden los restos 2 y 1."_s;
+        QTest::newRow("the first pair of several")
+            << u"1 1, 0 10, 3 10, 4 10, 5 10"_s
+            << u"Las filas 2 y 3 se contradicen módulo 10: piden los restos 0 y 3."_s;
+        const QString diez20 = u'1' + QString(20, u'0'), diez19 = diez20.chopped(1);
+        QTest::newRow("long numbers")
+            << u"1 %1, 0 %1"_s.arg(diez20) << u"Las filas 1 y 2 se contradicen."_s;
+        QTest::newRow("less long")
+            << u"1 %1, 0 %1"_s.arg(diez19)
+            << u"Las filas 1 y 2 se contradicen módulo 10.000.000.000.000.000.000: piden los "
+               "restos 1 y 0."_s;
+        const auto nueves = [](int cifras) { return QString(cifras, u'9'); };
+        QTest::newRow("as long as they may be")
+            << u"-1 1%1"_s.arg(QString(8191, u'0')) << nueves(8191);
+        QTest::newRow("too long") << u"-1 1%1, 0 3"_s.arg(QString(8192, u'0')) << u"out of reach"_s;
+        QTest::newRow("unreadable") << u"%1 3, 1 3"_s.arg(nueves(24'600)) << u"out of reach"_s;
         QTest::newRow("large") << u"1 1000000000000000000007, 0 10"_s
                                << u"7000000000000000000050"_s;
     }
     void soluciones()
     {
         QFETCH(QString, filas);
-        QTEST(solucion(sistema(filas)), "resultado");
+        QTEST(dicho(sistema(filas)), "resultado");
     }
 
     /// What is posed has the shape that it must have, and its solution is found by substitution.
@@ -67,7 +102,7 @@ private Q_SLOTS:
             const SistemaCongruencias filas = planteaSistema(k);
             QCOMPARE(filas.size(), k);
             compruebaModulos(filas);
-            const QString n = solucion(filas);
+            const QString n = dicho(filas);
             for (const Congruencia &fila : filas) {
                 QVERIFY(fila.resto.toLongLong() >= 1);
                 QCOMPARE(Modulo(n, fila.modulo), fila.resto);
@@ -108,6 +143,7 @@ private Q_SLOTS:
         QVERIFY(esSolucion(sun, u"20+3"_s));
         QVERIFY(!esSolucion(sun, u"128"_s));
         QVERIFY(!esSolucion(sun, u""_s));
+        QVERIFY(!esSolucion(sistema(u"1 2, 0 4"_s), u"no number"_s));
     }
 
     void rejillaQueCrece()

@@ -77,6 +77,10 @@ private Q_SLOTS:
         objeto.ponNúmero1(Moneda::deEntero(120));
         QCOMPARE(objeto.MCD(), Moneda::deEntero(120));
         QCOMPARE(objeto.NumDivisiones(), std::int16_t(1));
+        objeto.ponNúmero2(Moneda::deEntero(50));
+        QCOMPARE(objeto.MCD(), Moneda::deEntero(10));
+        objeto.ponNúmero2(Moneda::deEntero(240));
+        QCOMPARE(objeto.NumDivisiones(), std::int16_t(1));
         objeto.ponNúmero2(Moneda());
         QCOMPARE(objeto.Coeficiente1(), Moneda::deEntero(1));
         QCOMPARE(objeto.NumDivisiones(), std::int16_t(1));

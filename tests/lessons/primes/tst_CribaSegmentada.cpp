@@ -1,6 +1,5 @@
 #include "lessons/primes/CribaSegmentada.h"
 #include "lessons/primes/PrimosDelServicio.h"
-#include "shell/core/Corrida.h"
 
 #include <QTest>
 #include <algorithm>
@@ -63,30 +62,30 @@ private Q_SLOTS:
     void contraElServicio()
     {
         QFETCH(int, limite);
-        Corrida corrida;
         CribaSegmentada criba;
-        criba.criba(limite, corrida, {});
-        const PrimosDelServicio esperados = listaPrimos(limite);
+        criba.criba(limite, {}, {}).completa();
+        const PrimosDelServicio esperados = listaPrimos(limite, {}, {}).completa();
         QCOMPARE(static_cast<std::int32_t>(criba.primos().size()), esperados.cuantos);
         QCOMPARE(criba.numeros(), esperados.numeros);
     }
 
-    void dosYTresSiempre()
+    void losMenores()
     {
         for (const int limite : {2, 1, 0, -5}) {
-            Corrida corrida;
             CribaSegmentada criba;
-            criba.criba(limite, corrida, {});
+            criba.criba(limite, {}, {}).completa();
             QCOMPARE(criba.numeros(), (std::vector<std::uint32_t>{2, 3}));
+            const bool hayPrimo = limite == 2;
+            const auto lista = listaPrimos(limite, {}, [](int) {}).completa();
+            QCOMPARE(lista.numeros, hayPrimo ? Numeros{2} : Numeros{});
         }
     }
 
     void otraVezDesdeElPrincipio()
     {
-        Corrida corrida;
         CribaSegmentada criba;
-        criba.criba(20'000, corrida, {});
-        criba.criba(10, corrida, {});
+        criba.criba(20'000, {}, {}).completa();
+        criba.criba(10, {}, {}).completa();
         QCOMPARE(criba.numeros(), (std::vector<std::uint32_t>{2, 3, 5, 7}));
     }
 
@@ -100,33 +99,44 @@ private Q_SLOTS:
     void elAvanceSigueAlUltimoNumero()
     {
         QFETCH(int, limite);
-        Corrida corrida;
         std::vector<int> avances, esperados;
+        const auto anota = [&](int porcentaje) { avances.push_back(porcentaje); };
         CribaSegmentada criba;
-        criba.criba(limite, corrida, [&](int porcentaje) { avances.push_back(porcentaje); });
+        criba.criba(limite, {}, anota).completa();
         QCOMPARE(criba.numeros(), cribaLenta(static_cast<std::uint32_t>(limite), esperados));
         QCOMPARE(sinRepetir(avances), sinRepetir(esperados));
     }
 
+    /// A stop in the middle of a block leaves candidates that nothing has struck yet; those that
+    /// are given as primes are.
     void detenidaEnCualquierPaso()
     {
-        // A yield serves events at once, so every step is a chance to stop.
-        const std::vector<std::uint32_t> primos = listaPrimos(30'000).numeros;
-        for (int paso = 1; paso < 3200; paso += 97) {
-            int pasos = 0;
-            Corrida *esta = nullptr;
-            Corrida corrida([&] { esta->detener(); });
-            esta = &corrida;
+        constexpr int limite = 12'000'000;
+        const std::vector<std::uint32_t> primos = listaPrimos(limite, {}, {}).completa().numeros;
+        for (int paso = 0; paso < 100; paso += 9) {
+            const auto parada = std::make_shared<Parada>();
+            const auto detiene = [&](int porcentaje) {
+                if (porcentaje >= paso)
+                    parada->detener();
+            };
             CribaSegmentada criba;
-            criba.criba(30'000, corrida, [&](int) {
-                if (++pasos > paso % 5)
-                    corrida.cederYa();
-            });
+            criba.criba(limite, Billete(parada, nullptr), detiene).completa();
             const auto hallados = criba.primos();
+            QVERIFY(hallados.size() < primos.size());
             QVERIFY(std::equal(hallados.begin(), hallados.end(), primos.begin()));
-            QVERIFY(hallados.size() <= criba.numeros().size());
-            QVERIFY(criba.numeros().size() < primos.size() + 2000);
+            QVERIFY(criba.numeros().size() < hallados.size() + 2000);
+            QVERIFY(paso == 0 || static_cast<int>(hallados.back()) > limite / 100 * (paso - 1));
         }
+    }
+
+    void elServicioSeDetiene()
+    {
+        const auto parada = std::make_shared<Parada>();
+        const auto lista = listaPrimos(50'000'000, Billete(parada, nullptr), [&](int porcentaje) {
+                               if (porcentaje >= 49)
+                                   parada->detener();
+                           }).completa();
+        QCOMPARE(lista.numeros.back(), 24'999'983U);
     }
 };
 

@@ -1,9 +1,9 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/primes/DivisionTentativa.h"
-#include "lessons/primes/FactoresGrandes.h"
-#include "shell/core/Corrida.h"
+#include "lessons/primes/TablaDeFactores.h"
 
+#include <QLocale>
 #include <QTest>
 #include <random>
 
@@ -11,33 +11,33 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString descripcion(const ColFactores &factores)
+/// "2^2 3^1", and what became of the rest when it was not factored.
+QString descripcion(const TablaDeFactores &tabla)
 {
     QStringList partes;
-    for (const clsFactorPrimo &factor : factores)
-        partes << factor.Primo().texto() + u'^' + QString::number(factor.exponente());
-    return partes.join(u' ');
-}
-
-QString descripcion(const FactoresGrandes &factores)
-{
-    QStringList partes;
-    for (const FilaDeFactor &fila : factores.filas)
+    for (const FilaDeFactor &fila : tabla.filas)
         partes << fila.factor + u'^' + fila.exponente;
+    if (tabla.desenlace != TablaDeFactores::Completa)
+        partes << u"desenlace %1"_s.arg(tabla.desenlace);
     return partes.join(u' ');
 }
 
-QString ingenuo(std::int64_t n)
+QString ingenuo(std::int64_t n, Billete billete = {})
 {
-    Corrida corrida;
     Moneda moneda = Moneda::deEntero(n);
-    return descripcion(FactorizaIngenuo(moneda, corrida));
+    const ColFactores factores = FactorizaIngenuo(moneda, std::move(billete)).completa();
+    return descripcion(tablaDe(QString::number(n), factores));
 }
 
 QString mejorado(std::int64_t n)
 {
-    Corrida corrida;
-    return descripcion(FactorizaMejorado(Moneda::deEntero(n), corrida));
+    const ColFactores factores = FactorizaMejorado(Moneda::deEntero(n), {}).completa();
+    return descripcion(tablaDe(QString::number(n), factores));
+}
+
+QString avanzado(const QString &n)
+{
+    return descripcion(factorizaGrande(n));
 }
 
 int errorDe(const std::function<void()> &accion)
@@ -52,12 +52,16 @@ int errorDe(const std::function<void()> &accion)
 
 } // namespace
 
+Q_DECLARE_METATYPE(TablaDeFactores)
+
 /// The collection of factors and the three algorithms.
 class TestDivisionTentativa : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(u"es_ES"_s)); }
+
     void coleccion()
     {
         ColFactores factores;
@@ -66,7 +70,7 @@ private Q_SLOTS:
         factores.Add(Moneda::deEntero(2), 1);
         QCOMPARE(factores.Add(siete, 40).exponente(), 4);
         QCOMPARE(factores.Count(), 2);
-        QCOMPARE(descripcion(factores), u"7^4 2^1"_s);
+        QCOMPARE(factores.Item(2).Primo(), Moneda::deEntero(2));
         QCOMPARE(&factores.Item(1), &factores.Item(u"7P"_s));
         QCOMPARE(errorDe([&] { factores.Item(3); }), ErrorEjecucion::IndiceFueraDeRango);
         QCOMPARE(errorDe([&] { factores.Item(0); }), ErrorEjecucion::IndiceFueraDeRango);
@@ -86,7 +90,7 @@ private Q_SLOTS:
         QTest::newRow("360") << qint64(360) << u"2^3 3^2 5^1"_s;
         QTest::newRow("97") << qint64(97) << u"97^1"_s;
         QTest::newRow("one") << qint64(1) << QString();
-        QTest::newRow("zero") << qint64(0) << QString();
+        QTest::newRow("zero") << qint64(0) << u"desenlace %1"_s.arg(TablaDeFactores::EsCero);
         QTest::newRow("2^49") << (qint64(1) << 49) << u"2^49"_s;
         QTest::newRow("square of a prime") << qint64(10'609) << u"103^2"_s;
         QTest::newRow("5^21") << qint64(476'837'158'203'125) << u"5^21"_s;
@@ -97,16 +101,18 @@ private Q_SLOTS:
         QFETCH(qint64, n);
         QFETCH(QString, factores);
         QCOMPARE(mejorado(n), factores);
-        QCOMPARE(descripcion(factorizaGrande(QString::number(n))), factores);
+        QCOMPARE(avanzado(QString::number(n)), factores);
         QCOMPARE(ingenuo(n), factores);
     }
 
     /// The divisions do not look at the sign, but only those by 2 and 3 come before n > 1 is asked.
     void negativos()
     {
-        QCOMPARE(mejorado(-360), u"2^3 3^2"_s);
-        QCOMPARE(mejorado(-1), QString());
-        QCOMPARE(ingenuo(-360), QString());
+        const QString negativo = u"desenlace %1"_s.arg(TablaDeFactores::EsNegativo);
+        QCOMPARE(mejorado(-360), u"2^3 3^2 "_s + negativo);
+        QCOMPARE(mejorado(-1), negativo);
+        QCOMPARE(ingenuo(-360), negativo);
+        QCOMPARE(avanzado(u"-360"_s), u"2^3 3^2 5^1"_s);
     }
 
     /// Random products of small primes, so that both divisions end soon.
@@ -117,7 +123,7 @@ private Q_SLOTS:
             std::int64_t n = 1;
             while (n < 1'000'000'000)
                 n *= std::uniform_int_distribution<std::int64_t>(1, 2000)(azar);
-            const QString esperado = descripcion(factorizaGrande(QString::number(n)));
+            const QString esperado = avanzado(QString::number(n));
             QCOMPARE(mejorado(n), esperado);
             QCOMPARE(ingenuo(n), esperado);
         }
@@ -125,10 +131,7 @@ private Q_SLOTS:
 
     void elContadorDe16Bits()
     {
-        Corrida corrida;
-        const auto factoriza = [&](std::int64_t n) {
-            return errorDe([&] { FactorizaMejorado(Moneda::deEntero(n), corrida); });
-        };
+        const auto factoriza = [](std::int64_t n) { return errorDe([n] { mejorado(n); }); };
         // The 32 768th divisor that does not divide is 98305: the primes on either side of its
         // square, and the squares of the primes on either side of it.
         QCOMPARE(mejorado(9'663'873'007), u"9663873007^1"_s);
@@ -137,29 +140,63 @@ private Q_SLOTS:
         QCOMPARE(factoriza(std::int64_t(98'317) * 98'317), ErrorEjecucion::Desbordamiento);
     }
 
+    /// Three ends and what is said of them, by the numbers that come to them.
+    void frases_data()
+    {
+        QTest::addColumn<TablaDeFactores>("tabla");
+        QTest::addColumn<QString>("producto");
+        QTest::addColumn<QString>("frase");
+        using T = TablaDeFactores;
+        const auto fila = [](const char *nombre, const T &tabla, const QString &producto,
+                             const QString &frase) {
+            QTest::newRow(nombre) << tabla << producto << frase;
+        };
+        const QList<FilaDeFactor> cuatroYTres{{u"2"_s, u"2"_s}, {u"3"_s, u"1"_s}};
+        const QList<FilaDeFactor> sieteYOtro{{u"7"_s, u"1"_s}, {u"1155"_s, u"12"_s}};
+        fila("complete", {u"12"_s, cuatroYTres}, u"2² · 3"_s, u"Factores primos de 12."_s);
+        fila("prime", {u"97"_s, {{u"97"_s, u"1"_s}}}, u"97"_s, u"97: el único factor es primo."_s);
+        fila("one", {u"1"_s}, {}, u"1 no tiene factores primos."_s);
+        fila("stopped", {u"119999999999652"_s, cuatroYTres, T::Detenida, u"9999999999971"_s},
+             u"2² · 3 · (9999999999971)"_s,
+             u"Detenida. De 119.999.999.999.652 falta por descomponer 9.999.999.999.971."_s);
+        fila("stopped before any", {u"97"_s, {}, T::Detenida, u"97"_s}, {},
+             u"Detenida. De 97 falta por descomponer 97."_s);
+        fila("composite left", {QString(99, u'1'), sieteYOtro, T::QuedaCompuesto},
+             u"7 · (1155)¹²"_s,
+             u"Factores de 111111…111111 (99 cifras). El último, en rojo, es compuesto y no se ha "
+             u"podido descomponer."_s);
+        fila("fraction", {u"25/2"_s, {}, T::NoEsEntero}, {},
+             u"25/2 no es un número entero: no tiene factores primos."_s);
+    }
+    void frases()
+    {
+        QFETCH(TablaDeFactores, tabla);
+        QTEST(tabla.producto(), "producto");
+        QTEST(tabla.frase(), "frase");
+    }
+
     void elIngenuoSeDetiene()
     {
-        Corrida *esta = nullptr;
-        Corrida corrida([&] { esta->detener(); });
-        esta = &corrida;
-        Moneda n = Moneda::deEntero(std::int64_t(12) * 9'999'999'999'971);
-        const ColFactores factores = FactorizaIngenuo(n, corrida);
-        QCOMPARE(descripcion(factores), u"2^2 3^1"_s);
-        QCOMPARE(n.texto(), u"9999999999971"_s);
+        const auto parada = std::make_shared<Parada>();
+        const Billete billete(parada, nullptr);
+        parada->detener();
+        QCOMPARE(ingenuo(360, billete), u"desenlace %1"_s.arg(TablaDeFactores::Detenida));
+        // A later run is another.
+        QCOMPARE(ingenuo(360, Billete(parada, nullptr)), u"2^3 3^2 5^1"_s);
     }
 
     void losGrandesSeRecomponen()
     {
-        const QString n = u"2^128-1"_s;
-        const FactoresGrandes factores = factorizaGrande(Evalua(QString(n)));
-        QVERIFY(factores.completa);
-        QCOMPARE(factores.filas.size(), 9);
+        const QString n = Evalua(u"2^128-1"_s);
+        const TablaDeFactores tabla = factorizaGrande(n);
+        QCOMPARE(tabla.desenlace, TablaDeFactores::Completa);
+        QCOMPARE(tabla.filas.size(), 9);
         QString producto = u"1"_s;
-        for (const FilaDeFactor &fila : factores.filas) {
+        for (const FilaDeFactor &fila : tabla.filas) {
             QVERIFY(EsPrimo(fila.factor));
             producto += u"*"_s + fila.factor + u"^"_s + fila.exponente;
         }
-        QCOMPARE(Evalua(producto), Evalua(QString(n)));
+        QCOMPARE(Evalua(producto), n);
     }
 
     void muchosPrimosDistintos()
@@ -170,16 +207,15 @@ private Q_SLOTS:
             if (EsPrimo(QString::number(p)))
                 producto += u"*"_s + QString::number(p);
         }
-        const FactoresGrandes factores = factorizaGrande(Evalua(producto));
-        QVERIFY(factores.completa);
-        QCOMPARE(factores.filas.size(), 168);
+        const TablaDeFactores tabla = factorizaGrande(Evalua(producto));
+        QCOMPARE(tabla.desenlace, TablaDeFactores::Completa);
+        QCOMPARE(tabla.filas.size(), 168);
     }
 
-    void loQueNoEsNumeroNoTieneFactores()
+    void loQueNoEsEnteroNoTieneFactores()
     {
-        for (const QString &texto : {QString(), u"1/2"_s, u"Error"_s, u"0"_s}) {
-            QVERIFY(factorizaGrande(texto).filas.isEmpty());
-        }
+        for (const QString &texto : {u"1/2"_s, u"25/2"_s})
+            QCOMPARE(avanzado(texto), u"desenlace %1"_s.arg(TablaDeFactores::NoEsEntero));
     }
 };
 

@@ -9,7 +9,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -60,7 +59,7 @@ private Q_SLOTS:
         m_cota->setText(cota);
         if (servicio)
             control<QRadioButton>(m_ventana, u"optTipoCriba_1"_s)->click();
-        m_boton->click();
+        criba();
         const QAbstractItemModel *tabla = m_rejilla->model();
         QCOMPARE(tabla->rowCount(), filas);
         QCOMPARE(tabla->columnCount(), 4);
@@ -80,15 +79,18 @@ private Q_SLOTS:
 
     void primerasFilas()
     {
-        m_boton->click();
+        criba();
         m_rejilla->setCurrentIndex(m_rejilla->model()->index(0, 0));
         m_rejilla->selectionModel()->select(
             QItemSelection(m_rejilla->model()->index(0, 0), m_rejilla->model()->index(1, 3)),
             QItemSelectionModel::ClearAndSelect);
-        QCOMPARE(m_rejilla->seleccion(FormaDeCopia::Texto), u"2\t3\t5\t7\n11\t13\t17\t19\n"_s);
+        QCOMPARE(m_rejilla->seleccion(FormaDeCopia::Texto).completa().texto,
+                 u"2\t3\t5\t7\n11\t13\t17\t19\n"_s);
         // The columns have no names, and their numbers would pass for primes.
         m_rejilla->selectAll();
-        QVERIFY(m_rejilla->seleccion(FormaDeCopia::Texto).startsWith(u"2\t3\t5\t7\n"_s));
+        QVERIFY(m_rejilla->seleccion(FormaDeCopia::Texto)
+                    .completa()
+                    .texto.startsWith(u"2\t3\t5\t7\n"_s));
     }
 
     void entradasRechazadas_data()
@@ -107,6 +109,7 @@ private Q_SLOTS:
         QFETCH(QString, cota);
         m_cota->setText(cota);
         m_boton->click();
+        QVERIFY(m_ruedas->estado() == ReproductorAVI::Parado);
         QCOMPARE(m_rejilla->model()->rowCount(), 0);
         QCOMPARE(m_boton->toolTip(), u"Realizar la criba"_s);
         if (aviso.isEmpty()) {
@@ -117,53 +120,73 @@ private Q_SLOTS:
         }
     }
 
+    void seDetiene_data()
+    {
+        QTest::addColumn<bool>("servicio");
+        QTest::newRow("own") << false;
+        QTest::newRow("library") << true;
+    }
     void seDetiene()
     {
+        QFETCH(bool, servicio);
+        control<QRadioButton>(m_ventana, u"optTipoCriba_%1"_s.arg(int(servicio)))->click();
         m_cota->setText(u"10^8"_s);
-        bool enMarcha = false;
-        QTimer::singleShot(60, m_ventana, [&] {
-            enMarcha = m_boton->toolTip() == u"Detener cálculo"_s &&
-                       m_ruedas->estado() == ReproductorAVI::Reproduciendo;
-            m_boton->click();
-        });
         m_boton->click();
-        QVERIFY(enMarcha);
-        QVERIFY2(m_resumen->text().startsWith(u"Criba detenida: "_s),
-                 qPrintable(m_resumen->text()));
-        QVERIFY(m_rejilla->model()->rowCount() < 1'440'000);
+        QCOMPARE(m_boton->toolTip(), u"Detener cálculo"_s);
+        QCOMPARE(m_boton->accessibleName(), u"Detener cálculo"_s);
+        QCOMPARE(m_ruedas->estado(), ReproductorAVI::Reproduciendo);
+        QTRY_VERIFY(control<QProgressBar>(m_ventana, u"ProgressBar"_s)->value() > 2);
+        m_boton->click();
+        // The button is at rest at once; what has been found comes when the run has seen the stop.
+        QCOMPARE(m_boton->toolTip(), u"Realizar la criba"_s);
         QCOMPARE(m_ruedas->estado(), ReproductorAVI::Parado);
+        QTRY_VERIFY(m_resumen->text().startsWith(u"Criba detenida: "_s));
+        QVERIFY(m_rejilla->model()->rowCount() < 1'440'000);
         m_cota->setText(u"10"_s);
-        m_boton->click();
+        criba();
         QCOMPARE(m_resumen->text(), u"4 primos; el mayor es 7"_s);
     }
 
-    /// Stop, then start within the same yield: the first run finds its window taken over.
-    void otraCribaDentroDeLaPrimera()
+    /// Stop, then start: the first run, which has not seen the stop yet, finds its window taken
+    /// over and shows nothing.
+    void otraCribaAntesDeQueAcabeLaPrimera()
     {
         m_cota->setText(u"3*10^7"_s);
-        QTimer::singleShot(20, m_ventana, [&] {
-            m_boton->click();
-            m_cota->setText(u"10"_s);
-            m_boton->click();
-        });
         m_boton->click();
+        m_boton->click();
+        m_cota->setText(u"10"_s);
+        criba();
+        QTest::qWait(50);
         QCOMPARE(m_resumen->text(), u"4 primos; el mayor es 7"_s);
     }
 
+    void cerrarMientrasCriba_data()
+    {
+        QTest::addColumn<int>("tras");
+        QTest::newRow("behind the click") << 0;
+        QTest::newRow("later") << 30;
+    }
     void cerrarMientrasCriba()
     {
+        QFETCH(int, tras);
         const QPointer<FormPrimos> viva = m_ventana;
         m_cota->setText(u"10^8"_s);
         m_ventana->show();
-        QTimer::singleShot(30, m_ventana, [this] { m_ventana->cierra(); });
         m_boton->click();
-        QVERIFY(viva);
-        QVERIFY(!viva->isVisible());
+        QTest::qWait(tras);
+        m_ventana->cierra();
         QTRY_VERIFY(!viva);
         m_ventana = nullptr;
     }
 
 private:
+    /// Begins a run and waits for its end.
+    void criba()
+    {
+        m_boton->click();
+        QTRY_COMPARE(m_ruedas->estado(), ReproductorAVI::Parado);
+    }
+
     FormPrimos *m_ventana = nullptr;
     QLineEdit *m_cota = nullptr;
     QPushButton *m_boton = nullptr;

@@ -10,6 +10,34 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// Sees a line painted, and the pointer of a window become an hourglass.
+class Testigo : public QObject
+{
+public:
+    bool pintada = false;
+    bool conReloj = false;
+
+    Testigo(QWidget *ventana, QLabel *linea) : m_ventana(ventana), m_linea(linea)
+    {
+        ventana->installEventFilter(this);
+        linea->installEventFilter(this);
+    }
+    bool eventFilter(QObject *, QEvent *suceso) override
+    {
+        pintada = pintada || (suceso->type() == QEvent::Paint && !m_linea->text().isEmpty());
+        conReloj = conReloj || m_ventana->cursor().shape() == Qt::WaitCursor;
+        return false;
+    }
+
+private:
+    QWidget *m_ventana;
+    QLabel *m_linea;
+};
+
+} // namespace
+
 /// The topic "Test de primos", by its controls.
 class TestFormPrimosTest : public QObject
 {
@@ -145,6 +173,37 @@ private Q_SLOTS:
         m_numero->setText(u"3"_s);
         m_siguiente->click();
         QCOMPARE(m_ventana->cursor().shape(), Qt::ArrowCursor);
+    }
+
+    /// While a long call goes on, nothing is painted: what tells of it stands there before.
+    void loQueTardaSeDiceAntes_data()
+    {
+        QTest::addColumn<QString>("boton");
+        QTest::addColumn<QString>("numero");
+        QTest::addColumn<bool>("linea");
+        QTest::newRow("test") << u"cmdEsPrimo"_s << QString(2500, u'4') << true;
+        QTest::newRow("short test") << u"cmdEsPrimo"_s << QString(2000, u'4') << false;
+        QTest::newRow("next") << u"cmdSigPrimo"_s << QString(4000, u'4') << true;
+        QTest::newRow("short next") << u"cmdSigPrimo"_s << QString(40, u'4') << false;
+        QTest::newRow("random") << u"cmdNumBits"_s << u"2000"_s << true;
+        QTest::newRow("short random") << u"cmdNumBits"_s << u"100"_s << false;
+    }
+    void loQueTardaSeDiceAntes()
+    {
+        QFETCH(QString, boton);
+        QFETCH(QString, numero);
+        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(2);
+        m_ventana->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_ventana.get()));
+        (boton == u"cmdNumBits"_s ? m_bits->setText(numero) : m_numero->setText(numero));
+        auto *linea = control<QLabel>(m_ventana.get(), u"lblEspera"_s);
+        Testigo testigo(m_ventana.get(), linea);
+        control<QPushButton>(m_ventana.get(), boton)->click();
+        QTEST(testigo.pintada, "linea");
+        QVERIFY(testigo.conReloj);
+        QVERIFY(linea->text().isEmpty());
+        QCOMPARE(m_ventana->cursor().shape(), Qt::ArrowCursor);
+        Entorno::grabadora().mensajes.clear();
     }
 
     void sinPrimoNoSePierdeNada()

@@ -1,12 +1,15 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/recursion/functions/Ack.h"
+#include "lessons/recursion/functions/EnteroDeTexto.h"
 #include "lessons/recursion/functions/windows/ModeloAck.h"
+#include "tests/lessons/recursion/Detenida.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>
 #include <map>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -35,13 +38,14 @@ public:
 
 struct Prueba
 {
-    explicit Prueba(int corte = 1'000'000, Corrida::Cesion cesion = {})
-        : corrida(std::move(cesion)), memoria(1, 1), ack(memoria, corrida, corte)
+    explicit Prueba(int corte = 1'000'000, const Billete &billete = {})
+        : ack(memoria, corte, billete)
     {
     }
 
-    Corrida corrida;
-    MemoriaAck memoria;
+    int calcula(int m, int n) { return ack.calcula(m, n).completa(); }
+
+    std::shared_ptr<MemoriaAck> memoria = std::make_shared<MemoriaAck>(1, 1);
     Ack ack;
 };
 
@@ -76,17 +80,17 @@ private Q_SLOTS:
         QFETCH(int, m);
         QFETCH(int, n);
         Prueba prueba;
-        QTEST(prueba.ack.calcula(m, n), "valor");
+        QTEST(prueba.calcula(m, n), "valor");
         AckPorDefinicion definicion;
         definicion.calcula(m, n);
         QCOMPARE(prueba.ack.numLlamadas(), definicion.llamadas);
-        QCOMPARE(prueba.memoria.filas(), definicion.filas);
-        QCOMPARE(prueba.memoria.columnas(), definicion.columnas);
+        QCOMPARE(prueba.memoria->filas(), definicion.filas);
+        QCOMPARE(prueba.memoria->columnas(), definicion.columnas);
         for (int columna = 0; columna < definicion.columnas; ++columna) {
             for (int fila = 0; fila < definicion.filas; ++fila) {
                 const auto celda = definicion.valores.find({columna, fila});
                 const int esperado = celda == definicion.valores.end() ? 0 : celda->second;
-                QCOMPARE(prueba.memoria.lee(columna, fila), esperado);
+                QCOMPARE(prueba.memoria->lee(columna, fila), esperado);
             }
         }
     }
@@ -95,12 +99,12 @@ private Q_SLOTS:
     void celdasDeAck23()
     {
         Prueba prueba;
-        prueba.ack.calcula(2, 3);
+        prueba.calcula(2, 3);
         QStringList columnas;
         for (int m = 0; m <= 2; ++m) {
             QStringList celdas;
-            for (int n = 0; n < prueba.memoria.filas(); ++n) {
-                if (prueba.memoria.lee(m, n) > 0)
+            for (int n = 0; n < prueba.memoria->filas(); ++n) {
+                if (prueba.memoria->lee(m, n) > 0)
                     celdas << QString::number(n);
             }
             columnas << celdas.join(u' ');
@@ -133,44 +137,45 @@ private Q_SLOTS:
         QFETCH(int, corte);
         QFETCH(int, valor);
         Prueba prueba(corte);
-        QCOMPARE(prueba.ack.calcula(m, n), valor);
+        QCOMPARE(prueba.calcula(m, n), valor);
         QCOMPARE(prueba.ack.rendido(), valor == 0);
-        QCOMPARE(prueba.corrida.detenida(), valor == 0);
-        QTEST(prueba.memoria.filas(), "filas");
-        QTEST(prueba.memoria.columnas(), "columnas");
+        QTEST(prueba.memoria->filas(), "filas");
+        QTEST(prueba.memoria->columnas(), "columnas");
     }
 
     /// The calls that waited leave a 0; the one that was refused leaves its cell empty, and what
     /// was found before stays.
     void loQueQuedaTrasElCorte()
     {
-        Prueba prueba(6);
-        QCOMPARE(prueba.ack.calcula(2, 3), 0);
+        const Tareas tareas([](const std::exception_ptr &) {});
+        const Billete otro = tareas.billete();
+        Prueba prueba(6, tareas.billete());
+        QCOMPARE(prueba.calcula(2, 3), 0);
         // Ack(2, 2) = Ack(1, 5), which waits for Ack(1, 4) = 6 and then asks for Ack(0, 6) = 7;
         // Ack(2, 3) = Ack(1, 7) is refused.
-        QCOMPARE(prueba.memoria.lee(2, 2), 7);
-        QVERIFY(prueba.memoria.escrita(2, 3));
-        QCOMPARE(prueba.memoria.lee(2, 3), 0);
-        QVERIFY(!prueba.memoria.escrita(1, 7));
+        QCOMPARE(prueba.memoria->lee(2, 2), 7);
+        QVERIFY(prueba.memoria->escrita(2, 3));
+        QCOMPARE(prueba.memoria->lee(2, 3), 0);
+        QVERIFY(!prueba.memoria->escrita(1, 7));
         ModeloAck modelo(prueba.memoria);
         QCOMPARE(modelo.index(3, 2).data().toString(), u"0"_s);
         QCOMPARE(modelo.index(7, 1).data(), QVariant());
+        // The stop flag is that of the whole window.
+        QVERIFY(otro.detenida());
         // The memory counts a 0 as not known: with more room the same call comes to its end.
-        prueba.corrida.permitir();
-        Ack otra(prueba.memoria, prueba.corrida, 100);
-        QCOMPARE(otra.calcula(2, 3), 9);
+        QCOMPARE(Ack(prueba.memoria, 100, {}).calcula(2, 3).completa(), 9);
     }
 
     void unMillonDeFilas()
     {
         Prueba prueba(INT_MAX);
-        QCOMPARE(prueba.ack.calcula(1, 999'998), 1'000'000);
-        QCOMPARE(prueba.memoria.filas(), MemoriaAck::MaximoDeLineas);
+        QCOMPARE(prueba.calcula(1, 999'998), 1'000'000);
+        QCOMPARE(prueba.memoria->filas(), MemoriaAck::MaximoDeLineas);
         for (const auto &[m, n] : {std::pair(1, 999'999), std::pair(4, 2), std::pair(0, INT_MAX),
                                    std::pair(INT_MAX, 0), std::pair(6, 6)}) {
             Prueba otra(INT_MAX);
             try {
-                otra.ack.calcula(m, n);
+                otra.calcula(m, n);
                 QFAIL("no error");
             } catch (const ErrorEjecucion &error) {
                 QCOMPARE(error.numero(), ErrorEjecucion::Desbordamiento);
@@ -182,29 +187,53 @@ private Q_SLOTS:
     void argumentosNegativos()
     {
         Prueba prueba;
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, prueba.ack.calcula(-1, 3));
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, prueba.ack.calcula(3, -1));
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, prueba.calcula(-1, 3));
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, prueba.calcula(3, -1));
     }
 
+    /// Stopped in its first yield. What was found stays, and is right; the calls that waited give
+    /// 0.
     void ackDetenido()
     {
-        Corrida *corrida = nullptr;
-        Prueba prueba(INT_MAX, [&] { corrida->detener(); });
-        corrida = &prueba.corrida;
-        // A run of some 50 ms, over and over until a yield falls into it.
-        while (!prueba.corrida.detenida()) {
-            try {
-                QCOMPARE(prueba.ack.calcula(4, 2), 0);
-            } catch (const ErrorEjecucion &) {
-                prueba.memoria.vacia();
-            }
+        const auto memoria = std::make_shared<MemoriaAck>(1, 1);
+        std::shared_ptr<Ack> ack;
+        const auto valor = detenida(0ms, [&](const Billete &billete) {
+            ack = std::make_shared<Ack>(memoria, INT_MAX, billete);
+            return ack->calcula(4, 2);
+        });
+        QCOMPARE(valor, 0);
+        QVERIFY(!ack->rendido());
+        QVERIFY(memoria->lee(1, 10) == 12 && memoria->lee(3, 0) == 5);
+        QVERIFY(memoria->escrita(4, 2) && memoria->lee(4, 2) == 0);
+    }
+
+    void numerosSueltos_data()
+    {
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<int>("valor");
+        QTest::addColumn<int>("numero");
+        QTest::newRow("plain") << u"5000"_s << 5000 << 0;
+        QTest::newRow("blanks") << u" 7 "_s << 7 << 0;
+        QTest::newRow("half to even, down") << u"2,5"_s << 2 << 0;
+        QTest::newRow("half to even, up") << u"3.5"_s << 4 << 0;
+        QTest::newRow("exponent") << u"1,5e3"_s << 1500 << 0;
+        QTest::newRow("letters") << u"abc"_s << 0 << 13;
+        QTest::newRow("expression") << u"2*3"_s << 0 << 13;
+        QTest::newRow("empty") << QString() << 0 << 13;
+        QTest::newRow("beyond 32 bits") << u"3000000000"_s << 0 << 6;
+        QTest::newRow("beyond fixed point") << u"1e300"_s << 0 << 6;
+    }
+    void numerosSueltos()
+    {
+        QFETCH(QString, texto);
+        int valor = 0, numero = 0;
+        try {
+            valor = enteroDeTexto(texto, u"x"_s);
+        } catch (const ErrorEjecucion &error) {
+            numero = error.numero();
         }
-        QVERIFY(!prueba.ack.rendido());
-        // What was found stays, and is right.
-        QVERIFY(prueba.memoria.lee(1, 10) == 12 && prueba.memoria.lee(3, 0) == 5);
-        prueba.corrida.permitir();
-        prueba.corrida.detener();
-        QCOMPARE(prueba.ack.calcula(0, 1), 0);
+        QTEST(valor, "valor");
+        QTEST(numero, "numero");
     }
 
     void laTablaDeAck()
@@ -212,7 +241,7 @@ private Q_SLOTS:
         Prueba prueba;
         ModeloAck modelo(prueba.memoria);
         const QAbstractItemModelTester probador(&modelo);
-        prueba.ack.calcula(2, 3);
+        prueba.calcula(2, 3);
         QCOMPARE(modelo.rowCount(), 1);
         modelo.publica();
         QCOMPARE(modelo.rowCount(), 9);
@@ -224,8 +253,7 @@ private Q_SLOTS:
         QCOMPARE(modelo.index(3, 2).data(Qt::BackgroundRole).value<QBrush>().color(),
                  QColor(0, 255, 255));
         QVERIFY(!modelo.destaca({3, 3}).isValid());
-        prueba.memoria.vacia();
-        modelo.reinicia();
+        modelo.pon(std::make_shared<MemoriaAck>(9, 3));
         QCOMPARE(modelo.rowCount(), 9);
         QCOMPARE(modelo.index(3, 2).data(), QVariant());
         QCOMPARE(modelo.index(3, 2).data(Qt::BackgroundRole), QVariant());

@@ -95,14 +95,33 @@ private Q_SLOTS:
         QCOMPARE(m_modulo->toolTip(), consejo);
     }
 
-    void unModuloQueNoLoEsSeIgnora()
+    /// Nothing that is shown changes but for the word about it, which lasts until the field does.
+    void unModuloQueNoLoEs_data()
     {
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<QString>("motivo");
+        QTest::newRow("zero") << u"0"_s << u"El menor número permitido es 1."_s;
+        QTest::newRow("fraction") << u"1/2"_s << u"El valor escrito no es un número entero."_s;
+        QTest::newRow("word") << u"a"_s
+                              << u"Lo escrito no es una expresión que se pueda calcular."_s;
+        QTest::newRow("empty") << QString() << u"Escriba un número entero."_s;
+    }
+    void unModuloQueNoLoEs()
+    {
+        QFETCH(QString, texto);
+        QFETCH(QString, motivo);
+        const auto *aviso = control<QLabel>(m_ventana.get(), u"lblAvisoDeModulo"_s);
+        calcula(texto);
+        QCOMPARE(aviso->text(), u"✗ "_s + motivo);
         calcula(u"10"_s);
-        for (const QString &texto : {u"0"_s, u"-7"_s, u"1/2"_s, u"abc"_s, QString()}) {
-            calcula(texto);
-            QCOMPARE(m_periodo->text(), u"60"_s);
-            QCOMPARE(m_modulo->toolTip(), u"10"_s);
-        }
+        QVERIFY(aviso->isHidden());
+        calcula(texto);
+        QCOMPARE(aviso->text(), u"✗ "_s + motivo + u" Lo que se ve es de módulo 10."_s);
+        QVERIFY(!aviso->isHidden());
+        QCOMPARE(m_periodo->text(), u"60"_s);
+        QCOMPARE(m_modulo->toolTip(), u"10"_s);
+        QTest::keyClicks(m_modulo, u"9"_s);
+        QVERIFY(aviso->isHidden());
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
     }
 
@@ -130,9 +149,13 @@ private Q_SLOTS:
         acepta(u"2"_s, u"1/2"_s, u"mod"_s, u"1"_s);
         QCOMPARE(m_ventana->focusWidget(), control<QLineEdit>(m_ventana.get(), u"TxtBeta"_s));
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        QCOMPARE(avisoDeFuncion(), u"✗ β: El valor escrito no es un número entero."_s);
         QCOMPARE(m_periodo->text(), u"60"_s);
         calcula(u"10"_s);
         QCOMPARE(m_periodo->text(), u"60"_s);
+        acepta(u"10^300"_s, u"1"_s, u"1"_s, u"1"_s);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Número demasiado grande"_s);
+        QCOMPARE(avisoDeFuncion(), u"✗ α: El mayor número permitido es 922.337.203.685.477."_s);
     }
 
     void alSalirDelCampoUnaSolaVez()
@@ -222,6 +245,11 @@ private:
         control<QLineEdit>(m_ventana.get(), u"TxtF1"_s)->setText(f1);
         control<QLineEdit>(m_ventana.get(), u"txtF2"_s)->setText(f2);
         control<QPushButton>(m_ventana.get(), u"cmdFunción"_s)->click();
+    }
+
+    QString avisoDeFuncion() const
+    {
+        return control<QLabel>(m_ventana.get(), u"lblAviso"_s)->text();
     }
 
     QString valor(int n) const { return m_valores->model()->index(n - 1, 1).data().toString(); }

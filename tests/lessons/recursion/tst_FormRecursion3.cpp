@@ -1,6 +1,7 @@
 #include "lessons/recursion/functions/windows/FormRecursion3.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/controls/Dibujo.h"
+#include "shell/grid/Rejilla.h"
 #include "shell/plot/Grafica.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -15,7 +16,6 @@
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace std::chrono_literals;
 
 /// The lesson on recursive functions, by its controls.
 class TestFormRecursion3 : public QObject
@@ -57,7 +57,6 @@ private Q_SLOTS:
         QVERIFY(tabla->selectionModel()->selectedIndexes().isEmpty());
         QCOMPARE(campo(u"txtAck"_s)->text(), u"Ack(0, 8)"_s);
         QCOMPARE(control<QLabel>(m_ventana, u"lblResultado"_s)->text(), u"Ack(2, 3) = 9"_s);
-        enReposo(u"cmdAck"_s);
     }
 
     void laCeldaQuedaArribaYALaIzquierda()
@@ -69,6 +68,18 @@ private Q_SLOTS:
         const auto *tabla = rejilla(u"FlexAck"_s);
         QVERIFY(tabla->model()->columnCount() > 40);
         QCOMPARE(tabla->indexAt(QPoint(2, 2)), tabla->model()->index(4000, 1));
+    }
+
+    /// A click in the first yield begins anew, because the timer that makes it a stop does not run
+    /// yet; what was overtaken says nothing.
+    void dosClicsSeguidos()
+    {
+        prepara(u"cmdAck"_s, u"1"_s);
+        boton(u"cmdAck"_s)->click();
+        QCOMPARE(boton(u"cmdAck"_s)->toolTip(), u"Detener cálculo"_s);
+        QVERIFY(!timerAck()->isActive());
+        calculaAck(u"4"_s, u"1"_s);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Me rindo"_s);
     }
 
     void elTamanoSeConserva()
@@ -91,7 +102,6 @@ private Q_SLOTS:
         QCOMPARE(mensaje.titulo, u"Me rindo"_s);
         QCOMPARE(mensaje.icono, Interlocutor::Icono::Exclamacion);
         QCOMPARE(rejilla(u"FlexAck"_s)->model()->rowCount(), 5002);
-        enReposo(u"cmdAck"_s);
     }
 
     void unCorteQueNoEsNumeroNoHaceNada()
@@ -121,7 +131,6 @@ private Q_SLOTS:
         calculaAck(u"2"_s, u"3"_s);
         calculaAck(x, y);
         QTEST(Entorno::grabadora().unico().texto.section(u'\n', 0, 0), "texto");
-        enReposo(u"cmdAck"_s);
         calculaAck(u"1"_s, u"1"_s);
         QCOMPARE(control<QLabel>(m_ventana, u"lblResultado"_s)->text(), u"Ack(1, 1) = 3"_s);
     }
@@ -133,16 +142,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("resumen");
         QTest::newRow("6") << u"6"_s << 9 << u"Con 6 se llega a 1 en 8 iteraciones."_s;
         QTest::newRow("1") << u"1"_s << 4 << u"Con 1 se llega a 1 en 3 iteraciones."_s;
-        QTest::newRow("letters") << u"abc"_s << 2 << u"El valor inicial no es un número entero."_s;
+        QTest::newRow("letters")
+            << u"abc"_s << 2
+            << u"El valor inicial tiene que ser un número entero escrito con sus cifras, "
+               "24575 como mucho."_s;
     }
     void granizo()
     {
         QFETCH(QString, inicio);
         largo(u"TxtInicial"_s)->setText(inicio);
-        boton(u"cmdHail"_s)->click();
+        corre(u"cmdHail"_s);
         QTEST(rejilla(u"FlexHail"_s)->model()->rowCount(), "filas");
         QTEST(largo(u"LabelHail"_s)->text(), "resumen");
-        enReposo(u"cmdHail"_s);
     }
 
     /// A point of the curve leads to the row of its step.
@@ -151,7 +162,7 @@ private Q_SLOTS:
         control<QTabWidget>(m_ventana, u"SSTab1"_s)->setCurrentIndex(1);
         auto *curva = control<Grafica>(m_ventana, u"PicHail"_s);
         largo(u"TxtInicial"_s)->setText(u"27"_s);
-        boton(u"cmdHail"_s)->click();
+        corre(u"cmdHail"_s);
         for (int i = 0; i <= 77; ++i)
             QTest::keyClick(curva, Qt::Key_Right);
         QCOMPARE(curva->puntoSenalado(), 77);
@@ -161,15 +172,16 @@ private Q_SLOTS:
     void capicuas()
     {
         const auto *resultado = largo(u"TxtCapFinal"_s);
+        const auto *aviso = control<QLabel>(
+            control<QWidget>(m_ventana, u"cmdCap"_s)->parentWidget(), u"lblAvance"_s);
         const QColor resalte = QApplication::palette().highlight().color();
         largo(u"TxtCapInicial"_s)->setText(u" "_s);
         QVERIFY(!boton(u"cmdCap"_s)->isEnabled());
         largo(u"TxtCapInicial"_s)->setText(u"10*8+9"_s);
         QVERIFY(boton(u"cmdCap"_s)->isEnabled());
-        boton(u"cmdCap"_s)->click();
+        corre(u"cmdCap"_s);
         QCOMPARE(resultado->text(), u"8813200023188"_s);
         QCOMPARE(resultado->palette().color(QPalette::Text), QColor(192, 0, 0));
-        enReposo(u"cmdCap"_s);
         const auto *sumas = rejilla(u"FlexCap"_s)->model();
         QCOMPARE(sumas->rowCount(), 24);
         QCOMPARE(sumas->index(1, 1).data().toString() + u'+' +
@@ -177,136 +189,150 @@ private Q_SLOTS:
                      sumas->index(1, 3).data().toString(),
                  u"187+781=968"_s);
         largo(u"TxtCapInicial"_s)->setText(u"abc"_s);
-        boton(u"cmdCap"_s)->click();
+        corre(u"cmdCap"_s);
         QCOMPARE(resultado->text(), u"8813200023188"_s);
         QCOMPARE(resultado->palette().color(QPalette::Text), resalte);
+        QVERIFY(aviso->text().startsWith(u"El valor inicial no es una expresión"_s));
         largo(u"TxtCapInicial"_s)->setText(u"mod 2"_s);
-        boton(u"cmdCap"_s)->click();
+        corre(u"cmdCap"_s);
         QCOMPARE(Entorno::grabadora().unico().texto, u"Argumento no válido."_s);
-        enReposo(u"cmdCap"_s);
     }
 
-    void parar_data() { corridas(); }
-    void parar()
-    {
-        QFETCH(QString, nombre);
-        prepara(nombre);
-        bool corria = false;
-        alCabo([&] {
-            corria = boton(nombre)->toolTip() == u"Detener cálculo"_s;
-            // The second click of a double click must not start anew what the first one stops.
-            boton(nombre)->click();
-            boton(nombre)->click();
-        });
-        boton(nombre)->click();
-        QVERIFY(corria);
-        enReposo(nombre);
-        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
-    }
-
-    void pararConEscape_data() { corridas(); }
-    void pararConEscape()
-    {
-        QFETCH(QString, nombre);
-        QFETCH(int, pestana);
-        control<QTabWidget>(m_ventana, u"SSTab1"_s)->setCurrentIndex(pestana);
-        prepara(nombre);
-        alCabo([&] { QTest::keyClick(boton(nombre), Qt::Key_Escape); });
-        boton(nombre)->click();
-        enReposo(nombre);
-        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
-    }
-
-    void cerrar_data()
-    {
-        corridas();
-        // This run lasts some 50 ms and more under sanitizers: the close may come after its end.
-        QTest::newRow("Ackermann, later") << u"cmdAck"_s << 0 << 20;
-    }
-    void cerrar()
-    {
-        QFETCH(QString, nombre);
-        prepara(nombre);
-        const QPointer<FormRecursión3> testigo = m_ventana;
-        alCabo([&] { m_ventana->close(); });
-        boton(nombre)->click();
-        QTRY_VERIFY(!testigo);
-        m_ventana = nullptr;
-    }
-
-    /// One run inside the yield of another: both end, and closing waits for both.
-    void unaDentroDeOtra()
-    {
-        prepara(u"cmdHail"_s);
-        prepara(u"cmdCap"_s);
-        QTimer::singleShot(20ms, m_ventana, [&] { boton(u"cmdCap"_s)->click(); });
-        QTimer::singleShot(60ms, m_ventana, [&] {
-            QCOMPARE(boton(u"cmdCap"_s)->toolTip(), u"Detener cálculo"_s);
-            boton(u"cmdCap"_s)->click();
-        });
-        boton(u"cmdHail"_s)->click();
-        enReposo(u"cmdHail"_s);
-        enReposo(u"cmdCap"_s);
-
-        const QPointer<FormRecursión3> testigo = m_ventana;
-        QTimer::singleShot(20ms, m_ventana, [&] { boton(u"cmdCap"_s)->click(); });
-        QTimer::singleShot(60ms, m_ventana, [&] { m_ventana->close(); });
-        boton(u"cmdHail"_s)->click();
-        QTRY_VERIFY(!testigo);
-        m_ventana = nullptr;
-    }
-
-    /// While it runs: the gear turns and the grids fill.
-    void duranteLaCorrida()
-    {
-        prepara(u"cmdHail"_s);
-        int filas = 0;
-        QTimer::singleShot(150ms, m_ventana, [&] {
-            filas = rejilla(u"FlexHail"_s)->model()->rowCount();
-            boton(u"cmdHail"_s)->click();
-        });
-        boton(u"cmdHail"_s)->click();
-        QVERIFY(filas > 1);
-        QCOMPARE(largo(u"LabelHail"_s)->text(), QString());
-
-        prepara(u"cmdAck"_s);
-        const auto *rueda = control<Dibujo>(m_ventana, u"imgAck"_s);
-        bool seVe = false;
-        QTimer::singleShot(0, m_ventana, [&] {
-            seVe = rueda->isVisible() && rueda->imagen().startsWith(u"TRABAJANDO"_s);
-            boton(u"cmdAck"_s)->click();
-        });
-        boton(u"cmdAck"_s)->click();
-        QVERIFY(seVe);
-        QVERIFY(!rueda->isVisible());
-    }
-
-private:
-    void corridas()
+    /// Stopped by its button, by the Escape key, or by the button of another run: they share the
+    /// stop flag. The button is at rest at once; nothing is said.
+    void parar_data()
     {
         QTest::addColumn<QString>("nombre");
         QTest::addColumn<int>("pestana");
         QTest::addColumn<int>("milisegundos");
-        QTest::newRow("Ackermann, at once") << u"cmdAck"_s << 0 << 0;
-        QTest::newRow("Hailstone, at once") << u"cmdHail"_s << 1 << 0;
-        QTest::newRow("Hailstone") << u"cmdHail"_s << 1 << 30;
-        QTest::newRow("Capicúas, at once") << u"cmdCap"_s << 2 << 0;
-        QTest::newRow("Capicúas") << u"cmdCap"_s << 2 << 30;
+        QTest::addColumn<int>("como");
+        const std::tuple<const char *, QString, int> corridas[] = {{"Ackermann", u"cmdAck"_s, 0},
+                                                                   {"Hailstone", u"cmdHail"_s, 1},
+                                                                   {"Capicúas", u"cmdCap"_s, 2}};
+        const char *modos[] = {"click", "Escape", "close"};
+        for (const auto &[rotulo, nombre, pestana] : corridas) {
+            for (const int como : {0, 1, 2}) {
+                for (const int milisegundos : {0, 15})
+                    QTest::addRow("%s, %s, %d ms", rotulo, modos[como], milisegundos)
+                        << nombre << pestana << milisegundos << como;
+            }
+        }
     }
-
-    /// Does something from within a yield of the run that starts next.
-    void alCabo(const std::function<void()> &accion)
+    void parar()
     {
+        QFETCH(QString, nombre);
+        QFETCH(int, pestana);
         QFETCH(int, milisegundos);
-        QTimer::singleShot(milisegundos, m_ventana, accion);
+        QFETCH(int, como);
+        control<QTabWidget>(m_ventana, u"SSTab1"_s)->setCurrentIndex(pestana);
+        prepara(nombre, u"2"_s);
+        const QPointer<FormRecursión3> testigo = m_ventana;
+        boton(nombre)->click();
+        // Ackermann's run is one that a click stops from its second yield on.
+        if (nombre == u"cmdAck"_s && como < 2)
+            QTRY_VERIFY(timerAck()->isActive());
+        QTest::qWait(milisegundos);
+        QCOMPARE(boton(nombre)->toolTip(), u"Detener cálculo"_s);
+        if (como == 2) {
+            m_ventana->close();
+            QTRY_VERIFY(!testigo);
+            m_ventana = nullptr;
+            return;
+        }
+        if (como == 0)
+            boton(nombre)->click();
+        else
+            QTest::keyClick(boton(nombre), Qt::Key_Escape);
+        QCOMPARE(boton(nombre)->toolTip(), u"Calcular"_s);
+        QVERIFY(!timerAck()->isActive());
+        QTest::qWait(5);
+        QVERIFY(largo(u"LabelHail"_s)->text().isEmpty());
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
     }
 
-    /// Fields with which a run does not end by itself before it is looked at.
-    void prepara(const QString &nombre)
+    /// Stopped and started again with other numbers before the first run has returned: only the
+    /// second one shows anything.
+    void pararYEmpezar()
+    {
+        prepara(u"cmdAck"_s, u"2"_s);
+        boton(u"cmdAck"_s)->click();
+        QTRY_VERIFY(timerAck()->isActive());
+        QTest::qWait(15);
+        boton(u"cmdAck"_s)->click();
+        calculaAck(u"2"_s, u"3"_s);
+        QCOMPARE(control<QLabel>(m_ventana, u"lblResultado"_s)->text(), u"Ack(2, 3) = 9"_s);
+        QCOMPARE(rejilla(u"FlexAck"_s)->model()->index(2, 4).data(), QVariant());
+
+        const auto otraVez = [this](const QString &nombre, const QString &campo,
+                                    const QString &inicio) {
+            boton(nombre)->click();
+            QTest::qWait(15);
+            boton(nombre)->click();
+            largo(campo)->setText(inicio);
+            corre(nombre);
+        };
+        largo(u"TxtInicial"_s)->setText(u"-5"_s);
+        otraVez(u"cmdHail"_s, u"TxtInicial"_s, u"6"_s);
+        QCOMPARE(largo(u"LabelHail"_s)->text(), u"Con 6 se llega a 1 en 8 iteraciones."_s);
+        QCOMPARE(rejilla(u"FlexHail"_s)->model()->rowCount(), 9);
+
+        largo(u"TxtCapInicial"_s)->setText(u"196"_s);
+        otraVez(u"cmdCap"_s, u"TxtCapInicial"_s, u"87"_s);
+        QCOMPARE(largo(u"TxtCapFinal"_s)->text(), u"4884"_s);
+        QCOMPARE(rejilla(u"FlexCap"_s)->model()->rowCount(), 4);
+    }
+
+    /// Two runs at a time, which share the stop flag: stopping one stops both.
+    void dosALaVez()
+    {
+        largo(u"TxtInicial"_s)->setText(u"-5"_s);
+        largo(u"TxtCapInicial"_s)->setText(u"196"_s);
+        boton(u"cmdHail"_s)->click();
+        boton(u"cmdCap"_s)->click();
+        const auto *filas = rejilla(u"FlexHail"_s)->model();
+        const auto *sumas = rejilla(u"FlexCap"_s)->model();
+        QTRY_VERIFY(filas->rowCount() > 10 && sumas->rowCount() > 10);
+        boton(u"cmdCap"_s)->click();
+        QCOMPARE(boton(u"cmdHail"_s)->toolTip(), u"Detener cálculo"_s);
+        QTRY_COMPARE(boton(u"cmdHail"_s)->toolTip(), u"Calcular"_s);
+        QCOMPARE(largo(u"LabelHail"_s)->text(), QString());
+    }
+
+    /// The order in which a run of Ackermann's function begins: the look of the button, a yield,
+    /// then the timer and the gear.
+    void duranteAckermann()
+    {
+        prepara(u"cmdAck"_s, u"2"_s);
+        const auto *rueda = control<Dibujo>(m_ventana, u"imgAck"_s);
+        boton(u"cmdAck"_s)->click();
+        QVERIFY(!rueda->isVisible() && !timerAck()->isActive());
+        QTRY_VERIFY(rueda->isVisible() && timerAck()->isActive());
+        QCOMPARE(rueda->imagen(), u"TRABAJANDO1"_s);
+        boton(u"cmdAck"_s)->click();
+        QTRY_VERIFY(!rueda->isVisible());
+        // The last tick, when the run has returned.
+        QCOMPARE(rueda->imagen(), u"TRABAJANDO2"_s);
+    }
+
+    /// What is copied of the memory bears n in front and m above.
+    void copiaDeAck()
+    {
+        calculaAck(u"1"_s, u"1"_s);
+        auto *tabla = control<Rejilla>(m_ventana, u"FlexAck"_s);
+        tabla->selectionModel()->select({tabla->model()->index(0, 0), tabla->model()->index(1, 1)},
+                                        QItemSelectionModel::ClearAndSelect);
+        QCOMPARE(tabla->seleccion(FormaDeCopia::Texto).completa().texto, u"0\t\t2\n1\t2\t3\n"_s);
+    }
+
+private:
+    /// Numbers with which no run ends by itself before it is looked at; Ack(4, y) is the one that
+    /// takes longest.
+    void prepara(const QString &nombre, const QString &y)
     {
         campo(u"TxtX"_s)->setText(u"4"_s);
-        campo(u"TxtY"_s)->setText(u"2"_s);
-        campo(u"txtMaxAck"_s)->setText(u"2000000000"_s);
+        campo(u"TxtY"_s)->setText(y);
+        if (y != u"1"_s)
+            campo(u"txtMaxAck"_s)->setText(u"2000000000"_s);
         if (nombre == u"cmdHail"_s)
             largo(u"TxtInicial"_s)->setText(u"-5"_s);
         else if (nombre == u"cmdCap"_s)
@@ -317,16 +343,18 @@ private:
     {
         campo(u"TxtX"_s)->setText(x);
         campo(u"TxtY"_s)->setText(y);
-        boton(u"cmdAck"_s)->click();
+        corre(u"cmdAck"_s);
     }
 
-    void enReposo(const QString &nombre)
+    /// A run from its click to its end.
+    void corre(const QString &nombre)
     {
-        QCOMPARE(boton(nombre)->toolTip(), u"Calcular"_s);
-        QVERIFY(!m_ventana->corrida().enCurso());
-        QVERIFY(!m_ventana->findChild<QTimer *>(u"TimerAck"_s)->isActive());
+        boton(nombre)->click();
+        QTRY_COMPARE(boton(nombre)->toolTip(), u"Calcular"_s);
+        QVERIFY(!timerAck()->isActive());
     }
 
+    const QTimer *timerAck() const { return m_ventana->findChild<QTimer *>(u"TimerAck"_s); }
     QLineEdit *campo(const QString &nombre) { return control<QLineEdit>(m_ventana, nombre); }
     CampoLargo *largo(const QString &nombre) { return control<CampoLargo>(m_ventana, nombre); }
     QPushButton *boton(const QString &nombre) { return control<QPushButton>(m_ventana, nombre); }

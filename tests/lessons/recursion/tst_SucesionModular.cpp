@@ -1,5 +1,4 @@
 #include "bignum/gateway/ErrorEjecucion.h"
-#include "lessons/recursion/EntradaNumerica.h"
 #include "lessons/recursion/modular/ModeloValores.h"
 #include "lessons/recursion/modular/SucesionModular.h"
 #include "lessons/recursion/modular/TextoDeDefinicion.h"
@@ -134,63 +133,45 @@ private Q_SLOTS:
 
     void moduloCero() { QCOMPARE(SucesionModular(definicion(1, 1, 1, 1), 0).valor(1), 0); }
 
+    /// What a field takes, and what is said of anything else; only beyond the range of fixed-point
+    /// numbers there is a box as well.
     void elModulo_data()
     {
         QTest::addColumn<QString>("texto");
-        QTest::addColumn<int>("modulo");
-        QTest::addColumn<int>("numero");
-        QTest::addColumn<bool>("aviso");
-        QTest::newRow("number") << u"10"_s << 10 << 0 << false;
-        QTest::newRow("expression") << u"7*13"_s << 91 << 0 << false;
-        QTest::newRow("with mod") << u"100 mod 7"_s << 2 << 0 << false;
-        QTest::newRow("zero") << u"0"_s << 0 << 0 << false;
-        QTest::newRow("negative") << u"-3"_s << 0 << 0 << false;
-        QTest::newRow("fraction") << u"7/2"_s << 0 << 0 << false;
-        QTest::newRow("empty") << u" "_s << 0 << 0 << false;
-        QTest::newRow("letters") << u"abc"_s << 0 << 0 << false;
-        QTest::newRow("largest") << u"2^31-1"_s << INT_MAX << 0 << false;
-        QTest::newRow("beyond 32 bits") << u"2^31"_s << 0 << 6 << false;
-        QTest::newRow("beyond the bound") << u"922337203685478"_s << 0 << 0 << true;
-        QTest::newRow("begins with mod") << u"mod 5"_s << 0 << 5 << false;
+        QTest::addColumn<QString>("leido");
+        const QString menor = u"El menor número permitido es 1."_s;
+        const QString incalculable = u"Lo escrito no es una expresión que se pueda calcular."_s;
+        const auto mayor = [](const QString &n) {
+            return u"El mayor número permitido es %1."_s.arg(n);
+        };
+        QTest::newRow("expression") << u"7*13"_s << u"91"_s;
+        QTest::newRow("with mod") << u"100 mod 7"_s << u"2"_s;
+        QTest::newRow("least") << u"1"_s << u"1"_s;
+        QTest::newRow("zero") << u"0"_s << menor;
+        QTest::newRow("negative") << u"-10^300"_s << menor;
+        QTest::newRow("fraction") << u"7/2"_s << u"El valor escrito no es un número entero."_s;
+        QTest::newRow("empty") << u" "_s << u"Escriba un número entero."_s;
+        QTest::newRow("letters") << u"abc"_s << incalculable;
+        QTest::newRow("largest") << u"2^31-1"_s << u"2147483647"_s;
+        QTest::newRow("beyond 32 bits") << u"2^31"_s << mayor(u"2.147.483.647"_s);
+        QTest::newRow("beyond the bound") << u"10^300"_s << mayor(u"922.337.203.685.477"_s);
     }
     void elModulo()
     {
         QFETCH(QString, texto);
-        QFETCH(bool, aviso);
-        std::int32_t modulo = 0;
-        const int numero = error([&] { modulo = evaluaModulo(texto).value_or(0); });
-        QTEST(modulo, "modulo");
-        QTEST(numero, "numero");
+        const auto modulo = leeModulo(texto);
+        QTEST(modulo ? QString::number(*modulo) : modulo.razon().frase(), "leido");
+        const bool aviso =
+            !modulo && modulo.razon() == NoLeido{NoLeido::Mayor, u"922337203685477"_s};
         QCOMPARE(Entorno::grabadora().mensajes.size(), aviso ? 1 : 0);
-        if (aviso) {
-            QCOMPARE(Entorno::grabadora().unico().texto,
-                     u"El mayor número permitido es 922337203685477"_s);
-        }
+        Entorno::grabadora().mensajes.clear();
     }
 
-    void numerosSueltos_data()
+    void losCoeficientes()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<int>("valor");
-        QTest::addColumn<int>("numero");
-        QTest::newRow("plain") << u"5000"_s << 5000 << 0;
-        QTest::newRow("blanks") << u" 7 "_s << 7 << 0;
-        QTest::newRow("half to even, down") << u"2,5"_s << 2 << 0;
-        QTest::newRow("half to even, up") << u"3.5"_s << 4 << 0;
-        QTest::newRow("exponent") << u"1,5e3"_s << 1500 << 0;
-        QTest::newRow("letters") << u"abc"_s << 0 << 13;
-        QTest::newRow("expression") << u"2*3"_s << 0 << 13;
-        QTest::newRow("empty") << QString() << 0 << 13;
-        QTest::newRow("beyond 32 bits") << u"3000000000"_s << 0 << 6;
-        QTest::newRow("beyond fixed point") << u"1e300"_s << 0 << 6;
-    }
-    void numerosSueltos()
-    {
-        QFETCH(QString, texto);
-        int valor = 0;
-        const int numero = error([&] { valor = enteroDeTexto(texto, u"x"_s); });
-        QTEST(valor, "valor");
-        QTEST(numero, "numero");
+        QCOMPARE(*leeCoeficiente(u"-922337203685477"_s), Moneda::deEntero(-Moneda::MaximoEntero));
+        QCOMPARE(leeCoeficiente(u"-922337203685478"_s).razon().motivo, NoLeido::Menor);
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, leeCoeficiente(u"mod 5"_s));
     }
 
     void comoSeEscribe()

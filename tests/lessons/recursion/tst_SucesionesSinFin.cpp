@@ -1,11 +1,14 @@
+#include "bignum/gateway/ModBignum.h"
 #include "lessons/recursion/functions/Capicua.h"
 #include "lessons/recursion/functions/Granizo.h"
 #include "lessons/recursion/functions/ModeloGranizo.h"
+#include "tests/lessons/recursion/Detenida.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 /// Hailstone sequences and the search for palindromes without a window.
 class TestSucesionesSinFin : public QObject
@@ -35,44 +38,45 @@ private Q_SLOTS:
     void granizo()
     {
         QFETCH(QString, inicio);
-        HistoriaGranizo historia;
-        Corrida corrida{Corrida::Cesion()};
-        QCOMPARE(correGranizo(inicio, historia, corrida), FinDeGranizo::EnUno);
-        QCOMPARE(historia.valor(0), inicio);
-        QTEST(static_cast<int>(historia.ultimo()), "pasos");
-        QCOMPARE(historia.valor(historia.ultimo()), u"1"_s);
+        const auto historia = std::make_shared<HistoriaGranizo>();
+        QCOMPARE(correGranizo(inicio, historia, {}).completa(), FinDeGranizo::EnUno);
+        QCOMPARE(historia->valor(0), inicio);
+        QTEST(static_cast<int>(historia->ultimo()), "pasos");
+        QCOMPARE(historia->valor(historia->ultimo()), u"1"_s);
     }
 
     void granizoDe6()
     {
-        HistoriaGranizo historia;
-        Corrida corrida{Corrida::Cesion()};
-        correGranizo(u"6"_s, historia, corrida);
+        const auto historia = std::make_shared<HistoriaGranizo>();
+        correGranizo(u"6"_s, historia, {}).completa();
         QStringList valores;
-        for (qint64 k = 0; k <= historia.ultimo(); ++k)
-            valores << historia.valor(k);
+        for (qint64 k = 0; k <= historia->ultimo(); ++k)
+            valores << historia->valor(k);
         QCOMPARE(valores.join(u' '), u"6 3 10 5 16 8 4 2 1"_s);
     }
 
     void granizoSinNumero_data()
     {
         QTest::addColumn<QString>("inicio");
-        QTest::newRow("empty") << QString();
-        QTest::newRow("letters") << u"abc"_s;
-        QTest::newRow("fraction") << u"1/2"_s;
-        QTest::newRow("expression") << u"10+2"_s;
-        QTest::newRow("mod first") << u"mod 2"_s;
-        QTest::newRow("too long") << QString(24'575, u'9');
+        QTest::addColumn<FinDeGranizo>("fin");
+        constexpr auto sinEntero = FinDeGranizo::SinEntero;
+        QTest::newRow("empty") << QString() << sinEntero;
+        QTest::newRow("letters") << u"abc"_s << sinEntero;
+        QTest::newRow("fraction") << u"1/2"_s << sinEntero;
+        QTest::newRow("expression") << u"10+2"_s << sinEntero;
+        QTest::newRow("mod first") << u"mod 2"_s << sinEntero;
+        QTest::newRow("one digit too many") << QString(24'576, u'9') << sinEntero;
+        QTest::newRow("as long as may be")
+            << QString(24'575, u'9') << FinDeGranizo::DemasiadasCifras;
     }
     void granizoSinNumero()
     {
         QFETCH(QString, inicio);
-        HistoriaGranizo historia;
-        Corrida corrida{Corrida::Cesion()};
-        QCOMPARE(correGranizo(inicio, historia, corrida), FinDeGranizo::Error);
-        QCOMPARE(historia.ultimo(), 1);
-        QCOMPARE(historia.valor(0), inicio);
-        QCOMPARE(historia.valor(1), u"Error"_s);
+        const auto historia = std::make_shared<HistoriaGranizo>();
+        QTEST(correGranizo(inicio, historia, {}).completa(), "fin");
+        QCOMPARE(historia->ultimo(), 1);
+        QCOMPARE(historia->valor(0), inicio);
+        QCOMPARE(historia->valor(1), u"Error"_s);
     }
 
     void curvaCorta()
@@ -131,8 +135,10 @@ private Q_SLOTS:
     void historiaSinFin()
     {
         const QStringList ciclo{u"-5"_s, u"-14"_s, u"-7"_s, u"-20"_s, u"-10"_s};
-        HistoriaGranizo historia;
-        ModeloGranizo modelo(historia);
+        const auto propia = std::make_shared<HistoriaGranizo>();
+        HistoriaGranizo &historia = *propia;
+        ModeloGranizo modelo;
+        modelo.pon(propia);
         historia.reinicia(ciclo[0]);
         for (qint64 k = 1; k <= 2'500'003; ++k) {
             historia.agrega(ciclo[k % 5]);
@@ -156,19 +162,20 @@ private Q_SLOTS:
 
     void granizoDetenido()
     {
-        Corrida *donde = nullptr;
-        Corrida corrida([&] { donde->detener(); });
-        donde = &corrida;
-        HistoriaGranizo historia;
-        QCOMPARE(correGranizo(u"-5"_s, historia, corrida), FinDeGranizo::Detenido);
-        QVERIFY(historia.ultimo() > 0);
+        const auto historia = std::make_shared<HistoriaGranizo>();
+        QCOMPARE(
+            detenida(30ms, [&](const Billete &b) { return correGranizo(u"-5"_s, historia, b); }),
+            FinDeGranizo::Detenido);
+        QVERIFY(historia->ultimo() > 0);
     }
 
     void laTablaDelGranizo()
     {
-        HistoriaGranizo historia;
-        ModeloGranizo modelo(historia);
+        const auto propia = std::make_shared<HistoriaGranizo>();
+        HistoriaGranizo &historia = *propia;
+        ModeloGranizo modelo;
         const QAbstractItemModelTester probador(&modelo);
+        modelo.pon(propia);
         historia.reinicia(u"6"_s);
         historia.agrega(u"3"_s);
         modelo.publica();
@@ -178,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(modelo.rowCount(), 3);
         QCOMPARE(modelo.index(2, ModeloGranizo::Paso).data().toString(), u"2"_s);
         QCOMPARE(modelo.index(2, ModeloGranizo::Valor).data().toString(), u"10"_s);
-        modelo.reinicia();
+        modelo.pon(propia);
         QCOMPARE(modelo.rowCount(), 0);
     }
 
@@ -203,8 +210,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, inicio);
         Capicua capicua;
-        Corrida corrida{Corrida::Cesion()};
-        QCOMPARE(capicua.busca(inicio, corrida), Capicua::Fin::Hallado);
+        QCOMPARE(capicua.busca(inicio, {}).completa(), Capicua::Fin::Hallado);
         QTEST(static_cast<int>(capicua.numSumas()), "sumas");
         QTEST(capicua.actual(), "capicua");
     }
@@ -212,34 +218,38 @@ private Q_SLOTS:
     void sinCapicua_data()
     {
         QTest::addColumn<QString>("inicio");
-        QTest::addColumn<int>("sumas");
-        QTest::newRow("empty") << u" "_s << 0;
-        QTest::newRow("letters") << u"abc"_s << 0;
-        QTest::newRow("negative") << u"-12"_s << 0;
-        QTest::newRow("beyond the longest number") << u'9' + QString(24'574, u'8') << 1;
+        QTest::addColumn<Capicua::Fin>("fin");
+        QTest::newRow("empty") << u" "_s << Capicua::Fin::SinValor;
+        QTest::newRow("letters") << u"abc"_s << Capicua::Fin::SinValor;
+        QTest::newRow("no room for the start") << u"99999999!"_s << Capicua::Fin::SinValor;
+        QTest::newRow("negative") << u"7-19"_s << Capicua::Fin::Negativo;
+        QTest::newRow("no room for the sum")
+            << u'9' + QString(24'574, u'8') << Capicua::Fin::DemasiadasCifras;
     }
     void sinCapicua()
     {
         QFETCH(QString, inicio);
+        QFETCH(Capicua::Fin, fin);
         Capicua capicua;
-        Corrida corrida{Corrida::Cesion()};
-        QCOMPARE(capicua.busca(inicio, corrida), Capicua::Fin::SinNumero);
-        QTEST(static_cast<int>(capicua.numSumas()), "sumas");
+        QCOMPARE(capicua.busca(inicio, {}).completa(), fin);
+        QCOMPARE(capicua.numSumas(), fin == Capicua::Fin::DemasiadasCifras ? 1 : 0);
     }
 
+    /// It goes on until it is stopped; of its sums the first two hundred are kept.
     void el196()
     {
-        Corrida *donde = nullptr;
-        int cesiones = 0;
-        Corrida corrida([&] {
-            if (++cesiones == 3)
-                donde->detener();
-        });
-        donde = &corrida;
         Capicua capicua;
-        QCOMPARE(capicua.busca(u"196"_s, corrida), Capicua::Fin::Detenida);
-        QVERIFY(capicua.numSumas() > 10);
+        QCOMPARE(detenida(30ms, [&](const Billete &b) { return capicua.busca(u"196"_s, b); }),
+                 Capicua::Fin::Detenida);
+        QVERIFY(capicua.numSumas() > 200);
         QVERIFY(capicua.actual() != Inverso(capicua.actual()));
+        QCOMPARE(capicua.numeros().size(), 201);
+        QCOMPARE(capicua.numeros().mid(0, 3).join(u' '), u"196 887 1675"_s);
+        // The last of them is what 200 sums give.
+        QString numero = u"196"_s;
+        for (int k = 0; k < 200; ++k)
+            numero = Evalua(QString(numero + u'+' + Inverso(numero)));
+        QCOMPARE(capicua.numeros().constLast(), numero);
     }
 };
 

@@ -105,7 +105,7 @@ private Q_SLOTS:
         QDir(m_yo->buzon()).mkpath(m_yo->usuario());
         const QString propia = m_yo->enBuzon(m_yo->usuario() + u"/Clave.RSA"_s);
         QVERIFY(QFile::link(victima, propia));
-        ClsRSA clave;
+        ClsRSA clave(Sesión());
         clave.ponDirMensajes(m_yo->buzon());
         clave.PublicaClave();
         QCOMPARE(Estudiante::lee(victima), "intacta"_ba);
@@ -132,7 +132,7 @@ private Q_SLOTS:
     /// nothing half written is left behind.
     void unDiscoLleno()
     {
-        ClsRSA clave;
+        ClsRSA clave(Sesión());
         clave.ponDirMensajes(m_yo->buzon());
         clave.ponr(1);
         clave.ponq(1, u"257"_s);

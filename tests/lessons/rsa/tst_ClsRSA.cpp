@@ -17,7 +17,7 @@ private Q_SLOTS:
     {
         Entorno::limpia();
         m_yo = std::make_unique<Estudiante>();
-        m_clave = std::make_unique<ClsRSA>();
+        m_clave = std::make_unique<ClsRSA>(Sesión());
         m_avisos.clear();
         connect(m_clave.get(), &ClsRSA::ValidaClave, this,
                 [this](bool &bien, const QString &mensaje) {
@@ -163,12 +163,12 @@ private Q_SLOTS:
         QVERIFY(m_clave->ClaveOK());
         QCOMPARE(m_clave->FicheroClavePrivada(),
                  datos.path() + u"/Numora\\"_s + m_yo->usuario() + u".RSA"_s);
-        ClsRSA otra;
+        ClsRSA otra(Sesión());
         otra.RecuperaClave();
         QCOMPARE(otra.t(), u"26829"_s);
         // Once the folder can be written again, the key is still found.
         Sesión().ponCarpeta(m_yo->buzon());
-        ClsRSA tercera;
+        ClsRSA tercera(Sesión());
         tercera.RecuperaClave();
         QCOMPARE(tercera.t(), u"26829"_s);
         qunsetenv("XDG_DATA_HOME");
@@ -181,7 +181,7 @@ private Q_SLOTS:
                 [&](QString &carpeta) { buzones << carpeta; });
         m_clave->ponDirMensajes(m_yo->buzon());
         QCOMPARE(buzones, QStringList{m_yo->buzon()});
-        QCOMPARE(ClsRSA().DirMensajes(), m_yo->buzon());
+        QCOMPARE(ClsRSA(Sesión()).DirMensajes(), m_yo->buzon());
         pon(u"257"_s, u"263"_s, u"5"_s);
         m_clave->Valida();
         m_clave->PublicaClave();

@@ -150,7 +150,7 @@ private Q_SLOTS:
         area(u"txtTextoOriginal"_s)->setPlainText(u"HOLA"_s);
         boton(u"cmdCodificar"_s)->click();
         const auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexTextoCodificado"_s);
-        QCOMPARE(rejilla->seleccion(FormaDeCopia::Texto),
+        QCOMPARE(rejilla->seleccion(FormaDeCopia::Texto).completa().texto,
                  u"Texto codificado\n57666\n43715\n51784\n23519\n"_s);
         area(u"txtTextoOriginal"_s)->clear();
         boton(u"cmdDescodificar"_s)->click();

@@ -107,6 +107,32 @@ private Q_SLOTS:
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"HO"_s);
     }
 
+    /// Arrows and Enter do; the focus on its way through the window does not.
+    void unFocoQueLlegaNoElige()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nhola\r\n1\r\n");
+        m_yo->escribe(u"eva/RSA1.msg"_s, "luis\r\nhola\r\n1\r\n");
+        preparaBuzon();
+        m_ventana->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
+        escribeMensaje({}, u"a medias"_s);
+        auto *lista = control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s);
+        for (const auto motivo :
+             {Qt::TabFocusReason, Qt::BacktabFocusReason, Qt::OtherFocusReason}) {
+            lista->setFocus(motivo);
+            QVERIFY(lista->hasFocus());
+            QCOMPARE(rotulo(u"LabelTexto"_s), u"Mensaje"_s);
+            QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
+            area(u"txtDestTextoOriginal"_s)->setFocus();
+            boton(u"revisar"_s)->click();
+        }
+        lista->setFocus();
+        QTest::keyClick(lista, Qt::Key_Return);
+        QCOMPARE(rotulo(u"LabelTexto"_s), u"Mensaje para ana"_s);
+        QTest::keyClick(lista, Qt::Key_Down);
+        QCOMPARE(rotulo(u"LabelTexto"_s), u"Mensaje para eva"_s);
+    }
+
     void laClavePropiaVuelve()
     {
         m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
@@ -121,6 +147,45 @@ private Q_SLOTS:
         eligeUsuario(u"luis"_s);
         m_ventana.reset();
         QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("t=26829\r\n"));
+        QVERIFY(!QFile::exists(m_yo->ficheroPrivado() + u".propia"_s));
+    }
+
+    /// The program is gone between two writings: what it leaves behind is put in its place.
+    void laClavePropiaSobreviveAlPrograma()
+    {
+        preparaBuzon();
+        const QByteArray propia = Estudiante::lee(m_yo->ficheroPrivado());
+        for (const QString &usuario : {u"ana"_s, u"eva"_s})
+            eligeUsuario(usuario);
+        const QString copia = m_yo->ficheroPrivado() + u".propia"_s;
+        QCOMPARE(QFileInfo(copia).permissions() & (QFile::ReadGroup | QFile::ReadOther),
+                 QFile::Permissions());
+        const QByteArray ajena = Estudiante::lee(m_yo->ficheroPrivado());
+        QVERIFY(ajena.contains("q(1)=\r\n"));
+        QVERIFY(QFile::copy(copia, copia + u".aparte"_s));
+        cierra();
+        QVERIFY(QFile::rename(copia + u".aparte"_s, copia));
+        escribeArchivo(m_yo->ficheroPrivado(), ajena);
+        abre();
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Clave recuperada"_s);
+        QCOMPARE(Estudiante::lee(m_yo->ficheroPrivado()), propia);
+        QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
+        QVERIFY(!QFile::exists(copia));
+        // Left behind by one that died before it overwrote anything.
+        escribeArchivo(copia, QByteArray(propia).replace("257", "263"));
+        abre();
+        QCOMPARE(campo(u"txtQ_1"_s)->text(), u"257"_s);
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty() && !QFile::exists(copia));
+    }
+
+    /// Where the copy cannot be made, the own key is not put at risk.
+    void sinSitioParaLaCopia()
+    {
+        preparaBuzon();
+        QVERIFY(QDir().mkpath(m_yo->ficheroPrivado() + u".propia"_s));
+        eligeUsuario(u"ana"_s);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Error en tiempo de ejecución"_s);
+        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
     }
 
     void sinClaveQueSirva_data()
@@ -239,11 +304,51 @@ private Q_SLOTS:
         preparaBuzon();
         boton(u"cmdPublicarClave"_s)->click();
         eligeFila(0);
-        boton(u"recibir"_s)->click();
-        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText().size(), 1'000'000);
+        // Over a text as into none.
+        for (const QString &antes : {QString(), u"x"_s}) {
+            escribeMensaje({}, antes);
+            boton(u"recibir"_s)->click();
+            QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText().size(), 1'000'000);
+        }
         area(u"txtDestTextoOriginal"_s)->setPlainText(u"corto "_s.repeated(2000));
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->wordWrapMode(),
                  QTextOption::WrapAtWordBoundaryOrAnywhere);
+    }
+
+    /// What was written to somebody is theirs until it is sent or emptied, whatever is looked at or
+    /// read meanwhile, and whether or not the window is closed.
+    void losBorradoresSeQuedan()
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nhola\r\n1\r\n");
+        preparaBuzon();
+        escribeMensaje(u"sin nadie"_s, u"uno"_s);
+        eligeUsuario(u"eva"_s); // it goes to the first who is named
+        QCOMPARE(escrito(), u"sin nadie|uno"_s);
+        escribeMensaje(u"a medias"_s, u"dos"_s);
+        eligeFila(0);
+        QCOMPARE(escrito(), u"hola|"_s);
+        QVERIFY(rotulo(u"lblEstadoBuzon"_s).contains(u"a eva"_s));
+        escribeMensaje(u"a ana"_s, u"tres"_s); // an answer, in the place of what is read
+        eligeUsuario(u"eva"_s);
+        QCOMPARE(escrito(), u"a medias|dos"_s);
+        eligeFila(0);
+        QCOMPARE(escrito(), u"hola|"_s);
+        eligeUsuario(u"ANA"_s);
+        QCOMPARE(escrito(), u"a ana|tres"_s);
+        abre();
+        temasDe()->setCurrentIndex(3);
+        QTRY_VERIFY(rotulo(u"lblEstadoBuzon"_s).endsWith(u"Borradores para: ana, eva"_s));
+        eligeUsuario(u"eva"_s);
+        QCOMPARE(escrito(), u"a medias|dos"_s);
+        Entorno::grabadora().respondeSi = true;
+        boton(u"enviar"_s)->click();
+        eligeUsuario(u"ana"_s);
+        QCOMPARE(escrito(), u"a ana|tres"_s);
+        escribeMensaje({}, {});
+        const QString copia = Sesión().carpetaDeAjustes() + u"/RSA.borradores"_s;
+        QVERIFY(QFile::exists(copia));
+        cierra();
+        QVERIFY(!QFile::exists(copia));
     }
 
     void revisarNoEstropeaLoEscrito()

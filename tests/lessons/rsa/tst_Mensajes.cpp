@@ -23,7 +23,7 @@ private Q_SLOTS:
     {
         Entorno::limpia();
         m_yo = std::make_unique<Estudiante>();
-        m_clave = std::make_unique<ClsRSA>();
+        m_clave = std::make_unique<ClsRSA>(Sesión());
         m_clave->ponDirMensajes(m_yo->buzon());
         m_clave->ponr(1);
         m_clave->ponq(1, u"257"_s);

@@ -23,7 +23,7 @@ bool esInofensivo(const QString &texto)
 {
     static const QStringList conocidos{u"propagateSizeHints"_s, u"RHI backend"_s,
                                        u"XDG_RUNTIME_DIR"_s,    u"PulseAudio"_s,
-                                       u"GStreamer"_s,          u"does not support raise"_s,
+                                       u"GStreamer"_s,          u"does not support "_s,
                                        u"video surface"_s,      u"QObject::startTimer"_s};
     return std::any_of(conocidos.begin(), conocidos.end(),
                        [&](const QString &conocido) { return texto.contains(conocido); });
@@ -48,6 +48,62 @@ Grabadora::Mensaje Grabadora::unico()
         return {};
     }
     return mensajes.takeFirst();
+}
+
+void Grabadora::avisa(QWidget *, Icono icono, const QString &texto, const QString &titulo)
+{
+    mensajes << Mensaje{icono, texto, titulo};
+}
+
+Tarea<> Grabadora::avisaYEspera(QWidget *padre, Icono icono, QString texto, QString titulo)
+{
+    avisa(padre, icono, texto, titulo);
+    co_return;
+}
+
+Tarea<QString> Grabadora::preguntaTexto(QWidget *, QString, QString)
+{
+    co_return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
+}
+
+Tarea<bool> Grabadora::preguntaSiNo(QWidget *, QString pregunta, QString)
+{
+    confirmaciones << pregunta;
+    co_return respondeSi;
+}
+
+Tarea<Interlocutor::Guardado> Grabadora::preguntaGuardar(QWidget *, QString texto, QString)
+{
+    preguntasSiGuarda << texto;
+    co_return guardados.isEmpty() ? Guardado::Cancelar : guardados.takeFirst();
+}
+
+Tarea<QString> Grabadora::eligeArchivoParaAbrir(QWidget *padre, QString titulo, QString propuesta,
+                                                QStringList filtros)
+{
+    const Archivo elegido =
+        co_await Grabadora::eligeArchivoParaGuardar(padre, titulo, propuesta, filtros);
+    co_return elegido.ruta;
+}
+
+Tarea<Interlocutor::Archivo> Grabadora::eligeArchivoParaGuardar(QWidget *, QString, QString,
+                                                                QStringList filtros)
+{
+    filtrosPedidos << filtros;
+    co_return archivos.isEmpty() ? Archivo() : archivos.takeFirst();
+}
+
+Tarea<bool> Grabadora::eligeImpresora(QWidget *, std::shared_ptr<QPrinter> impresora, QString)
+{
+    impresora->setOutputFormat(QPrinter::PdfFormat);
+    impresora->setOutputFileName(impresion);
+    co_return !impresion.isEmpty();
+}
+
+Tarea<QString> Grabadora::eligeCarpeta(QWidget *, QString, QString inicial)
+{
+    carpetasPedidas << inicial;
+    co_return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
 }
 
 void Grabadora::mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo)
@@ -118,8 +174,7 @@ Entorno::Entorno(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     aplicacion = std::make_unique<QApplication>(argumentos, argv);
-    QApplication::setApplicationDisplayName(u"Numora"_s);
-    QApplication::setApplicationVersion(u"1.5.40"_s);
+    presentaPrograma(u"1.5.40"_s);
     QDir::setCurrent(carpetaDeTrabajo());
     preparaAplicacion();
     limpia();
@@ -140,6 +195,11 @@ void Entorno::limpia()
     Idioma() = u"Español"_s;
     QSettings(QSettings::IniFormat, QSettings::UserScope, u"Numora"_s, u"Numora"_s).clear();
     Sesión().ponCarpeta(carpetaDeTrabajo());
+    // A window that went without being closed has left a copy of its work.
+    QDir ajustesPropios(Sesión().carpetaDeAjustes());
+    const QStringList copias = ajustesPropios.entryList({u"*.copia"_s}, QDir::Files);
+    for (const QString &copia : copias)
+        ajustesPropios.remove(copia);
     ponInterlocutor(std::make_unique<Grabadora>());
     IniciaBignum(100);
 }

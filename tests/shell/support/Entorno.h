@@ -37,6 +37,16 @@ public:
     /// The only message, which is then forgotten; fails the test when there is none or several.
     Mensaje unico();
 
+    void avisa(QWidget *, Icono icono, const QString &texto, const QString &titulo) override;
+    Tarea<> avisaYEspera(QWidget *, Icono icono, QString texto, QString titulo) override;
+    Tarea<QString> preguntaTexto(QWidget *, QString, QString) override;
+    Tarea<bool> preguntaSiNo(QWidget *, QString pregunta, QString) override;
+    Tarea<Guardado> preguntaGuardar(QWidget *, QString texto, QString) override;
+    Tarea<QString> eligeArchivoParaAbrir(QWidget *, QString, QString, QStringList filtros) override;
+    Tarea<Archivo> eligeArchivoParaGuardar(QWidget *, QString, QString,
+                                           QStringList filtros) override;
+    Tarea<bool> eligeImpresora(QWidget *, std::shared_ptr<QPrinter> impresora, QString) override;
+    Tarea<QString> eligeCarpeta(QWidget *, QString, QString inicial) override;
     void mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo) override;
     QString pideTexto(QWidget *, const QString &, const QString &) override;
     Guardado preguntaSiGuarda(QWidget *, const QString &texto, const QString &) override;

@@ -1,17 +1,16 @@
 #include "lessons/recursion/functions/windows/FormRecursion3Ackermann.h"
 
-#include "lessons/recursion/EntradaNumerica.h"
+#include "lessons/recursion/functions/EnteroDeTexto.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/BotonDeCalculo.h"
-#include "shell/frame/Evento.h"
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "ui_FormRecursion3Ackermann.h"
 
 #include <QHeaderView>
-#include <QScopeGuard>
 #include <QScrollBar>
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,28 +35,25 @@ void conservaSuSitio(QWidget *control)
 
 } // namespace
 
-FormRecursion3Ackermann::FormRecursion3Ackermann(Corrida &corrida, QWidget *padre)
+FormRecursion3Ackermann::FormRecursion3Ackermann(std::shared_ptr<Parada> parada, QWidget *padre)
     : QWidget(padre),
       ui(std::make_unique<Ui::FormRecursion3Ackermann>()),
-      m_corrida(corrida),
-      m_memoria(FilasAlAbrir, ColumnasAlAbrir),
-      m_modelo(m_memoria)
+      m_memoria(std::make_shared<MemoriaAck>(FilasAlAbrir, ColumnasAlAbrir)),
+      m_modelo(m_memoria),
+      m_tareas(this, std::move(parada))
 {
     ui->setupUi(this);
     traduceVentana(this);
     const QString consejo = ui->cmdAck->toolTip();
-    muestraCalcular(ui->cmdAck);
+    m_corrida =
+        new BotonDeCorrida(ui->cmdAck, BotonDeCorrida::calcular(), BotonDeCorrida::detener());
     ui->cmdAck->setToolTip(consejo);
     ui->imgAck->setImagen(u"TRABAJANDO0"_s);
     Aspecto::destaca(ui->lblResultado, 1.15);
     ui->txtAck->setMinimumWidth(fontMetrics().horizontalAdvance(u"Ack(000, 0000000) "_s));
     conservaSuSitio(ui->imgAck);
     conservaSuSitio(ui->LabelAck1);
-    ui->FlexAck->setModel(&m_modelo);
-    ui->FlexAck->verticalHeader()->show();
-    ui->FlexAck->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    ui->FlexAck->verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    ui->FlexAck->horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    preparaRejilla();
     m_timerAck.setObjectName(u"TimerAck"_s);
     m_timerAck.setInterval(PasoDeAnimacion);
     m_pantalla.setInterval(PasoDePantalla);
@@ -65,15 +61,22 @@ FormRecursion3Ackermann::FormRecursion3Ackermann(Corrida &corrida, QWidget *padr
     conecta(ui->cmdAck, &QPushButton::clicked, this, &FormRecursion3Ackermann::cmdAck_Click);
     for (auto *campo : {ui->TxtX, ui->TxtY, ui->txtMaxAck})
         conecta(campo, &QLineEdit::returnPressed, this, &FormRecursion3Ackermann::empieza);
+    conecta(m_corrida, &BotonDeCorrida::terminada, this, &FormRecursion3Ackermann::termina);
     conecta(&m_timerAck, &QTimer::timeout, this, &FormRecursion3Ackermann::TimerAck_Timer);
     conecta(&m_pantalla, &QTimer::timeout, this, &FormRecursion3Ackermann::muestraAvance);
 }
 
 FormRecursion3Ackermann::~FormRecursion3Ackermann() = default;
 
-QAbstractButton *FormRecursion3Ackermann::botonDeParada() const
+void FormRecursion3Ackermann::preparaRejilla()
 {
-    return m_timerAck.isActive() ? ui->cmdAck : nullptr;
+    ui->FlexAck->setModel(&m_modelo);
+    ui->FlexAck->ponRotulosDeFilaEnCopia(true);
+    auto *filas = ui->FlexAck->verticalHeader();
+    filas->show();
+    filas->setSectionResizeMode(QHeaderView::Fixed);
+    for (QHeaderView *cabecera : {filas, ui->FlexAck->horizontalHeader()})
+        cabecera->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 void FormRecursion3Ackermann::cmdAck_Click()
@@ -83,46 +86,56 @@ void FormRecursion3Ackermann::cmdAck_Click()
         return;
     }
     m_timerAck.stop();
-    m_corrida.detener();
-    muestraCalcular(ui->cmdAck);
+    m_corrida->detiene();
 }
 
 void FormRecursion3Ackermann::empieza()
 {
-    // A run that was told to stop must see the flag before it is cleared for another.
-    const bool parando = m_corrida.enCurso() && m_corrida.detenida();
-    if (m_timerAck.isActive() || parando)
-        return;
-    m_corrida.permitir();
-    if (!EsNumerico(ui->txtMaxAck->text()))
+    if (m_timerAck.isActive() || !EsNumerico(ui->txtMaxAck->text()))
         return;
     const std::int32_t corte = enteroDeTexto(ui->txtMaxAck->text(), Traduce(u"Máximo"_s));
-    calcula({enteroDeTexto(ui->TxtX->text(), u"x"_s), enteroDeTexto(ui->TxtY->text(), u"y"_s)},
-            corte);
+    const Ack::Llamada llamada{enteroDeTexto(ui->TxtX->text(), u"x"_s),
+                               enteroDeTexto(ui->TxtY->text(), u"y"_s)};
+    m_tareas.lanza(corre(llamada, corte));
 }
 
-void FormRecursion3Ackermann::calcula(Ack::Llamada llamada, std::int32_t corte)
+Tarea<> FormRecursion3Ackermann::corre(Ack::Llamada llamada, std::int32_t corte)
 {
-    const Corrida::Tramo tramo(m_corrida);
-    const auto alFinal = qScopeGuard([this] { termina(); });
-    m_memoria.vacia();
-    m_modelo.reinicia();
-    m_ack.emplace(m_memoria, m_corrida, corte);
+    m_memoria = std::make_shared<MemoriaAck>(m_memoria->filas(), m_memoria->columnas());
+    m_modelo.pon(m_memoria);
     ui->lblResultado->clear();
+    const BotonDeCorrida::Marcha marcha = m_corrida->empieza(m_tareas.billete());
+    co_await marcha.billete().cederYa();
+    // The timer is what makes a click a stop, and does not run yet: one that came now has begun
+    // anew. And what was stopped so far does not count.
+    if (!marcha.vigente())
+        co_return;
+    const Billete billete = m_tareas.billete();
+    const auto ack = std::make_shared<Ack>(m_memoria, corte, billete);
+    m_ack = ack;
+    ponEnMarcha();
+    co_await billete.cederYa();
+    const std::int32_t valor = co_await ack->calcula(llamada.m, llamada.n);
+    if (marcha.vigente())
+        muestraFin(llamada, valor);
+}
+
+void FormRecursion3Ackermann::ponEnMarcha()
+{
     ui->imgAck->show();
     ui->LabelAck1->show();
-    muestraDetener(ui->cmdAck);
-    m_reloj.start();
     m_timerAck.start();
     m_pantalla.start();
+    m_reloj.start();
     TimerAck_Timer();
-    m_corrida.cederYa();
+}
 
-    const std::int32_t valor = m_ack->calcula(llamada.m, llamada.n);
+void FormRecursion3Ackermann::muestraFin(Ack::Llamada llamada, std::int32_t valor)
+{
     muestraAvance();
     if (m_ack->rendido()) {
-        interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
-                               Traduce(u"Demasiados cálculos."_s), Traduce(u"Me rindo"_s));
+        interlocutor().avisa(this, Interlocutor::Icono::Exclamacion,
+                             Traduce(u"Demasiados cálculos."_s), Traduce(u"Me rindo"_s));
     }
     ui->lblResultado->setText(textoDeValor(llamada, valor));
     vaACelda(llamada);
@@ -132,12 +145,12 @@ void FormRecursion3Ackermann::calcula(Ack::Llamada llamada, std::int32_t corte)
 void FormRecursion3Ackermann::termina()
 {
     m_modelo.publica();
-    TimerAck_Timer();
+    if (m_reloj.isValid())
+        TimerAck_Timer();
     m_timerAck.stop();
     m_pantalla.stop();
     ui->imgAck->hide();
     ui->LabelAck1->hide();
-    muestraCalcular(ui->cmdAck);
 }
 
 void FormRecursion3Ackermann::muestraAvance()

@@ -3,13 +3,14 @@
 #include "lessons/recursion/functions/Ack.h"
 #include "lessons/recursion/functions/windows/ModeloAck.h"
 
+#include "shell/frame/Evento.h"
+
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 #include <memory>
-#include <optional>
 
-class QAbstractButton;
+class BotonDeCorrida;
 
 namespace Ui {
 class FormRecursion3Ackermann;
@@ -21,29 +22,31 @@ class FormRecursion3Ackermann : public QWidget
     Q_OBJECT
 
 public:
-    FormRecursion3Ackermann(Corrida &corrida, QWidget *padre);
+    /// Runs stop by the stop line that the tabs share.
+    FormRecursion3Ackermann(std::shared_ptr<Parada> parada, QWidget *padre);
     ~FormRecursion3Ackermann() override;
 
-    /// The button that stops the run; null without one.
-    QAbstractButton *botonDeParada() const;
-
 private:
+    void preparaRejilla();
     void empieza();
-    void calcula(Ack::Llamada llamada, std::int32_t corte);
+    Tarea<> corre(Ack::Llamada llamada, std::int32_t corte);
+    void ponEnMarcha();
     void termina();
     void muestraAvance();
+    void muestraFin(Ack::Llamada llamada, std::int32_t valor);
     void vaACelda(Ack::Llamada llamada);
 
     void cmdAck_Click();
     void TimerAck_Timer();
 
     std::unique_ptr<Ui::FormRecursion3Ackermann> ui;
-    Corrida &m_corrida;
-    MemoriaAck m_memoria;
+    BotonDeCorrida *m_corrida;
+    std::shared_ptr<MemoriaAck> m_memoria;
+    std::shared_ptr<const Ack> m_ack;
     ModeloAck m_modelo;
-    std::optional<Ack> m_ack;
     QTimer m_timerAck{this};
     QTimer m_pantalla{this};
     QElapsedTimer m_reloj;
     int m_fotograma = 0;
+    TareasDeVentana m_tareas;
 };

@@ -2,12 +2,13 @@
 
 #include "lessons/recursion/functions/Capicua.h"
 #include "shell/core/ModeloFilas.h"
+#include "shell/frame/Evento.h"
 
 #include <QTimer>
 #include <QWidget>
 #include <memory>
 
-class QAbstractButton;
+class BotonDeCorrida;
 
 namespace Ui {
 class FormRecursion3Capicuas;
@@ -19,14 +20,14 @@ class FormRecursion3Capicuas : public QWidget
     Q_OBJECT
 
 public:
-    FormRecursion3Capicuas(Corrida &corrida, QWidget *padre);
+    /// Runs stop by the stop line that the tabs share.
+    FormRecursion3Capicuas(std::shared_ptr<Parada> parada, QWidget *padre);
     ~FormRecursion3Capicuas() override;
 
-    /// The button that stops the run; null without one.
-    QAbstractButton *botonDeParada() const;
-
 private:
+    void preparaRejilla();
     void empieza();
+    Tarea<> corre();
     void termina();
     void ponColor(const QColor &color);
     void muestraAvance();
@@ -37,9 +38,9 @@ private:
     void TxtCapInicial_Change();
 
     std::unique_ptr<Ui::FormRecursion3Capicuas> ui;
-    Corrida &m_corrida;
-    Capicua m_capicua;
+    BotonDeCorrida *m_corrida;
+    std::shared_ptr<const Capicua> m_capicua;
     ModeloFilas m_sumas; ///< number, its reverse and their sum, step by step
     QTimer m_pantalla{this};
-    bool m_calculando = false;
+    TareasDeVentana m_tareas;
 };

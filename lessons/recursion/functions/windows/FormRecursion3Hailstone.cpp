@@ -3,14 +3,12 @@
 #include "lessons/recursion/functions/windows/FormRecursion3PintorDeNumeros.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/BotonDeCalculo.h"
-#include "shell/frame/Evento.h"
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "ui_FormRecursion3Hailstone.h"
 
 #include <QHeaderView>
-#include <QScopeGuard>
 #include <QScrollBar>
 #include <cmath>
 
@@ -26,17 +24,34 @@ constexpr auto PasoDeCurva = 250ms;
 
 } // namespace
 
-FormRecursion3Hailstone::FormRecursion3Hailstone(Corrida &corrida, QWidget *padre)
+FormRecursion3Hailstone::FormRecursion3Hailstone(std::shared_ptr<Parada> parada, QWidget *padre)
     : QWidget(padre),
       ui(std::make_unique<Ui::FormRecursion3Hailstone>()),
-      m_corrida(corrida),
-      m_modelo(m_historia)
+      m_tareas(this, std::move(parada))
 {
     ui->setupUi(this);
     traduceVentana(this);
-    muestraCalcular(ui->cmdHail);
+    m_corrida =
+        new BotonDeCorrida(ui->cmdHail, BotonDeCorrida::calcular(), BotonDeCorrida::detener());
     Aspecto::destaca(ui->lblPregunta, 1.15);
     ui->LabelHail->viewport()->setAutoFillBackground(false);
+    preparaRejilla();
+    ui->PicHail->ponTextoVacio(Traduce(u"Aquí se verá cómo suben y bajan los valores"_s));
+    m_pantalla.setInterval(PasoDePantalla);
+    m_pantallaDeCurva.setInterval(PasoDeCurva);
+
+    conecta(ui->cmdHail, &QPushButton::clicked, this, &FormRecursion3Hailstone::cmdHail_Click);
+    conecta(ui->TxtInicial, &CampoLargo::returnPressed, this, &FormRecursion3Hailstone::empieza);
+    conecta(m_corrida, &BotonDeCorrida::terminada, this, &FormRecursion3Hailstone::termina);
+    conecta(&m_pantalla, &QTimer::timeout, this, &FormRecursion3Hailstone::muestraAvance);
+    conecta(&m_pantallaDeCurva, &QTimer::timeout, this, &FormRecursion3Hailstone::muestraCurva);
+    conecta(ui->PicHail, &Grafica::senalado, this, &FormRecursion3Hailstone::PicHail_Senalado);
+}
+
+FormRecursion3Hailstone::~FormRecursion3Hailstone() = default;
+
+void FormRecursion3Hailstone::preparaRejilla()
+{
     ui->FlexHail->setModel(&m_modelo);
     ui->FlexHail->setItemDelegate(new FormRecursion3PintorDeNumeros(this));
     ui->FlexHail->setTextElideMode(Qt::ElideMiddle);
@@ -46,54 +61,37 @@ FormRecursion3Hailstone::FormRecursion3Hailstone(Corrida &corrida, QWidget *padr
     cabecera->setSectionResizeMode(ModeloGranizo::Valor, QHeaderView::Stretch);
     cabecera->resizeSection(ModeloGranizo::Paso,
                             fontMetrics().horizontalAdvance(u"000000000000"_s));
-    ui->PicHail->ponTextoVacio(Traduce(u"Aquí se verá cómo suben y bajan los valores"_s));
-    m_pantalla.setInterval(PasoDePantalla);
-    m_pantallaDeCurva.setInterval(PasoDeCurva);
-
-    conecta(ui->cmdHail, &QPushButton::clicked, this, &FormRecursion3Hailstone::cmdHail_Click);
-    conecta(ui->TxtInicial, &CampoLargo::returnPressed, this, &FormRecursion3Hailstone::empieza);
-    conecta(&m_pantalla, &QTimer::timeout, this, &FormRecursion3Hailstone::muestraAvance);
-    conecta(&m_pantallaDeCurva, &QTimer::timeout, this, &FormRecursion3Hailstone::muestraCurva);
-    conecta(ui->PicHail, &Grafica::senalado, this, &FormRecursion3Hailstone::PicHail_Senalado);
-}
-
-FormRecursion3Hailstone::~FormRecursion3Hailstone() = default;
-
-QAbstractButton *FormRecursion3Hailstone::botonDeParada() const
-{
-    return m_calculando ? ui->cmdHail : nullptr;
 }
 
 void FormRecursion3Hailstone::cmdHail_Click()
 {
-    if (!m_calculando) {
-        empieza();
-        return;
-    }
     ui->LabelHail->clear();
-    m_corrida.detener();
-    m_calculando = false;
-    muestraCalcular(ui->cmdHail);
+    if (m_corrida->enMarcha())
+        m_corrida->detiene();
+    else
+        empieza();
 }
 
 void FormRecursion3Hailstone::empieza()
 {
-    // A run that was told to stop must see the flag before it is cleared for another.
-    const bool parando = m_corrida.enCurso() && m_corrida.detenida();
-    if (m_calculando || parando)
-        return;
-    m_corrida.permitir();
-    const Corrida::Tramo tramo(m_corrida);
-    const auto alFinal = qScopeGuard([this] { termina(); });
+    if (!m_corrida->enMarcha())
+        m_tareas.lanza(corre());
+}
+
+Tarea<> FormRecursion3Hailstone::corre()
+{
+    const BotonDeCorrida::Marcha marcha = m_corrida->empieza(m_tareas.billete());
     ui->LabelHail->clear();
-    m_calculando = true;
-    muestraDetener(ui->cmdHail);
-    m_modelo.reinicia();
+    // Each run has a history of its own, so that one that was stopped writes into no other.
+    m_historia = std::make_shared<HistoriaGranizo>();
+    m_modelo.pon(m_historia);
     ui->PicHail->borra();
     m_pantalla.start();
     m_pantallaDeCurva.start();
     const QString inicio = ui->TxtInicial->text().trimmed();
-    muestraFin(inicio, correGranizo(inicio, m_historia, m_corrida));
+    const FinDeGranizo fin = co_await correGranizo(inicio, m_historia, marcha.billete());
+    if (marcha.vigente())
+        muestraFin(inicio, fin);
 }
 
 void FormRecursion3Hailstone::termina()
@@ -102,8 +100,6 @@ void FormRecursion3Hailstone::termina()
     muestraCurva();
     m_pantalla.stop();
     m_pantallaDeCurva.stop();
-    m_calculando = false;
-    muestraCalcular(ui->cmdHail);
 }
 
 void FormRecursion3Hailstone::muestraAvance()
@@ -114,26 +110,26 @@ void FormRecursion3Hailstone::muestraAvance()
     if (alFinal)
         ui->FlexHail->scrollToBottom();
     ui->lblAvance->setText(Traduce(u"Paso: %1 · Cifras: %2"_s)
-                               .arg(formatoEntero(m_historia.ultimo()),
-                                    formatoEntero(m_historia.valor(m_historia.ultimo()).size())));
+                               .arg(formatoEntero(m_historia->ultimo()),
+                                    formatoEntero(m_historia->valor(m_historia->ultimo()).size())));
 }
 
 void FormRecursion3Hailstone::muestraCurva()
 {
-    m_puntos = m_historia.curva().puntos();
+    m_puntos = m_historia->curva().puntos();
     // One value alone would be a dot in a corner.
     if (m_puntos.size() < 2)
         return;
-    const QRectF limites(0, 0, m_puntos.constLast().x(), std::ceil(m_historia.curva().maximo()));
+    const QRectF limites(0, 0, m_puntos.constLast().x(), std::ceil(m_historia->curva().maximo()));
     ui->PicHail->ponPuntos(m_puntos, limites);
 }
 
 /// A point of the curve shows its row; not during a run, when the last rows are in sight.
 void FormRecursion3Hailstone::PicHail_Senalado(int indice)
 {
-    if (indice < 0 || indice >= m_puntos.size() || m_calculando)
+    if (indice < 0 || indice >= m_puntos.size() || m_corrida->enMarcha())
         return;
-    const qint64 fila = std::llround(m_puntos[indice].x()) - m_historia.primero();
+    const qint64 fila = std::llround(m_puntos[indice].x()) - m_historia->primero();
     if (fila >= 0)
         ui->FlexHail->setCurrentIndex(m_modelo.index(static_cast<int>(fila), ModeloGranizo::Valor));
 }
@@ -143,12 +139,14 @@ void FormRecursion3Hailstone::muestraFin(const QString &inicio, FinDeGranizo fin
     switch (fin) {
     case FinDeGranizo::EnUno:
         ui->LabelHail->setText(Traduce(u"Con "_s) + inicio + Traduce(u" se llega a 1 en "_s) +
-                               QString::number(m_historia.ultimo()) + Traduce(u" iteraciones."_s));
+                               QString::number(m_historia->ultimo()) + Traduce(u" iteraciones."_s));
         break;
-    case FinDeGranizo::Error:
-        ui->LabelHail->setText(m_historia.ultimo() == 1
-                                   ? Traduce(u"El valor inicial no es un número entero."_s)
-                                   : Traduce(u"El número siguiente tiene demasiadas cifras."_s));
+    case FinDeGranizo::SinEntero:
+        ui->LabelHail->setText(Traduce(u"El valor inicial tiene que ser un número entero escrito "
+                                       "con sus cifras, 24575 como mucho."_s));
+        break;
+    case FinDeGranizo::DemasiadasCifras:
+        ui->LabelHail->setText(Traduce(u"El número siguiente tiene demasiadas cifras."_s));
         break;
     case FinDeGranizo::Detenido:
         break;

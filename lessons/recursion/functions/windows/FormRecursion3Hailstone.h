@@ -2,12 +2,13 @@
 
 #include "lessons/recursion/functions/Granizo.h"
 #include "lessons/recursion/functions/ModeloGranizo.h"
+#include "shell/frame/Evento.h"
 
 #include <QTimer>
 #include <QWidget>
 #include <memory>
 
-class QAbstractButton;
+class BotonDeCorrida;
 
 namespace Ui {
 class FormRecursion3Hailstone;
@@ -19,14 +20,14 @@ class FormRecursion3Hailstone : public QWidget
     Q_OBJECT
 
 public:
-    FormRecursion3Hailstone(Corrida &corrida, QWidget *padre);
+    /// Runs stop by the stop line that the tabs share.
+    FormRecursion3Hailstone(std::shared_ptr<Parada> parada, QWidget *padre);
     ~FormRecursion3Hailstone() override;
 
-    /// The button that stops the run; null without one.
-    QAbstractButton *botonDeParada() const;
-
 private:
+    void preparaRejilla();
     void empieza();
+    Tarea<> corre();
     void termina();
     void muestraAvance();
     void muestraCurva();
@@ -36,11 +37,11 @@ private:
     void PicHail_Senalado(int indice);
 
     std::unique_ptr<Ui::FormRecursion3Hailstone> ui;
-    Corrida &m_corrida;
-    HistoriaGranizo m_historia;
+    BotonDeCorrida *m_corrida;
+    std::shared_ptr<HistoriaGranizo> m_historia = std::make_shared<HistoriaGranizo>();
     ModeloGranizo m_modelo;
     QTimer m_pantalla{this};
     QTimer m_pantallaDeCurva{this};
     QList<QPointF> m_puntos; ///< of the curve in sight
-    bool m_calculando = false;
+    TareasDeVentana m_tareas;
 };

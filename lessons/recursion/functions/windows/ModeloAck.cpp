@@ -1,29 +1,16 @@
 #include "lessons/recursion/functions/windows/ModeloAck.h"
 
-#include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 
 #include <QBrush>
 
 using namespace Qt::Literals::StringLiterals;
 
-QString textoDeLlamada(Ack::Llamada llamada)
-{
-    return u"Ack(%1, %2)"_s.arg(llamada.m).arg(llamada.n);
-}
-
-QString textoDeValor(Ack::Llamada llamada, std::int32_t valor)
-{
-    const QString texto = textoDeLlamada(llamada);
-    return valor > 0 ? u"%1 = %2"_s.arg(texto).arg(valor)
-                     : Traduce(u"%1: sin terminar"_s).arg(texto);
-}
-
-ModeloAck::ModeloAck(const MemoriaAck &memoria, QObject *padre)
+ModeloAck::ModeloAck(std::shared_ptr<const MemoriaAck> memoria, QObject *padre)
     : QAbstractTableModel(padre),
-      m_memoria(memoria),
-      m_filas(memoria.filas()),
-      m_columnas(memoria.columnas())
+      m_memoria(std::move(memoria)),
+      m_filas(m_memoria->filas()),
+      m_columnas(m_memoria->columnas())
 {
 }
 
@@ -41,8 +28,8 @@ QVariant ModeloAck::data(const QModelIndex &indice, int papel) const
 {
     const int m = indice.column();
     const int n = indice.row();
-    const bool escrita = m_memoria.escrita(m, n);
-    const std::int32_t valor = m_memoria.lee(m, n);
+    const bool escrita = m_memoria->escrita(m, n);
+    const std::int32_t valor = m_memoria->lee(m, n);
     const bool destacada = m_destacada && m_destacada->m == m && m_destacada->n == n;
     switch (papel) {
     case Qt::DisplayRole:
@@ -70,21 +57,22 @@ QVariant ModeloAck::headerData(int seccion, Qt::Orientation, int papel) const
 
 void ModeloAck::publica()
 {
-    if (m_memoria.columnas() > m_columnas) {
-        beginInsertColumns({}, m_columnas, m_memoria.columnas() - 1);
-        m_columnas = m_memoria.columnas();
+    if (m_memoria->columnas() > m_columnas) {
+        beginInsertColumns({}, m_columnas, m_memoria->columnas() - 1);
+        m_columnas = m_memoria->columnas();
         endInsertColumns();
     }
-    if (m_memoria.filas() > m_filas) {
-        beginInsertRows({}, m_filas, m_memoria.filas() - 1);
-        m_filas = m_memoria.filas();
+    if (m_memoria->filas() > m_filas) {
+        beginInsertRows({}, m_filas, m_memoria->filas() - 1);
+        m_filas = m_memoria->filas();
         endInsertRows();
     }
     Q_EMIT dataChanged(index(0, 0), index(m_filas - 1, m_columnas - 1));
 }
 
-void ModeloAck::reinicia()
+void ModeloAck::pon(std::shared_ptr<const MemoriaAck> memoria)
 {
+    m_memoria = std::move(memoria);
     m_destacada.reset();
     publica();
 }

@@ -1,9 +1,9 @@
 #include "lessons/recursion/modular/windows/FormRecursion2Funcion.h"
 
-#include "lessons/recursion/EntradaNumerica.h"
 #include "lessons/recursion/modular/TextoDeDefinicion.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
@@ -36,9 +36,9 @@ void FormRecursion2Funcion::cmdFuncion_Click()
                           lee(ui->TxtF1, definicion.f1) && lee(ui->txtF2, definicion.f2);
     if (!completa)
         return;
-    avisa(Traduce(u"Función aceptada: %1. Elija ahora un módulo en «Representación»."_s)
-              .arg(textoDeDefinicion(definicion)),
-          false);
+    muestraVeredicto(ui->lblAviso, true,
+                     Traduce(u"Función aceptada: %1. Elija ahora un módulo en «Representación»."_s)
+                         .arg(textoDeDefinicion(definicion)));
     muestraPrimeros(definicion);
     Q_EMIT aceptada(definicion);
 }
@@ -46,16 +46,12 @@ void FormRecursion2Funcion::cmdFuncion_Click()
 /// Reads a field; one that holds no number gets the focus.
 bool FormRecursion2Funcion::lee(QLineEdit *campo, Moneda &valor)
 {
-    const std::optional<Moneda> leido = evaluaEntrada(campo->text());
+    const auto leido = leeCoeficiente(campo->text());
     if (leido) {
         valor = *leido;
         return true;
     }
-    campo->setFocus();
-    campo->selectAll();
-    avisa(Traduce(u"«%1» no es un número entero: escriba un número o una expresión."_s)
-              .arg(campo->accessibleName()),
-          true);
+    rechaza(campo, ui->lblAviso, campo->accessibleName() + u": "_s + leido.razon().frase());
     return false;
 }
 
@@ -63,12 +59,4 @@ void FormRecursion2Funcion::muestraPrimeros(const DefinicionRecurrente &definici
 {
     ui->lblPrimeros->setText(Traduce(u"Primeros valores de la función aceptada, sin módulo: %1"_s)
                                  .arg(textoDePrimerosValores(definicion)));
-}
-
-void FormRecursion2Funcion::avisa(const QString &texto, bool error)
-{
-    QPalette colores = palette();
-    colores.setColor(QPalette::WindowText, error ? Aspecto::error() : Aspecto::exito());
-    ui->lblAviso->setPalette(colores);
-    ui->lblAviso->setText((error ? u"✗ "_s : u"✓ "_s) + texto);
 }

@@ -27,7 +27,6 @@ private:
     void cmdFuncion_Click();
     bool lee(QLineEdit *campo, Moneda &valor);
     void muestraPrimeros(const DefinicionRecurrente &definicion);
-    void avisa(const QString &texto, bool error);
 
     std::unique_ptr<Ui::FormRecursion2Funcion> ui;
 };

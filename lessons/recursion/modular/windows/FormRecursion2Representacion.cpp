@@ -1,11 +1,12 @@
 #include "lessons/recursion/modular/windows/FormRecursion2Representacion.h"
 
-#include "lessons/recursion/EntradaNumerica.h"
 #include "lessons/recursion/modular/TextoDeDefinicion.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
@@ -40,6 +41,7 @@ FormRecursion2Representacion::FormRecursion2Representacion(QWidget *leccion)
 
     conecta(ui->cmdCalcular, &QPushButton::clicked, this,
             &FormRecursion2Representacion::cmdCalcular_Click);
+    conecta(ui->TxtMódulo, &QLineEdit::textEdited, ui->lblAvisoDeModulo, &QWidget::hide);
     conecta(ui->TxtMódulo, &QLineEdit::returnPressed, this,
             &FormRecursion2Representacion::cmdCalcular_Click);
     conecta(ui->TxtMódulo, &QLineEdit::editingFinished, this,
@@ -70,6 +72,7 @@ void FormRecursion2Representacion::ponDefinicion(const DefinicionRecurrente &def
 void FormRecursion2Representacion::limpia()
 {
     m_sucesion.reset();
+    ui->lblAvisoDeModulo->hide();
     m_timerEureka.stop();
     ui->ImgEureka->hide();
     ui->txtInicioPeriodo->clear();
@@ -106,13 +109,27 @@ bool FormRecursion2Representacion::aceptaModulo()
     // A message box takes the focus from the field, which must not accept its text again.
     ui->TxtMódulo->setModified(false);
     const QString texto = ui->TxtMódulo->text();
-    const std::optional<std::int32_t> modulo = evaluaModulo(texto);
-    if (!modulo)
+    ui->lblAvisoDeModulo->hide();
+    const auto modulo = leeModulo(texto);
+    if (!modulo) {
+        muestraRechazo(modulo.razon());
         return false;
+    }
     calcula(*modulo);
     const QString valor = QString::number(*modulo);
     ui->TxtMódulo->setToolTip(EsNumerico(texto) ? valor : texto + u'=' + valor);
     return true;
+}
+
+/// A text that is no modulus changes nothing of what is shown, so it is said what that belongs to.
+void FormRecursion2Representacion::muestraRechazo(const NoLeido &razon)
+{
+    const QString vigente = m_sucesion
+                                ? u' ' + Traduce(u"Lo que se ve es de módulo %1."_s)
+                                             .arg(formatoEntero(qint64{m_sucesion->modulo()}))
+                                : QString();
+    muestraVeredicto(ui->lblAvisoDeModulo, false, razon.frase() + vigente);
+    ui->lblAvisoDeModulo->show();
 }
 
 void FormRecursion2Representacion::calcula(std::int32_t modulo)
@@ -137,7 +154,7 @@ void FormRecursion2Representacion::muestraPeriodo()
 {
     const std::optional<PeriodoModular> periodo = m_sucesion->periodo();
     if (!periodo) {
-        interlocutor().mensaje(
+        interlocutor().avisa(
             this, Interlocutor::Icono::Informacion,
             Traduce(u"El periodo es mayor que el conjunto de valores que se examina."_s),
             Traduce(u"Periodo grande"_s));

@@ -41,6 +41,7 @@ Q_SIGNALS:
 private:
     void limpia();
     bool aceptaModulo();
+    void muestraRechazo(const NoLeido &razon);
     void calcula(std::int32_t modulo);
     void representa();
     void muestraPeriodo();

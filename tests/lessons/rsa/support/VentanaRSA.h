@@ -25,6 +25,7 @@ public:
     {
         cierra();
         m_yo = std::make_unique<Estudiante>();
+        QFile::remove(Sesión().carpetaDeAjustes() + u"/RSA.borradores"_s);
     }
     void cierra() { m_ventana.reset(); }
 
@@ -75,6 +76,13 @@ public:
     {
         linea(u"txtAsunto"_s)->setText(asunto);
         area(u"txtDestTextoOriginal"_s)->setPlainText(texto);
+    }
+
+    /// Subject and text of the sheet.
+    QString escrito() const
+    {
+        return linea(u"txtAsunto"_s)->text() + u'|' +
+               area(u"txtDestTextoOriginal"_s)->toPlainText();
     }
 
     void eligeUsuario(const QString &usuario)

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class ColFactores;
+
+/// A row of the table of factors.
+struct FilaDeFactor
+{
+    QString factor;
+    QString exponente;
+};
+
+/// What has come of a factorization: the factors found, and what became of the rest.
+struct TablaDeFactores
+{
+    enum Desenlace {
+        Completa,
+        Detenida,       ///< before its end; what was not divided yet is `resto`
+        QuedaCompuesto, ///< in the last row, which could not be split
+        EsCero,         ///< what was to be factored, which every prime divides
+        EsNegativo,     ///< which trial division does not factor
+        NoEsEntero,
+        Fallida ///< nothing is known of the factors
+    };
+
+    QString numero; ///< what was to be factored
+    QList<FilaDeFactor> filas = {};
+    Desenlace desenlace = Completa;
+    QString resto = {}; ///< what no row holds; nothing where all was divided
+
+    /// The factors as a product, what may be composite in brackets: "2² · 3 · (9999999999971)";
+    /// empty without any.
+    QString producto() const;
+
+    /// What the table shows, as a sentence for the student.
+    QString frase() const;
+};
+
+/// The factors that trial division has found of a whole number of its size, to its end or until it
+/// was stopped.
+TablaDeFactores tablaDe(const QString &numero, const ColFactores &factores);
+
+/// The factors of |n|, whatever its size, by libbignum. Blocks until they are found, or until the
+/// effort of the library is spent.
+TablaDeFactores factorizaGrande(const QString &n);
+
+/// Whether that may take so long that the student is to be told before.
+bool puedeTardar(const QString &n);

@@ -1,0 +1,43 @@
+#include "lessons/recursion/functions/windows/EscenasRecursion3.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const Paso EnAckermann{u"SSTab1"_s, u"0"_s};
+const Paso EnHailstone{u"SSTab1"_s, u"1"_s};
+const Paso EnCapicuas{u"SSTab1"_s, u"2"_s};
+
+Escena funciones(const QString &nombre, const QList<Paso> &pasos, bool durante = false)
+{
+    return {nombre, u"funciones"_s, pasos, durante};
+}
+
+} // namespace
+
+QList<Escena> escenasRecursion3()
+{
+    const Paso ack{u"cmdAck"_s, {}};
+    const Paso hail{u"cmdHail"_s, {}};
+    const Paso cap{u"cmdCap"_s, {}};
+    const QString largo = u"27182818284590452353602874713526624977572470936999"_s.repeated(200);
+    return {
+        {u"recursion3-introduccion"_s, u"intro"_s},
+        funciones(u"recursion3-ackermann"_s, {EnAckermann}),
+        funciones(u"recursion3-ackermann-2-3"_s, {EnAckermann, ack}),
+        funciones(u"recursion3-ackermann-4-1"_s,
+                  {EnAckermann, {u"TxtX"_s, u"4"_s}, {u"TxtY"_s, u"1"_s}, ack}),
+        {u"recursion3-ackermann-calculando"_s,
+         u"funciones"_s,
+         {EnAckermann, ack},
+         true,
+         std::chrono::milliseconds(0)},
+        funciones(u"recursion3-hailstone"_s, {EnHailstone}),
+        funciones(u"recursion3-hailstone-27"_s, {EnHailstone, {u"TxtInicial"_s, u"27"_s}, hail}),
+        funciones(u"recursion3-hailstone-calculando"_s,
+                  {EnHailstone, {u"TxtInicial"_s, largo}, hail}, true),
+        funciones(u"recursion3-capicuas"_s, {EnCapicuas}),
+        funciones(u"recursion3-capicuas-89"_s, {EnCapicuas, {u"TxtCapInicial"_s, u"89"_s}, cap}),
+        funciones(u"recursion3-capicuas-calculando"_s,
+                  {EnCapicuas, {u"TxtCapInicial"_s, u"196"_s}, cap}, true)};
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "shell/frame/Leccion.h"
+
+/// The pictures of the lesson on recursive functions in the gallery.
+QList<Escena> escenasRecursion3();

@@ -1,0 +1,33 @@
+#include "lessons/recursion/modular/windows/EscenasRecursion2.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QList<Paso> conModulo(const QString &modulo)
+{
+    return {{u"TxtMódulo"_s, modulo}, {u"cmdCalcular"_s, {}}};
+}
+
+} // namespace
+
+QList<Escena> escenasRecursion2()
+{
+    const QString representacion = u"representacion"_s;
+    return {{u"recursion2-funcion"_s, u"funcion"_s},
+            {u"recursion2-funcion-aceptada"_s,
+             u"funcion"_s,
+             {{u"txtAlfa"_s, u"3"_s}, {u"TxtBeta"_s, u"-1"_s}, {u"cmdFunción"_s, {}}}},
+            {u"recursion2-funcion-rechazada"_s,
+             u"funcion"_s,
+             {{u"TxtBeta"_s, u"1/2"_s}, {u"cmdFunción"_s, {}}}},
+            {u"recursion2-representacion-vacia"_s, representacion},
+            {u"recursion2-representacion-10"_s, representacion, conModulo(u"10"_s)},
+            {u"recursion2-representacion-1000"_s, representacion, conModulo(u"1000"_s)},
+            {u"recursion2-representacion-31999"_s, representacion, conModulo(u"31999"_s)},
+            {u"recursion2-representacion-rechazada"_s, representacion,
+             conModulo(u"10"_s) + conModulo(u"1/2"_s)},
+            {u"recursion2-valores-vacia"_s, u"valores"_s},
+            {u"recursion2-valores"_s, u"valores"_s, conModulo(u"1000"_s)},
+            {u"recursion2-cuestiones"_s, u"cuestiones"_s}};
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "shell/frame/Leccion.h"
+
+/// The pictures of the lesson on modular recurrences in the gallery.
+QList<Escena> escenasRecursion2();

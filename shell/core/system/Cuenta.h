@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// The login name of who runs the program, from the system's accounts; empty when there is none.
+QString nombreDeCuenta();

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Qt's own texts ("Aceptar", "Opciones:") in Spanish, unless the interface is in another language.
+void instalaTextosDeQt();

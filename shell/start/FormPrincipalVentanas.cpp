@@ -1,0 +1,142 @@
+#include "shell/start/FormPrincipal.h"
+
+#include "shell/core/ModGlobal.h"
+#include "shell/frame/FormLeccion.h"
+#include "ui_FormPrincipal.h"
+
+#include <QCloseEvent>
+#include <QMdiSubWindow>
+#include <QScopeGuard>
+#include <QStyle>
+
+// The lessons as child windows: how they open, what size they have, and how they close.
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Where the session keeps the size of a lesson's window.
+QString claveDeTamano(const QWidget &leccion)
+{
+    return u"Ventanas/%1"_s.arg(leccion.objectName());
+}
+
+} // namespace
+
+FormLeccion *FormPrincipal::abreLeccion(int fila)
+{
+    const bool esHoja = fila == FilaHojaDeCalculo;
+    if (!esHoja && (fila < 0 || fila >= m_lecciones.size()))
+        return nullptr;
+    const Leccion &leccion = esHoja ? m_hojaDeCalculo : m_lecciones[fila];
+    if (!leccion.crea)
+        return nullptr;
+    QPointer<FormLeccion> &abierta = m_abiertas[fila];
+    if (!abierta) {
+        abierta = leccion.crea(nullptr);
+        connect(abierta, &FormLeccion::descargada, this, [this, fila] { m_abiertas.remove(fila); });
+        colocaVentana(abierta);
+    }
+    auto *ventana = qobject_cast<QMdiSubWindow *>(abierta->parentWidget());
+    if (ventana->isMinimized())
+        ventana->showNormal();
+    ui->AreaDeTrabajo->setActiveSubWindow(ventana);
+    return abierta;
+}
+
+void FormPrincipal::colocaVentana(FormLeccion *leccion)
+{
+    auto *ventana = new QMdiSubWindow;
+    // The system menu of a child window has a Ctrl+W of its own, which would make the main window's
+    // ambiguous; everything in it is in the menu "Ventana" and on the title bar.
+    ventana->setSystemMenu(nullptr);
+    ventana->setWidget(leccion);
+    ventana->setAttribute(Qt::WA_DeleteOnClose);
+    ui->AreaDeTrabajo->addSubWindow(ventana);
+    ventana->setWindowIcon(leccion->windowIcon());
+
+    const int escalon = ventana->style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const int desplazamiento = escalon * static_cast<int>((m_abiertas.size() - 1) % 4);
+    const QSize area = ui->AreaDeTrabajo->viewport()->size();
+    const QSize libre = area - QSize(desplazamiento, desplazamiento);
+    const QSize propuesto = ventana->sizeHint().expandedTo(area * 0.9).boundedTo(libre);
+    ventana->resize(Sesión().recuerda(claveDeTamano(*leccion), propuesto).toSize().boundedTo(area));
+    ventana->move(desplazamiento, desplazamiento);
+    ventana->show();
+    ventana->installEventFilter(this);
+}
+
+FormLeccion *FormPrincipal::leccionActiva() const
+{
+    const QMdiSubWindow *ventana = ui->AreaDeTrabajo->currentSubWindow();
+    return ventana && ventana->isVisible() ? qobject_cast<FormLeccion *>(ventana->widget())
+                                           : nullptr;
+}
+
+/// Sizes are noted a moment after they have changed, so that the end of the program writes nothing.
+void FormPrincipal::anotaTamanos()
+{
+    Sesión().anota(u"Ventana/Geometria"_s, saveGeometry());
+    Sesión().anota(u"Ventana/Division"_s, ui->Divisor->saveState());
+    const auto ventanas = ui->AreaDeTrabajo->subWindowList();
+    for (const QMdiSubWindow *ventana : ventanas) {
+        const bool suyo = !ventana->isMaximized() && !ventana->isMinimized();
+        if (ventana->widget() && ventana->isVisible() && suyo)
+            Sesión().anota(claveDeTamano(*ventana->widget()), ventana->size());
+    }
+}
+
+void FormPrincipal::closeEvent(QCloseEvent *suceso)
+{
+    if (!m_cierrePermitido && !m_preguntando) {
+        m_enCierre = true;
+        m_tareas.lanza(pideCierre());
+        m_enCierre = false;
+    }
+    suceso->setAccepted(m_cierrePermitido);
+}
+
+/// Asks the lessons one after the other; all close or none. Where an answer is waited for the event
+/// is over by then, and the window is closed again.
+Tarea<> FormPrincipal::pideCierre()
+{
+    m_preguntando = true;
+    const auto respondido = qScopeGuard([this] { m_preguntando = false; });
+    const auto lecciones = abiertas();
+    for (const QPointer<FormLeccion> &leccion : lecciones) {
+        if (!leccion)
+            continue;
+        const bool puede = co_await leccion->puedeCerrarse();
+        if (!puede)
+            co_return;
+    }
+    for (const QPointer<FormLeccion> &leccion : lecciones) {
+        if (leccion)
+            leccion->cierraSinPreguntar();
+    }
+    m_cierrePermitido = true;
+    if (!m_enCierre)
+        close();
+}
+
+QList<QPointer<FormLeccion>> FormPrincipal::abiertas() const
+{
+    QList<QPointer<FormLeccion>> lecciones = m_abiertas.values();
+    lecciones.removeAll(nullptr);
+    return lecciones;
+}
+
+void FormPrincipal::guardaLoPendiente()
+{
+    for (const QPointer<FormLeccion> &leccion : abiertas())
+        evento(this, [&] { leccion->guardaLoPendiente(); });
+}
+
+void FormPrincipal::terminaSinPreguntar()
+{
+    guardaLoPendiente();
+    for (const QPointer<FormLeccion> &leccion : abiertas())
+        leccion->cierraSinPreguntar();
+    m_cierrePermitido = true;
+    close();
+}

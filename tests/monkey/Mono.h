@@ -1,0 +1,54 @@
+#pragma once
+
+#include "shell/start/FormPrincipal.h"
+
+#include <QPoint>
+#include <QStringList>
+#include <memory>
+#include <random>
+
+/// Uses the program as nobody would: opens, closes, types, presses, drags, starts and stops runs,
+/// changes topic, theme and size, in an order that a seed decides, with real events. The same seed
+/// does the same, as far as the machine keeps time.
+class Mono
+{
+public:
+    Mono(const Contenido &contenido, unsigned semilla);
+    ~Mono();
+
+    /// Does one thing. Gives what is wrong afterwards; empty when nothing is.
+    QString actua();
+
+    /// Closes everything. Gives what is still at work then; empty when nothing is.
+    QString recoge();
+
+    /// What it did last, the latest at the end.
+    const QStringList &diario() const { return m_diario; }
+
+    int actos() const { return m_actos; }
+
+private:
+    void respondeCaja(QWidget *caja);
+    void abreVentana();
+    void cambiaTema();
+    void pulsaBoton();
+    void escribe();
+    void tecla();
+    void arrastra();
+    void cambiaAspecto();
+    void cierraVentana();
+    void cambiaTamano();
+    void deja(int milisegundos);
+    QString quéFalla() const;
+
+    template <typename Control>
+    Control *alguno(QWidget *donde);
+    int numero(int limite);
+    void anota(const QString &acto);
+
+    std::unique_ptr<FormPrincipal> m_principal;
+    int m_filas;
+    std::mt19937 m_azar;
+    QStringList m_diario;
+    int m_actos = 0;
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "lessons/rsa/key/ClsRSA.h"
+#include "shell/core/clsSesion.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+/// A student in a working folder of their own, with a good key and a mailbox, so that the topics
+/// that come and go are there.
+class Estudiante
+{
+public:
+    Estudiante()
+    {
+        using namespace Qt::Literals::StringLiterals;
+        for (const QString &parte : {u"ClipArt"_s, u"Doc"_s})
+            QFile::link(Entorno::carpetaDeTrabajo() + u'/' + parte, m_carpeta.filePath(parte));
+    }
+
+    /// Settings, language and key as new.
+    void prepara() const
+    {
+        using namespace Qt::Literals::StringLiterals;
+        Entorno::limpia();
+        Sesión().ponCarpeta(m_carpeta.path());
+        ClsRSA clave(Sesión());
+        clave.ponDirMensajes(m_carpeta.path());
+        clave.ponr(1);
+        clave.ponq(1, u"257"_s);
+        clave.ponq(2, u"263"_s);
+        clave.pons(u"5"_s);
+        clave.Valida();
+    }
+
+private:
+    QTemporaryDir m_carpeta;
+};

@@ -1,0 +1,203 @@
+#include "shell/core/run/Espera.h"
+#include "shell/core/run/Tareas.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QTimer>
+#include <algorithm>
+#include <stdexcept>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Tells when it goes.
+struct Testigo
+{
+    int &vivos;
+    explicit Testigo(int &cuenta) : vivos(cuenta) { ++vivos; }
+    Testigo(const Testigo &) = delete;
+    Testigo &operator=(const Testigo &) = delete;
+    ~Testigo() { --vivos; }
+};
+
+Tarea<int> doble(int n)
+{
+    co_return 2 * n;
+}
+
+Tarea<int> falla()
+{
+    throw std::runtime_error("no");
+    co_return 0;
+}
+
+Tarea<qint64> suma(qint64 n, Billete billete)
+{
+    qint64 total = 0;
+    for (qint64 i = 0; i < n && !billete.detenida(); ++i) {
+        total += co_await doble(1);
+        co_await billete.ceder();
+    }
+    co_return total;
+}
+
+Tarea<> corre(Billete billete, int &vivos, qint64 &pasos)
+{
+    const Testigo testigo(vivos);
+    while (!billete.detenida()) {
+        ++pasos;
+        co_await billete.ceder();
+    }
+}
+
+Tarea<> cuenta(qint64 n, Billete billete, qint64 &total)
+{
+    total = co_await suma(n, billete);
+}
+
+Tarea<> pasaElError()
+{
+    co_await falla();
+}
+
+Tarea<> esperaDos(Espera &primera, Espera &segunda, int &hechas)
+{
+    co_await primera;
+    ++hechas;
+    co_await segunda;
+    ++hechas;
+}
+
+} // namespace
+
+class TestTareas : public QObject
+{
+    Q_OBJECT
+
+    QList<std::exception_ptr> m_errores;
+    std::unique_ptr<Tareas> m_tareas;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_errores.clear();
+        m_tareas = std::make_unique<Tareas>(
+            [this](const std::exception_ptr &error) { m_errores << error; });
+    }
+
+    void daValorOError()
+    {
+        QCOMPARE(doble(21).completa(), 42);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, falla().completa());
+        // A task that ends at once must not leave a frame of the machine's stack behind.
+        QCOMPARE(suma(300'000, Billete()).completa(), 600'000);
+    }
+
+    void unaCorridaCedeYAcaba()
+    {
+        int ticks = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+        timer.start(1);
+        qint64 total = 0;
+        const qint64 n = 20'000'000;
+        m_tareas->lanza(cuenta(n, m_tareas->billete(), total));
+        QVERIFY(!m_tareas->vacias());
+        QTRY_VERIFY_WITH_TIMEOUT(m_tareas->vacias(), 60'000);
+        QCOMPARE(total, 2 * n);
+        QVERIFY2(ticks > 3, qPrintable(QString::number(ticks)));
+    }
+
+    void losSucesosNoEsperanMasQueUnPlazo()
+    {
+        int vivos = 0;
+        qint64 pasos = 0;
+        m_tareas->lanza(corre(m_tareas->billete(), vivos, pasos));
+        QList<qint64> demoras;
+        for (int i = 0; i < 20; ++i) {
+            QElapsedTimer reloj;
+            reloj.start();
+            bool servido = false;
+            QMetaObject::invokeMethod(
+                this, [&] { servido = true; }, Qt::QueuedConnection);
+            while (!servido)
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            demoras << reloj.elapsed();
+            QTest::qWait(1);
+        }
+        m_tareas.reset();
+        std::sort(demoras.begin(), demoras.end());
+        QVERIFY2(demoras[10] <= 2 * Billete::Plazo.count(),
+                 qPrintable(QString::number(demoras[10])));
+    }
+
+    void detenerAlcanzaALasEmpezadas()
+    {
+        int vivos = 0;
+        qint64 pasos = 0;
+        const Billete primero = m_tareas->billete();
+        m_tareas->lanza(corre(primero, vivos, pasos));
+        m_tareas->detener();
+        const Billete segundo = m_tareas->billete();
+        QVERIFY(primero.detenida() && primero.superada());
+        QVERIFY(!segundo.detenida() && !segundo.superada());
+        m_tareas->lanza(corre(segundo, vivos, pasos));
+        QTRY_COMPARE(vivos, 1);
+        segundo.detener();
+        QTRY_VERIFY(m_tareas->vacias());
+        QCOMPARE(vivos, 0);
+    }
+
+    void muereConSuDueno()
+    {
+        int vivos = 0;
+        qint64 pasos = 0;
+        const Billete billete = m_tareas->billete(); // outlives the run, and its queue with it
+        m_tareas->lanza(corre(billete, vivos, pasos));
+        QCOMPARE(vivos, 1);
+        m_tareas.reset();
+        QCOMPARE(vivos, 0);
+        const qint64 hasta = pasos;
+        QTest::qWait(30);
+        QCOMPARE(pasos, hasta);
+    }
+
+    void unErrorSeDiceUnaVez()
+    {
+        m_tareas->lanza(pasaElError());
+        QTest::qWait(5);
+        QCOMPARE(m_errores.size(), 1);
+        QVERIFY(m_tareas->vacias());
+    }
+
+    void unaEsperaSigueAlCumplirse()
+    {
+        Espera primera;
+        Espera segunda;
+        int hechas = 0;
+        m_tareas->lanza(esperaDos(primera, segunda, hechas));
+        segunda.cumple(); // before anybody waits for it
+        QTest::qWait(5);
+        QCOMPARE(hechas, 0);
+        primera.cumple();
+        primera.cumple();
+        QCOMPARE(hechas, 0); // goes on from the event loop
+        QTRY_COMPARE(hechas, 2);
+    }
+
+    void laRespuestaQueLlegaTardeNoDespiertaANadie()
+    {
+        Espera primera;
+        Espera segunda;
+        int hechas = 0;
+        m_tareas->lanza(esperaDos(primera, segunda, hechas));
+        primera.cumple();
+        m_tareas.reset();
+        QTest::qWait(5);
+        QCOMPARE(hechas, 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTareas)
+#include "tst_Tareas.moc"
