@@ -14,6 +14,7 @@
 #include <QListView>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSessionManager>
@@ -93,6 +94,11 @@ private Q_SLOTS:
         pulsa(2);
         QCOMPARE(titulos(), (QStringList{u"Dos"_s, u"Cuatro"_s}));
         QCOMPARE(m_principal->leccionActiva()->windowTitle(), u"Dos"_s);
+        auto *ventanas = control<QMenu>(m_principal.get(), u"mnuVentana"_s);
+        Q_EMIT ventanas->aboutToShow();
+        const auto ordenes = ventanas->actions().last(2);
+        QCOMPARE(ordenes[1]->text(), u"&2  Cuatro"_s);
+        QVERIFY(ordenes[0]->isChecked() && !ordenes[1]->isChecked());
         pulsa(6);
         QTest::mouseClick(m_menu->viewport(), Qt::LeftButton, {},
                           {5, m_menu->viewport()->height() - 2});
