@@ -145,6 +145,8 @@ Tarea<> FormPrimosFactorizacion::factoriza(Algoritmo elegido, QString numero, Mo
             co_return;
         muestra(tabla);
     } catch (const ErrorEjecucion &) {
+        if (!marcha.vigente())
+            co_return;
         // It ends the event, and leaves the window as it stands.
         marcha.deja();
         throw;
