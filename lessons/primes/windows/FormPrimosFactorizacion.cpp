@@ -89,6 +89,7 @@ Tarea<> FormPrimosFactorizacion::BtnFactoriza_Click()
 void FormPrimosFactorizacion::detiene()
 {
     ui->lblResultado->setText(Traduce(u"Detenida."_s));
+    ui->FlexFactores->ponTextoVacio(ui->lblResultado->text());
     m_boton->detiene();
 }
 
