@@ -1,6 +1,7 @@
 #include "shell/start/Galeria.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"

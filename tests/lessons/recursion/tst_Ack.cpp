@@ -1,6 +1,5 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/recursion/functions/Ack.h"
-#include "lessons/recursion/functions/EnteroDeTexto.h"
 #include "lessons/recursion/functions/windows/ModeloAck.h"
 #include "tests/lessons/recursion/Detenida.h"
 #include "tests/shell/support/Entorno.h"
