@@ -41,6 +41,15 @@ PolynomialSource::PolynomialSource(const Plan &plan) : m_plan(plan)
     m_last = std::min(middle + kHalfWindow, static_cast<std::uint32_t>(m_candidates.size()));
 }
 
+std::ptrdiff_t PolynomialSource::countBelow(double logarithm) const
+{
+    const auto isBelow = [&](std::uint32_t i) {
+        return std::log(m_plan.base.primes[i]) < logarithm;
+    };
+    return std::partition_point(m_candidates.begin(), m_candidates.end(), isBelow) -
+           m_candidates.begin();
+}
+
 double PolynomialSource::logOf(std::uint32_t candidate) const
 {
     return std::log(m_plan.base.primes[m_candidates[candidate]]);
@@ -84,10 +93,7 @@ std::optional<std::uint32_t> PolynomialSource::lastFor(const Indices &others) co
     for (const std::uint32_t other : others)
         missing -= logOf(other);
     const auto size = static_cast<std::int64_t>(m_candidates.size());
-    std::int64_t at = 0;
-    for (std::int64_t step = std::bit_floor(m_candidates.size()); step > 0; step /= 2)
-        if (at + step < size && logOf(static_cast<std::uint32_t>(at + step)) <= missing)
-            at += step;
+    const std::int64_t at = countBelow(missing);
     for (std::int64_t i = 0; i <= 2 * kNeighbours; ++i) {
         const std::int64_t place = at + (i % 2 == 0 ? -i / 2 : (i + 1) / 2);
         if (place < 0 || place >= size)

@@ -23,6 +23,7 @@ public:
 private:
     using Indices = std::vector<std::uint32_t>;
 
+    std::ptrdiff_t countBelow(double logarithm) const;
     double logOf(std::uint32_t candidate) const;
     Indices drawAllButOne();
     std::optional<std::uint32_t> lastFor(const Indices &others) const;

@@ -68,25 +68,30 @@ BIGNUM_AVX2 void addRow(const FamilyRow &row, std::size_t size)
     }
 }
 
-/// One of the two sums is beyond the modulus, or wraps around to a large number: the less is right.
-BIGNUM_AVX2 inline __m256i moveRoots(std::uint32_t *roots, __m256i shift, __m256i modulus,
-                                     bool down)
+/// Moves 8 roots down by the shift, or up, which is down by what the modulus has beyond the shift.
+/// Below 0 they wrap around to large numbers, and with the modulus added the less is right.
+BIGNUM_AVX2 inline __m256i moveRoots(std::uint32_t *roots, __m256i down, __m256i modulus)
 {
-    const __m256i old = load(roots);
-    const __m256i near = down ? _mm256_sub_epi32(old, shift) : _mm256_add_epi32(old, shift);
-    const __m256i far = down ? _mm256_add_epi32(near, modulus) : _mm256_sub_epi32(near, modulus);
-    const __m256i root = _mm256_min_epu32(near, far);
+    const __m256i moved = _mm256_sub_epi32(load(roots), down);
+    const __m256i root = _mm256_min_epu32(moved, _mm256_add_epi32(moved, modulus));
     store(roots, root);
     return root;
 }
 
+BIGNUM_AVX2 inline __m256i wayDown(__m256i shift, __m256i modulus, __m256i up)
+{
+    return _mm256_blendv_epi8(shift, _mm256_sub_epi32(modulus, shift), up);
+}
+
 BIGNUM_AVX2 void move(const Roots &roots, std::size_t begin, std::size_t end, bool down)
 {
+    const Roots at = roots;
+    const __m256i up = _mm256_set1_epi32(down ? 0 : -1);
     for (std::size_t i = begin; i < end; i += kWidth) {
-        const __m256i modulus = load(roots.moduli + i);
-        const __m256i shift = load(roots.shifts + i);
-        moveRoots(roots.first + i, shift, modulus, down);
-        moveRoots(roots.second + i, shift, modulus, down);
+        const __m256i modulus = load(at.moduli + i);
+        const __m256i way = wayDown(load(at.shifts + i), modulus, up);
+        moveRoots(at.first + i, way, modulus);
+        moveRoots(at.second + i, way, modulus);
     }
 }
 
@@ -147,16 +152,18 @@ BIGNUM_AVX2 void fillChunk(Chunk &chunk, const std::uint32_t *moduli, std::size_
 BIGNUM_AVX2 void moveAndFill(const Roots &roots, std::size_t begin, std::size_t end, bool down,
                              std::uint32_t interval, std::uint32_t **bucketEnds)
 {
+    const Roots all = roots;
+    const __m256i up = _mm256_set1_epi32(down ? 0 : -1);
     Chunk chunk;
     for (std::size_t at = begin; at < end; at += kChunk) {
         const std::size_t size = std::min(kChunk, end - at);
         for (std::size_t i = 0; i < size; i += kWidth) {
-            const __m256i modulus = load(roots.moduli + at + i);
-            const __m256i shift = load(roots.shifts + at + i);
-            store(chunk.first + i, moveRoots(roots.first + at + i, shift, modulus, down));
-            store(chunk.second + i, moveRoots(roots.second + at + i, shift, modulus, down));
+            const __m256i modulus = load(all.moduli + at + i);
+            const __m256i way = wayDown(load(all.shifts + at + i), modulus, up);
+            store(chunk.first + i, moveRoots(all.first + at + i, way, modulus));
+            store(chunk.second + i, moveRoots(all.second + at + i, way, modulus));
         }
-        fillChunk(chunk, roots.moduli + at, size, static_cast<std::uint32_t>(at - begin), interval,
+        fillChunk(chunk, all.moduli + at, size, static_cast<std::uint32_t>(at - begin), interval,
                   bucketEnds);
     }
 }

@@ -51,25 +51,30 @@ BIGNUM_AVX512 void addRow(const FamilyRow &row, std::size_t size)
     }
 }
 
-/// One of the two sums is beyond the modulus, or wraps around to a large number: the less is right.
-BIGNUM_AVX512 inline __m512i moveRoots(std::uint32_t *roots, __m512i shift, __m512i modulus,
-                                       bool down)
+/// Moves 16 roots down by the shift, or up, which is down by what the modulus has beyond the shift.
+/// Below 0 they wrap around to large numbers, and with the modulus added the less is right.
+BIGNUM_AVX512 inline __m512i moveRoots(std::uint32_t *roots, __m512i down, __m512i modulus)
 {
-    const __m512i old = _mm512_loadu_si512(roots);
-    const __m512i near = down ? _mm512_sub_epi32(old, shift) : _mm512_add_epi32(old, shift);
-    const __m512i far = down ? _mm512_add_epi32(near, modulus) : _mm512_sub_epi32(near, modulus);
-    const __m512i root = _mm512_min_epu32(near, far);
+    const __m512i moved = _mm512_sub_epi32(_mm512_loadu_si512(roots), down);
+    const __m512i root = _mm512_min_epu32(moved, _mm512_add_epi32(moved, modulus));
     _mm512_storeu_si512(roots, root);
     return root;
 }
 
+BIGNUM_AVX512 inline __m512i wayDown(__m512i shift, __m512i modulus, __mmask16 up)
+{
+    return _mm512_mask_sub_epi32(shift, up, modulus, shift);
+}
+
 BIGNUM_AVX512 void move(const Roots &roots, std::size_t begin, std::size_t end, bool down)
 {
+    const Roots at = roots;
+    const auto up = static_cast<__mmask16>(down ? 0 : 0xFFFF);
     for (std::size_t i = begin; i < end; i += kWidth) {
-        const __m512i modulus = _mm512_loadu_si512(roots.moduli + i);
-        const __m512i shift = _mm512_loadu_si512(roots.shifts + i);
-        moveRoots(roots.first + i, shift, modulus, down);
-        moveRoots(roots.second + i, shift, modulus, down);
+        const __m512i modulus = _mm512_loadu_si512(at.moduli + i);
+        const __m512i way = wayDown(_mm512_loadu_si512(at.shifts + i), modulus, up);
+        moveRoots(at.first + i, way, modulus);
+        moveRoots(at.second + i, way, modulus);
     }
 }
 
@@ -117,18 +122,18 @@ BIGNUM_AVX512 void fillChunk(Chunk &chunk, const std::uint32_t *moduli, std::siz
 BIGNUM_AVX512 void moveAndFill(const Roots &roots, std::size_t begin, std::size_t end, bool down,
                                std::uint32_t interval, std::uint32_t **bucketEnds)
 {
+    const Roots all = roots;
+    const auto up = static_cast<__mmask16>(down ? 0 : 0xFFFF);
     Chunk chunk;
     for (std::size_t at = begin; at < end; at += kChunk) {
         const std::size_t size = std::min(kChunk, end - at);
         for (std::size_t i = 0; i < size; i += kWidth) {
-            const __m512i modulus = _mm512_loadu_si512(roots.moduli + at + i);
-            const __m512i shift = _mm512_loadu_si512(roots.shifts + at + i);
-            _mm512_store_si512(chunk.first + i,
-                               moveRoots(roots.first + at + i, shift, modulus, down));
-            _mm512_store_si512(chunk.second + i,
-                               moveRoots(roots.second + at + i, shift, modulus, down));
+            const __m512i modulus = _mm512_loadu_si512(all.moduli + at + i);
+            const __m512i way = wayDown(_mm512_loadu_si512(all.shifts + at + i), modulus, up);
+            _mm512_store_si512(chunk.first + i, moveRoots(all.first + at + i, way, modulus));
+            _mm512_store_si512(chunk.second + i, moveRoots(all.second + at + i, way, modulus));
         }
-        fillChunk(chunk, roots.moduli + at, size, static_cast<std::uint32_t>(at - begin), interval,
+        fillChunk(chunk, all.moduli + at, size, static_cast<std::uint32_t>(at - begin), interval,
                   bucketEnds);
     }
 }
