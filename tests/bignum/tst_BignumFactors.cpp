@@ -49,6 +49,41 @@ mpz_class primeOfDigits(Random &random, unsigned digits)
     return prime;
 }
 
+/// "2^3 division, 11 rho", with "?" after a composite.
+struct Taken
+{
+    std::string text;
+    std::size_t most = 1000; ///< factors to take
+    std::size_t count = 0;
+    bool countsFit = true; ///< what a method does not count is 0, and what it counts is not
+};
+
+int32_t take(const BignumFactor *factor, void *context)
+{
+    static const std::vector<std::string> methods{"itself", "division", "rho",
+                                                  "curve",  "sieve",    "root"};
+    Taken &taken = *static_cast<Taken *>(context);
+    taken.text += (taken.text.empty() ? "" : ", ") + std::string(factor->base) +
+                  (factor->exponent == 1 ? "" : "^" + std::to_string(factor->exponent)) +
+                  (factor->isPrime == 0 ? "? " : " ") +
+                  methods.at(static_cast<std::size_t>(factor->method));
+    const bool bySieve = factor->method == BIGNUM_SIEVE;
+    const bool byCurve = factor->method == BIGNUM_CURVE;
+    taken.countsFit = taken.countsFit && (factor->relations > 0) == bySieve &&
+                      (factor->columns > 0) == bySieve && (factor->curves > 0) == byCurve &&
+                      (factor->curveBound > 0) == byCurve &&
+                      factor->seconds >= factor->methodSeconds;
+    return ++taken.count < taken.most ? 1 : 0;
+}
+
+/// A number of so many digits that nothing splits within the effort: its two factors are primes of
+/// half as many digits each, or nearly.
+mpz_class outOfReach(unsigned digits)
+{
+    Random random(77);
+    return primeOfDigits(random, digits / 2) * primeOfDigits(random, digits - digits / 2);
+}
+
 } // namespace
 
 class TestBignumFactors : public QObject
@@ -322,45 +357,6 @@ private Q_SLOTS:
         QCOMPARE(child.exitCode(), 0);
     }
 };
-
-namespace {
-
-/// "2^3 division, 11 rho", with "?" after a composite.
-struct Taken
-{
-    std::string text;
-    std::size_t most = 1000; ///< factors to take
-    std::size_t count = 0;
-    bool countsFit = true; ///< what a method does not count is 0, and what it counts is not
-};
-
-int32_t take(const BignumFactor *factor, void *context)
-{
-    static const std::vector<std::string> methods{"itself", "division", "rho",
-                                                  "curve",  "sieve",    "root"};
-    Taken &taken = *static_cast<Taken *>(context);
-    taken.text += (taken.text.empty() ? "" : ", ") + std::string(factor->base) +
-                  (factor->exponent == 1 ? "" : "^" + std::to_string(factor->exponent)) +
-                  (factor->isPrime == 0 ? "? " : " ") +
-                  methods.at(static_cast<std::size_t>(factor->method));
-    const bool bySieve = factor->method == BIGNUM_SIEVE;
-    const bool byCurve = factor->method == BIGNUM_CURVE;
-    taken.countsFit = taken.countsFit && (factor->relations > 0) == bySieve &&
-                      (factor->columns > 0) == bySieve && (factor->curves > 0) == byCurve &&
-                      (factor->curveBound > 0) == byCurve &&
-                      factor->seconds >= factor->methodSeconds;
-    return ++taken.count < taken.most ? 1 : 0;
-}
-
-/// A number of so many digits that nothing splits within the effort: its two factors are primes of
-/// half as many digits each, or nearly.
-mpz_class outOfReach(unsigned digits)
-{
-    Random random(77);
-    return primeOfDigits(random, digits / 2) * primeOfDigits(random, digits - digits / 2);
-}
-
-} // namespace
 
 /// With an argument of its own the test is the process that ends while it factors.
 int main(int argc, char **argv)
