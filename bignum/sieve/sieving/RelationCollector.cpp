@@ -2,8 +2,7 @@
 
 #include "bignum/sieve/sieving/FamilySieve.h"
 
-#include <new>
-#include <system_error>
+#include <exception>
 #include <thread>
 
 namespace bignum::sieve {
@@ -11,7 +10,7 @@ namespace bignum::sieve {
 namespace {
 
 /// Relations that a thread gathers before it asks for the store.
-constexpr std::size_t kBatch = 64;
+constexpr std::size_t kBatch = 16;
 /// Blocks sieved (some 30 us each) between two looks at the clock.
 constexpr std::uint32_t kBlocksUnwatched = 16;
 
@@ -23,6 +22,7 @@ CollectOutcome RelationCollector::collect(RelationStore &store, std::size_t want
     Run run(store, wanted, stop);
     std::vector<std::thread> others;
     try {
+        others.reserve(threads);
         while (others.size() + 1 < threads)
             others.emplace_back([this, &run] { work(run); });
     } catch (const std::exception &) {
@@ -40,8 +40,8 @@ void RelationCollector::work(Run &run)
     CollectOutcome outcome = CollectOutcome::OutOfMemory;
     try {
         outcome = sieve(run);
-    } catch (const std::bad_alloc &) {
-        run.ended = true;
+    } catch (const std::exception &) {
+        run.ended = true; // nothing else than memory can fail here
     }
     const std::lock_guard lock(run.mutex);
     if (outcome != CollectOutcome::Exhausted && run.outcome != CollectOutcome::OutOfMemory)
