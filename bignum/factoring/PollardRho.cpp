@@ -32,39 +32,69 @@ Uint128 gcdOf(Uint128 a, Uint128 b)
     return toWord(gcd(toInteger(a), toInteger(b)));
 }
 
-/// One walk x -> x² + c, of about so many steps. Returns a divisor of n: n itself when the walk ran
-/// into all factors at once, 1 when it was too short.
+/// The walk x -> x^2 + c modulo n, and where it is.
+template <typename Modulus>
+class Walk
+{
+public:
+    using Residue = typename Modulus::Residue;
+
+    Walk(Residue n, unsigned c) : m_n(n), m_modulus(n), m_c(c), m_at(m_modulus.one()) {}
+
+    Residue at() const { return m_at; }
+
+    void advance(std::uint64_t steps)
+    {
+        for (; steps > 0; --steps)
+            m_at = m_modulus.add(m_modulus.multiply(m_at, m_at), m_c);
+    }
+
+    /// Goes so many steps on and gives what n has in common with the difference of one of them
+    /// from `place`: for the first such step, after which it stops, or 1. The differences are
+    /// multiplied together in batches, and a batch that hides a meeting is gone through again in
+    /// smaller ones.
+    Residue meet(Residue place, std::uint64_t steps, std::uint64_t batch)
+    {
+        for (; steps > 0; steps -= std::min(batch, steps)) {
+            const Residue start = m_at;
+            Residue product = m_modulus.one();
+            for (std::uint64_t i = std::min(batch, steps); i > 0; --i) {
+                advance(1);
+                product = m_modulus.multiply(product, m_modulus.subtract(m_at, place));
+            }
+            const Residue common = gcdOf(product, m_n);
+            if (common == 1)
+                continue;
+            // The product is in Montgomery's form, but the common divisor is the same.
+            if (batch == 1)
+                return common;
+            m_at = start;
+            return meet(place, std::min(batch, steps), batch / 16 + (batch < 16 ? 1 : 0));
+        }
+        return 1;
+    }
+
+private:
+    Residue m_n;
+    Modulus m_modulus;
+    unsigned m_c;
+    Residue m_at;
+};
+
+/// One walk of about so many steps. Returns a divisor of n: n itself when the walk ran into all
+/// factors at once, 1 when it was too short.
 template <typename Modulus>
 typename Modulus::Residue walk(typename Modulus::Residue n, unsigned c, std::uint64_t steps)
 {
-    using Residue = typename Modulus::Residue;
-    constexpr std::uint64_t batch = 128; // differences multiplied together between two gcds
-    const Modulus modulus(n);
-    const auto step = [&](Residue x) { return modulus.add(modulus.multiply(x, x), c); };
-
-    Residue fast = modulus.one();
+    constexpr std::uint64_t batch = 128;
+    Walk<Modulus> fast(n, c);
     // Up to the end of a round its length has been gone four times.
     for (std::uint64_t length = 1; length <= steps / 4; length *= 2) {
-        const Residue slow = fast;
-        for (std::uint64_t i = 0; i < length; ++i)
-            fast = step(fast);
-        for (std::uint64_t done = 0; done < length; done += batch) {
-            const Residue start = fast;
-            Residue product = modulus.one();
-            for (std::uint64_t i = std::min(batch, length - done); i > 0; --i) {
-                fast = step(fast);
-                product = modulus.multiply(product, modulus.subtract(fast, slow));
-            }
-            if (gcdOf(product, n) == 1)
-                continue;
-            // The batch hides the first meeting: go through it again one by one.
-            for (Residue x = start;;) {
-                x = step(x);
-                const Residue divisor = gcdOf(modulus.subtract(x, slow), n);
-                if (divisor != 1)
-                    return divisor;
-            }
-        }
+        const typename Modulus::Residue slow = fast.at();
+        fast.advance(length);
+        const typename Modulus::Residue divisor = fast.meet(slow, length, batch);
+        if (divisor != 1)
+            return divisor;
     }
     return 1;
 }

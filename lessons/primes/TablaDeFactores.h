@@ -24,7 +24,7 @@ struct TablaDeFactores
         EsCero,         ///< what was to be factored, which every prime divides
         EsNegativo,     ///< which trial division does not factor
         NoEsEntero,
-        Fallida ///< nothing is known of the factors
+        SinMemoria ///< the factors are those found by then
     };
 
     QString numero; ///< what was to be factored

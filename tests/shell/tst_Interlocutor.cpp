@@ -1,7 +1,6 @@
 #include "shell/frame/Evento.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QAbstractButton>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -9,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTreeView>
 #include <QUrl>
 #include <optional>

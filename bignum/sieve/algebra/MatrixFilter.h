@@ -24,6 +24,6 @@ FilteredMatrix filtered(SparseMatrix matrix, const StopSignal &stop);
 
 /// So many columns more than rows are kept: each is a dependency, and each dependency splits the
 /// number with a chance of at least one half.
-constexpr std::size_t kExcess = 40;
+constexpr std::size_t kExcess = 20;
 
 } // namespace bignum::sieve

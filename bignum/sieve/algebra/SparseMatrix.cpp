@@ -29,11 +29,11 @@ void reduceToOddOnes(std::vector<std::uint32_t> &list)
 
 bool isDependency(const SparseMatrix &matrix, const Dependency &columns)
 {
-    std::vector<bool> odd(matrix.rows);
+    std::vector<unsigned char> odd(matrix.rows); // bytes are quicker than bits
     for (const std::uint32_t column : columns)
         for (const std::uint32_t row : matrix.columns[column])
-            odd[row] = !odd[row];
-    return !columns.empty() && std::find(odd.begin(), odd.end(), true) == odd.end();
+            odd[row] ^= 1;
+    return !columns.empty() && std::find(odd.begin(), odd.end(), 1) == odd.end();
 }
 
 } // namespace bignum::sieve

@@ -89,6 +89,7 @@ Tarea<> FormPrimosFactorizacion::BtnFactoriza_Click()
 void FormPrimosFactorizacion::detiene()
 {
     ui->lblResultado->setText(Traduce(u"Detenida."_s));
+    ui->FlexFactores->ponTextoVacio(ui->lblResultado->text());
     m_boton->detiene();
 }
 
@@ -145,6 +146,8 @@ Tarea<> FormPrimosFactorizacion::factoriza(Algoritmo elegido, QString numero, Mo
             co_return;
         muestra(tabla);
     } catch (const ErrorEjecucion &) {
+        if (!marcha.vigente())
+            co_return;
         // It ends the event, and leaves the window as it stands.
         marcha.deja();
         throw;

@@ -3,6 +3,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/core/Rutas.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {

@@ -2,8 +2,9 @@
 
 #include <QString>
 #include <cerrno>
-#include <sys/stat.h>
 #include <utility>
+
+struct stat;
 
 /// An open file or folder of a POSIX system, closed when it goes out of scope. For the sources of
 /// this folder alone.

@@ -149,7 +149,7 @@ private Q_SLOTS:
         ponClave(u"257"_s, u"263"_s, u"5"_s);
         area(u"txtTextoOriginal"_s)->setPlainText(u"HOLA"_s);
         pulsa(u"cmdCodificar"_s);
-        const auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexTextoCodificado"_s);
+        auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexTextoCodificado"_s);
         QCOMPARE(rejilla->seleccion(FormaDeCopia::Texto).completa().texto,
                  u"Texto codificado\n57666\n43715\n51784\n23519\n"_s);
         area(u"txtTextoOriginal"_s)->clear();
