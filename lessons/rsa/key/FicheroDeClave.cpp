@@ -73,6 +73,14 @@ QString FicheroDeClave::rutaGuardada() const
     return {};
 }
 
+bool FicheroDeClave::esLarga() const
+{
+    // Five of its numbers are as long as the product of the primes.
+    constexpr qint64 bytes = 5000;
+    const QString ruta = rutaGuardada();
+    return !ruta.isEmpty() && QFileInfo(rutaExistente(ruta)).size() > bytes;
+}
+
 void FicheroDeClave::aparta() const
 {
     const QString ruta = rutaGuardada();

@@ -20,6 +20,9 @@ public:
     /// The path of the key that exists; empty when there is none.
     QString rutaGuardada() const;
 
+    /// Whether the key that exists has numbers whose test may take more than a moment.
+    bool esLarga() const;
+
     /// Copies the user's own key beside its file, if the file holds it. Throws ErrorEjecucion
     /// naming the copy when that cannot be done: the file is not to be overwritten then.
     void aparta() const;

@@ -16,10 +16,17 @@ namespace {
 
 const QString Geometria = u"Ventana/ClaveRSA"_s;
 
+QRect enPantalla(const QWidget *control)
+{
+    return {control->mapToGlobal(QPoint()), control->size()};
+}
+
 } // namespace
 
-FormClaveRSA::FormClaveRSA(QWidget *padre)
-    : QWidget(padre, Qt::Tool | Qt::WindowStaysOnTopHint), ui(std::make_unique<Ui::FormClaveRSA>())
+FormClaveRSA::FormClaveRSA(QWidget *padre, const QWidget *debajo)
+    : QWidget(padre, Qt::Tool | Qt::WindowStaysOnTopHint),
+      ui(std::make_unique<Ui::FormClaveRSA>()),
+      m_debajo(debajo)
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -38,7 +45,8 @@ void FormClaveRSA::ponCorresponsal(const QString &usuario, const ClsRSA &clave)
     ui->TxtDestT->setText(clave.t());
 }
 
-QPoint FormClaveRSA::lugarJunto(const QRect &leccion, const QRect &pantalla, const QSize &tamano)
+QPoint FormClaveRSA::lugarJunto(const QRect &leccion, const QRect &debajo, const QRect &pantalla,
+                                const QSize &tamano)
 {
     constexpr int hueco = Aspecto::Espacio;
     const QPoint lugares[] = {
@@ -51,10 +59,8 @@ QPoint FormClaveRSA::lugarJunto(const QRect &leccion, const QRect &pantalla, con
         if (pantalla.contains(QRect(lugar, tamano)))
             return lugar;
     }
-    const QPoint esquina(leccion.left() + Aspecto::Margen,
-                         leccion.bottom() - Aspecto::Margen - tamano.height());
-    return {std::max(esquina.x(), pantalla.left()),
-            std::min(esquina.y(), pantalla.bottom() - tamano.height())};
+    return {std::max(debajo.left(), pantalla.left()),
+            std::min(debajo.bottom(), pantalla.bottom()) - tamano.height()};
 }
 
 void FormClaveRSA::muestra()
@@ -68,12 +74,11 @@ void FormClaveRSA::muestra()
 void FormClaveRSA::coloca()
 {
     const QRect pantalla = screen()->availableGeometry();
-    const QWidget *leccion = parentWidget();
-    resize(std::min({sizeHint().width(), pantalla.width() / 3, leccion->width() / 2}),
+    resize(std::min({sizeHint().width(), pantalla.width() / 3, m_debajo->width()}),
            sizeHint().height());
     // The frame that the window manager adds is not known before the first time.
     const QSize conMarco = size() + QSize(Aspecto::Margen, 3 * Aspecto::Margen);
-    move(lugarJunto({leccion->mapToGlobal(QPoint()), leccion->size()}, pantalla, conMarco));
+    move(lugarJunto(enPantalla(parentWidget()), enPantalla(m_debajo), pantalla, conMarco));
 }
 
 void FormClaveRSA::hideEvent(QHideEvent *suceso)

@@ -17,7 +17,8 @@ class FormClaveRSA : public QWidget
     Q_OBJECT
 
 public:
-    explicit FormClaveRSA(QWidget *padre);
+    /// Where the screen has no room it stands over `debajo`, a part of `padre`.
+    FormClaveRSA(QWidget *padre, const QWidget *debajo);
     ~FormClaveRSA() override;
 
     /// Shows the key of a user: q(0), s, and t, which is empty where the student does not know it.
@@ -29,8 +30,9 @@ public:
 
     /// Where a window of that size covers nothing of the lesson that is being read: at its right,
     /// below it, at its left or above it, whichever is on the screen; else over the lower left
-    /// corner of the lesson, where the list of messages has room.
-    static QPoint lugarJunto(const QRect &leccion, const QRect &pantalla, const QSize &tamano);
+    /// corner of `debajo`.
+    static QPoint lugarJunto(const QRect &leccion, const QRect &debajo, const QRect &pantalla,
+                             const QSize &tamano);
 
     QString t() const;
 
@@ -46,5 +48,6 @@ private:
     void TxtDestT_Change();
 
     std::unique_ptr<Ui::FormClaveRSA> ui;
+    const QWidget *m_debajo;
     QRect m_puesta; ///< where it was put before the user could move it
 };

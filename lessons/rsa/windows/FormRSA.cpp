@@ -5,8 +5,10 @@
 #include "lessons/rsa/windows/FormRSAComun.h"
 #include "lessons/rsa/windows/FormRSAMensajes.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Interlocutor.h"
 #include "shell/look/Imagenes.h"
+
+#include <QScopeGuard>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,7 +37,11 @@ FormRSA::FormRSA(QWidget *padre)
     conecta(m_clave.get(), &ClsRSA::CambiaBuzon, this, &FormRSA::Clave_CambiaBuzon);
     conecta(m_panelClave, &FormRSAClave::validada, this, &FormRSA::actualizaBuzon);
     conecta(m_panelMensajes, &FormRSAMensajes::buzonPerdido, this, &FormRSA::actualizaBuzon);
-    evento(this, [this] { abre(); });
+    // A long key is tested once the window is there to say so.
+    if (m_clave->fichero().esLarga())
+        QTimer::singleShot(0, this, [this] { evento(this, [this] { abre(); }); });
+    else
+        evento(this, [this] { abre(); });
 }
 
 FormRSA::~FormRSA()
@@ -49,6 +55,12 @@ FormRSA::~FormRSA()
 
 void FormRSA::abre()
 {
+    const auto alFinal = qScopeGuard([this] { unsetCursor(); });
+    if (isVisible()) {
+        setCursor(Qt::WaitCursor);
+        m_panelClave->avisaDeEspera();
+        repaint();
+    }
     // A damaged key file is told, and does not keep the mailbox away.
     evento(this, [this] { recuperaClave(); });
     m_panelClave->muestraClave();
@@ -73,8 +85,20 @@ void FormRSA::Clave_ValidaClave(bool bien, const QString &mensaje)
     m_panelClave->muestraVeredicto(bien, mensaje);
     m_panelCodificacion->permiteCodificar(bien);
     if (!bien)
-        interlocutor().avisa(this, Interlocutor::Icono::Critico, abreviaNumeros(mensaje),
-                             Traduce(u"Error en la clave"_s));
+        avisa(Interlocutor::Icono::Critico, abreviaNumeros(mensaje),
+              Traduce(u"Error en la clave"_s));
+}
+
+/// A box finds its place over a window that is there: one that is being opened is waited for.
+void FormRSA::avisa(Interlocutor::Icono icono, const QString &texto, const QString &titulo)
+{
+    const auto muestra = [this, icono, texto, titulo] {
+        interlocutor().avisa(this, icono, texto, titulo);
+    };
+    if (isVisible())
+        muestra();
+    else
+        QTimer::singleShot(0, this, muestra);
 }
 
 void FormRSA::Clave_CambiaBuzon()

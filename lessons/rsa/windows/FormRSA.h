@@ -2,6 +2,7 @@
 
 #include "lessons/rsa/key/ClsRSA.h"
 #include "shell/frame/FormLeccion.h"
+#include "shell/frame/Interlocutor.h"
 
 #include <memory>
 
@@ -21,6 +22,7 @@ public:
 private:
     void abre();
     void recuperaClave();
+    void avisa(Interlocutor::Icono icono, const QString &texto, const QString &titulo);
     void actualizaBuzon();
     void Clave_ValidaClave(bool bien, const QString &mensaje);
     void Clave_CambiaBuzon();

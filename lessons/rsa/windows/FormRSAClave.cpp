@@ -158,15 +158,13 @@ void FormRSAClave::muestraDerivados()
 /// Says at each key what a validation would object to, before it is asked for.
 void FormRSAClave::muestraObjecion()
 {
-    const bool cabe = std::max({ui->txtQ_1->text().size(), ui->txtQ_2->text().size(),
-                                ui->txtS->text().size()}) <= CifrasAlVuelo;
     ClsRSA escrita(m_clave->sesion());
     escrita.ponr(m_clave->r());
     escrita.ponNBitsRequeridos(m_clave->NBitsRequeridos());
     escrita.ponq(1, ui->txtQ_1->text());
     escrita.ponq(2, ui->txtQ_2->text());
     escrita.pons(ui->txtS->text());
-    const QString objecion = cabe ? escrita.Objecion() : QString();
+    const QString objecion = esLarga() ? QString() : escrita.Objecion();
     if (!objecion.isEmpty()) {
         ponEstado(Estado::Mal, objecion);
         return;
@@ -179,9 +177,27 @@ void FormRSAClave::muestraObjecion()
                   : Traduce(u"Escriba dos primos, q(1) y q(2), y un número s primo con φ(q)."_s));
 }
 
+void FormRSAClave::avisaDeEspera()
+{
+    ponEstado(Estado::Neutro,
+              Traduce(u"Comprobando los primos. Con miles de cifras lleva unos segundos."_s));
+    repaint();
+}
+
+bool FormRSAClave::esLarga() const
+{
+    return std::max({ui->txtQ_1->text().size(), ui->txtQ_2->text().size(),
+                     ui->txtS->text().size()}) > CifrasAlVuelo;
+}
+
 void FormRSAClave::valida()
 {
+    if (esLarga()) {
+        setCursor(Qt::WaitCursor);
+        avisaDeEspera();
+    }
     const auto alFinal = qScopeGuard([this] {
+        unsetCursor();
         muestraDerivados();
         Q_EMIT validada();
     });

@@ -25,6 +25,8 @@ public:
 
     /// Fills the fields from the key.
     void muestraClave();
+    /// Says that the primes are being tested, which takes long for long ones.
+    void avisaDeEspera();
     /// Shows the verdict of a validation beneath the fields.
     void muestraVeredicto(bool bien, const QString &mensaje);
     /// Shows the mailbox folder, and whether the key can be published in it.
@@ -49,6 +51,7 @@ private:
     void muestraCalculados();
     void muestraEscrita();
     void muestraDerivados();
+    bool esLarga() const;
     void valida();
 
     void txtQ_Validate(int i);

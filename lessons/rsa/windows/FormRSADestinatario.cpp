@@ -11,14 +11,14 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-FormRSADestinatario::FormRSADestinatario(QComboBox *campo, QLabel *rotulo,
+FormRSADestinatario::FormRSADestinatario(QComboBox *campo, QLabel *rotulo, const QWidget *lista,
                                          std::shared_ptr<ClsRSA> clave, QWidget *panel)
     : QObject(panel),
       m_campo(campo),
       m_rotulo(rotulo),
       m_panel(panel),
       m_corresponsal(std::move(clave)),
-      m_ventanaClave(new FormClaveRSA(panel))
+      m_ventanaClave(new FormClaveRSA(panel, lista))
 {
     campo->setCurrentText({});
     // The field within has the focus, and screen readers tell its name.

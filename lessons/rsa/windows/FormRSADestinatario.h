@@ -16,9 +16,10 @@ class FormRSADestinatario : public QObject
     Q_OBJECT
 
 public:
-    /// `campo` and `rotulo` are parts of `panel`; `clave` is the student's own key.
-    FormRSADestinatario(QComboBox *campo, QLabel *rotulo, std::shared_ptr<ClsRSA> clave,
-                        QWidget *panel);
+    /// `campo`, `rotulo` and the list of messages are parts of `panel`; `clave` is the student's
+    /// own key.
+    FormRSADestinatario(QComboBox *campo, QLabel *rotulo, const QWidget *lista,
+                        std::shared_ptr<ClsRSA> clave, QWidget *panel);
 
     const QString &usuario() const { return m_corresponsal.usuario(); }
     Corresponsal &corresponsal() { return m_corresponsal; }

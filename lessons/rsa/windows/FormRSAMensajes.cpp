@@ -32,7 +32,7 @@ FormRSAMensajes::FormRSAMensajes(std::shared_ptr<ClsRSA> clave, QWidget *leccion
       m_enviar(corridaDe(ui->enviar, u"ENVIAR"_s, Traduce(u"Detener el envío"_s))),
       m_recibir(corridaDe(ui->recibir, u"RECIBIR"_s, Traduce(u"Detener la lectura"_s))),
       m_revisar(corridaDe(ui->revisar, u"REVISAR"_s, Traduce(u"Detener la revisión"_s))),
-      m_destinatario(ui->cmbDestinatario, ui->LabelTexto, m_clave, this),
+      m_destinatario(ui->cmbDestinatario, ui->LabelTexto, ui->FlexMensajes, m_clave, this),
       m_redaccion(ui->txtAsunto, ui->txtDestTextoOriginal, m_clave->sesion().carpetaDeAjustes(),
                   this)
 {

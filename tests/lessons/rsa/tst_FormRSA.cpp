@@ -1,4 +1,5 @@
 #include "bignum/gateway/ModBignum.h"
+#include "lessons/rsa/windows/FormRSAComun.h"
 #include "tests/lessons/rsa/support/VentanaRSA.h"
 
 /// The own key, and texts encrypted with it.
@@ -92,6 +93,8 @@ private Q_SLOTS:
         const QString q1 = PrimoSiguiente(u"1"_s + QString(200, u'0'));
         ponClave(q1, PrimoSiguiente(q1), u"2"_s);
         QVERIFY(Entorno::grabadora().unico().texto.endsWith(u"(401 cifras)"_s));
+        QCOMPARE(abreviaNumeros(QString(90, u'7')), QString(90, u'7'));
+        QVERIFY(abreviaNumeros(QString(91, u'7')).endsWith(u"(91 cifras)"_s));
     }
 
     void elNumeroDeCaracteres()
@@ -194,7 +197,8 @@ private Q_SLOTS:
         QFETCH(QRect, leccion);
         const QRect pantalla(0, 0, 1366, 768);
         const QSize tamano(312, 212);
-        const QRect lugar(FormClaveRSA::lugarJunto(leccion, pantalla, tamano), tamano);
+        const QRect lista(leccion.adjusted(20, 90, -leccion.width() / 2, -80));
+        const QRect lugar(FormClaveRSA::lugarJunto(leccion, lista, pantalla, tamano), tamano);
         QVERIFY(pantalla.contains(lugar));
         QTEST(!lugar.intersects(leccion), "cabeFuera");
         QVERIFY(!lugar.intersects(leccion) || lugar.right() < leccion.center().x());

@@ -170,6 +170,7 @@ private Q_SLOTS:
         QVERIFY(QFile::rename(copia + u".aparte"_s, copia));
         escribeArchivo(m_yo->ficheroPrivado(), ajena);
         abre();
+        QTRY_COMPARE(Entorno::grabadora().mensajes.size(), 1);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"Clave recuperada"_s);
         QCOMPARE(Estudiante::lee(m_yo->ficheroPrivado()), propia);
         QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
