@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Plants small faults, one at a time, and looks whether the tests notice. Usage:
-#   scripts/mutate.sh [-j JOBS] [-f FOLDER] [-m TEXT] [-n]
+#   scripts/mutate.sh [-j JOBS] [-f FOLDER] [-m REGEX] [-n]
 # -f takes the faults of one folder of scripts/mutants.txt and those below it, -m the ones whose
-# title holds TEXT; -n only looks whether each fault can be planted, in seconds. All of them take
+# title matches REGEX; -n only looks whether each fault can be planted, in seconds. All of them take
 # about an hour on two cores. Works on a copy of the sources in build/mutants, which also keeps a log
 # of each fault. Fails when a fault lives that a user could notice, and when one cannot be planted.
 set -euo pipefail
@@ -180,7 +180,7 @@ principal() {
     [ -n "$solo_mira" ] || prepara_copia
     for i in "${!titulos[@]}"; do
         [[ -z $solo_carpeta || ${carpetas[i]} == "$solo_carpeta" || ${carpetas[i]} == "$solo_carpeta"/* ]] || continue
-        [[ ${carpetas[i]}/${titulos[i]} == *"$solo_titulo"* ]] || continue
+        [[ ${carpetas[i]}/${titulos[i]} =~ $solo_titulo ]] || continue
         if [ -z "$solo_mira" ] && [ "${carpetas[i]}" != "$anterior" ]; then
             prepara_carpeta "${carpetas[i]}"
             anterior=${carpetas[i]}

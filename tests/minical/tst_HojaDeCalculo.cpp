@@ -279,6 +279,18 @@ private Q_SLOTS:
     }
 
     /// Whatever is done, undoing all of it leads back through the same sheets.
+    /// What comes back has its old place, and what is new comes behind all.
+    void loQueVuelveNoQuitaElSitioANadie()
+    {
+        HojaDeCalculo hoja;
+        entra(hoja, u"A1", u"5"_s);
+        entra(hoja, u"A2", u"7"_s);
+        hoja.borra({en(u"A1")});
+        hoja.deshace();
+        entra(hoja, u"B1", u"1"_s);
+        QCOMPARE(nombres(hoja.Variables()), QStringList({u"A1"_s, u"A2"_s, u"B1"_s}));
+    }
+
     void deshacerAlAzar()
     {
         QRandomGenerator azar(8);

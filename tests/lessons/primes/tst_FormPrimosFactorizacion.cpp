@@ -230,6 +230,18 @@ private Q_SLOTS:
         QCOMPARE(mostrados(), u"2|1 3|1 5|1"_s);
     }
 
+    /// What a run had found when it was stopped does not come into the next one.
+    void loDeUnaCorridaParadaNoSaleEnOtra()
+    {
+        correElIngenuo();
+        QTest::qWait(30);
+        m_boton->click();
+        correElIngenuo();
+        QTest::qWait(30);
+        QCOMPARE(mostrados(), QString());
+        m_boton->click();
+    }
+
     /// Two clicks before the first of the yields: the later one counts.
     void dosClicsSeguidos()
     {
