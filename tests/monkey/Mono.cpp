@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTest>
@@ -116,7 +117,8 @@ QString Mono::actua()
 
 void Mono::respondeCaja(QWidget *caja)
 {
-    auto *boton = alguno<QAbstractButton>(caja);
+    // The dialogs that are Qt's own execute others inside: they are closed and no more.
+    auto *boton = qobject_cast<QMessageBox *>(caja) ? alguno<QAbstractButton>(caja) : nullptr;
     if (boton && esPulsable(boton) && numero(3) > 0) {
         anota(u"answers \"%1\" in \"%2\""_s.arg(boton->text(), caja->windowTitle()));
         QTest::mouseClick(boton, Qt::LeftButton);
@@ -170,10 +172,15 @@ void Mono::escribe()
         return;
     anota(u"types \"%1\" into %2"_s.arg(texto, campo->objectName()));
     campo->setFocus();
+    const bool entrega = numero(2) == 0;
+    // A box may come up in the midst of it; what is typed then goes to the box.
+    const QPointer<QWidget> vivo = campo;
     QTest::keyClick(campo, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(campo, Qt::Key_Delete);
-    QTest::keyClicks(campo, texto);
-    if (numero(2) == 0)
+    for (const QChar letra : texto) {
+        if (vivo && !QApplication::activeModalWidget())
+            QTest::sendKeyEvent(QTest::Click, campo, Qt::Key_unknown, QString(letra), {});
+    }
+    if (entrega && vivo && !QApplication::activeModalWidget())
         QTest::keyClick(campo, Qt::Key_Return);
 }
 
