@@ -184,6 +184,7 @@ private Q_SLOTS:
         m->entra(u"A1", u"5"_s);
         Entorno::grabadora().guardados = {Guardado::Descartar};
         QVERIFY(m->ventana()->close());
+        m.reset();
         m = std::make_unique<VentanaDePrueba>();
         QCoreApplication::processEvents();
         QCOMPARE(Entorno::grabadora().confirmaciones, QStringList());

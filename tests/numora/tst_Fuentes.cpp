@@ -39,7 +39,6 @@ private Q_SLOTS:
         regla("nothing is executed that can be awaited", todos,
               u"(menu|caja|dialogo)\\w*(\\.|->)exec\\(|Q(MessageBox|FileDialog|InputDialog)::"
               u"(information|warning|critical|question|get\\w+)\\("_s);
-        regla("no pointer that stands over boxes", todos, u"setOverrideCursor"_s);
         regla("coroutines hide from the meta-object compiler", todos, u"#include <coroutine>"_s,
               u"^shell/core/run/Corrutina\\.h$"_s);
         regla("the failure text is compared in one place", u"^(shell|lessons|minical)/"_s,

@@ -97,7 +97,8 @@ private Q_SLOTS:
         escribe(u".numora-1a.tmp"_s, 25);
         escribe(u".numora-1b.tmp"_s, 23);
         escribe(u".numora-1c.msg"_s, 25);
-        QVERIFY(QFile::link(u"/etc/hostname"_s, carpeta.filePath(u".numora-1d.tmp"_s)));
+        QVERIFY(QFile::link(carpeta.filePath(u".numora-1c.msg"_s),
+                            carpeta.filePath(u".numora-1d.tmp"_s)));
         barreRestos(carpeta.path(), u".numora-*.tmp"_s);
         barreRestos(u"/no/hay"_s, u"*"_s);
         QCOMPARE(carpeta.entryList({u".numora*"_s}, QDir::AllEntries | QDir::Hidden),

@@ -167,6 +167,7 @@ private Q_SLOTS:
                                                      {2, 2, QString(20'000'000, u'1')}}) {
             modelo.pon(filas, columnas, celda);
             copia();
+            QTRY_COMPARE(Entorno::grabadora().mensajes.size(), 1);
             QCOMPARE(Entorno::grabadora().unico().titulo, u"No se ha copiado"_s);
         }
         modelo.pon(5'000'000, 1, u"1"_s); // the most that fits

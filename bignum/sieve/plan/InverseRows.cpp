@@ -4,6 +4,10 @@ namespace bignum::sieve {
 
 namespace {
 
+/// Inverses kept by a thread: 4 MB. Where the base is so large that all of its rows take more, they
+/// are soon made beside the sieving of a family.
+constexpr std::size_t kMostKept = 1U << 20;
+
 /// The inverses of 1 .. q-1 modulo the prime q, each from a smaller one: q = i·d + r gives
 /// 1/i = -d/r.
 std::vector<std::uint32_t> inversesModulo(std::uint32_t q)
@@ -14,24 +18,30 @@ std::vector<std::uint32_t> inversesModulo(std::uint32_t q)
     return inverse;
 }
 
+AlignedVector<std::uint32_t> inverseRow(const FactorBase &base, std::size_t places, std::uint32_t q)
+{
+    const std::vector<std::uint32_t> inverse = inversesModulo(q);
+    AlignedVector<std::uint32_t> row(places);
+    for (std::size_t i = kFirstOddPrime; i < base.size(); ++i) {
+        const std::uint32_t p = base.primes[i];
+        if (p == q)
+            continue;
+        // p·t = -1 modulo q makes p·t + 1 divisible by q; the quotient is 1/q modulo p.
+        const std::uint32_t t = q - inverse[p % q];
+        row[i] = static_cast<std::uint32_t>((std::uint64_t{p} * t + 1) / q);
+    }
+    return row;
+}
+
 } // namespace
 
 const std::uint32_t *InverseRows::row(std::uint32_t index)
 {
-    const auto [place, isNew] = m_rows.try_emplace(index);
-    AlignedVector<std::uint32_t> &row = place->second;
-    if (!isNew && !row.empty())
-        return row.data();
-    const std::uint32_t q = m_base.primes[index];
-    const std::vector<std::uint32_t> inverse = inversesModulo(q);
-    AlignedVector<std::uint32_t> fresh(m_places);
-    for (std::size_t i = kFirstOddPrime; i < m_base.size(); ++i) {
-        // p·t = -1 modulo q makes p·t + 1 divisible by q; the quotient is 1/q modulo p.
-        const std::uint32_t p = m_base.primes[i];
-        const std::uint32_t t = q - inverse[p % q];
-        fresh[i] = p == q ? 0 : static_cast<std::uint32_t>((std::uint64_t{p} * t + 1) / q);
-    }
-    row = std::move(fresh);
+    if (m_rows.size() * m_places > kMostKept)
+        m_rows.clear();
+    AlignedVector<std::uint32_t> &row = m_rows[index];
+    if (row.empty())
+        row = inverseRow(m_base, m_places, m_base.primes[index]);
     return row.data();
 }
 

@@ -16,19 +16,21 @@ struct Row
     double largePrimeFactor;
     double cofactorExponent;
     double firstSieved;
-    double smallPrimesShare;
+    double unsievedFactor;
 };
 
-constexpr std::array<Row, 11> kTable{{
-    {50, 50, 1, 20, 0, 5, 2},
-    {80, 100, 1, 30, 0, 11, 2},
-    {100, 180, 1, 30, 0, 20, 2},
-    {132, 500, 1, 45, 0, 50, 2.5},
+constexpr std::array<Row, 13> kTable{{
+    {50, 40, 1, 5, 0, 6, 0.5},
+    {66, 57, 1, 6, 0, 9, 0.55},
+    {83, 116, 1, 18, 0, 12, 0.7},
+    {100, 170, 1, 20, 0, 31, 0.95},
+    {116, 280, 1, 30, 0, 55, 1.4},
+    {132, 700, 1, 39, 0, 90, 1.3},
     {149, 900, 1, 40, 0, 80, 2.5},
     {167, 1700, 1, 40, 0, 110, 2.5},
     {184, 2700, 1, 50, 0, 230, 2.5},
     {200, 5250, 1, 55, 0, 400, 2.5},
-    {215, 9000, 1, 70, 0, 400, 2.5},
+    {215, 8500, 1, 80, 0, 450, 2.5},
     {240, 17500, 2, 80, 0, 400, 2.5},
     {265, 45000, 4, 100, 0, 400, 2.5},
 }};
@@ -58,7 +60,7 @@ Parameters parametersFor(std::size_t bits)
             value(&Row::largePrimeFactor),
             high->cofactorExponent,
             static_cast<std::uint32_t>(value(&Row::firstSieved)),
-            value(&Row::smallPrimesShare)};
+            value(&Row::unsievedFactor)};
 }
 
 } // namespace bignum::sieve

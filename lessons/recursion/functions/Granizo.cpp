@@ -26,6 +26,11 @@ QString siguienteGranizo(const QString &h)
     return Evalua(expresion);
 }
 
+qsizetype cifrasDe(const QString &valor)
+{
+    return std::count_if(valor.begin(), valor.end(), [](QChar c) { return c.isDigit(); });
+}
+
 void HistoriaGranizo::Tramo::agrega(const QString &valor)
 {
     if (valores.size() == LongitudDeTramo) {

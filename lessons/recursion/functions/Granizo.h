@@ -14,6 +14,9 @@
 /// is no whole number, or when the result is too long for the big-number service.
 QString siguienteGranizo(const QString &h);
 
+/// How many digits a value has; none where it is no number.
+qsizetype cifrasDe(const QString &valor);
+
 /// The values of a hailstone sequence, by their step. Memory is bounded however long the sequence
 /// and its numbers grow: of the values only every so many are kept, and those between are computed
 /// again when they are looked at; of a sequence that does not end only the last steps are kept.

@@ -28,8 +28,9 @@ QVariant ModeloGranizo::data(const QModelIndex &indice, int papel) const
     if (indice.column() == Paso)
         return QString::number(paso);
     const QString valor = m_historia->valor(paso);
-    return papel == Qt::DisplayRole ? valor
-                                    : Traduce(u"Cifras: %1"_s).arg(formatoEntero(valor.size()));
+    return papel == Qt::DisplayRole
+               ? valor
+               : Traduce(u"Cifras: %1"_s).arg(formatoEntero(qint64{cifrasDe(valor)}));
 }
 
 QVariant ModeloGranizo::headerData(int seccion, Qt::Orientation orientacion, int papel) const

@@ -236,10 +236,27 @@ private Q_SLOTS:
         QVERIFY2(entera.match(hallazgos.join(u';')).hasMatch(), qPrintable(hallazgos.join(u';')));
     }
 
-    void loQueNoEsEnteroNoTieneFactores()
+    /// What is no whole number, and what is too large to be split: neither has "no factors".
+    void otrosDesenlaces_data()
     {
-        for (const QString &texto : {u"1/2"_s, u"25/2"_s})
-            QCOMPARE(avanzado(texto), u"desenlace %1"_s.arg(TablaDeFactores::NoEsEntero));
+        QTest::addColumn<QString>("expresion");
+        QTest::addColumn<int>("desenlace");
+        QTest::addColumn<QString>("primeros");
+        using T = TablaDeFactores;
+        QTest::newRow("half") << u"1/2"_s << int(T::NoEsEntero) << QString();
+        QTest::newRow("fraction") << u"25/2"_s << int(T::NoEsEntero) << QString();
+        QTest::newRow("9000 digits")
+            << u"(10^9000-1)/9*7"_s << int(T::QuedaCompuesto) << u"3² · 7² · 11 · "_s;
+        QTest::newRow("9002 digits") << u"2*(10^9000+1)"_s << int(T::QuedaCompuesto) << u"2 · "_s;
+    }
+    void otrosDesenlaces()
+    {
+        QFETCH(QString, primeros);
+        QFETCH(QString, expresion);
+        const TablaDeFactores tabla = factorizaGrande(Evalua(expresion));
+        QTEST(int(tabla.desenlace), "desenlace");
+        QVERIFY2(tabla.producto().startsWith(primeros), qPrintable(tabla.producto().left(80)));
+        QVERIFY(tabla.filas.isEmpty() || !tabla.filas.last().primo);
     }
 };
 

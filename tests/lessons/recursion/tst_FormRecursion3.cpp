@@ -194,6 +194,7 @@ private Q_SLOTS:
         QCOMPARE(resultado->palette().color(QPalette::Text), resalte);
         QVERIFY(aviso->text().startsWith(u"El valor inicial no es una expresión"_s));
         largo(u"TxtCapInicial"_s)->setText(u"mod 2"_s);
+        QCOMPARE(aviso->text(), QString());
         corre(u"cmdCap"_s);
         QCOMPARE(Entorno::grabadora().unico().texto, u"Argumento no válido."_s);
     }

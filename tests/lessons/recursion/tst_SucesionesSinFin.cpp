@@ -185,6 +185,10 @@ private Q_SLOTS:
         QCOMPARE(modelo.rowCount(), 3);
         QCOMPARE(modelo.index(2, ModeloGranizo::Paso).data().toString(), u"2"_s);
         QCOMPARE(modelo.index(2, ModeloGranizo::Valor).data().toString(), u"10"_s);
+        QCOMPARE(modelo.index(2, ModeloGranizo::Valor).data(Qt::ToolTipRole).toString(),
+                 u"Cifras: 2"_s);
+        QCOMPARE(cifrasDe(u"-14"_s), 2);
+        QCOMPARE(cifrasDe(u"Error"_s), 0);
         modelo.pon(propia);
         QCOMPARE(modelo.rowCount(), 0);
     }

@@ -131,7 +131,7 @@ void FormRecursion3Ackermann::ponEnMarcha()
 
 void FormRecursion3Ackermann::muestraFin(Ack::Llamada llamada, std::int32_t valor)
 {
-    muestraAvance();
+    m_modelo.publica();
     if (m_ack->rendido()) {
         interlocutor().avisa(this, Interlocutor::Icono::Exclamacion,
                              Traduce(u"Demasiados cálculos."_s), Traduce(u"Me rindo"_s));
@@ -143,9 +143,10 @@ void FormRecursion3Ackermann::muestraFin(Ack::Llamada llamada, std::int32_t valo
 /// However the run ended, the grid shows all that it found and the window is at rest.
 void FormRecursion3Ackermann::termina()
 {
-    m_modelo.publica();
-    if (m_reloj.isValid())
+    if (m_ack) {
+        muestraAvance();
         TimerAck_Timer();
+    }
     m_timerAck.stop();
     m_pantalla.stop();
     ui->imgAck->hide();

@@ -66,6 +66,9 @@ void FormRecursion3Capicuas::preparaRejilla()
 void FormRecursion3Capicuas::TxtCapInicial_Change()
 {
     ui->cmdCap->setEnabled(!ui->TxtCapInicial->text().trimmed().isEmpty());
+    // Why a start was refused is no word about another.
+    if (m_capicua && m_capicua->numSumas() == 0)
+        ui->lblAvance->clear();
 }
 
 void FormRecursion3Capicuas::cmdCap_Click()

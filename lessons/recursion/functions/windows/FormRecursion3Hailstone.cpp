@@ -109,9 +109,11 @@ void FormRecursion3Hailstone::muestraAvance()
     m_modelo.publica();
     if (alFinal)
         ui->FlexHail->scrollToBottom();
-    ui->lblAvance->setText(Traduce(u"Paso: %1 · Cifras: %2"_s)
-                               .arg(formatoEntero(m_historia->ultimo()),
-                                    formatoEntero(m_historia->valor(m_historia->ultimo()).size())));
+    const qint64 cifras = cifrasDe(m_historia->valor(m_historia->ultimo()));
+    ui->lblAvance->setText(
+        cifras == 0 ? QString()
+                    : Traduce(u"Paso: %1 · Cifras: %2"_s)
+                          .arg(formatoEntero(m_historia->ultimo()), formatoEntero(cifras)));
 }
 
 void FormRecursion3Hailstone::muestraCurva()
