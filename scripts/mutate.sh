@@ -29,7 +29,7 @@ done
 carpetas=() ficheros=() titulos=() originales=() cambios=() razones=()
 declare -A pruebas
 lee_lista() {
-    local carpeta= linea n=-1
+    local carpeta='' linea n=-1
     while IFS= read -r linea; do
         case $linea in
         '' | '#'*) ;;
@@ -46,7 +46,7 @@ lee_lista() {
             carpetas[n]=$carpeta
             ficheros[n]=$carpeta/${linea%%: *}
             titulos[n]=$linea
-            originales[n]= cambios[n]= razones[n]=
+            originales[n]='' cambios[n]='' razones[n]=''
             ;;
         esac
     done <"$lista"
@@ -123,12 +123,15 @@ juzga() {
 
 # The tests of the unchanged folder must pass; sets `limite`, what a fault may take.
 prepara_carpeta() {
-    local antes=$SECONDS registro=$copia/logs/${1//\//_}
-    construye "${pruebas[$1]}" "$registro.build" && antes=$SECONDS &&
-        prueba "${pruebas[$1]}" 900 "$registro.test" || {
+    local antes=$SECONDS registro=$copia/logs/${1//\//_} bien=
+    if construye "${pruebas[$1]}" "$registro.build"; then
+        antes=$SECONDS
+        prueba "${pruebas[$1]}" 900 "$registro.test" && bien=1
+    fi
+    if [ -z "$bien" ]; then
         echo "$1: the tests of the unchanged sources fail, see $registro.*" >&2
         exit 1
-    }
+    fi
     limite=$((30 + 4 * (SECONDS - antes)))
 }
 
@@ -172,9 +175,10 @@ prepara_copia() {
 
 # In a function, so that the script may be edited while it runs.
 principal() {
-    local i anterior= resumen
+    local i anterior='' resumen
     lee_lista
     resumen=$(mktemp)
+    # shellcheck disable=SC2064
     trap "restaura; rm -f '$resumen'" EXIT
     trap 'exit 130' INT TERM HUP
     [ -n "$solo_mira" ] || prepara_copia
@@ -191,6 +195,6 @@ principal() {
     [ -n "$solo_mira" ] || tabla "$resumen"
 }
 
-raiz=. plantado= contenido= limite=0 veredicto= fallo=0
+raiz=. plantado='' contenido='' limite=0 veredicto='' fallo=0
 principal
 exit $fallo

@@ -123,6 +123,7 @@ private Q_SLOTS:
         QTest::newRow("argument at the cut-off") << 0 << 5000 << 5000 << 5001 << 5001 << 1;
         QTest::newRow("argument beyond: the grid grows first")
             << 0 << 6000 << 5000 << 0 << 6001 << 1;
+        QTest::newRow("m at the cut-off") << 2 << 0 << 2 << 3 << 3 << 3;
         QTest::newRow("m beyond") << 9 << 2 << 8 << 0 << 3 << 10;
         QTest::newRow("just enough inside") << 3 << 5 << 252 << 253 << 253 << 4;
         QTest::newRow("one too few inside") << 3 << 5 << 251 << 0 << 253 << 4;
@@ -170,8 +171,9 @@ private Q_SLOTS:
         Prueba prueba(INT_MAX);
         QCOMPARE(prueba.calcula(1, 999'998), 1'000'000);
         QCOMPARE(prueba.memoria->filas(), MemoriaAck::MaximoDeLineas);
-        for (const auto &[m, n] : {std::pair(1, 999'999), std::pair(4, 2), std::pair(0, INT_MAX),
-                                   std::pair(INT_MAX, 0), std::pair(6, 6)}) {
+        for (const auto &[m, n] :
+             {std::pair(1, 999'999), std::pair(4, 2), std::pair(0, INT_MAX), std::pair(INT_MAX, 0),
+              std::pair(6, 6), std::pair(MemoriaAck::MaximoDeLineas, 0)}) {
             Prueba otra(INT_MAX);
             try {
                 otra.calcula(m, n);
