@@ -3,7 +3,9 @@
 #include "lessons/recursion/functions/Ack.h"
 #include "lessons/recursion/functions/Capicua.h"
 #include "lessons/recursion/functions/Granizo.h"
+#include "shell/core/run/Tareas.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <algorithm>
 #include <chrono>
@@ -30,18 +32,29 @@ struct Snapshot
     qint64 digits;
 };
 
-/// Keeps a snapshot of every yield and stops the run at a length.
+/// Does a run with the event loop that it yields to, keeps a snapshot of every yield, and stops it
+/// at a length.
 class Recorder
 {
 public:
     using State = std::function<Snapshot()>;
 
     Recorder(State state, std::function<bool(const Snapshot &)> isEnd)
-        : m_state(std::move(state)), m_isEnd(std::move(isEnd)), m_run([this] { yield(); })
+        : m_state(std::move(state)), m_isEnd(std::move(isEnd))
     {
     }
 
-    Corrida &run() { return m_run; }
+    template <typename End>
+    void record(const std::function<Tarea<End>(Billete)> &run)
+    {
+        Tareas tasks([](const std::exception_ptr &error) { std::rethrow_exception(error); });
+        tasks.lanza(forget(run(tasks.billete())));
+        while (!tasks.vacias()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            if (yielded())
+                tasks.detener();
+        }
+    }
 
     /// Microseconds a step while the numbers had about that many digits.
     double microseconds(qint64 digits) const
@@ -68,20 +81,24 @@ private:
     using Clock = std::chrono::steady_clock;
     using Seconds = std::chrono::duration<double>;
 
-    void yield()
+    template <typename End>
+    static Tarea<> forget(Tarea<End> run)
+    {
+        static_cast<void>(co_await run);
+    }
+
+    bool yielded()
     {
         Snapshot now = m_state();
         now.seconds = busySeconds() - m_start;
         m_snapshots << now;
         m_longestWait = std::max(m_longestWait, Seconds(Clock::now() - m_lastYield));
         m_lastYield = Clock::now();
-        if (m_isEnd(now))
-            m_run.detener();
+        return m_isEnd(now);
     }
 
     State m_state;
     std::function<bool(const Snapshot &)> m_isEnd;
-    Corrida m_run;
     double m_start = busySeconds();
     QList<Snapshot> m_snapshots;
     Clock::time_point m_lastYield = Clock::now();
@@ -123,21 +140,23 @@ void table(const char *title, const Recorder &recorder, QString (*peer)(const QS
 
 void hailstone(qint64 digits, const QList<qint64> &lengths)
 {
-    HistoriaGranizo history;
+    const auto history = std::make_shared<HistoriaGranizo>();
     Recorder recorder(
         [&] {
-            return Snapshot{0, history.ultimo(), history.valor(history.ultimo()).size()};
+            return Snapshot{0, history->ultimo(), history->valor(history->ultimo()).size()};
         },
         [](const Snapshot &) { return false; });
     const double start = busySeconds();
-    correGranizo(u"2718281828459045"_s.repeated(digits / 16), history, recorder.run());
+    recorder.record<FinDeGranizo>([&](const Billete &ticket) {
+        return correGranizo(u"2718281828459045"_s.repeated(digits / 16), history, ticket);
+    });
     const double seconds = busySeconds() - start;
     const QString title =
         u"hailstone from %1 digits: %2 steps in %3 s, history %4 MB, longest time "
         "between two yields %5 ms"_s.arg(digits)
-            .arg(history.ultimo())
+            .arg(history->ultimo())
             .arg(seconds, 0, 'f', 2)
-            .arg(static_cast<double>(history.bytes()) / 1e6, 0, 'f', 1)
+            .arg(static_cast<double>(history->bytes()) / 1e6, 0, 'f', 1)
             .arg(recorder.longestWait(), 0, 'f', 1);
     table(qPrintable(title), recorder, gmp::hailstoneStep, lengths);
 }
@@ -150,7 +169,8 @@ void palindrome(qint64 digits, const QList<qint64> &lengths)
             return Snapshot{0, search.numSumas(), search.actual().size()};
         },
         [&](const Snapshot &now) { return now.digits >= digits; });
-    search.busca(u"196"_s, recorder.run());
+    recorder.record<Capicua::Fin>(
+        [&](const Billete &ticket) { return search.busca(u"196"_s, ticket); });
     const QString title = u"\npalindrome of 196 to %1 digits: %2 additions in %3 s, longest time "
                           "between two yields %4 ms"_s.arg(search.actual().size())
                               .arg(search.numSumas())
@@ -159,19 +179,27 @@ void palindrome(qint64 digits, const QList<qint64> &lengths)
     table(qPrintable(title), recorder, gmp::palindromeStep, lengths);
 }
 
+Tarea<> evaluate(std::shared_ptr<Ack> ack, int m, int n, std::int32_t &value)
+{
+    value = co_await ack->calcula(m, n);
+}
+
 void ackermann(int m, int n)
 {
     double ours = std::numeric_limits<double>::max();
     double direct = ours;
     std::int64_t calls = 0;
     for (int round = 0; round < 9; ++round) {
-        MemoriaAck memory(1, 1);
-        Corrida run{Corrida::Cesion()};
-        Ack ack(memory, run, MemoriaAck::MaximoDeLineas);
+        Tareas tasks([](const std::exception_ptr &error) { std::rethrow_exception(error); });
+        const auto ack = std::make_shared<Ack>(std::make_shared<MemoriaAck>(1, 1),
+                                               MemoriaAck::MaximoDeLineas, tasks.billete());
+        std::int32_t value = 0;
         double start = busySeconds();
-        const int value = ack.calcula(m, n);
+        tasks.lanza(evaluate(ack, m, n, value));
+        while (!tasks.vacias())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         ours = std::min(ours, busySeconds() - start);
-        calls = ack.numLlamadas();
+        calls = ack->numLlamadas();
         RecursiveAck recursive;
         start = busySeconds();
         const int expected = recursive(m, n);
@@ -186,8 +214,9 @@ void ackermann(int m, int n)
 
 } // namespace
 
-int main()
+int main(int argc, char *argv[])
 {
+    const QCoreApplication application(argc, argv);
     hailstone(2000, {100, 200, 500, 1000, 2000});
     hailstone(8000, {1000, 2000, 4000, 8000});
     palindrome(10'000, {500, 1000, 2000, 5000, 10'000});
@@ -196,5 +225,6 @@ int main()
     ackermann(2, 1000);
     ackermann(3, 9);
     ackermann(4, 1);
+    ackermann(2, 20'000);
     return 0;
 }

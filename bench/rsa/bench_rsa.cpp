@@ -4,8 +4,8 @@
 #include "lessons/rsa/key/ClsRSA.h"
 #include "lessons/rsa/key/TextoEnBloques.h"
 #include "lessons/rsa/mailbox/Buzon.h"
-#include "lessons/rsa/mailbox/ColMensajes.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/run/Tareas.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -72,15 +72,16 @@ QString randomText()
 void benchTexts(ClsRSA &key, std::int16_t r, double bound)
 {
     const QString text = randomText();
-    Corrida run{Corrida::Cesion{}};
     key.ponr(r);
-    const QStringList numbers = bloquesDeTexto(text, r);
-    const QStringList blocks = key.Codifica(text, run);
+    QStringList numbers;
+    for (PaquetesDeTexto packets(text, r); packets.hay();)
+        numbers << packets.siguiente();
+    const QStringList blocks = key.Codifica(text, {}).completa();
     row(
-        u"encrypt 10 000 characters, r = %1"_s.arg(r), [&] { key.Codifica(text, run); },
+        u"encrypt 10 000 characters, r = %1"_s.arg(r), [&] { key.Codifica(text, {}).completa(); },
         [&] { barePowers(numbers, key.s(), key.q(0)); }, bound);
     row(
-        u"decrypt them, r = %1"_s.arg(r), [&] { key.DesCodifica(blocks, run); },
+        u"decrypt them, r = %1"_s.arg(r), [&] { key.DesCodifica(blocks, {}).completa(); },
         [&] { barePowers(blocks, key.t(), key.q(0)); }, 1.2);
 }
 
@@ -113,28 +114,38 @@ void bareScan(const QDir &mailbox)
     }
 }
 
+Tarea<> scan(QString mailbox, Billete ticket)
+{
+    const RevisionDeBuzon met = co_await revisaBuzon(mailbox, ticket);
+    if (met.mensajes.Count() != kMessages)
+        qFatal("messages were lost");
+}
+
+/// How long the event loop is kept waiting by a scan.
+double longestTurn(const QString &mailbox)
+{
+    Tareas tasks([](const std::exception_ptr &) { qFatal("the scan failed"); });
+    double longest = 0;
+    tasks.lanza(scan(mailbox, tasks.billete()));
+    while (!tasks.vacias())
+        longest = std::max(longest, timeOf([] { QCoreApplication::processEvents(); }));
+    return longest;
+}
+
 void benchScan()
 {
     const QTemporaryDir folder;
     const QDir mailbox(folder.path());
     fillMailbox(mailbox);
-    Clock::time_point last;
-    double longest = 0;
-    Corrida run([&] {
-        longest = std::max(longest, Milliseconds(Clock::now() - last).count());
-        last = Clock::now();
-    });
-    ColMensajes messages;
+    qsizetype met = 0;
     row(
         u"scan a mailbox of 10 000 messages"_s,
-        [&] {
-            last = Clock::now();
-            revisaBuzon(mailbox.path(), messages, run);
-        },
+        [&] { met = revisaBuzon(mailbox.path(), {}).completa().mensajes.Count(); },
         [&] { bareScan(mailbox); }, 3.0);
-    if (messages.Count() != kMessages)
+    if (met != kMessages)
         qFatal("messages were lost");
-    std::printf("\nLongest time between two yields of the scan: %.1f ms\n", longest);
+    std::printf("\nLongest time between two yields of the scan: %.1f ms\n",
+                longestTurn(mailbox.path()));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "bench/shell/Hijo.h"
 
 #include "numora/Lecciones.h"
-#include "shell/core/Corrida.h"
+#include "shell/core/run/Tareas.h"
 #include "shell/core/system/InstanciaUnica.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/start/FormPrincipal.h"
@@ -136,10 +136,22 @@ int hijo::memoria(int argc, char *argv[])
     return 0;
 }
 
+/// Steps of nanoseconds, then of a tenth of a millisecond, as when numbers grow.
+static Tarea<> trabaja(Billete billete)
+{
+    const auto inicio = Reloj::now();
+    volatile double x = 1;
+    while (milisegundosDesde(inicio) < 3000) {
+        const int trabajo = milisegundosDesde(inicio) < 1500 ? 1 : 30'000;
+        for (int i = 0; i < trabajo; ++i)
+            x = x * 1.0000001;
+        co_await billete.ceder();
+    }
+}
+
 int hijo::atencion(int argc, char *argv[])
 {
     QApplication aplicacion(argc, argv);
-    Corrida corrida;
     std::atomic<double> peor = 0;
     std::atomic<bool> fin = false;
     QObject destino;
@@ -152,15 +164,10 @@ int hijo::atencion(int argc, char *argv[])
             std::this_thread::sleep_for(3ms);
         }
     });
-    // Steps of nanoseconds, then of a tenth of a millisecond, as when numbers grow.
-    const auto inicio = Reloj::now();
-    volatile double x = 1;
-    while (milisegundosDesde(inicio) < 3000) {
-        const int trabajo = milisegundosDesde(inicio) < 1500 ? 1 : 30'000;
-        for (int i = 0; i < trabajo; ++i)
-            x = x * 1.0000001;
-        corrida.ceder();
-    }
+    Tareas tareas([](const std::exception_ptr &) {});
+    tareas.lanza(trabaja(tareas.billete()));
+    while (!tareas.vacias())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     fin = true;
     otro.join();
     imprime(peor);

@@ -44,6 +44,6 @@ enum class FinDeFactores {
 /// Takes a factor; false ends the search.
 using RecibeFactor = std::function<bool(const FactorHallado &factor)>;
 
-/// Hands over the factors of |n| as they are found, composites that are left last; none for 0 and 1.
-/// Throws what `recibe` throws.
+/// Hands over the factors of |n| as they are found, composites that are left last; none for 0
+/// and 1. Throws what `recibe` throws.
 FinDeFactores BuscaFactores(const QString &n, const RecibeFactor &recibe);

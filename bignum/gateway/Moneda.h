@@ -36,8 +36,7 @@ public:
     /// need more than the 53 bits of a double, so whole part and decimals are converted apart.
     constexpr double real() const
     {
-        return static_cast<double>(entero()) +
-               static_cast<double>(m_valor % Escala) / Escala;
+        return static_cast<double>(entero()) + static_cast<double>(m_valor % Escala) / Escala;
     }
     constexpr bool esEntero() const { return m_valor % Escala == 0; }
 

@@ -1,29 +1,13 @@
 #include "lessons/complexity/FibonacciMedido.h"
 
-#include <algorithm>
+#include "shell/core/FibonacciRecursivo.h"
+#include "shell/core/MejorDeVarias.h"
+
 #include <array>
-#include <chrono>
 
 namespace {
 
-using Reloj = std::chrono::steady_clock;
-
-/// One computation may be shorter than a tick of the clock, so that as many as fill this are timed
-/// together.
-constexpr std::chrono::microseconds TandaMinima{200};
-/// The fastest of as many turns as fill this counts: what else the machine does only delays.
-constexpr std::chrono::milliseconds TiempoMinimo{10};
 constexpr int MayorIndice = 92;
-
-qint64 recursivo(int n, qint64 &llamadas, Corrida &corrida)
-{
-    ++llamadas;
-    corrida.ceder();
-    if (n < 2 || corrida.detenida())
-        return n;
-    const qint64 anterior = recursivo(n - 1, llamadas, corrida);
-    return anterior + recursivo(n - 2, llamadas, corrida);
-}
 
 /// Remembers what it has computed; 0 stands for what it has not.
 using Memoria = std::array<qint64, MayorIndice + 1>;
@@ -56,61 +40,55 @@ qint64 iterativo(int n, qint64 &sumas)
     return actual;
 }
 
-qint64 calcula(FormaDeCalculo forma, int n, qint64 &pasos, Corrida &corrida)
+/// Times what gives a value and counts its steps.
+template <typename Calculo>
+Medida mide(int n, Calculo calculo)
 {
-    switch (forma) {
-    case FormaDeCalculo::Recursiva:
-        return recursivo(n, pasos, corrida);
-    case FormaDeCalculo::ConMemoria: {
-        Memoria memoria{};
-        return conMemoria(n, pasos, memoria);
+    using Reloj = std::chrono::steady_clock;
+    // The compiler may not know that n is the same in every turn.
+    volatile int indice = n;
+    MejorDeVarias tiempo;
+    Medida medida;
+    while (!tiempo.basta()) {
+        const auto inicio = Reloj::now();
+        for (std::int32_t i = 0; i < tiempo.veces(); ++i) {
+            medida.pasos = 0;
+            medida.valor = calculo(indice, medida.pasos);
+        }
+        tiempo.anota(Reloj::now() - inicio);
     }
-    case FormaDeCalculo::Iterativa:
-        return iterativo(n, pasos);
-    }
-    return 0;
+    medida.nanosegundos = tiempo.nanosegundos();
+    return medida;
 }
 
 } // namespace
 
-Medida mideFibonacci(FormaDeCalculo forma, int n, Corrida &corrida)
+Medida mideConMemoria(int n)
 {
-    // A run of its own, which hands the yields on and takes their time.
-    Reloj::duration cediendo{};
-    Corrida *propia = nullptr;
-    Corrida medida([&] {
-        const auto antes = Reloj::now();
-        corrida.cederYa();
-        if (corrida.detenida())
-            propia->detener();
-        cediendo += Reloj::now() - antes;
+    return mide(n, [](int indice, qint64 &llamadas) {
+        Memoria memoria{};
+        return conMemoria(indice, llamadas, memoria);
     });
-    propia = &medida;
+}
 
-    Medida resultado;
-    // The compiler may not know that n is the same in every turn.
-    volatile int indice = n;
-    const auto tanda = [&](qint64 veces) {
-        cediendo = {};
-        const auto inicio = Reloj::now();
-        for (qint64 i = 0; i < veces; ++i) {
-            resultado.pasos = 0;
-            resultado.valor = calcula(forma, indice, resultado.pasos, medida);
-        }
-        return Reloj::now() - inicio - cediendo;
-    };
-    qint64 veces = 1;
-    auto mejor = tanda(veces);
-    while (mejor < TandaMinima && !medida.detenida()) {
-        veces *= 2;
-        mejor = tanda(veces);
-    }
-    for (auto total = mejor; total < TiempoMinimo && !medida.detenida();) {
-        const auto otra = tanda(veces);
-        mejor = std::min(mejor, otra);
-        total += otra;
-    }
-    resultado.nanosegundos =
-        std::chrono::duration<double, std::nano>(mejor).count() / static_cast<double>(veces);
-    return resultado;
+Medida mideIterativa(int n)
+{
+    return mide(n, iterativo);
+}
+
+Tarea<std::optional<MedidasDeFibonacci>> mideFibonacci(int n, Billete billete)
+{
+    FibonacciRecursivo recursivo;
+    const auto recursiva = co_await recursivo.mide(n, billete);
+    if (!recursiva)
+        co_return std::nullopt;
+    MedidasDeFibonacci medidas;
+    medidas.recursiva = {recursiva->valor, recursiva->llamadas, recursiva->nanosegundos};
+    co_await billete.ceder();
+    medidas.conMemoria = mideConMemoria(n);
+    co_await billete.ceder();
+    medidas.iterativa = mideIterativa(n);
+    if (billete.detenida())
+        co_return std::nullopt;
+    co_return medidas;
 }

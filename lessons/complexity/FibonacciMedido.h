@@ -1,21 +1,31 @@
 #pragma once
 
-#include "shell/core/Corrida.h"
+#include "shell/core/run/Billete.h"
+#include "shell/core/run/Tarea.h"
 
 #include <QtGlobal>
-
-/// The three ways of computing F(n) that are timed against each other.
-enum class FormaDeCalculo { Recursiva, ConMemoria, Iterativa };
+#include <optional>
 
 /// What a computation gave and what it cost. `pasos` are calls, or, in the iteration, additions.
 struct Medida
 {
     qint64 valor = 0;
     qint64 pasos = 0;
-    double nanosegundos = 0; ///< of one computation, at the fastest of several tries
+    double nanosegundos = 0; ///< of one computation, at the fastest of several turns
 };
 
-/// F(n), F(0) = 0, F(1) = 1, for n up to 92, the last that fits 64 bits. Yields in the recursive
-/// form, once a call; the time of the yields does not count. When the run is stopped meanwhile the
-/// measure is worthless.
-Medida mideFibonacci(FormaDeCalculo forma, int n, Corrida &corrida);
+/// F(n), F(0) = 0, F(1) = 1, in the three ways that are timed against each other.
+struct MedidasDeFibonacci
+{
+    Medida recursiva;
+    Medida conMemoria;
+    Medida iterativa;
+};
+
+/// Times them for an n from 0 to 92, the last that fits 64 bits; nothing when the run was stopped.
+/// The time of the yields does not count.
+Tarea<std::optional<MedidasDeFibonacci>> mideFibonacci(int n, Billete billete);
+
+/// The two that take no time worth a yield.
+Medida mideConMemoria(int n);
+Medida mideIterativa(int n);

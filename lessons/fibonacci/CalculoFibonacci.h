@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/core/Corrida.h"
+#include "shell/core/FibonacciRecursivo.h"
 
 #include <QString>
 
@@ -8,16 +8,14 @@
 enum class MetodoFibonacci {
     Definicion, ///< F(n) = F(n-1) + F(n-2), as it stands: each call makes two more
     Iteracion,  ///< n - 1 additions, upwards from F(0) and F(1)
-    /// F(2k) = F(k) (2 F(k+1) - F(k)) and F(2k+1) = F(k)² + F(k+1)², a step for each binary digit
-    /// of n: Edsger W. Dijkstra, "In honour of Fibonacci" (EWD 654), 1978.
-    Duplicacion
+    Duplicacion ///< from F(k), F(k+1) to F(2k), F(2k+1), for each binary digit of n
 };
 
 /// The largest n that a method takes: what the service holds or, by the definition, what takes
 /// minutes.
 int cotaDe(MetodoFibonacci metodo);
 
-/// How much work a computation has been. Additions include subtractions, and twofolds, which are
+/// How much work one computation is. Additions include subtractions, and twofolds, which are
 /// additions of a number to itself.
 struct Esfuerzo
 {
@@ -28,20 +26,27 @@ struct Esfuerzo
     bool operator==(const Esfuerzo &) const = default;
 };
 
+/// F(n) and what one computation of it costs. All methods are timed on numbers, so that their times
+/// can be compared; the reading and writing of texts does not count.
+struct FibonacciMedido
+{
+    QString valor;           ///< empty when the run was stopped
+    Esfuerzo esfuerzo;       ///< of one computation, or the calls until the stop
+    double nanosegundos = 0; ///< at the fastest of several turns
+};
+
 /// One computation of F(n), which can be watched while it runs.
 class CalculoFibonacci
 {
 public:
-    /// F(n) for n from 0 to the bound of the method; empty when the run was stopped. Yields once a
-    /// call or addition.
-    QString calcula(MetodoFibonacci metodo, int n, Corrida &corrida);
+    /// F(n) for n from 0 to the bound of the method. The object outlives the task.
+    Tarea<FibonacciMedido> calcula(MetodoFibonacci metodo, int n, Billete billete);
 
-    const Esfuerzo &esfuerzo() const { return m_esfuerzo; }
+    /// The calls made so far; 0 where the method makes none.
+    qint64 llamadas() const { return m_definicion.llamadas(); }
 
 private:
-    qint64 porDefinicion(int n, Corrida &corrida);
-    QString porIteracion(int n, Corrida &corrida);
-    QString porDuplicacion(int n, Corrida &corrida);
+    Tarea<FibonacciMedido> porDefinicion(int n, Billete billete);
 
-    Esfuerzo m_esfuerzo;
+    FibonacciRecursivo m_definicion;
 };

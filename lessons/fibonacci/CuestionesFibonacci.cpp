@@ -2,9 +2,9 @@
 
 #include "bignum/gateway/Azar.h"
 #include "bignum/gateway/ModBignum.h"
-#include "lessons/fibonacci/ValorEntero.h"
 #include "lessons/fibonacci/Zeckendorf.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 #include <numeric>
@@ -35,7 +35,7 @@ QString palabraZeckendorf(FalloZeckendorf fallo, const QString &respuesta)
 Juicio juzgaMcd(const QString &valor, int m, int n)
 {
     const int d = std::gcd(m, n);
-    if (valor == valorEntero(u"fib(%1)"_s.arg(d))) {
+    if (valor == calculaEntero(u"fib(%1)"_s.arg(d)).value()) {
         return {true, Traduce(u"¡Correcto! Es F(%1) = %4, porque mcd(%2, %3) = %1."_s)
                           .arg(d)
                           .arg(m)

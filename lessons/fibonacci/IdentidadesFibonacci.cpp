@@ -1,7 +1,7 @@
 #include "lessons/fibonacci/IdentidadesFibonacci.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "lessons/fibonacci/ValorEntero.h"
+#include "shell/core/Lectura.h"
 
 #include <algorithm>
 #include <numeric>
@@ -12,7 +12,7 @@ namespace {
 
 QString fib(int n)
 {
-    return valorEntero(u"fib(%1)"_s.arg(n));
+    return calculaEntero(u"fib(%1)"_s.arg(n)).value();
 }
 
 /// F(1) + … + F(n), and the sum of their squares, added up one by one.
@@ -33,7 +33,7 @@ Sumas sumasHasta(int n)
             sumas.simple += u"+fib(%1)"_s.arg(i);
             sumas.cuadrados += u"+fib(%1)^2"_s.arg(i);
         }
-        sumas = {valorEntero(sumas.simple), valorEntero(sumas.cuadrados)};
+        sumas = {calculaEntero(sumas.simple).value(), calculaEntero(sumas.cuadrados).value()};
     }
     return sumas;
 }
@@ -47,14 +47,14 @@ QList<IdentidadProbada> pruebaIdentidades(int m, int n)
     const QString siguiente = fib(n + 1);
     const QString anterior = fib(n - 1);
     return {{u"Cassini"_s, u"F(n−1) · F(n+1) − F(n)² = (−1)ⁿ"_s,
-             valorEntero(anterior + u'*' + siguiente + u'-' + f + u"^2"_s),
+             calculaEntero(anterior + u'*' + siguiente + u'-' + f + u"^2"_s).value(),
              n % 2 == 0 ? u"1"_s : u"-1"_s},
             {u"Máximo común divisor"_s, u"mcd(F(m), F(n)) = F(mcd(m, n))"_s, Mcd(fib(m), f),
              fib(std::gcd(m, n))},
             {u"Suma de índices"_s, u"F(m+n) = F(m) · F(n+1) + F(m−1) · F(n)"_s, fib(m + n),
-             valorEntero(fib(m) + u'*' + siguiente + u'+' + fib(m - 1) + u'*' + f)},
+             calculaEntero(fib(m) + u'*' + siguiente + u'+' + fib(m - 1) + u'*' + f).value()},
             {u"Suma de los primeros"_s, u"F(1) + F(2) + … + F(n) = F(n+2) − 1"_s, sumas.simple,
-             valorEntero(fib(n + 2) + u"-1"_s)},
+             calculaEntero(fib(n + 2) + u"-1"_s).value()},
             {u"Suma de cuadrados"_s, u"F(1)² + F(2)² + … + F(n)² = F(n) · F(n+1)"_s,
-             sumas.cuadrados, valorEntero(f + u'*' + siguiente)}};
+             sumas.cuadrados, calculaEntero(f + u'*' + siguiente).value()}};
 }

@@ -1,8 +1,8 @@
 #include "lessons/fibonacci/RazonAurea.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "lessons/fibonacci/ValorEntero.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 
 #include <cmath>
 #include <numbers>
@@ -10,15 +10,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QString enSuperindice(int numero)
-{
-    static const QString cifras = u"⁰¹²³⁴⁵⁶⁷⁸⁹"_s;
-    QString texto;
-    for (const QChar c : QString::number(numero))
-        texto += c == u'-' ? u'⁻' : cifras.at(c.digitValue());
-    return texto;
-}
 
 /// A decimal fraction of at most so many digits and a sign that there are more.
 QString recortado(const QString &decimal)
@@ -38,7 +29,7 @@ QList<CocienteFibonacci> cocientesFibonacci(int hasta)
         const double logError = -n * std::log10(std::numbers::phi) - std::log10(f.toDouble());
         cocientes << CocienteFibonacci{n, f, siguiente, recortado(ADecimal(siguiente + u'/' + f)),
                                        logError};
-        QString suma = valorEntero(f + u'+' + siguiente);
+        QString suma = calculaEntero(f + u'+' + siguiente).value();
         f = std::move(siguiente);
         siguiente = std::move(suma);
     }
@@ -49,7 +40,7 @@ QString numeroAureo(int decimales)
 {
     // (1 + √5) / 2 with the point moved behind the last decimal.
     const QString escala = u"10^%1"_s.arg(decimales);
-    QString cifras = valorEntero(u"(%1+raiz(5*%1*%1))/2"_s.arg(escala));
+    QString cifras = calculaEntero(u"(%1+raiz(5*%1*%1))/2"_s.arg(escala)).value();
     return cifras.insert(1, u',');
 }
 
@@ -62,5 +53,5 @@ QString textoDePotencia(double logaritmo)
         mantisa = 1;
         ++exponente;
     }
-    return formatoDecimal(mantisa, 2) + u" · 10"_s + enSuperindice(exponente);
+    return formatoDecimal(mantisa, 2) + u" · 10"_s + enSuperindice(QString::number(exponente));
 }

@@ -1,7 +1,7 @@
 #include "lessons/fibonacci/Zeckendorf.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "lessons/fibonacci/ValorEntero.h"
+#include "shell/core/Lectura.h"
 
 #include <algorithm>
 
@@ -17,7 +17,7 @@ QStringList fibonacciHasta(const QString &n)
     QString siguiente = u"2"_s;
     while (!EsMayor(n, f)) {
         lista << f;
-        QString suma = valorEntero(f + u'+' + siguiente);
+        QString suma = calculaEntero(f + u'+' + siguiente).value();
         f = std::move(siguiente);
         siguiente = std::move(suma);
     }
@@ -49,7 +49,7 @@ QList<PasoZeckendorf> representacionZeckendorf(const QString &n)
         const QString &sumando = lista.at(i);
         if (EsMayor(resto, sumando))
             continue;
-        const QString queda = valorEntero(resto + u'-' + sumando);
+        const QString queda = calculaEntero(resto + u'-' + sumando).value();
         pasos << PasoZeckendorf{resto, static_cast<int>(i) + 2, sumando, queda};
         resto = queda;
     }

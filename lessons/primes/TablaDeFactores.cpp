@@ -1,28 +1,70 @@
 #include "lessons/primes/TablaDeFactores.h"
 
-#include "bignum/gateway/ModBignum.h"
+#include "bignum/gateway/FactoresHallados.h"
 #include "lessons/primes/ColFactores.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
-#include <cmath>
+#include <algorithm>
+#include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// At least the number of different primes that a number of so many digits can have: k of them have
-/// a product above k!, and k! > (k/e)^k.
-qsizetype maximoDePrimos(qsizetype digitos)
+/// By what a factor was found, and in what time.
+QString hallazgoDe(const FactorHallado &factor)
 {
-    qsizetype k = 3;
-    const auto cabe = [&] {
-        const auto veces = static_cast<double>(k);
-        return veces * std::log10(veces / std::exp(1.0)) <= static_cast<double>(digitos);
+    const QString tiempo = textoDeDuracion(factor.segundosDelMetodo * 1e9);
+    switch (factor.metodo) {
+    case MetodoDeFactor::Ninguno:
+        return {};
+    case MetodoDeFactor::DivisionTanteo:
+        return Traduce(u"Hallado por división: %1."_s).arg(tiempo);
+    case MetodoDeFactor::Rho:
+        return Traduce(u"Hallado por el método rho de Pollard: %1."_s).arg(tiempo);
+    case MetodoDeFactor::CurvaEliptica:
+        return Traduce(u"Hallado por la curva elíptica número %1: %2."_s)
+            .arg(formatoEntero(qint64{factor.curvas}), tiempo);
+    case MetodoDeFactor::Criba:
+        return Traduce(u"Hallado por la criba cuadrática: %1 relaciones, %2."_s)
+            .arg(formatoEntero(qint64{factor.relaciones}), tiempo);
+    case MetodoDeFactor::Raiz:
+        return Traduce(u"Hallado al extraer una raíz: %1."_s).arg(tiempo);
+    }
+    return {};
+}
+
+FilaDeFactor filaDe(const FactorHallado &factor)
+{
+    return {factor.base, QString::number(factor.exponente), factor.primo,
+            factor.primo ? hallazgoDe(factor)
+                         : Traduce(u"Compuesto que no se ha podido factorizar"_s)};
+}
+
+/// Primes before what may be composite, and each kind ascending.
+bool vaAntes(const FilaDeFactor &a, const FilaDeFactor &b)
+{
+    const auto orden = [](const FilaDeFactor &fila) {
+        return std::tuple(!fila.primo, fila.factor.size(), fila.factor);
     };
-    while (cabe())
-        ++k;
-    return k;
+    return orden(a) < orden(b);
+}
+
+TablaDeFactores::Desenlace desenlaceDe(FinDeFactores fin)
+{
+    switch (fin) {
+    case FinDeFactores::TodosPrimos:
+        return TablaDeFactores::Completa;
+    case FinDeFactores::NoEsNumero:
+        return TablaDeFactores::NoEsEntero;
+    case FinDeFactores::SinMemoria:
+        return TablaDeFactores::SinMemoria;
+    case FinDeFactores::QuedaCompuesto:
+    case FinDeFactores::Detenido: // by the end of the library, which hands over what is left
+        break;
+    }
+    return TablaDeFactores::QuedaCompuesto;
 }
 
 QString entreParentesis(const QString &numero)
@@ -30,9 +72,10 @@ QString entreParentesis(const QString &numero)
     return u'(' + numero + u')';
 }
 
-QString potencia(const QString &base, const QString &exponente)
+QString potencia(const FilaDeFactor &fila)
 {
-    return exponente == u"1"_s ? base : base + enSuperindice(exponente);
+    const QString base = fila.primo ? fila.factor : entreParentesis(fila.factor);
+    return fila.exponente == u"1"_s ? base : base + enSuperindice(fila.exponente);
 }
 
 QString fraseCompleta(const QString &numero, const QList<FilaDeFactor> &filas)
@@ -58,9 +101,7 @@ QString TablaDeFactores::producto() const
 {
     QStringList potencias;
     for (const FilaDeFactor &fila : filas)
-        potencias << potencia(fila.factor, fila.exponente);
-    if (desenlace == QuedaCompuesto)
-        potencias.last() = potencia(entreParentesis(filas.last().factor), filas.last().exponente);
+        potencias << potencia(fila);
     if (!resto.isEmpty() && !potencias.isEmpty())
         potencias << entreParentesis(resto);
     return potencias.join(u" · "_s);
@@ -76,7 +117,7 @@ QString TablaDeFactores::frase() const
         return Traduce(u"Detenida. De %1 falta por descomponer %2."_s)
             .arg(n, formatoAbreviado(resto));
     case QuedaCompuesto:
-        return Traduce(u"Factores de %1. El último, en rojo, es compuesto y no se ha podido "
+        return Traduce(u"Factores de %1. Lo que está en rojo es compuesto y no se ha podido "
                        u"descomponer."_s)
             .arg(n);
     case EsCero:
@@ -85,8 +126,8 @@ QString TablaDeFactores::frase() const
         return Traduce(u"Este algoritmo no descompone números negativos, como %1."_s).arg(n);
     case NoEsEntero:
         return Traduce(u"%1 no es un número entero: no tiene factores primos."_s).arg(n);
-    case Fallida:
-        return Traduce(u"No se ha podido factorizar %1."_s).arg(n);
+    case SinMemoria:
+        return Traduce(u"Ha faltado memoria para descomponer %1."_s).arg(n);
     }
     return {};
 }
@@ -110,24 +151,18 @@ TablaDeFactores tablaDe(const QString &numero, const ColFactores &factores)
 TablaDeFactores factorizaGrande(const QString &n)
 {
     TablaDeFactores tabla{n};
-    const qsizetype cuantos = maximoDePrimos(n.size());
-    QStringList primos(cuantos), exponentes(cuantos);
-    const bool completa = Factoriza(n, primos, exponentes) != 0;
-    for (qsizetype i = 0; i < cuantos && !primos[i].isEmpty(); ++i)
-        tabla.filas << FilaDeFactor{primos[i], exponentes[i]};
-    if (n.contains(u'/'))
-        tabla.desenlace = TablaDeFactores::NoEsEntero;
-    else if (n == u"0"_s)
-        tabla.desenlace = TablaDeFactores::EsCero;
-    else if (!completa)
-        tabla.desenlace =
-            tabla.filas.isEmpty() ? TablaDeFactores::Fallida : TablaDeFactores::QuedaCompuesto;
+    const FinDeFactores fin = BuscaFactores(n, [&](const FactorHallado &factor) {
+        tabla.filas << filaDe(factor);
+        return true;
+    });
+    std::ranges::sort(tabla.filas, vaAntes);
+    tabla.desenlace = n == u"0"_s ? TablaDeFactores::EsCero : desenlaceDe(fin);
     return tabla;
 }
 
 bool puedeTardar(const QString &n)
 {
-    // Two primes of 25 digits take a second or so, of 30 several.
-    constexpr int digitosDeUnSegundo = 50;
+    // Two primes of 30 digits take a second or so, of 35 several.
+    constexpr int digitosDeUnSegundo = 60;
     return n.size() > digitosDeUnSegundo;
 }

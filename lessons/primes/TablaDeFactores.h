@@ -10,6 +10,8 @@ struct FilaDeFactor
 {
     QString factor;
     QString exponente;
+    bool primo = true;     ///< false for a composite that could not be split
+    QString hallazgo = {}; ///< by what it was found and in what time, for the student
 };
 
 /// What has come of a factorization: the factors found, and what became of the rest.
@@ -18,11 +20,11 @@ struct TablaDeFactores
     enum Desenlace {
         Completa,
         Detenida,       ///< before its end; what was not divided yet is `resto`
-        QuedaCompuesto, ///< in the last row, which could not be split
+        QuedaCompuesto, ///< in the last row or rows, which could not be split
         EsCero,         ///< what was to be factored, which every prime divides
         EsNegativo,     ///< which trial division does not factor
         NoEsEntero,
-        Fallida ///< nothing is known of the factors
+        SinMemoria ///< the factors are those found by then
     };
 
     QString numero; ///< what was to be factored
@@ -42,8 +44,8 @@ struct TablaDeFactores
 /// was stopped.
 TablaDeFactores tablaDe(const QString &numero, const ColFactores &factores);
 
-/// The factors of |n|, whatever its size, by libbignum. Blocks until they are found, or until the
-/// effort of the library is spent.
+/// The factors of |n|, whatever its size, by libbignum: primes ascending, then what it could not
+/// split. Blocks until they are found, or until the effort of the library is spent.
 TablaDeFactores factorizaGrande(const QString &n);
 
 /// Whether that may take so long that the student is to be told before.

@@ -4,7 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/GrupoUnidades.h"
-#include "lessons/units/NotacionZn.h"
+#include "lessons/units/ResumenUnidades.h"
 #include "shell/core/ModGlobal.h"
 
 #include <numeric>

@@ -2,7 +2,6 @@
 
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
-#include "lessons/units/NotacionZn.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
@@ -78,4 +77,12 @@ QString resumenDePotencias(const GrupoUnidades &grupo, std::int32_t a)
         .arg(dentro)
         .arg(unidad->orden)
         .arg(grupo.fi());
+}
+
+QString subindice(std::int32_t n)
+{
+    QString texto = QString::number(n);
+    for (QChar &cifra : texto)
+        cifra = QChar(static_cast<char16_t>(u'₀' + (cifra.unicode() - u'0')));
+    return texto;
 }

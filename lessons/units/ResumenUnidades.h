@@ -10,3 +10,6 @@ QString resumenDelGrupo(const GrupoUnidades &grupo);
 
 /// What the powers of `a` tell about it.
 QString resumenDePotencias(const GrupoUnidades &grupo, std::int32_t a);
+
+/// A whole number ≥ 0 in subscript digits: 12 gives "₁₂".
+QString subindice(std::int32_t n);

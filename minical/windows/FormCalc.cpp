@@ -1,8 +1,8 @@
 #include "minical/windows/FormCalc.h"
 
+#include "minical/windows/FormCalcAspecto.h"
 #include "minical/windows/FormCalcDocumento.h"
 #include "minical/windows/FormCalcExpresion.h"
-#include "minical/windows/FormCalcLetra.h"
 #include "minical/windows/FormCalcModelo.h"
 #include "minical/windows/FormCalcOrden.h"
 #include "minical/windows/FormCalcPortapapeles.h"
@@ -173,6 +173,8 @@ void FormCalc::preparaPrecision()
     QPalette colores = palette();
     colores.setColor(QPalette::WindowText, Aspecto::error());
     m_lblPrecision->setPalette(colores);
+    // On a toolbar a label would take the colour of buttons.
+    m_lblPrecision->setForegroundRole(QPalette::WindowText);
 }
 
 QAction *FormCalc::agregaOrden(const Orden &orden)

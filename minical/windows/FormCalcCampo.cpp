@@ -44,6 +44,7 @@ void FormCalcCampo::ponLista()
     m_lista->setWindowFlags(Qt::ToolTip);
     m_lista->setAttribute(Qt::WA_ShowWithoutActivating);
     m_lista->setFocusPolicy(Qt::NoFocus);
+    m_lista->setSpacing(1);
     m_lista->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_lista->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     conecta(m_lista, &QListWidget::itemClicked, this, [this] { elige(); });
@@ -65,7 +66,8 @@ void FormCalcCampo::ofrece()
     }
     constexpr int margen = 8;
     m_lista->resize(m_lista->sizeHintForColumn(0) + 3 * margen,
-                    m_lista->sizeHintForRow(0) * m_lista->count() + margen);
+                    (m_lista->sizeHintForRow(0) + 2 * m_lista->spacing()) * m_lista->count() +
+                        margen);
     m_lista->move(mapToGlobal(QPoint(cursorRect().left(), height())));
     m_lista->show();
 }

@@ -4,6 +4,7 @@
 #include "bignum/gateway/Moneda.h"
 #include "minical/ExplicacionDeCelda.h"
 #include "minical/windows/FormCalc.h"
+#include "minical/windows/FormCalcAspecto.h"
 #include "minical/windows/FormCalcDocumento.h"
 #include "minical/windows/FormCalcExpresion.h"
 #include "minical/windows/FormCalcModelo.h"
@@ -71,6 +72,7 @@ void FormCalc::muestraPrecision()
         m_avisoDePrecision->setVisible(false);
     } catch (const ErrorEjecucion &) {
         m_txtPrecision->setText(Sesión().lee(u"Aritmética"_s, u"Precisión"_s).trimmed());
+        m_txtPrecision->setCursorPosition(0);
         m_lblPrecision->setText(
             u" ✗ "_s + Traduce(u"Pasa de %1: escriba otra y valídela."_s).arg(MaximaPrecision));
     }

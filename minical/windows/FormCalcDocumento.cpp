@@ -1,9 +1,9 @@
 #include "minical/windows/FormCalcDocumento.h"
 
-#include "minical/ExportaCSV.h"
 #include "minical/HojaDeCalculo.h"
+#include "minical/TextosDeHoja.h"
+#include "minical/windows/FormCalcAspecto.h"
 #include "minical/windows/FormCalcImpresion.h"
-#include "minical/windows/FormCalcModelo.h"
 #include "minical/windows/FormCalcRejilla.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/system/Archivos.h"

@@ -1,7 +1,7 @@
 #include "minical/windows/FormCalcExpresion.h"
 
+#include "minical/windows/FormCalcAspecto.h"
 #include "minical/windows/FormCalcCampo.h"
-#include "minical/windows/FormCalcLetra.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"

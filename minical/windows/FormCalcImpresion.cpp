@@ -1,7 +1,7 @@
 #include "minical/windows/FormCalcImpresion.h"
 
-#include "minical/LineasDeHoja.h"
-#include "minical/windows/FormCalcLetra.h"
+#include "minical/TextosDeHoja.h"
+#include "minical/windows/FormCalcAspecto.h"
 #include "shell/core/ModGlobal.h"
 
 #include <QFileInfo>

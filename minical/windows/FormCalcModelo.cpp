@@ -2,13 +2,12 @@
 
 #include "minical/ExplicacionDeCelda.h"
 #include "minical/HojaDeCalculo.h"
+#include "minical/windows/FormCalcAspecto.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 
-#include <QCursor>
 #include <QFont>
-#include <QGuiApplication>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -40,16 +39,6 @@ QFont negrita()
 }
 
 } // namespace
-
-RelojDeArena::RelojDeArena()
-{
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-}
-
-RelojDeArena::~RelojDeArena()
-{
-    QGuiApplication::restoreOverrideCursor();
-}
 
 FormCalcModelo::FormCalcModelo(HojaDeCalculo &hoja, QObject *padre)
     : QAbstractTableModel(padre), m_hoja(hoja)

@@ -32,13 +32,3 @@ Q_SIGNALS:
 private:
     HojaDeCalculo &m_hoja;
 };
-
-/// The hourglass, for as long as it lives.
-class RelojDeArena
-{
-public:
-    RelojDeArena();
-    ~RelojDeArena();
-    RelojDeArena(const RelojDeArena &) = delete;
-    RelojDeArena &operator=(const RelojDeArena &) = delete;
-};

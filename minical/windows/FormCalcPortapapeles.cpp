@@ -1,7 +1,7 @@
 #include "minical/windows/FormCalcPortapapeles.h"
 
-#include "minical/BloqueDeCeldas.h"
 #include "minical/HojaDeCalculo.h"
+#include "minical/TextosDeHoja.h"
 #include "minical/windows/FormCalcRejilla.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCorrida.h"

@@ -1,7 +1,7 @@
 #include "minical/windows/FormCalcRejilla.h"
 
+#include "minical/windows/FormCalcAspecto.h"
 #include "minical/windows/FormCalcDelegado.h"
-#include "minical/windows/FormCalcLetra.h"
 
 #include <QEvent>
 #include <QHeaderView>

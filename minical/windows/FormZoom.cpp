@@ -1,6 +1,6 @@
 #include "minical/windows/FormZoom.h"
 
-#include "minical/windows/FormCalcLetra.h"
+#include "minical/windows/FormCalcAspecto.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Imagenes.h"

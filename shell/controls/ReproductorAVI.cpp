@@ -5,7 +5,6 @@
 #include "shell/look/Imagenes.h"
 
 #include <QDir>
-#include <QFontMetrics>
 #include <QMediaFormat>
 #include <QMediaPlayer>
 #include <QPainter>

@@ -46,7 +46,7 @@ QString formatoEntero(Moneda valor)
 
 QString formatoAbreviado(const QString &digitos)
 {
-    constexpr int extremo = 6;
+    constexpr qsizetype extremo = 6;
     if (digitos.size() <= 4 * extremo)
         return formatoEntero(digitos);
     const qsizetype cifras = digitos.size() - (digitos.startsWith(u'-') ? 1 : 0);

@@ -76,7 +76,7 @@ QAbstractButton *FormLeccion::botonEnMarcha() const
         if (corrida->enMarcha() && (!hallado || corrida->boton()->isVisible()))
             hallado = corrida->boton();
     }
-    return hallado ? hallado : botonDeParada();
+    return hallado;
 }
 
 void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel)
@@ -137,13 +137,7 @@ void FormLeccion::closeEvent(QCloseEvent *suceso)
         suceso->ignore();
         return;
     }
-    if (!m_descargada)
-        Q_EMIT descargada();
-    m_descargada = true;
-    if (!m_corrida.enCurso())
-        return;
-    suceso->ignore();
-    desaparece();
+    Q_EMIT descargada();
 }
 
 /// Nothing can be asked while the event waits: where an answer is needed, the window stays, and is
@@ -159,22 +153,13 @@ Tarea<> FormLeccion::pideCierre()
 
 Tarea<bool> FormLeccion::puedeCerrarse()
 {
-    co_return permiteCerrar();
+    co_return true;
 }
 
 void FormLeccion::guardaLoPendiente()
 {
     for (CopiaDeTrabajo *copia : findChildren<CopiaDeTrabajo *>())
         copia->guarda();
-}
-
-void FormLeccion::desaparece()
-{
-    // Handlers of this window are still on the stack, below the yield that served the close: the
-    // window goes out of sight now and is closed for good from the event queue after they are gone.
-    marco()->hide();
-    m_corrida.detener();
-    m_corrida.alTerminar([this] { QTimer::singleShot(0, this, &FormLeccion::cierra); });
 }
 
 QWidget *FormLeccion::marco()

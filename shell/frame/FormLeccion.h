@@ -1,6 +1,5 @@
 #pragma once
 
-#include "shell/core/Corrida.h"
 #include "shell/frame/Evento.h"
 
 #include <QString>
@@ -13,8 +12,7 @@ class QTabBar;
 
 /// The frame of every lesson window: a strip of topics (`tsTema`), one panel a topic (`PanelFicha`)
 /// of which the selected one is in front, the introduction page (`wbIntro`), help on F1, and the
-/// run that its computations share. The window may be closed during a run: it disappears at once,
-/// the run is told to stop, and the window is unloaded when the run has returned.
+/// stop line that its computations share. Closed during a run, the window takes the run with it.
 class FormLeccion : public QWidget
 {
     Q_OBJECT
@@ -38,8 +36,6 @@ public:
 
     /// Stops the run in progress as its stop button would; nothing without one.
     void detenCorrida();
-
-    Corrida &corrida() { return m_corrida; }
 
     /// The stop line that the runs of the lesson's panels share.
     const std::shared_ptr<Parada> &parada() const { return m_parada; }
@@ -70,20 +66,12 @@ protected:
     /// The first topic of every lesson: its page of introduction.
     void agregaIntroduccion(const QString &rotulo);
 
-    /// The button that stops the run in progress by a click, which the Escape key presses; null
-    /// where there is nothing to stop.
-    virtual QAbstractButton *botonDeParada() const { return nullptr; }
-
-    /// Whether the window may be closed now (unsaved work and the like).
-    virtual bool permiteCerrar() { return true; }
-
     void closeEvent(QCloseEvent *suceso) override;
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
     int indiceDeTema(const QString &clave) const;
     void tsTema_Click(int indice);
-    void desaparece();
     Tarea<> pideCierre();
     QAbstractButton *botonEnMarcha() const;
     QWidget *marco();
@@ -91,9 +79,7 @@ private:
     QString m_pagina;
     QTabBar *m_tsTema;
     QStackedWidget *m_paneles;
-    Corrida m_corrida;
     std::shared_ptr<Parada> m_parada = std::make_shared<Parada>();
-    bool m_descargada = false;
     bool m_cierrePermitido = false;
     bool m_enCierre = false;
     bool m_preguntando = false;

@@ -35,16 +35,9 @@ public:
     /// Whether the user says yes to a question; the answer at hand is no.
     virtual Tarea<bool> preguntaSiNo(QWidget *padre, QString pregunta, QString titulo);
 
-    virtual void mensaje(QWidget *padre, Icono icono, const QString &texto, const QString &titulo);
-
-    /// A line of text; empty when the user cancels.
-    virtual QString pideTexto(QWidget *padre, const QString &pregunta, const QString &titulo);
-
     enum class Guardado { Guardar, Descartar, Cancelar };
 
     /// Whether unsaved work is to be saved before it goes away. Closing the box is Cancelar.
-    virtual Guardado preguntaSiGuarda(QWidget *padre, const QString &texto, const QString &titulo);
-
     virtual Tarea<Guardado> preguntaGuardar(QWidget *padre, QString texto, QString titulo);
 
     struct Archivo
@@ -57,28 +50,19 @@ public:
     /// a folder or a file, and may be empty.
     virtual Tarea<QString> eligeArchivoParaAbrir(QWidget *padre, QString titulo, QString propuesta,
                                                  QStringList filtros);
-    virtual QString pideArchivoParaAbrir(QWidget *padre, const QString &titulo,
-                                         const QString &propuesta, const QStringList &filtros);
 
     /// A file to write; the user has been asked about one that exists. A name without an extension
     /// gets that of the chosen filter.
     virtual Tarea<Archivo> eligeArchivoParaGuardar(QWidget *padre, QString titulo,
                                                    QString propuesta, QStringList filtros);
-    virtual Archivo pideArchivoParaGuardar(QWidget *padre, const QString &titulo,
-                                           const QString &propuesta, const QStringList &filtros);
 
     /// Lets the user choose a printer and its settings; false when the user cancels.
     virtual Tarea<bool> eligeImpresora(QWidget *padre, std::shared_ptr<QPrinter> impresora,
                                        QString titulo);
-    virtual bool pideImpresora(QWidget *padre, QPrinter &impresora, const QString &titulo);
 
     /// An existing folder, looked for from `inicial` on, under the lines of `pregunta`; empty when
     /// the user cancels.
     virtual Tarea<QString> eligeCarpeta(QWidget *padre, QString pregunta, QString inicial);
-    virtual QString pideCarpeta(QWidget *padre, const QString &pregunta, const QString &inicial);
-
-    /// Whether the user says yes to a question; the answer at hand is no.
-    virtual bool confirma(QWidget *padre, const QString &pregunta, const QString &titulo);
 
     /// Asks the desktop to open a web address or a local file (the path of a file may have
     /// back-slashes). Failures are the desktop's to report.

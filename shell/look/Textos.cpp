@@ -4,13 +4,8 @@
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMetaProperty>
 #include <QTabWidget>
-#include <QToolBar>
 #include <QWidget>
 #include <array>
 

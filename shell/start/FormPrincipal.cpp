@@ -151,7 +151,9 @@ QWidget *FormPrincipal::muestraAcercaDe(bool presentacion)
 {
     auto *acercaDe = new formAcercaDe(this);
     connect(acercaDe, &formAcercaDe::descargada, this, [this] {
-        show();
+        // Nothing comes back when the program ends, which closes the box as well.
+        if (!m_cierrePermitido)
+            show();
         m_timerPresentacion->stop();
     });
     if (presentacion) {

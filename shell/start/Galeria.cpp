@@ -1,6 +1,7 @@
 #include "shell/start/Galeria.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
@@ -61,30 +62,6 @@ public:
         QDir().mkpath(u"../Compartida"_s);
         co_return QDir(u"../Compartida"_s).absolutePath();
     }
-    void mensaje(QWidget *, Icono, const QString &, const QString &) override {}
-    QString pideTexto(QWidget *, const QString &, const QString &) override { return {}; }
-    Guardado preguntaSiGuarda(QWidget *, const QString &, const QString &) override
-    {
-        return Guardado::Descartar;
-    }
-    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &,
-                                 const QStringList &) override
-    {
-        return {};
-    }
-    Archivo pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
-                                   const QStringList &) override
-    {
-        return {};
-    }
-    bool pideImpresora(QWidget *, QPrinter &, const QString &) override { return false; }
-    /// A folder beside the copy of the working folder, for what students share.
-    QString pideCarpeta(QWidget *, const QString &, const QString &) override
-    {
-        QDir().mkpath(u"../Compartida"_s);
-        return QDir(u"../Compartida"_s).absolutePath();
-    }
-    bool confirma(QWidget *, const QString &, const QString &) override { return false; }
     void abre(const QString &) override {}
     bool lanzaAlguno(const QList<QStringList> &) override { return true; }
 };

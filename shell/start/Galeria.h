@@ -1,6 +1,5 @@
 #pragma once
 
-#include "shell/core/ModGlobal.h"
 #include "shell/core/Traduccion.h"
 #include "shell/frame/Leccion.h"
 

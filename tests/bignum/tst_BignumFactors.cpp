@@ -49,211 +49,6 @@ mpz_class primeOfDigits(Random &random, unsigned digits)
     return prime;
 }
 
-} // namespace
-
-class TestBignumFactors : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void known_data();
-    void known();
-    void smallNumbers();
-    void randomNumbers();
-    void productsOfTwoPrimes();
-    void powers();
-    void buffersThatAreTooFew();
-    void longNumbers();
-    void eulersFunction_data();
-    void eulersFunction();
-    void eulersFunctionCountsUnits();
-    void twoThreadsAtOnce();
-    void asFound_data();
-    void asFound();
-    void theTakerEndsTheSearch();
-    void noNumberAndNoTaker();
-    void whatIsOutOfReachComesLast();
-    void endBignumStops_data();
-    void endBignumStops();
-    void processMayEndMeanwhile();
-};
-
-void TestBignumFactors::known_data()
-{
-    QTest::addColumn<std::string>("number");
-    QTest::addColumn<std::string>("factors");
-    const auto row = [](const std::string &number, const std::string &expected) {
-        QTest::newRow(number.c_str()) << number << expected;
-    };
-    row("0", "");
-    row("1", "");
-    row("-1", "");
-    row("2", "2");
-    row("-360", "2^3 3^2 5");
-    row("65536", "2^16");
-    row("4295098369", "65537^2"); // the square of the least prime above the trial divisors
-    row("18446744073709551615", "3 5 17 257 641 65537 6700417");
-    row("18446744073709551617", "274177 67280421310721");
-    row("18446744030759878681", "4294967291^2"); // the square of the largest prime of 32 bits
-    // Round-looking, with an eight-digit factor.
-    row("126582278481012658227848101265822806309", "32384567 3908722277528449221749609969027");
-    row("1000000000000000000000000000000000000000420217",
-        "14853224237640427 67325449612875386921338313771");
-    row("340282366920938463463374607431768211457", "59649589127497217 5704689200685129054721");
-    row("618970019642690137449562111", "618970019642690137449562111"); // 2^89 - 1
-    row("147573952589676412927", "193707721 761838257287");            // 2^67 - 1
-    // 2^256 + 1: a factor of 16 digits before one of 62.
-    row("115792089237316195423570985008687907853269984665640564039457584007913129639937",
-        "1238926361552897 93461639715357977769163558199606896584051237541638188580280321");
-    row("1111111111111111111111111111111111111111", // forty ones
-        "11 41 73 101 137 271 3541 9091 27961 1676321 5964848081");
-}
-
-void TestBignumFactors::known()
-{
-    QFETCH(std::string, number);
-    const Factored result = factored(number);
-    QCOMPARE(result.flag, 1);
-    QVERIFY(result.intact);
-    QTEST(written(result), "factors");
-}
-
-void TestBignumFactors::smallNumbers()
-{
-    for (int n = 2; n < 3000; ++n)
-        QVERIFY2(factors(n), std::to_string(n).c_str());
-}
-
-void TestBignumFactors::randomNumbers()
-{
-    Random random(21);
-    for (unsigned long bits = 20; bits <= 130; ++bits) {
-        for (int i = 0; i < 4; ++i) {
-            const mpz_class n = random.bits(bits) + 1;
-            QVERIFY2(factors(n), n.get_str().c_str());
-        }
-    }
-}
-
-void TestBignumFactors::productsOfTwoPrimes()
-{
-    // Two equal halves are the worst case of every method.
-    Random random(22);
-    for (unsigned digits = 3; digits <= 20; ++digits) {
-        const mpz_class p = primeOfDigits(random, digits);
-        const mpz_class q = primeOfDigits(random, digits);
-        QVERIFY2(factors(p * q), mpz_class(p * q).get_str().c_str());
-        QVERIFY2(factors(p * p), p.get_str().c_str());
-        if (digits <= 13)
-            QVERIFY2(factors(p * p * q), mpz_class(p * p * q).get_str().c_str());
-    }
-}
-
-void TestBignumFactors::powers()
-{
-    Random random(23);
-    for (unsigned long exponent : {2UL, 3UL, 4UL, 5UL, 6UL, 7UL, 12UL, 30UL}) {
-        for (const unsigned digits : {5U, 6U, 9U, 12U, 20U, 25U}) {
-            mpz_class power;
-            const mpz_class prime = primeOfDigits(random, digits);
-            mpz_pow_ui(power.get_mpz_t(), prime.get_mpz_t(), exponent);
-            QCOMPARE(written(factored(power.get_str())),
-                     prime.get_str() + "^" + std::to_string(exponent));
-            QVERIFY(factors(power * 12));
-        }
-    }
-}
-
-void TestBignumFactors::buffersThatAreTooFew()
-{
-    QCOMPARE(factored("30", 3).entries.size(), std::size_t{3});
-    const Factored tooFew = factored("30", 2);
-    QCOMPARE(tooFew.flag, 0);
-    QVERIFY(tooFew.entries.empty() && tooFew.intact);
-    QCOMPARE(Factors("1", nullptr, nullptr, 0), 1);
-    QCOMPARE(Factors("2", nullptr, nullptr, 0), 0);
-    QCOMPARE(Factors("2", nullptr, nullptr, 5), 0);
-    QCOMPARE(factored("2", 0).flag, 0);
-
-    NumberBuffer base;
-    char *const bases[] = {base.data(), nullptr};
-    char *const missing[] = {nullptr, nullptr};
-    QCOMPARE(Factors("7", bases, missing, 2), 0);
-    QCOMPARE(base.text(), std::string());
-    for (const char *text : {"", "x", "12 34", "1/2"}) {
-        const Factored noNumber = factored(text);
-        QVERIFY2(noNumber.flag == 0 && noNumber.entries.empty(), text);
-    }
-}
-
-void TestBignumFactors::longNumbers()
-{
-    // Longer than a buffer as a number, but not in its factors.
-    const std::string round = "1" + std::string(9000, '0');
-    QCOMPARE(written(factored(round)), std::string("2^9000 5^9000"));
-    // A composite of 8192 digits without small factors does not fit its buffer.
-    mpz_class power;
-    mpz_pow_ui(power.get_mpz_t(), mpz_class(1000003).get_mpz_t(), 1500);
-    const Factored tooLong = factored(power.get_str());
-    QCOMPARE(tooLong.flag, 0);
-    QVERIFY(tooLong.entries.empty() && tooLong.intact);
-}
-
-void TestBignumFactors::eulersFunction_data()
-{
-    QTest::addColumn<std::string>("number");
-    QTest::addColumn<std::string>("phi");
-    const auto row = [](const std::string &number, const std::string &expected) {
-        QTest::newRow(number.c_str()) << number << expected;
-    };
-    row("1", "1");
-    row("2", "1");
-    row("36", "12");
-    row("1000000007", "1000000006");
-    row("18446744073709551616", "9223372036854775808");
-    row("0", "failure");
-    row("-5", "failure");
-    row("", "failure");
-}
-
-void TestBignumFactors::eulersFunction()
-{
-    QFETCH(std::string, number);
-    QTEST(call(EulerFi, number.c_str()).value_or("failure"), "phi");
-}
-
-void TestBignumFactors::eulersFunctionCountsUnits()
-{
-    for (int n = 1; n < 300; ++n) {
-        int units = 0;
-        for (int a = 1; a <= n; ++a)
-            units += gcd(mpz_class(a), mpz_class(n)) == 1 ? 1 : 0;
-        QCOMPARE(call(EulerFi, std::to_string(n).c_str()).value_or("failure"),
-                 std::to_string(units));
-    }
-}
-
-void TestBignumFactors::twoThreadsAtOnce()
-{
-    // Both need the curves and the sieve, from threads that come and go.
-    std::vector<std::thread> threads;
-    std::vector<int> failures(4, 0);
-    for (unsigned t = 0; t < failures.size(); ++t) {
-        threads.emplace_back([&failures, t] {
-            Random random(100 + t);
-            for (unsigned digits = 10; digits <= 19; ++digits) {
-                const mpz_class n = primeOfDigits(random, digits) * primeOfDigits(random, digits);
-                failures[t] += factors(n) ? 0 : 1;
-            }
-        });
-    }
-    for (std::thread &thread : threads)
-        thread.join();
-    QCOMPARE(failures, std::vector<int>(4, 0));
-}
-
-namespace {
-
 /// "2^3 division, 11 rho", with "?" after a composite.
 struct Taken
 {
@@ -291,100 +86,277 @@ mpz_class outOfReach(unsigned digits)
 
 } // namespace
 
-void TestBignumFactors::asFound_data()
+class TestBignumFactors : public QObject
 {
-    QTest::addColumn<std::string>("number");
-    QTest::addColumn<std::string>("found");
-    const auto row = [](const std::string &number, const std::string &expected) {
-        QTest::newRow(number.c_str()) << number << expected;
-    };
-    row("0", "");
-    row("1", "");
-    row("-7", "7 itself");
-    row("1000000007", "1000000007 itself");
-    row("360", "2^3 division, 3^2 division, 5 division");
-    row("6000000042", "2 division, 3 division, 1000000007 division");
-    row("1000000016000000063", "1000000009 rho, 1000000007 rho");
-    row("1000000000000000000000000000114000000000000000000000000003249",
-        "1000000000000000000000000000057^2 root");
-}
+    Q_OBJECT
 
-void TestBignumFactors::asFound()
-{
-    QFETCH(const std::string, number);
-    Taken taken;
-    QCOMPARE(FactorsAsFound(number.c_str(), take, &taken), BIGNUM_ALL_PRIMES);
-    QTEST(taken.text, "found");
-    QVERIFY(taken.countsFit);
-}
+private Q_SLOTS:
+    void known_data()
+    {
+        QTest::addColumn<std::string>("number");
+        QTest::addColumn<std::string>("factors");
+        const auto row = [](const std::string &number, const std::string &expected) {
+            QTest::newRow(number.c_str()) << number << expected;
+        };
+        row("0", "");
+        row("1", "");
+        row("-1", "");
+        row("2", "2");
+        row("-360", "2^3 3^2 5");
+        row("65536", "2^16");
+        row("4295098369", "65537^2"); // the square of the least prime above the trial divisors
+        row("18446744073709551615", "3 5 17 257 641 65537 6700417");
+        row("18446744073709551617", "274177 67280421310721");
+        row("18446744030759878681", "4294967291^2"); // the square of the largest prime of 32 bits
+        // Round-looking, with an eight-digit factor.
+        row("126582278481012658227848101265822806309", "32384567 3908722277528449221749609969027");
+        row("1000000000000000000000000000000000000000420217",
+            "14853224237640427 67325449612875386921338313771");
+        row("340282366920938463463374607431768211457", "59649589127497217 5704689200685129054721");
+        row("618970019642690137449562111", "618970019642690137449562111"); // 2^89 - 1
+        row("147573952589676412927", "193707721 761838257287");            // 2^67 - 1
+        // 2^256 + 1: a factor of 16 digits before one of 62.
+        row("115792089237316195423570985008687907853269984665640564039457584007913129639937",
+            "1238926361552897 93461639715357977769163558199606896584051237541638188580280321");
+        row("1111111111111111111111111111111111111111", // forty ones
+            "11 41 73 101 137 271 3541 9091 27961 1676321 5964848081");
+    }
+    void known()
+    {
+        QFETCH(std::string, number);
+        const Factored result = factored(number);
+        QCOMPARE(result.flag, 1);
+        QVERIFY(result.intact);
+        QTEST(written(result), "factors");
+    }
 
-void TestBignumFactors::theTakerEndsTheSearch()
-{
-    Taken taken{.text = "", .most = 2};
-    QCOMPARE(FactorsAsFound("30030", take, &taken), BIGNUM_FACTORS_STOPPED);
-    QCOMPARE(taken.text, std::string("2 division, 3 division"));
-}
+    void smallNumbers()
+    {
+        for (int n = 2; n < 3000; ++n)
+            QVERIFY2(factors(n), std::to_string(n).c_str());
+    }
 
-void TestBignumFactors::noNumberAndNoTaker()
-{
-    Taken taken;
-    for (const char *text : {"", "x", "1/2", "-"})
-        QCOMPARE(FactorsAsFound(text, take, &taken), BIGNUM_NO_NUMBER);
-    QCOMPARE(FactorsAsFound(nullptr, take, &taken), BIGNUM_NO_NUMBER);
-    QCOMPARE(FactorsAsFound("6", nullptr, &taken), BIGNUM_FACTORS_FAILED);
-    QCOMPARE(taken.text, std::string());
-}
+    void randomNumbers()
+    {
+        Random random(21);
+        for (unsigned long bits = 20; bits <= 130; ++bits) {
+            for (int i = 0; i < 4; ++i) {
+                const mpz_class n = random.bits(bits) + 1;
+                QVERIFY2(factors(n), n.get_str().c_str());
+            }
+        }
+    }
 
-void TestBignumFactors::whatIsOutOfReachComesLast()
-{
-    // Too long to be tested for primality, and longer than any buffer of Factors.
-    const std::string repeated = "7" + std::string(8999, '7');
-    Taken taken;
-    QCOMPARE(FactorsAsFound(repeated.c_str(), take, &taken), BIGNUM_COMPOSITE_LEFT);
-    QVERIFY(taken.text.starts_with("3^2 division, 7^2 division, 11 division, "));
-    QVERIFY(taken.text.ends_with("? division"));
-    QCOMPARE(factored(repeated).flag, 0);
-}
+    void productsOfTwoPrimes()
+    {
+        // Two equal halves are the worst case of every method.
+        Random random(22);
+        for (unsigned digits = 3; digits <= 20; ++digits) {
+            const mpz_class p = primeOfDigits(random, digits);
+            const mpz_class q = primeOfDigits(random, digits);
+            QVERIFY2(factors(p * q), mpz_class(p * q).get_str().c_str());
+            QVERIFY2(factors(p * p), p.get_str().c_str());
+            if (digits <= 13)
+                QVERIFY2(factors(p * p * q), mpz_class(p * p * q).get_str().c_str());
+        }
+    }
 
-void TestBignumFactors::endBignumStops_data()
-{
-    QTest::addColumn<unsigned>("digits");
-    QTest::newRow("in the sieve") << 79U;
-    QTest::newRow("in the curves") << 110U;
-}
+    void powers()
+    {
+        Random random(23);
+        for (unsigned long exponent : {2UL, 3UL, 4UL, 5UL, 6UL, 7UL, 12UL, 30UL}) {
+            for (const unsigned digits : {5U, 6U, 9U, 12U, 20U, 25U}) {
+                mpz_class power;
+                const mpz_class prime = primeOfDigits(random, digits);
+                mpz_pow_ui(power.get_mpz_t(), prime.get_mpz_t(), exponent);
+                QCOMPARE(written(factored(power.get_str())),
+                         prime.get_str() + "^" + std::to_string(exponent));
+                QVERIFY(factors(power * 12));
+            }
+        }
+    }
 
-void TestBignumFactors::endBignumStops()
-{
-    QFETCH(const unsigned, digits);
-    using Clock = std::chrono::steady_clock;
-    const mpz_class hard = outOfReach(digits);
-    const mpz_class number = 12 * hard;
-    Factored result;
-    Clock::time_point ended;
-    std::thread worker([&] {
-        result = factored(number.get_str());
-        ended = Clock::now();
-    });
-    std::this_thread::sleep_for(std::chrono::milliseconds(700));
-    const auto asked = Clock::now();
-    QCOMPARE(EndBignum(), 1);
-    worker.join();
-    QCOMPARE(result.flag, 0);
-    QCOMPARE(written(result), "2^2 3 " + hard.get_str() + "?");
-    // 50 ms on a machine that is idle.
-    QVERIFY2(ended - asked < std::chrono::milliseconds(1000), "the stop took too long");
-    QVERIFY(factors(mpz_class("1000000016000000063"))); // the library goes on
-}
+    void buffersThatAreTooFew()
+    {
+        QCOMPARE(factored("30", 3).entries.size(), std::size_t{3});
+        const Factored tooFew = factored("30", 2);
+        QCOMPARE(tooFew.flag, 0);
+        QVERIFY(tooFew.entries.empty() && tooFew.intact);
+        QCOMPARE(Factors("1", nullptr, nullptr, 0), 1);
+        QCOMPARE(Factors("2", nullptr, nullptr, 0), 0);
+        QCOMPARE(Factors("2", nullptr, nullptr, 5), 0);
+        QCOMPARE(factored("2", 0).flag, 0);
 
-void TestBignumFactors::processMayEndMeanwhile()
-{
-    // A child of this test that leaves while its threads are in the sieve.
-    QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--leave")});
-    QVERIFY(child.waitForFinished(20000));
-    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(child.exitCode(), 0);
-}
+        NumberBuffer base;
+        char *const bases[] = {base.data(), nullptr};
+        char *const missing[] = {nullptr, nullptr};
+        QCOMPARE(Factors("7", bases, missing, 2), 0);
+        QCOMPARE(base.text(), std::string());
+        for (const char *text : {"", "x", "12 34", "1/2"}) {
+            const Factored noNumber = factored(text);
+            QVERIFY2(noNumber.flag == 0 && noNumber.entries.empty(), text);
+        }
+    }
+
+    void longNumbers()
+    {
+        // Longer than a buffer as a number, but not in its factors.
+        const std::string round = "1" + std::string(9000, '0');
+        QCOMPARE(written(factored(round)), std::string("2^9000 5^9000"));
+        // A composite of 8192 digits without small factors does not fit its buffer.
+        mpz_class power;
+        mpz_pow_ui(power.get_mpz_t(), mpz_class(1000003).get_mpz_t(), 1500);
+        const Factored tooLong = factored(power.get_str());
+        QCOMPARE(tooLong.flag, 0);
+        QVERIFY(tooLong.entries.empty() && tooLong.intact);
+    }
+
+    void eulersFunction_data()
+    {
+        QTest::addColumn<std::string>("number");
+        QTest::addColumn<std::string>("phi");
+        const auto row = [](const std::string &number, const std::string &expected) {
+            QTest::newRow(number.c_str()) << number << expected;
+        };
+        row("1", "1");
+        row("2", "1");
+        row("36", "12");
+        row("1000000007", "1000000006");
+        row("18446744073709551616", "9223372036854775808");
+        row("0", "failure");
+        row("-5", "failure");
+        row("", "failure");
+    }
+    void eulersFunction()
+    {
+        QFETCH(std::string, number);
+        QTEST(call(EulerFi, number.c_str()).value_or("failure"), "phi");
+    }
+
+    void eulersFunctionCountsUnits()
+    {
+        for (int n = 1; n < 300; ++n) {
+            int units = 0;
+            for (int a = 1; a <= n; ++a)
+                units += gcd(mpz_class(a), mpz_class(n)) == 1 ? 1 : 0;
+            QCOMPARE(call(EulerFi, std::to_string(n).c_str()).value_or("failure"),
+                     std::to_string(units));
+        }
+    }
+
+    void twoThreadsAtOnce()
+    {
+        // Both need the curves and the sieve, from threads that come and go.
+        std::vector<std::thread> threads;
+        std::vector<int> failures(4, 0);
+        for (unsigned t = 0; t < failures.size(); ++t) {
+            threads.emplace_back([&failures, t] {
+                Random random(100 + t);
+                for (unsigned digits = 10; digits <= 19; ++digits) {
+                    const mpz_class n =
+                        primeOfDigits(random, digits) * primeOfDigits(random, digits);
+                    failures[t] += factors(n) ? 0 : 1;
+                }
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(failures, std::vector<int>(4, 0));
+    }
+
+    void asFound_data()
+    {
+        QTest::addColumn<std::string>("number");
+        QTest::addColumn<std::string>("found");
+        const auto row = [](const std::string &number, const std::string &expected) {
+            QTest::newRow(number.c_str()) << number << expected;
+        };
+        row("0", "");
+        row("1", "");
+        row("-7", "7 itself");
+        row("1000000007", "1000000007 itself");
+        row("360", "2^3 division, 3^2 division, 5 division");
+        row("6000000042", "2 division, 3 division, 1000000007 division");
+        row("1000000016000000063", "1000000009 rho, 1000000007 rho");
+        row("1000000000000000000000000000114000000000000000000000000003249",
+            "1000000000000000000000000000057^2 root");
+    }
+    void asFound()
+    {
+        QFETCH(const std::string, number);
+        Taken taken;
+        QCOMPARE(FactorsAsFound(number.c_str(), take, &taken), BIGNUM_ALL_PRIMES);
+        QTEST(taken.text, "found");
+        QVERIFY(taken.countsFit);
+    }
+
+    void theTakerEndsTheSearch()
+    {
+        Taken taken{.text = "", .most = 2};
+        QCOMPARE(FactorsAsFound("30030", take, &taken), BIGNUM_FACTORS_STOPPED);
+        QCOMPARE(taken.text, std::string("2 division, 3 division"));
+    }
+
+    void noNumberAndNoTaker()
+    {
+        Taken taken;
+        for (const char *text : {"", "x", "1/2", "-"})
+            QCOMPARE(FactorsAsFound(text, take, &taken), BIGNUM_NO_NUMBER);
+        QCOMPARE(FactorsAsFound(nullptr, take, &taken), BIGNUM_NO_NUMBER);
+        QCOMPARE(FactorsAsFound("6", nullptr, &taken), BIGNUM_FACTORS_FAILED);
+        QCOMPARE(taken.text, std::string());
+    }
+
+    void whatIsOutOfReachComesLast()
+    {
+        // Too long to be tested for primality, and longer than any buffer of Factors.
+        const std::string repeated = "7" + std::string(8999, '7');
+        Taken taken;
+        QCOMPARE(FactorsAsFound(repeated.c_str(), take, &taken), BIGNUM_COMPOSITE_LEFT);
+        QVERIFY(taken.text.starts_with("3^2 division, 7^2 division, 11 division, "));
+        QVERIFY(taken.text.ends_with("? division"));
+        QCOMPARE(factored(repeated).flag, 0);
+    }
+
+    void endBignumStops_data()
+    {
+        QTest::addColumn<unsigned>("digits");
+        QTest::newRow("in the sieve") << 79U;
+        QTest::newRow("in the curves") << 110U;
+    }
+    void endBignumStops()
+    {
+        QFETCH(const unsigned, digits);
+        using Clock = std::chrono::steady_clock;
+        const mpz_class hard = outOfReach(digits);
+        const mpz_class number = 12 * hard;
+        Factored result;
+        Clock::time_point ended;
+        std::thread worker([&] {
+            result = factored(number.get_str());
+            ended = Clock::now();
+        });
+        std::this_thread::sleep_for(std::chrono::milliseconds(700));
+        const auto asked = Clock::now();
+        QCOMPARE(EndBignum(), 1);
+        worker.join();
+        QCOMPARE(result.flag, 0);
+        QCOMPARE(written(result), "2^2 3 " + hard.get_str() + "?");
+        // 50 ms on a machine that is idle.
+        QVERIFY2(ended - asked < std::chrono::milliseconds(1000), "the stop took too long");
+        QVERIFY(factors(mpz_class("1000000016000000063"))); // the library goes on
+    }
+
+    void processMayEndMeanwhile()
+    {
+        // A child of this test that leaves while its threads are in the sieve.
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--leave")});
+        QVERIFY(child.waitForFinished(20000));
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 0);
+    }
+};
 
 /// With an argument of its own the test is the process that ends while it factors.
 int main(int argc, char **argv)

@@ -53,274 +53,251 @@ class TestBignumPrimes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void smallNumbersAgreeWithDivision();
-    void knownNumbers_data();
-    void knownNumbers();
-    void randomNumbersAgreeWithGmp();
-    void productsOfNearbyPrimesAreComposite();
-    void bits_data();
-    void bits();
-    void nextPrimes_data();
-    void nextPrimes();
-    void nextPrimeSkipsNone();
-    void nextPrimeOfLongNumbers();
-    void randomPrimesHaveTheirBits();
-    void randomPrimesReachAllPrimes_data();
-    void randomPrimesReachAllPrimes();
-    void countOfPrimes_data();
-    void countOfPrimes();
-    void streamOfPrimes();
-    void listsOfPrimesInParts();
+    void smallNumbersAgreeWithDivision()
+    {
+        for (int n = -10; n < 20000; ++n)
+            QCOMPARE(isPrime(n), isPrimeByDivision(n));
+    }
+
+    void knownNumbers_data()
+    {
+        QTest::addColumn<QByteArray>("number");
+        QTest::addColumn<bool>("prime");
+        const auto mersenne = [](unsigned long p) {
+            return QByteArray::fromStdString(mpz_class((mpz_class(1) << p) - 1).get_str());
+        };
+
+        QTest::newRow("zero") << "0"_ba << false;
+        QTest::newRow("minus two") << "-2"_ba << false;
+        QTest::newRow("two with sign and blanks") << "\t +2 \r\n"_ba << true;
+        // The least composites that pass strong tests to the first 1, 2, ... 13 prime bases.
+        const char *const strongPseudoprimes[] = {"2047",
+                                                  "1373653",
+                                                  "25326001",
+                                                  "3215031751",
+                                                  "2152302898747",
+                                                  "3474749660383",
+                                                  "341550071728321",
+                                                  "3825123056546413051",
+                                                  "318665857834031151167461",
+                                                  "3317044064679887385961981"};
+        for (const char *n : strongPseudoprimes)
+            QTest::addRow("strong pseudoprime %s", n) << QByteArray(n) << false;
+        for (const char *n : {"561", "1729", "294409", "56052361", "118901521", "9746347772161",
+                              "349407515342287435050603204719587201"})
+            QTest::addRow("Carmichael %s", n) << QByteArray(n) << false;
+        // Pass the Lucas half of the test alone.
+        for (const char *n : {"989", "3239", "5459", "5777", "10877", "72389", "100127", "113573"})
+            QTest::addRow("Lucas pseudoprime %s", n) << QByteArray(n) << false;
+        QTest::newRow("square of a Wieferich prime") << "1194649"_ba << false;
+        QTest::newRow("square of the other") << "12327121"_ba << false;
+        QTest::newRow("square beyond a word")
+            << "340282366920938460843936948965011886881"_ba << false;
+        QTest::newRow("largest prime of a word") << "18446744073709551557"_ba << true;
+        QTest::newRow("least prime beyond a word") << "18446744073709551629"_ba << true;
+        QTest::newRow("2^64 - 1") << "18446744073709551615"_ba << false;
+        QTest::newRow("2^64 + 1") << "18446744073709551617"_ba << false;
+        QTest::newRow("2^128 + 1") << "340282366920938463463374607431768211457"_ba << false;
+        for (const unsigned long p : {61UL, 89UL, 107UL, 127UL, 521UL, 607UL, 1279UL, 2203UL})
+            QTest::addRow("Mersenne prime %lu", p) << mersenne(p) << true;
+        for (const unsigned long p : {67UL, 101UL, 257UL, 1009UL})
+            QTest::addRow("Mersenne composite %lu", p) << mersenne(p) << false;
+    }
+    void knownNumbers()
+    {
+        QFETCH(QByteArray, number);
+        QFETCH(bool, prime);
+        QCOMPARE(IsPrime(number.constData()), prime ? 1 : 0);
+    }
+
+    void randomNumbersAgreeWithGmp()
+    {
+        Random random(1);
+        for (unsigned long bits = 15; bits <= 200; ++bits) {
+            for (int i = 0; i < 20; ++i) {
+                mpz_class n = random.bits(bits);
+                if (i % 2 != 0)
+                    mpz_nextprime(n.get_mpz_t(), n.get_mpz_t());
+                QVERIFY2(isPrime(n) == isPrimeByGmp(n), n.get_str().c_str());
+            }
+        }
+    }
+
+    void productsOfNearbyPrimesAreComposite()
+    {
+        // p(2p - 1) and p(3p - 2) pass far more tests to a random base than other composites.
+        Random random(2);
+        for (int i = 0; i < 20000; ++i) {
+            const mpz_class p = random.bits(40);
+            for (const unsigned long k : {2UL, 3UL}) {
+                const mpz_class q = k * (p - 1) + 1;
+                if (p > 1 && isPrimeByGmp(p) && isPrimeByGmp(q))
+                    QVERIFY2(!isPrime(p * q), mpz_class(p * q).get_str().c_str());
+            }
+        }
+    }
+
+    void bits_data()
+    {
+        QTest::addColumn<QByteArray>("number");
+        QTest::addColumn<int>("bits");
+        QTest::newRow("zero") << "0"_ba << 0;
+        QTest::newRow("one") << "1"_ba << 1;
+        QTest::newRow("1023") << "1023"_ba << 10;
+        QTest::newRow("1024") << "1024"_ba << 11;
+        QTest::newRow("negative") << "-1024"_ba << 11;
+        QTest::newRow("2^64 - 1") << "18446744073709551615"_ba << 64;
+        QTest::newRow("2^64") << "18446744073709551616"_ba << 65;
+        QTest::newRow("10^24574") << "1"_ba + QByteArray(24574, '0') << 81634;
+        QTest::newRow("no number") << "12a"_ba << 0;
+    }
+    void bits()
+    {
+        QFETCH(QByteArray, number);
+        QTEST(NumBits(number.constData()), "bits");
+    }
+
+    void nextPrimes_data()
+    {
+        QTest::addColumn<QByteArray>("number");
+        QTest::addColumn<QByteArray>("next");
+        const auto row = [](const char *name, const QByteArray &number, const QByteArray &next) {
+            QTest::newRow(name) << number << next;
+        };
+        row("far below two", "-1000000000000000000000000", "2");
+        row("beyond the bits of a search", "-1" + QByteArray(4000, '0'), "2");
+        row("one", "1", "2");
+        row("two", "2", "3");
+        row("three", "3", "5");
+        row("across a gap of 114", "492113", "492227");
+        row("across a gap of 1476", "1425172824437699411", "1425172824437700887");
+        row("to the last prime of a word", "18446744073709551556", "18446744073709551557");
+        row("out of the word", "18446744073709551557", "18446744073709551629");
+        row("googol", "1" + QByteArray(100, '0'), "1" + QByteArray(97, '0') + "267");
+    }
+    void nextPrimes()
+    {
+        QFETCH(QByteArray, number);
+        QFETCH(QByteArray, next);
+        QCOMPARE(QByteArray::fromStdString(call(NextPrime, number.constData()).value_or("failure")),
+                 next);
+    }
+
+    void nextPrimeSkipsNone()
+    {
+        std::string n = "0";
+        for (int expected = 2; expected < 3000; ++expected) {
+            if (!isPrimeByDivision(expected))
+                continue;
+            n = call(NextPrime, n.c_str()).value_or("failure");
+            QCOMPARE(n, std::to_string(expected));
+        }
+    }
+
+    void nextPrimeOfLongNumbers()
+    {
+        Random random(3);
+        for (unsigned long bits = 60; bits <= 600; bits += 5) {
+            const mpz_class n = random.bits(bits);
+            mpz_class expected;
+            mpz_nextprime(expected.get_mpz_t(), n.get_mpz_t());
+            QCOMPARE(call(NextPrime, n.get_str().c_str()).value_or("failure"), expected.get_str());
+        }
+        QVERIFY(!call(NextPrime, ("1" + std::string(3011, '0')).c_str()));
+    }
+
+    void randomPrimesHaveTheirBits()
+    {
+        for (const int bits : {2, 3, 4, 31, 32, 33, 63, 64, 65, 66, 127, 128, 129, 512, 1024}) {
+            const std::string prime = call(RndPrimo, bits).value_or("failure");
+            QCOMPARE(NumBits(prime.c_str()), bits);
+            QVERIFY(isPrimeByGmp(mpz_class(prime)));
+        }
+        for (const int bits : {-5, 0, 1, 10001, 2000000000})
+            QVERIFY(!call(RndPrimo, bits));
+    }
+
+    void randomPrimesReachAllPrimes_data()
+    {
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<int>("primes");
+        QTest::newRow("2 and 3") << 2 << 2;
+        QTest::newRow("5 and 7") << 3 << 2;
+        QTest::newRow("37 to 61") << 6 << 7;
+    }
+    void randomPrimesReachAllPrimes()
+    {
+        // Of seven primes each has 1429 of 10 000 draws, give or take 35: 15 % more is six times
+        // that away. Walking on from a composite draw to the next prime would give 37 some 1875.
+        constexpr int draws = 10'000;
+        QFETCH(int, bits);
+        QFETCH(int, primes);
+        std::map<std::string, int> drawn;
+        for (int i = 0; i < draws; ++i)
+            ++drawn[call(RndPrimo, bits).value_or("failure")];
+        QCOMPARE(static_cast<int>(drawn.size()), primes);
+        for (const auto &[prime, times] : drawn)
+            QVERIFY2(100 * times < 115 * draws / primes, prime.c_str());
+    }
+
+    void countOfPrimes_data()
+    {
+        QTest::addColumn<int>("limit");
+        QTest::addColumn<int>("count");
+        QTest::newRow("negative") << -7 << 0;
+        QTest::newRow("zero") << 0 << 0;
+        QTest::newRow("one") << 1 << 0;
+        QTest::newRow("two") << 2 << 1;
+        QTest::newRow("up to a prime") << 97 << 25;
+        QTest::newRow("million") << 1000000 << 78498;
+        QTest::newRow("ten million") << 10000000 << 664579;
+        QTest::newRow("the largest limit") << 2147483647 << 105097565;
+    }
+    void countOfPrimes()
+    {
+        QFETCH(int, limit);
+        QTEST(ListPrimes(limit), "count");
+    }
+
+    void streamOfPrimes()
+    {
+        PrimeSum all;
+        QCOMPARE(PrimesBetween(0, 1299709, takeBlock, &all), 1);
+        QCOMPARE(all.count, 100000);
+        QCOMPARE(all.last, 1299709U);
+        QVERIFY(all.ascending);
+
+        PrimeSum stopped;
+        stopped.stopAfter = 1;
+        QCOMPARE(PrimesBetween(0, INT64_MAX, takeBlock, &stopped), 0);
+        QVERIFY(stopped.count > 0 && stopped.count < 1000000);
+
+        PrimeSum none;
+        QCOMPARE(PrimesBetween(0, 1, takeBlock, &none), 1);
+        QCOMPARE(none.count, 0);
+        QCOMPARE(PrimesBetween(0, 100, nullptr, nullptr), 0);
+    }
+
+    void listsOfPrimesInParts()
+    {
+        // 84 017 is the prime number 8192, which fills a block: nothing comes after it.
+        PrimeSum full;
+        QCOMPARE(PrimesBetween(0, 84'017, takeBlock, &full), 1);
+        QCOMPARE(full.blocks, full.count / 8192);
+        // A list that is ended in its last block is ended.
+        PrimeSum ended;
+        ended.stopAfter = 1;
+        QCOMPARE(PrimesBetween(0, 10, takeBlock, &ended), 0);
+        QCOMPARE(ended.count, 4);
+        // A list that is asked for in two parts.
+        PrimeSum parts;
+        QCOMPARE(PrimesBetween(INT64_MIN, 6, takeBlock, &parts), 1);
+        QCOMPARE(PrimesBetween(7, 29, takeBlock, &parts), 1);
+        QCOMPARE(PrimesBetween(29, 7, takeBlock, &parts), 1);
+        QCOMPARE(parts.count, 10);
+        QCOMPARE(parts.last, 29U);
+    }
 };
-
-void TestBignumPrimes::smallNumbersAgreeWithDivision()
-{
-    for (int n = -10; n < 20000; ++n)
-        QCOMPARE(isPrime(n), isPrimeByDivision(n));
-}
-
-void TestBignumPrimes::knownNumbers_data()
-{
-    QTest::addColumn<QByteArray>("number");
-    QTest::addColumn<bool>("prime");
-    const auto mersenne = [](unsigned long p) {
-        return QByteArray::fromStdString(mpz_class((mpz_class(1) << p) - 1).get_str());
-    };
-
-    QTest::newRow("zero") << "0"_ba << false;
-    QTest::newRow("minus two") << "-2"_ba << false;
-    QTest::newRow("two with sign and blanks") << "\t +2 \r\n"_ba << true;
-    // The least composites that pass strong tests to the first 1, 2, ... 13 prime bases.
-    const char *const strongPseudoprimes[] = {"2047",
-                                              "1373653",
-                                              "25326001",
-                                              "3215031751",
-                                              "2152302898747",
-                                              "3474749660383",
-                                              "341550071728321",
-                                              "3825123056546413051",
-                                              "318665857834031151167461",
-                                              "3317044064679887385961981"};
-    for (const char *n : strongPseudoprimes)
-        QTest::addRow("strong pseudoprime %s", n) << QByteArray(n) << false;
-    for (const char *n : {"561", "1729", "294409", "56052361", "118901521", "9746347772161",
-                          "349407515342287435050603204719587201"})
-        QTest::addRow("Carmichael %s", n) << QByteArray(n) << false;
-    // Pass the Lucas half of the test alone.
-    for (const char *n : {"989", "3239", "5459", "5777", "10877", "72389", "100127", "113573"})
-        QTest::addRow("Lucas pseudoprime %s", n) << QByteArray(n) << false;
-    QTest::newRow("square of a Wieferich prime") << "1194649"_ba << false;
-    QTest::newRow("square of the other") << "12327121"_ba << false;
-    QTest::newRow("square beyond a word") << "340282366920938460843936948965011886881"_ba << false;
-    QTest::newRow("largest prime of a word") << "18446744073709551557"_ba << true;
-    QTest::newRow("least prime beyond a word") << "18446744073709551629"_ba << true;
-    QTest::newRow("2^64 - 1") << "18446744073709551615"_ba << false;
-    QTest::newRow("2^64 + 1") << "18446744073709551617"_ba << false;
-    QTest::newRow("2^128 + 1") << "340282366920938463463374607431768211457"_ba << false;
-    for (const unsigned long p : {61UL, 89UL, 107UL, 127UL, 521UL, 607UL, 1279UL, 2203UL})
-        QTest::addRow("Mersenne prime %lu", p) << mersenne(p) << true;
-    for (const unsigned long p : {67UL, 101UL, 257UL, 1009UL})
-        QTest::addRow("Mersenne composite %lu", p) << mersenne(p) << false;
-}
-
-void TestBignumPrimes::knownNumbers()
-{
-    QFETCH(QByteArray, number);
-    QFETCH(bool, prime);
-    QCOMPARE(IsPrime(number.constData()), prime ? 1 : 0);
-}
-
-void TestBignumPrimes::randomNumbersAgreeWithGmp()
-{
-    Random random(1);
-    for (unsigned long bits = 15; bits <= 200; ++bits) {
-        for (int i = 0; i < 20; ++i) {
-            mpz_class n = random.bits(bits);
-            if (i % 2 != 0)
-                mpz_nextprime(n.get_mpz_t(), n.get_mpz_t());
-            QVERIFY2(isPrime(n) == isPrimeByGmp(n), n.get_str().c_str());
-        }
-    }
-}
-
-void TestBignumPrimes::productsOfNearbyPrimesAreComposite()
-{
-    // p(2p - 1) and p(3p - 2) pass far more tests to a random base than other composites.
-    Random random(2);
-    for (int i = 0; i < 20000; ++i) {
-        const mpz_class p = random.bits(40);
-        for (const unsigned long k : {2UL, 3UL}) {
-            const mpz_class q = k * (p - 1) + 1;
-            if (p > 1 && isPrimeByGmp(p) && isPrimeByGmp(q))
-                QVERIFY2(!isPrime(p * q), mpz_class(p * q).get_str().c_str());
-        }
-    }
-}
-
-void TestBignumPrimes::bits_data()
-{
-    QTest::addColumn<QByteArray>("number");
-    QTest::addColumn<int>("bits");
-    QTest::newRow("zero") << "0"_ba << 0;
-    QTest::newRow("one") << "1"_ba << 1;
-    QTest::newRow("1023") << "1023"_ba << 10;
-    QTest::newRow("1024") << "1024"_ba << 11;
-    QTest::newRow("negative") << "-1024"_ba << 11;
-    QTest::newRow("2^64 - 1") << "18446744073709551615"_ba << 64;
-    QTest::newRow("2^64") << "18446744073709551616"_ba << 65;
-    QTest::newRow("10^24574") << "1"_ba + QByteArray(24574, '0') << 81634;
-    QTest::newRow("no number") << "12a"_ba << 0;
-}
-
-void TestBignumPrimes::bits()
-{
-    QFETCH(QByteArray, number);
-    QTEST(NumBits(number.constData()), "bits");
-}
-
-void TestBignumPrimes::nextPrimes_data()
-{
-    QTest::addColumn<QByteArray>("number");
-    QTest::addColumn<QByteArray>("next");
-    const auto row = [](const char *name, const QByteArray &number, const QByteArray &next) {
-        QTest::newRow(name) << number << next;
-    };
-    row("far below two", "-1000000000000000000000000", "2");
-    row("beyond the bits of a search", "-1" + QByteArray(4000, '0'), "2");
-    row("one", "1", "2");
-    row("two", "2", "3");
-    row("three", "3", "5");
-    row("across a gap of 114", "492113", "492227");
-    row("across a gap of 1476", "1425172824437699411", "1425172824437700887");
-    row("to the last prime of a word", "18446744073709551556", "18446744073709551557");
-    row("out of the word", "18446744073709551557", "18446744073709551629");
-    row("googol", "1" + QByteArray(100, '0'), "1" + QByteArray(97, '0') + "267");
-}
-
-void TestBignumPrimes::nextPrimes()
-{
-    QFETCH(QByteArray, number);
-    QFETCH(QByteArray, next);
-    QCOMPARE(QByteArray::fromStdString(call(NextPrime, number.constData()).value_or("failure")),
-             next);
-}
-
-void TestBignumPrimes::nextPrimeSkipsNone()
-{
-    std::string n = "0";
-    for (int expected = 2; expected < 3000; ++expected) {
-        if (!isPrimeByDivision(expected))
-            continue;
-        n = call(NextPrime, n.c_str()).value_or("failure");
-        QCOMPARE(n, std::to_string(expected));
-    }
-}
-
-void TestBignumPrimes::nextPrimeOfLongNumbers()
-{
-    Random random(3);
-    for (unsigned long bits = 60; bits <= 600; bits += 5) {
-        const mpz_class n = random.bits(bits);
-        mpz_class expected;
-        mpz_nextprime(expected.get_mpz_t(), n.get_mpz_t());
-        QCOMPARE(call(NextPrime, n.get_str().c_str()).value_or("failure"), expected.get_str());
-    }
-    QVERIFY(!call(NextPrime, ("1" + std::string(3011, '0')).c_str()));
-}
-
-void TestBignumPrimes::randomPrimesHaveTheirBits()
-{
-    for (const int bits : {2, 3, 4, 31, 32, 33, 63, 64, 65, 66, 127, 128, 129, 512, 1024}) {
-        const std::string prime = call(RndPrimo, bits).value_or("failure");
-        QCOMPARE(NumBits(prime.c_str()), bits);
-        QVERIFY(isPrimeByGmp(mpz_class(prime)));
-    }
-    for (const int bits : {-5, 0, 1, 10001, 2000000000})
-        QVERIFY(!call(RndPrimo, bits));
-}
-
-void TestBignumPrimes::randomPrimesReachAllPrimes_data()
-{
-    QTest::addColumn<int>("bits");
-    QTest::addColumn<int>("primes");
-    QTest::newRow("2 and 3") << 2 << 2;
-    QTest::newRow("5 and 7") << 3 << 2;
-    QTest::newRow("37 to 61") << 6 << 7;
-}
-
-void TestBignumPrimes::randomPrimesReachAllPrimes()
-{
-    // Of seven primes each has 1429 of 10 000 draws, give or take 35: 15 % more is six times that
-    // away. Walking on from a composite draw to the next prime would give 37 some 1875.
-    constexpr int draws = 10'000;
-    QFETCH(int, bits);
-    QFETCH(int, primes);
-    std::map<std::string, int> drawn;
-    for (int i = 0; i < draws; ++i)
-        ++drawn[call(RndPrimo, bits).value_or("failure")];
-    QCOMPARE(static_cast<int>(drawn.size()), primes);
-    for (const auto &[prime, times] : drawn)
-        QVERIFY2(100 * times < 115 * draws / primes, prime.c_str());
-}
-
-void TestBignumPrimes::countOfPrimes_data()
-{
-    QTest::addColumn<int>("limit");
-    QTest::addColumn<int>("count");
-    QTest::newRow("negative") << -7 << 0;
-    QTest::newRow("zero") << 0 << 0;
-    QTest::newRow("one") << 1 << 0;
-    QTest::newRow("two") << 2 << 1;
-    QTest::newRow("up to a prime") << 97 << 25;
-    QTest::newRow("million") << 1000000 << 78498;
-    QTest::newRow("ten million") << 10000000 << 664579;
-    QTest::newRow("the largest limit") << 2147483647 << 105097565;
-}
-
-void TestBignumPrimes::countOfPrimes()
-{
-    QFETCH(int, limit);
-    QTEST(ListPrimes(limit), "count");
-}
-
-void TestBignumPrimes::streamOfPrimes()
-{
-    PrimeSum all;
-    QCOMPARE(PrimesBetween(0, 1299709, takeBlock, &all), 1);
-    QCOMPARE(all.count, 100000);
-    QCOMPARE(all.last, 1299709U);
-    QVERIFY(all.ascending);
-
-    PrimeSum stopped;
-    stopped.stopAfter = 1;
-    QCOMPARE(PrimesBetween(0, INT64_MAX, takeBlock, &stopped), 0);
-    QVERIFY(stopped.count > 0 && stopped.count < 1000000);
-
-    PrimeSum none;
-    QCOMPARE(PrimesBetween(0, 1, takeBlock, &none), 1);
-    QCOMPARE(none.count, 0);
-    QCOMPARE(PrimesBetween(0, 100, nullptr, nullptr), 0);
-}
-
-void TestBignumPrimes::listsOfPrimesInParts()
-{
-    // 84 017 is the prime number 8192, which fills a block: nothing comes after it.
-    PrimeSum full;
-    QCOMPARE(PrimesBetween(0, 84'017, takeBlock, &full), 1);
-    QCOMPARE(full.blocks, full.count / 8192);
-    // A list that is ended in its last block is ended.
-    PrimeSum ended;
-    ended.stopAfter = 1;
-    QCOMPARE(PrimesBetween(0, 10, takeBlock, &ended), 0);
-    QCOMPARE(ended.count, 4);
-    // A list that is asked for in two parts.
-    PrimeSum parts;
-    QCOMPARE(PrimesBetween(INT64_MIN, 6, takeBlock, &parts), 1);
-    QCOMPARE(PrimesBetween(7, 29, takeBlock, &parts), 1);
-    QCOMPARE(PrimesBetween(29, 7, takeBlock, &parts), 1);
-    QCOMPARE(parts.count, 10);
-    QCOMPARE(parts.last, 29U);
-}
 
 QTEST_APPLESS_MAIN(TestBignumPrimes)
 #include "tst_BignumPrimes.moc"

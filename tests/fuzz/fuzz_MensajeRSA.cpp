@@ -15,11 +15,11 @@ void checkRoundTrip(const ContenidoMensaje &message)
 {
     QByteArray bytes;
     try {
-        bytes = ArchivoMensaje::compone(message);
+        bytes = ArchivoMensaje::compone(message, {}).completa();
     } catch (const ErrorEjecucion &) {
         return;
     }
-    const ContenidoMensaje again = ArchivoMensaje::interpreta(bytes);
+    const ContenidoMensaje again = ArchivoMensaje::interpreta(bytes, {}).completa();
     check(again.remitente == message.remitente && again.asunto == message.asunto.trimmed() &&
               again.bloques == message.bloques,
           "what is written is read back");
@@ -30,7 +30,7 @@ void checkRoundTrip(const ContenidoMensaje &message)
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    const ContenidoMensaje message = ArchivoMensaje::interpreta(bytes);
+    const ContenidoMensaje message = ArchivoMensaje::interpreta(bytes, {}).completa();
     check(isLine(message.remitente) && isLine(message.asunto), "a header is two lines");
     for (const QString &block : message.bloques) {
         check(isLine(block), "a block is a line");

@@ -1,4 +1,4 @@
-#include "minical/ArchivoDeHoja.h"
+#include "minical/DocumentoDeHoja.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -69,6 +69,32 @@ private Q_SLOTS:
             const QString usaVarias = u"A1+A12+B2+B22+Y9"_s;
             QCOMPARE(otra.SustituirVariables(usaVarias), hoja.SustituirVariables(usaVarias));
         }
+    }
+
+    /// The copy of unsaved work brings sheet, widths and path back, whatever signs these have.
+    void copiaDeLoNoGuardado()
+    {
+        const QTemporaryDir carpeta;
+        const QString ruta = carpeta.filePath(u"mi\nhoja 100% ñ.minical"_s);
+        const DocumentoDeHoja::Anchos anchos{{2, 40}};
+        HojaDeCalculo hoja;
+        DocumentoDeHoja documento(hoja);
+        entra(hoja, u"A1", u"1/8"_s);
+        QVERIFY(documento.guarda(ruta, anchos));
+        QCOMPARE(documento.copia(anchos), QByteArray());
+        entra(hoja, u"A2", u"A1*2"_s);
+        const QByteArray copia = documento.copia(anchos);
+
+        HojaDeCalculo otra;
+        DocumentoDeHoja recuperado(otra);
+        QCOMPARE(std::get<DocumentoDeHoja::Anchos>(recuperado.recupera(copia)), anchos);
+        QCOMPARE(recuperado.ruta(), ruta);
+        QCOMPARE(contenidoDe(otra), contenidoDe(hoja));
+        QVERIFY(recuperado.modificado() && recuperado.copia(anchos) == copia);
+        // A bad one changes nothing.
+        for (const QByteArray &mala : {copia.chopped(1), "\n"_ba, "x"_ba})
+            QVERIFY(std::holds_alternative<FalloDeHoja>(recuperado.recupera(mala)));
+        QCOMPARE(recuperado.copia(anchos), copia);
     }
 
     void queSeEscribe()

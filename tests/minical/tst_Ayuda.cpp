@@ -172,7 +172,7 @@ private Q_SLOTS:
     void loQueDaError_data()
     {
         QTest::addColumn<QString>("expresion");
-        const QStringList comunes{u"(1+2]"_s, u"1/2 mod 3"_s, u"a1+1"_s, u"9^9^9^9"_s};
+        const QStringList comunes{u"(1+2]"_s, u"1/2 mod 3"_s, u"2**3"_s, u"a1+1"_s, u"9^9^9^9"_s};
         const QStringList porComas{u"mcd(12,18)"_s, u"gcd(12,18)"_s};
         for (qsizetype i = 0; i < paginas.size(); ++i) {
             const QString todo = texto(paginas[i]);

@@ -166,8 +166,8 @@ private Q_SLOTS:
         QFETCH(QString, texto);
         QFETCH(QString, mensaje);
         InstalaAvisoDeCota([](const QString &cota) {
-            interlocutor().mensaje(nullptr, Interlocutor::Icono::Informacion,
-                                   u"El mayor número permitido es "_s + cota, {});
+            interlocutor().avisa(nullptr, Interlocutor::Icono::Informacion,
+                                 u"El mayor número permitido es "_s + cota, {});
         });
         auto *campo = control<QLineEdit>(m->ventana(), u"txtPrecisión"_s);
         QCOMPARE(campo->text(), u"100"_s);

@@ -1,8 +1,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
-#include "minical/ExportaCSV.h"
 #include "minical/HojaGuardada.h"
-#include "minical/LineasDeHoja.h"
 #include "minical/Sustitucion.h"
+#include "minical/TextosDeHoja.h"
 #include "shell/core/run/Tareas.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
@@ -334,6 +333,9 @@ private Q_SLOTS:
         QVERIFY(hoja.pega(en(u"A1"), {{u"2"_s, u"A1^10"_s}, {u"B1+1"_s}}, sinCeder).completa());
         QCOMPARE(resultado(hoja, u"B1"), u"1024"_s);
         QCOMPARE(resultado(hoja, u"A2"), u"1025"_s);
+        QVERIFY(hoja.pega(en(u"C1"), {{QString(100'000, u' ')}}, sinCeder).completa());
+        QVERIFY(!hoja.pega(en(u"C2"), {{QString(100'001, u' ')}}, sinCeder).completa());
+        hoja.deshace();
         QVERIFY(!hoja.pega(en(u"Y99"), {{u"1"_s, u"2"_s}, {u"3"_s}}, sinCeder).completa());
         QCOMPARE(resultado(hoja, u"Y99"), u"1"_s);
         hoja.deshace();

@@ -162,13 +162,14 @@ private Q_SLOTS:
         rejilla.show();
         QApplication::clipboard()->setText(u"de antes"_s);
         const auto copia = [&] { QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier); };
-        for (const auto &[filas, columnas, celda] :
-             {std::tuple{1'000'000, 1'000'000, u"1"_s}, {2, 2, QString(20'000'000, u'1')}}) {
+        for (const auto &[filas, columnas, celda] : {std::tuple{1'000'000, 1'000'000, u"1"_s},
+                                                     {5'000'001, 1, u"1"_s},
+                                                     {2, 2, QString(20'000'000, u'1')}}) {
             modelo.pon(filas, columnas, celda);
             copia();
             QCOMPARE(Entorno::grabadora().unico().titulo, u"No se ha copiado"_s);
         }
-        modelo.pon(4'000'000, 1, u"1"_s);
+        modelo.pon(5'000'000, 1, u"1"_s); // the most that fits
         const auto boton = [&] { return rejilla.findChild<QPushButton *>(u"cmdDetenCopia"_s); };
         copia();
         QVERIFY(!rejilla.tareas().vacias());

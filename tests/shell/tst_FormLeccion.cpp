@@ -80,6 +80,8 @@ private Q_SLOTS:
         muestra(leccion);
         QDir::setCurrent(u"/"_s);
         QTest::keyPress(leccion.campo, Qt::Key_F1);
+        QKeyEvent mantenida(QEvent::KeyRelease, Qt::Key_F1, {}, {}, /*autorep*/ true);
+        QApplication::sendEvent(leccion.campo, &mantenida);
         QVERIFY(Entorno::grabadora().abiertas.isEmpty());
         QTest::keyRelease(leccion.campo, Qt::Key_F1);
         QDir::setCurrent(Entorno::carpetaDeTrabajo());
@@ -136,6 +138,16 @@ private Q_SLOTS:
         QCOMPARE(leccion.boton->accessibleName(), u"Calcular"_s);
         QCOMPARE(leccion.cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(FormCorredor::vivas, 0);
+    }
+
+    void laQueAcabaTardeNoTocaElBoton()
+    {
+        FormCorredor leccion;
+        muestra(leccion);
+        for (int clic = 1; clic <= 3; ++clic) // starts, stops, starts another
+            leccion.boton->click();
+        QTRY_COMPARE(FormCorredor::vivas, 1);
+        QCOMPARE(leccion.boton->toolTip(), u"Detener cálculo"_s);
     }
 
     void cerrarDuranteLaCorrida_data()

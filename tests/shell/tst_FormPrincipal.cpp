@@ -14,9 +14,12 @@
 #include <QListView>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMessageBox>
-#include <QToolButton>
+#include <QPushButton>
+#include <QSessionManager>
 #include <csignal>
+#include <cstddef>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -91,6 +94,11 @@ private Q_SLOTS:
         pulsa(2);
         QCOMPARE(titulos(), (QStringList{u"Dos"_s, u"Cuatro"_s}));
         QCOMPARE(m_principal->leccionActiva()->windowTitle(), u"Dos"_s);
+        auto *ventanas = control<QMenu>(m_principal.get(), u"mnuVentana"_s);
+        Q_EMIT ventanas->aboutToShow();
+        const auto ordenes = ventanas->actions().last(2);
+        QCOMPARE(ordenes[1]->text(), u"&2  Cuatro"_s);
+        QVERIFY(ordenes[0]->isChecked() && !ordenes[1]->isChecked());
         pulsa(6);
         QTest::mouseClick(m_menu->viewport(), Qt::LeftButton, {},
                           {5, m_menu->viewport()->height() - 2});
@@ -318,14 +326,36 @@ private Q_SLOTS:
         ponInterlocutor(std::make_unique<Grabadora>());
     }
 
+    void alAcabarLaSesionNoPregunta_data()
+    {
+        QTest::addColumn<int>("senal"); // 0: the word of the desktop
+        QTest::newRow("SIGTERM") << SIGTERM;
+        QTest::newRow("SIGHUP") << SIGHUP;
+        QTest::newRow("the desktop's session") << 0;
+    }
     void alAcabarLaSesionNoPregunta()
     {
+        QFETCH(int, senal);
         const FinDeSesion fin(m_principal.get());
-        m_principal->abreLeccion(1)->findChild<QLineEdit *>()->setText(u"a medias"_s);
-        ::raise(SIGTERM);
+        auto *campo = m_principal->abreLeccion(1)->findChild<QLineEdit *>();
+        const auto guardado = [] { return Sesión().lee(u"P"_s, u"Uno"_s); };
+        campo->setText(u"al preguntar la sesión"_s);
+        // Nobody looks at the manager of a session that may still go on.
+        alignas(std::max_align_t) std::byte gestor[64]{};
+        Q_EMIT qApp->commitDataRequest(reinterpret_cast<QSessionManager &>(gestor));
+        QCOMPARE(guardado(), campo->text());
+        QVERIFY(m_principal->isVisible());
+        campo->setText(u"a medias"_s);
+        const QPointer<QWidget> acercaDe = m_principal->muestraAcercaDe(true);
+        QEvent salir(QEvent::Quit);
+        senal == 0 ? QApplication::sendEvent(qApp, &salir) : ::raise(senal) == 0;
         QTRY_VERIFY(!m_principal->isVisible());
         QVERIFY(Entorno::grabadora().confirmaciones.isEmpty());
-        QCOMPARE(Sesión().lee(u"P"_s, u"Uno"_s), u"a medias"_s);
+        QCOMPARE(guardado(), u"a medias"_s);
+        // The box that shows the main window when it goes away does so no more.
+        if (acercaDe)
+            acercaDe->close();
+        QVERIFY(!m_principal->isVisible());
     }
 
     void losColores()

@@ -1,7 +1,6 @@
 #include "shell/frame/Evento.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QAbstractButton>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QDir>

@@ -5,7 +5,6 @@
 #include "tests/shell/support/Entorno.h"
 
 #include <QFile>
-#include <QSettings>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;

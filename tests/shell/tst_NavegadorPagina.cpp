@@ -34,8 +34,10 @@ private Q_SLOTS:
         QVERIFY(qAbs(primeraFigura().height() / primeraFigura().width() -
                      natural.height() / natural.width()) < 1e-6);
         m_pagina->resize(10, 10);
-        m_pagina->resize(900, 600);
-        QCOMPARE(primeraFigura(), natural);
+        for (const int ancho : {900, 1500}) {
+            m_pagina->resize(ancho, 600);
+            QCOMPARE(primeraFigura(), natural);
+        }
     }
 
     void losColoresSiguenALaPaleta()

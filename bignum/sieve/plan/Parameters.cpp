@@ -16,7 +16,7 @@ struct Row
     double largePrimeFactor;
     double cofactorExponent;
     double firstSieved;
-    double smallPrimesShare;
+    double unsievedFactor;
 };
 
 constexpr std::array<Row, 13> kTable{{
@@ -60,7 +60,7 @@ Parameters parametersFor(std::size_t bits)
             value(&Row::largePrimeFactor),
             high->cofactorExponent,
             static_cast<std::uint32_t>(value(&Row::firstSieved)),
-            value(&Row::smallPrimesShare)};
+            value(&Row::unsievedFactor)};
 }
 
 } // namespace bignum::sieve

@@ -17,8 +17,8 @@ struct Parameters
     double cofactorExponent;   ///< two large primes: their product's bound, as a power of the one
                                ///< large prime's; 0 for one large prime
     std::uint32_t firstSieved; ///< smaller primes are left out of the sieving
-    double smallPrimesShare;   ///< of what the unsieved primes give on average, the part that a
-                               ///< candidate is trusted to have
+    double unsievedFactor;     ///< a candidate is forgiven so many times what they give on average:
+                               ///< the first division tells soon enough
 };
 
 /// By the bits of kn, 50 at least; between the rows of a table that was measured by total time.

@@ -25,7 +25,7 @@ double unsievedBits(const Plan &plan)
 LogScale::LogScale(const Plan &plan)
 {
     const double needed = std::max(1.0, plan.valueBits() - std::log2(plan.cofactorBound()) -
-                                            plan.parameters.smallPrimesShare * unsievedBits(plan));
+                                            plan.parameters.unsievedFactor * unsievedBits(plan));
     // A start above 127 would be a candidate itself, and what is sieved beyond the need must not
     // wrap around below -128; some units are left for the rounding of the logarithms.
     const double beyond = plan.valueBits() - needed;

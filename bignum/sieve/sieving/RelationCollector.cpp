@@ -34,20 +34,36 @@ CollectOutcome RelationCollector::collect(RelationStore &store, std::size_t want
     return run.outcome;
 }
 
-/// The first thread that ends for a reason of its own tells it; the others follow.
+/// The first thread that ends for a reason of its own tells it, and the others follow. Without
+/// memory all is lost, whatever another one said.
 void RelationCollector::work(Run &run)
 {
     CollectOutcome outcome = CollectOutcome::OutOfMemory;
     try {
         outcome = sieve(run);
     } catch (const std::exception &) {
-        run.ended = true; // nothing else than memory can fail here
+        // Nothing else than memory can fail here.
     }
     const std::lock_guard lock(run.mutex);
-    if (outcome != CollectOutcome::Exhausted && run.outcome != CollectOutcome::OutOfMemory)
+    if (outcome == CollectOutcome::Exhausted)
+        return;
+    if (outcome == CollectOutcome::OutOfMemory || !run.ended)
         run.outcome = outcome;
-    if (outcome != CollectOutcome::Exhausted)
+    run.ended = true;
+}
+
+void RelationCollector::handOver(std::vector<Relation> &relations, Run &run)
+{
+    const std::lock_guard lock(run.mutex);
+    if (run.ended)
+        return;
+    try {
+        run.store.add(relations);
+    } catch (const std::exception &) {
         run.ended = true;
+        throw;
+    }
+    relations.clear();
 }
 
 CollectOutcome RelationCollector::sieve(Run &run)
@@ -55,16 +71,12 @@ CollectOutcome RelationCollector::sieve(Run &run)
     FamilySieve family(m_plan);
     std::vector<Relation> &relations = family.relations();
     std::uint32_t unwatched = 0;
-    const auto handOver = [&] {
-        run.store.add(relations);
-        relations.clear();
-    };
     while (auto factors = m_source.next()) {
         family.begin(std::move(*factors));
         while (family.sieveNext()) {
             ++m_polynomials;
             if (relations.size() >= kBatch)
-                handOver();
+                handOver(relations, run);
             if (run.store.independent() >= run.wanted)
                 return CollectOutcome::Enough;
             unwatched += m_plan.parameters.blocks;
@@ -73,7 +85,7 @@ CollectOutcome RelationCollector::sieve(Run &run)
             unwatched %= kBlocksUnwatched;
         }
     }
-    handOver();
+    handOver(relations, run);
     return run.store.independent() >= run.wanted ? CollectOutcome::Enough
                                                  : CollectOutcome::Exhausted;
 }

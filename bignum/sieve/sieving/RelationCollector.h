@@ -45,11 +45,12 @@ private:
         std::size_t wanted;
         const StopSignal &stop;
         std::atomic<bool> ended{false};
-        std::mutex mutex; ///< guards the outcome
+        std::mutex mutex; ///< guards the outcome, and the store against use after a failure
         CollectOutcome outcome{CollectOutcome::Exhausted};
     };
 
     void work(Run &run);
+    static void handOver(std::vector<Relation> &relations, Run &run);
     CollectOutcome sieve(Run &run);
 
     const Plan &m_plan;

@@ -10,22 +10,15 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-FormRecursión1::FormRecursión1(QWidget *padre)
-    : FormLeccion(u"Recursión1.html"_s, padre),
-      m_fibonacci(new FormRecursion1Fibonacci(corrida(), this))
+FormRecursión1::FormRecursión1(QWidget *padre) : FormLeccion(u"Recursión1.html"_s, padre)
 {
     setObjectName(u"FormRecursión1"_s);
     setWindowTitle(Traduce(u"Recursión y complejidad"_s));
     setWindowIcon(Icono(u"RECURSION"_s));
     agregaIntroduccion(u"Introducción"_s);
-    agregaTema(u"Fibonacci"_s, u"fibonacci"_s, m_fibonacci);
+    agregaTema(u"Fibonacci"_s, u"fibonacci"_s, new FormRecursion1Fibonacci(this));
     agregaTema(u"Árbol de llamadas"_s, u"arbol"_s, new FormRecursion1Arbol(this));
     agregaTema(u"Torres de Hanói"_s, u"hanoi"_s, new FormRecursion1Hanoi(this));
     agregaTema(u"Cuestiones"_s, u"cuestiones"_s,
                new PanelCuestiones(sorteaLlamadas, sorteaHanoi, this));
-}
-
-QAbstractButton *FormRecursión1::botonDeParada() const
-{
-    return m_fibonacci->botonDeParada();
 }

@@ -1,16 +1,14 @@
 #include "lessons/complexity/windows/FormRecursion1Fibonacci.h"
 
-#include "shell/core/EnteroAcotado.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/BotonDeCalculo.h"
-#include "shell/frame/Evento.h"
+#include "shell/frame/FormLeccion.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Textos.h"
 #include "ui_FormRecursion1Fibonacci.h"
 
-#include <QScopeGuard>
 #include <algorithm>
 #include <cmath>
 
@@ -26,17 +24,18 @@ constexpr int PrimeroDelAjuste = 10;
 
 } // namespace
 
-FormRecursion1Fibonacci::FormRecursion1Fibonacci(Corrida &corrida, QWidget *padre)
-    : QWidget(padre),
+FormRecursion1Fibonacci::FormRecursion1Fibonacci(FormLeccion *leccion)
+    : QWidget(leccion),
       ui(std::make_unique<Ui::FormRecursion1Fibonacci>()),
-      m_corrida(corrida),
       m_modelo({u"n"_s, u"F(n)"_s, Traduce(u"Recursiva: llamadas"_s), Traduce(u"tiempo"_s),
                 Traduce(u"Con memoria: llamadas"_s), Traduce(u"tiempo"_s),
-                Traduce(u"Iterativa: sumas"_s), Traduce(u"tiempo"_s)})
+                Traduce(u"Iterativa: sumas"_s), Traduce(u"tiempo"_s)}),
+      m_tareas(this, leccion->parada())
 {
     ui->setupUi(this);
     traduceVentana(this);
-    muestraCalcular(ui->cmdMedir);
+    m_boton =
+        new BotonDeCorrida(ui->cmdMedir, BotonDeCorrida::calcular(), BotonDeCorrida::detener());
     ui->FlexMedidas->setModel(&m_modelo);
     ui->FlexMedidas->ponTextoVacio(
         Traduce(u"Pulse «Calcular» para medir lo que tarda cada forma, de n = 1 en adelante"_s));
@@ -53,85 +52,76 @@ FormRecursion1Fibonacci::FormRecursion1Fibonacci(Corrida &corrida, QWidget *padr
 
 FormRecursion1Fibonacci::~FormRecursion1Fibonacci() = default;
 
-QAbstractButton *FormRecursion1Fibonacci::botonDeParada() const
+Tarea<> FormRecursion1Fibonacci::cmdMedir_Click()
 {
-    return m_calculando ? ui->cmdMedir : nullptr;
+    if (m_boton->enMarcha())
+        m_boton->detiene();
+    else
+        co_await empieza();
 }
 
-void FormRecursion1Fibonacci::cmdMedir_Click()
-{
-    if (!m_calculando) {
-        empieza();
-        return;
-    }
-    m_corrida.detener();
-    m_calculando = false;
-    muestraCalcular(ui->cmdMedir);
-}
-
-/// A verdict belongs to the number that was refused; the progress of a run stays.
+/// What was measured, or refused, belongs to the number in the field; the progress of a run stays.
 void FormRecursion1Fibonacci::TxtHasta_Change()
 {
-    if (!m_calculando)
-        ui->lblAvance->clear();
+    if (m_boton->enMarcha())
+        return;
+    ui->lblAvance->clear();
+    limpia();
 }
 
-void FormRecursion1Fibonacci::empieza()
+Tarea<> FormRecursion1Fibonacci::empieza()
 {
-    // Another run of the window would be timed along with this one.
-    if (m_calculando || m_corrida.enCurso())
-        return;
-    const auto hasta = evaluaEnteroAcotado(ui->TxtHasta->text(), MenorFinal, MayorFinal);
+    if (m_boton->enMarcha())
+        co_return;
+    const auto hasta = leeEntero(ui->TxtHasta->text(), MenorFinal, MayorFinal);
+    limpia();
     if (!hasta) {
         rechaza(ui->TxtHasta, ui->lblAvance,
                 Traduce(u"Escriba un número entero de %1 a %2."_s).arg(MenorFinal).arg(MayorFinal));
-        return;
+        co_return;
     }
-    m_corrida.permitir();
-    const Corrida::Tramo tramo(m_corrida);
-    const auto alFinal = qScopeGuard([this] { termina(); });
-    m_calculando = true;
-    muestraDetener(ui->cmdMedir);
-    mide(*hasta);
+    co_await mide(*hasta);
 }
 
-void FormRecursion1Fibonacci::termina()
-{
-    m_calculando = false;
-    muestraCalcular(ui->cmdMedir);
-}
-
-void FormRecursion1Fibonacci::mide(int hasta)
+/// Rows, points and what is said of them go together: a mark on the plot is looked up in the rows.
+void FormRecursion1Fibonacci::limpia()
 {
     m_recursivas.clear();
     m_modelo.ponFilas({});
+    ui->PicCrecimiento->borra();
+    ui->lblAjuste->clear();
+    ui->lblPunto->clear();
+}
+
+Tarea<> FormRecursion1Fibonacci::mide(int hasta)
+{
+    const auto marcha = m_boton->empieza(m_tareas.billete());
+    const Billete billete = marcha.billete();
     for (int n = 1; n <= hasta; ++n) {
         muestraNeutro(ui->lblAvance, Traduce(u"Calculando F(%1)…"_s).arg(n));
-        m_corrida.cederYa();
-        if (m_corrida.detenida() || !mideUno(n)) {
+        co_await billete.cederYa();
+        const auto medidas = co_await mideFibonacci(n, billete);
+        if (!marcha.vigente())
+            co_return;
+        if (!medidas) {
             muestraNeutro(ui->lblAvance, Traduce(u"Detenido en n = %1"_s).arg(n));
-            return;
+            co_return;
         }
+        agrega(n, *medidas);
         representa();
     }
     ui->lblAvance->clear();
 }
 
-/// Times the three forms; false when the run was stopped meanwhile.
-bool FormRecursion1Fibonacci::mideUno(int n)
+void FormRecursion1Fibonacci::agrega(int n, const MedidasDeFibonacci &medidas)
 {
-    const Medida recursiva = mideFibonacci(FormaDeCalculo::Recursiva, n, m_corrida);
-    const Medida memoria = mideFibonacci(FormaDeCalculo::ConMemoria, n, m_corrida);
-    const Medida iterativa = mideFibonacci(FormaDeCalculo::Iterativa, n, m_corrida);
-    if (m_corrida.detenida())
-        return false;
+    const auto &[recursiva, memoria, iterativa] = medidas;
     m_recursivas << recursiva;
     m_modelo.agrega({QString::number(n), formatoEntero(recursiva.valor),
                      formatoEntero(recursiva.pasos), textoDeDuracion(recursiva.nanosegundos),
                      formatoEntero(memoria.pasos), textoDeDuracion(memoria.nanosegundos),
                      formatoEntero(iterativa.pasos), textoDeDuracion(iterativa.nanosegundos)});
     ui->FlexMedidas->scrollToBottom();
-    return true;
 }
 
 void FormRecursion1Fibonacci::optMagnitud_Click()

@@ -3,11 +3,13 @@
 #include "lessons/complexity/AjusteExponencial.h"
 #include "lessons/complexity/FibonacciMedido.h"
 #include "shell/core/ModeloFilas.h"
+#include "shell/frame/BotonDeCorrida.h"
+#include "shell/frame/Evento.h"
 
 #include <QWidget>
 #include <memory>
 
-class QAbstractButton;
+class FormLeccion;
 
 namespace Ui {
 class FormRecursion1Fibonacci;
@@ -20,21 +22,20 @@ class FormRecursion1Fibonacci : public QWidget
     Q_OBJECT
 
 public:
-    FormRecursion1Fibonacci(Corrida &corrida, QWidget *padre);
+    explicit FormRecursion1Fibonacci(FormLeccion *leccion);
     ~FormRecursion1Fibonacci() override;
 
-    /// The button that stops the run; null without one.
-    QAbstractButton *botonDeParada() const;
+    Tareas &tareas() { return m_tareas; }
 
 private:
-    void cmdMedir_Click();
+    Tarea<> cmdMedir_Click();
     void TxtHasta_Change();
     void optMagnitud_Click();
 
-    void empieza();
-    void termina();
-    void mide(int hasta);
-    bool mideUno(int n);
+    Tarea<> empieza();
+    Tarea<> mide(int hasta);
+    void limpia();
+    void agrega(int n, const MedidasDeFibonacci &medidas);
     void representa();
     void muestraAjuste();
     void senalaPunto(int indice);
@@ -42,9 +43,9 @@ private:
     double magnitud(const Medida &medida) const;
 
     std::unique_ptr<Ui::FormRecursion1Fibonacci> ui;
-    Corrida &m_corrida;
     ModeloFilas m_modelo;
     QList<Medida> m_recursivas; ///< from n = 1 on
     std::optional<AjusteExponencial> m_ajuste;
-    bool m_calculando = false;
+    BotonDeCorrida *m_boton;
+    TareasDeVentana m_tareas;
 };

@@ -11,22 +11,16 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-FormFibonacci::FormFibonacci(QWidget *padre)
-    : FormLeccion(u"Fibonacci.html"_s, padre), m_valores(new FormFibonacciValores(corrida(), this))
+FormFibonacci::FormFibonacci(QWidget *padre) : FormLeccion(u"Fibonacci.html"_s, padre)
 {
     setObjectName(u"FormFibonacci"_s);
     setWindowTitle(Traduce(u"Fibonacci"_s));
     setWindowIcon(Icono(u"FIBONACCI"_s));
     agregaIntroduccion(u"Introducción"_s);
-    agregaTema(u"Valores"_s, u"valores"_s, m_valores);
+    agregaTema(u"Valores"_s, u"valores"_s, new FormFibonacciValores(this));
     agregaTema(u"Número áureo"_s, u"aureo"_s, new FormFibonacciAureo(this));
     agregaTema(u"Zeckendorf"_s, u"zeckendorf"_s, new FormFibonacciZeckendorf(this));
     agregaTema(u"Identidades"_s, u"identidades"_s, new FormFibonacciIdentidades(this));
     agregaTema(u"Cuestiones"_s, u"cuestiones"_s,
                new PanelCuestiones(sorteaZeckendorf, sorteaMcd, this));
-}
-
-QAbstractButton *FormFibonacci::botonDeParada() const
-{
-    return m_valores->botonDeParada();
 }

@@ -2,8 +2,6 @@
 
 #include "shell/frame/FormLeccion.h"
 
-class FormFibonacciValores;
-
 /// The lesson on the Fibonacci numbers.
 class FormFibonacci : public FormLeccion
 {
@@ -11,10 +9,4 @@ class FormFibonacci : public FormLeccion
 
 public:
     explicit FormFibonacci(QWidget *padre = nullptr);
-
-protected:
-    QAbstractButton *botonDeParada() const override;
-
-private:
-    FormFibonacciValores *m_valores;
 };

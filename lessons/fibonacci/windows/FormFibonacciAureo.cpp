@@ -1,7 +1,7 @@
 #include "lessons/fibonacci/windows/FormFibonacciAureo.h"
 
-#include "shell/core/EnteroAcotado.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
@@ -38,6 +38,9 @@ FormFibonacciAureo::FormFibonacciAureo(QWidget *padre)
     ui->cmdAureo->setIcon(Icono(u"CALCULAR"_s));
     m_modelo.ponColumnasDeTexto({3});
     ui->FlexCocientes->setModel(&m_modelo);
+    const QString vacio = Traduce(u"Pulse «Calcular» para ver los cocientes"_s);
+    ui->FlexCocientes->ponTextoVacio(vacio);
+    ui->PicError->ponTextoVacio(vacio);
     new ColumnasRepartidas(ui->FlexCocientes);
     ui->reparto->setStretchFactor(0, 3);
     ui->reparto->setStretchFactor(1, 2);
@@ -45,7 +48,7 @@ FormFibonacciAureo::FormFibonacciAureo(QWidget *padre)
 
     conecta(ui->cmdAureo, &QPushButton::clicked, this, &FormFibonacciAureo::cmdAureo_Click);
     conecta(ui->TxtHasta, &QLineEdit::returnPressed, this, &FormFibonacciAureo::cmdAureo_Click);
-    conecta(ui->TxtHasta, &QLineEdit::textChanged, ui->lblAvisoAureo, &QLabel::clear);
+    conecta(ui->TxtHasta, &QLineEdit::textChanged, this, &FormFibonacciAureo::TxtHasta_Change);
     conecta(ui->PicError, &Grafica::senalado, this, &FormFibonacciAureo::senalaPunto);
     cmdAureo_Click();
 }
@@ -60,11 +63,22 @@ void FormFibonacciAureo::resizeEvent(QResizeEvent *suceso)
     ui->reparto->setOrientation(cabenJuntos ? Qt::Horizontal : Qt::Vertical);
 }
 
+/// Table and plot belong to the number in the field.
+void FormFibonacciAureo::TxtHasta_Change()
+{
+    ui->lblAvisoAureo->clear();
+    m_cocientes.clear();
+    muestra();
+    ui->PicError->borra();
+    ui->lblPunto->clear();
+}
+
 void FormFibonacciAureo::cmdAureo_Click()
 {
     ui->lblAvisoAureo->clear();
-    const auto hasta = evaluaEnteroAcotado(ui->TxtHasta->text(), 2, MaximoDeCocientes);
+    const auto hasta = leeEntero(ui->TxtHasta->text(), 2, MaximoDeCocientes);
     if (!hasta) {
+        TxtHasta_Change();
         rechaza(ui->TxtHasta, ui->lblAvisoAureo,
                 Traduce(u"Escriba un número entero de 2 a %1."_s).arg(MaximoDeCocientes));
         return;
@@ -97,6 +111,8 @@ void FormFibonacciAureo::representa()
 
 void FormFibonacciAureo::senalaPunto(int indice)
 {
+    if (m_cocientes.isEmpty())
+        return;
     ui->lblPunto->setText(
         indice < 0 ? Traduce(u"Los puntos están casi en una recta: cada paso divide el error por "
                              u"φ² ≈ 2,618."_s)

@@ -23,6 +23,7 @@ protected:
     void resizeEvent(QResizeEvent *suceso) override;
 
 private:
+    void TxtHasta_Change();
     void cmdAureo_Click();
 
     void muestra();

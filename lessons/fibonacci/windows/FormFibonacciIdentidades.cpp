@@ -1,7 +1,7 @@
 #include "lessons/fibonacci/windows/FormFibonacciIdentidades.h"
 
-#include "shell/core/EnteroAcotado.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
@@ -11,20 +11,6 @@
 #include "ui_FormFibonacciIdentidades.h"
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-/// A number as it fits a column: its ends, and how many digits it has.
-QString abreviado(const QString &numero)
-{
-    constexpr int extremo = 6;
-    if (numero.size() <= 4 * extremo)
-        return formatoEntero(numero);
-    return numero.left(extremo) + u'…' + numero.right(extremo) +
-           Traduce(u" (%1 cifras)"_s).arg(formatoEntero(qint64{numero.size()}));
-}
-
-} // namespace
 
 FormFibonacciIdentidades::FormFibonacciIdentidades(QWidget *padre)
     : QWidget(padre),
@@ -45,7 +31,7 @@ FormFibonacciIdentidades::FormFibonacciIdentidades(QWidget *padre)
     conecta(ui->cmdProbar, &QPushButton::clicked, this, &FormFibonacciIdentidades::cmdProbar_Click);
     for (QLineEdit *campo : {ui->TxtIndiceM, ui->TxtIndiceN}) {
         conecta(campo, &QLineEdit::returnPressed, this, &FormFibonacciIdentidades::cmdProbar_Click);
-        conecta(campo, &QLineEdit::textChanged, ui->lblAvisoIdentidades, &QLabel::clear);
+        conecta(campo, &QLineEdit::textChanged, this, &FormFibonacciIdentidades::TxtIndice_Change);
     }
     conecta(ui->FlexIdentidades->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &celda) { FlexIdentidades_RowColChange(celda.row()); });
@@ -53,33 +39,49 @@ FormFibonacciIdentidades::FormFibonacciIdentidades(QWidget *padre)
 
 FormFibonacciIdentidades::~FormFibonacciIdentidades() = default;
 
+/// What was tried belongs to the numbers in the fields.
+void FormFibonacciIdentidades::TxtIndice_Change()
+{
+    ui->lblAvisoIdentidades->clear();
+    muestra({});
+}
+
 void FormFibonacciIdentidades::cmdProbar_Click()
 {
     ui->lblAvisoIdentidades->clear();
     const auto m = lee(ui->TxtIndiceM);
     const auto n = m ? lee(ui->TxtIndiceN) : std::nullopt;
-    if (!n)
+    if (!n) {
+        muestra({});
         return;
-    m_identidades = pruebaIdentidades(*m, *n);
+    }
+    muestra(pruebaIdentidades(*m, *n));
+    ui->FlexIdentidades->selectRow(0);
+}
+
+void FormFibonacciIdentidades::muestra(const QList<IdentidadProbada> &identidades)
+{
+    m_identidades = identidades;
     QList<QStringList> filas;
     for (const IdentidadProbada &identidad : std::as_const(m_identidades)) {
         filas << QStringList{Traduce(identidad.nombre), Traduce(identidad.formula),
                              identidad.seCumple() ? Traduce(u"✓ Sí"_s) : Traduce(u"✗ No"_s),
-                             abreviado(identidad.izquierda), abreviado(identidad.derecha)};
+                             formatoAbreviado(identidad.izquierda),
+                             formatoAbreviado(identidad.derecha)};
     }
     m_modelo.ponFilas(filas);
-    ui->FlexIdentidades->selectRow(0);
+    FlexIdentidades_RowColChange(-1);
 }
 
 std::optional<int> FormFibonacciIdentidades::lee(QLineEdit *campo)
 {
-    const auto valor = evaluaEnteroAcotado(campo->text(), 1, MaximoDeIdentidades);
+    const auto valor = leeEntero(campo->text(), 1, MaximoDeIdentidades);
     if (!valor) {
         rechaza(campo, ui->lblAvisoIdentidades,
                 Traduce(u"«%1» debe ser un número entero de 1 a %2."_s)
                     .arg(campo->accessibleName(), formatoEntero(qint64{MaximoDeIdentidades})));
     }
-    return valor;
+    return valor ? std::optional(*valor) : std::nullopt;
 }
 
 /// The sides of the chosen identity, whole.

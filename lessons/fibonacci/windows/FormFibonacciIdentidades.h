@@ -23,10 +23,12 @@ public:
     ~FormFibonacciIdentidades() override;
 
 private:
+    void TxtIndice_Change();
     void cmdProbar_Click();
     void FlexIdentidades_RowColChange(int fila);
 
     std::optional<int> lee(QLineEdit *campo);
+    void muestra(const QList<IdentidadProbada> &identidades);
 
     std::unique_ptr<Ui::FormFibonacciIdentidades> ui;
     ModeloFilas m_modelo;

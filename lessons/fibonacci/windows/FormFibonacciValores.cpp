@@ -1,17 +1,14 @@
 #include "lessons/fibonacci/windows/FormFibonacciValores.h"
 
-#include "shell/core/EnteroAcotado.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/BotonDeCalculo.h"
-#include "shell/frame/Evento.h"
+#include "shell/frame/FormLeccion.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "ui_FormFibonacciValores.h"
-
-#include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -49,17 +46,18 @@ QString reglaDe(MetodoFibonacci metodo)
 
 } // namespace
 
-FormFibonacciValores::FormFibonacciValores(Corrida &corrida, QWidget *padre)
-    : QWidget(padre),
+FormFibonacciValores::FormFibonacciValores(FormLeccion *leccion)
+    : QWidget(leccion),
       ui(std::make_unique<Ui::FormFibonacciValores>()),
-      m_corrida(corrida),
       m_comparacion({u"n"_s, Traduce(u"Método"_s), Traduce(u"Llamadas"_s), Traduce(u"Sumas"_s),
-                     Traduce(u"Productos"_s), Traduce(u"Tiempo"_s)})
+                     Traduce(u"Productos"_s), Traduce(u"Tiempo"_s)}),
+      m_tareas(this, leccion->parada())
 {
     ui->setupUi(this);
     traduceVentana(this);
     Aspecto::destaca(ui->lblDefinicion, 1.15);
-    muestraCalcular(ui->cmdCalcular);
+    m_boton =
+        new BotonDeCorrida(ui->cmdCalcular, BotonDeCorrida::calcular(), BotonDeCorrida::detener());
     m_comparacion.ponColumnasDeTexto({1});
     ui->FlexComparacion->setModel(&m_comparacion);
     ui->FlexComparacion->ponTextoVacio(
@@ -70,19 +68,16 @@ FormFibonacciValores::FormFibonacciValores(Corrida &corrida, QWidget *padre)
     conecta(ui->cmdCalcular, &QPushButton::clicked, this, &FormFibonacciValores::cmdCalcular_Click);
     conecta(ui->cmdBorrar, &QPushButton::clicked, this, &FormFibonacciValores::cmdBorrar_Click);
     conecta(ui->TxtN, &QLineEdit::returnPressed, this, &FormFibonacciValores::empieza);
-    conecta(ui->TxtN, &QLineEdit::textChanged, ui->lblAviso, &QLabel::clear);
+    conecta(ui->TxtN, &QLineEdit::textChanged, this, &FormFibonacciValores::TxtN_Change);
     for (auto *opcion : {ui->optMetodo_0, ui->optMetodo_1, ui->optMetodo_2})
         conecta(opcion, &QRadioButton::clicked, this, &FormFibonacciValores::optMetodo_Click);
     conecta(&m_pantalla, &QTimer::timeout, this, &FormFibonacciValores::muestraAvance);
+    conecta(m_boton, &BotonDeCorrida::detenida, this, [this] { m_pantalla.stop(); });
+    conecta(m_boton, &BotonDeCorrida::terminada, this, [this] { m_pantalla.stop(); });
     optMetodo_Click();
 }
 
 FormFibonacciValores::~FormFibonacciValores() = default;
-
-QAbstractButton *FormFibonacciValores::botonDeParada() const
-{
-    return m_calculando ? ui->cmdCalcular : nullptr;
-}
 
 MetodoFibonacci FormFibonacciValores::metodo() const
 {
@@ -103,75 +98,76 @@ void FormFibonacciValores::cmdBorrar_Click()
     m_comparacion.ponFilas({});
 }
 
-void FormFibonacciValores::cmdCalcular_Click()
+/// What stands below belongs to the number in the field; the rows of the comparison bear theirs.
+void FormFibonacciValores::TxtN_Change()
 {
-    if (!m_calculando) {
-        empieza();
+    ui->lblAviso->clear();
+    if (m_boton->enMarcha())
         return;
-    }
-    m_corrida.detener();
-    m_calculando = false;
-    muestraCalcular(ui->cmdCalcular);
+    ui->txtValor->setText({});
+    ui->lblCifras->clear();
 }
 
-void FormFibonacciValores::empieza()
+Tarea<> FormFibonacciValores::cmdCalcular_Click()
 {
-    // A run that was told to stop must see the flag before it is cleared for another.
-    if (m_calculando || m_corrida.enCurso())
-        return;
-    const auto n = evaluaEnteroAcotado(ui->TxtN->text(), 0, cotaDe(metodo()));
+    if (m_boton->enMarcha()) {
+        m_boton->detiene();
+        co_return;
+    }
+    co_await empieza();
+}
+
+Tarea<> FormFibonacciValores::empieza()
+{
+    if (m_boton->enMarcha())
+        co_return;
+    // What is chosen now holds for the whole run, whatever is clicked meanwhile.
+    const MetodoFibonacci elegido = metodo();
+    const auto n = leeEntero(ui->TxtN->text(), 0, cotaDe(elegido));
     if (!n) {
+        TxtN_Change();
         rechaza(ui->TxtN, ui->lblAviso,
                 Traduce(u"Escriba un número entero de 0 a %1."_s)
-                    .arg(formatoEntero(qint64{cotaDe(metodo())})));
-        return;
+                    .arg(formatoEntero(qint64{cotaDe(elegido)})));
+        co_return;
     }
-    calcula(metodo(), *n);
+    ponEnMarcha();
+    auto marcha = m_boton->empieza(m_tareas.billete());
+    const auto calculo = m_calculo = std::make_shared<CalculoFibonacci>();
+    const FibonacciMedido medido = co_await calculo->calcula(elegido, *n, marcha.billete());
+    if (!marcha.vigente())
+        co_return;
+    muestra(elegido, *n, medido);
 }
 
-void FormFibonacciValores::calcula(MetodoFibonacci metodo, int n)
+void FormFibonacciValores::ponEnMarcha()
 {
-    m_corrida.permitir();
-    const Corrida::Tramo tramo(m_corrida);
-    const auto alFinal = qScopeGuard([this] { termina(); });
-    m_calculando = true;
-    muestraDetener(ui->cmdCalcular);
     ui->lblAviso->clear();
     ui->txtValor->setText({});
+    ui->lblCifras->setText(Traduce(u"Calculando…"_s));
     m_pantalla.start();
-    m_reloj.start();
-    const QString valor = m_calculo.calcula(metodo, n, m_corrida);
-    const qint64 tiempo = m_reloj.nsecsElapsed();
-    muestraValor(n, valor);
-    const Esfuerzo &esfuerzo = m_calculo.esfuerzo();
-    m_comparacion.agrega(
-        {formatoEntero(qint64{n}), nombreDe(metodo), formatoEntero(esfuerzo.llamadas),
-         formatoEntero(esfuerzo.sumas), formatoEntero(esfuerzo.productos),
-         valor.isEmpty() ? Traduce(u"detenido"_s) : textoDeDuracion(static_cast<double>(tiempo))});
-    ui->FlexComparacion->scrollToBottom();
-}
-
-void FormFibonacciValores::termina()
-{
-    m_pantalla.stop();
-    m_calculando = false;
-    muestraCalcular(ui->cmdCalcular);
 }
 
 void FormFibonacciValores::muestraAvance()
 {
-    const Esfuerzo &esfuerzo = m_calculo.esfuerzo();
-    ui->lblCifras->setText(
-        esfuerzo.llamadas > 0
-            ? Traduce(u"Calculando… Llamadas: %1"_s).arg(formatoEntero(esfuerzo.llamadas))
-            : Traduce(u"Calculando… Sumas: %1"_s).arg(formatoEntero(esfuerzo.sumas)));
+    if (m_calculo->llamadas() > 0)
+        ui->lblCifras->setText(
+            Traduce(u"Calculando… Llamadas: %1"_s).arg(formatoEntero(m_calculo->llamadas())));
 }
 
-void FormFibonacciValores::muestraValor(int n, const QString &valor)
+void FormFibonacciValores::muestra(MetodoFibonacci metodo, int n, const FibonacciMedido &medido)
 {
-    ui->txtValor->setText(valor);
+    const bool detenido = medido.valor.isEmpty();
+    ui->txtValor->setText(medido.valor);
     ui->lblCifras->setText(
-        valor.isEmpty() ? Traduce(u"Cálculo detenido"_s)
-                        : Traduce(u"Cifras de F(%1): %2"_s)
-                              .arg(formatoEntero(qint64{n}), formatoEntero(qint64{valor.size()})));
+        detenido ? Traduce(u"Cálculo detenido"_s)
+                 : Traduce(u"Cifras de F(%1): %2"_s)
+                       .arg(formatoEntero(qint64{n}), formatoEntero(qint64{medido.valor.size()})));
+    const Esfuerzo &esfuerzo = medido.esfuerzo;
+    const auto siAcabo = [&](const QString &texto) { return detenido ? QString() : texto; };
+    m_comparacion.agrega(
+        {formatoEntero(qint64{n}), nombreDe(metodo), formatoEntero(esfuerzo.llamadas),
+         siAcabo(formatoEntero(esfuerzo.sumas)), siAcabo(formatoEntero(esfuerzo.productos)),
+         detenido ? Traduce(u"detenido"_s) : textoDeDuracion(medido.nanosegundos)});
+    ui->FlexComparacion->scrollToBottom();
 }

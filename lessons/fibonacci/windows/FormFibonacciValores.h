@@ -2,13 +2,14 @@
 
 #include "lessons/fibonacci/CalculoFibonacci.h"
 #include "shell/core/ModeloFilas.h"
+#include "shell/frame/BotonDeCorrida.h"
+#include "shell/frame/Evento.h"
 
-#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 #include <memory>
 
-class QAbstractButton;
+class FormLeccion;
 
 namespace Ui {
 class FormFibonacciValores;
@@ -20,29 +21,27 @@ class FormFibonacciValores : public QWidget
     Q_OBJECT
 
 public:
-    FormFibonacciValores(Corrida &corrida, QWidget *padre);
+    explicit FormFibonacciValores(FormLeccion *leccion);
     ~FormFibonacciValores() override;
 
-    /// The button that stops the run; null without one.
-    QAbstractButton *botonDeParada() const;
+    Tareas &tareas() { return m_tareas; }
 
 private:
-    void cmdCalcular_Click();
+    Tarea<> cmdCalcular_Click();
     void cmdBorrar_Click();
+    void TxtN_Change();
     void optMetodo_Click();
 
     MetodoFibonacci metodo() const;
-    void empieza();
-    void termina();
-    void calcula(MetodoFibonacci metodo, int n);
+    Tarea<> empieza();
+    void ponEnMarcha();
     void muestraAvance();
-    void muestraValor(int n, const QString &valor);
+    void muestra(MetodoFibonacci metodo, int n, const FibonacciMedido &medido);
 
     std::unique_ptr<Ui::FormFibonacciValores> ui;
-    Corrida &m_corrida;
     ModeloFilas m_comparacion;
-    CalculoFibonacci m_calculo;
+    BotonDeCorrida *m_boton;
+    std::shared_ptr<CalculoFibonacci> m_calculo; ///< the last one begun
     QTimer m_pantalla{this};
-    QElapsedTimer m_reloj;
-    bool m_calculando = false;
+    TareasDeVentana m_tareas;
 };

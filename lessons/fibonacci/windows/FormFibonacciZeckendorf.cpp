@@ -1,8 +1,8 @@
 #include "lessons/fibonacci/windows/FormFibonacciZeckendorf.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "shell/core/EnteroGrande.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
@@ -24,8 +24,8 @@ const QString Maximo = u"1"_s + QString(200, u'0');
 /// bound. The notice of a bound does not come, for it would show all of its 201 digits.
 QString positivoDe(const QString &expresion)
 {
-    const auto valor = evaluaEnteroGrande(expresion);
-    return valor && EsMayor(u"0"_s, *valor) && !EsMayor(Maximo, *valor) ? *valor : QString();
+    const auto valor = leeEntero(expresion, {.minimo = u"1"_s});
+    return valor && !EsMayor(Maximo, *valor) ? *valor : QString();
 }
 
 } // namespace

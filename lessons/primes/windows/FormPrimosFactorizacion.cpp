@@ -89,6 +89,7 @@ Tarea<> FormPrimosFactorizacion::BtnFactoriza_Click()
 void FormPrimosFactorizacion::detiene()
 {
     ui->lblResultado->setText(Traduce(u"Detenida."_s));
+    ui->FlexFactores->ponTextoVacio(ui->lblResultado->text());
     m_boton->detiene();
 }
 
@@ -145,6 +146,8 @@ Tarea<> FormPrimosFactorizacion::factoriza(Algoritmo elegido, QString numero, Mo
             co_return;
         muestra(tabla);
     } catch (const ErrorEjecucion &) {
+        if (!marcha.vigente())
+            co_return;
         // It ends the event, and leaves the window as it stands.
         marcha.deja();
         throw;
@@ -183,12 +186,14 @@ void FormPrimosFactorizacion::muestra(const TablaDeFactores &tabla)
     FlexFactores_EnterCell(hayFilas ? 0 : -1);
 }
 
-/// Shows the factor of the current row whole, whatever its length.
+/// Shows the factor of the current row whole, whatever its length, and how it was found.
 void FormPrimosFactorizacion::FlexFactores_EnterCell(int fila)
 {
     const bool hayFactor = fila >= 0 && fila < m_modelo->rowCount();
-    const QString factor = hayFactor ? m_modelo->tabla().filas[fila].factor : QString();
+    const FilaDeFactor elegida = hayFactor ? m_modelo->tabla().filas[fila] : FilaDeFactor();
+    const QString &factor = elegida.factor;
     ui->txtFactorElegido->setText(factor);
+    ui->lblHallazgo->setText(elegida.hallazgo);
     ui->lblFactorElegido->setText(
         hayFactor ? Traduce(u"Factor &elegido (cifras: %1)"_s).arg(formatoEntero(factor.size()))
                   : Traduce(u"Factor &elegido"_s));

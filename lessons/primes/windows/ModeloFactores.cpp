@@ -26,17 +26,15 @@ int ModeloFactores::columnCount(const QModelIndex &padre) const
 QVariant ModeloFactores::data(const QModelIndex &indice, int papel) const
 {
     const FilaDeFactor &fila = m_tabla.filas[indice.row()];
-    const bool compuesto = m_tabla.desenlace == TablaDeFactores::QuedaCompuesto &&
-                           indice.row() == m_tabla.filas.size() - 1;
     switch (papel) {
     case Qt::DisplayRole:
         return indice.column() == Factor ? fila.factor : fila.exponente;
     case Qt::TextAlignmentRole:
         return int(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::ForegroundRole:
-        return compuesto ? QColor(Qt::red) : QVariant();
+        return fila.primo ? QVariant() : QColor(Qt::red);
     case Qt::ToolTipRole:
-        return compuesto ? Traduce(u"Compuesto que no se ha podido factorizar"_s) : QVariant();
+        return fila.hallazgo.isEmpty() ? QVariant() : fila.hallazgo;
     default:
         return {};
     }

@@ -4,7 +4,7 @@
 
 #include <QAbstractTableModel>
 
-/// The table of factors: the prime and its exponent, the last row in red where it is composite.
+/// The table of factors: the prime and its exponent; a composite that could not be split is red.
 class ModeloFactores : public QAbstractTableModel
 {
     Q_OBJECT

@@ -1,6 +1,8 @@
 #include "lessons/recursion/functions/Ack.h"
 
 #include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/Moneda.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,15 +38,24 @@ Tarea<std::int32_t> Ack::calcula(std::int32_t m, std::int32_t n)
 /// Some calls in a row. The value of the whole when that comes of it, else the next call.
 std::optional<std::int32_t> Ack::avanza(Llamada &llamada)
 {
+    // In variables of the machine: as a pair in memory, written by halves and read as a whole, the
+    // call would cost as much again.
+    auto [m, n] = llamada;
     for (int i = 0; i < LlamadasSeguidas && !m_rendido; ++i) {
-        const std::int32_t valor = entra(llamada);
-        if (m_rendido)
-            break;
-        if (valor == 0)
-            llamada = aplaza(llamada);
-        else if (!devuelve(valor, llamada))
-            return valor;
+        const std::int32_t valor = entra({m, n});
+        if (valor != 0) {
+            const auto otraM = devuelve(valor);
+            if (!otraM)
+                return valor;
+            m = *otraM;
+            n = valor;
+        } else if (!m_rendido) {
+            m_pila.push_back({{m, n}, n == 0});
+            m = n == 0 ? m - 1 : m;
+            n = n == 0 ? 1 : n - 1;
+        }
     }
+    llamada = {m, n};
     return {};
 }
 
@@ -68,29 +79,20 @@ std::int32_t Ack::entra(Llamada llamada)
     return valor;
 }
 
-/// Puts a call on the stack and gives the one that it waits for.
-Ack::Llamada Ack::aplaza(Llamada llamada)
-{
-    const auto [m, n] = llamada;
-    m_pila.push_back({llamada, n == 0});
-    return n == 0 ? Llamada{m - 1, 1} : Llamada{m, n - 1};
-}
-
-/// Hands a value to the calls that wait for it. True when one of them goes on with another call;
-/// false when the value is that of the whole.
-bool Ack::devuelve(std::int32_t valor, Llamada &siguiente)
+/// Hands a value to the calls that wait for it. The first argument of the call with which one of
+/// them goes on, of which the value is the second one; nothing when it is the value of the whole.
+std::optional<std::int32_t> Ack::devuelve(std::int32_t valor)
 {
     while (!m_pila.empty()) {
         Pendiente &ultima = m_pila.back();
         if (!ultima.esperaSuValor) {
             ultima.esperaSuValor = true;
-            siguiente = {ultima.llamada.m - 1, valor};
-            return true;
+            return ultima.llamada.m - 1;
         }
         m_memoria->escribe(ultima.llamada.m, ultima.llamada.n, valor);
         m_pila.pop_back();
     }
-    return false;
+    return {};
 }
 
 /// The calls that wait all give 0, and leave it in their cells: some of them, the last ones first.
@@ -113,4 +115,21 @@ QString textoDeValor(Ack::Llamada llamada, std::int32_t valor)
     const QString texto = textoDeLlamada(llamada);
     return valor > 0 ? u"%1 = %2"_s.arg(texto).arg(valor)
                      : Traduce(u"%1: sin terminar"_s).arg(texto);
+}
+
+std::int32_t enteroDeTexto(const QString &texto, const QString &nombre)
+{
+    if (!EsNumerico(texto)) {
+        throw ErrorEjecucion(ErrorEjecucion::TipoNoCoincide,
+                             Traduce(u"«%1» no es un número."_s).arg(nombre));
+    }
+    try {
+        // Only exponents go through a double; everything else is read exactly.
+        const auto exacto = Moneda::deTexto(texto.trimmed());
+        const Moneda valor =
+            exacto ? *exacto : Moneda::deReal(NumVal(QString(texto).replace(u',', u'.')));
+        return valor.aEntero32();
+    } catch (const ErrorEjecucion &error) {
+        throw ErrorEjecucion(error.numero(), Traduce(u"«%1» es demasiado grande."_s).arg(nombre));
+    }
 }

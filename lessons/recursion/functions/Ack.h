@@ -53,8 +53,7 @@ private:
 
     std::optional<std::int32_t> avanza(Llamada &llamada);
     std::int32_t entra(Llamada llamada);
-    Llamada aplaza(Llamada llamada);
-    bool devuelve(std::int32_t valor, Llamada &siguiente);
+    std::optional<std::int32_t> devuelve(std::int32_t valor);
     void abandona();
 
     std::shared_ptr<MemoriaAck> m_memoria;
@@ -71,3 +70,8 @@ QString textoDeLlamada(Ack::Llamada llamada);
 /// A call and its value: "Ack(2, 3) = 9"; of one that was given up, with the value 0, that it is
 /// unfinished.
 QString textoDeValor(Ack::Llamada llamada, std::int32_t valor);
+
+/// What a field of the tab stands for: a plain number, no expression, rounded to four decimals and
+/// then half to even. Throws TipoNoCoincide for a text that is no number and Desbordamiento beyond
+/// 32 bits, both with `nombre` in their detail.
+std::int32_t enteroDeTexto(const QString &texto, const QString &nombre);

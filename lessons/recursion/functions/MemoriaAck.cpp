@@ -4,11 +4,9 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
-void MemoriaAck::hazSitio(std::int32_t m, std::int32_t n)
+void MemoriaAck::amplia(std::int32_t m, std::int32_t n)
 {
     if (m >= MaximoDeLineas || n >= MaximoDeLineas) {
         const QString detalle =
@@ -20,27 +18,10 @@ void MemoriaAck::hazSitio(std::int32_t m, std::int32_t n)
     m_filas = std::max(m_filas, n + 1);
 }
 
-std::int32_t MemoriaAck::casilla(std::int32_t m, std::int32_t n) const
+void MemoriaAck::alarga(std::size_t columna, std::size_t fila)
 {
-    const auto columna = static_cast<std::size_t>(m);
-    const auto fila = static_cast<std::size_t>(n);
-    if (columna >= m_valores.size() || fila >= m_valores[columna].size())
-        return Vacia;
-    return m_valores[columna][fila];
-}
-
-std::int32_t MemoriaAck::lee(std::int32_t m, std::int32_t n) const
-{
-    return std::max(std::int32_t{0}, casilla(m, n));
-}
-
-void MemoriaAck::escribe(std::int32_t m, std::int32_t n, std::int32_t valor)
-{
-    const auto columna = static_cast<std::size_t>(m);
-    const auto fila = static_cast<std::size_t>(n);
     if (columna >= m_valores.size())
         m_valores.resize(columna + 1);
     if (fila >= m_valores[columna].size())
         m_valores[columna].resize(fila + 1, Vacia);
-    m_valores[columna][fila] = valor;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lessons/recursion/functions/HistoriaGranizo.h"
+#include "lessons/recursion/functions/Granizo.h"
 
 #include <QAbstractTableModel>
 #include <memory>

@@ -2,16 +2,15 @@
 
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
-#include "lessons/rsa/key/Entero16.h"
-#include "lessons/rsa/key/Potencias.h"
-#include "lessons/rsa/key/TextoEnBloques.h"
-#include "lessons/rsa/mailbox/CarpetaBuzon.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Perfil.h"
 #include "shell/core/Rutas.h"
+#include "shell/core/system/CarpetaCompartida.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -95,12 +94,12 @@ void ClsRSA::RecuperaClave()
     Perfil fichero;
     if (fichero.lee(rutaExistente(ruta)) != Perfil::Lectura::Correcta)
         throw ErrorEjecucion(ErrorEjecucion::ErrorDeArchivo, QDir::toNativeSeparators(ruta));
-    m_r = aEntero16(fichero.valor(u"RSA"_s, u"r"_s, u"0"_s));
+    m_r = aEntero16(NumVal(fichero.valor(u"RSA"_s, u"r"_s, u"0"_s)));
     for (int i = 0; i <= 2; ++i)
         ponq(i, fichero.valor(u"RSA"_s, u"q(%1)"_s.arg(i)));
     m_s = fichero.valor(u"RSA"_s, u"s"_s);
     m_t = fichero.valor(u"RSA"_s, u"t"_s);
-    m_nbits = aEntero16(fichero.valor(u"RSA"_s, u"NBits"_s));
+    m_nbits = aEntero16(NumVal(fichero.valor(u"RSA"_s, u"NBits"_s)));
     m_fiQ = fichero.valor(u"RSA"_s, u"Fi(Q)"_s);
     Valida();
 }
@@ -108,7 +107,7 @@ void ClsRSA::RecuperaClave()
 void ClsRSA::PublicaClave() const
 {
     const QByteArray contenido = Perfil::contenido(u"RSA"_s, {{u"q"_s, m_q[0]}, {u"s"_s, m_s}});
-    CarpetaBuzon(DirMensajes())
+    CarpetaCompartida(DirMensajes())
         .subcarpetaCreada(m_fichero.subcarpetaPropia())
         .sustituye(FicheroClavePublica, contenido);
 }
@@ -203,36 +202,12 @@ QString ClsRSA::Objecion() const
     return objecionATamano(NumeroDeBits(producto(m_q[1], m_q[2])));
 }
 
-QStringList ClsRSA::Codifica(const QString &texto, Corrida &corrida) const
+Tarea<QStringList> ClsRSA::Codifica(const QString &texto, Billete billete) const
 {
-    const QStringList numeros = bloquesDeTexto(texto, m_r);
-    // The key may be changed at a yield; a text is encrypted with one key.
-    Potencias potencias(m_s, m_q[0]);
-    QStringList bloques;
-    bloques.reserve(numeros.size());
-    for (const QString &numero : numeros) {
-        bloques << potencias.de(numero);
-        corrida.ceder();
-        if (corrida.detenida())
-            break;
-    }
-    return bloques;
+    return codifica(texto, m_r, Potencias(m_s, m_q[0]), std::move(billete));
 }
 
-QString ClsRSA::DesCodifica(const QStringList &bloques, Corrida &corrida) const
+Tarea<QString> ClsRSA::DesCodifica(const QStringList &bloques, Billete billete) const
 {
-    Potencias potencias(m_t, m_q[0]);
-    QString texto;
-    for (const QString &bloque : bloques) {
-        const QString numero = potencias.de(bloque);
-        if (numero != TextoError)
-            texto += NumeroATexto(numero);
-        if (texto.size() > MaximoDescodificado)
-            throw ErrorEjecucion(ErrorEjecucion::MemoriaInsuficiente,
-                                 Traduce(u"El texto descodificado es demasiado largo."_s));
-        corrida.ceder();
-        if (corrida.detenida())
-            break;
-    }
-    return texto;
+    return descodifica(bloques, paraDescodificar(), std::move(billete));
 }

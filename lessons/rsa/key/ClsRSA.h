@@ -1,7 +1,7 @@
 #pragma once
 
+#include "lessons/rsa/key/Cifrado.h"
 #include "lessons/rsa/key/FicheroDeClave.h"
-#include "shell/core/Corrida.h"
 
 #include <QObject>
 #include <QString>
@@ -88,14 +88,15 @@ public:
     /// Throws ErrorEjecucion when that cannot be done.
     void PublicaClave() const;
 
-    /// The text encrypted with s and q(0), a number a block; "Error" for a block that fails. Yields
-    /// once a block and is short when the run was stopped. Throws what bloquesDeTexto throws.
-    QStringList Codifica(const QString &texto, Corrida &corrida) const;
+    /// The text encrypted with s and q(0) as they are now, whatever becomes of them during the run;
+    /// see `codifica`.
+    Tarea<QStringList> Codifica(const QString &texto, Billete billete) const;
 
-    /// The text that the blocks give when decrypted with t and q(0); blocks that fail are left out.
-    /// Yields once a block and is short when the run was stopped. Throws MemoriaInsuficiente when
-    /// the text would have more than MaximoDescodificado characters.
-    QString DesCodifica(const QStringList &bloques, Corrida &corrida) const;
+    /// The text that the blocks give when decrypted with t and q(0) as they are now; see
+    /// `descodifica`.
+    Tarea<QString> DesCodifica(const QStringList &bloques, Billete billete) const;
+    /// The powers that decrypt a block, with t and q(0) as they are now.
+    Potencias paraDescodificar() const { return {m_t, m_q[0]}; }
 
 Q_SIGNALS:
     /// The verdict of Valida.

@@ -49,7 +49,7 @@ std::optional<QString> caracterInadmisible(const QString &texto)
                    "las cifras y los signos corrientes."_s);
 }
 
-QStringList bloquesDeTexto(const QString &texto, int r)
+PaquetesDeTexto::PaquetesDeTexto(const QString &texto, int r) : m_r(r)
 {
     if (r == 0)
         throw ErrorEjecucion(ErrorEjecucion::DivisionPorCero);
@@ -57,18 +57,17 @@ QStringList bloquesDeTexto(const QString &texto, int r)
     if (r < 0 || !bytes)
         throw ErrorEjecucion(ErrorEjecucion::ArgumentoNoValido,
                              caracterInadmisible(texto).value_or(QString()));
-    const qsizetype cuantos = (bytes->size() + r - 1) / r;
-    const QByteArray completo = bytes->leftJustified(cuantos * r, ' ');
-    QStringList numeros;
-    numeros.reserve(cuantos);
-    for (qsizetype inicio = 0; inicio < completo.size(); inicio += r) {
-        QString numero;
-        numero.reserve(CifrasPorCaracter * r);
-        for (const char caracter : QByteArrayView(completo).sliced(inicio, r))
-            numero += tresCifras(static_cast<uchar>(caracter));
-        numeros << numero;
-    }
-    return numeros;
+    m_bytes = bytes->leftJustified((bytes->size() + r - 1) / r * r, ' ');
+}
+
+QString PaquetesDeTexto::siguiente()
+{
+    QString numero;
+    numero.reserve(CifrasPorCaracter * m_r);
+    for (const char caracter : QByteArrayView(m_bytes).sliced(m_inicio, m_r))
+        numero += tresCifras(static_cast<uchar>(caracter));
+    m_inicio += m_r;
+    return numero;
 }
 
 QString NumeroATexto(const QString &numero)

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
-#include <QStringList>
 #include <optional>
 
 /// The longest text that the windows encrypt, in characters, and the longest that a decryption may
@@ -9,11 +9,25 @@
 inline constexpr qsizetype MaximoDeCaracteres = 1'000'000;
 inline constexpr qsizetype MaximoDescodificado = 2 * MaximoDeCaracteres;
 
-/// The numbers that a text is encrypted as: `r` characters a number, three decimal digits a
-/// character (its Windows-1252 code, "000" to "255"), after spaces have filled up the last block.
-/// Throws DivisionPorCero for r = 0, ArgumentoNoValido for a negative r and for a character outside
-/// Windows-1252, which it names.
-QStringList bloquesDeTexto(const QString &texto, int r);
+/// The numbers that a text is encrypted as, one after the other: `r` characters a number, three
+/// decimal digits a character (its Windows-1252 code, "000" to "255"), after spaces have filled up
+/// the last packet.
+class PaquetesDeTexto
+{
+public:
+    /// Throws DivisionPorCero for r = 0, ArgumentoNoValido for a negative r and for a character
+    /// outside Windows-1252, which it names.
+    PaquetesDeTexto(const QString &texto, int r);
+
+    qsizetype cuantos() const { return m_bytes.size() / m_r; }
+    bool hay() const { return m_inicio < m_bytes.size(); }
+    QString siguiente();
+
+private:
+    QByteArray m_bytes;
+    qsizetype m_r;
+    qsizetype m_inicio = 0;
+};
 
 /// The characters of a decrypted block number: its digits in groups of three from the right, of
 /// each group the low 8 bits. What follows a NUL is not part of the number.

@@ -58,7 +58,7 @@ void compruebaTamano(qint64 bytes, qsizetype bloques)
 
 } // namespace
 
-QByteArray ArchivoMensaje::compone(const ContenidoMensaje &contenido)
+Tarea<QByteArray> ArchivoMensaje::compone(ContenidoMensaje contenido, Billete billete)
 {
     QByteArray bytes = linea(contenido.remitente) + linea(contenido.asunto.trimmed());
     if (bytes.size() > MaximoDeCabecera)
@@ -66,30 +66,33 @@ QByteArray ArchivoMensaje::compone(const ContenidoMensaje &contenido)
     for (const QString &bloque : contenido.bloques) {
         bytes += linea(bloque);
         compruebaTamano(bytes.size(), contenido.bloques.size());
+        co_await billete.ceder();
+        if (billete.detenida())
+            break;
     }
-    return bytes;
+    co_return bytes;
 }
 
-ContenidoMensaje ArchivoMensaje::interpreta(const QByteArray &bytes)
+Tarea<ContenidoMensaje> ArchivoMensaje::interpreta(QByteArray bytes, Billete billete)
 {
     Lineas lineas(bytes);
     ContenidoMensaje contenido{lineas.siguiente(), lineas.siguiente(), {}};
-    while (lineas.hay()) {
+    while (lineas.hay() && !billete.detenida()) {
         contenido.bloques << lineas.siguiente();
         compruebaTamano(bytes.size(), contenido.bloques.size());
+        co_await billete.ceder();
     }
-    return contenido;
+    co_return contenido;
 }
 
 std::optional<ContenidoMensaje> ArchivoMensaje::interpretaCabecera(const QByteArray &principio)
 {
     Lineas lineas(principio);
+    if (!lineas.hayEntera())
+        return {};
+    const QString remitente = lineas.siguiente();
     const bool cortada = principio.size() >= MaximoDeCabecera;
-    ContenidoMensaje contenido;
-    for (QString *linea : {&contenido.remitente, &contenido.asunto}) {
-        if (cortada && !lineas.hayEntera())
-            return {};
-        *linea = lineas.siguiente();
-    }
-    return contenido;
+    if (cortada && !lineas.hayEntera())
+        return {};
+    return ContenidoMensaje{remitente, lineas.siguiente(), {}};
 }

@@ -3,14 +3,14 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/rsa/key/FicheroDeClave.h"
 #include "lessons/rsa/mailbox/ArchivoMensaje.h"
-#include "lessons/rsa/mailbox/Borrador.h"
-#include "lessons/rsa/mailbox/CarpetaBuzon.h"
-#include "lessons/rsa/mailbox/ColMensajes.h"
 #include "shell/core/Perfil.h"
 #include "shell/core/Rutas.h"
+#include "shell/core/system/ArchivoProvisional.h"
+#include "shell/core/system/CarpetaCompartida.h"
 
 #include <QSet>
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,87 +38,54 @@ bool vaAntes(const QString &a, const QString &b)
     return a.size() != b.size() ? a.size() < b.size() : a.compare(b, Qt::CaseInsensitive) < 0;
 }
 
-QStringList mensajesDe(const CarpetaBuzon &carpeta)
+/// The folder of a user with the names of the messages in it.
+struct CarpetaDeUsuario
 {
-    QStringList nombres = carpeta.entradas();
-    nombres.removeIf([](const QString &nombre) { return !esNombreDeMensaje(nombre); });
-    std::sort(nombres.begin(), nombres.end(), vaAntes);
-    return nombres;
+    CarpetaCompartida carpeta;
+    QStringList mensajes;
+};
+
+/// Nothing when somebody has locked the folder or taken it away meanwhile.
+std::optional<CarpetaDeUsuario> abreUsuario(const CarpetaCompartida &buzon, const QString &usuario)
+{
+    try {
+        const CarpetaCompartida carpeta = buzon.subcarpeta(usuario);
+        QStringList nombres = carpeta.entradas();
+        nombres.removeIf([](const QString &nombre) { return !esNombreDeMensaje(nombre); });
+        std::sort(nombres.begin(), nombres.end(), vaAntes);
+        return CarpetaDeUsuario{carpeta, nombres};
+    } catch (const ErrorEjecucion &) {
+        return {};
+    }
 }
 
-/// One scan of the mailbox.
-class Revision
+/// Nothing for a file that is locked, damaged, not wholly there or gone.
+std::optional<ContenidoMensaje> cabeceraDe(const CarpetaCompartida &carpeta, const QString &nombre)
 {
-public:
-    Revision(const QString &dirMensajes, ColMensajes &mensajes, Corrida &corrida)
-        : m_dir(dirMensajes), m_mensajes(mensajes), m_corrida(corrida)
-    {
-    }
-
-    int recorre()
-    {
-        const CarpetaBuzon buzon(m_dir);
-        for (const QString &usuario : buzon.subcarpetas()) {
-            intenta([&] { revisaUsuario(buzon, usuario); });
-            if (m_corrida.detenida())
-                break;
-        }
-        return m_ilegibles;
-    }
-
-private:
-    /// What somebody locked, damaged or took away meanwhile keeps nobody from the rest.
-    template <typename Accion>
-    void intenta(Accion accion)
-    {
-        try {
-            accion();
-        } catch (const ErrorEjecucion &) {
-            ++m_ilegibles;
-        }
-    }
-
-    void revisaUsuario(const CarpetaBuzon &buzon, const QString &usuario)
-    {
-        const CarpetaBuzon carpeta = buzon.subcarpeta(usuario);
-        for (const QString &nombre : mensajesDe(carpeta)) {
-            intenta([&] { revisaMensaje(carpeta, usuario, nombre); });
-            m_corrida.ceder();
-            if (m_corrida.detenida())
-                return;
-        }
-    }
-
-    void revisaMensaje(const CarpetaBuzon &carpeta, const QString &usuario, const QString &nombre)
-    {
-        const auto cabecera = ArchivoMensaje::interpretaCabecera(
+    try {
+        return ArchivoMensaje::interpretaCabecera(
             carpeta.leePrincipio(nombre, ArchivoMensaje::MaximoDeCabecera));
-        if (!cabecera)
-            throw ErrorEjecucion(ErrorEjecucion::ErrorDeArchivo, nombre);
-        m_mensajes.Anota(cabecera->remitente, usuario, cabecera->asunto,
-                         rutaDe(rutaDe(m_dir, usuario), nombre));
+    } catch (const ErrorEjecucion &) {
+        return {};
     }
-
-    QString m_dir;
-    ColMensajes &m_mensajes;
-    Corrida &m_corrida;
-    int m_ilegibles = 0;
-};
+}
 
 } // namespace
 
 QString dejaMensaje(const QString &dirMensajes, const QString &destinatario,
                     const QByteArray &contenido)
 {
-    const CarpetaBuzon carpeta = CarpetaBuzon(dirMensajes).subcarpetaCreada(destinatario);
-    Borrador borrador(carpeta, contenido);
+    const CarpetaCompartida carpeta = CarpetaCompartida(dirMensajes).subcarpetaCreada(destinatario);
+    ArchivoProvisional archivo(carpeta, contenido);
+    const QStringList entradas = carpeta.entradas();
+    archivo.quitaAbandonados(entradas);
     QSet<QString> ocupados;
-    for (const QString &nombre : carpeta.entradas())
+    for (const QString &nombre : entradas)
         ocupados.insert(nombre.toUpper());
     qint64 numero = 1;
     // Somebody else may take a name between the look and the link: then the next one is tried.
     while (ocupados.contains(nombreDeMensaje(numero).toUpper()) ||
-           !borrador.nombraSiLibre(nombreDeMensaje(numero)))
+           !archivo.nombraSiLibre(nombreDeMensaje(numero)))
         ++numero;
     return rutaDe(rutaDe(dirMensajes, destinatario), nombreDeMensaje(numero));
 }
@@ -126,7 +93,7 @@ QString dejaMensaje(const QString &dirMensajes, const QString &destinatario,
 QByteArray leeMensaje(const QString &ruta)
 {
     const QString limpia = rutaDePlataforma(ruta);
-    const CarpetaBuzon buzon(limpia.section(u'/', 0, -3));
+    const CarpetaCompartida buzon(limpia.section(u'/', 0, -3));
     return buzon.subcarpeta(limpia.section(u'/', -2, -2))
         .lee(limpia.section(u'/', -1), ArchivoMensaje::MaximoDeBytes);
 }
@@ -134,7 +101,7 @@ QByteArray leeMensaje(const QString &ruta)
 ClavePublica leeClavePublica(const QString &dirMensajes, const QString &usuario)
 {
     try {
-        const CarpetaBuzon carpeta = CarpetaBuzon(dirMensajes).subcarpeta(usuario);
+        const CarpetaCompartida carpeta = CarpetaCompartida(dirMensajes).subcarpeta(usuario);
         Perfil fichero;
         fichero.leeBytes(carpeta.lee(FicheroClavePublica, Perfil::TamanoMaximo));
         return {fichero.valor(u"RSA"_s, u"q"_s), fichero.valor(u"RSA"_s, u"s"_s)};
@@ -145,12 +112,33 @@ ClavePublica leeClavePublica(const QString &dirMensajes, const QString &usuario)
 
 QStringList usuariosDelBuzon(const QString &dirMensajes)
 {
-    return dirMensajes.isEmpty() ? QStringList() : CarpetaBuzon(dirMensajes).subcarpetas();
+    return dirMensajes.isEmpty() ? QStringList() : CarpetaCompartida(dirMensajes).subcarpetas();
 }
 
-int revisaBuzon(const QString &dirMensajes, ColMensajes &mensajes, Corrida &corrida)
+Tarea<RevisionDeBuzon> revisaBuzon(QString dirMensajes, Billete billete)
 {
-    while (mensajes.Count() >= 1)
-        mensajes.Remove(1);
-    return dirMensajes.isEmpty() ? 0 : Revision(dirMensajes, mensajes, corrida).recorre();
+    RevisionDeBuzon revision;
+    if (dirMensajes.isEmpty())
+        co_return revision;
+    const CarpetaCompartida buzon(dirMensajes);
+    const QStringList usuarios = buzon.subcarpetas();
+    for (const QString &usuario : usuarios) {
+        const auto suya = abreUsuario(buzon, usuario);
+        if (!suya) {
+            ++revision.ilegibles;
+            continue;
+        }
+        const QString ruta = rutaDe(dirMensajes, usuario);
+        for (const QString &nombre : suya->mensajes) {
+            if (const auto cabecera = cabeceraDe(suya->carpeta, nombre))
+                revision.mensajes.Anota(cabecera->remitente, usuario, cabecera->asunto,
+                                        rutaDe(ruta, nombre));
+            else
+                ++revision.ilegibles;
+            co_await billete.ceder();
+            if (billete.detenida())
+                co_return revision;
+        }
+    }
+    co_return revision;
 }

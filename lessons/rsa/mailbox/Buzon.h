@@ -1,15 +1,13 @@
 #pragma once
 
-#include "shell/core/Corrida.h"
+#include "lessons/rsa/mailbox/ColMensajes.h"
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
-class ColMensajes;
-
 /// The mailbox as a folder: one sub-folder a user, in it the user's public key and the messages to
-/// that user. Everything in it may be hostile; see CarpetaBuzon.
+/// that user. Everything in it may be hostile; see CarpetaCompartida.
 
 /// Puts a message into the recipient's folder under the first free number, and gives its full path.
 /// However many send at once, nothing is replaced and nothing is seen half written. Throws
@@ -35,8 +33,15 @@ ClavePublica leeClavePublica(const QString &dirMensajes, const QString &usuario)
 /// the mailbox cannot be read.
 QStringList usuariosDelBuzon(const QString &dirMensajes);
 
-/// Fills the collection with the messages of the mailbox, in the order of folders and numbers; of
-/// two with one key the later counts. Yields once a file, and ends early when the run is stopped.
-/// Gives the number of folders and files that could not be read. An empty `dirMensajes` gives no
-/// messages; one that cannot be read throws ErrorEjecucion.
-int revisaBuzon(const QString &dirMensajes, ColMensajes &mensajes, Corrida &corrida);
+/// What a scan of the mailbox has met.
+struct RevisionDeBuzon
+{
+    ColMensajes
+        mensajes; ///< in the order of folders and numbers; of two with one key the later counts
+    int ilegibles = 0; ///< folders and files that could not be read
+};
+
+/// Reads sender and subject of every message of the mailbox. Yields once a file, and ends early
+/// when the run is stopped. An empty `dirMensajes` gives no messages; one that cannot be read
+/// throws ErrorEjecucion.
+Tarea<RevisionDeBuzon> revisaBuzon(QString dirMensajes, Billete billete);

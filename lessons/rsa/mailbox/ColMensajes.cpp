@@ -26,11 +26,6 @@ clsMensaje &ColMensajes::Add(const QString &remitente, const QString &destinatar
     return *mensaje;
 }
 
-clsMensaje *ColMensajes::Item(const QString &clave) const
-{
-    return m_porClave.value(clave).get();
-}
-
 clsMensaje &ColMensajes::Item(qsizetype indice) const
 {
     if (indice < 1 || indice > Count())
@@ -51,7 +46,7 @@ void ColMensajes::Anota(const QString &remitente, const QString &destinatario,
 {
     // A subject that is not stored does not count in the key either.
     const QString guardado = EsTextoLegible(asunto) ? asunto : QString();
-    clsMensaje *mensaje = Item(clave(remitente, destinatario, guardado));
+    const Mensaje mensaje = Item(clave(remitente, destinatario, guardado));
     if (!mensaje) {
         Add(remitente, destinatario, asunto, nombreFichero);
         return;

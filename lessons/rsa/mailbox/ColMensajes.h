@@ -23,7 +23,7 @@ public:
                     const QString &nombreFichero);
 
     /// The message of a key; null when there is none.
-    clsMensaje *Item(const QString &clave) const;
+    Mensaje Item(const QString &clave) const { return m_porClave.value(clave); }
     /// The message at a place from 1 to Count(). Throws IndiceFueraDeRango.
     clsMensaje &Item(qsizetype indice) const;
 

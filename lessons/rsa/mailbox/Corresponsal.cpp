@@ -1,24 +1,37 @@
 #include "lessons/rsa/mailbox/Corresponsal.h"
 
+#include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/Lectura.h"
 
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
-Corresponsal::Corresponsal(ClsRSA &propia) : m_propia(propia), m_clave(propia.sesion())
+Corresponsal::Corresponsal(std::shared_ptr<ClsRSA> propia)
+    : m_propia(std::move(propia)), m_clave(m_propia->sesion())
 {
-    QObject::connect(&m_propia, &ClsRSA::ValidaClave, &m_clave, [this](bool &bien) {
+    QObject::connect(m_propia.get(), &ClsRSA::ValidaClave, &m_clave, [this](bool &bien) {
         if (bien)
             haVuelto();
     });
 }
 
+Corresponsal::~Corresponsal()
+{
+    try {
+        devuelveClavePropia();
+    } catch (const ErrorEjecucion &) {
+        // The window is gone; there is nobody left to tell.
+    }
+}
+
 Corresponsal::Numeros Corresponsal::numerosDe(const QString &usuario) const
 {
     // The user's folder is found without regard to case, so the name is compared so as well.
-    const bool esPropio = usuario.compare(m_propia.fichero().usuario(), Qt::CaseInsensitive) == 0;
-    return {leeClavePublica(m_propia.DirMensajes(), usuario), esPropio ? m_propia.t() : QString()};
+    const bool esPropio = usuario.compare(m_propia->fichero().usuario(), Qt::CaseInsensitive) == 0;
+    return {leeClavePublica(m_propia->DirMensajes(), usuario),
+            esPropio ? m_propia->t() : QString()};
 }
 
 void Corresponsal::elige(const QString &usuario)
@@ -29,14 +42,14 @@ void Corresponsal::elige(const QString &usuario)
     m_clave.pons(m_numeros.publica.s);
     m_clave.ponr(1);
     m_clave.pont(m_numeros.t);
-    m_propia.fichero().aparta();
+    m_propia->fichero().aparta();
     m_propiaPisada = true;
     m_clave.ponClaveOK(true);
 }
 
 bool Corresponsal::claveSirve() const
 {
-    return PotenciaMod(u"0"_s, m_clave.s(), m_clave.q(0)) != TextoError;
+    return !esError(PotenciaMod(u"0"_s, m_clave.s(), m_clave.q(0)));
 }
 
 bool Corresponsal::haCambiado() const
@@ -48,10 +61,10 @@ void Corresponsal::devuelveClavePropia()
 {
     if (!m_propiaPisada)
         return;
-    if (m_propia.ClaveOK())
-        m_propia.SalvaClave();
+    if (m_propia->ClaveOK())
+        m_propia->SalvaClave();
     else
-        m_propia.fichero().recupera();
+        m_propia->fichero().recupera();
     haVuelto();
 }
 
@@ -59,5 +72,5 @@ void Corresponsal::devuelveClavePropia()
 void Corresponsal::haVuelto()
 {
     if (std::exchange(m_propiaPisada, false))
-        m_propia.fichero().retiraCopia();
+        m_propia->fichero().retiraCopia();
 }

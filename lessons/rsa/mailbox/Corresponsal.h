@@ -3,6 +3,8 @@
 #include "lessons/rsa/key/ClsRSA.h"
 #include "lessons/rsa/mailbox/Buzon.h"
 
+#include <memory>
+
 /// The user whom the student has chosen to write to or to read, with the key that this takes.
 /// Choosing one writes the correspondent's numbers into the private key file, beside which the
 /// student's own key is kept meanwhile; it goes back there with its next good validation, or when
@@ -10,8 +12,12 @@
 class Corresponsal
 {
 public:
-    /// `propia` is the student's own key, which outlives this.
-    explicit Corresponsal(ClsRSA &propia);
+    /// `propia` is the student's own key.
+    explicit Corresponsal(std::shared_ptr<ClsRSA> propia);
+    /// Puts the own key back where it can; what cannot be written stays beside its file.
+    ~Corresponsal();
+    Corresponsal(const Corresponsal &) = delete;
+    Corresponsal &operator=(const Corresponsal &) = delete;
 
     /// The user who was chosen; empty when nobody is.
     const QString &usuario() const { return m_usuario; }
@@ -44,7 +50,7 @@ private:
     Numeros numerosDe(const QString &usuario) const;
     void haVuelto();
 
-    ClsRSA &m_propia;
+    std::shared_ptr<ClsRSA> m_propia;
     ClsRSA m_clave;
     Numeros m_numeros;
     QString m_usuario;

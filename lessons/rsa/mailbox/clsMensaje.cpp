@@ -30,28 +30,40 @@ void clsMensaje::ponAsunto(const QString &asunto)
         rechazaTexto();
 }
 
-void clsMensaje::CodificaTexto(Corrida &corrida)
+Tarea<> clsMensaje::CodificaTexto(Billete billete)
 {
-    m_bloques = m_mensajeOK ? m_clave->Codifica(m_textoOriginal, corrida) : QStringList{QString()};
+    if (m_mensajeOK)
+        m_bloques = co_await m_clave->Codifica(m_textoOriginal, billete);
+    else
+        m_bloques = QStringList{QString()};
 }
 
-void clsMensaje::DescodificaTexto(Corrida &corrida)
+Tarea<> clsMensaje::DescodificaTexto(Billete billete)
 {
     m_clave->Valida();
-    ponTextoOriginal(m_clave->ClaveOK() ? m_clave->DesCodifica(m_bloques, corrida) : QString());
+    QString texto;
+    if (m_clave->ClaveOK())
+        texto = co_await m_clave->DesCodifica(m_bloques, billete);
+    ponTextoOriginal(texto);
 }
 
-void clsMensaje::Envia()
+Tarea<> clsMensaje::Envia(Billete billete)
 {
-    const QByteArray bytes = ArchivoMensaje::compone({m_remitente, m_asunto, m_bloques});
-    m_nombreFichero = dejaMensaje(m_clave->DirMensajes(), m_destinatario, bytes);
+    const QString buzon = m_clave->DirMensajes();
+    const ContenidoMensaje contenido{m_remitente, m_asunto, m_bloques};
+    const QByteArray bytes = co_await ArchivoMensaje::compone(contenido, billete);
+    if (!billete.detenida())
+        m_nombreFichero = dejaMensaje(buzon, m_destinatario, bytes);
 }
 
-void clsMensaje::Recibe(Corrida &corrida)
+Tarea<> clsMensaje::Recibe(Billete billete)
 {
-    ContenidoMensaje contenido = ArchivoMensaje::interpreta(leeMensaje(m_nombreFichero));
+    const Potencias potencias = m_clave->paraDescodificar();
+    const QByteArray bytes = leeMensaje(m_nombreFichero);
+    ContenidoMensaje contenido = co_await ArchivoMensaje::interpreta(bytes, billete);
     m_remitente = contenido.remitente;
     m_asunto = contenido.asunto;
     m_bloques = std::move(contenido.bloques);
-    ponTextoOriginal(m_clave->DesCodifica(m_bloques, corrida));
+    const QString texto = co_await descodifica(m_bloques, potencias, billete);
+    ponTextoOriginal(texto);
 }

@@ -7,7 +7,8 @@
 #include <QStringList>
 
 /// A message of the mailbox: sender, recipient, subject, the text, its encrypted blocks, and the
-/// key that encrypts or decrypts them.
+/// key that encrypts or decrypts them. It outlives the runs that it is asked for, which use the key
+/// as it was when they were asked for.
 class clsMensaje : public QObject
 {
     Q_OBJECT
@@ -26,18 +27,19 @@ public:
 
     /// Validates the key and decrypts the blocks into the text; the text becomes empty when the key
     /// is not good.
-    void DescodificaTexto(Corrida &corrida);
+    Tarea<> DescodificaTexto(Billete billete);
     /// Encrypts the text into the blocks; a single empty block when the message is not fit. Throws
     /// what ClsRSA::Codifica throws.
-    void CodificaTexto(Corrida &corrida);
+    Tarea<> CodificaTexto(Billete billete);
 
     /// Puts the message into the recipient's folder under the first free name of RSA1.msg,
     /// RSA2.msg, …, RSAA.msg, …; never in the place of another, and never visible half written.
-    /// The folder is made if missing. Throws ErrorEjecucion when that cannot be done.
-    void Envia();
+    /// The folder is made if missing. Nothing is put there when the run is stopped. Throws
+    /// ErrorEjecucion when that cannot be done.
+    Tarea<> Envia(Billete billete);
     /// Reads the file NombreFichero and decrypts it into the text. Throws ErrorEjecucion when the
     /// file cannot be read.
-    void Recibe(Corrida &corrida);
+    Tarea<> Recibe(Billete billete);
 
     /// The full path of the file that was read, found or written.
     const QString &NombreFichero() const { return m_nombreFichero; }

@@ -8,8 +8,15 @@
 #include "ui_FormClaveRSA.h"
 
 #include <QScreen>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString Geometria = u"Ventana/ClaveRSA"_s;
+
+} // namespace
 
 FormClaveRSA::FormClaveRSA(QWidget *padre)
     : QWidget(padre, Qt::Tool | Qt::WindowStaysOnTopHint), ui(std::make_unique<Ui::FormClaveRSA>())
@@ -31,16 +38,51 @@ void FormClaveRSA::ponCorresponsal(const QString &usuario, const ClsRSA &clave)
     ui->TxtDestT->setText(clave.t());
 }
 
+QPoint FormClaveRSA::lugarJunto(const QRect &leccion, const QRect &pantalla, const QSize &tamano)
+{
+    constexpr int hueco = Aspecto::Espacio;
+    const QPoint lugares[] = {
+        {leccion.right() + hueco, leccion.top()},
+        {leccion.left(), leccion.bottom() + hueco},
+        {leccion.left() - hueco - tamano.width(), leccion.top()},
+        {leccion.left(), leccion.top() - hueco - tamano.height()},
+    };
+    for (const QPoint &lugar : lugares) {
+        if (pantalla.contains(QRect(lugar, tamano)))
+            return lugar;
+    }
+    const QPoint esquina(leccion.left() + Aspecto::Margen,
+                         leccion.bottom() - Aspecto::Margen - tamano.height());
+    return {std::max(esquina.x(), pantalla.left()),
+            std::min(esquina.y(), pantalla.bottom() - tamano.height())};
+}
+
 void FormClaveRSA::muestra()
 {
-    if (!m_colocada) {
-        const QRect pantalla = screen()->availableGeometry();
-        resize(std::min(sizeHint().width(), pantalla.width() / 3), sizeHint().height());
-        const QPoint esquina(width() + 2 * Aspecto::Margen, height() + 6 * Aspecto::Margen);
-        move(pantalla.bottomRight() - esquina);
-        m_colocada = true;
-    }
+    if (m_puesta.isNull() && !restoreGeometry(Sesión().recuerda(Geometria).toByteArray()))
+        coloca();
+    m_puesta = geometry();
     show();
+}
+
+void FormClaveRSA::coloca()
+{
+    const QRect pantalla = screen()->availableGeometry();
+    const QWidget *leccion = parentWidget();
+    resize(std::min({sizeHint().width(), pantalla.width() / 3, leccion->width() / 2}),
+           sizeHint().height());
+    // The frame that the window manager adds is not known before the first time.
+    const QSize conMarco = size() + QSize(Aspecto::Margen, 3 * Aspecto::Margen);
+    move(lugarJunto({leccion->mapToGlobal(QPoint()), leccion->size()}, pantalla, conMarco));
+}
+
+void FormClaveRSA::hideEvent(QHideEvent *suceso)
+{
+    QWidget::hideEvent(suceso);
+    const bool movida =
+        (geometry().topLeft() - m_puesta.topLeft()).manhattanLength() > 4 * Aspecto::Margen;
+    if (movida || size() != m_puesta.size())
+        Sesión().anota(Geometria, saveGeometry());
 }
 
 QString FormClaveRSA::t() const

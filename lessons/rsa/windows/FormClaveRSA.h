@@ -2,6 +2,7 @@
 
 #include "lessons/rsa/key/ClsRSA.h"
 
+#include <QRect>
 #include <QWidget>
 #include <memory>
 
@@ -22,18 +23,28 @@ public:
     /// Shows the key of a user: q(0), s, and t, which is empty where the student does not know it.
     void ponCorresponsal(const QString &usuario, const ClsRSA &clave);
 
-    /// Shows the window at the edge of the screen, without taking the focus.
+    /// Shows the window without taking the focus: where the user has put it once, else beside or
+    /// below the lesson.
     void muestra();
 
+    /// Where a window of that size covers nothing of the lesson that is being read: at its right,
+    /// below it, at its left or above it, whichever is on the screen; else over the lower left
+    /// corner of the lesson, where the list of messages has room.
+    static QPoint lugarJunto(const QRect &leccion, const QRect &pantalla, const QSize &tamano);
+
     QString t() const;
+
+protected:
+    void hideEvent(QHideEvent *suceso) override;
 
 Q_SIGNALS:
     /// Whether there is a private exponent to read with.
     void puedeRecibir(bool puede);
 
 private:
+    void coloca();
     void TxtDestT_Change();
 
     std::unique_ptr<Ui::FormClaveRSA> ui;
-    bool m_colocada = false;
+    QRect m_puesta; ///< where it was put before the user could move it
 };

@@ -1,11 +1,10 @@
 #include "lessons/rsa/windows/FormRSA.h"
 
-#include "lessons/rsa/key/NumerosLargos.h"
 #include "lessons/rsa/windows/FormRSAClave.h"
 #include "lessons/rsa/windows/FormRSACodificacion.h"
+#include "lessons/rsa/windows/FormRSAComun.h"
 #include "lessons/rsa/windows/FormRSAMensajes.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Imagenes.h"
 
@@ -19,6 +18,7 @@ const QString TemaMensajes = u"env-rec"_s;
 
 FormRSA::FormRSA(QWidget *padre)
     : FormLeccion(u"RSA.html"_s, padre),
+      m_clave(std::make_shared<ClsRSA>(Sesión())),
       m_panelClave(new FormRSAClave(m_clave, this)),
       m_panelCodificacion(new FormRSACodificacion(m_clave, this)),
       m_panelMensajes(new FormRSAMensajes(m_clave, this))
@@ -31,8 +31,8 @@ FormRSA::FormRSA(QWidget *padre)
     agregaTema(u"Codificación y descodificación"_s, u"cod-decod"_s, m_panelCodificacion);
     m_panelMensajes->hide();
 
-    conecta(&m_clave, &ClsRSA::ValidaClave, this, &FormRSA::Clave_ValidaClave);
-    conecta(&m_clave, &ClsRSA::CambiaBuzon, this, &FormRSA::Clave_CambiaBuzon);
+    conecta(m_clave.get(), &ClsRSA::ValidaClave, this, &FormRSA::Clave_ValidaClave);
+    conecta(m_clave.get(), &ClsRSA::CambiaBuzon, this, &FormRSA::Clave_CambiaBuzon);
     conecta(m_panelClave, &FormRSAClave::validada, this, &FormRSA::actualizaBuzon);
     conecta(m_panelMensajes, &FormRSAMensajes::buzonPerdido, this, &FormRSA::actualizaBuzon);
     evento(this, [this] { abre(); });
@@ -40,10 +40,11 @@ FormRSA::FormRSA(QWidget *padre)
 
 FormRSA::~FormRSA()
 {
-    // The panels use the key to their end, and would outlive it as mere children.
-    delete m_panelMensajes;
-    delete m_panelCodificacion;
-    delete m_panelClave;
+    // The panels go after the window, and share the key until then; what still happens in them is
+    // nobody's any more.
+    m_clave->disconnect(this);
+    m_panelClave->disconnect(this);
+    m_panelMensajes->disconnect(this);
 }
 
 void FormRSA::abre()
@@ -51,24 +52,18 @@ void FormRSA::abre()
     // A damaged key file is told, and does not keep the mailbox away.
     evento(this, [this] { recuperaClave(); });
     m_panelClave->muestraClave();
-    m_clave.ponDirMensajes(m_clave.DirMensajes());
+    m_clave->ponDirMensajes(m_clave->DirMensajes());
 }
 
 void FormRSA::recuperaClave()
 {
-    if (m_clave.fichero().recupera())
-        interlocutor().mensaje(
+    if (m_clave->fichero().recupera())
+        interlocutor().avisa(
             this, Interlocutor::Icono::Informacion,
             Traduce(
                 u"La última sesión acabó de repente. Su clave privada ha vuelto a su fichero."_s),
             Traduce(u"Clave recuperada"_s));
-    m_clave.RecuperaClave();
-}
-
-QAbstractButton *FormRSA::botonDeParada() const
-{
-    QAbstractButton *boton = m_panelCodificacion->botonDeParada();
-    return boton ? boton : m_panelMensajes->botonDeParada();
+    m_clave->RecuperaClave();
 }
 
 void FormRSA::Clave_ValidaClave(bool bien, const QString &mensaje)
@@ -78,8 +73,8 @@ void FormRSA::Clave_ValidaClave(bool bien, const QString &mensaje)
     m_panelClave->muestraVeredicto(bien, mensaje);
     m_panelCodificacion->permiteCodificar(bien);
     if (!bien)
-        interlocutor().mensaje(this, Interlocutor::Icono::Critico, abreviaNumeros(mensaje),
-                               Traduce(u"Error en la clave"_s));
+        interlocutor().avisa(this, Interlocutor::Icono::Critico, abreviaNumeros(mensaje),
+                             Traduce(u"Error en la clave"_s));
 }
 
 void FormRSA::Clave_CambiaBuzon()
@@ -91,7 +86,7 @@ void FormRSA::Clave_CambiaBuzon()
 /// The topic of messages is there for as long as there is a mailbox and a key to use it with.
 void FormRSA::actualizaBuzon()
 {
-    const bool listo = ExisteFichero(m_clave.DirMensajes()) && m_clave.ClaveOK();
+    const bool listo = ExisteFichero(m_clave->DirMensajes()) && m_clave->ClaveOK();
     m_panelClave->muestraBuzon(listo);
     if (listo && !tieneTema(TemaMensajes))
         agregaTema(u"Enviar y recibir"_s, TemaMensajes, m_panelMensajes);

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "lessons/rsa/key/ClsRSA.h"
-#include "shell/core/clsSesion.h"
 #include "shell/frame/FormLeccion.h"
+
+#include <memory>
 
 class FormRSAClave;
 class FormRSACodificacion;
@@ -17,9 +18,6 @@ public:
     explicit FormRSA(QWidget *padre = nullptr);
     ~FormRSA() override;
 
-protected:
-    QAbstractButton *botonDeParada() const override;
-
 private:
     void abre();
     void recuperaClave();
@@ -27,7 +25,7 @@ private:
     void Clave_ValidaClave(bool bien, const QString &mensaje);
     void Clave_CambiaBuzon();
 
-    ClsRSA m_clave{Sesión()};
+    std::shared_ptr<ClsRSA> m_clave;
     FormRSAClave *m_panelClave;
     FormRSACodificacion *m_panelCodificacion;
     FormRSAMensajes *m_panelMensajes;

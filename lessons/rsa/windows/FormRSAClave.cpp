@@ -1,11 +1,10 @@
 #include "lessons/rsa/windows/FormRSAClave.h"
 
 #include "bignum/gateway/Azar.h"
-#include "lessons/rsa/key/Entero16.h"
-#include "lessons/rsa/key/NumerosLargos.h"
+#include "lessons/rsa/windows/FormRSAComun.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
-#include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Imagenes.h"
@@ -33,8 +32,8 @@ void soloLectura(CampoLargo *campo)
 
 } // namespace
 
-FormRSAClave::FormRSAClave(ClsRSA &clave, QWidget *leccion)
-    : QWidget(leccion), ui(std::make_unique<Ui::FormRSAClave>()), m_clave(clave)
+FormRSAClave::FormRSAClave(std::shared_ptr<ClsRSA> clave, QWidget *leccion)
+    : QWidget(leccion), ui(std::make_unique<Ui::FormRSAClave>()), m_clave(std::move(clave))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -47,17 +46,17 @@ FormRSAClave::FormRSAClave(ClsRSA &clave, QWidget *leccion)
     for (CampoLargo *campo : {ui->txtQ_0, ui->txtFiQ, ui->txtT})
         soloLectura(campo);
     ui->txtR->setText(u"1"_s);
-    m_clave.ponr(1);
+    m_clave->ponr(1);
     ui->TxtNumBits->setText(QString::number(AleatorioEntre(100, 200)));
 
     for (const int i : {1, 2}) {
         conecta(txtQ(i), &CampoLargo::editingFinished, this, [this, i] { txtQ_Validate(i); });
         conecta(txtQ(i), &CampoLargo::returnPressed, this, [this, i] { txtQ_Return(i); });
-        conecta(txtQ(i), &CampoLargo::textoCambiado, this, &FormRSAClave::muestraObjecion);
+        conecta(txtQ(i), &CampoLargo::textoCambiado, this, &FormRSAClave::muestraEscrita);
     }
     conecta(ui->txtS, &CampoLargo::editingFinished, this, &FormRSAClave::txtS_Validate);
     conecta(ui->txtS, &CampoLargo::returnPressed, this, &FormRSAClave::txtS_Return);
-    conecta(ui->txtS, &CampoLargo::textoCambiado, this, &FormRSAClave::muestraObjecion);
+    conecta(ui->txtS, &CampoLargo::textoCambiado, this, &FormRSAClave::muestraEscrita);
     conecta(ui->txtR, &QLineEdit::textChanged, this, &FormRSAClave::txtR_Change);
     conecta(ui->ChkNumBits, &QCheckBox::clicked, this, &FormRSAClave::ChkNumBits_Click);
     conecta(ui->TxtNumBits, &QLineEdit::textChanged, this, &FormRSAClave::TxtNumBits_Change);
@@ -76,20 +75,27 @@ CampoLargo *FormRSAClave::txtQ(int i) const
 
 void FormRSAClave::muestraClave()
 {
-    for (const int i : {0, 1, 2})
-        txtQ(i)->setText(m_clave.q(i));
-    ui->txtFiQ->setText(m_clave.FiQ());
-    ui->txtS->setText(m_clave.s());
-    ui->txtT->setText(m_clave.t());
-    const QString bits = m_clave.nbits() > 0 ? QString::number(m_clave.nbits()) : QString();
-    ui->LabelNumBits->setText(Traduce(u"Nº de bits de la clave ="_s) + u' ' + bits);
+    for (const int i : {1, 2})
+        txtQ(i)->setText(m_clave->q(i));
+    ui->txtS->setText(m_clave->s());
+    muestraCalculados();
     // The key that was recovered may have another block length than the field begins with.
     const QSignalBlocker callado(ui->txtR);
-    ui->txtR->setText(QString::number(m_clave.r()));
+    ui->txtR->setText(QString::number(m_clave->r()));
+}
+
+void FormRSAClave::muestraCalculados()
+{
+    txtQ(0)->setText(m_clave->q(0));
+    ui->txtFiQ->setText(m_clave->FiQ());
+    ui->txtT->setText(m_clave->t());
+    const QString bits = m_clave->nbits() > 0 ? QString::number(m_clave->nbits()) : QString();
+    ui->LabelNumBits->setText(Traduce(u"Nº de bits de la clave ="_s) + u' ' + bits);
 }
 
 void FormRSAClave::ponEstado(Estado estado, const QString &texto)
 {
+    m_publicada = false;
     m_estado = estado;
     m_textoDeEstado = abreviaNumeros(texto);
     muestraEstado();
@@ -118,8 +124,35 @@ void FormRSAClave::muestraVeredicto(bool bien, const QString &mensaje)
     if (bien) {
         ui->lblFichero->show();
         ui->lblFichero->setText(Traduce(u"Su clave privada se guarda en %1"_s)
-                                    .arg(rutaDePlataforma(m_clave.FicheroClavePrivada())));
+                                    .arg(rutaDePlataforma(m_clave->FicheroClavePrivada())));
     }
+}
+
+/// At each key: the computed numbers belong to the others, and so does what is said of them.
+void FormRSAClave::muestraEscrita()
+{
+    muestraDerivados();
+    muestraObjecion();
+}
+
+/// A number that was computed from others than those in the fields is not shown.
+void FormRSAClave::muestraDerivados()
+{
+    const bool mismosPrimos = txtQ(1)->text() == m_clave->q(1) && txtQ(2)->text() == m_clave->q(2);
+    const bool misma = mismosPrimos && ui->txtS->text() == m_clave->s();
+    if (misma && m_clave->ClaveOK()) {
+        muestraCalculados();
+        return;
+    }
+    const auto conserva = [mismosPrimos](CampoLargo *campo, const QString &valor) {
+        if (!mismosPrimos || campo->text() != valor)
+            campo->setText({});
+    };
+    conserva(txtQ(0), m_clave->q(0));
+    conserva(ui->txtFiQ, m_clave->FiQ());
+    ui->txtT->setText({});
+    if (txtQ(0)->text().isEmpty())
+        ui->LabelNumBits->setText(Traduce(u"Nº de bits de la clave ="_s));
 }
 
 /// Says at each key what a validation would object to, before it is asked for.
@@ -127,9 +160,9 @@ void FormRSAClave::muestraObjecion()
 {
     const bool cabe = std::max({ui->txtQ_1->text().size(), ui->txtQ_2->text().size(),
                                 ui->txtS->text().size()}) <= CifrasAlVuelo;
-    ClsRSA escrita(m_clave.sesion());
-    escrita.ponr(m_clave.r());
-    escrita.ponNBitsRequeridos(m_clave.NBitsRequeridos());
+    ClsRSA escrita(m_clave->sesion());
+    escrita.ponr(m_clave->r());
+    escrita.ponNBitsRequeridos(m_clave->NBitsRequeridos());
     escrita.ponq(1, ui->txtQ_1->text());
     escrita.ponq(2, ui->txtQ_2->text());
     escrita.pons(ui->txtS->text());
@@ -148,13 +181,16 @@ void FormRSAClave::muestraObjecion()
 
 void FormRSAClave::valida()
 {
-    const auto alFinal = qScopeGuard([this] { Q_EMIT validada(); });
-    m_clave.Valida();
+    const auto alFinal = qScopeGuard([this] {
+        muestraDerivados();
+        Q_EMIT validada();
+    });
+    m_clave->Valida();
 }
 
 void FormRSAClave::txtQ_Return(int i)
 {
-    m_clave.ponq(i, txtQ(i)->text());
+    m_clave->ponq(i, txtQ(i)->text());
     ui->txtFiQ->setText({});
     ui->txtT->setText({});
     valida();
@@ -163,25 +199,25 @@ void FormRSAClave::txtQ_Return(int i)
 void FormRSAClave::txtQ_Validate(int i)
 {
     // The Enter key may have done it already.
-    if (txtQ(i)->text() != m_clave.q(i))
+    if (txtQ(i)->text() != m_clave->q(i))
         txtQ_Return(i);
 }
 
 void FormRSAClave::txtS_Return()
 {
-    m_clave.pons(ui->txtS->text());
+    m_clave->pons(ui->txtS->text());
     valida();
 }
 
 void FormRSAClave::txtS_Validate()
 {
-    if (ui->txtS->text() != m_clave.s())
+    if (ui->txtS->text() != m_clave->s())
         txtS_Return();
 }
 
 void FormRSAClave::txtR_Change()
 {
-    m_clave.ponr(aEntero16(ui->txtR->text()));
+    m_clave->ponr(aEntero16(NumVal(ui->txtR->text())));
     muestraObjecion();
     valida();
 }
@@ -191,7 +227,8 @@ void FormRSAClave::ChkNumBits_Click()
     const bool exige = ui->ChkNumBits->isChecked();
     // First of all, because a number that is too large can only be changed in the field.
     ui->TxtNumBits->setEnabled(exige);
-    m_clave.ponNBitsRequeridos(exige ? aEntero16(ui->TxtNumBits->text()) : std::int16_t{0});
+    m_clave->ponNBitsRequeridos(exige ? aEntero16(NumVal(ui->TxtNumBits->text()))
+                                      : std::int16_t{0});
     muestraObjecion();
 }
 
@@ -199,32 +236,38 @@ void FormRSAClave::TxtNumBits_Change()
 {
     if (!ui->ChkNumBits->isChecked())
         return;
-    m_clave.ponNBitsRequeridos(aEntero16(ui->TxtNumBits->text()));
+    m_clave->ponNBitsRequeridos(aEntero16(NumVal(ui->TxtNumBits->text())));
     muestraObjecion();
 }
 
-void FormRSAClave::cmdBuzon_Click()
+Tarea<> FormRSAClave::cmdBuzon_Click()
 {
     const QString pregunta =
         Traduce(u"Seleccione la carpeta compartida donde enviar y recibir los mensajes."_s) +
         u'\n' + Traduce(u"(Cancelar puede eliminar toda la información)"_s);
-    m_clave.ponDirMensajes(interlocutor().pideCarpeta(this, pregunta, m_clave.DirMensajes()));
+    const QString actual = m_clave->DirMensajes();
+    const QString carpeta = co_await interlocutor().eligeCarpeta(this, pregunta, actual);
+    m_clave->ponDirMensajes(carpeta);
 }
 
 void FormRSAClave::cmdPublicarClave_Click()
 {
-    if (m_clave.DirMensajes().isEmpty())
+    if (m_clave->DirMensajes().isEmpty())
         return;
-    m_clave.PublicaClave();
+    m_clave->PublicaClave();
     ponEstado(Estado::Bien, Traduce(u"Clave publicada en el buzón: ya le pueden escribir."_s));
+    m_publicada = true;
 }
 
 void FormRSAClave::muestraBuzon(bool sePuedePublicar)
 {
-    const QString carpeta = m_clave.DirMensajes();
+    const QString carpeta = m_clave->DirMensajes();
     const QString texto = carpeta.isEmpty()        ? Traduce(u"Todavía no ha elegido un buzón."_s)
                           : ExisteFichero(carpeta) ? Traduce(u"Buzón: %1"_s)
                                                    : Traduce(u"No se encuentra el buzón: %1"_s);
     ui->lblBuzon->setText(carpeta.isEmpty() ? texto : texto.arg(QDir::toNativeSeparators(carpeta)));
     ui->cmdPublicarClave->setEnabled(sePuedePublicar);
+    // It was published in the mailbox that was there before.
+    if (m_publicada && m_clave->ClaveOK())
+        muestraVeredicto(true, Traduce(u"Clave OK"_s));
 }

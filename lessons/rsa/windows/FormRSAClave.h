@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lessons/rsa/key/ClsRSA.h"
+#include "shell/frame/Evento.h"
 
 #include <QWidget>
 #include <memory>
@@ -19,7 +20,7 @@ class FormRSAClave : public QWidget
 
 public:
     /// `clave` is the student's own key.
-    FormRSAClave(ClsRSA &clave, QWidget *leccion);
+    FormRSAClave(std::shared_ptr<ClsRSA> clave, QWidget *leccion);
     ~FormRSAClave() override;
 
     /// Fills the fields from the key.
@@ -28,6 +29,8 @@ public:
     void muestraVeredicto(bool bien, const QString &mensaje);
     /// Shows the mailbox folder, and whether the key can be published in it.
     void muestraBuzon(bool sePuedePublicar);
+
+    Tareas &tareas() { return m_tareas; }
 
 Q_SIGNALS:
     /// The key was validated: with a verdict, without one because a number is missing, or in vain
@@ -43,6 +46,9 @@ private:
     void ponEstado(Estado estado, const QString &texto);
     void muestraEstado();
     void muestraObjecion();
+    void muestraCalculados();
+    void muestraEscrita();
+    void muestraDerivados();
     void valida();
 
     void txtQ_Validate(int i);
@@ -52,11 +58,13 @@ private:
     void txtR_Change();
     void ChkNumBits_Click();
     void TxtNumBits_Change();
-    void cmdBuzon_Click();
+    Tarea<> cmdBuzon_Click();
     void cmdPublicarClave_Click();
 
     std::unique_ptr<Ui::FormRSAClave> ui;
-    ClsRSA &m_clave;
+    std::shared_ptr<ClsRSA> m_clave;
     Estado m_estado = Estado::Neutro;
     QString m_textoDeEstado;
+    bool m_publicada = false; ///< what is shown is that the key was published
+    TareasDeVentana m_tareas{this};
 };

@@ -1,13 +1,11 @@
 #include "lessons/rsa/windows/FormRSACodificacion.h"
 
 #include "lessons/rsa/windows/FormRSABloques.h"
+#include "lessons/rsa/windows/FormRSAComun.h"
 #include "lessons/rsa/windows/FormRSATexto.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Evento.h"
-#include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
-#include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
 #include "ui_FormRSACodificacion.h"
 
@@ -15,18 +13,18 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-FormRSACodificacion::FormRSACodificacion(ClsRSA &clave, FormLeccion *leccion)
+FormRSACodificacion::FormRSACodificacion(std::shared_ptr<ClsRSA> clave, QWidget *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormRSACodificacion>()),
-      m_clave(clave),
-      m_leccion(leccion),
-      m_bloques(Traduce(u"^Texto codificado"_s)),
-      m_mandos(leccion->corrida())
+      m_clave(std::move(clave)),
+      m_bloques(Traduce(u"^Texto codificado"_s))
 {
     ui->setupUi(this);
     traduceVentana(this);
-    ui->cmdCodificar->setIcon(Icono(u"CODIFICAR"_s));
-    ui->cmdDescodificar->setIcon(Icono(u"DESCODIFICAR"_s));
+    m_codificar =
+        corridaDe(ui->cmdCodificar, u"CODIFICAR"_s, Traduce(u"Detener la codificación"_s));
+    m_descodificar =
+        corridaDe(ui->cmdDescodificar, u"DESCODIFICAR"_s, Traduce(u"Detener la descodificación"_s));
     ui->FlexTextoCodificado->setModel(&m_bloques);
     ui->FlexTextoCodificado->ponTextoVacio(Traduce(u"Aquí aparece un número por cada paquete"_s));
     ui->FlexTextoCodificado->setItemDelegate(new FormRSABloques(ui->FlexTextoCodificado));
@@ -59,31 +57,33 @@ void FormRSACodificacion::ajustaFilas()
         FormRSABloques::alto(rejilla->fontMetrics(), cifras, rejilla->columnWidth(0)));
 }
 
-void FormRSACodificacion::cmdCodificar_Click()
+/// A click on the button of a run: whether it is to begin. One that is on is stopped.
+bool FormRSACodificacion::empiezaCon(BotonDeCorrida *boton) const
 {
-    m_mandos.pulsa(ui->cmdCodificar, [this] { codifica(); });
+    boton->detiene();
+    return !m_codificar->enMarcha() && !m_descodificar->enMarcha();
 }
 
-void FormRSACodificacion::cmdDescodificar_Click()
-{
-    m_mandos.pulsa(ui->cmdDescodificar, [this] { descodifica(); });
-}
-
-void FormRSACodificacion::codifica()
+Tarea<> FormRSACodificacion::cmdCodificar_Click()
 {
     const QString texto = ui->txtTextoOriginal->toPlainText();
-    if (!seCodifica(this, texto))
-        return;
-    if (m_clave.r() < 1) {
-        interlocutor().mensaje(this, Interlocutor::Icono::Exclamacion,
-                               Traduce(u"Cada paquete ha de tener al menos un carácter."_s),
-                               Traduce(u"Tamaño de la palabra"_s));
-        return;
+    if (!empiezaCon(m_codificar) || !seCodifica(this, texto))
+        co_return;
+    if (m_clave->r() < 1) {
+        interlocutor().avisa(this, Interlocutor::Icono::Exclamacion,
+                             Traduce(u"Cada paquete ha de tener al menos un carácter."_s),
+                             Traduce(u"Tamaño de la palabra"_s));
+        co_return;
     }
-    QStringList bloques;
-    m_mandos.corre(ui->cmdCodificar, Traduce(u"Detener la codificación"_s),
-                   [&] { bloques = m_clave.Codifica(texto, m_leccion->corrida()); });
+    const auto marcha = m_codificar->empieza(m_tareas.billete());
+    const QStringList bloques = co_await m_clave->Codifica(texto, marcha.billete());
+    muestra(bloques);
+}
+
+void FormRSACodificacion::muestra(const QStringList &bloques)
+{
     QList<QStringList> filas;
+    filas.reserve(bloques.size());
     for (const QString &bloque : bloques)
         filas << QStringList{bloque};
     m_bloques.ponFilas(filas);
@@ -91,12 +91,15 @@ void FormRSACodificacion::codifica()
     ui->lblEstadoCodigo->setText(Traduce(u"Paquetes: %1"_s).arg(formatoEntero(bloques.size())));
 }
 
-void FormRSACodificacion::descodifica()
+Tarea<> FormRSACodificacion::cmdDescodificar_Click()
 {
+    if (!empiezaCon(m_descodificar))
+        co_return;
     QStringList bloques;
+    bloques.reserve(m_bloques.filas().size());
     for (const QStringList &fila : m_bloques.filas())
         bloques << fila.constFirst();
-    m_mandos.corre(ui->cmdDescodificar, Traduce(u"Detener la descodificación"_s), [&] {
-        ui->txtTextoOriginal->ponTexto(m_clave.DesCodifica(bloques, m_leccion->corrida()));
-    });
+    const auto marcha = m_descodificar->empieza(m_tareas.billete());
+    const QString texto = co_await m_clave->DesCodifica(bloques, marcha.billete());
+    ui->txtTextoOriginal->ponTexto(texto);
 }

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "lessons/rsa/key/ClsRSA.h"
-#include "lessons/rsa/windows/FormRSACorrida.h"
 #include "lessons/rsa/windows/TablaDeTextos.h"
+#include "shell/frame/BotonDeCorrida.h"
+#include "shell/frame/Evento.h"
 
 #include <QWidget>
 #include <memory>
-
-class FormLeccion;
 
 namespace Ui {
 class FormRSACodificacion;
@@ -20,24 +19,24 @@ class FormRSACodificacion : public QWidget
 
 public:
     /// `clave` is the student's own key.
-    FormRSACodificacion(ClsRSA &clave, FormLeccion *leccion);
+    FormRSACodificacion(std::shared_ptr<ClsRSA> clave, QWidget *leccion);
     ~FormRSACodificacion() override;
 
     void permiteCodificar(bool permitido);
 
-    /// The button of the run in progress, if it was started here.
-    QAbstractButton *botonDeParada() const { return m_mandos.botonDeParada(); }
+    Tareas &tareas() { return m_tareas; }
 
 private:
     void ajustaFilas();
-    void codifica();
-    void descodifica();
-    void cmdCodificar_Click();
-    void cmdDescodificar_Click();
+    bool empiezaCon(BotonDeCorrida *boton) const;
+    void muestra(const QStringList &bloques);
+    Tarea<> cmdCodificar_Click();
+    Tarea<> cmdDescodificar_Click();
 
     std::unique_ptr<Ui::FormRSACodificacion> ui;
-    ClsRSA &m_clave;
-    FormLeccion *m_leccion;
+    std::shared_ptr<ClsRSA> m_clave;
     TablaDeTextos m_bloques;
-    FormRSACorrida m_mandos;
+    BotonDeCorrida *m_codificar;
+    BotonDeCorrida *m_descodificar;
+    TareasDeVentana m_tareas{this};
 };

@@ -1,38 +1,35 @@
 #pragma once
 
 #include "lessons/rsa/mailbox/ColMensajes.h"
-#include "lessons/rsa/mailbox/Corresponsal.h"
-#include "lessons/rsa/windows/FormRSACorrida.h"
+#include "lessons/rsa/windows/FormRSADestinatario.h"
+#include "lessons/rsa/windows/FormRSALista.h"
 #include "lessons/rsa/windows/FormRSARedaccion.h"
-#include "lessons/rsa/windows/TablaDeTextos.h"
+#include "shell/frame/BotonDeCorrida.h"
+#include "shell/frame/Evento.h"
 
 #include <QTimer>
 #include <QWidget>
 #include <memory>
-
-class FormClaveRSA;
-class FormLeccion;
 
 namespace Ui {
 class FormRSAMensajes;
 }
 
 /// The topic "Enviar y recibir": the messages of the mailbox, the key of the chosen correspondent,
-/// and the message that is read or written.
+/// and the message that is read or written. One run at a time: a scan, or a message on its way.
 class FormRSAMensajes : public QWidget
 {
     Q_OBJECT
 
 public:
     /// `clave` is the student's own key.
-    FormRSAMensajes(ClsRSA &clave, FormLeccion *leccion);
+    FormRSAMensajes(std::shared_ptr<ClsRSA> clave, QWidget *leccion);
     ~FormRSAMensajes() override;
 
     /// Scans the mailbox as soon as no run is in progress; one that is not there has no messages.
     void revisaPronto();
 
-    /// The button of the run in progress, if it was started here.
-    QAbstractButton *botonDeParada() const { return m_mandos.botonDeParada(); }
+    Tareas &tareas() { return m_tareas; }
 
 Q_SIGNALS:
     /// The mailbox could not be read.
@@ -44,41 +41,36 @@ protected:
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
-    void eligeDestinatario(const QString &usuario);
-    void actualizaDestinatario();
-    void olvidaDestinatario();
-    void revisa();
-    void vaciaLista();
-    QString estadoDeRevision(int ilegibles);
-    void muestraLista(const QString &estado);
-    void muestraUsuarios(const QStringList &usuarios);
-    int filaElegida() const;
-    QString claveDeFila(int fila) const;
-    void nombra(const QString &usuario);
+    void conectaTodo();
     void muestraMensaje(const clsMensaje &mensaje);
-    void envia();
-    void recibe();
+    void muestraMensajes(const ColMensajes &mensajes, QStringList usuarios);
+    QString estadoDeRevision(int ilegibles, bool detenida);
     bool esRepetido(const QString &destinatario, const QString &asunto);
     void escuchaErrores(clsMensaje &mensaje);
+    void cuentaEnvio(const clsMensaje &mensaje);
+    bool enCurso() const;
+    bool empiezaCon(BotonDeCorrida *boton) const;
     void habilita();
+    Tarea<> revisa();
+    Tarea<bool> confirmaSinClave(QString destinatario);
 
-    void FlexMensajes_Click(int fila);
-    void cmbDestinatario_Click();
-    void cmbDestinatario_Validate();
-    void enviar_Click();
-    void recibir_Click();
-    void revisar_Click();
-    void TimerRevision_Timer();
+    void FlexMensajes_Click();
+    void cmbDestinatario_Validate(const QString &usuario);
+    Tarea<> enviar_Click();
+    Tarea<> recibir_Click();
+    Tarea<> revisar_Click();
+    Tarea<> TimerRevision_Timer();
 
     std::unique_ptr<Ui::FormRSAMensajes> ui;
-    ClsRSA &m_clave;
-    Corresponsal m_corresponsal;
+    std::shared_ptr<ClsRSA> m_clave;
     ColMensajes m_mensajes;
-    TablaDeTextos m_tabla;
+    FormRSALista m_lista;
+    BotonDeCorrida *m_enviar;
+    BotonDeCorrida *m_recibir;
+    BotonDeCorrida *m_revisar;
     QTimer m_timerRevision; ///< a scan that is due
-    FormLeccion *m_leccion;
-    FormRSACorrida m_mandos;
-    FormClaveRSA *m_ventanaClave;
-    int m_filaMostrada = -1;
+    FormRSADestinatario m_destinatario;
+    QString m_mostrado; ///< the key of the message that is shown
     FormRSARedaccion m_redaccion;
+    TareasDeVentana m_tareas{this};
 };

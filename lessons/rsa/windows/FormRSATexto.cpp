@@ -1,15 +1,8 @@
 #include "lessons/rsa/windows/FormRSATexto.h"
 
-#include "lessons/rsa/key/TextoEnBloques.h"
-#include "shell/core/Formatos.h"
-#include "shell/core/ModGlobal.h"
-#include "shell/frame/Interlocutor.h"
-
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextOption>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -67,19 +60,4 @@ void FormRSATexto::ajustaRenglones(int lugar, int anadidos)
     }
     if (modoPara(enorme) != wordWrapMode())
         setWordWrapMode(modoPara(enorme));
-}
-
-bool seCodifica(QWidget *ventana, const QString &texto)
-{
-    const auto rechaza = [ventana](const QString &motivo, const QString &titulo) {
-        interlocutor().mensaje(ventana, Interlocutor::Icono::Exclamacion, motivo, titulo);
-        return false;
-    };
-    if (texto.size() > MaximoDeCaracteres)
-        return rechaza(Traduce(u"Un texto tiene como mucho %1 caracteres."_s)
-                           .arg(formatoEntero(MaximoDeCaracteres)),
-                       Traduce(u"Texto demasiado largo"_s));
-    if (const auto motivo = caracterInadmisible(texto))
-        return rechaza(*motivo, Traduce(u"Carácter no admitido"_s));
-    return true;
 }

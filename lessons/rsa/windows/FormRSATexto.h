@@ -18,6 +18,3 @@ private:
 
     bool m_poniendo = false;
 };
-
-/// Whether a text can be encrypted; a message box on the window says why not.
-bool seCodifica(QWidget *ventana, const QString &texto);

@@ -2,7 +2,7 @@
 
 #include "lessons/units/windows/FormUnidadesCasillas.h"
 #include "lessons/units/windows/ModeloCayley.h"
-#include "shell/core/EnteroAcotado.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
@@ -53,19 +53,19 @@ void FormUnidadesCayley::changeEvent(QEvent *suceso)
 
 void FormUnidadesCayley::cmdCayley_Click()
 {
-    using Operacion = ModeloCayley::Operacion;
+    using Operacion = TablaCayley::Operacion;
     const auto operacion = ui->OptOperacion_0->isChecked()   ? Operacion::ProductoDeUnidades
                            : ui->OptOperacion_1->isChecked() ? Operacion::Producto
                                                              : Operacion::Suma;
-    m_modelo->pon(0, operacion);
-    const auto n = evaluaEnteroAcotado(ui->txtNCayley->text(), 1, ModeloCayley::MayorModulo);
+    m_modelo->pon({});
+    const auto n = leeEntero(ui->txtNCayley->text(), 1, TablaCayley::MayorModulo);
     if (!n) {
         rechaza(ui->txtNCayley, ui->lblCelda,
                 Traduce(u"El módulo es un número entero de 1 a 60."_s));
         return;
     }
-    m_modelo->pon(*n, operacion);
-    muestraNeutro(ui->lblCelda, m_modelo->descripcion());
+    m_modelo->pon({*n, operacion});
+    muestraNeutro(ui->lblCelda, m_modelo->tabla().descripcion());
 }
 
 void FormUnidadesCayley::FlexCayley_CurrentChange(const QModelIndex &actual)

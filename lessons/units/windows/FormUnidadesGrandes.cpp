@@ -4,7 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/InversoGrande.h"
-#include "shell/core/EnteroGrande.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
@@ -62,9 +62,9 @@ void FormUnidadesGrandes::txtGrande_Change()
 /// The modulus that its field stands for; without one, the label tells what it has to be.
 std::optional<QString> FormUnidadesGrandes::modulo(QLabel *rotulo)
 {
-    const auto n = evaluaEnteroGrande(ui->txtNGrande->text());
-    if (n && !n->startsWith(u'-') && *n != u"0"_s && n->size() <= MayorNumeroDeCifras)
-        return n;
+    const auto n = leeEntero(ui->txtNGrande->text(), {.minimo = u"1"_s});
+    if (n && n->size() <= MayorNumeroDeCifras)
+        return *n;
     muestraVeredicto(
         rotulo, false,
         Traduce(u"El módulo n es un número entero positivo de 1000 cifras como mucho."_s));
@@ -75,8 +75,8 @@ std::optional<QString> FormUnidadesGrandes::modulo(QLabel *rotulo)
 
 std::optional<QString> FormUnidadesGrandes::elemento()
 {
-    const auto a = evaluaEnteroGrande(ui->txtAGrande->text());
-    return a && a->size() <= 2 * MayorNumeroDeCifras ? a : std::nullopt;
+    const auto a = leeEntero(ui->txtAGrande->text());
+    return a && a->size() <= 2 * MayorNumeroDeCifras ? std::optional(*a) : std::nullopt;
 }
 
 void FormUnidadesGrandes::cmdInverso_Click()
@@ -121,14 +121,14 @@ void FormUnidadesGrandes::cmdFi_Click()
         return;
     anunciaEspera();
     const auto cursor = qScopeGuard([this] { m_leccion->unsetCursor(); });
-    const QString fi = FiEuler(*n);
-    if (fi == TextoError) {
+    const auto fi = sinError(FiEuler(*n));
+    if (!fi) {
         muestraNeutro(ui->lblFi, Traduce(u"La biblioteca no encuentra todos los factores de n."_s));
         return;
     }
-    m_fi = fi;
-    ui->txtFi->setPlainText(u"φ(n) = "_s + fi);
-    muestraFi(*n, fi, Traduce(u"φ(n), según la biblioteca."_s));
+    m_fi = *fi;
+    ui->txtFi->setPlainText(u"φ(n) = "_s + *fi);
+    muestraFi(*n, *fi, Traduce(u"φ(n), según la biblioteca."_s));
 }
 
 void FormUnidadesGrandes::cmdFactores_Click()

@@ -4,8 +4,7 @@
 #include "lessons/units/ModeloPotencias.h"
 #include "lessons/units/ModeloUnidades.h"
 #include "lessons/units/ResumenUnidades.h"
-#include "shell/core/EnteroAcotado.h"
-#include "shell/core/EnteroGrande.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
@@ -67,7 +66,7 @@ void FormUnidadesGrupo::cmdUnidades_Click()
 {
     m_unidades->pon({});
     borraPotencias();
-    const auto n = evaluaEnteroAcotado(ui->txtN->text(), 1, GrupoUnidades::MayorModulo);
+    const auto n = leeEntero(ui->txtN->text(), 1, GrupoUnidades::MayorModulo);
     if (!n) {
         rechaza(ui->txtN, ui->lblResumen,
                 Traduce(u"El módulo es un número entero de 1 a 10000."_s));
@@ -83,7 +82,7 @@ void FormUnidadesGrupo::cmdPotencias_Click()
     borraPotencias();
     if (!m_unidades->grupo())
         return;
-    const auto a = evaluaEnteroGrande(ui->txtElemento->text());
+    const auto a = leeEntero(ui->txtElemento->text());
     if (!a) {
         rechaza(ui->txtElemento, ui->lblPotencias, Traduce(u"El elemento es un número entero."_s));
         return;

@@ -9,8 +9,52 @@
 #include <algorithm>
 #include <thread>
 
+#include <cstdlib>
+#include <new>
+
 using namespace bignum;
 using namespace bignum::sieve;
+
+namespace {
+
+/// Allocations that still succeed, while memory is short.
+std::atomic<int> allocationsLeft{0};
+std::atomic<bool> memoryIsShort{false};
+
+void *allocate(std::size_t size, std::size_t alignment)
+{
+    if (memoryIsShort && allocationsLeft-- <= 0)
+        throw std::bad_alloc();
+    void *memory = std::aligned_alloc(alignment, (size + alignment - 1) / alignment * alignment);
+    return memory != nullptr ? memory : throw std::bad_alloc();
+}
+
+} // namespace
+
+void *operator new(std::size_t size)
+{
+    return allocate(size, alignof(std::max_align_t));
+}
+
+void *operator new(std::size_t size, std::align_val_t alignment)
+{
+    return allocate(size, static_cast<std::size_t>(alignment));
+}
+
+void operator delete(void *memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void *memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void *memory, std::align_val_t) noexcept
+{
+    std::free(memory);
+}
 
 Q_DECLARE_METATYPE(bignum::sieve::VectorLevel)
 
@@ -90,6 +134,8 @@ private Q_SLOTS:
     void relations();
     void threads();
     void smallNumbersEnd();
+    void memoryRunsOut_data();
+    void memoryRunsOut();
     void stops_data();
     void stops();
 };
@@ -279,6 +325,28 @@ void TestSieving::smallNumbersEnd()
     RelationCollector collector(plan);
     QVERIFY(collector.collect(store, 1000000, StopSignal(Deadline(60s)), 2) ==
             CollectOutcome::Exhausted);
+}
+
+void TestSieving::memoryRunsOut_data()
+{
+    QTest::addColumn<int>("allocations");
+    for (const int allocations : {0, 1, 4, 16, 64, 300, 1500, 6000})
+        QTest::addRow("after %d", allocations) << allocations;
+}
+
+/// On whatever thread and wherever it happens.
+void TestSieving::memoryRunsOut()
+{
+    QFETCH(int, allocations);
+    const Plan plan(semiprime(140, 8));
+    RelationStore store(plan.n);
+    RelationCollector collector(plan);
+    const StopSignal stop(Deadline(60s));
+    allocationsLeft = allocations;
+    memoryIsShort = true;
+    const CollectOutcome outcome = collector.collect(store, plan.base.size(), stop, 2);
+    memoryIsShort = false;
+    QVERIFY(outcome == CollectOutcome::OutOfMemory);
 }
 
 void TestSieving::stops_data()

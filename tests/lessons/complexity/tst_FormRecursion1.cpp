@@ -12,7 +12,6 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QTableView>
-#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,7 +37,7 @@ private Q_SLOTS:
 
     void medidas()
     {
-        mide(u"7+7"_s);
+        mideHastaElFinal(u"7+7"_s);
         QCOMPARE(filas(u"FlexMedidas"_s), 14);
         QCOMPARE(celda(u"FlexMedidas"_s, 13, 1), u"377"_s);
         QCOMPARE(celda(u"FlexMedidas"_s, 13, 2), u"1.219"_s);
@@ -53,7 +52,7 @@ private Q_SLOTS:
             QTest::keyClick(grafica, Qt::Key_Right);
         QCOMPARE(texto(u"lblPunto"_s), u"n = 14: 1.219 llamadas"_s);
         // Too few points for a fit.
-        mide(u"5"_s);
+        mideHastaElFinal(u"5"_s);
         QVERIFY(texto(u"lblAjuste"_s).contains(u"tres puntos"_s));
     }
 
@@ -81,27 +80,56 @@ private Q_SLOTS:
 
     void seDetiene()
     {
-        QTimer::singleShot(100, m_ventana.get(), [this] {
-            QCOMPARE(boton(u"cmdMedir"_s)->toolTip(), u"Detener cálculo"_s);
-            // The key that stops every run.
-            QTest::keyClick(boton(u"cmdMedir"_s), Qt::Key_Escape);
-        });
         mide(u"45"_s);
-        QVERIFY(filas(u"FlexMedidas"_s) < 45);
-        QVERIFY(texto(u"lblAvance"_s).startsWith(u"Detenido"_s));
+        QTRY_VERIFY(filas(u"FlexMedidas"_s) > 2);
+        QCOMPARE(boton(u"cmdMedir"_s)->toolTip(), u"Detener cálculo"_s);
+        // The key that stops every run.
+        QTest::keyClick(boton(u"cmdMedir"_s), Qt::Key_Escape);
         QCOMPARE(boton(u"cmdMedir"_s)->toolTip(), u"Calcular"_s);
-        mide(u"4"_s);
+        QTRY_VERIFY(texto(u"lblAvance"_s).startsWith(u"Detenido"_s));
+        QVERIFY(filas(u"FlexMedidas"_s) < 45);
+        mideHastaElFinal(u"4"_s);
         QCOMPARE(filas(u"FlexMedidas"_s), 4);
     }
 
+    /// Started again and stopped at once: no mark is left on the plot whose row is gone.
+    void otraMedidaSeLlevaLaGrafica()
+    {
+        auto *grafica = control<Grafica>(m_ventana.get(), u"PicCrecimiento"_s);
+        mideHastaElFinal(u"5"_s);
+        QTest::keyClick(grafica, Qt::Key_Right);
+        QVERIFY(!texto(u"lblPunto"_s).isEmpty());
+        pulsa(u"cmdMedir"_s);
+        pulsa(u"cmdMedir"_s);
+        QTest::keyClick(grafica, Qt::Key_Left);
+        QTest::keyClick(grafica, Qt::Key_Right);
+        QCOMPARE(texto(u"lblPunto"_s), QString());
+        // The measuring that was stopped says so, and one that took over shows itself alone.
+        QTRY_COMPARE(texto(u"lblAvance"_s), u"Detenido en n = 1"_s);
+        pulsa(u"cmdMedir"_s);
+        pulsa(u"cmdMedir"_s);
+        mideHastaElFinal(u"3"_s);
+        QTest::qWait(50);
+        QCOMPARE(filas(u"FlexMedidas"_s), 3);
+        QCOMPARE(texto(u"lblAvance"_s), QString());
+    }
+
+    void seCierraDurante_data()
+    {
+        QTest::addColumn<int>("tras");
+        QTest::newRow("behind the click") << 0;
+        QTest::newRow("later") << 60;
+    }
     void seCierraDurante()
     {
+        QFETCH(int, tras);
         auto *ventana = new FormRecursión1;
         QPointer<QWidget> viva(ventana);
         ventana->show();
         control<QLineEdit>(ventana, u"TxtHasta"_s)->setText(u"45"_s);
-        QTimer::singleShot(60, ventana, &QWidget::close);
         control<QPushButton>(ventana, u"cmdMedir"_s)->click();
+        QTest::qWait(tras);
+        ventana->cierra();
         QTRY_VERIFY(viva.isNull());
     }
 
@@ -206,6 +234,11 @@ private:
         return control<QPushButton>(m_ventana.get(), nombre);
     }
     void pulsa(const QString &nombre) { boton(nombre)->click(); }
+    void mideHastaElFinal(const QString &hasta)
+    {
+        mide(hasta);
+        QTRY_COMPARE(boton(u"cmdMedir"_s)->toolTip(), u"Calcular"_s);
+    }
     void mide(const QString &hasta)
     {
         control<QLineEdit>(m_ventana.get(), u"TxtHasta"_s)->setText(hasta);

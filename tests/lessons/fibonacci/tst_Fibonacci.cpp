@@ -12,6 +12,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+Q_DECLARE_METATYPE(Esfuerzo)
 Q_DECLARE_METATYPE(FalloZeckendorf)
 Q_DECLARE_METATYPE(MetodoFibonacci)
 
@@ -23,73 +24,60 @@ class TestFibonacci : public QObject
 private Q_SLOTS:
     void initTestCase() { Entorno::limpia(); }
 
-    /// The function of the expression language goes another way than any of the three methods.
-    void losTresMetodosCoinciden_data()
-    {
-        QTest::addColumn<MetodoFibonacci>("metodo");
-        QTest::addColumn<QList<int>>("indices");
-        const QList<int> grandes{0, 1, 2, 3, 4, 7, 8, 31, 32, 33, 93, 94, 255, 256, 1000, 4095};
-        QTest::newRow("definition")
-            << MetodoFibonacci::Definicion << QList<int>{0, 1, 2, 3, 10, 25};
-        QTest::newRow("iteration") << MetodoFibonacci::Iteracion << grandes;
-        QTest::newRow("doubling") << MetodoFibonacci::Duplicacion
-                                  << (grandes + QList<int>{100'000, 117'591, 117'592});
-    }
-    void losTresMetodosCoinciden()
-    {
-        QFETCH(MetodoFibonacci, metodo);
-        QFETCH(QList<int>, indices);
-        Corrida corrida(nullptr);
-        for (const int n : indices) {
-            CalculoFibonacci calculo;
-            QCOMPARE(calculo.calcula(metodo, n, corrida), Evalua(u"fib(%1)"_s.arg(n)));
-        }
-    }
-
-    void esfuerzo_data()
+    /// The methods on numbers are tested with the library; here, that each is the one it says, what
+    /// it costs, and the border of the definition between what is done at one go and what yields.
+    void metodos_data()
     {
         QTest::addColumn<MetodoFibonacci>("metodo");
         QTest::addColumn<int>("n");
-        QTest::addColumn<qint64>("llamadas");
-        QTest::addColumn<qint64>("sumas");
-        QTest::addColumn<qint64>("productos");
+        QTest::addColumn<Esfuerzo>("esfuerzo");
+        const auto definicion = MetodoFibonacci::Definicion;
         // 2 F(n+1) - 1 calls, F(n+1) - 1 additions.
-        QTest::newRow("definition")
-            << MetodoFibonacci::Definicion << 20 << qint64{21891} << qint64{10945} << qint64{0};
-        QTest::newRow("iteration")
-            << MetodoFibonacci::Iteracion << 20 << qint64{0} << qint64{19} << qint64{0};
+        QTest::newRow("definition, 0") << definicion << 0 << Esfuerzo{1, 0, 0};
+        QTest::newRow("definition, 1") << definicion << 1 << Esfuerzo{1, 0, 0};
+        QTest::newRow("definition, 2") << definicion << 2 << Esfuerzo{3, 1, 0};
+        QTest::newRow("definition, 24") << definicion << 24 << Esfuerzo{150'049, 75'024, 0};
+        QTest::newRow("definition, 25") << definicion << 25 << Esfuerzo{242'785, 121'392, 0};
+        QTest::newRow("definition, 27") << definicion << 27 << Esfuerzo{635'621, 317'810, 0};
+        QTest::newRow("iteration") << MetodoFibonacci::Iteracion << 20 << Esfuerzo{0, 19, 0};
+        QTest::newRow("largest") << MetodoFibonacci::Iteracion << cotaDe(MetodoFibonacci::Iteracion)
+                                 << Esfuerzo{0, 117'591, 0};
         // 20 is 10100 in binary: five steps, two of them with one addition more.
-        QTest::newRow("doubling") << MetodoFibonacci::Duplicacion << 20 << qint64{0} << qint64{17}
-                                  << qint64{15};
+        QTest::newRow("doubling") << MetodoFibonacci::Duplicacion << 20 << Esfuerzo{0, 17, 15};
     }
-    void esfuerzo()
+    void metodos()
     {
         QFETCH(MetodoFibonacci, metodo);
         QFETCH(int, n);
-        Corrida corrida(nullptr);
         CalculoFibonacci calculo;
-        // The second computation counts from zero.
-        calculo.calcula(metodo, n, corrida);
-        calculo.calcula(metodo, n, corrida);
-        QTEST(calculo.esfuerzo().llamadas, "llamadas");
-        QTEST(calculo.esfuerzo().sumas, "sumas");
-        QTEST(calculo.esfuerzo().productos, "productos");
+        const FibonacciMedido medido = calculo.calcula(metodo, n, {}).completa();
+        QCOMPARE(medido.valor, Evalua(u"fib(%1)"_s.arg(n)));
+        QTEST(medido.esfuerzo, "esfuerzo");
+        QVERIFY(medido.nanosegundos > 0);
     }
 
-    void unCalculoDetenido_data()
+    /// The same for a small number and for a large one: the recursion, cold or warm, takes less
+    /// than a microsecond for F(2), and as numbers grow the additions of the iteration take far
+    /// longer.
+    void losTiemposSonLosDeLosNumeros()
     {
-        QTest::addColumn<MetodoFibonacci>("metodo");
-        QTest::newRow("definition") << MetodoFibonacci::Definicion;
-        QTest::newRow("iteration") << MetodoFibonacci::Iteracion;
+        const auto tarda = [](MetodoFibonacci metodo, int n) {
+            return CalculoFibonacci().calcula(metodo, n, {}).completa().nanosegundos;
+        };
+        QVERIFY(tarda(MetodoFibonacci::Definicion, 2) < 1'000);
+        const double iteracion = tarda(MetodoFibonacci::Iteracion, 20'000);
+        QVERIFY(iteracion > 10 * tarda(MetodoFibonacci::Duplicacion, 20'000));
     }
+
     void unCalculoDetenido()
     {
-        QFETCH(MetodoFibonacci, metodo);
-        Corrida *esta = nullptr;
-        Corrida corrida([&esta] { esta->detener(); });
-        esta = &corrida;
-        CalculoFibonacci calculo;
-        QCOMPARE(calculo.calcula(metodo, cotaDe(metodo), corrida), QString());
+        const auto parada = std::make_shared<Parada>();
+        const Billete billete(parada, nullptr);
+        parada->detener();
+        for (const auto metodo : {MetodoFibonacci::Definicion, MetodoFibonacci::Iteracion}) {
+            CalculoFibonacci calculo;
+            QCOMPARE(calculo.calcula(metodo, cotaDe(metodo), billete).completa().valor, QString());
+        }
     }
 
     void cocientes()

@@ -13,7 +13,6 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTableView>
-#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -78,19 +77,23 @@ private Q_SLOTS:
     void seDetiene()
     {
         control<QRadioButton>(m_ventana.get(), u"optMetodo_0"_s)->click();
-        bool enMarcha = false;
-        QTimer::singleShot(60, m_ventana.get(), [&] {
-            enMarcha = m_ventana->corrida().enCurso();
-            QCOMPARE(boton(u"cmdCalcular"_s)->toolTip(), u"Detener cálculo"_s);
-            pulsa(u"cmdCalcular"_s);
-        });
-        calcula(u"50"_s);
-        QVERIFY(enMarcha);
+        escribe(u"TxtN"_s, u"50"_s);
+        pulsa(u"cmdCalcular"_s);
+        QCOMPARE(boton(u"cmdCalcular"_s)->toolTip(), u"Detener cálculo"_s);
+        QTRY_VERIFY(texto(u"lblCifras"_s).startsWith(u"Calculando… Llamadas: "_s));
+        pulsa(u"cmdCalcular"_s);
         QCOMPARE(boton(u"cmdCalcular"_s)->toolTip(), u"Calcular"_s);
-        QCOMPARE(columna(u"FlexComparacion"_s, 5), u"detenido"_s);
+        QTRY_COMPARE(columna(u"FlexComparacion"_s, 5), u"detenido"_s);
+        QCOMPARE(texto(u"lblCifras"_s), u"Cálculo detenido"_s);
         QCOMPARE(largo(u"txtValor"_s), QString());
+        // Stop and start again: the first run, which has not seen the stop yet, shows nothing.
+        escribe(u"TxtN"_s, u"50"_s);
+        pulsa(u"cmdCalcular"_s);
+        pulsa(u"cmdCalcular"_s);
         calcula(u"10"_s);
+        QTest::qWait(30);
         QCOMPARE(largo(u"txtValor"_s), u"55"_s);
+        QCOMPARE(columna(u"FlexComparacion"_s, 0), u"50|10"_s);
     }
 
     void seCierraDurante()
@@ -100,9 +103,41 @@ private Q_SLOTS:
         ventana->show();
         control<QRadioButton>(ventana, u"optMetodo_0"_s)->click();
         control<QLineEdit>(ventana, u"TxtN"_s)->setText(u"50"_s);
-        QTimer::singleShot(60, ventana, &QWidget::close);
         control<QPushButton>(ventana, u"cmdCalcular"_s)->click();
+        QTest::qWait(20);
+        ventana->cierra();
         QTRY_VERIFY(viva.isNull());
+    }
+
+    /// What is shown belongs to what stands in the fields, whether it was refused or only edited.
+    void otroNumeroSeLlevaLoDeAntes_data()
+    {
+        QTest::addColumn<QString>("campo");
+        QTest::addColumn<QString>("boton");
+        QTest::addColumn<QString>("rejilla");
+        QTest::newRow("values") << u"TxtN"_s << u"cmdCalcular"_s << QString();
+        QTest::newRow("golden ratio") << u"TxtHasta"_s << u"cmdAureo"_s << u"FlexCocientes"_s;
+        QTest::newRow("m") << u"TxtIndiceM"_s << u"cmdProbar"_s << u"FlexIdentidades"_s;
+        QTest::newRow("n") << u"TxtIndiceN"_s << u"cmdProbar"_s << u"FlexIdentidades"_s;
+    }
+    void otroNumeroSeLlevaLoDeAntes()
+    {
+        QFETCH(QString, campo);
+        QFETCH(QString, boton);
+        QFETCH(QString, rejilla);
+        const auto hayAlgo = [&] {
+            return rejilla.isEmpty() ? !largo(u"txtValor"_s).isEmpty() : filas(rejilla) > 0;
+        };
+        escribe(campo, u"12"_s);
+        pulsa(boton);
+        QTRY_VERIFY(hayAlgo());
+        escribe(campo, u"-1"_s);
+        QVERIFY(!hayAlgo());
+        QCOMPARE(largo(u"txtIzquierda"_s) + texto(u"lblCifras"_s), QString());
+        pulsa(boton);
+        QVERIFY(!hayAlgo());
+        // Nothing is left to point at.
+        QTest::keyClick(control<Grafica>(m_ventana.get(), u"PicError"_s), Qt::Key_Right);
     }
 
     void numeroAureo()
@@ -123,7 +158,6 @@ private Q_SLOTS:
         escribe(u"TxtHasta"_s, u"501"_s);
         pulsa(u"cmdAureo"_s);
         QCOMPARE(Entorno::grabadora().unico().texto, u"El mayor número permitido es 500"_s);
-        QCOMPARE(filas(u"FlexCocientes"_s), 12);
     }
 
     void zeckendorfPasoAPaso()
@@ -165,7 +199,6 @@ private Q_SLOTS:
         escribe(u"TxtIndiceN"_s, u"0"_s);
         pulsa(u"cmdProbar"_s);
         QCOMPARE(m_ventana->focusWidget(), control<QLineEdit>(m_ventana.get(), u"TxtIndiceN"_s));
-        QCOMPARE(filas(u"FlexIdentidades"_s), 5);
     }
 
     void cuestiones()
@@ -210,6 +243,7 @@ private:
     {
         escribe(u"TxtN"_s, n);
         pulsa(u"cmdCalcular"_s);
+        QTRY_COMPARE(boton(u"cmdCalcular"_s)->toolTip(), u"Calcular"_s);
     }
 
     QString texto(const QString &rotulo) const

@@ -4,6 +4,7 @@
 #include "lessons/primes/TablaDeFactores.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <QTest>
 #include <random>
 
@@ -152,7 +153,7 @@ private Q_SLOTS:
             QTest::newRow(nombre) << tabla << producto << frase;
         };
         const QList<FilaDeFactor> cuatroYTres{{u"2"_s, u"2"_s}, {u"3"_s, u"1"_s}};
-        const QList<FilaDeFactor> sieteYOtro{{u"7"_s, u"1"_s}, {u"1155"_s, u"12"_s}};
+        const QList<FilaDeFactor> sieteYOtro{{u"7"_s, u"1"_s}, {u"1155"_s, u"12"_s, false}};
         fila("complete", {u"12"_s, cuatroYTres}, u"2² · 3"_s, u"Factores primos de 12."_s);
         fila("prime", {u"97"_s, {{u"97"_s, u"1"_s}}}, u"97"_s, u"97: el único factor es primo."_s);
         fila("one", {u"1"_s}, {}, u"1 no tiene factores primos."_s);
@@ -163,7 +164,7 @@ private Q_SLOTS:
              u"Detenida. De 97 falta por descomponer 97."_s);
         fila("composite left", {QString(99, u'1'), sieteYOtro, T::QuedaCompuesto},
              u"7 · (1155)¹²"_s,
-             u"Factores de 111111…111111 (99 cifras). El último, en rojo, es compuesto y no se ha "
+             u"Factores de 111111…111111 (99 cifras). Lo que está en rojo es compuesto y no se ha "
              u"podido descomponer."_s);
         fila("fraction", {u"25/2"_s, {}, T::NoEsEntero}, {},
              u"25/2 no es un número entero: no tiene factores primos."_s);
@@ -210,6 +211,29 @@ private Q_SLOTS:
         const TablaDeFactores tabla = factorizaGrande(Evalua(producto));
         QCOMPARE(tabla.desenlace, TablaDeFactores::Completa);
         QCOMPARE(tabla.filas.size(), 168);
+    }
+
+    /// By what each factor of a number was found, which the student reads below it.
+    void hallazgos_data()
+    {
+        QTest::addColumn<QString>("expresion");
+        QTest::addColumn<QString>("forma");
+        QTest::newRow("none") << u"97"_s << u".*"_s;
+        QTest::newRow("division") << u"2^10*3"_s << u"(Hallado por división: .*\\.;?){2}"_s;
+        QTest::newRow("sieve, two primes of 25 digits")
+            << u"sigprimo(3*10^24)*sigprimo(7*10^24)"_s
+            << u"(Hallado por (la criba cuadrática: [\\d.]+ relaciones|la curva elíptica .*), "
+               u"?.*s\\.;?){2}"_s;
+    }
+    void hallazgos()
+    {
+        QFETCH(QString, expresion);
+        QFETCH(QString, forma);
+        QStringList hallazgos;
+        for (const FilaDeFactor &fila : factorizaGrande(Evalua(expresion)).filas)
+            hallazgos << fila.hallazgo;
+        const QRegularExpression entera(QRegularExpression::anchoredPattern(forma));
+        QVERIFY2(entera.match(hallazgos.join(u';')).hasMatch(), qPrintable(hallazgos.join(u';')));
     }
 
     void loQueNoEsEnteroNoTieneFactores()

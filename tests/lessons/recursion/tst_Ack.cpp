@@ -1,6 +1,5 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/recursion/functions/Ack.h"
-#include "lessons/recursion/functions/EnteroDeTexto.h"
 #include "lessons/recursion/functions/windows/ModeloAck.h"
 #include "tests/lessons/recursion/Detenida.h"
 #include "tests/shell/support/Entorno.h"
@@ -207,33 +206,26 @@ private Q_SLOTS:
         QVERIFY(memoria->escrita(4, 2) && memoria->lee(4, 2) == 0);
     }
 
-    void numerosSueltos_data()
+    void losCampos()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<int>("valor");
-        QTest::addColumn<int>("numero");
-        QTest::newRow("plain") << u"5000"_s << 5000 << 0;
-        QTest::newRow("blanks") << u" 7 "_s << 7 << 0;
-        QTest::newRow("half to even, down") << u"2,5"_s << 2 << 0;
-        QTest::newRow("half to even, up") << u"3.5"_s << 4 << 0;
-        QTest::newRow("exponent") << u"1,5e3"_s << 1500 << 0;
-        QTest::newRow("letters") << u"abc"_s << 0 << 13;
-        QTest::newRow("expression") << u"2*3"_s << 0 << 13;
-        QTest::newRow("empty") << QString() << 0 << 13;
-        QTest::newRow("beyond 32 bits") << u"3000000000"_s << 0 << 6;
-        QTest::newRow("beyond fixed point") << u"1e300"_s << 0 << 6;
-    }
-    void numerosSueltos()
-    {
-        QFETCH(QString, texto);
-        int valor = 0, numero = 0;
-        try {
-            valor = enteroDeTexto(texto, u"x"_s);
-        } catch (const ErrorEjecucion &error) {
-            numero = error.numero();
+        const QList<std::pair<QString, int>> numeros{
+            {u"5000"_s, 5000}, {u" 7 "_s, 7}, {u"2,5"_s, 2}, {u"3.5"_s, 4}, {u"1,5e3"_s, 1500}};
+        for (const auto &[texto, valor] : numeros)
+            QCOMPARE(enteroDeTexto(texto, u"x"_s), valor);
+        const QList<std::pair<QString, int>> errores{
+            {u"abc"_s, ErrorEjecucion::TipoNoCoincide},
+            {u"2*3"_s, ErrorEjecucion::TipoNoCoincide},
+            {{}, ErrorEjecucion::TipoNoCoincide},
+            {u"3000000000"_s, ErrorEjecucion::Desbordamiento},
+            {u"1e300"_s, ErrorEjecucion::Desbordamiento}};
+        for (const auto &[texto, numero] : errores) {
+            try {
+                enteroDeTexto(texto, u"x"_s);
+                QFAIL(qPrintable(texto));
+            } catch (const ErrorEjecucion &error) {
+                QCOMPARE(int(error.numero()), numero);
+            }
         }
-        QTEST(valor, "valor");
-        QTEST(numero, "numero");
     }
 
     void laTablaDeAck()

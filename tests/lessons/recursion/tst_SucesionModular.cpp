@@ -133,42 +133,16 @@ private Q_SLOTS:
 
     void moduloCero() { QCOMPARE(SucesionModular(definicion(1, 1, 1, 1), 0).valor(1), 0); }
 
-    /// What a field takes, and what is said of anything else; only beyond the range of fixed-point
-    /// numbers there is a box as well.
-    void elModulo_data()
+    /// Bounds of the two kinds of field; only beyond fixed-point numbers there is a box as well.
+    void losCampos()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<QString>("leido");
-        const QString menor = u"El menor número permitido es 1."_s;
-        const QString incalculable = u"Lo escrito no es una expresión que se pueda calcular."_s;
-        const auto mayor = [](const QString &n) {
-            return u"El mayor número permitido es %1."_s.arg(n);
-        };
-        QTest::newRow("expression") << u"7*13"_s << u"91"_s;
-        QTest::newRow("with mod") << u"100 mod 7"_s << u"2"_s;
-        QTest::newRow("least") << u"1"_s << u"1"_s;
-        QTest::newRow("zero") << u"0"_s << menor;
-        QTest::newRow("negative") << u"-10^300"_s << menor;
-        QTest::newRow("fraction") << u"7/2"_s << u"El valor escrito no es un número entero."_s;
-        QTest::newRow("empty") << u" "_s << u"Escriba un número entero."_s;
-        QTest::newRow("letters") << u"abc"_s << incalculable;
-        QTest::newRow("largest") << u"2^31-1"_s << u"2147483647"_s;
-        QTest::newRow("beyond 32 bits") << u"2^31"_s << mayor(u"2.147.483.647"_s);
-        QTest::newRow("beyond the bound") << u"10^300"_s << mayor(u"922.337.203.685.477"_s);
-    }
-    void elModulo()
-    {
-        QFETCH(QString, texto);
-        const auto modulo = leeModulo(texto);
-        QTEST(modulo ? QString::number(*modulo) : modulo.razon().frase(), "leido");
-        const bool aviso =
-            !modulo && modulo.razon() == NoLeido{NoLeido::Mayor, u"922337203685477"_s};
-        QCOMPARE(Entorno::grabadora().mensajes.size(), aviso ? 1 : 0);
-        Entorno::grabadora().mensajes.clear();
-    }
-
-    void losCoeficientes()
-    {
+        QCOMPARE(*leeModulo(u"2^31-1"_s), INT_MAX);
+        QCOMPARE(*leeModulo(u"100 mod 7"_s), 2);
+        QCOMPARE(leeModulo(u"0"_s).razon(), (NoLeido{NoLeido::Menor, u"1"_s}));
+        QCOMPARE(leeModulo(u"2^31"_s).razon(), (NoLeido{NoLeido::Mayor, u"2147483647"_s}));
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        QCOMPARE(leeModulo(u"10^300"_s).razon().cota, u"922337203685477"_s);
+        QCOMPARE(Entorno::grabadora().unico().titulo, u"Número demasiado grande"_s);
         QCOMPARE(*leeCoeficiente(u"-922337203685477"_s), Moneda::deEntero(-Moneda::MaximoEntero));
         QCOMPARE(leeCoeficiente(u"-922337203685478"_s).razon().motivo, NoLeido::Menor);
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, leeCoeficiente(u"mod 5"_s));

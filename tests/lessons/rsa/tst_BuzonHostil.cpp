@@ -1,8 +1,7 @@
 #include "lessons/rsa/mailbox/ArchivoMensaje.h"
-#include "lessons/rsa/mailbox/Borrador.h"
 #include "lessons/rsa/mailbox/Buzon.h"
-#include "lessons/rsa/mailbox/CarpetaBuzon.h"
 #include "lessons/rsa/mailbox/ColMensajes.h"
+#include "shell/core/system/ArchivoProvisional.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
 #include <QProcess>
@@ -72,8 +71,7 @@ private Q_SLOTS:
         m_yo->escribe(u"ana/RSA2.msg"_s, "luis\r\nbueno\r\n1\r\n");
         m_yo->escribe(u"fuera.txt"_s, "secreto\r\nsecreto\r\n");
         prepara(que);
-        ColMensajes mensajes;
-        const int ilegibles = revisaBuzon(m_yo->buzon(), mensajes, m_corrida);
+        const auto [mensajes, ilegibles] = revisa();
         QCOMPARE(ilegibles, que == u"folder"_s || que == u"link for a folder"_s ? 0 : 1);
         QCOMPARE(mensajes.Count(), 1);
         QCOMPARE(mensajes.Item(1).Asunto(), u"bueno"_s);
@@ -120,8 +118,8 @@ private Q_SLOTS:
         QCOMPARE(::truncate(qPrintable(ruta), 5'000'000'000), 0);
         m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=33\r\n");
         QCOMPARE(::truncate(qPrintable(m_yo->enBuzon(u"ana/Clave.RSA"_s)), 5'000'000'000), 0);
-        ColMensajes mensajes;
-        QCOMPARE(revisaBuzon(m_yo->buzon(), mensajes, m_corrida), 0);
+        const auto [mensajes, ilegibles] = revisa();
+        QCOMPARE(ilegibles, 0);
         QCOMPARE(mensajes.Item(1).Asunto(), u"enorme"_s);
         QCOMPARE(numeroDeError([&] { leeMensaje(mensajes.Item(1).NombreFichero()); }),
                  int(ErrorEjecucion::ErrorDeArchivo));
@@ -165,12 +163,10 @@ private Q_SLOTS:
         for (int i = 0; i < 2000; ++i)
             m_yo->escribe(u"u%1/RSA%2.msg"_s.arg(i % 20).arg(i), "luis\r\nx\r\n");
         const std::jthread verdugo([this] { QDir(m_yo->buzon()).removeRecursively(); });
-        ColMensajes mensajes;
         int error = 0;
         while (error == 0)
-            error = numeroDeError([&] { revisaBuzon(m_yo->buzon(), mensajes, m_corrida); });
+            error = numeroDeError([&] { revisa(); });
         QCOMPARE(error, int(ErrorEjecucion::RutaNoEncontrada));
-        QCOMPARE(mensajes.Count(), 0);
     }
 
     void nombresRaros()
@@ -180,8 +176,8 @@ private Q_SLOTS:
         m_yo->escribe(u"<b>ana\u202E/RSA1.msg"_s, "luis\r\nbueno\r\n");
         const QByteArray sinTexto = QFile::encodeName(m_yo->enBuzon(u"x"_s)) + "\xFF\xFE";
         QCOMPARE(::mkdir(sinTexto.constData(), 0700), 0);
-        ColMensajes mensajes;
-        QCOMPARE(revisaBuzon(m_yo->buzon(), mensajes, m_corrida), 0);
+        const auto [mensajes, ilegibles] = revisa();
+        QCOMPARE(ilegibles, 0);
         QCOMPARE(mensajes.Count(), 1);
         QCOMPARE(mensajes.Item(1).Destinatario(), u"<b>ana\u202E"_s);
         ::rmdir(sinTexto.constData()); // which the temporary folder could not
@@ -190,15 +186,43 @@ private Q_SLOTS:
     void unBorradorNoReemplazaNada()
     {
         m_yo->escribe(u"ana/RSA1.msg"_s, "primero");
-        const CarpetaBuzon carpeta = CarpetaBuzon(m_yo->buzon()).subcarpeta(u"ana"_s);
+        const CarpetaCompartida carpeta = CarpetaCompartida(m_yo->buzon()).subcarpeta(u"ana"_s);
         {
-            Borrador borrador(carpeta, "segundo");
+            ArchivoProvisional borrador(carpeta, "segundo");
             QVERIFY(!borrador.nombraSiLibre(u"RSA1.msg"_s));
             QVERIFY(borrador.nombraSiLibre(u"RSA2.msg"_s));
         }
         QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"ana/RSA1.msg"_s)), "primero"_ba);
         QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"ana/RSA2.msg"_s)), "segundo"_ba);
         QCOMPARE(QDir(m_yo->enBuzon(u"ana"_s)).entryList(QDir::Files | QDir::Hidden).size(), 2);
+    }
+
+    /// Of those that nobody named, the old ones are swept by who writes there next.
+    void loQueDejaUnProgramaMuerto()
+    {
+        const auto hace = [this](const QString &nombre, int horas) {
+            m_yo->escribe(u"ana/"_s + nombre, "medio");
+            QFile archivo(m_yo->enBuzon(u"ana/"_s + nombre));
+            QVERIFY(archivo.open(QIODevice::ReadWrite));
+            archivo.setFileTime(QDateTime::currentDateTime().addSecs(-3600 * horas),
+                                QFileDevice::FileModificationTime);
+        };
+        hace(u".numora-1f.tmp"_s, 23);
+        hace(u".numora-2f.tmp"_s, 25);
+        hace(u"otro.tmp"_s, 25);
+        dejaMensaje(m_yo->buzon(), u"ana"_s, "x");
+        QCOMPARE(QDir(m_yo->enBuzon(u"ana"_s)).entryList(QDir::Files | QDir::Hidden).join(u' '),
+                 u".numora-1f.tmp otro.tmp RSA1.msg"_s);
+    }
+
+    void hastaElLimiteYNoMas()
+    {
+        m_yo->escribe(u"ana/justo"_s, QByteArray(100, 'x'));
+        m_yo->escribe(u"ana/uno mas"_s, QByteArray(101, 'x'));
+        const CarpetaCompartida carpeta = CarpetaCompartida(m_yo->buzon()).subcarpeta(u"ana"_s);
+        QCOMPARE(carpeta.lee(u"justo"_s, 100).size(), 100);
+        QCOMPARE(numeroDeError([&] { carpeta.lee(u"uno mas"_s, 100); }),
+                 int(ErrorEjecucion::ErrorDeArchivo));
     }
 
     /// What is made in a shared mailbox is as open as the mailbox, whatever the account's mask.
@@ -224,10 +248,9 @@ private Q_SLOTS:
             remitentes.push_back(std::move(proceso));
         }
         // A reader at work meanwhile never meets half a message.
-        ColMensajes mensajes;
         while (!remitentes.front()->waitForFinished(200)) {
-            if (QFile::exists(m_yo->enBuzon(u"ana"_s)))
-                QCOMPARE(revisaBuzon(m_yo->buzon(), mensajes, m_corrida), 0);
+            const auto [mensajes, ilegibles] = revisa();
+            QCOMPARE(ilegibles, 0);
             if (mensajes.Count() > 0)
                 QVERIFY(estaEntero(mensajes.Item(mensajes.Count())));
         }
@@ -238,13 +261,15 @@ private Q_SLOTS:
         const QDir carpeta(m_yo->enBuzon(u"ana"_s));
         QCOMPARE(carpeta.entryList(QDir::Files | QDir::Hidden).size(), procesos * cada);
         QVERIFY(carpeta.exists(u"RSABB8.msg"_s)); // 3000: no number was left out
-        revisaBuzon(m_yo->buzon(), mensajes, m_corrida);
+        const ColMensajes mensajes = revisa().mensajes;
         QCOMPARE(mensajes.Count(), procesos * cada);
         for (const auto &mensaje : mensajes)
             QVERIFY2(estaEntero(*mensaje), qPrintable(mensaje->NombreFichero()));
     }
 
 private:
+    RevisionDeBuzon revisa() const { return revisaBuzon(m_yo->buzon(), {}).completa(); }
+
     void enlaza(const QString &destino, const QString &nombre) const
     {
         QDir().mkpath(QFileInfo(m_yo->enBuzon(nombre)).absolutePath());
@@ -286,13 +311,13 @@ private:
 
     static bool estaEntero(const clsMensaje &mensaje)
     {
-        const auto contenido = ArchivoMensaje::interpreta(leeMensaje(mensaje.NombreFichero()));
+        const auto contenido =
+            ArchivoMensaje::interpreta(leeMensaje(mensaje.NombreFichero()), {}).completa();
         return contenido.asunto == mensaje.Asunto() && contenido.bloques.size() == 500 &&
                contenido.bloques.constLast() == QString(20, u'7');
     }
 
     std::unique_ptr<Estudiante> m_yo;
-    Corrida m_corrida{Corrida::Cesion{}};
 };
 
 NUMORA_TEST_MAIN(TestBuzonHostil)

@@ -1,8 +1,8 @@
 #include "bignum/gateway/ModBignum.h"
 #include "bignum/gateway/Windows1252.h"
 #include "lessons/rsa/key/ClsRSA.h"
-#include "lessons/rsa/key/Entero16.h"
 #include "lessons/rsa/key/TextoEnBloques.h"
+#include "shell/core/run/Tareas.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -219,9 +219,9 @@ private Q_SLOTS:
         pon(clave[0], clave[1], clave[2], static_cast<std::int16_t>(clave[3].toInt()));
         m_clave->Valida();
         QVERIFY(m_clave->ClaveOK());
-        const QStringList bloques = m_clave->Codifica(texto, m_corrida);
+        const QStringList bloques = m_clave->Codifica(texto, {}).completa();
         QTEST(bloques, "bloques");
-        QTEST(m_clave->DesCodifica(bloques, m_corrida), "vuelta");
+        QTEST(m_clave->DesCodifica(bloques, {}).completa(), "vuelta");
     }
 
     void idaYVuelta_data()
@@ -244,7 +244,7 @@ private Q_SLOTS:
             bytes += static_cast<char>(codigo);
         const qsizetype relleno = (r - bytes.size() % r) % r;
         const QString texto = deWindows1252(bytes);
-        const QStringList bloques = m_clave->Codifica(texto, m_corrida);
+        const QStringList bloques = m_clave->Codifica(texto, {}).completa();
         QCOMPARE(bloques.size(), (bytes.size() + relleno) / r);
         // A number has no leading zeros, so that NULs at the front of a block are lost, but for one
         // that stands alone.
@@ -256,18 +256,19 @@ private Q_SLOTS:
                 ++ceros;
             esperado += QStringView(completo).sliced(i + ceros, r - ceros);
         }
-        QCOMPARE(m_clave->DesCodifica(bloques, m_corrida), esperado);
+        QCOMPARE(m_clave->DesCodifica(bloques, {}).completa(), esperado);
     }
 
     void bloquesQueFallan()
     {
         pon(u"257"_s, u"263"_s, u"5"_s);
         m_clave->Valida();
-        QCOMPARE(m_clave->DesCodifica({u"57666"_s, u"Error"_s, {}, u"-"_s, u"43715"_s}, m_corrida),
-                 u"HO"_s);
+        QCOMPARE(
+            m_clave->DesCodifica({u"57666"_s, u"Error"_s, {}, u"-"_s, u"43715"_s}, {}).completa(),
+            u"HO"_s);
         m_clave->ponq(0, {});
-        QCOMPARE(m_clave->Codifica(u"ab"_s, m_corrida), QStringList({u"Error"_s, u"Error"_s}));
-        QCOMPARE(m_clave->DesCodifica({u"57666"_s}, m_corrida), QString());
+        QCOMPARE(m_clave->Codifica(u"ab"_s, {}).completa(), QStringList({u"Error"_s, u"Error"_s}));
+        QCOMPARE(m_clave->DesCodifica({u"57666"_s}, {}).completa(), QString());
     }
 
     /// A few bytes a block are enough for an adversary: a power fills the modulus.
@@ -277,17 +278,17 @@ private Q_SLOTS:
         pon(primero, PrimoSiguiente(primero), u"65537"_s);
         m_clave->Valida();
         const QStringList bloques(20'000, u"2"_s);
-        QCOMPARE(numeroDeError([&] { m_clave->DesCodifica(bloques, m_corrida); }),
+        QCOMPARE(numeroDeError([&] { m_clave->DesCodifica(bloques, {}).completa(); }),
                  int(ErrorEjecucion::MemoriaInsuficiente));
     }
 
     void loQueNoSePuedeCodificar()
     {
         pon(u"257"_s, u"263"_s, u"5"_s);
-        QCOMPARE(numeroDeError([&] { m_clave->Codifica(u"α"_s, m_corrida); }),
+        QCOMPARE(numeroDeError([&] { m_clave->Codifica(u"α"_s, {}).completa(); }),
                  int(ErrorEjecucion::ArgumentoNoValido));
         m_clave->ponr(0);
-        QCOMPARE(numeroDeError([&] { m_clave->Codifica(u"a"_s, m_corrida); }),
+        QCOMPARE(numeroDeError([&] { m_clave->Codifica(u"a"_s, {}).completa(); }),
                  int(ErrorEjecucion::DivisionPorCero));
         QVERIFY(!caracterInadmisible(u"¿Año? 5 €"_s));
         QVERIFY(caracterInadmisible(u"a😀α"_s)->contains(u"«😀», que está en el lugar 2"_s));
@@ -313,35 +314,26 @@ private Q_SLOTS:
         QTEST(NumeroATexto(numero), "texto");
     }
 
-    void unaParadaDejaElTextoAMedias()
+    /// A run gives up the thread, and ends where it is when it is told to.
+    void laCodificacionCedeYSePara()
     {
         pon(u"257"_s, u"263"_s, u"5"_s);
         m_clave->Valida();
-        Corrida corrida(Corrida::Cesion{});
-        corrida.detener();
-        QVERIFY(m_clave->Codifica(u"HOLA"_s, corrida).size() < 4);
-        QCOMPARE(m_clave->DesCodifica({u"57666"_s, u"43715"_s}, corrida).size(), 1);
-    }
-
-    void entero16_data()
-    {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<int>("valor"); // 99999: overflow
-        QTest::newRow("plain") << u"12"_s << 12;
-        QTest::newRow("no number") << u"doce"_s << 0;
-        QTest::newRow("half to even") << u"2.5"_s << 2;
-        QTest::newRow("largest") << u"32767"_s << 32767;
-        QTest::newRow("one more") << u"32768"_s << 99999;
-        QTest::newRow("least") << u"-32768"_s << -32768;
-        QTest::newRow("huge") << u"1e300"_s << 99999;
-    }
-    void entero16()
-    {
-        QFETCH(QString, texto);
-        int valor = 99999;
-        const int error = numeroDeError([&] { valor = aEntero16(texto); });
-        QTEST(valor, "valor");
-        QCOMPARE(error, valor == 99999 ? int(ErrorEjecucion::Desbordamiento) : 0);
+        Tareas tareas([](const std::exception_ptr &) { QFAIL("an error"); });
+        const QString largo(2'000'000, u'H');
+        qsizetype bloques = -1, caracteres = -1;
+        const auto corre = [&](Tareas &suyas) -> Tarea<> {
+            const QStringList codigo = co_await m_clave->Codifica(largo, suyas.billete());
+            bloques = codigo.size();
+            const QStringList medio(largo.size() / 2, codigo.constFirst());
+            const QString vuelta = co_await m_clave->DesCodifica(medio, suyas.billete());
+            caracteres = vuelta.size();
+        };
+        tareas.lanza(corre(tareas));
+        QCOMPARE(bloques, -1);
+        tareas.detener();
+        QTRY_VERIFY(bloques > 0 && bloques < largo.size());
+        QTRY_COMPARE(caracteres, 1'000'000);
     }
 
 private:
@@ -355,7 +347,6 @@ private:
 
     std::unique_ptr<Estudiante> m_yo;
     std::unique_ptr<ClsRSA> m_clave;
-    Corrida m_corrida{Corrida::Cesion{}};
     QStringList m_avisos;
     QString m_q0AlAvisar;
 };

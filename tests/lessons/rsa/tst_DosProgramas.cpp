@@ -98,7 +98,8 @@ private Q_SLOTS:
                 "escribe txtDestTextoOriginal %3\npulsa enviar\n"
                 "espera lblEstadoBuzon Mensaje enviado\nanota lblEstadoBuzon\nacaba\n"_s.arg(
                     carpeta, usuario, Texto));
-        QCOMPARE(autor.acaba(), u"Mensaje enviado a %1 (RSA1.msg)"_s.arg(usuario));
+        QCOMPARE(autor.acaba(),
+                 u"Mensaje enviado a %1 (RSA1.msg). Para verlo, pulse «Revisar»."_s.arg(usuario));
         QCOMPARE(lector.acaba(), u"Cita\n"_s + Texto);
         // Each still has its own key.
         QVERIFY(Estudiante::lee(autor.ficheroPrivado()).contains("q(1)=257\r\n"));

@@ -105,7 +105,7 @@ private Q_SLOTS:
         linea(u"txtR"_s)->setText(QString());
         QVERIFY(boton(u"cmdCodificar"_s)->isEnabled());
         area(u"txtTextoOriginal"_s)->setPlainText(u"a"_s);
-        boton(u"cmdCodificar"_s)->click();
+        pulsa(u"cmdCodificar"_s);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"Tamaño de la palabra"_s);
     }
 
@@ -148,17 +148,56 @@ private Q_SLOTS:
         abre();
         ponClave(u"257"_s, u"263"_s, u"5"_s);
         area(u"txtTextoOriginal"_s)->setPlainText(u"HOLA"_s);
-        boton(u"cmdCodificar"_s)->click();
-        const auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexTextoCodificado"_s);
+        pulsa(u"cmdCodificar"_s);
+        auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexTextoCodificado"_s);
         QCOMPARE(rejilla->seleccion(FormaDeCopia::Texto).completa().texto,
                  u"Texto codificado\n57666\n43715\n51784\n23519\n"_s);
         area(u"txtTextoOriginal"_s)->clear();
-        boton(u"cmdDescodificar"_s)->click();
+        pulsa(u"cmdDescodificar"_s);
         QCOMPARE(area(u"txtTextoOriginal"_s)->toPlainText(), u"HOLA"_s);
         area(u"txtTextoOriginal"_s)->setPlainText(u"Γειά"_s);
-        boton(u"cmdCodificar"_s)->click();
+        pulsa(u"cmdCodificar"_s);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"Carácter no admitido"_s);
         QCOMPARE(rejilla->model()->rowCount(), 4);
+    }
+
+    /// Refused or half written, a number takes with it what was computed from the one before.
+    void loCalculadoEsDeLoEscrito()
+    {
+        abre();
+        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        campo(u"txtS"_s)->setText(u"13"_s);
+        QCOMPARE(calculados(), u"67591|67072|"_s);
+        campo(u"txtS"_s)->setText(u"5"_s);
+        QCOMPARE(calculados(), u"67591|67072|26829"_s);
+        escribe(u"txtS"_s, u"131"_s);
+        QCOMPARE(calculados(), u"67591|67072|"_s);
+        escribe(u"txtQ_1"_s, u"259"_s);
+        QCOMPARE(calculados(), u"||"_s);
+        QCOMPARE(rotulo(u"LabelNumBits"_s), u"Nº de bits de la clave ="_s);
+        QCOMPARE(Entorno::grabadora().mensajes.size(), 2);
+    }
+
+    void junto_data()
+    {
+        QTest::addColumn<QRect>("leccion");
+        QTest::addColumn<bool>("cabeFuera");
+        QTest::newRow("right") << QRect(100, 50, 600, 700) << true;
+        QTest::newRow("below") << QRect(100, 50, 1200, 450) << true;
+        QTest::newRow("left") << QRect(400, 50, 950, 700) << true;
+        QTest::newRow("above") << QRect(100, 300, 1200, 450) << true;
+        QTest::newRow("nowhere") << QRect(0, 0, 1366, 740) << false;
+        QTest::newRow("half outside") << QRect(-200, 100, 1500, 900) << false;
+    }
+    void junto()
+    {
+        QFETCH(QRect, leccion);
+        const QRect pantalla(0, 0, 1366, 768);
+        const QSize tamano(312, 212);
+        const QRect lugar(FormClaveRSA::lugarJunto(leccion, pantalla, tamano), tamano);
+        QVERIFY(pantalla.contains(lugar));
+        QTEST(!lugar.intersects(leccion), "cabeFuera");
+        QVERIFY(!lugar.intersects(leccion) || lugar.right() < leccion.center().x());
     }
 
     void unaClaveGuardadaQueEstaRota()
@@ -168,6 +207,44 @@ private Q_SLOTS:
         QCOMPARE(Entorno::grabadora().unico().texto, u"Desbordamiento."_s);
         ponClave(u"257"_s, u"263"_s, u"5"_s);
         QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
+    }
+
+    /// The run dies with its window, wherever it is.
+    void cerrarMientrasSeCodifica()
+    {
+        abre();
+        ponClave(u"1000003"_s, u"1000033"_s, u"65537"_s);
+        area(u"txtTextoOriginal"_s)->setPlainText(u"Hola "_s.repeated(200'000));
+        boton(u"cmdCodificar"_s)->click();
+        QCOMPARE(boton(u"cmdCodificar"_s)->text(), u"Detener"_s);
+        // The other button does not start a second one.
+        boton(u"cmdDescodificar"_s)->click();
+        QCOMPARE(boton(u"cmdDescodificar"_s)->text(), u"&Descodificar"_s);
+        m_ventana->close();
+        m_ventana.release(); // it deletes itself
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+    }
+
+    void detenerDejaLoHecho()
+    {
+        abre();
+        ponClave(u"1000003"_s, u"1000033"_s, u"65537"_s);
+        area(u"txtTextoOriginal"_s)->setPlainText(u"Hola "_s.repeated(200'000));
+        boton(u"cmdCodificar"_s)->click();
+        QTest::keyClick(area(u"txtTextoOriginal"_s), Qt::Key_Escape);
+        acaba();
+        const int filas =
+            control<Rejilla>(m_ventana.get(), u"FlexTextoCodificado"_s)->model()->rowCount();
+        QVERIFY(filas > 0 && filas < 1'000'000);
+        QCOMPARE(boton(u"cmdCodificar"_s)->text(), u"&Codificar"_s);
+    }
+
+private:
+    QString calculados() const
+    {
+        return campo(u"txtQ_0"_s)->text() + u'|' + campo(u"txtFiQ"_s)->text() + u'|' +
+               campo(u"txtT"_s)->text();
     }
 };
 

@@ -25,9 +25,12 @@ private Q_SLOTS:
         QCOMPARE(temas().size(), 3);
         Entorno::grabadora().unico();
         escribe(u"txtS"_s, u"5"_s);
+        boton(u"cmdPublicarClave"_s)->click();
+        QVERIFY(rotulo(u"lblEstado"_s).contains(u"publicada"_s));
         temasDe()->setCurrentIndex(3);
-        // Cancelling forgets the mailbox.
+        // Cancelling forgets the mailbox, and that the key was published there.
         eligeBuzon({});
+        QCOMPARE(rotulo(u"lblEstado"_s), u"✓ Clave OK"_s);
         QCOMPARE(Entorno::grabadora().carpetasPedidas, QStringList({QString(), m_yo->buzon()}));
         QCOMPARE(temas().size(), 3);
         QVERIFY(!boton(u"cmdPublicarClave"_s)->isEnabled());
@@ -55,12 +58,12 @@ private Q_SLOTS:
         QCOMPARE(campoAjeno(u"TxtDestT"_s), u"26829"_s);
         QVERIFY(!boton(u"enviar"_s)->isEnabled());
         escribeMensaje(u"Cita"_s, u"¿A las 5?\nSí: 3 €"_s);
-        boton(u"enviar"_s)->click();
+        pulsa(u"enviar"_s);
         QVERIFY(rotulo(u"lblEstadoBuzon"_s).startsWith(u"Mensaje enviado"_s));
         QCOMPARE(lista(), QString()); // until the next scan
 
         escribeMensaje({}, {});
-        boton(u"revisar"_s)->click();
+        pulsa(u"revisar"_s);
         QCOMPARE(lista(),
                  u"Dirigido a     \tDe           \tAsunto\n%1\t%1\tCita\n"_s.arg(m_yo->usuario()));
         eligeFila(0);
@@ -69,7 +72,7 @@ private Q_SLOTS:
         QTest::keyClick(control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s), Qt::Key_Return);
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
 
-        boton(u"enviar"_s)->click();
+        pulsa(u"enviar"_s);
         const auto mensaje = Entorno::grabadora().unico();
         QCOMPARE(mensaje.titulo, u"Mensaje repetido"_s);
         QCOMPARE(mensaje.icono, Interlocutor::Icono::Critico);
@@ -103,7 +106,7 @@ private Q_SLOTS:
         // Who finds the exponent reads all the same.
         control<CampoLargo>(ventanaClave(), u"TxtDestT"_s)->setText(u"26829"_s);
         QVERIFY(boton(u"recibir"_s)->isEnabled());
-        boton(u"recibir"_s)->click();
+        pulsa(u"recibir"_s);
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"HO"_s);
     }
 
@@ -124,7 +127,7 @@ private Q_SLOTS:
             QCOMPARE(rotulo(u"LabelTexto"_s), u"Mensaje"_s);
             QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
             area(u"txtDestTextoOriginal"_s)->setFocus();
-            boton(u"revisar"_s)->click();
+            pulsa(u"revisar"_s);
         }
         lista->setFocus();
         QTest::keyClick(lista, Qt::Key_Return);
@@ -203,11 +206,11 @@ private Q_SLOTS:
         preparaBuzon();
         eligeUsuario(u"eva"_s);
         escribeMensaje(u"x"_s, u"ab"_s);
-        boton(u"enviar"_s)->click();
+        pulsa(u"enviar"_s);
         QCOMPARE(Entorno::grabadora().confirmaciones.size(), 1);
         QVERIFY(!QFile::exists(m_yo->enBuzon(u"eva/RSA1.msg"_s)));
         Entorno::grabadora().respondeSi = true;
-        boton(u"enviar"_s)->click();
+        pulsa(u"enviar"_s);
         QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"eva/RSA1.msg"_s)),
                  m_yo->usuario().toLatin1() + "\r\nx\r\nError\r\nError\r\n");
     }
@@ -239,7 +242,7 @@ private Q_SLOTS:
         Entorno::grabadora().respondeSi = true;
         eligeUsuario(usuario);
         escribeMensaje(asunto, texto);
-        boton(u"enviar"_s)->click();
+        pulsa(u"enviar"_s);
         QTEST(Entorno::grabadora().unico().titulo, "titulo");
         QTEST(QFile::exists(m_yo->enBuzon(usuario + u"/RSA1.msg"_s)), "sale");
     }
@@ -250,7 +253,7 @@ private Q_SLOTS:
         preparaBuzon();
         QVERIFY(!lista().isEmpty());
         QDir(m_yo->buzon()).removeRecursively();
-        boton(u"revisar"_s)->click();
+        pulsa(u"revisar"_s);
         QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"No se encontró la ruta"_s));
         QCOMPARE(lista(), QString());
         QCOMPARE(temas().size(), 3);
@@ -287,7 +290,7 @@ private Q_SLOTS:
         QCOMPARE(campoAjeno(u"txtDestQ"_s), antes);
         m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=67591\r\ns=5\r\n");
         escribeMensaje(u"x"_s, u"H"_s);
-        this->boton(boton)->click();
+        pulsa(boton);
         QCOMPARE(campoAjeno(u"txtDestQ"_s), u"67591"_s);
         if (boton == u"enviar"_s)
             QVERIFY(Estudiante::lee(m_yo->enBuzon(u"ana/RSA1.msg"_s)).endsWith("x\r\n57666\r\n"));
@@ -307,7 +310,7 @@ private Q_SLOTS:
         // Over a text as into none.
         for (const QString &antes : {QString(), u"x"_s}) {
             escribeMensaje({}, antes);
-            boton(u"recibir"_s)->click();
+            pulsa(u"recibir"_s);
             QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText().size(), 1'000'000);
         }
         area(u"txtDestTextoOriginal"_s)->setPlainText(u"corto "_s.repeated(2000));
@@ -341,7 +344,7 @@ private Q_SLOTS:
         eligeUsuario(u"eva"_s);
         QCOMPARE(escrito(), u"a medias|dos"_s);
         Entorno::grabadora().respondeSi = true;
-        boton(u"enviar"_s)->click();
+        pulsa(u"enviar"_s);
         eligeUsuario(u"ana"_s);
         QCOMPARE(escrito(), u"a ana|tres"_s);
         escribeMensaje({}, {});
@@ -358,7 +361,7 @@ private Q_SLOTS:
         eligeFila(0);
         escribeMensaje(u"respuesta"_s, u"a medias"_s);
         m_yo->escribe(u"Ada/RSA1.msg"_s, "luis\r\nprimera\r\n1\r\n");
-        boton(u"revisar"_s)->click();
+        pulsa(u"revisar"_s);
         QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"a medias"_s);
         QCOMPARE(control<QComboBox>(m_ventana.get(), u"cmbDestinatario"_s)->currentText(),
                  u"ana"_s);

@@ -46,14 +46,14 @@ private Q_SLOTS:
         clsMensaje recibido;
         recibido.ponClave(m_clave.get());
         recibido.ponNombreFichero(m_mensaje->NombreFichero());
-        recibido.Recibe(m_corrida);
+        recibido.Recibe({}).completa();
         QCOMPARE(recibido.Remitente(), m_yo->usuario());
         QCOMPARE(recibido.Asunto(), u"Qué tal"_s);
         QCOMPARE(recibido.TextoOriginal(), u"HOLA"_s);
-        recibido.DescodificaTexto(m_corrida);
+        recibido.DescodificaTexto({}).completa();
         QCOMPARE(recibido.TextoOriginal(), u"HOLA"_s);
         m_clave->ponq(1, u"259"_s);
-        recibido.DescodificaTexto(m_corrida);
+        recibido.DescodificaTexto({}).completa();
         QCOMPARE(recibido.TextoOriginal(), QString());
     }
 
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(m_errores, QStringList{Motivo});
         QVERIFY(!m_mensaje->MensajeOK());
         QCOMPARE(m_mensaje->TextoOriginal(), u"a\u0001"_s);
-        m_mensaje->CodificaTexto(m_corrida);
+        m_mensaje->CodificaTexto({}).completa();
         QCOMPARE(m_mensaje->Bloques(), QStringList{QString()});
 
         m_mensaje->ponMensajeOK(true);
@@ -127,8 +127,9 @@ private Q_SLOTS:
                                             "ana\r\nQu\xC3\xA9\r\n12\r\n"_ba
                                          << u"ana|Qué"_s << QStringList{u"12"_s};
         QTest::newRow("two lines") << "ana\r\nb\r\n"_ba << u"ana|b"_s << QStringList();
-        QTest::newRow("one line") << "ana"_ba << u"ana|"_s << QStringList();
-        QTest::newRow("nothing") << QByteArray() << u"|"_s << QStringList();
+        // Not wholly there yet: no message for a scan.
+        QTest::newRow("one line") << "ana"_ba << QString() << QStringList();
+        QTest::newRow("nothing") << QByteArray() << QString() << QStringList();
         QTest::newRow("blank lines") << "ana\r\n\r\n\r\n12\r\nError\r\n"_ba << u"ana|"_s
                                      << QStringList{{}, u"12"_s, u"Error"_s};
         QTest::newRow("euro, quotes") << "\x80\n\x93x\x94\n"_ba << u"€|“x”"_s << QStringList();
@@ -136,11 +137,12 @@ private Q_SLOTS:
     void ficherosDeOtros()
     {
         QFETCH(QByteArray, bytes);
-        const ContenidoMensaje contenido = ArchivoMensaje::interpreta(bytes);
-        QTEST(contenido.remitente + u'|' + contenido.asunto, "cabecera");
+        const ContenidoMensaje contenido = ArchivoMensaje::interpreta(bytes, {}).completa();
         QTEST(contenido.bloques, "bloques");
         const auto cabecera = ArchivoMensaje::interpretaCabecera(bytes);
-        QTEST(cabecera->remitente + u'|' + cabecera->asunto, "cabecera");
+        QTEST(cabecera ? cabecera->remitente + u'|' + cabecera->asunto : QString(), "cabecera");
+        if (cabecera)
+            QTEST(contenido.remitente + u'|' + contenido.asunto, "cabecera");
     }
 
     void cabeceraSinFin()
@@ -159,10 +161,10 @@ private Q_SLOTS:
             bytes += "57666\r\n";
         m_yo->escribe(u"ana/RSA1.msg"_s, bytes);
         m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
-        m_mensaje->Recibe(m_corrida);
+        m_mensaje->Recibe({}).completa();
         QCOMPARE(m_mensaje->TextoOriginal(), QString(1'000'000, u'H'));
         m_yo->escribe(u"ana/RSA1.msg"_s, bytes + "1\r\n");
-        QCOMPARE(numeroDeError([&] { m_mensaje->Recibe(m_corrida); }),
+        QCOMPARE(numeroDeError([&] { m_mensaje->Recibe({}).completa(); }),
                  int(ErrorEjecucion::ErrorDeArchivo));
     }
 
@@ -171,16 +173,16 @@ private Q_SLOTS:
         m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nnada\r\n");
         m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
         m_mensaje->ponTextoOriginal(u"viejo"_s);
-        m_mensaje->Recibe(m_corrida);
+        m_mensaje->Recibe({}).completa();
         QVERIFY(m_mensaje->Bloques().isEmpty() && m_mensaje->TextoOriginal().isEmpty());
     }
 
     void unTextoRecibidoQueConfunde()
     {
-        const QString bloque = m_clave->Codifica(u"\u0001"_s, m_corrida).constFirst();
+        const QString bloque = m_clave->Codifica(u"\u0001"_s, {}).completa().constFirst();
         m_yo->escribe(u"ana/RSA1.msg"_s, "luis\nnada\n" + bloque.toLatin1() + '\n');
         m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
-        m_mensaje->Recibe(m_corrida);
+        m_mensaje->Recibe({}).completa();
         QCOMPARE(m_errores, QStringList{Motivo});
         QCOMPARE(m_mensaje->TextoOriginal(), u"\u0001"_s);
     }
@@ -191,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(ColMensajes::clave(u" ana "_s, u"luis"_s, u" a b "_s), u"ana.luis.a b"_s);
         clsMensaje &uno = mensajes.Add(u"ana"_s, u"luis"_s, u"uno "_s, u"f1"_s);
         mensajes.Add(u"ana"_s, u"luis"_s, u"dos"_s, u"f2"_s);
-        QCOMPARE(mensajes.Item(u"ana.luis.uno"_s), &uno);
+        QCOMPARE(mensajes.Item(u"ana.luis.uno"_s).get(), &uno);
         QCOMPARE(&mensajes.Item(1), &uno);
         QVERIFY(!mensajes.Item(u"ana.luis.tres"_s));
         QCOMPARE(numeroDeError([&] { mensajes.Add(u"ana"_s, u"luis"_s, u"dos"_s, {}); }),
@@ -211,24 +213,23 @@ private Q_SLOTS:
         m_yo->escribe(u"ana/RSA9.msg"_s, "luis\r\nrepetido\r\n1\r\n");
         m_yo->escribe(u"ana/rsa10.MSG"_s, " luis \nrepetido \n1\n");
         m_yo->escribe(u"ana/RSAA.msg"_s, "luis\r\nm\x81lo\r\n1\r\n");
+        m_yo->escribe(u"ana/RSAB.msg"_s, "luis\r\n\x81\r\n1\r\n"); // of one key with the last
         m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
         m_yo->escribe(u"Luis/RSA1.msg"_s, "ana\r\n\r\n");
         m_yo->escribe(u"Luis/OTRA1.msg"_s, "ana\r\nno\r\n");
         m_yo->escribe(u"RSA1.msg"_s, "ana\r\nsuelto\r\n");
-        ColMensajes mensajes;
-        mensajes.Add(u"viejo"_s, u"viejo"_s, u"viejo"_s, {});
-        QCOMPARE(revisaBuzon(m_yo->buzon(), mensajes, m_corrida), 0);
+        const auto [mensajes, ilegibles] = revisaBuzon(m_yo->buzon(), {}).completa();
+        QCOMPARE(ilegibles, 0);
         QStringList vistos;
         for (const auto &mensaje : mensajes)
             vistos << mensaje->Destinatario() + u'|' + mensaje->Remitente() + u'|' +
                           mensaje->Asunto() + u'|' + mensaje->NombreFichero().section(u'\\', -1);
         QCOMPARE(vistos,
                  QStringList({u"ana|luis|primero|RSA1.msg"_s, u"ana| luis |repetido|rsa10.MSG"_s,
-                              u"ana|luis||RSAA.msg"_s, u"Luis|ana||RSA1.msg"_s}));
+                              u"ana|luis||RSAB.msg"_s, u"Luis|ana||RSA1.msg"_s}));
         QCOMPARE(usuariosDelBuzon(m_yo->buzon()), QStringList({u"ana"_s, u"Luis"_s}));
-        QCOMPARE(revisaBuzon({}, mensajes, m_corrida), 0);
-        QCOMPARE(mensajes.Count(), 0);
-        QCOMPARE(numeroDeError([&] { revisaBuzon(u"/no existe"_s, mensajes, m_corrida); }),
+        QCOMPARE(revisaBuzon({}, {}).completa().mensajes.Count(), 0);
+        QCOMPARE(numeroDeError([] { revisaBuzon(u"/no existe"_s, {}).completa(); }),
                  int(ErrorEjecucion::RutaNoEncontrada));
     }
 
@@ -265,15 +266,14 @@ private:
         m_mensaje->ponDestinatario(destinatario);
         m_mensaje->ponAsunto(asunto);
         m_mensaje->ponTextoOriginal(texto);
-        m_mensaje->CodificaTexto(m_corrida);
-        m_mensaje->Envia();
+        m_mensaje->CodificaTexto({}).completa();
+        m_mensaje->Envia({}).completa();
         return m_mensaje->NombreFichero().section(u'\\', -1);
     }
 
     std::unique_ptr<Estudiante> m_yo;
     std::unique_ptr<ClsRSA> m_clave;
     std::unique_ptr<clsMensaje> m_mensaje;
-    Corrida m_corrida{Corrida::Cesion{}};
     QStringList m_errores;
 };
 

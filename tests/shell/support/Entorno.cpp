@@ -106,54 +106,6 @@ Tarea<QString> Grabadora::eligeCarpeta(QWidget *, QString, QString inicial)
     co_return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
 }
 
-void Grabadora::mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo)
-{
-    mensajes << Mensaje{icono, texto, titulo};
-}
-
-QString Grabadora::pideTexto(QWidget *, const QString &, const QString &)
-{
-    return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
-}
-
-Interlocutor::Guardado Grabadora::preguntaSiGuarda(QWidget *, const QString &texto, const QString &)
-{
-    preguntasSiGuarda << texto;
-    return guardados.isEmpty() ? Guardado::Cancelar : guardados.takeFirst();
-}
-
-QString Grabadora::pideArchivoParaAbrir(QWidget *padre, const QString &titulo,
-                                        const QString &propuesta, const QStringList &filtros)
-{
-    return Grabadora::pideArchivoParaGuardar(padre, titulo, propuesta, filtros).ruta;
-}
-
-Interlocutor::Archivo Grabadora::pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
-                                                        const QStringList &filtros)
-{
-    filtrosPedidos << filtros;
-    return archivos.isEmpty() ? Archivo() : archivos.takeFirst();
-}
-
-bool Grabadora::pideImpresora(QWidget *, QPrinter &impresora, const QString &)
-{
-    impresora.setOutputFormat(QPrinter::PdfFormat);
-    impresora.setOutputFileName(impresion);
-    return !impresion.isEmpty();
-}
-
-QString Grabadora::pideCarpeta(QWidget *, const QString &, const QString &inicial)
-{
-    carpetasPedidas << inicial;
-    return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
-}
-
-bool Grabadora::confirma(QWidget *, const QString &pregunta, const QString &)
-{
-    confirmaciones << pregunta;
-    return respondeSi;
-}
-
 void Grabadora::abre(const QString &direccion)
 {
     abiertas << direccion;

@@ -47,16 +47,6 @@ public:
                                            QStringList filtros) override;
     Tarea<bool> eligeImpresora(QWidget *, std::shared_ptr<QPrinter> impresora, QString) override;
     Tarea<QString> eligeCarpeta(QWidget *, QString, QString inicial) override;
-    void mensaje(QWidget *, Icono icono, const QString &texto, const QString &titulo) override;
-    QString pideTexto(QWidget *, const QString &, const QString &) override;
-    Guardado preguntaSiGuarda(QWidget *, const QString &texto, const QString &) override;
-    QString pideArchivoParaAbrir(QWidget *, const QString &, const QString &,
-                                 const QStringList &filtros) override;
-    Archivo pideArchivoParaGuardar(QWidget *, const QString &, const QString &,
-                                   const QStringList &filtros) override;
-    bool pideImpresora(QWidget *, QPrinter &impresora, const QString &) override;
-    QString pideCarpeta(QWidget *, const QString &, const QString &inicial) override;
-    bool confirma(QWidget *, const QString &pregunta, const QString &) override;
     void abre(const QString &direccion) override;
     bool lanzaAlguno(const QList<QStringList> &ordenes) override;
 };

@@ -1,6 +1,5 @@
 #include "lessons/recursion/functions/windows/FormRecursion3Ackermann.h"
 
-#include "lessons/recursion/functions/EnteroDeTexto.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"

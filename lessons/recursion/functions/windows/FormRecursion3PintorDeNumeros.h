@@ -9,5 +9,11 @@ class FormRecursion3PintorDeNumeros : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    QString displayText(const QVariant &valor, const QLocale &) const override;
+    QString displayText(const QVariant &valor, const QLocale &) const override
+    {
+        constexpr int extremo = 200;
+        const QString texto = valor.toString();
+        return texto.size() <= 2 * extremo ? texto
+                                           : texto.left(extremo) + u'…' + texto.right(extremo);
+    }
 };

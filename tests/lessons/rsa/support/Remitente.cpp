@@ -15,7 +15,8 @@ int main(int argc, char *argv[])
     // Long enough to be written in more than one piece if it could be.
     const QStringList bloques(500, QString(20, u'7'));
     for (int i = 0; i < palabras[4].toInt(); ++i)
-        dejaMensaje(palabras[1], palabras[2],
-                    ArchivoMensaje::compone({palabras[3], QString::number(i), bloques}));
+        dejaMensaje(
+            palabras[1], palabras[2],
+            ArchivoMensaje::compone({palabras[3], QString::number(i), bloques}, {}).completa());
     return 0;
 }

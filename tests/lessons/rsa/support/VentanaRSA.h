@@ -3,6 +3,7 @@
 #include "lessons/rsa/windows/FormClaveRSA.h"
 #include "lessons/rsa/windows/FormRSA.h"
 #include "shell/controls/CampoLargo.h"
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/grid/Rejilla.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
@@ -38,6 +39,23 @@ public:
         temasDe()->setCurrentIndex(1);
     }
 
+    /// Presses the button of a run, and waits until the run has ended.
+    void pulsa(const QString &nombre)
+    {
+        boton(nombre)->click();
+        acaba();
+    }
+    void acaba() const
+    {
+        const auto corridas = m_ventana->findChildren<BotonDeCorrida *>();
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                return std::none_of(corridas.begin(), corridas.end(),
+                                    [](const auto *corrida) { return corrida->enMarcha(); });
+            },
+            60'000));
+    }
+
     void preparaBuzon(const QString &q1 = u"257"_s, const QString &q2 = u"263"_s,
                       const QString &s = u"5"_s)
     {
@@ -46,6 +64,7 @@ public:
         eligeBuzon(m_yo->buzon());
         temasDe()->setCurrentIndex(3);
         QCoreApplication::processEvents();
+        acaba();
     }
 
     void eligeBuzon(const QString &carpeta)

@@ -1,8 +1,9 @@
-#include "lessons/rsa/mailbox/Descriptor.h"
+#include "shell/core/system/Descriptor.h"
 
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/core/Rutas.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -33,6 +34,14 @@ ErrorEjecucion::Numero numeroDeErrno(int codigo)
 bool Descriptor::cierra()
 {
     return m_fd < 0 || ::close(std::exchange(m_fd, -1)) == 0;
+}
+
+struct stat Descriptor::estado(const QString &ruta) const
+{
+    struct stat resultado;
+    if (::fstat(m_fd, &resultado) != 0)
+        falla(ruta);
+    return resultado;
 }
 
 void falla(const QString &ruta, int codigo)

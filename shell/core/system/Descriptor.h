@@ -4,7 +4,10 @@
 #include <cerrno>
 #include <utility>
 
-/// An open file or folder, closed when it goes out of scope.
+struct stat;
+
+/// An open file or folder of a POSIX system, closed when it goes out of scope. For the sources of
+/// this folder alone.
 class Descriptor
 {
 public:
@@ -15,6 +18,9 @@ public:
 
     int fd() const { return m_fd; }
     bool abierto() const { return m_fd >= 0; }
+
+    /// What the system knows of it. Throws ErrorEjecucion naming `ruta` when it cannot be asked.
+    struct stat estado(const QString &ruta) const;
 
     /// Closes it now; false when what was written could not be kept.
     bool cierra();

@@ -4,24 +4,23 @@
 #include <QString>
 #include <QStringList>
 #include <memory>
-#include <sys/types.h>
 
 class Descriptor;
 
-/// A folder of the mailbox, held open: what happens to its path meanwhile changes nothing. Anybody
-/// may have written what lies in it, so names are plain names, links are not followed, only
-/// ordinary files are opened, and nothing is read beyond a limit. Names are found without regard to
-/// case. Failures throw ErrorEjecucion naming the path.
-class CarpetaBuzon
+/// A folder that others write in as well, held open: what happens to its path meanwhile changes
+/// nothing. Anybody may have written what lies in it, so names are plain names, links are not
+/// followed, only ordinary files are opened, and nothing is read beyond a limit. Names are found
+/// without regard to case. Failures throw ErrorEjecucion naming the path.
+class CarpetaCompartida
 {
 public:
-    /// Opens the mailbox itself, which may be reached through links.
-    explicit CarpetaBuzon(const QString &ruta);
+    /// Opens a folder by its path, which may lead through links.
+    explicit CarpetaCompartida(const QString &ruta);
 
     /// Opens one of its sub-folders.
-    CarpetaBuzon subcarpeta(const QString &nombre) const;
-    /// The same, making it when it is missing, as open to others as the mailbox is.
-    CarpetaBuzon subcarpetaCreada(const QString &nombre) const;
+    CarpetaCompartida subcarpeta(const QString &nombre) const;
+    /// The same, making it when it is missing, as open to others as this one is.
+    CarpetaCompartida subcarpetaCreada(const QString &nombre) const;
 
     /// The names of its sub-folders that are plain names; links are left out. In the order of the
     /// alphabet without regard to case.
@@ -38,15 +37,14 @@ public:
     /// Writes a file in the place of the one of that name, whole or not at all.
     void sustituye(const QString &nombre, const QByteArray &contenido) const;
 
-    /// What the classes that work inside the folder need of it.
-    int fd() const;
     const QString &ruta() const { return m_ruta; }
     QString rutaDe(const QString &nombre) const;
-    mode_t modo() const;
 
 private:
-    CarpetaBuzon(std::shared_ptr<Descriptor> carpeta, const QString &ruta);
+    friend class ArchivoProvisional;
+    CarpetaCompartida(std::shared_ptr<Descriptor> carpeta, const QString &ruta);
 
+    int fd() const;
     QString nombreReal(const QString &nombre) const;
     Descriptor abreArchivo(const QString &nombre) const;
 

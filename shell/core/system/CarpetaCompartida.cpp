@@ -1,10 +1,10 @@
-#include "lessons/rsa/mailbox/CarpetaBuzon.h"
+#include "shell/core/system/CarpetaCompartida.h"
 
 #include "bignum/gateway/ErrorEjecucion.h"
-#include "lessons/rsa/mailbox/Borrador.h"
-#include "lessons/rsa/mailbox/Descriptor.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
+#include "shell/core/system/ArchivoProvisional.h"
+#include "shell/core/system/Descriptor.h"
 
 #include <QFile>
 #include <algorithm>
@@ -50,14 +50,19 @@ void recorre(int carpeta, const QString &ruta, Visita visita)
     }
 }
 
+mode_t permisosDe(const Descriptor &carpeta, const QString &ruta)
+{
+    return carpeta.estado(ruta).st_mode & 07777;
+}
+
 } // namespace
 
-CarpetaBuzon::CarpetaBuzon(std::shared_ptr<Descriptor> carpeta, const QString &ruta)
+CarpetaCompartida::CarpetaCompartida(std::shared_ptr<Descriptor> carpeta, const QString &ruta)
     : m_carpeta(std::move(carpeta)), m_ruta(ruta)
 {
 }
 
-CarpetaBuzon::CarpetaBuzon(const QString &ruta)
+CarpetaCompartida::CarpetaCompartida(const QString &ruta)
     : m_carpeta(std::make_shared<Descriptor>(
           ::open(QFile::encodeName(rutaExistente(ruta)).constData(), SoloCarpeta))),
       m_ruta(ruta)
@@ -66,27 +71,19 @@ CarpetaBuzon::CarpetaBuzon(const QString &ruta)
         falla(m_ruta);
 }
 
-int CarpetaBuzon::fd() const
+int CarpetaCompartida::fd() const
 {
     return m_carpeta->fd();
 }
 
-QString CarpetaBuzon::rutaDe(const QString &nombre) const
+QString CarpetaCompartida::rutaDe(const QString &nombre) const
 {
     return m_ruta + u'\\' + nombre;
 }
 
-mode_t CarpetaBuzon::modo() const
-{
-    struct stat estado;
-    if (::fstat(fd(), &estado) != 0)
-        falla(m_ruta);
-    return estado.st_mode;
-}
-
 /// The name of an entry but for case; a name as written is preferred, and given back when there is
 /// none at all.
-QString CarpetaBuzon::nombreReal(const QString &nombre) const
+QString CarpetaCompartida::nombreReal(const QString &nombre) const
 {
     if (!esNombreSimple(nombre))
         throw ErrorEjecucion(ErrorEjecucion::ArgumentoNoValido, nombre.left(255));
@@ -101,31 +98,31 @@ QString CarpetaBuzon::nombreReal(const QString &nombre) const
     return real;
 }
 
-CarpetaBuzon CarpetaBuzon::subcarpeta(const QString &nombre) const
+CarpetaCompartida CarpetaCompartida::subcarpeta(const QString &nombre) const
 {
     const QByteArray real = QFile::encodeName(nombreReal(nombre));
     auto hija =
         std::make_shared<Descriptor>(::openat(fd(), real.constData(), SoloCarpeta | O_NOFOLLOW));
     if (!hija->abierto())
         falla(rutaDe(nombre));
-    return CarpetaBuzon(std::move(hija), rutaDe(nombre));
+    return CarpetaCompartida(std::move(hija), rutaDe(nombre));
 }
 
-CarpetaBuzon CarpetaBuzon::subcarpetaCreada(const QString &nombre) const
+CarpetaCompartida CarpetaCompartida::subcarpetaCreada(const QString &nombre) const
 {
     const QByteArray real = QFile::encodeName(nombreReal(nombre));
-    const bool nueva = ::mkdirat(fd(), real.constData(), modo() & 07777) == 0;
+    const bool nueva = ::mkdirat(fd(), real.constData(), permisosDe(*m_carpeta, m_ruta)) == 0;
     if (!nueva && errno != EEXIST)
         falla(rutaDe(nombre));
-    CarpetaBuzon hija = subcarpeta(nombre);
+    CarpetaCompartida hija = subcarpeta(nombre);
     // Whoever writes first to somebody makes a folder in which the other must be able to publish,
     // whatever the mask of this account. A file system without permissions refuses, and needs none.
     if (nueva)
-        static_cast<void>(::fchmod(hija.fd(), modo() & 07777));
+        static_cast<void>(::fchmod(hija.fd(), permisosDe(*m_carpeta, m_ruta)));
     return hija;
 }
 
-QStringList CarpetaBuzon::subcarpetas() const
+QStringList CarpetaCompartida::subcarpetas() const
 {
     QStringList nombres;
     recorre(fd(), m_ruta, [&](const QString &nombre, bool esCarpeta) {
@@ -136,7 +133,7 @@ QStringList CarpetaBuzon::subcarpetas() const
     return nombres;
 }
 
-QStringList CarpetaBuzon::entradas() const
+QStringList CarpetaCompartida::entradas() const
 {
     QStringList nombres;
     recorre(fd(), m_ruta, [&](const QString &nombre, bool esCarpeta) {
@@ -146,22 +143,21 @@ QStringList CarpetaBuzon::entradas() const
     return nombres;
 }
 
-Descriptor CarpetaBuzon::abreArchivo(const QString &nombre) const
+Descriptor CarpetaCompartida::abreArchivo(const QString &nombre) const
 {
     // Without O_NONBLOCK, opening a pipe would wait for its writer.
     Descriptor archivo(::openat(fd(), QFile::encodeName(nombreReal(nombre)).constData(),
                                 O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (!archivo.abierto() && errno == ENOENT)
         throw ErrorEjecucion(ErrorEjecucion::ArchivoNoEncontrado, rutaDePlataforma(rutaDe(nombre)));
-    struct stat estado;
-    if (!archivo.abierto() || ::fstat(archivo.fd(), &estado) != 0)
+    if (!archivo.abierto())
         falla(rutaDe(nombre));
-    if (!S_ISREG(estado.st_mode))
+    if (!S_ISREG(archivo.estado(rutaDe(nombre)).st_mode))
         falla(rutaDe(nombre), EACCES);
     return archivo;
 }
 
-QByteArray CarpetaBuzon::leePrincipio(const QString &nombre, qint64 maximo) const
+QByteArray CarpetaCompartida::leePrincipio(const QString &nombre, qint64 maximo) const
 {
     const Descriptor archivo = abreArchivo(nombre);
     QByteArray bytes;
@@ -180,7 +176,7 @@ QByteArray CarpetaBuzon::leePrincipio(const QString &nombre, qint64 maximo) cons
     return bytes;
 }
 
-QByteArray CarpetaBuzon::lee(const QString &nombre, qint64 maximo) const
+QByteArray CarpetaCompartida::lee(const QString &nombre, qint64 maximo) const
 {
     QByteArray bytes = leePrincipio(nombre, maximo + 1);
     if (bytes.size() > maximo)
@@ -190,8 +186,10 @@ QByteArray CarpetaBuzon::lee(const QString &nombre, qint64 maximo) const
     return bytes;
 }
 
-void CarpetaBuzon::sustituye(const QString &nombre, const QByteArray &contenido) const
+void CarpetaCompartida::sustituye(const QString &nombre, const QByteArray &contenido) const
 {
     const QString real = nombreReal(nombre);
-    Borrador(*this, contenido).nombra(real);
+    ArchivoProvisional archivo(*this, contenido);
+    archivo.quitaAbandonados(entradas());
+    archivo.nombra(real);
 }

@@ -1,5 +1,7 @@
-#include "minical/windows/FormCalcLetra.h"
+#include "minical/windows/FormCalcAspecto.h"
 
+#include <QCursor>
+#include <QGuiApplication>
 #include <QStringList>
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,4 +13,14 @@ QFont letraDeHoja()
                        u"monospace"_s});
     letra.setStyleHint(QFont::Monospace);
     return letra;
+}
+
+RelojDeArena::RelojDeArena()
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+RelojDeArena::~RelojDeArena()
+{
+    QGuiApplication::restoreOverrideCursor();
 }
