@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // libbignum against PARI's library on the same numbers in the same run. The library is measured
 // through its C interface, texts in and texts out; PARI is called directly. It stops with an error
 // where the two disagree. Times are elapsed ones: ours uses all cores, PARI one.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The quadratic sieve alone, on all cores: what each stage takes of its time, the memory that the
 // process needed so far, and how soon it stops.
 // Usage: bench_sieve [DIGITS]...   products of two equal primes; 60 and 75 without arguments.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/FactoresHallados.h"
 #include "bignum/gateway/ModBignum.h"
@@ -199,7 +200,9 @@ private Q_SLOTS:
 
     void buscaFactoresDejaPasarLoQueSeLanza()
     {
-        const auto lanza = [](const FactorHallado &) -> bool { throw ErrorEjecucion(ErrorEjecucion::DivisionPorCero); };
+        const auto lanza = [](const FactorHallado &) -> bool {
+            throw ErrorEjecucion(ErrorEjecucion::DivisionPorCero);
+        };
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, BuscaFactores(u"6"_s, lanza));
     }
 
