@@ -25,7 +25,7 @@ mpz_class fibonacciByDoubling(unsigned n, Work &work)
     mpz_class f = 0;
     mpz_class g = 1;
     mpz_class even;
-    for (int bit = std::bit_width(n) - 1; bit >= 0; --bit) {
+    for (int bit = static_cast<int>(std::bit_width(n)) - 1; bit >= 0; --bit) {
         even = g + g;
         even -= f;
         even *= f;

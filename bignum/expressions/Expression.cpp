@@ -315,6 +315,7 @@ private:
         checkPatience();
         if (function.ofWholes) {
             std::vector<mpz_class> wholes;
+            wholes.reserve(arguments.size());
             for (const Number &argument : arguments)
                 wholes.push_back(arithmetic::whole(argument));
             return Number(function.ofWholes(wholes));

@@ -96,11 +96,10 @@ private:
 void Search::process(const Part &part)
 {
     // Where even a test of primality would outlast the effort, a number counts as composite.
-    if (bitCount(part.value) > testableBits())
-        giveUp(part);
-    else if (isPrime(part.value))
+    const bool testable = bitCount(part.value) <= testableBits();
+    if (testable && isPrime(part.value))
         handPrime(part);
-    else if (!split(part))
+    else if (!testable || !split(part))
         giveUp(part);
 }
 
