@@ -1,3 +1,4 @@
+/* SPDX-License-Identifier: GPL-3.0-or-later */
 /*
  * libbignum: arithmetic on integers and rationals of any size, exchanged as texts of decimal
  * digits.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "minical/ArchivoDeHoja.h"
 
 #include "minical/HojaDeCalculo.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/start/Main.h"
 #include "numora/Lecciones.h"
 #include "shell/look/TextosDeQt.h"

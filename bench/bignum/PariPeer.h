@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <cstdio>
@@ -5,8 +6,8 @@
 #include <string>
 #include <sys/types.h>
 
-/// PARI's library at the same work. It runs in a process of its own, forked by the constructor,
-/// because the library that is measured starts PARI as well; times are taken in that process.
+/// PARI's library at the same work. It runs in a process of its own, forked by the constructor, so
+/// that neither disturbs the memory of the other; times are taken in that process.
 class PariPeer
 {
 public:

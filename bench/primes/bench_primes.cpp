@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The primes lesson: what the yields of the trial divisions cost, and the sieve beside primesieve.
 
 #include "PlainLoops.h"

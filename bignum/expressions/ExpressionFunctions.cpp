@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/expressions/ExpressionFunctions.h"
 
 #include "bignum/arithmetic/FibonacciMethods.h"

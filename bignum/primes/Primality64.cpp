@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/arithmetic/Montgomery64.h"
 #include "bignum/primes/Primality.h"
 #include "bignum/primes/PrimalityTests.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/congruences/SistemaCongruencias.h"
 
 #include "bignum/gateway/Azar.h"

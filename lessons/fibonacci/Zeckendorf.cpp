@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/fibonacci/Zeckendorf.h"
 
 #include "bignum/gateway/ModBignum.h"

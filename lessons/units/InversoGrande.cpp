@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/units/InversoGrande.h"
 
 #include "bignum/gateway/Azar.h"

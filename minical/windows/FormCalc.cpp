@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "minical/windows/FormCalc.h"
 
 #include "minical/windows/FormCalcAspecto.h"

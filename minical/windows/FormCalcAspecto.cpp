@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "minical/windows/FormCalcAspecto.h"
 
 #include <QCursor>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "minical/windows/FormCalcCampo.h"
 
 #include "minical/HojaDeCalculo.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window of the sheet: what its commands and the grid do with cells.
 
 #include "bignum/gateway/ModBignum.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "minical/windows/FormCalcDelegado.h"
 
 #include "minical/windows/FormCalcCampo.h"

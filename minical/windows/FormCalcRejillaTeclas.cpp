@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The grid of the sheet: where keys and mouse lead.
 
 #include "minical/windows/FormCalcRecorrido.h"

@@ -1,3 +1,4 @@
+/* SPDX-License-Identifier: GPL-3.0-or-later */
 /* That this compiles as C with all warnings on is the test of the header. */
 #include "bignum/bignum.h"
 

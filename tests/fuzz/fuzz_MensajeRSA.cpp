@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/rsa/key/TextoEnBloques.h"
 #include "lessons/rsa/mailbox/ArchivoMensaje.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/fuzz/FuzzTarget.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

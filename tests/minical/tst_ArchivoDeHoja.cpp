@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "minical/DocumentoDeHoja.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"

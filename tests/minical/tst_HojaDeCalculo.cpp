@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "minical/HojaGuardada.h"
 #include "minical/Sustitucion.h"

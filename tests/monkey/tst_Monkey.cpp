@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "numora/Lecciones.h"
 #include "tests/monkey/Mono.h"
 #include "tests/numora/Estudiante.h"

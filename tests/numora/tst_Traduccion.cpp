@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "numora/Lecciones.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Perfil.h"

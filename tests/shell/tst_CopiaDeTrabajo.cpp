@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/system/Archivos.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/run/Espera.h"
 #include "shell/core/run/Tareas.h"
 

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/sieve/plan/InverseRows.h"
+
+#include <algorithm>
 
 namespace bignum::sieve {
 
@@ -18,31 +21,43 @@ std::vector<std::uint32_t> inversesModulo(std::uint32_t q)
     return inverse;
 }
 
-AlignedVector<std::uint32_t> inverseRow(const FactorBase &base, std::size_t places, std::uint32_t q)
+void findInverses(const FactorBase &base, std::uint32_t q, AlignedVector<std::uint32_t> &row)
 {
     const std::vector<std::uint32_t> inverse = inversesModulo(q);
-    AlignedVector<std::uint32_t> row(places);
     for (std::size_t i = kFirstOddPrime; i < base.size(); ++i) {
-        const std::uint32_t p = base.primes[i];
-        if (p == q)
-            continue;
         // p·t = -1 modulo q makes p·t + 1 divisible by q; the quotient is 1/q modulo p.
+        const std::uint32_t p = base.primes[i];
         const std::uint32_t t = q - inverse[p % q];
-        row[i] = static_cast<std::uint32_t>((std::uint64_t{p} * t + 1) / q);
+        row[i] = p == q ? 0 : static_cast<std::uint32_t>((std::uint64_t{p} * t + 1) / q);
     }
-    return row;
 }
 
 } // namespace
 
+InverseRows::InverseRows(const FactorBase &base, std::size_t places)
+    : m_base(base), m_places(places), m_most(std::max(kMostKept / places, std::size_t{1}))
+{
+}
+
 const std::uint32_t *InverseRows::row(std::uint32_t index)
 {
-    if (m_rows.size() * m_places > kMostKept)
-        m_rows.clear();
-    AlignedVector<std::uint32_t> &row = m_rows[index];
-    if (row.empty())
-        row = inverseRow(m_base, m_places, m_base.primes[index]);
-    return row.data();
+    for (const Row &row : m_rows)
+        if (row.index == index)
+            return row.inverses.data();
+    Row &row = freeRow();
+    row.index = 0;
+    findInverses(m_base, m_base.primes[index], row.inverses);
+    row.index = index;
+    return row.inverses.data();
+}
+
+/// A row is given up to be used again: freed and allocated between the relations, rows would tear
+/// the memory to pieces.
+InverseRows::Row &InverseRows::freeRow()
+{
+    if (m_rows.size() < m_most)
+        return m_rows.emplace_back(Row{0, AlignedVector<std::uint32_t>(m_places)});
+    return m_rows[m_next++ % m_most];
 }
 
 } // namespace bignum::sieve

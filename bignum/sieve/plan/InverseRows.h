@@ -1,9 +1,8 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "bignum/sieve/AlignedVector.h"
 #include "bignum/sieve/plan/FactorBase.h"
-
-#include <map>
 
 namespace bignum::sieve {
 
@@ -12,16 +11,26 @@ namespace bignum::sieve {
 class InverseRows
 {
 public:
-    InverseRows(const FactorBase &base, std::size_t places) : m_base(base), m_places(places) {}
+    InverseRows(const FactorBase &base, std::size_t places);
 
     /// By base index, for places() places; 0 at the index of q itself, below kFirstOddPrime, and
     /// from the end of the base on. Good until the next call.
     const std::uint32_t *row(std::uint32_t index);
 
 private:
+    struct Row
+    {
+        std::uint32_t index; ///< of q; 0 for none
+        AlignedVector<std::uint32_t> inverses;
+    };
+
+    Row &freeRow();
+
     const FactorBase &m_base;
     std::size_t m_places;
-    std::map<std::uint32_t, AlignedVector<std::uint32_t>> m_rows;
+    std::size_t m_most;     ///< rows that are kept
+    std::size_t m_next = 0; ///< the one to be given up next
+    std::vector<Row> m_rows;
 };
 
 } // namespace bignum::sieve

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/sieve/plan/Parameters.h"
 
 #include <algorithm>
@@ -19,7 +20,7 @@ struct Row
     double unsievedFactor;
 };
 
-constexpr std::array<Row, 13> kTable{{
+constexpr std::array<Row, 16> kTable{{
     {50, 40, 1, 5, 0, 6, 0.5},
     {66, 57, 1, 6, 0, 9, 0.55},
     {83, 116, 1, 18, 0, 12, 0.7},
@@ -31,8 +32,11 @@ constexpr std::array<Row, 13> kTable{{
     {184, 2700, 1, 50, 0, 230, 2.5},
     {200, 5250, 1, 55, 0, 400, 2.5},
     {215, 8500, 1, 80, 0, 450, 2.5},
-    {240, 17500, 2, 80, 0, 400, 2.5},
-    {265, 45000, 4, 100, 0, 400, 2.5},
+    {240, 17500, 2, 80, 0, 450, 2.5},
+    {257, 30000, 2, 100, 0, 450, 2.5},
+    {258, 28000, 3, 60, 1.8, 450, 1.6}, // from here on two large primes pay, with a smaller base
+    {266, 36000, 3, 60, 1.8, 450, 1.6},
+    {275, 48000, 4, 60, 1.8, 450, 1.6}, // not measured, but continued
 }};
 
 /// Between the values of two rows: geometrically, since all grow with the size of n in this way.

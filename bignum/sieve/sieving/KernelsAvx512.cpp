@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/sieve/AlignedVector.h"
 #include "bignum/sieve/plan/Parameters.h"
 #include "bignum/sieve/sieving/KernelSets.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/sieve/sieving/RootTable.h"
 
 #include "bignum/sieve/plan/SmallModulus.h"

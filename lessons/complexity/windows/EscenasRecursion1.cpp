@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/complexity/windows/EscenasRecursion1.h"
 
 using namespace Qt::Literals::StringLiterals;

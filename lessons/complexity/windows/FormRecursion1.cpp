@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/complexity/windows/FormRecursion1.h"
 
 #include "lessons/complexity/CuestionesComplejidad.h"

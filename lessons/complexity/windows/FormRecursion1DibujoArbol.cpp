@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/complexity/windows/FormRecursion1DibujoArbol.h"
 
 #include "shell/look/Aspecto.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/complexity/windows/FormRecursion1DibujoHanoi.h"
 
 #include "lessons/complexity/GeometriaHanoi.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/congruences/windows/FormTCR.h"
 
 #include "lessons/congruences/windows/FormTCRSistema.h"

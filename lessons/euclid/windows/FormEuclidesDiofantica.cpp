@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/windows/FormEuclidesDiofantica.h"
 
 #include "lessons/euclid/ModeloSoluciones.h"

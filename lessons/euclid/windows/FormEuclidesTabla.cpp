@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/windows/FormEuclidesTabla.h"
 
 #include "lessons/euclid/windows/ModeloEuclides.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/primes/windows/ModeloFactores.h"
 
 #include "shell/core/ModGlobal.h"

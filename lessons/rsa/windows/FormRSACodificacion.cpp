@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/rsa/windows/FormRSACodificacion.h"
 
 #include "lessons/rsa/windows/FormRSABloques.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // The one place that asks for the coroutines of C++20. Qt's meta-object compiler of Qt 6.4 cannot

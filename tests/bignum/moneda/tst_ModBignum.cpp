@@ -1,4 +1,6 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/FactoresHallados.h"
 #include "bignum/gateway/ModBignum.h"
 #include "bignum/gateway/Windows1252.h"
 
@@ -167,6 +169,41 @@ private Q_SLOTS:
         QCOMPARE(exponentes, (QStringList{u"3"_s, u"2"_s, u"1"_s, QString()}));
         QStringList uno(1), otro(1);
         QCOMPARE(Factoriza(u"6"_s, uno, otro), 0);
+    }
+
+    void buscaFactores_data()
+    {
+        QTest::addColumn<QString>("n");
+        QTest::addColumn<FinDeFactores>("fin");
+        QTest::addColumn<QString>("hallados");
+        const auto fila = [](const char *n, FinDeFactores fin, const char *hallados) {
+            QTest::newRow(n) << QString::fromLatin1(n) << fin << QString::fromLatin1(hallados);
+        };
+        fila("360", FinDeFactores::TodosPrimos, "2^3 3^2 5^1");
+        fila("1", FinDeFactores::TodosPrimos, "");
+        fila("1/2", FinDeFactores::NoEsNumero, "");
+        fila("30030", FinDeFactores::Detenido, "2^1 3^1 5^1 7^1"); // the receiver wants no more
+    }
+    void buscaFactores()
+    {
+        QFETCH(const QString, n);
+        QFETCH(const FinDeFactores, fin);
+        QStringList hallados;
+        QCOMPARE(BuscaFactores(n,
+                               [&](const FactorHallado &factor) {
+                                   hallados += u"%1^%2"_s.arg(factor.base).arg(factor.exponente);
+                                   return factor.primo && hallados.size() < 4;
+                               }),
+                 fin);
+        QTEST(hallados.join(u' '), "hallados");
+    }
+
+    void buscaFactoresDejaPasarLoQueSeLanza()
+    {
+        const auto lanza = [](const FactorHallado &) -> bool {
+            throw ErrorEjecucion(ErrorEjecucion::DivisionPorCero);
+        };
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, BuscaFactores(u"6"_s, lanza));
     }
 
     void textos()

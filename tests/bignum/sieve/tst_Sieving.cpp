@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "SieveNumbers.h"
 
 #include "bignum/sieve/Cores.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/congruences/windows/FormTCR.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/grid/Rejilla.h"

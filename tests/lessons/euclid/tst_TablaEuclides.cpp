@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/TablaEuclides.h"
 #include "tests/lessons/euclid/Muestras.h"
 

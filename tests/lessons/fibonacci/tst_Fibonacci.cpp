@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/fibonacci/CalculoFibonacci.h"
 #include "lessons/fibonacci/CuestionesFibonacci.h"

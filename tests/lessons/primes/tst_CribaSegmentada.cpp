@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/primes/CribaSegmentada.h"
 #include "lessons/primes/PrimosDelServicio.h"
 

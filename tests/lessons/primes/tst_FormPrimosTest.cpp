@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/primes/windows/FormPrimos.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/controls/Dibujo.h"

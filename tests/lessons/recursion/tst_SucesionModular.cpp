@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/recursion/modular/ModeloValores.h"
 #include "lessons/recursion/modular/SucesionModular.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/ModGlobal.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 

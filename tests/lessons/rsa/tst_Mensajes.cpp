@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/Windows1252.h"
 #include "lessons/rsa/mailbox/ArchivoMensaje.h"
 #include "lessons/rsa/mailbox/Buzon.h"

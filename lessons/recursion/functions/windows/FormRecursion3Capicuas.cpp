@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/recursion/functions/windows/FormRecursion3Capicuas.h"
 
 #include "lessons/recursion/functions/windows/FormRecursion3PintorDeNumeros.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/recursion/modular/windows/FormRecursion2Cuestiones.h"
 
 #include "shell/look/Aspecto.h"
