@@ -182,6 +182,7 @@ private Q_SLOTS:
             } catch (const ErrorEjecucion &error) {
                 QCOMPARE(error.numero(), ErrorEjecucion::Desbordamiento);
                 QVERIFY(error.detalle().contains(u"1.000.000"_s));
+                QVERIFY(otra.memoria->columnas() <= MemoriaAck::MaximoDeLineas);
             }
         }
     }

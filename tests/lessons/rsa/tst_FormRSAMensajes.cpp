@@ -157,6 +157,7 @@ private Q_SLOTS:
     /// The program is gone between two writings: what it leaves behind is put in its place.
     void laClavePropiaSobreviveAlPrograma()
     {
+        m_yo->escribe(u"eva/Clave.RSA"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
         preparaBuzon();
         const QByteArray propia = Estudiante::lee(m_yo->ficheroPrivado());
         for (const QString &usuario : {u"ana"_s, u"eva"_s})
