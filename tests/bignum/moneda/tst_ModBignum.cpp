@@ -199,7 +199,9 @@ private Q_SLOTS:
 
     void buscaFactoresDejaPasarLoQueSeLanza()
     {
-        const auto lanza = [](const FactorHallado &) -> bool { throw ErrorEjecucion(ErrorEjecucion::DivisionPorCero); };
+        const auto lanza = [](const FactorHallado &) -> bool {
+            throw ErrorEjecucion(ErrorEjecucion::DivisionPorCero);
+        };
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, BuscaFactores(u"6"_s, lanza));
     }
 
