@@ -17,6 +17,7 @@
 #include <array>
 #include <atomic>
 #include <chrono>
+#include <memory>
 #include <thread>
 #include <unistd.h>
 
@@ -66,10 +67,10 @@ void sirveEventosDurante(std::chrono::milliseconds tiempo)
 }
 
 /// The program with its main window open and at rest: the logo has played.
-ProgramaEnMarcha programa()
+std::unique_ptr<Programa> programa()
 {
-    ProgramaEnMarcha enMarcha = Main(QString(), contenidoDelPrograma());
-    enMarcha.principal->show();
+    auto enMarcha = std::make_unique<Programa>(QString(), contenidoDelPrograma());
+    enMarcha->principal()->show();
     QTimer tictac; // wakes the loop where nothing else happens
     tictac.start(20ms);
     sirveEventosDurante(7s);
@@ -105,20 +106,20 @@ int hijo::presentacion(int argc, char *argv[])
     QApplication aplicacion(argc, argv);
     HastaPintar espera;
     aplicacion.installEventFilter(&espera);
-    const ProgramaEnMarcha enMarcha = Main(QString(), contenidoDelPrograma());
+    const Programa enMarcha(QString(), contenidoDelPrograma());
     return QApplication::exec();
 }
 
 int hijo::lecciones(int argc, char *argv[])
 {
     QApplication aplicacion(argc, argv);
-    const ProgramaEnMarcha enMarcha = programa();
+    const auto enMarcha = programa();
     double peor = 0;
     for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < 9; ++fila) {
-        abreYCierra(*enMarcha.principal, fila); // warms it up
+        abreYCierra(*enMarcha->principal(), fila); // warms it up
         std::array<double, 5> tiempos{};
         for (double &tiempo : tiempos)
-            tiempo = abreYCierra(*enMarcha.principal, fila);
+            tiempo = abreYCierra(*enMarcha->principal(), fila);
         std::sort(tiempos.begin(), tiempos.end());
         peor = std::max(peor, tiempos[tiempos.size() / 2]);
     }
@@ -129,9 +130,9 @@ int hijo::lecciones(int argc, char *argv[])
 int hijo::memoria(int argc, char *argv[])
 {
     QApplication aplicacion(argc, argv);
-    const ProgramaEnMarcha enMarcha = programa();
+    const auto enMarcha = programa();
     for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < 9; ++fila)
-        enMarcha.principal->abreLeccion(fila);
+        enMarcha->principal()->abreLeccion(fila);
     QCoreApplication::processEvents();
     imprime(static_cast<double>(memoriaResidente()));
     return 0;
