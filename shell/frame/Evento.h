@@ -24,7 +24,7 @@ void evento(QWidget *ventana, const std::function<void()> &accion);
 
 /// The tasks of a window, whose errors are shown as those of its events. `parada` is the stop line
 /// where several windows share one.
-class TareasDeVentana : public Tareas
+class TareasDeVentana final : public Tareas
 {
 public:
     explicit TareasDeVentana(QWidget *ventana,
