@@ -19,32 +19,28 @@ private Q_SLOTS:
     void init() { Entorno::limpia(); }
     void cleanup() { QFile::remove(tabla()); }
 
-    void NumVal_data()
-    {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<double>("valor");
-        QTest::newRow("blank of the sign position") << u" 200"_s << 200.0;
-        QTest::newRow("point") << u"1.5"_s << 1.5;
-        QTest::newRow("comma ends the number") << u"1,5"_s << 1.0;
-        QTest::newRow("exponent D") << u"-2d3"_s << -2000.0;
-        QTest::newRow("letters") << u"12abc"_s << 0.0;
-        QTest::newRow("sign alone") << u"-"_s << 0.0;
-        QTest::newRow("empty") << QString() << 0.0;
-        QTest::newRow("beyond a double") << u"1e999"_s << 0.0;
-    }
     void NumVal()
     {
-        QFETCH(QString, texto);
-        QTEST(::NumVal(texto), "valor");
+        for (const auto &[texto, valor] : {std::pair{u" 200"_s, 200.0},
+                                           {u"1.5"_s, 1.5},
+                                           {u"1,5"_s, 1},
+                                           {u"-2d3"_s, -2000},
+                                           {u"12abc"_s, 0},
+                                           {u"-"_s, 0},
+                                           {{}, 0},
+                                           {u"1e999"_s, 0}})
+            QCOMPARE(::NumVal(texto), valor);
     }
 
     void redondeos()
     {
-        QCOMPARE(Redondea(2.5), 3);
-        QCOMPARE(Redondea(-2.5), -3);
-        QCOMPARE(Redondea(-2.49), -2);
-        QCOMPARE(Redondea(0.49999999999999994), 0);
-        QCOMPARE(Redondea(-2147483648.0), std::numeric_limits<std::int32_t>::min());
+        constexpr auto minimo = std::numeric_limits<std::int32_t>::min();
+        for (const auto &[valor, redondo] : {std::pair{2.5, 3},
+                                             {-2.5, -3},
+                                             {-2.49, -2},
+                                             {0.49999999999999994, 0},
+                                             {-2147483648.0, minimo}})
+            QCOMPARE(Redondea(valor), redondo);
         QCOMPARE(Techo(-2.5), -2);
         QCOMPARE(Techo(2147483647.0), 2147483647);
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, Redondea(2147483647.5));
@@ -70,40 +66,35 @@ private Q_SLOTS:
         escribeTabla("[English]\r\nPrimos = Primes\r\nEl mayor es=The largest is\r\n"
                      "Uno\\ndos=One\\ntwo\r\nx \\e 1=y = 1\r\nLargo=" +
                      QByteArray(3000, 'x') + "\r\n[Français]\nPrimos=Premiers\n");
-        QCOMPARE(::Traduce(u"Primos"_s), u"Primos"_s);
-        Idioma() = u"english"_s;
-        QCOMPARE(::Traduce(u"Primos"_s), u"Primes"_s);
-        QCOMPARE(::Traduce(u"El mayor es "_s), u"The largest is "_s);
-        QCOMPARE(::Traduce(u"Uno\ndos"_s), u"One\ntwo"_s);
-        QCOMPARE(::Traduce(u"x = 1"_s), u"y = 1"_s);
-        QCOMPARE(::Traduce(u"Largo"_s).size(), 1023);
-        QCOMPARE(::Traduce(u"Sin entrada"_s), u"Sin entrada"_s);
-        Idioma() = u"Français"_s;
-        QCOMPARE(::Traduce(u"Primos"_s), u"Premiers"_s);
-        Idioma() = QString();
-        QCOMPARE(::Traduce(u"Primos"_s), u"Primos"_s);
+        const QString ingles = u"english"_s;
+        for (const auto &[idioma, texto, traducido] :
+             {std::tuple{u"Español"_s, u"Primos"_s, u"Primos"_s},
+              {ingles, u"Primos"_s, u"Primes"_s},
+              {ingles, u"El mayor es "_s, u"The largest is "_s},
+              {ingles, u"Uno\ndos"_s, u"One\ntwo"_s},
+              {ingles, u"x = 1"_s, u"y = 1"_s},
+              {ingles, u"Largo"_s, QString(1023, u'x')},
+              {ingles, u"Sin entrada"_s, u"Sin entrada"_s},
+              {u"Français"_s, u"Primos"_s, u"Premiers"_s},
+              {QString(), u"Primos"_s, u"Primos"_s}}) {
+            Idioma() = idioma;
+            QCOMPARE(::Traduce(texto), traducido);
+        }
     }
 
-    void losTextosDeQt_data()
-    {
-        QTest::addColumn<QString>("idioma");
-        QTest::addColumn<QString>("texto");
-        QTest::newRow("Spanish") << u"Español"_s << u"Cancelar"_s;
-        QTest::newRow("translated") << u"English"_s << u"Cancel"_s;
-        QTest::newRow("no such section") << u"x"_s << u"Cancelar"_s;
-        QTest::newRow("no language") << QString() << u"Cancelar"_s;
-    }
     void losTextosDeQt()
     {
-        QFETCH(QString, idioma);
         escribeTabla("[English]\nPrimos=Primes\n[Español]\nPrimos=Números primos\n");
-        Idioma() = idioma;
-        instalaTextosDeQt();
-        QTEST(QCoreApplication::translate("QPlatformTheme", "Cancel"), "texto");
-        const bool espanol = QTest::currentDataTag() != "translated"_ba;
-        // One that Qt's own Spanish lacks.
-        QCOMPARE(QCoreApplication::translate("QPrintSettingsOutput", "Off"),
-                 espanol ? u"No"_s : u"Off"_s);
+        for (const QString &idioma : {u"Español"_s, u"English"_s, u"x"_s, QString()}) {
+            Idioma() = idioma;
+            instalaTextosDeQt();
+            const bool ingles = idioma == u"English";
+            QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"),
+                     ingles ? u"Cancel"_s : u"Cancelar"_s);
+            // One that Qt's own Spanish lacks.
+            QCOMPARE(QCoreApplication::translate("QPrintSettingsOutput", "Off"),
+                     ingles ? u"Off"_s : u"No"_s);
+        }
     }
 
     void carpetaDeLaSesion()
@@ -131,13 +122,14 @@ private Q_SLOTS:
         QCOMPARE(Sesión().Precisión(), 100);
         Sesión().ponPrecisión(200);
         QCOMPARE(Sesión().lee(u"Aritmética"_s, u"Precisión"_s), u" 200"_s);
+        const auto guardada = [](const QString &texto) {
+            Sesión().guarda(u"Aritmética"_s, u"Precisión"_s, texto);
+            return Sesión().Precisión();
+        };
         QCOMPARE(Sesión().Precisión(), 200);
-        Sesión().guarda(u"Aritmética"_s, u"Precisión"_s, u"dañada"_s);
-        QCOMPARE(Sesión().Precisión(), 0);
-        Sesión().guarda(u"Aritmética"_s, u"Precisión"_s, u"2.5"_s);
-        QCOMPARE(Sesión().Precisión(), 2);
-        Sesión().guarda(u"Aritmética"_s, u"Precisión"_s, u"1e10"_s);
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, Sesión().Precisión());
+        QCOMPARE(guardada(u"dañada"_s), 0);
+        QCOMPARE(guardada(u"2.5"_s), 2);
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, guardada(u"1e10"_s));
     }
 
     void animaciones()
