@@ -20,23 +20,20 @@ class TestArchivos : public QObject
 private Q_SLOTS:
     void leePerfil()
     {
-        const QList<std::pair<QByteArray, QString>> filas{
-            {"[RSA]\r\nq(0)=12\r\n", u"12"_s},
-            {"[rsa]\nQ(0) = 12 \n", u"12"_s},
-            {"\xEF\xBB\xBF[RSA]\r\nq(0)=12\r\n", u"12"_s},
-            {"[RSA]\nq(0)=\" 12 \"\n", u" 12 "_s},
-            {"[RSA]\nq(0)=12\nq(0)=13\n", u"12"_s},
-            {"[RSA]\nq(0)=a\xF1o\n", u"año"_s},
-            {"[RSA]\nq(0)=a\xC3\xB1o\n", u"año"_s},
-            {"[RSA]\nq(0)=12", u"12"_s},
-            {"[R]\nq(0)=12\n", u"falta"_s},
-            {"q(0)=12\n", u"falta"_s},
-            {QByteArray(100, '\0'), u"falta"_s}};
-        for (const auto &[bytes, valor] : filas) {
+        const auto valor = [](const QByteArray &bytes) {
             Perfil perfil;
             perfil.leeBytes(bytes);
-            QVERIFY2(perfil.valor(u"RSA"_s, u"q(0)"_s, u"falta"_s) == valor, bytes);
-        }
+            return perfil.valor(u"RSA"_s, u"q(0)"_s, u"falta"_s);
+        };
+        for (const QByteArray &bytes :
+             {"[RSA]\r\nq(0)=12\r\n"_ba, "[rsa]\nQ(0) = 12 \n"_ba, "[RSA]\nq(0)=12"_ba,
+              "\xEF\xBB\xBF[RSA]\r\nq(0)=12\r\n"_ba, "[RSA]\nq(0)=12\nq(0)=13\n"_ba})
+            QVERIFY2(valor(bytes) == u"12", bytes);
+        QCOMPARE(valor("[RSA]\nq(0)=\" 12 \"\n"), u" 12 "_s);
+        QCOMPARE(valor("[RSA]\nq(0)=a\xF1o\n"), u"año"_s);
+        QCOMPARE(valor("[RSA]\nq(0)=a\xC3\xB1o\n"), u"año"_s);
+        for (const QByteArray &bytes : {"[R]\nq(0)=12\n"_ba, "q(0)=12\n"_ba, QByteArray(100, '\0')})
+            QVERIFY2(valor(bytes) == u"falta", bytes);
     }
 
     void limitesDelPerfil()

@@ -55,16 +55,10 @@ private Q_SLOTS:
 
     void idioma()
     {
-        const QString propio = u"Español"_s;
-        for (const auto &[linea, esperado] : {std::pair{QString(), propio},
-                                              {u"uno dos"_s, propio},
-                                              {u"-I:English"_s, propio},
-                                              {u"-i:English"_s, u"English"_s},
-                                              {u"x -i:English"_s, u"English"_s},
-                                              {u"-i:English x"_s, {}},
-                                              {u"-i:English abcdef"_s, u"def"_s},
-                                              {u"-i:English "_s, {}}})
-            QCOMPARE(idiomaDeLinea(linea), esperado);
+        for (const QString &fila :
+             u"=Español|uno dos=Español|-I:English=Español|-i:English=English|x -i:English=English|"
+             "-i:English x=|-i:English abcdef=def|-i:English ="_s.split(u'|'))
+            QCOMPARE(idiomaDeLinea(fila.section(u'=', 0, 0)), fila.section(u'=', 1));
     }
 
     /// A third answer is not asked for.

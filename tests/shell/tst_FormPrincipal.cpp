@@ -77,13 +77,19 @@ private Q_SLOTS:
     }
     void cleanup() { m_principal.reset(); }
 
-    void elRatonResaltaUnaFila()
+    void elMenuSeLlevaConElRatonYConElTeclado()
     {
         mueveA(2);
         mueveA(5);
         QCOMPARE(resaltadas(), QList<int>{5});
         QTest::mouseMove(m_menu->viewport(), {5, m_menu->viewport()->height() - 2});
         QCOMPARE(resaltadas(), QList<int>{5});
+        m_menu->setFocus();
+        m_menu->setCurrentIndex(m_menu->model()->index(0, 0));
+        QTest::keyClick(m_menu, Qt::Key_Down);
+        QCOMPARE(resaltadas(), QList<int>{1});
+        QTest::keyClick(m_menu, Qt::Key_Return);
+        QCOMPARE(titulos(), QStringList{u"Uno"_s});
     }
 
     void elClicAbreUnaSolaVentana()
@@ -105,16 +111,6 @@ private Q_SLOTS:
         QCOMPARE(titulos().size(), 2);
         for (const int ninguna : {-2, 99, int(FormPrincipal::FilaHojaDeCalculo)})
             QVERIFY(!m_principal->abreLeccion(ninguna));
-    }
-
-    void elMenuSeLlevaConElTeclado()
-    {
-        m_menu->setFocus();
-        m_menu->setCurrentIndex(m_menu->model()->index(0, 0));
-        QTest::keyClick(m_menu, Qt::Key_Down);
-        QCOMPARE(resaltadas(), QList<int>{1});
-        QTest::keyClick(m_menu, Qt::Key_Return);
-        QCOMPARE(titulos(), QStringList{u"Uno"_s});
     }
 
     void laBienvenidaSeVeSinVentanas()

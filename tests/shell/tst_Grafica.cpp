@@ -50,12 +50,8 @@ private Q_SLOTS:
         for (int i = 0; i < 100; ++i)
             m_encuadre.amplia(1 / 1.3, {50, 10});
         QCOMPARE(m_encuadre.visible(), QRectF(0, 0, 250, 1000));
-    }
-
-    void unaFuncionConstante()
-    {
         m_encuadre.ponLimites({0, 0, 250, 0});
-        QCOMPARE(m_encuadre.aPixel({0, 0}).y(), 210.0);
+        QCOMPARE(m_encuadre.aPixel({0, 0}).y(), 210.0); // of a constant function
         m_encuadre.amplia(8, {300, 100});
         QCOMPARE(m_encuadre.visible().height(), 1.0);
     }

@@ -60,6 +60,11 @@ public:
         for (const QString &esquema : {u"file"_s, u"https"_s})
             QDesktopServices::setUrlHandler(esquema, this, "abre");
     }
+    ~Escritorio() override
+    {
+        for (const QString &esquema : {u"file"_s, u"https"_s})
+            QDesktopServices::unsetUrlHandler(esquema);
+    }
 
     QList<QUrl> abiertas;
 
@@ -118,14 +123,13 @@ private Q_SLOTS:
                                                              {u"otra"_s, 0, u"otra.uno"_s},
                                                              {u"otra"_s, 1, u"otra.dos"_s},
                                                              {u"otra.txt"_s, 1, u"otra.txt"_s}};
-        for (const auto &fila : filas) {
-            const auto &[nombre, filtro, ruta] = fila;
-            const auto escribe = [&](QFileDialog &dialogo) {
-                if (std::get<1>(fila) != 0) {
-                    dialogo.selectNameFilter(filtros.last());
-                    Q_EMIT dialogo.filterSelected(filtros.last());
+        for (const auto &[nombre, filtro, ruta] : filas) {
+            const auto escribe = [&, nombre = nombre, filtro = filtro](QFileDialog &dialogo) {
+                if (filtro != 0) {
+                    dialogo.selectNameFilter(filtros[filtro]);
+                    Q_EMIT dialogo.filterSelected(filtros[filtro]);
                 }
-                teclea(dialogo, std::get<0>(fila));
+                teclea(dialogo, nombre);
             };
             auto elige = m_real.eligeArchivoParaGuardar(nullptr, u"Guardar"_s,
                                                         carpeta.filePath(u"hoja.uno"_s), filtros);
