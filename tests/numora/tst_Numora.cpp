@@ -16,7 +16,7 @@ private Q_SLOTS:
 
     void contestaSinPantalla()
     {
-        for (const auto variable : {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s})
+        for (const QString &variable : {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s})
             m_entorno.remove(variable);
         m_entorno.insert(u"LC_ALL"_s, u"es_ES.UTF-8"_s);
         for (const auto &[opcion, contiene] :
