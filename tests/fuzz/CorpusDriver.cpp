@@ -7,8 +7,8 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <set>
 #include <string_view>
-#include <vector>
 
 // Stands in for libFuzzer where the compiler has none: runs a target over each file of a folder
 // and over mutations of it, the same in every run.
@@ -37,20 +37,15 @@ private:
             "(", ")]", "%", "^", "!", "-", "/0", ";", "99999999999999999999", ".", "\n[", "=\""};
         const std::size_t place = below(text.size() + 1);
         const std::size_t length = below(std::min<std::size_t>(text.size() - place, 16) + 1);
-        switch (below(4)) {
-        case 0:
+        const std::size_t kind = below(4);
+        if (kind == 0)
             text.erase(place, length);
-            break;
-        case 1:
+        else if (kind == 1)
             text.insert(below(text.size() + 1), text.substr(place, length));
-            break;
-        case 2:
+        else if (kind == 2)
             text.insert(place, pieces[below(pieces.size())]);
-            break;
-        default:
-            if (place < text.size())
-                text[place] = static_cast<char>(below(256));
-        }
+        else if (place < text.size())
+            text[place] = static_cast<char>(below(256));
     }
 
     std::mt19937 m_random{20240229};
@@ -61,15 +56,6 @@ void run(const std::string &input)
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.data()), input.size());
 }
 
-std::vector<std::filesystem::path> filesIn(const char *folder)
-{
-    std::vector<std::filesystem::path> files;
-    for (const auto &entry : std::filesystem::directory_iterator(folder))
-        files.push_back(entry.path());
-    std::ranges::sort(files);
-    return files;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -78,7 +64,9 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "usage: %s corpus-folder\n", argv[0]);
         return 2;
     }
-    const auto files = filesIn(argv[1]);
+    const std::filesystem::directory_iterator folder(argv[1]);
+    const std::set<std::filesystem::path> files(begin(folder),
+                                                end(folder)); // in one order everywhere
     check(!files.empty(), "the corpus has files");
     Mutator mutator;
     for (const auto &file : files) {

@@ -81,6 +81,5 @@ inline bool mayFactor(std::string expression)
 /// better spent on a thousand other inputs.
 inline bool isSlow(const std::string &expression)
 {
-    constexpr std::size_t longest = 32;
-    return expression.size() > longest && mayFactor(expression);
+    return expression.size() > 32 && mayFactor(expression);
 }

@@ -24,51 +24,43 @@ private Q_SLOTS:
         QVERIFY(m_fuentes.size() > 100);
     }
 
-    void soloDondeDebe_data()
-    {
-        QTest::addColumn<QString>("donde");     // the files that are looked at
-        QTest::addColumn<QString>("que");       // what they are not to hold
-        QTest::addColumn<QString>("excepcion"); // but in these
-        const auto regla = [](const char *nombre, const QString &donde, const QString &que,
-                              const QString &excepcion = u"^$"_s) {
-            QTest::newRow(nombre) << donde << que << excepcion;
-        };
-        const QString todos = u"."_s;
-        regla("no event loop inside an event", todos,
-              u"processEvents *\\(|QEventLoop\\b(?!Locker)"_s,
-              u"^shell/start/(Main|Galeria)\\.cpp$"_s);
-        regla("nothing is executed that can be awaited", todos,
-              u"(menu|caja|dialogo)\\w*(\\.|->)exec\\(|Q(MessageBox|FileDialog|InputDialog)::"
-              u"(information|warning|critical|question|get\\w+)\\("_s);
-        regla("coroutines hide from the meta-object compiler", todos, u"#include <coroutine>"_s,
-              u"^shell/core/run/Corrutina\\.h$"_s);
-        regla("the failure text is compared in one place", u"^(shell|lessons|minical)/"_s,
-              u"(==|!=) *(TextoError|u\"Error\")|(startsWith|contains)\\((TextoError|u\"Error\")"_s,
-              u"^shell/core/Lectura\\.cpp$"_s);
-        regla("the library is called through its gateway", u"^(shell|lessons|minical|numora)/"_s,
-              u"#include \"bignum/(?!gateway/)"_s);
-        regla("the system is asked in one folder", u"^shell/"_s,
-              u"#include <(unistd|pwd|fcntl|csignal|sys/\\w+|windows)(\\.h)?>"_s,
-              u"^shell/core/system/.*\\.cpp$"_s);
-        regla("the shell knows no lesson", u"^(bignum|shell)/"_s,
-              u"#include \"(lessons|minical|numora)/"_s);
-        regla("the number service knows no shell", u"^bignum/"_s, u"#include \"shell/"_s);
-        regla("logic knows no window", u"^(shell/core|lessons|minical)/(?!.*windows/)"_s,
-              u"#include \"(shell/(start|frame|grid|plot|controls|look)/|[^\"]*windows/)"_s);
-    }
     void soloDondeDebe()
     {
-        QFETCH(QString, donde);
-        QFETCH(QString, que);
-        QFETCH(QString, excepcion);
-        const QRegularExpression ambito(donde), prohibido(que), permitido(excepcion);
-        QStringList infractores;
-        for (const QString &fuente : m_fuentes) {
-            if (ambito.match(fuente).hasMatch() && !permitido.match(fuente).hasMatch() &&
-                prohibido.match(contenido(fuente)).hasMatch())
-                infractores << fuente;
+        struct Regla
+        {
+            QString nombre, donde, que; ///< the files that are looked at, what they are not to hold
+            QString excepcion = u"^$"_s; ///< but in these
+        };
+        const QString todos = u"."_s;
+        for (
+            const auto &[nombre, donde, que, excepcion] :
+            {Regla{u"no event loop inside an event"_s, todos,
+                   u"processEvents *\\(|QEventLoop\\b(?!Locker)"_s,
+                   u"^shell/start/(Main|Galeria)\\.cpp$"_s},
+             {u"nothing is executed that can be awaited"_s, todos,
+              u"(menu|caja|dialogo)\\w*(\\.|->)exec\\(|Q(MessageBox|FileDialog|InputDialog)::"
+              u"(information|warning|critical|question|get\\w+)\\("_s},
+             {u"coroutines hide from the meta-object compiler"_s, todos, u"#include <coroutine>"_s,
+              u"^shell/core/run/Corrutina\\.h$"_s},
+             {u"the failure text is compared in one place"_s, u"^(shell|lessons|minical)/"_s,
+              u"(==|!=) *(TextoError|u\"Error\")|(startsWith|contains)\\((TextoError|u\"Error\")"_s,
+              u"^shell/core/Lectura\\.cpp$"_s},
+             {u"the library is called through its gateway"_s, u"^(shell|lessons|minical|numora)/"_s,
+              u"#include \"bignum/(?!gateway/)"_s},
+             {u"the system is asked in one folder"_s, u"^shell/"_s,
+              u"#include <(unistd|pwd|fcntl|csignal|sys/\\w+|windows)(\\.h)?>"_s,
+              u"^shell/core/system/.*\\.cpp$"_s},
+             {u"the shell knows no lesson"_s, u"^(bignum|shell)/"_s,
+              u"#include \"(lessons|minical|numora)/"_s},
+             {u"the number service knows no shell"_s, u"^bignum/"_s, u"#include \"shell/"_s},
+             {u"logic knows no window"_s, u"^(shell/core|lessons|minical)/(?!.*windows/)"_s,
+              u"#include \"(shell/(start|frame|grid|plot|controls|look)/|[^\"]*windows/)"_s}}) {
+            const QRegularExpression ambito(donde), prohibido(que), permitido(excepcion);
+            for (const QString &fuente : m_fuentes)
+                QVERIFY2(!ambito.match(fuente).hasMatch() || permitido.match(fuente).hasMatch() ||
+                             !prohibido.match(contenido(fuente)).hasMatch(),
+                         qPrintable(fuente + u": "_s + nombre));
         }
-        QCOMPARE(infractores.join(u' '), QString());
     }
 
     void ningunaLeccionConoceAOtra()

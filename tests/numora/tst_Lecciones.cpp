@@ -28,58 +28,15 @@ private Q_SLOTS:
     /// The topic that needs a key and a mailbox is among those that are looked at.
     void elTemaDeLosMensajesEsta()
     {
-        bool hallado = false;
-        for (const Leccion &leccion : m_contenido.lecciones) {
+        const auto loTiene = [](const Leccion &leccion) {
             const std::unique_ptr<FormLeccion> ventana(leccion.crea(nullptr));
-            const auto *tira = ventana->findChild<QTabBar *>(u"tsTema"_s);
-            for (int i = 0; tira && i < tira->count(); ++i)
-                hallado = hallado || tira->tabText(i) == u"Enviar y recibir"_s;
-        }
-        QVERIFY(hallado);
+            return ventana->findChild<QTabBar *>(u"tsTema"_s) &&
+                   rotulosDeTemas(ventana.get()).split(u'|').contains(u"Enviar y recibir");
+        };
+        QVERIFY(std::any_of(m_contenido.lecciones.begin(), m_contenido.lecciones.end(), loTiene));
     }
 
-    void lasTeclasNoChocan_data() { temas(); }
-    void lasTeclasNoChocan()
-    {
-        const auto panel = abreTema();
-        QHash<QString, QString> duenos;
-        const FormPrincipal principal(m_contenido);
-        for (const QAction *menu : principal.menuBar()->actions())
-            QVERIFY2(anota(menu->text(), duenos), qPrintable(menu->text()));
-        for (const QWidget *control : visibles(panel)) {
-            if (const auto *boton = qobject_cast<const QAbstractButton *>(control))
-                QVERIFY2(anota(boton->text(), duenos), qPrintable(boton->text()));
-            const auto *rotulo = qobject_cast<const QLabel *>(control);
-            if (rotulo && rotulo->buddy())
-                QVERIFY2(anota(rotulo->text(), duenos), qPrintable(rotulo->text()));
-        }
-    }
-
-    void losControlesTienenNombre_data() { temas(); }
-    void losControlesTienenNombre()
-    {
-        const auto panel = abreTema();
-        for (QWidget *control : visibles(panel)) {
-            if ((control->focusPolicy() & Qt::TabFocus) == 0 || esInterior(control))
-                continue;
-            QAccessibleInterface *accesible = QAccessible::queryAccessibleInterface(control);
-            const QString nombre = accesible ? accesible->text(QAccessible::Name) : QString();
-            QVERIFY2(!nombre.isEmpty(), qPrintable(control->objectName()));
-        }
-    }
-
-    /// A screen of 1366 by 768 less the desktop's bars, the main window's and the lesson menu.
-    void cabenEnUnaPantallaCorriente_data() { temas(); }
-    void cabenEnUnaPantallaCorriente()
-    {
-        abreTema();
-        const QSize minimo = m_leccion->minimumSizeHint();
-        QVERIFY2(minimo.width() <= 1090 && minimo.height() <= 600,
-                 qPrintable(u"%1 x %2"_s.arg(minimo.width()).arg(minimo.height())));
-    }
-
-private:
-    void temas()
+    void cadaTema_data()
     {
         m_estudiante.prepara();
         QTest::addColumn<QString>("idioma");
@@ -89,7 +46,30 @@ private:
         for (const QString &idioma : {IdiomaPropio.toString(), u"English"_s})
             temas(idioma);
     }
+    void cadaTema()
+    {
+        QFETCH(int, fila);
+        QFETCH(int, tema);
+        QFETCH(int, pestana);
+        QFETCH(QString, idioma);
+        Idioma() = idioma;
+        const std::unique_ptr<FormLeccion> leccion(leccionDe(fila).crea(nullptr));
+        if (auto *tira = leccion->findChild<QTabBar *>(u"tsTema"_s))
+            tira->setCurrentIndex(tema);
+        if (QTabWidget *pestanas = pestanasDe(*leccion))
+            pestanas->setCurrentIndex(pestana);
+        leccion->show();
+        QList<QWidget *> visibles = leccion->findChildren<QWidget *>();
+        visibles.removeIf([](const QWidget *control) { return !control->isVisible(); });
+        lasTeclasNoChocan(visibles);
+        losControlesTienenNombre(visibles);
+        // A screen of 1366 by 768 less the desktop's bars, the main window's and the lesson menu.
+        const QSize minimo = leccion->minimumSizeHint();
+        QVERIFY2(minimo.width() <= 1090 && minimo.height() <= 600,
+                 qPrintable(u"%1 x %2"_s.arg(minimo.width()).arg(minimo.height())));
+    }
 
+private:
     void temas(const QString &idioma)
     {
         for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < m_contenido.lecciones.size();
@@ -126,53 +106,42 @@ private:
         return fila < 0 ? m_contenido.hojaDeCalculo : m_contenido.lecciones[fila];
     }
 
-    QWidget *abreTema()
+    void lasTeclasNoChocan(const QList<QWidget *> &visibles) const
     {
-        Idioma() = *static_cast<QString *>(QTest::qData("idioma", qMetaTypeId<QString>()));
-        const int fila = *static_cast<int *>(QTest::qData("fila", qMetaTypeId<int>()));
-        const int tema = *static_cast<int *>(QTest::qData("tema", qMetaTypeId<int>()));
-        const int pestana = *static_cast<int *>(QTest::qData("pestana", qMetaTypeId<int>()));
-        m_leccion.reset(leccionDe(fila).crea(nullptr));
-        auto *tira = m_leccion->findChild<QTabBar *>(u"tsTema"_s);
-        if (tira)
-            tira->setCurrentIndex(tema);
-        if (QTabWidget *pestanas = pestanasDe(*m_leccion))
-            pestanas->setCurrentIndex(pestana);
-        m_leccion->show();
-        return m_leccion.get();
-    }
-
-    static QList<QWidget *> visibles(const QWidget *panel)
-    {
-        QList<QWidget *> hallados;
-        for (QWidget *control : panel->findChildren<QWidget *>()) {
-            if (control->isVisible())
-                hallados << control;
+        const FormPrincipal principal(m_contenido);
+        QStringList textos;
+        for (const QAction *menu : principal.menuBar()->actions())
+            textos << menu->text();
+        for (const QWidget *control : visibles) {
+            if (const auto *boton = qobject_cast<const QAbstractButton *>(control))
+                textos << boton->text();
+            const auto *rotulo = qobject_cast<const QLabel *>(control);
+            if (rotulo && rotulo->buddy())
+                textos << rotulo->text();
         }
-        return hallados;
+        QSet<QString> teclas;
+        for (const QString &texto : textos) {
+            const QString tecla = QKeySequence::mnemonic(texto).toString();
+            QVERIFY2(tecla.isEmpty() || !teclas.contains(tecla), qPrintable(texto));
+            teclas << tecla;
+        }
     }
 
-    /// A part of a control that Qt makes, such as the viewport of a grid or the editor of a spin
-    /// box.
-    static bool esInterior(const QWidget *control)
+    static void losControlesTienenNombre(const QList<QWidget *> &visibles)
     {
-        return control->objectName().startsWith(u"qt_"_s);
-    }
-
-    static bool anota(const QString &texto, QHash<QString, QString> &duenos)
-    {
-        const QString tecla = QKeySequence::mnemonic(texto).toString();
-        if (tecla.isEmpty())
-            return true;
-        if (duenos.contains(tecla))
-            return false;
-        duenos.insert(tecla, texto);
-        return true;
+        for (QWidget *control : visibles) {
+            // Qt makes the viewport of a grid or the editor of a spin box.
+            if (!(control->focusPolicy() & Qt::TabFocus) ||
+                control->objectName().startsWith(u"qt_"))
+                continue;
+            QAccessibleInterface *accesible = QAccessible::queryAccessibleInterface(control);
+            QVERIFY2(accesible && !accesible->text(QAccessible::Name).isEmpty(),
+                     qPrintable(control->objectName()));
+        }
     }
 
     Estudiante m_estudiante;
     Contenido m_contenido = contenidoDelPrograma();
-    std::unique_ptr<FormLeccion> m_leccion;
 };
 
 NUMORA_TEST_MAIN(TestLecciones)

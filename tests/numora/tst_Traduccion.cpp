@@ -2,6 +2,7 @@
 #include "numora/Lecciones.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Perfil.h"
+#include "shell/core/system/Archivos.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/start/FormPrincipal.h"
 #include "tests/shell/support/Entorno.h"
@@ -29,12 +30,6 @@ bool tienePalabras(const QString &texto)
     return texto.contains(palabra);
 }
 
-QString contenidoDe(const QString &ruta)
-{
-    QFile archivo(ruta);
-    return archivo.open(QIODevice::ReadOnly) ? QString::fromUtf8(archivo.readAll()) : QString();
-}
-
 /// The literals inside the brackets that open at `inicio`: u"…"_s, adjoining parts joined.
 QStringList literales(const QString &codigo, qsizetype inicio)
 {
@@ -46,10 +41,7 @@ QStringList literales(const QString &codigo, qsizetype inicio)
     auto piezas = pieza.globalMatch(codigo, inicio);
     while (hondura > 0 && piezas.hasNext()) {
         const auto esta = piezas.next();
-        if (esta.captured() == u"("_s)
-            ++hondura;
-        else if (esta.captured() == u")"_s)
-            --hondura;
+        hondura += int(esta.captured() == u"(") - int(esta.captured() == u")");
         if (!esta.captured().startsWith(u'u'))
             continue;
         QString texto = esta.captured(1);
@@ -109,7 +101,16 @@ private Q_SLOTS:
         const auto lectura = m_tabla.lee(Sesión().carpetaPrograma() + u"/Numora.txt"_s);
         QCOMPARE(lectura, Perfil::Lectura::Correcta);
     }
-    void init() { Entorno::limpia(); }
+    void init()
+    {
+        Entorno::limpia();
+        m_faltan.clear();
+    }
+    void cleanup()
+    {
+        m_faltan.removeDuplicates();
+        QVERIFY2(m_faltan.isEmpty(), qPrintable(u'\n' + m_faltan.join(u'\n')));
+    }
 
     /// Every text that the code writes down for a student.
     void losTextosDelCodigo()
@@ -117,9 +118,8 @@ private Q_SLOTS:
         static const QRegularExpression llamada(
             u"\\b(?:Traduce|agregaTema|agregaIntroduccion)\\("_s);
         static const QRegularExpression cadena(u"<string>([^<]+)</string>"_s);
-        QStringList faltan;
         for (const QString &archivo : archivosDelPrograma()) {
-            const QString codigo = contenidoDe(archivo);
+            const QString codigo = QString::fromUtf8(leeArchivo(archivo, 1 << 20));
             const bool formulario = archivo.endsWith(u".ui"_s);
             auto lugares = (formulario ? cadena : llamada).globalMatch(codigo);
             while (lugares.hasNext()) {
@@ -138,39 +138,32 @@ private Q_SLOTS:
                                  ? textos.first(1)
                                  : QStringList();
                 for (const QString &texto : textos)
-                    apuntaSiFalta(texto, faltan);
+                    apuntaSiFalta(texto);
             }
         }
-        QVERIFY2(faltan.isEmpty(), qPrintable(u'\n' + faltan.join(u'\n')));
     }
 
     /// Names and descriptions of the lessons, which are written down in a table.
     void losTextosDeLasLecciones()
     {
-        QStringList faltan;
         const Contenido contenido = contenidoDelPrograma();
         for (const Leccion &leccion : contenido.lecciones) {
             QVERIFY2(!leccion.descripcion.isEmpty(), qPrintable(leccion.rotulo));
-            apuntaSiFalta(leccion.rotulo, faltan);
-            apuntaSiFalta(leccion.descripcion, faltan);
+            apuntaSiFalta(leccion.rotulo);
+            apuntaSiFalta(leccion.descripcion);
         }
-        QVERIFY2(faltan.isEmpty(), qPrintable(u'\n' + faltan.join(u'\n')));
     }
 
     /// Every text in sight of a window that was opened in English, against the same in Spanish.
     void losTextosDeLasVentanas()
     {
-        QStringList faltan;
         const Contenido contenido = contenidoDelPrograma();
-        comparaVentanas([&] { return std::make_unique<FormPrincipal>(contenido); }, faltan);
+        comparaVentanas([&] { return std::make_unique<FormPrincipal>(contenido); });
         for (const Leccion &leccion :
              contenido.lecciones + QList<Leccion>{contenido.hojaDeCalculo}) {
             if (leccion.crea)
-                comparaVentanas([&] { return std::unique_ptr<QWidget>(leccion.crea(nullptr)); },
-                                faltan);
+                comparaVentanas([&] { return std::unique_ptr<QWidget>(leccion.crea(nullptr)); });
         }
-        faltan.removeDuplicates();
-        QVERIFY2(faltan.isEmpty(), qPrintable(u'\n' + faltan.join(u'\n')));
     }
 
 private:
@@ -186,14 +179,14 @@ private:
         return archivos;
     }
 
-    void apuntaSiFalta(const QString &texto, QStringList &faltan) const
+    void apuntaSiFalta(const QString &texto)
     {
         if (tienePalabras(texto) && m_tabla.valor(u"English"_s, claveDe(texto)).isEmpty())
-            faltan << claveDe(texto);
+            m_faltan << claveDe(texto);
     }
 
     template <typename Crea>
-    void comparaVentanas(Crea crea, QStringList &faltan) const
+    void comparaVentanas(Crea crea)
     {
         Idioma() = u"Español"_s;
         const QStringList espanol = textosDeVentana(crea().get());
@@ -202,11 +195,12 @@ private:
         QCOMPARE(ingles.size(), espanol.size());
         for (qsizetype i = 0; i < espanol.size(); ++i) {
             if (ingles[i] == espanol[i])
-                apuntaSiFalta(ingles[i], faltan);
+                apuntaSiFalta(ingles[i]);
         }
     }
 
     Perfil m_tabla;
+    QStringList m_faltan;
 };
 
 NUMORA_TEST_MAIN(TestTraduccion)

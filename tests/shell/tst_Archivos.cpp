@@ -18,28 +18,22 @@ class TestArchivos : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void leePerfil_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("valor");
-        QTest::newRow("plain") << "[RSA]\r\nq(0)=12\r\n"_ba << u"12"_s;
-        QTest::newRow("blanks, LF, case") << "[rsa]\nQ(0) = 12 \n"_ba << u"12"_s;
-        QTest::newRow("byte-order mark") << "\xEF\xBB\xBF[RSA]\r\nq(0)=12\r\n"_ba << u"12"_s;
-        QTest::newRow("quotes") << "[RSA]\nq(0)=\" 12 \"\n"_ba << u" 12 "_s;
-        QTest::newRow("first of two counts") << "[RSA]\nq(0)=12\nq(0)=13\n"_ba << u"12"_s;
-        QTest::newRow("Windows-1252") << "[RSA]\nq(0)=a\xF1o\n"_ba << u"año"_s;
-        QTest::newRow("UTF-8") << "[RSA]\nq(0)=a\xC3\xB1o\n"_ba << u"año"_s;
-        QTest::newRow("no line end") << "[RSA]\nq(0)=12"_ba << u"12"_s;
-        QTest::newRow("other section") << "[R]\nq(0)=12\n"_ba << u"falta"_s;
-        QTest::newRow("no section") << "q(0)=12\n"_ba << u"falta"_s;
-        QTest::newRow("zeros") << QByteArray(100, '\0') << u"falta"_s;
-    }
     void leePerfil()
     {
-        QFETCH(QByteArray, bytes);
-        Perfil perfil;
-        perfil.leeBytes(bytes);
-        QTEST(perfil.valor(u"RSA"_s, u"q(0)"_s, u"falta"_s), "valor");
+        const auto valor = [](const QByteArray &bytes) {
+            Perfil perfil;
+            perfil.leeBytes(bytes);
+            return perfil.valor(u"RSA"_s, u"q(0)"_s, u"falta"_s);
+        };
+        for (const QByteArray &bytes :
+             {"[RSA]\r\nq(0)=12\r\n"_ba, "[rsa]\nQ(0) = 12 \n"_ba, "[RSA]\nq(0)=12"_ba,
+              "\xEF\xBB\xBF[RSA]\r\nq(0)=12\r\n"_ba, "[RSA]\nq(0)=12\nq(0)=13\n"_ba})
+            QVERIFY2(valor(bytes) == u"12", bytes);
+        QCOMPARE(valor("[RSA]\nq(0)=\" 12 \"\n"), u" 12 "_s);
+        QCOMPARE(valor("[RSA]\nq(0)=a\xF1o\n"), u"año"_s);
+        QCOMPARE(valor("[RSA]\nq(0)=a\xC3\xB1o\n"), u"año"_s);
+        for (const QByteArray &bytes : {"[R]\nq(0)=12\n"_ba, "q(0)=12\n"_ba, QByteArray(100, '\0')})
+            QVERIFY2(valor(bytes) == u"falta", bytes);
     }
 
     void limitesDelPerfil()

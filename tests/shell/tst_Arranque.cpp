@@ -38,6 +38,12 @@ pid_t procesoConCerrojo(const QString &archivo)
     return hijo;
 }
 
+void mata(pid_t proceso)
+{
+    kill(proceso, SIGKILL);
+    waitpid(proceso, nullptr, 0);
+}
+
 } // namespace
 
 class TestArranque : public QObject
@@ -47,46 +53,29 @@ class TestArranque : public QObject
 private Q_SLOTS:
     void init() { Entorno::limpia(); }
 
-    void idioma_data()
-    {
-        QTest::addColumn<QString>("linea");
-        QTest::addColumn<QString>("idioma");
-        QTest::newRow("none") << QString() << u"Español"_s;
-        QTest::newRow("other words") << u"uno dos"_s << u"Español"_s;
-        QTest::newRow("alone") << u"-i:English"_s << u"English"_s;
-        QTest::newRow("last of two") << u"x -i:English"_s << u"English"_s;
-        QTest::newRow("a word after it") << u"-i:English x"_s << QString();
-        QTest::newRow("a long word after it") << u"-i:English abcdef"_s << u"def"_s;
-        QTest::newRow("blank at the end") << u"-i:English "_s << QString();
-        QTest::newRow("capital") << u"-I:English"_s << u"Español"_s;
-    }
     void idioma()
     {
-        QFETCH(QString, linea);
-        QTEST(idiomaDeLinea(linea), "idioma");
+        for (const QString &fila :
+             u"=Español|uno dos=Español|-I:English=Español|-i:English=English|x -i:English=English|"
+             "-i:English x=|-i:English abcdef=def|-i:English ="_s.split(u'|'))
+            QCOMPARE(idiomaDeLinea(fila.section(u'=', 0, 0)), fila.section(u'=', 1));
     }
 
-    void carpetaDeTrabajo_data()
-    {
-        QTest::addColumn<QStringList>("respuestas");
-        QTest::addColumn<int>("preguntas");
-        QTest::addColumn<bool>("hallada");
-        const QString buena = Entorno::carpetaDeTrabajo();
-        QTest::newRow("first answer") << QStringList{buena} << 1 << true;
-        QTest::newRow("second answer") << QStringList{u"/nada"_s, buena} << 2 << true;
-        QTest::newRow("third is not asked")
-            << QStringList{u"/nada"_s, u"/nadie"_s, buena} << 2 << false;
-        QTest::newRow("cancelled twice") << QStringList{QString(), QString(), buena} << 2 << false;
-    }
+    /// A third answer is not asked for.
     void carpetaDeTrabajo()
     {
-        QFETCH(QStringList, respuestas);
-        Sesión().ponCarpeta(u"/equivocada"_s);
-        Entorno::grabadora().respuestas = respuestas;
-        QTEST(encuentraCarpetaDeTrabajo().completa(), "hallada");
-        const auto preguntas = int(respuestas.size() - Entorno::grabadora().respuestas.size());
-        QTEST(preguntas, "preguntas");
-        QCOMPARE(Sesión().lee(u"Programa"_s, u"Carpeta"_s), respuestas.value(preguntas - 1));
+        const QString buena = Entorno::carpetaDeTrabajo();
+        for (const auto &[respuestas, preguntas, hallada] :
+             {std::tuple{QStringList{buena}, 1, true},
+              {{u"/nada"_s, buena}, 2, true},
+              {{u"/nada"_s, u"/nadie"_s, buena}, 2, false},
+              {{{}, {}, buena}, 2, false}}) {
+            Sesión().ponCarpeta(u"/equivocada"_s);
+            Entorno::grabadora().respuestas = respuestas;
+            QCOMPARE(encuentraCarpetaDeTrabajo().completa(), hallada);
+            QCOMPARE(respuestas.size() - Entorno::grabadora().respuestas.size(), preguntas);
+            QCOMPARE(Sesión().lee(u"Programa"_s, u"Carpeta"_s), respuestas[preguntas - 1]);
+        }
     }
 
     void cerrojo()
@@ -95,8 +84,7 @@ private Q_SLOTS:
         const pid_t otro = procesoConCerrojo(archivo);
         QVERIFY(otro > 0);
         QVERIFY(InstanciaUnica(archivo).hayOtra());
-        kill(otro, SIGKILL);
-        waitpid(otro, nullptr, 0);
+        mata(otro);
         QVERIFY(!InstanciaUnica(archivo).hayOtra());
         QVERIFY(!InstanciaUnica(u"/proc/imposible/cerrojo"_s).hayOtra());
     }
@@ -105,8 +93,7 @@ private Q_SLOTS:
     {
         const pid_t otro = procesoConCerrojo(Sesión().carpetaDeAjustes() + u"/Numora.lock"_s);
         const Programa programa({}, {});
-        kill(otro, SIGKILL);
-        waitpid(otro, nullptr, 0);
+        mata(otro);
         QVERIFY(!programa.principal());
         const auto mensaje = Entorno::grabadora().unico();
         QCOMPARE(mensaje.texto, u"Ya hay abierta una sesión del sistema Numora"_s);
@@ -134,39 +121,34 @@ private Q_SLOTS:
         QCOMPARE(QApplication::applicationDisplayName(), u"otro"_s);
     }
 
-    void presentacion_data()
-    {
-        QTest::addColumn<int>("salida");
-        QTest::newRow("button") << 0;
-        QTest::newRow("Escape") << 1;
-        QTest::newRow("focus loss") << 2;
-    }
     void presentacion()
     {
-        QFETCH(int, salida);
-        QDir::setCurrent(u"/"_s);
-        const Programa programa(u"-i:English"_s, {});
-        QVERIFY(programa.principal());
-        QCOMPARE(Idioma(), u"English"_s);
-        QCOMPARE(QDir::currentPath(), Entorno::carpetaDeTrabajo());
-        QVERIFY(!programa.principal()->isVisible());
+        for (const QString &salida : {u"button"_s, u"Escape"_s, u"focus loss"_s}) {
+            Entorno::limpia();
+            QDir::setCurrent(u"/"_s);
+            const Programa programa(u"-i:English"_s, {});
+            QVERIFY(programa.principal());
+            QCOMPARE(Idioma(), u"English"_s);
+            QCOMPARE(QDir::currentPath(), Entorno::carpetaDeTrabajo());
+            QVERIFY(!programa.principal()->isVisible());
 
-        auto *acercaDe = control<QWidget>(programa.principal(), u"formAcercaDe"_s);
-        QVERIFY(QTest::qWaitForWindowActive(acercaDe));
-        QCOMPARE(control<QLabel>(acercaDe, u"lblVersion"_s)->text(), u"Versión beta 1.5 Rev. 40"_s);
-        if (salida == 0)
-            QTest::mouseClick(control<QPushButton>(acercaDe, u"cmdOK"_s), Qt::LeftButton);
-        else if (salida == 1)
-            QTest::keyClick(acercaDe, Qt::Key_Escape);
-        QWidget otra;
-        if (salida == 2) {
-            otra.show();
-            otra.activateWindow();
+            auto *acercaDe = control<QWidget>(programa.principal(), u"formAcercaDe"_s);
+            QVERIFY(QTest::qWaitForWindowActive(acercaDe));
+            QCOMPARE(control<QLabel>(acercaDe, u"lblVersion"_s)->text(),
+                     u"Versión beta 1.5 Rev. 40"_s);
+            QWidget otra;
+            if (salida == u"button") {
+                QTest::mouseClick(control<QPushButton>(acercaDe, u"cmdOK"_s), Qt::LeftButton);
+            } else if (salida == u"Escape") {
+                QTest::keyClick(acercaDe, Qt::Key_Escape);
+            } else {
+                otra.show();
+                otra.activateWindow();
+            }
+            QTRY_VERIFY2(programa.principal()->isVisible(), qPrintable(salida));
+            QTRY_VERIFY(!programa.principal()->findChild<QWidget *>(u"formAcercaDe"_s));
+            QVERIFY(!control<QTimer>(programa.principal(), u"TimerPresentacion"_s)->isActive());
         }
-        QTRY_VERIFY(programa.principal()->isVisible());
-        QTRY_VERIFY(!programa.principal()->findChild<QWidget *>(u"formAcercaDe"_s));
-        const auto *reloj = control<QTimer>(programa.principal(), u"TimerPresentacion"_s);
-        QVERIFY(!reloj->isActive());
     }
 };
 

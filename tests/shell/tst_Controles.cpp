@@ -18,11 +18,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardItemModel>
-#include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
-
-Q_DECLARE_METATYPE(Aspecto::Tema)
 
 namespace {
 
@@ -75,11 +72,8 @@ private Q_SLOTS:
     void campoLargoSeComportaComoUnaLinea()
     {
         QWidget ventana;
-        auto *columna = new QVBoxLayout(&ventana);
-        auto *campo = new CampoLargo;
-        auto *otro = new QLineEdit;
-        columna->addWidget(campo);
-        columna->addWidget(otro);
+        auto *campo = new CampoLargo(&ventana);
+        auto *otro = new QLineEdit(&ventana);
         ventana.show();
         QVERIFY(QTest::qWaitForWindowActive(&ventana));
         QSignalSpy entradas(campo, &CampoLargo::returnPressed);
@@ -100,58 +94,46 @@ private Q_SLOTS:
         QCOMPARE(ediciones.count(), 1);
     }
 
-    void columnasSegunLoQueMuestran_data()
-    {
-        QTest::addColumn<int>("ancho");
-        QTest::addColumn<bool>("caben");
-        QTest::newRow("wide") << 900 << true;
-        QTest::newRow("narrow") << 150 << false;
-    }
     void columnasSegunLoQueMuestran()
     {
-        QFETCH(int, ancho);
-        QStandardItemModel modelo(1, 3);
-        Rejilla rejilla;
-        rejilla.setModel(&modelo);
-        new ColumnasRepartidas(&rejilla);
-        rejilla.resize(ancho, 100);
-        rejilla.show();
-        modelo.setItem(0, 1, new QStandardItem(QString(20, u'7')));
-        QTRY_VERIFY(rejilla.columnWidth(1) >
-                    rejilla.fontMetrics().horizontalAdvance(QString(19, u'7')));
-        const int suma = rejilla.horizontalHeader()->length(), todo = rejilla.viewport()->width();
-        QVERIFY(suma >= todo);
-        QTEST(suma == todo, "caben");
+        for (const auto &[ancho, caben] : {std::pair{900, true}, {150, false}}) {
+            QStandardItemModel modelo(1, 3);
+            Rejilla rejilla;
+            rejilla.setModel(&modelo);
+            new ColumnasRepartidas(&rejilla);
+            rejilla.resize(ancho, 100);
+            rejilla.show();
+            modelo.setItem(0, 1, new QStandardItem(QString(20, u'7')));
+            QTRY_VERIFY(rejilla.columnWidth(1) >
+                        rejilla.fontMetrics().horizontalAdvance(QString(19, u'7')));
+            const int sobra = rejilla.horizontalHeader()->length() - rejilla.viewport()->width();
+            QVERIFY(caben ? sobra == 0 : sobra > 0);
+        }
     }
 
     void rejillaCopia()
     {
         QStandardItemModel modelo(2, 2);
         modelo.setHorizontalHeaderLabels({u"n"_s, u"f(n)"_s});
-        for (int f = 0; f < 2; ++f) {
-            for (int c = 0; c < 2; ++c)
-                modelo.setItem(f, c, new QStandardItem(QString::number(10 * f + c)));
-        }
+        for (const int celda : {0, 1, 2, 3})
+            modelo.setItem(celda / 2, celda % 2,
+                           new QStandardItem(QString::number(10 * (celda / 2) + celda % 2)));
         Rejilla rejilla;
         QCOMPARE(rejilla.seleccion(FormaDeCopia::Texto).completa().texto, QString());
         rejilla.setModel(&modelo);
         QCOMPARE(rejilla.seleccion(FormaDeCopia::CSV).completa().texto,
                  u"n;f(n)\r\n0;1\r\n10;11\r\n"_s);
         rejilla.setCurrentIndex(modelo.index(1, 1));
-        QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QApplication::clipboard()->text(), u"11"_s);
+        QCOMPARE(copiado(rejilla), u"11"_s);
         rejilla.selectionModel()->select({modelo.index(0, 0), modelo.index(0, 1)},
                                          QItemSelectionModel::ClearAndSelect);
-        QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QApplication::clipboard()->text(), u"0\t1\n"_s);
+        QCOMPARE(copiado(rejilla), u"0\t1\n"_s);
         // The rows that are still to be written are no contents; nothing at all is not copied.
         modelo.insertRows(2, 5);
         rejilla.clearSelection();
-        QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QApplication::clipboard()->text(), u"n\tf(n)\n0\t1\n10\t11\n"_s);
+        QCOMPARE(copiado(rejilla), u"n\tf(n)\n0\t1\n10\t11\n"_s);
         modelo.removeRows(0, modelo.rowCount());
-        QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QApplication::clipboard()->text(), u"n\tf(n)\n0\t1\n10\t11\n"_s);
+        QCOMPARE(copiado(rejilla), u"n\tf(n)\n0\t1\n10\t11\n"_s);
     }
 
     /// What does not fit is told before anything is begun, and the rest can be stopped.
@@ -162,23 +144,22 @@ private Q_SLOTS:
         rejilla.setModel(&modelo);
         rejilla.show();
         QApplication::clipboard()->setText(u"de antes"_s);
-        const auto copia = [&] { QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier); };
         for (const auto &[filas, columnas, celda] : {std::tuple{1'000'000, 1'000'000, u"1"_s},
                                                      {5'000'001, 1, u"1"_s},
                                                      {2, 2, QString(20'000'000, u'1')}}) {
             modelo.pon(filas, columnas, celda);
-            copia();
+            copiado(rejilla);
             QTRY_COMPARE(Entorno::grabadora().mensajes.size(), 1);
             QCOMPARE(Entorno::grabadora().unico().titulo, u"No se ha copiado"_s);
         }
         modelo.pon(5'000'000, 1, u"1"_s); // the most that fits
         const auto boton = [&] { return rejilla.findChild<QPushButton *>(u"cmdDetenCopia"_s); };
-        copia();
+        copiado(rejilla);
         QVERIFY(!rejilla.tareas().vacias());
         QTRY_VERIFY(boton()->isVisible());
         boton()->click();
         QTRY_VERIFY(rejilla.tareas().vacias());
-        copia();
+        copiado(rejilla);
         modelo.pon(1, 1, u"1"_s);
         QTRY_COMPARE(Entorno::grabadora().mensajes.size(), 1);
         QCOMPARE(Entorno::grabadora().unico().texto,
@@ -187,7 +168,7 @@ private Q_SLOTS:
         QCOMPARE(QApplication::clipboard()->text(), u"de antes"_s);
         modelo.pon(300'000, 1, u"1"_s);
         rejilla.horizontalHeader()->hide();
-        copia();
+        copiado(rejilla);
         QTRY_VERIFY_WITH_TIMEOUT(rejilla.tareas().vacias(), 20'000);
         QCOMPARE(QApplication::clipboard()->text(), u"1\n"_s.repeated(300'000));
     }
@@ -214,7 +195,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!menu);
     }
 
-    void animacionSinArchivo()
+    void animaciones()
     {
         ReproductorAVI animacion;
         animacion.resize(100, 100);
@@ -225,40 +206,30 @@ private Q_SLOTS:
         QCOMPARE(animacion.estado(), ReproductorAVI::Reproduciendo);
         animacion.para();
         QCOMPARE(animacion.estado(), ReproductorAVI::Parado);
-    }
-
-    void animacionQueAcaba()
-    {
-        ReproductorAVI animacion;
-        QSignalSpy fin(&animacion, &ReproductorAVI::terminada);
         animacion.carga(u"clipart\\error02.avi"_s, u"ERROR"_s);
         animacion.reproduce(ReproductorAVI::Modo::UnaVez);
-        QVERIFY(fin.wait(15000));
+        QVERIFY(QSignalSpy(&animacion, &ReproductorAVI::terminada).wait(15000));
         QCOMPARE(animacion.estado(), ReproductorAVI::Parado);
     }
 
-    void losTextosSeLeen_data()
-    {
-        QTest::addColumn<Aspecto::Tema>("tema");
-        QTest::newRow("light") << Aspecto::Tema::Claro;
-        QTest::newRow("dark") << Aspecto::Tema::Oscuro;
-    }
     void losTextosSeLeen()
     {
-        QFETCH(Aspecto::Tema, tema);
-        Aspecto::aplica(tema);
-        const QPalette p = QApplication::palette();
-        const QList<QColor> fondos{p.window().color(), p.base().color(), p.alternateBase().color()};
-        const QList<QColor> textos{p.text().color(), p.placeholderText().color(),
-                                   p.link().color(), Aspecto::acento(),
-                                   Aspecto::exito(), Aspecto::error()};
-        for (const QColor &fondo : fondos) {
-            for (const QColor &texto : textos)
+        for (const Aspecto::Tema tema : {Aspecto::Tema::Claro, Aspecto::Tema::Oscuro}) {
+            Aspecto::aplica(tema);
+            const QPalette p = QApplication::palette();
+            QList<std::pair<QColor, QColor>> pares{
+                {p.button().color(), p.buttonText().color()},
+                {p.highlight().color(), p.highlightedText().color()}};
+            for (const QColor &fondo :
+                 {p.window().color(), p.base().color(), p.alternateBase().color()})
+                for (const QColor &texto :
+                     {p.text().color(), p.placeholderText().color(), p.link().color(),
+                      Aspecto::acento(), Aspecto::exito(), Aspecto::error()})
+                    pares << std::pair{fondo, texto};
+            for (const auto &[fondo, texto] : pares)
                 QVERIFY2(contraste(fondo, texto) >= 4.5,
                          qPrintable(texto.name() + u" on "_s + fondo.name()));
         }
-        QVERIFY(contraste(p.button().color(), p.buttonText().color()) >= 4.5);
-        QVERIFY(contraste(p.highlight().color(), p.highlightedText().color()) >= 4.5);
         Aspecto::aplica(Aspecto::Tema::Sistema);
     }
 
@@ -277,6 +248,14 @@ private Q_SLOTS:
                  u"System Information Is Unavailable At This Time"_s);
         acercaDe->close();
         QCOMPARE(descargas.count(), 1);
+    }
+
+private:
+    /// What is on the clipboard after the key that copies.
+    static QString copiado(Rejilla &rejilla)
+    {
+        QTest::keyClick(&rejilla, Qt::Key_C, Qt::ControlModifier);
+        return QApplication::clipboard()->text();
     }
 };
 

@@ -42,20 +42,15 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(m_copia->ruta()));
     }
 
-    void alIrseLaVentana()
+    void alAcabarElPrograma()
     {
-        m_copia.reset(); // nothing was changed
-        nueva();
+        nueva(); // nothing was changed
         QCOMPARE(m_copia->guardada(), ""_ba);
         m_copia->cambia();
         nueva();
         QCOMPARE(m_copia->guardada(), "uno"_ba);
-    }
-
-    void loQueDejaUnProgramaMuerto()
-    {
         escribeArchivo(m_copia->ruta(), "entera");
-        escribeArchivo(m_copia->ruta() + u".aBcDeF"_s, "a medi");
+        escribeArchivo(m_copia->ruta() + u".aBcDeF"_s, "a medi"); // by a program that was killed
         nueva();
         QCOMPARE(m_copia->guardada(), "entera"_ba);
         QCOMPARE(QDir(m_carpeta->path()).entryList(QDir::Files).size(), 1);

@@ -98,26 +98,18 @@ private Q_SLOTS:
         auto *intro = control<QWidget>(&leccion, u"PanelFicha_0"_s);
         auto *correr = control<QWidget>(&leccion, u"PanelFicha_1"_s);
         leccion.campo->setText(u"se queda"_s);
-        QTest::mouseClick(temas, Qt::LeftButton, {}, temas->tabRect(0).center());
-        QVERIFY(intro->isVisible() && !correr->isVisible());
+        for (const int delante : {0, 1}) {
+            QTest::mouseClick(temas, Qt::LeftButton, {}, temas->tabRect(delante).center());
+            QCOMPARE(intro->isVisible(), delante == 0);
+            QCOMPARE(correr->isVisible(), delante == 1);
+        }
         auto *pagina = control<NavegadorPagina>(&leccion, u"wbIntro"_s);
         QVERIFY(pagina->toPlainText().contains(u"primo"_s));
-        QTest::mouseClick(temas, Qt::LeftButton, {}, temas->tabRect(1).center());
-        QVERIFY(!intro->isVisible() && correr->isVisible());
-        QCOMPARE(leccion.campo->text(), u"se queda"_s);
-    }
 
-    void unTemaVaYViene()
-    {
-        FormCorredor leccion;
-        muestra(leccion);
-        auto *temas = control<QTabBar>(&leccion, u"tsTema"_s);
         QWidget *panel = leccion.boton->parentWidget();
-        leccion.campo->setText(u"se queda"_s);
         leccion.quitaTema(u"no existe"_s);
         leccion.quitaTema(u"correr"_s);
-        QVERIFY(!leccion.tieneTema(u"correr"_s) && !panel->isVisible());
-        QVERIFY(control<QWidget>(&leccion, u"PanelFicha_0"_s)->isVisible());
+        QVERIFY(!leccion.tieneTema(u"correr"_s) && !panel->isVisible() && intro->isVisible());
         leccion.agregaTema(u"Correr"_s, u"correr"_s, panel);
         QVERIFY(leccion.tieneTema(u"correr"_s) && !panel->isVisible());
         temas->setCurrentIndex(1);
@@ -151,36 +143,27 @@ private Q_SLOTS:
         QCOMPARE(leccion.boton->toolTip(), u"Detener cálculo"_s);
     }
 
-    void cerrarDuranteLaCorrida_data()
-    {
-        QTest::addColumn<int>("espera");
-        QTest::newRow("in the first yield") << 0;
-        QTest::newRow("later") << 50;
-    }
     /// The run goes with its window: nothing computes on out of sight.
     void cerrarDuranteLaCorrida()
     {
-        QFETCH(int, espera);
-        QPointer<FormCorredor> leccion = new FormCorredor;
-        muestra(*leccion);
-        QTest::mouseClick(leccion->boton, Qt::LeftButton);
-        QCOMPARE(FormCorredor::vivas, 1);
-        QTest::qWait(espera);
-        leccion->cierra();
-        QTRY_VERIFY(!leccion);
-        QCOMPARE(FormCorredor::vivas, 0);
+        for (const int espera : {0, 50}) { // in the first yield, and later
+            QPointer<FormCorredor> leccion = new FormCorredor;
+            muestra(*leccion);
+            QTest::mouseClick(leccion->boton, Qt::LeftButton);
+            QCOMPARE(FormCorredor::vivas, 1);
+            QTest::qWait(espera);
+            leccion->cierra();
+            QTRY_VERIFY(!leccion);
+            QCOMPARE(FormCorredor::vivas, 0);
+        }
     }
 
     void cerrarElProgramaDuranteLaCorrida()
     {
-        Contenido contenido;
-        contenido.lecciones = {{u"PRIMOS"_s, u"Una"_s, nueva}, {u"RSA"_s, u"Otra"_s, nueva}};
-        FormPrincipal principal(contenido);
+        FormPrincipal principal(dosLecciones());
         principal.show();
-        QPointer<FormCorredor> una = abre(principal, 0);
-        QPointer<FormCorredor> otra = abre(principal, 1);
-        una->boton->click();
-        otra->boton->click();
+        QPointer<FormCorredor> una = corre(principal, 0);
+        QPointer<FormCorredor> otra = corre(principal, 1);
         QTest::qWait(50);
         QVERIFY(principal.close());
         QTRY_VERIFY(!una && !otra);
@@ -189,15 +172,12 @@ private Q_SLOTS:
 
     void unaLeccionQueSeCierraNoEstorbaALaNueva()
     {
-        Contenido contenido;
-        contenido.lecciones = {{u"PRIMOS"_s, u"Una"_s, nueva}};
-        FormPrincipal principal(contenido);
+        FormPrincipal principal(dosLecciones());
         principal.show();
-        QPointer<FormCorredor> vieja = abre(principal, 0);
-        vieja->boton->click();
+        QPointer<FormCorredor> vieja = corre(principal, 0);
         QTest::qWait(30);
         vieja->cierra();
-        const FormCorredor *recien = abre(principal, 0);
+        const FormLeccion *recien = principal.abreLeccion(0);
         QVERIFY(recien != vieja);
         QTRY_VERIFY(!vieja);
         QCOMPARE(principal.abreLeccion(0), recien);
@@ -213,21 +193,29 @@ private Q_SLOTS:
                 throw std::bad_alloc();
             throw std::out_of_range("lejos");
         });
-        leccion.campo->setText(u"mal"_s);
-        const auto primero = Entorno::grabadora().unico();
-        QCOMPARE(primero.titulo, u"Error en tiempo de ejecución"_s);
-        QCOMPARE(primero.texto, u"Desbordamiento."_s);
-        leccion.campo->setText(u"peor"_s);
-        QCOMPARE(Entorno::grabadora().unico().texto, u"Memoria insuficiente."_s);
-        leccion.campo->setText(u"lo peor"_s);
-        QCOMPARE(Entorno::grabadora().unico().texto, u"Error interno.\nlejos"_s);
+        for (const auto &[escrito, dicho] : {std::pair{u"mal"_s, u"Desbordamiento."_s},
+                                             {u"peor"_s, u"Memoria insuficiente."_s},
+                                             {u"lo peor"_s, u"Error interno.\nlejos"_s}}) {
+            leccion.campo->setText(escrito);
+            const auto mensaje = Entorno::grabadora().unico();
+            QCOMPARE(mensaje.titulo, u"Error en tiempo de ejecución"_s);
+            QCOMPARE(mensaje.texto, dicho);
+        }
     }
 
 private:
-    static FormLeccion *nueva(QWidget *) { return new FormCorredor; }
-    static FormCorredor *abre(FormPrincipal &principal, int fila)
+    static Contenido dosLecciones()
     {
-        return static_cast<FormCorredor *>(principal.abreLeccion(fila));
+        const auto nueva = [](QWidget *) { return new FormCorredor; };
+        Contenido contenido;
+        contenido.lecciones = {{u"PRIMOS"_s, u"Una"_s, nueva}, {u"RSA"_s, u"Otra"_s, nueva}};
+        return contenido;
+    }
+    static FormCorredor *corre(FormPrincipal &principal, int fila)
+    {
+        auto *leccion = static_cast<FormCorredor *>(principal.abreLeccion(fila));
+        leccion->boton->click();
+        return leccion;
     }
     static void muestra(FormCorredor &leccion)
     {

@@ -52,8 +52,7 @@ private:
 Contenido contenidoDePrueba()
 {
     Contenido contenido;
-    for (const QString &nombre :
-         {u"Cero"_s, u"Uno"_s, u"Dos"_s, u"Tres"_s, u"Cuatro"_s, u"Cinco"_s})
+    for (const QString &nombre : u"Cero Uno Dos Tres Cuatro Cinco"_s.split(u' '))
         contenido.lecciones << Leccion{u"PRIMOS"_s, nombre,
                                        [nombre](QWidget *) { return new FormPrueba(nombre); }};
     contenido.lecciones << Leccion{u"RSA"_s, u"Futura"_s, {}};
@@ -78,13 +77,19 @@ private Q_SLOTS:
     }
     void cleanup() { m_principal.reset(); }
 
-    void elRatonResaltaUnaFila()
+    void elMenuSeLlevaConElRatonYConElTeclado()
     {
         mueveA(2);
         mueveA(5);
         QCOMPARE(resaltadas(), QList<int>{5});
         QTest::mouseMove(m_menu->viewport(), {5, m_menu->viewport()->height() - 2});
         QCOMPARE(resaltadas(), QList<int>{5});
+        m_menu->setFocus();
+        m_menu->setCurrentIndex(m_menu->model()->index(0, 0));
+        QTest::keyClick(m_menu, Qt::Key_Down);
+        QCOMPARE(resaltadas(), QList<int>{1});
+        QTest::keyClick(m_menu, Qt::Key_Return);
+        QCOMPARE(titulos(), QStringList{u"Uno"_s});
     }
 
     void elClicAbreUnaSolaVentana()
@@ -104,19 +109,8 @@ private Q_SLOTS:
         QTest::mouseClick(m_menu->viewport(), Qt::LeftButton, {},
                           {5, m_menu->viewport()->height() - 2});
         QCOMPARE(titulos().size(), 2);
-        QVERIFY(!m_principal->abreLeccion(-2));
-        QVERIFY(!m_principal->abreLeccion(99));
-        QVERIFY(!m_principal->abreLeccion(FormPrincipal::FilaHojaDeCalculo));
-    }
-
-    void elMenuSeLlevaConElTeclado()
-    {
-        m_menu->setFocus();
-        m_menu->setCurrentIndex(m_menu->model()->index(0, 0));
-        QTest::keyClick(m_menu, Qt::Key_Down);
-        QCOMPARE(resaltadas(), QList<int>{1});
-        QTest::keyClick(m_menu, Qt::Key_Return);
-        QCOMPARE(titulos(), QStringList{u"Uno"_s});
+        for (const int ninguna : {-2, 99, int(FormPrincipal::FilaHojaDeCalculo)})
+            QVERIFY(!m_principal->abreLeccion(ninguna));
     }
 
     void laBienvenidaSeVeSinVentanas()
@@ -164,38 +158,34 @@ private Q_SLOTS:
         QCOMPARE(titulos(), QStringList{u"Uno"_s});
     }
 
-    void lasTarjetasCabenEnElAncho_data()
-    {
-        QTest::addColumn<int>("letras");
-        QTest::addColumn<int>("columnas");
-        QTest::newRow("wide") << 400 << 3;
-        QTest::newRow("two columns") << 90 << 2;
-        QTest::newRow("narrow") << 50 << 1;
-        QTest::newRow("hardly any room") << 10 << 1;
-    }
     void lasTarjetasCabenEnElAncho()
     {
-        QFETCH(int, letras);
         MenuLecciones lecciones(contenidoDePrueba().lecciones);
-        TarjetasDeLecciones tarjetas;
-        tarjetas.setModel(&lecciones);
-        tarjetas.resize(letras * tarjetas.fontMetrics().averageCharWidth(), 300);
-        tarjetas.show();
-        QSet<int> izquierdas;
-        for (int fila = 0; fila < lecciones.rowCount(); ++fila) {
-            const QRect tarjeta = tarjetas.visualRect(lecciones.index(fila, 0));
-            QVERIFY(tarjeta.right() < std::max(tarjetas.viewport()->width(), tarjeta.width()));
-            izquierdas << tarjeta.left();
+        for (const auto &[letras, columnas] : {std::pair{400, 3}, {90, 2}, {50, 1}, {10, 1}}) {
+            TarjetasDeLecciones tarjetas;
+            tarjetas.setModel(&lecciones);
+            tarjetas.resize(letras * tarjetas.fontMetrics().averageCharWidth(), 300);
+            tarjetas.show();
+            QSet<int> izquierdas;
+            for (int fila = 0; fila < lecciones.rowCount(); ++fila) {
+                const QRect tarjeta = tarjetas.visualRect(lecciones.index(fila, 0));
+                QVERIFY(tarjeta.right() < std::max(tarjetas.viewport()->width(), tarjeta.width()));
+                izquierdas << tarjeta.left();
+            }
+            QCOMPARE(int(izquierdas.size()), columnas);
         }
-        QTEST(int(izquierdas.size()), "columnas");
     }
 
     void teclasDeVentanas()
     {
-        for (int fila : {0, 1, 2})
+        for (int fila : {0, 1})
             m_principal->abreLeccion(fila);
-        auto *campo = m_principal->leccionActiva()->findChild<QLineEdit *>();
+        QLineEdit *campo = abreCampo(2);
         campo->setFocus();
+        QTest::keyClick(campo, Qt::Key_F6);
+        QVERIFY(m_menu->hasFocus());
+        QTest::keyClick(m_menu, Qt::Key_F6);
+        QVERIFY(campo->hasFocus());
         QTest::keyClick(campo, Qt::Key_Tab, Qt::ControlModifier);
         QCOMPARE(m_principal->leccionActiva()->windowTitle(), u"Cero"_s);
         QTest::keyClick(m_principal.get(), Qt::Key_Backtab,
@@ -203,36 +193,23 @@ private Q_SLOTS:
         QCOMPARE(m_principal->leccionActiva()->windowTitle(), u"Dos"_s);
         QTest::keyClick(campo, Qt::Key_W, Qt::ControlModifier);
         QTRY_COMPARE(titulos(), (QStringList{u"Cero"_s, u"Uno"_s}));
-        QTest::keyClick(m_principal.get(), Qt::Key_F4, Qt::ControlModifier);
+        conControl(Qt::Key_F4);
         QTRY_COMPARE(titulos().size(), 1);
-    }
-
-    void F6VaYVuelve()
-    {
-        m_principal->abreLeccion(0);
-        auto *campo = m_principal->leccionActiva()->findChild<QLineEdit *>();
-        campo->setFocus();
-        QTest::keyClick(campo, Qt::Key_F6);
-        QVERIFY(m_menu->hasFocus());
-        QTest::keyClick(m_menu, Qt::Key_F6);
-        QVERIFY(campo->hasFocus());
     }
 
     void elTamanoDeLaLetra()
     {
         const qreal normal = QApplication::font().pointSizeF();
-        QTest::keyClick(m_principal.get(), Qt::Key_Plus, Qt::ControlModifier);
-        QTest::keyClick(m_principal.get(), Qt::Key_Plus, Qt::ControlModifier);
-        QCOMPARE(QApplication::font().pointSizeF(), normal + 2);
-        QTest::keyClick(m_principal.get(), Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(QApplication::font().pointSizeF(), normal + 1);
-        QCOMPARE(Sesión().recuerda(u"Ventana/Letra"_s).toInt(), 1);
-        QTest::keyClick(m_principal.get(), Qt::Key_0, Qt::ControlModifier);
-        QCOMPARE(QApplication::font().pointSizeF(), normal);
+        for (const auto &[tecla, notado] :
+             {std::pair{Qt::Key_Plus, 1}, {Qt::Key_Plus, 2}, {Qt::Key_Minus, 1}, {Qt::Key_0, 0}}) {
+            conControl(tecla);
+            QCOMPARE(QApplication::font().pointSizeF(), normal + notado);
+            QCOMPARE(Sesión().recuerda(u"Ventana/Letra"_s).toInt(), notado);
+        }
         for (int i = 0; i < 60; ++i)
-            QTest::keyClick(m_principal.get(), Qt::Key_Plus, Qt::ControlModifier);
+            conControl(Qt::Key_Plus);
         QCOMPARE(QApplication::font().pointSizeF(), 32.0);
-        QTest::keyClick(m_principal.get(), Qt::Key_0, Qt::ControlModifier);
+        conControl(Qt::Key_0);
     }
 
     void elLogotipo()
@@ -295,9 +272,7 @@ private Q_SLOTS:
     void preguntaATodasAntesDeCerrar()
     {
         for (const int fila : {0, 1, 2})
-            m_principal->abreLeccion(fila);
-        for (const int fila : {1, 2})
-            m_principal->abreLeccion(fila)->findChild<QLineEdit *>()->setText(u"x"_s);
+            abreCampo(fila)->setText(fila > 0 ? u"x"_s : QString());
         QVERIFY(!m_principal->close());
         QCOMPARE(Entorno::grabadora().confirmaciones.size(), 1);
         QCOMPARE(titulos().size(), 3);
@@ -310,7 +285,7 @@ private Q_SLOTS:
     /// With the real box: the event of the close is over when the user answers.
     void cierraCuandoSeContesta()
     {
-        m_principal->abreLeccion(0)->findChild<QLineEdit *>()->setText(u"x"_s);
+        abreCampo(0)->setText(u"x"_s);
         const auto grabadora = ponInterlocutor(nullptr);
         const auto contesta = [&](QMessageBox::StandardButton boton) {
             for (int vez = 0; vez < 2; ++vez) // a second try while it is asked asks nothing
@@ -327,36 +302,31 @@ private Q_SLOTS:
         ponInterlocutor(std::make_unique<Grabadora>());
     }
 
-    void alAcabarLaSesionNoPregunta_data()
-    {
-        QTest::addColumn<int>("senal"); // 0: the word of the desktop
-        QTest::newRow("SIGTERM") << SIGTERM;
-        QTest::newRow("SIGHUP") << SIGHUP;
-        QTest::newRow("the desktop's session") << 0;
-    }
     void alAcabarLaSesionNoPregunta()
     {
-        QFETCH(int, senal);
-        const FinDeSesion fin(m_principal.get());
-        auto *campo = m_principal->abreLeccion(1)->findChild<QLineEdit *>();
-        const auto guardado = [] { return Sesión().lee(u"P"_s, u"Uno"_s); };
-        campo->setText(u"al preguntar la sesión"_s);
-        // Nobody looks at the manager of a session that may still go on.
-        alignas(std::max_align_t) std::byte gestor[64]{};
-        Q_EMIT qApp->commitDataRequest(reinterpret_cast<QSessionManager &>(gestor));
-        QCOMPARE(guardado(), campo->text());
-        QVERIFY(m_principal->isVisible());
-        campo->setText(u"a medias"_s);
-        const QPointer<QWidget> acercaDe = m_principal->muestraAcercaDe(true);
-        QEvent salir(QEvent::Quit);
-        senal == 0 ? QApplication::sendEvent(qApp, &salir) : ::raise(senal) == 0;
-        QTRY_VERIFY(!m_principal->isVisible());
-        QVERIFY(Entorno::grabadora().confirmaciones.isEmpty());
-        QCOMPARE(guardado(), u"a medias"_s);
-        // The box that shows the main window when it goes away does so no more.
-        if (acercaDe)
-            acercaDe->close();
-        QVERIFY(!m_principal->isVisible());
+        for (const int senal : {SIGTERM, SIGHUP, 0}) { // 0: the word of the desktop
+            init();
+            const FinDeSesion fin(m_principal.get());
+            QLineEdit *campo = abreCampo(1);
+            const auto guardado = [] { return Sesión().lee(u"P"_s, u"Uno"_s); };
+            campo->setText(u"al preguntar la sesión"_s);
+            // Nobody looks at the manager of a session that may still go on.
+            alignas(std::max_align_t) std::byte gestor[64]{};
+            Q_EMIT qApp->commitDataRequest(reinterpret_cast<QSessionManager &>(gestor));
+            QCOMPARE(guardado(), campo->text());
+            QVERIFY(m_principal->isVisible());
+            campo->setText(u"a medias"_s);
+            const QPointer<QWidget> acercaDe = m_principal->muestraAcercaDe(true);
+            QEvent salir(QEvent::Quit);
+            senal == 0 ? QApplication::sendEvent(qApp, &salir) : ::raise(senal) == 0;
+            QTRY_VERIFY(!m_principal->isVisible());
+            QVERIFY(Entorno::grabadora().confirmaciones.isEmpty());
+            QCOMPARE(guardado(), u"a medias"_s);
+            // The box that shows the main window when it goes away does so no more.
+            if (acercaDe)
+                acercaDe->close();
+            QVERIFY(!m_principal->isVisible());
+        }
     }
 
     void losColores()
@@ -371,6 +341,14 @@ private Q_SLOTS:
     }
 
 private:
+    QLineEdit *abreCampo(int fila)
+    {
+        return m_principal->abreLeccion(fila)->findChild<QLineEdit *>();
+    }
+    void conControl(Qt::Key tecla)
+    {
+        QTest::keyClick(m_principal.get(), tecla, Qt::ControlModifier);
+    }
     QPoint centroDe(int fila) const
     {
         return m_menu->visualRect(m_menu->model()->index(fila, 0)).center();

@@ -16,7 +16,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 using Guardado = Interlocutor::Guardado;
-Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 
 namespace {
 
@@ -82,83 +81,62 @@ private Q_SLOTS:
     void init() { Entorno::limpia(); }
     void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
-    void abreDirecciones_data()
+    void abreDirecciones()
     {
-        QTest::addColumn<QString>("direccion");
-        QTest::addColumn<QUrl>("abierta");
         const QString carpeta = Entorno::carpetaDeTrabajo();
         const QUrl pagina = QUrl::fromLocalFile(carpeta + u"/Doc/Primos.html"_s);
         const QString web = u"https://example.org/a?b=c#d"_s;
-        QTest::newRow("web address") << web << QUrl(web);
-        QTest::newRow("page") << carpeta + u"\\Doc\\Primos.html"_s << pagina;
-        QTest::newRow("letter case") << carpeta + u"\\DOC\\primos.HTML"_s << pagina;
-        QTest::newRow("relative to the current folder") << u".\\Doc\\Primos.html"_s << pagina;
-        QTest::newRow("missing page")
-            << u"/nada\\100 %#1.html"_s << QUrl::fromLocalFile(u"/nada/100 %#1.html"_s);
-    }
-    void abreDirecciones()
-    {
-        QFETCH(QString, direccion);
-        QFETCH(QUrl, abierta);
-        const Escritorio escritorio;
-        Interlocutor().abre(direccion);
-        QCOMPARE(escritorio.abiertas, QList<QUrl>{abierta});
+        const QList<std::pair<QString, QUrl>> filas{
+            {web, QUrl(web)},
+            {carpeta + u"\\Doc\\Primos.html"_s, pagina},
+            {carpeta + u"\\DOC\\primos.HTML"_s, pagina},
+            {u".\\Doc\\Primos.html"_s, pagina}, // from the current folder
+            {u"/nada\\100 %#1.html"_s, QUrl::fromLocalFile(u"/nada/100 %#1.html"_s)}};
+        for (const auto &[direccion, abierta] : filas) {
+            const Escritorio escritorio;
+            Interlocutor().abre(direccion);
+            QCOMPARE(escritorio.abiertas, QList<QUrl>{abierta});
+        }
     }
 
-    void siGuarda_data()
-    {
-        QTest::addColumn<QMessageBox::StandardButton>("boton");
-        QTest::addColumn<Guardado>("respuesta");
-        QTest::newRow("save") << QMessageBox::Save << Guardado::Guardar;
-        QTest::newRow("discard") << QMessageBox::Discard << Guardado::Descartar;
-        QTest::newRow("cancel") << QMessageBox::Cancel << Guardado::Cancelar;
-        QTest::newRow("closed") << QMessageBox::NoButton << Guardado::Cancelar;
-    }
     void siGuarda()
     {
-        QFETCH(QMessageBox::StandardButton, boton);
-        const auto pulsa = [&](QMessageBox &caja) {
-            QCOMPARE(caja.text(), u"¿Guardar?"_s);
-            boton == QMessageBox::NoButton ? caja.close() : (caja.button(boton)->click(), true);
-        };
-        QTEST(respuesta<QMessageBox>(m_real.preguntaGuardar(nullptr, u"¿Guardar?"_s, u"Hoja"_s),
-                                     pulsa),
-              "respuesta");
+        for (const auto &[boton, dicha] :
+             {std::pair{QMessageBox::Save, Guardado::Guardar},
+              {QMessageBox::Discard, Guardado::Descartar},
+              {QMessageBox::Cancel, Guardado::Cancelar},
+              {QMessageBox::NoButton, Guardado::Cancelar}}) { // the last closes the box
+            const auto pulsa = [boton = boton](QMessageBox &caja) {
+                QCOMPARE(caja.text(), u"¿Guardar?"_s);
+                boton == QMessageBox::NoButton ? caja.close() : (caja.button(boton)->click(), true);
+            };
+            auto pregunta = m_real.preguntaGuardar(nullptr, u"¿Guardar?"_s, u"Hoja"_s);
+            QCOMPARE(respuesta<QMessageBox>(std::move(pregunta), pulsa), dicha);
+        }
     }
 
-    void archivoParaGuardar_data()
-    {
-        QTest::addColumn<QString>("nombre");
-        QTest::addColumn<int>("filtro");
-        QTest::addColumn<QString>("ruta");
-        QTest::newRow("as proposed") << QString() << 0 << u"hoja.uno"_s;
-        QTest::newRow("without an extension") << u"otra"_s << 0 << u"otra.uno"_s;
-        QTest::newRow("that of the other filter") << u"otra"_s << 1 << u"otra.dos"_s;
-        QTest::newRow("with its own") << u"otra.txt"_s << 1 << u"otra.txt"_s;
-    }
     void archivoParaGuardar()
     {
-        QFETCH(QString, nombre);
-        QFETCH(int, filtro);
-        QFETCH(QString, ruta);
         const QTemporaryDir carpeta;
         const QStringList filtros{u"Uno (*.uno)"_s, u"Dos (*.dos)"_s};
-        const auto escribe = [&](QFileDialog &dialogo) {
-            if (filtro != 0) {
-                dialogo.selectNameFilter(filtros[filtro]);
-                Q_EMIT dialogo.filterSelected(filtros[filtro]);
-            }
-            auto *campo = control<QLineEdit>(&dialogo, u"fileNameEdit"_s);
-            if (!nombre.isEmpty())
-                campo->setText(nombre);
-            QTest::keyClick(campo, Qt::Key_Return);
-        };
-        const auto elegido = respuesta<QFileDialog>(
-            m_real.eligeArchivoParaGuardar(nullptr, u"Guardar"_s, carpeta.filePath(u"hoja.uno"_s),
-                                           filtros),
-            escribe);
-        QCOMPARE(elegido.ruta, carpeta.filePath(ruta));
-        QCOMPARE(elegido.filtro, filtro);
+        const QList<std::tuple<QString, int, QString>> filas{{{}, 0, u"hoja.uno"_s},
+                                                             {u"otra"_s, 0, u"otra.uno"_s},
+                                                             {u"otra"_s, 1, u"otra.dos"_s},
+                                                             {u"otra.txt"_s, 1, u"otra.txt"_s}};
+        for (const auto &[nombre, filtro, ruta] : filas) {
+            const auto escribe = [&, nombre = nombre, filtro = filtro](QFileDialog &dialogo) {
+                if (filtro != 0) {
+                    dialogo.selectNameFilter(filtros[filtro]);
+                    Q_EMIT dialogo.filterSelected(filtros[filtro]);
+                }
+                teclea(dialogo, nombre);
+            };
+            auto elige = m_real.eligeArchivoParaGuardar(nullptr, u"Guardar"_s,
+                                                        carpeta.filePath(u"hoja.uno"_s), filtros);
+            const auto elegido = respuesta<QFileDialog>(std::move(elige), escribe);
+            QCOMPARE(elegido.ruta, carpeta.filePath(ruta));
+            QCOMPARE(elegido.filtro, filtro);
+        }
     }
 
     void archivoParaAbrir()
@@ -173,9 +151,7 @@ private Q_SLOTS:
                 return lista->model()->index(0, 2, lista->rootIndex()).data().toString();
             };
             QTRY_COMPARE(tipo(), u"Archivo uno"_s); // the model reads the folder in its own time
-            auto *campo = control<QLineEdit>(&dialogo, u"fileNameEdit"_s);
-            campo->setText(u"hoja.uno"_s);
-            QTest::keyClick(campo, Qt::Key_Return);
+            teclea(dialogo, u"hoja.uno"_s);
         };
         const auto renuncia = [](QFileDialog &dialogo) { dialogo.reject(); };
         const auto abre = [&] {
@@ -188,54 +164,41 @@ private Q_SLOTS:
         QCOMPARE(respuesta<QFileDialog>(std::move(guarda), renuncia).ruta, QString());
     }
 
-    void carpeta_data()
-    {
-        QTest::addColumn<bool>("acepta");
-        QTest::newRow("chosen") << true;
-        QTest::newRow("cancelled") << false;
-    }
     void carpeta()
     {
-        QFETCH(bool, acepta);
         const QTemporaryDir inicial;
-        QString pregunta;
-        const auto elige = [&](QFileDialog &dialogo) {
-            for (const QLabel *rotulo : dialogo.findChildren<QLabel *>()) {
-                if (rotulo->text().contains(u'\n') && rotulo->isVisible())
-                    pregunta = rotulo->text();
-            }
-            if (acepta)
-                dialogo.selectFile(inicial.path());
-            dialogo.findChild<QDialogButtonBox *>()
-                ->button(acepta ? QDialogButtonBox::Open : QDialogButtonBox::Cancel)
-                ->click();
-        };
-        QCOMPARE(respuesta<QFileDialog>(
-                     m_real.eligeCarpeta(nullptr, u"Uno.\n(Dos)"_s, inicial.path()), elige),
-                 acepta ? inicial.path() : QString());
-        QCOMPARE(pregunta, u"Uno.\n(Dos)"_s);
+        for (const bool acepta : {true, false}) {
+            QString pregunta;
+            const auto elige = [&](QFileDialog &dialogo) {
+                for (const QLabel *rotulo : dialogo.findChildren<QLabel *>()) {
+                    if (rotulo->text().contains(u'\n') && rotulo->isVisible())
+                        pregunta = rotulo->text();
+                }
+                if (acepta)
+                    dialogo.selectFile(inicial.path());
+                dialogo.findChild<QDialogButtonBox *>()
+                    ->button(acepta ? QDialogButtonBox::Open : QDialogButtonBox::Cancel)
+                    ->click();
+            };
+            auto pide = m_real.eligeCarpeta(nullptr, u"Uno.\n(Dos)"_s, inicial.path());
+            QCOMPARE(respuesta<QFileDialog>(std::move(pide), elige),
+                     acepta ? inicial.path() : QString());
+            QCOMPARE(pregunta, u"Uno.\n(Dos)"_s);
+        }
     }
 
-    void siONo_data()
-    {
-        QTest::addColumn<int>("tecla");
-        QTest::addColumn<bool>("respuesta");
-        QTest::newRow("Enter takes the careful answer") << int(Qt::Key_Return) << false;
-        QTest::newRow("Escape") << int(Qt::Key_Escape) << false;
-        QTest::newRow("yes") << 0 << true;
-    }
+    /// Enter takes the careful answer, as Escape does.
     void siONo()
     {
-        QFETCH(int, tecla);
-        const auto contesta = [&](QMessageBox &caja) {
-            if (tecla == 0)
-                caja.button(QMessageBox::Yes)->click();
-            else
-                QTest::keyClick(&caja, Qt::Key(tecla));
-        };
-        QTEST(respuesta<QMessageBox>(m_real.preguntaSiNo(nullptr, u"¿Seguro?"_s, u"Título"_s),
-                                     contesta),
-              "respuesta");
+        for (const auto tecla : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Y}) {
+            const auto contesta = [tecla](QMessageBox &caja) {
+                if (tecla == Qt::Key_Y)
+                    caja.button(QMessageBox::Yes)->click();
+                else
+                    QTest::keyClick(&caja, tecla);
+            };
+            QCOMPARE(respuesta<QMessageBox>(pregunta(nullptr), contesta), tecla == Qt::Key_Y);
+        }
     }
 
     /// A box over a window that goes is an answer as careful as Escape; one that only tells goes
@@ -245,10 +208,8 @@ private Q_SLOTS:
         auto ventana = std::make_unique<QWidget>();
         m_real.avisa(ventana.get(), Interlocutor::Icono::Critico, u"Texto"_s, u"Título"_s);
         const QPointer<QMessageBox> aviso = abierto<QMessageBox>();
-        auto pregunta = m_real.preguntaSiNo(ventana.get(), u"¿Seguro?"_s, u"Título"_s);
-        QCOMPARE(
-            respuesta<QMessageBox>(std::move(pregunta), [&](QMessageBox &) { ventana.reset(); }),
-            false);
+        const auto seVa = [&](QMessageBox &) { ventana.reset(); };
+        QVERIFY(!respuesta<QMessageBox>(pregunta(ventana.get()), seVa));
         QVERIFY(!aviso);
     }
 
@@ -257,7 +218,7 @@ private Q_SLOTS:
     {
         std::optional<bool> dada;
         auto tareas = std::make_unique<TareasDeVentana>(nullptr);
-        tareas->lanza(apunta(m_real.preguntaSiNo(nullptr, u"¿Seguro?"_s, u"Título"_s), dada));
+        tareas->lanza(apunta(pregunta(nullptr), dada));
         const QPointer<QMessageBox> caja = abierto<QMessageBox>();
         tareas.reset();
         QTRY_VERIFY(!caja);
@@ -277,6 +238,19 @@ private Q_SLOTS:
     }
 
 private:
+    Tarea<bool> pregunta(QWidget *padre)
+    {
+        return m_real.preguntaSiNo(padre, u"¿Seguro?"_s, u"Título"_s);
+    }
+    /// Takes the name that is proposed when none is given.
+    static void teclea(const QFileDialog &dialogo, const QString &nombre)
+    {
+        auto *campo = control<QLineEdit>(&dialogo, u"fileNameEdit"_s);
+        if (!nombre.isEmpty())
+            campo->setText(nombre);
+        QTest::keyClick(campo, Qt::Key_Return);
+    }
+
     Interlocutor m_real;
 };
 

@@ -19,23 +19,11 @@ private Q_SLOTS:
     void init() { Entorno::limpia(); }
     void cleanup() { QFile::remove(tabla()); }
 
-    void NumVal_data()
-    {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<double>("valor");
-        QTest::newRow("blank of the sign position") << u" 200"_s << 200.0;
-        QTest::newRow("point") << u"1.5"_s << 1.5;
-        QTest::newRow("comma ends the number") << u"1,5"_s << 1.0;
-        QTest::newRow("exponent D") << u"-2d3"_s << -2000.0;
-        QTest::newRow("letters") << u"12abc"_s << 0.0;
-        QTest::newRow("sign alone") << u"-"_s << 0.0;
-        QTest::newRow("empty") << QString() << 0.0;
-        QTest::newRow("beyond a double") << u"1e999"_s << 0.0;
-    }
     void NumVal()
     {
-        QFETCH(QString, texto);
-        QTEST(::NumVal(texto), "valor");
+        for (const QString &fila :
+             u" 200=200|1.5=1.5|1,5=1|-2d3=-2000|12abc=0|-=0|=0|1e999=0"_s.split(u'|'))
+            QCOMPARE(::NumVal(fila.section(u'=', 0, 0)), fila.section(u'=', 1).toDouble());
     }
 
     void redondeos()
@@ -48,8 +36,8 @@ private Q_SLOTS:
         QCOMPARE(Techo(-2.5), -2);
         QCOMPARE(Techo(2147483647.0), 2147483647);
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, Redondea(2147483647.5));
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, Techo(2147483647.5));
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, Techo(std::nan("")));
+        for (const double valor : {2147483647.5, std::nan("")})
+            QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, Techo(valor));
     }
 
     void formatos()
@@ -70,40 +58,35 @@ private Q_SLOTS:
         escribeTabla("[English]\r\nPrimos = Primes\r\nEl mayor es=The largest is\r\n"
                      "Uno\\ndos=One\\ntwo\r\nx \\e 1=y = 1\r\nLargo=" +
                      QByteArray(3000, 'x') + "\r\n[Français]\nPrimos=Premiers\n");
-        QCOMPARE(::Traduce(u"Primos"_s), u"Primos"_s);
-        Idioma() = u"english"_s;
-        QCOMPARE(::Traduce(u"Primos"_s), u"Primes"_s);
-        QCOMPARE(::Traduce(u"El mayor es "_s), u"The largest is "_s);
-        QCOMPARE(::Traduce(u"Uno\ndos"_s), u"One\ntwo"_s);
-        QCOMPARE(::Traduce(u"x = 1"_s), u"y = 1"_s);
-        QCOMPARE(::Traduce(u"Largo"_s).size(), 1023);
-        QCOMPARE(::Traduce(u"Sin entrada"_s), u"Sin entrada"_s);
-        Idioma() = u"Français"_s;
-        QCOMPARE(::Traduce(u"Primos"_s), u"Premiers"_s);
-        Idioma() = QString();
-        QCOMPARE(::Traduce(u"Primos"_s), u"Primos"_s);
+        const QString ingles = u"english"_s;
+        for (const auto &[idioma, texto, traducido] :
+             {std::tuple{u"Español"_s, u"Primos"_s, u"Primos"_s},
+              {ingles, u"Primos"_s, u"Primes"_s},
+              {ingles, u"El mayor es "_s, u"The largest is "_s},
+              {ingles, u"Uno\ndos"_s, u"One\ntwo"_s},
+              {ingles, u"x = 1"_s, u"y = 1"_s},
+              {ingles, u"Largo"_s, QString(1023, u'x')},
+              {ingles, u"Sin entrada"_s, u"Sin entrada"_s},
+              {u"Français"_s, u"Primos"_s, u"Premiers"_s},
+              {QString(), u"Primos"_s, u"Primos"_s}}) {
+            Idioma() = idioma;
+            QCOMPARE(::Traduce(texto), traducido);
+        }
     }
 
-    void losTextosDeQt_data()
-    {
-        QTest::addColumn<QString>("idioma");
-        QTest::addColumn<QString>("texto");
-        QTest::newRow("Spanish") << u"Español"_s << u"Cancelar"_s;
-        QTest::newRow("translated") << u"English"_s << u"Cancel"_s;
-        QTest::newRow("no such section") << u"x"_s << u"Cancelar"_s;
-        QTest::newRow("no language") << QString() << u"Cancelar"_s;
-    }
     void losTextosDeQt()
     {
-        QFETCH(QString, idioma);
         escribeTabla("[English]\nPrimos=Primes\n[Español]\nPrimos=Números primos\n");
-        Idioma() = idioma;
-        instalaTextosDeQt();
-        QTEST(QCoreApplication::translate("QPlatformTheme", "Cancel"), "texto");
-        const bool espanol = QTest::currentDataTag() != "translated"_ba;
-        // One that Qt's own Spanish lacks.
-        QCOMPARE(QCoreApplication::translate("QPrintSettingsOutput", "Off"),
-                 espanol ? u"No"_s : u"Off"_s);
+        for (const QString &idioma : {u"Español"_s, u"English"_s, u"x"_s, QString()}) {
+            Idioma() = idioma;
+            instalaTextosDeQt();
+            const bool ingles = idioma == u"English";
+            QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"),
+                     ingles ? u"Cancel"_s : u"Cancelar"_s);
+            // One that Qt's own Spanish lacks.
+            QCOMPARE(QCoreApplication::translate("QPrintSettingsOutput", "Off"),
+                     ingles ? u"Off"_s : u"No"_s);
+        }
     }
 
     void carpetaDeLaSesion()
@@ -131,30 +114,31 @@ private Q_SLOTS:
         QCOMPARE(Sesión().Precisión(), 100);
         Sesión().ponPrecisión(200);
         QCOMPARE(Sesión().lee(u"Aritmética"_s, u"Precisión"_s), u" 200"_s);
+        const auto guardada = [](const QString &texto) {
+            Sesión().guarda(u"Aritmética"_s, u"Precisión"_s, texto);
+            return Sesión().Precisión();
+        };
         QCOMPARE(Sesión().Precisión(), 200);
-        Sesión().guarda(u"Aritmética"_s, u"Precisión"_s, u"dañada"_s);
-        QCOMPARE(Sesión().Precisión(), 0);
-        Sesión().guarda(u"Aritmética"_s, u"Precisión"_s, u"2.5"_s);
-        QCOMPARE(Sesión().Precisión(), 2);
-        Sesión().guarda(u"Aritmética"_s, u"Precisión"_s, u"1e10"_s);
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, Sesión().Precisión());
+        QCOMPARE(guardada(u"dañada"_s), 0);
+        QCOMPARE(guardada(u"2.5"_s), 2);
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, guardada(u"1e10"_s));
     }
 
     void animaciones()
     {
-        QHash<QString, int> eureka, error;
-        constexpr int lecturas = 2200;
-        for (int i = 0; i < lecturas; ++i) {
-            ++eureka[Sesión().AVIEureka()];
-            ++error[Sesión().AVIError()];
+        QHash<QString, int> veces;
+        for (int i = 0; i < 2200; ++i) {
+            ++veces[Sesión().AVIEureka()];
+            ++veces[Sesión().AVIError()];
         }
-        QCOMPARE(eureka.size(), 2);
-        QCOMPARE(error.size(), 3);
-        // Expected 1200, 1000 and 800, 800, 600: six standard deviations on either side.
-        QVERIFY(std::abs(eureka[u"ClipArt\\EUREKA01.AVI"_s] - 1200) < 140);
-        QVERIFY(std::abs(eureka[u"ClipArt\\EUREKA02.AVI"_s] - 1000) < 140);
-        QVERIFY(std::abs(error[u"ClipArt\\ERROR01.AVI"_s] - 800) < 140);
-        QVERIFY(std::abs(error[u"ClipArt\\ERROR03.AVI"_s] - 600) < 140);
+        // Six standard deviations on either side.
+        for (const auto &[cual, esperadas] : {std::pair{u"EUREKA01"_s, 1200},
+                                              {u"EUREKA02"_s, 1000},
+                                              {u"ERROR01"_s, 800},
+                                              {u"ERROR03"_s, 600}})
+            QVERIFY2(std::abs(veces[u"ClipArt\\%1.AVI"_s.arg(cual)] - esperadas) < 140,
+                     qPrintable(cual));
+        QCOMPARE(veces.size(), 5);
     }
 
 private:

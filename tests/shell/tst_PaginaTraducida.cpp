@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Traduccion.h"
+#include "shell/core/system/Archivos.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/NavegadorPagina.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QDir>
-#include <QFile>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,13 +17,6 @@ class FormConPagina : public FormLeccion
 public:
     FormConPagina() : FormLeccion(u"Primos.html"_s) { agregaIntroduccion(u"Introducción"_s); }
 };
-
-void escribe(const QString &ruta, const QByteArray &contenido)
-{
-    QFile archivo(ruta);
-    QVERIFY2(archivo.open(QIODevice::WriteOnly), qPrintable(ruta));
-    archivo.write(contenido);
-}
 
 } // namespace
 
@@ -39,10 +32,10 @@ private Q_SLOTS:
         QVERIFY(carpeta.mkpath(u"Doc/English"_s) && carpeta.mkpath(u"Doc/Català"_s) &&
                 carpeta.mkpath(u"Fuera"_s) && carpeta.mkpath(u"Doc/Français/Primos.html"_s) &&
                 carpeta.mkpath(u"Doc/Español"_s));
-        escribe(carpeta.filePath(u"Doc/Primos.html"_s), "<p>español</p>");
+        escribeArchivo(carpeta.filePath(u"Doc/Primos.html"_s), "<p>español</p>");
         for (const QString &otra :
              {u"Doc/English"_s, u"Doc/Català"_s, u"Doc/Español"_s, u"Fuera"_s})
-            escribe(carpeta.filePath(otra + u"/Primos.html"_s), "<p>traducida</p>");
+            escribeArchivo(carpeta.filePath(otra + u"/Primos.html"_s), "<p>traducida</p>");
     }
     void init()
     {
@@ -50,56 +43,46 @@ private Q_SLOTS:
         Sesión().ponCarpeta(m_carpeta.path());
     }
 
-    void pagina_data()
-    {
-        QTest::addColumn<QString>("idioma");
-        QTest::addColumn<QString>("esperada"); // within the working folder
-        const QString propia = u"\\Doc\\Primos.html"_s;
-        QTest::newRow("Spanish") << u"Español"_s << propia;
-        QTest::newRow("English") << u"English"_s << u"\\Doc\\English\\Primos.html"_s;
-        QTest::newRow("accents") << u"Català"_s << u"\\Doc\\Català\\Primos.html"_s;
-        QTest::newRow("letter case") << u"ENGLISH"_s << u"\\Doc\\ENGLISH\\Primos.html"_s;
-        QTest::newRow("no such language") << u"Klingon"_s << propia;
-        QTest::newRow("a folder in the page's place") << u"Français"_s << propia;
-        QTest::newRow("empty") << QString() << propia;
-        QTest::newRow("the folder itself") << u"."_s << propia;
-        QTest::newRow("the folder above") << u".."_s << propia;
-        QTest::newRow("out by slashes") << u"../Fuera"_s << propia;
-        QTest::newRow("out by back-slashes") << u"..\\Fuera"_s << propia;
-        QTest::newRow("absolute") << m_carpeta.filePath(u"Fuera"_s) << propia;
-        QTest::newRow("deeper") << u"English/../English"_s << propia;
-        QTest::newRow("NUL") << u"English"_s + QChar(u'\0') << propia;
-        QTest::newRow("very long") << QString(100'000, u'x') << propia;
-    }
     void pagina()
     {
-        QFETCH(QString, idioma);
-        QFETCH(QString, esperada);
         const QString carpeta = m_carpeta.path();
-        QCOMPARE(PaginaTraducida(carpeta + u"\\Doc\\Primos.html"_s, idioma), carpeta + esperada);
+        const QString propia = carpeta + u"\\Doc\\Primos.html"_s;
         const QString sinTraducir = carpeta + u"\\Doc\\Euclides.html"_s;
-        QCOMPARE(PaginaTraducida(sinTraducir, idioma), sinTraducir);
+        // Languages with a page, then others: a folder in its place, and ways out of the folder.
+        const QStringList traducidas{u"English"_s, u"Català"_s, u"ENGLISH"_s};
+        for (const QString &idioma : traducidas + QStringList{u"Español"_s,
+                                                              u"Klingon"_s,
+                                                              u"Français"_s,
+                                                              {},
+                                                              u"."_s,
+                                                              u".."_s,
+                                                              u"../Fuera"_s,
+                                                              u"..\\Fuera"_s,
+                                                              m_carpeta.filePath(u"Fuera"_s),
+                                                              u"English/../English"_s,
+                                                              u"English"_s + QChar(u'\0'),
+                                                              QString(100'000, u'x')}) {
+            QCOMPARE(PaginaTraducida(propia, idioma),
+                     traducidas.contains(idioma) ? carpeta + u"\\Doc\\%1\\Primos.html"_s.arg(idioma)
+                                                 : propia);
+            QCOMPARE(PaginaTraducida(sinTraducir, idioma), sinTraducir);
+        }
     }
 
-    void laMuestraLaLeccion_data()
-    {
-        QTest::addColumn<QString>("idioma");
-        QTest::addColumn<QString>("abierta");
-        QTest::newRow("Spanish") << u"Español"_s << u"\\Doc\\Primos.html"_s;
-        QTest::newRow("English") << u"English"_s << u"\\Doc\\English\\Primos.html"_s;
-    }
     void laMuestraLaLeccion()
     {
-        QFETCH(QString, idioma);
-        QFETCH(QString, abierta);
-        Idioma() = idioma;
-        FormConPagina leccion;
-        leccion.show();
-        const auto *pagina = control<NavegadorPagina>(&leccion, u"wbIntro"_s);
-        QCOMPARE(pagina->toPlainText(), idioma == IdiomaPropio ? u"español"_s : u"traducida"_s);
-        QTest::keyRelease(&leccion, Qt::Key_F1);
-        QCOMPARE(Entorno::grabadora().abiertas, QStringList{m_carpeta.path() + abierta});
-        QCOMPARE(leccion.URL(), m_carpeta.path() + u"\\Doc\\Primos.html"_s);
+        const QString propia = m_carpeta.path() + u"\\Doc\\Primos.html"_s;
+        const QString inglesa = m_carpeta.path() + u"\\Doc\\English\\Primos.html"_s;
+        for (const auto &[idioma, texto, abierta] : {std::tuple{u"Español"_s, u"español"_s, propia},
+                                                     {u"English"_s, u"traducida"_s, inglesa}}) {
+            Idioma() = idioma;
+            FormConPagina leccion;
+            leccion.show();
+            QCOMPARE(control<NavegadorPagina>(&leccion, u"wbIntro"_s)->toPlainText(), texto);
+            QTest::keyRelease(&leccion, Qt::Key_F1);
+            QCOMPARE(std::exchange(Entorno::grabadora().abiertas, {}), QStringList{abierta});
+            QCOMPARE(leccion.URL(), propia);
+        }
     }
 
 private:

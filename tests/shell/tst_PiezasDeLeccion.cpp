@@ -24,49 +24,31 @@ class TestPiezasDeLeccion : public QObject
 private Q_SLOTS:
     void init() { Entorno::limpia(); }
 
-    void enteros_data()
-    {
-        QTest::addColumn<QString>("expresion");
-        QTest::addColumn<int>("valor");
-        QTest::addColumn<QString>("razon");
-        const auto fila = [](const char *nombre, const QString &expresion, int valor,
-                             const QString &razon = {}) {
-            QTest::newRow(nombre) << expresion << valor << razon;
-        };
-        const QString menor = u"El menor número permitido es 3."_s;
-        const QString mayor = u"El mayor número permitido es 1.000."_s;
-        const QString incalculable = u"Lo escrito no es una expresión que se pueda calcular."_s;
-        fila("least", u"3"_s, 3);
-        fila("largest", u"10^3"_s, 1000);
-        fila("blanks", u" 4 + 4 "_s, 8);
-        fila("below", u"2"_s, 0, menor);
-        fila("negative", u"-50"_s, 0, menor);
-        fila("above", u"1001"_s, 0, mayor);
-        fila("far above", u"10^40"_s, 0, mayor);
-        fila("fraction", u"7/2"_s, 0, u"El valor escrito no es un número entero."_s);
-        fila("fraction above", u"2001/2"_s, 0, mayor);
-        fila("words", u"tres"_s, 0, incalculable);
-        fila("division by zero", u"1/0"_s, 0, incalculable);
-        fila("empty", u" "_s, 0, u"Escriba un número entero."_s);
-    }
     /// One reader for all types; only a value above the bound has a box as well.
     void enteros()
     {
-        QFETCH(QString, expresion);
-        QFETCH(QString, razon);
-        const auto comprueba = [&](const auto &leido, const QString &valor) {
-            QCOMPARE(leido ? QString() : leido.razon().frase(), razon);
-            if (leido)
-                QTEST(valor.toInt(), "valor");
-            QCOMPARE(!Entorno::grabadora().mensajes.isEmpty(), razon.contains(u"mayor"));
-            Entorno::grabadora().mensajes.clear();
-        };
-        const auto maquina = leeEntero(expresion, 3, 1000);
-        comprueba(maquina, maquina ? QString::number(*maquina) : QString());
-        const auto fijo = leeEntero(expresion, Moneda::deEntero(3), Moneda::deEntero(1000));
-        comprueba(fijo, fijo ? fijo->texto() : QString());
-        const auto texto = leeEntero(expresion, {u"3"_s, u"1000"_s});
-        comprueba(texto, texto ? *texto : QString());
+        const QString menor = u"El menor número permitido es 3."_s;
+        const QString mayor = u"El mayor número permitido es 1.000."_s;
+        const QString incalculable = u"Lo escrito no es una expresión que se pueda calcular."_s;
+        // The value, or why there is none.
+        const QList<std::pair<QString, QString>> filas{
+            {u"3"_s, u"3"_s},         {u"10^3"_s, u"1000"_s},
+            {u" 4 + 4 "_s, u"8"_s},   {u"2"_s, menor},
+            {u"-50"_s, menor},        {u"1001"_s, mayor},
+            {u"10^40"_s, mayor},      {u"7/2"_s, u"El valor escrito no es un número entero."_s},
+            {u"2001/2"_s, mayor},     {u"tres"_s, incalculable},
+            {u"1/0"_s, incalculable}, {u" "_s, u"Escriba un número entero."_s}};
+        for (const auto &fila : filas) {
+            const auto comprueba = [&](const auto &leido, const auto &texto) {
+                QCOMPARE(leido ? texto(*leido) : leido.razon().frase(), fila.second);
+                QCOMPARE(!Entorno::grabadora().mensajes.isEmpty(), fila.second == mayor);
+                Entorno::grabadora().mensajes.clear();
+            };
+            comprueba(leeEntero(fila.first, 3, 1000), [](int n) { return QString::number(n); });
+            comprueba(leeEntero(fila.first, Moneda::deEntero(3), Moneda::deEntero(1000)),
+                      [](const Moneda &n) { return n.texto(); });
+            comprueba(leeEntero(fila.first, {u"3"_s, u"1000"_s}), [](QString n) { return n; });
+        }
     }
 
     void redondeados()
@@ -101,20 +83,12 @@ private Q_SLOTS:
         QCOMPARE(modelo.rowCount(), 0);
     }
 
-    void duraciones_data()
-    {
-        QTest::addColumn<double>("ns");
-        QTest::addColumn<QString>("texto");
-        QTest::newRow("ns") << 3.124 << u"3,12 ns"_s;
-        QTest::newRow("rounds up to the next unit") << 999.7 << u"1,00 µs"_s;
-        QTest::newRow("rounds up to two digits") << 9.996e3 << u"10,0 µs"_s;
-        QTest::newRow("ms") << 123.4e6 << u"123 ms"_s;
-        QTest::newRow("no unit beyond seconds") << 7200e9 << u"7.200 s"_s;
-    }
     void duraciones()
     {
-        QFETCH(double, ns);
-        QTEST(textoDeDuracion(ns), "texto");
+        for (const QString &fila :
+             u"3.124=3,12 ns|999.7=1,00 µs|9.996e3=10,0 µs|123.4e6=123 ms|7200e9=7.200 s"_s.split(
+                 u'|'))
+            QCOMPARE(textoDeDuracion(fila.section(u'=', 0, 0).toDouble()), fila.section(u'=', 1));
     }
 
     /// Decimals have a comma on a desktop of any language.
@@ -172,10 +146,11 @@ private Q_SLOTS:
         };
         const auto siempreIgual = [] { return Cuestion{u"La misma"_s, {}, {}}; };
         PanelCuestiones panel(deTresEnTres, siempreIgual, nullptr);
+        const auto *enunciado = control<QLabel>(&panel, u"lblEnunciado_0"_s);
         for (int vez = 0; vez < 3; ++vez) {
-            const QString antes = control<QLabel>(&panel, u"lblEnunciado_0"_s)->text();
+            const QString antes = enunciado->text();
             control<QPushButton>(&panel, u"cmdOtra_0"_s)->click();
-            QVERIFY(control<QLabel>(&panel, u"lblEnunciado_0"_s)->text() != antes);
+            QVERIFY(enunciado->text() != antes);
         }
         control<QPushButton>(&panel, u"cmdOtra_1"_s)->click();
         QCOMPARE(control<QLabel>(&panel, u"lblEnunciado_1"_s)->text(), u"La misma"_s);

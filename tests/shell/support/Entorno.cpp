@@ -51,28 +51,6 @@ Grabadora::Mensaje Grabadora::unico()
     return mensajes.takeFirst();
 }
 
-void Grabadora::avisa(QWidget *, Icono icono, const QString &texto, const QString &titulo)
-{
-    mensajes << Mensaje{icono, texto, titulo};
-}
-
-Tarea<> Grabadora::avisaYEspera(QWidget *padre, Icono icono, QString texto, QString titulo)
-{
-    avisa(padre, icono, texto, titulo);
-    co_return;
-}
-
-Tarea<QString> Grabadora::preguntaTexto(QWidget *, QString, QString)
-{
-    co_return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
-}
-
-Tarea<bool> Grabadora::preguntaSiNo(QWidget *, QString pregunta, QString)
-{
-    confirmaciones << pregunta;
-    co_return respondeSi;
-}
-
 Tarea<Interlocutor::Guardado> Grabadora::preguntaGuardar(QWidget *, QString texto, QString)
 {
     preguntasSiGuarda << texto;
@@ -82,9 +60,7 @@ Tarea<Interlocutor::Guardado> Grabadora::preguntaGuardar(QWidget *, QString text
 Tarea<QString> Grabadora::eligeArchivoParaAbrir(QWidget *padre, QString titulo, QString propuesta,
                                                 QStringList filtros)
 {
-    const Archivo elegido =
-        co_await Grabadora::eligeArchivoParaGuardar(padre, titulo, propuesta, filtros);
-    co_return elegido.ruta;
+    co_return (co_await eligeArchivoParaGuardar(padre, titulo, propuesta, filtros)).ruta;
 }
 
 Tarea<Interlocutor::Archivo> Grabadora::eligeArchivoParaGuardar(QWidget *, QString, QString,
@@ -105,17 +81,6 @@ Tarea<QString> Grabadora::eligeCarpeta(QWidget *, QString, QString inicial)
 {
     carpetasPedidas << inicial;
     co_return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
-}
-
-void Grabadora::abre(const QString &direccion)
-{
-    abiertas << direccion;
-}
-
-bool Grabadora::lanzaAlguno(const QList<QStringList> &ordenes)
-{
-    lanzadas << ordenes.constFirst();
-    return hayProgramas;
 }
 
 Entorno::Entorno(int argc, char *argv[])

@@ -38,18 +38,35 @@ public:
     /// The only message, which is then forgotten; fails the test when there is none or several.
     Mensaje unico();
 
-    void avisa(QWidget *, Icono icono, const QString &texto, const QString &titulo) override;
-    Tarea<> avisaYEspera(QWidget *, Icono icono, QString texto, QString titulo) override;
-    Tarea<QString> preguntaTexto(QWidget *, QString, QString) override;
-    Tarea<bool> preguntaSiNo(QWidget *, QString pregunta, QString) override;
+    void avisa(QWidget *, Icono icono, const QString &texto, const QString &titulo) override
+    {
+        mensajes << Mensaje{icono, texto, titulo};
+    }
+    Tarea<> avisaYEspera(QWidget *padre, Icono icono, QString texto, QString titulo) override
+    {
+        co_return avisa(padre, icono, texto, titulo);
+    }
+    Tarea<QString> preguntaTexto(QWidget *, QString, QString) override
+    {
+        co_return respuestas.isEmpty() ? QString() : respuestas.takeFirst();
+    }
+    Tarea<bool> preguntaSiNo(QWidget *, QString pregunta, QString) override
+    {
+        confirmaciones << pregunta;
+        co_return respondeSi;
+    }
     Tarea<Guardado> preguntaGuardar(QWidget *, QString texto, QString) override;
     Tarea<QString> eligeArchivoParaAbrir(QWidget *, QString, QString, QStringList filtros) override;
     Tarea<Archivo> eligeArchivoParaGuardar(QWidget *, QString, QString,
                                            QStringList filtros) override;
     Tarea<bool> eligeImpresora(QWidget *, std::shared_ptr<QPrinter> impresora, QString) override;
     Tarea<QString> eligeCarpeta(QWidget *, QString, QString inicial) override;
-    void abre(const QString &direccion) override;
-    bool lanzaAlguno(const QList<QStringList> &ordenes) override;
+    void abre(const QString &direccion) override { abiertas << direccion; }
+    bool lanzaAlguno(const QList<QStringList> &ordenes) override
+    {
+        lanzadas << ordenes.constFirst();
+        return hayProgramas;
+    }
 };
 
 /// One place for a test to stand on: settings of its own, the working folder as shipped, no
