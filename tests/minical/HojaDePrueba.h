@@ -21,3 +21,13 @@ inline QString resultado(const HojaDeCalculo &hoja, QStringView nombre)
     const Celda celda = en(nombre);
     return hoja.Resultados(celda.fila, celda.columna);
 }
+
+/// A sheet in which some expressions have been entered, in their order.
+struct HojaCon : HojaDeCalculo
+{
+    HojaCon(std::initializer_list<std::pair<const char16_t *, const char16_t *>> expresiones)
+    {
+        for (const auto &[nombre, expresion] : expresiones)
+            entra(*this, nombre, QString::fromUtf16(expresion));
+    }
+};

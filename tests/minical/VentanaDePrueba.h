@@ -5,6 +5,7 @@
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -53,6 +54,8 @@ public:
                                           [](const QLineEdit *c) { return c->isVisible(); });
         return visible == campos.end() ? nullptr : *visible;
     }
+    /// What stands in it; "(none)" when nothing is edited.
+    QString editado() const { return editor() ? editor()->text() : QStringLiteral("(none)"); }
     /// Keys go where the focus is: to the field of an edit, else to the grid.
     void teclea(const QString &texto)
     {
@@ -65,13 +68,25 @@ public:
         // The end of an edit comes from the event queue.
         QCoreApplication::processEvents();
     }
+    /// Keys by their names, with a blank between them.
+    void pulsa(const QString &teclas)
+    {
+        for (const QString &una : teclas.split(u' ', Qt::SkipEmptyParts)) {
+            const QKeyCombination tecla = QKeySequence(una)[0];
+            pulsa(tecla.key(), tecla.keyboardModifiers());
+        }
+    }
     void entra(QStringView nombre, const QString &expresion)
     {
         ve(nombre);
         teclea(expresion);
         pulsa(Qt::Key_Return);
     }
-    void boton(const QString &clave) { control<QAbstractButton>(ventana(), clave)->click(); }
+    QAbstractButton *elBoton(const QString &clave) const
+    {
+        return control<QAbstractButton>(ventana(), clave);
+    }
+    void boton(const QString &clave) { elBoton(clave)->click(); }
 
     QPoint lugar(QStringView nombre) const
     {
@@ -86,6 +101,25 @@ public:
     QString textoDelZoom() const
     {
         return control<QPlainTextEdit>(zoom(), QStringLiteral("txtZoom"))->toPlainText();
+    }
+
+    QLineEdit *campo(const QString &nombre) const { return control<QLineEdit>(ventana(), nombre); }
+    QString rotulo(const QString &nombre) const
+    {
+        return control<QLabel>(ventana(), nombre)->text();
+    }
+    /// The cells that are chosen, in the order in which they were.
+    QString elegidas() const
+    {
+        QStringList nombres;
+        for (const QModelIndex &i : m_rejilla->selectionModel()->selectedIndexes())
+            nombres << NombreCelda({i.row() + 1, i.column() + 1});
+        return nombres.join(u' ');
+    }
+    /// Its title and its text.
+    QString vistoEnElZoom() const
+    {
+        return zoom()->windowTitle() + QStringLiteral(": ") + textoDelZoom();
     }
 
 private:

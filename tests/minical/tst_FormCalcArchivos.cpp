@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/minical/VentanaDePrueba.h"
+#include "tests/shell/support/Tabla.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -95,6 +96,9 @@ private Q_SLOTS:
         QVERIFY(!m->ventana()->close());
         QVERIFY(!Entorno::grabadora().unico().texto.isEmpty());
         QVERIFY((*m)->isVisible());
+        // Nor when no file is chosen.
+        Entorno::grabadora().guardados = {Guardado::Guardar};
+        QVERIFY(!m->ventana()->close());
     }
 
     void cerrarConCambios_data()
@@ -116,13 +120,6 @@ private Q_SLOTS:
         QTEST(m->ventana()->close(), "cierra");
         QTEST(QFileInfo::exists(ruta(u"hoja.minical"_s)), "escribe");
         QCOMPARE(Entorno::grabadora().preguntasSiGuarda.size(), 1);
-    }
-
-    void guardarYCancelarElArchivoNoCierra()
-    {
-        m->entra(u"A1", u"5"_s);
-        Entorno::grabadora().guardados = {Guardado::Guardar};
-        QVERIFY(!m->ventana()->close());
     }
 
     /// The hourglass is gone before a box comes.
@@ -147,15 +144,11 @@ private Q_SLOTS:
 
     /// What was not saved when the window went is offered by the next one, and back if it is
     /// wanted.
-    void laCopiaVuelve_data()
-    {
-        QTest::addColumn<bool>("descarta");
-        QTest::newRow("recovered") << false;
-        QTest::newRow("discarded") << true;
-    }
+    void laCopiaVuelve_data() { tabla(u"que\nrecovered|recupera\ndiscarded|descarta"_s); }
     void laCopiaVuelve()
     {
-        QFETCH(bool, descarta);
+        QFETCH(QString, que);
+        const bool descarta = que == u"descarta"_s;
         guarda(u"hoja.minical"_s);
         m->entra(u"A1", u"1/8"_s);
         m->rejilla()->setColumnWidth(1, 300);
@@ -203,25 +196,19 @@ private Q_SLOTS:
         QCOMPARE(m->texto(u"B1"), u"Error"_s);
     }
 
-    void exportar_data()
-    {
-        QTest::addColumn<int>("filtro");
-        QTest::addColumn<QByteArray>("texto");
-        QTest::newRow("comma") << 0 << "0,5;7\r\n"_ba;
-        QTest::newRow("point") << 1 << "0.5,7\r\n"_ba;
-    }
     void exportar()
     {
-        QFETCH(int, filtro);
         m->entra(u"A1", u"1/2"_s);
         m->ve(u"A1");
         m->boton(u"ValorDecimal"_s);
         m->entra(u"B1", u"7"_s);
-        Entorno::grabadora().archivos = {{ruta(u"hoja.csv"_s), filtro}};
-        m->boton(u"Exportar"_s);
-        QCOMPARE(Entorno::grabadora().filtrosPedidos.constLast().size(), 2);
-        QTEST(lee(u"hoja.csv"_s), "texto");
-        Entorno::grabadora().archivos = {{ruta(u"no/hoja.csv"_s), filtro}};
+        for (const auto &[filtro, texto] : {std::pair(0, "0,5;7\r\n"_ba), {1, "0.5,7\r\n"_ba}}) {
+            Entorno::grabadora().archivos = {{ruta(u"hoja.csv"_s), filtro}};
+            m->boton(u"Exportar"_s);
+            QCOMPARE(Entorno::grabadora().filtrosPedidos.constLast().size(), 2);
+            QCOMPARE(lee(u"hoja.csv"_s), texto);
+        }
+        Entorno::grabadora().archivos = {{ruta(u"no/hoja.csv"_s), 0}};
         m->boton(u"Exportar"_s);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"No se pudo guardar"_s);
         // Exporting saves nothing.

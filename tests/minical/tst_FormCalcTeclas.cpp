@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/minical/VentanaDePrueba.h"
+#include "tests/shell/support/Tabla.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -36,10 +37,7 @@ private Q_SLOTS:
         QVERIFY(!m->editor());
         QCOMPARE(m->texto(u"A1"), u"5"_s);
         QCOMPARE(m->actual(), u"A1"_s);
-    }
-
-    void F2CorrigeLaExpresion()
-    {
+        // F2 begins with what is there.
         m->entra(u"B2", u"1/3"_s);
         m->ve(u"B2");
         m->pulsa(Qt::Key_F2);
@@ -54,61 +52,45 @@ private Q_SLOTS:
 
     void adondeLlevanLasTeclas_data()
     {
-        QTest::addColumn<Qt::Key>("tecla");
-        QTest::addColumn<bool>("mayusculas");
-        QTest::addColumn<QString>("destino");
-        QTest::newRow("Enter") << Qt::Key_Return << false << u"C4"_s;
-        QTest::newRow("Shift+Enter") << Qt::Key_Return << true << u"C2"_s;
-        QTest::newRow("Tab") << Qt::Key_Tab << false << u"D3"_s;
-        QTest::newRow("Shift+Tab") << Qt::Key_Backtab << true << u"B3"_s;
-        QTest::newRow("down") << Qt::Key_Down << false << u"C4"_s;
-        QTest::newRow("up") << Qt::Key_Up << false << u"C2"_s;
+        tabla(uR"(
+            teclas | destino
+            Enter | Return | C4 || Shift+Enter | Shift+Return | C2 || Tab | Tab | D3
+            Shift+Tab | Shift+Backtab | B3 || down | Down | C4 || up | Up | C2)"_s);
     }
     void adondeLlevanLasTeclas()
     {
-        QFETCH(Qt::Key, tecla);
-        QFETCH(bool, mayusculas);
-        const Qt::KeyboardModifiers con = mayusculas ? Qt::ShiftModifier : Qt::NoModifier;
+        QFETCH(QString, teclas);
         m->ve(u"C3");
         m->teclea(u"6*7"_s);
-        m->pulsa(tecla, con);
+        m->pulsa(teclas);
         QCOMPARE(m->texto(u"C3"), u"42"_s);
         QTEST(m->actual(), "destino");
         // The same without an edit.
         m->ve(u"C3");
-        if (tecla != Qt::Key_Down && tecla != Qt::Key_Up) {
-            m->pulsa(tecla, con);
-            QTEST(m->actual(), "destino");
-        }
+        m->pulsa(teclas);
+        QTEST(m->actual(), "destino");
     }
 
     void saltosConCtrl_data()
     {
-        QTest::addColumn<Qt::Key>("tecla");
-        QTest::addColumn<QString>("desde");
-        QTest::addColumn<QString>("hasta");
-        QTest::newRow("end of the block") << Qt::Key_Down << u"B2"_s << u"B4"_s;
-        QTest::newRow("to the next block") << Qt::Key_Down << u"B4"_s << u"B8"_s;
-        QTest::newRow("from outside") << Qt::Key_Down << u"B1"_s << u"B2"_s;
-        QTest::newRow("edge") << Qt::Key_Down << u"B8"_s << u"B99"_s;
-        QTest::newRow("up") << Qt::Key_Up << u"B4"_s << u"B2"_s;
-        QTest::newRow("right") << Qt::Key_Right << u"B3"_s << u"D3"_s;
-        QTest::newRow("left") << Qt::Key_Left << u"D3"_s << u"B3"_s;
-        QTest::newRow("left edge") << Qt::Key_Left << u"B3"_s << u"A3"_s;
-        QTest::newRow("first cell") << Qt::Key_Home << u"D3"_s << u"A1"_s;
-        QTest::newRow("last row and column in use") << Qt::Key_End << u"A1"_s << u"D8"_s;
+        tabla(uR"(
+            tecla | desde | hasta
+            end of the block | Down | B2 | B4 || to the next block | Down | B4 | B8
+            from outside | Down | B1 | B2 || edge | Down | B8 | B99 || up | Up | B4 | B2
+            right | Right | B3 | D3 || left | Left | D3 | B3 || left edge | Left | B3 | A3
+            first cell | Home | D3 | A1 || last row and column in use | End | A1 | D8)"_s);
     }
     void saltosConCtrl()
     {
-        QFETCH(Qt::Key, tecla);
+        QFETCH(QString, tecla);
         QFETCH(QString, desde);
         for (const auto *celda : {u"B2", u"B3", u"B4", u"B8", u"C3", u"D3"})
             m->entra(celda, u"1"_s);
         m->ve(desde);
-        m->pulsa(tecla, Qt::ControlModifier);
+        m->pulsa(u"Ctrl+"_s + tecla);
         QTEST(m->actual(), "hasta");
         m->ve(desde);
-        m->pulsa(tecla, Qt::ControlModifier | Qt::ShiftModifier);
+        m->pulsa(u"Ctrl+Shift+"_s + tecla);
         QTEST(m->actual(), "hasta");
         QVERIFY(m->rejilla()->selectionModel()->isSelected(m->indice(desde)));
     }
@@ -121,16 +103,13 @@ private Q_SLOTS:
         m->teclea(u"1"_s);
         m->pulsa(Qt::Key_Return);
         m->pulsa(Qt::Key_Down, Qt::ShiftModifier);
-        QCOMPARE(m->rejilla()->selectionModel()->selectedIndexes(),
-                 QModelIndexList({m->indice(u"B3"), m->indice(u"B4")}));
-        QTest::mouseClick(m->rejilla()->viewport(), Qt::LeftButton, Qt::ShiftModifier,
-                          m->lugar(u"A3"));
+        QCOMPARE(m->elegidas(), u"B3 B4"_s);
+        QWidget *lienzo = m->rejilla()->viewport();
+        QTest::mouseClick(lienzo, Qt::LeftButton, Qt::ShiftModifier, m->lugar(u"A3"));
         QCOMPARE(m->actual(), u"A3"_s);
-        QCOMPARE(m->rejilla()->selectionModel()->selectedIndexes(),
-                 QModelIndexList({m->indice(u"A3"), m->indice(u"B3")}));
+        QCOMPARE(m->elegidas(), u"A3 B3"_s);
         // The same when the mouse moves on before it is released.
         m->ve(u"C5");
-        QWidget *lienzo = m->rejilla()->viewport();
         QTest::mousePress(lienzo, Qt::LeftButton, Qt::ShiftModifier, m->lugar(u"D5"));
         QMouseEvent arrastre(QEvent::MouseMove, m->lugar(u"D6"),
                              lienzo->mapToGlobal(m->lugar(u"D6")), Qt::NoButton, Qt::LeftButton,
@@ -143,12 +122,11 @@ private Q_SLOTS:
 
     void laLineaDeLaExpresion()
     {
-        auto *linea = control<QLineEdit>(m->ventana(), u"txtExpresión"_s);
+        auto *linea = m->campo(u"txtExpresión"_s);
         const auto *nombre = control<QLabel>(m->ventana(), u"lblCelda"_s);
         QVERIFY(!linea->isEnabled());
         m->entra(u"B2", u"1/3"_s);
-        QCOMPARE(nombre->text(), u"B3"_s);
-        QCOMPARE(linea->text(), QString());
+        QCOMPARE(nombre->text() + linea->text(), u"B3"_s);
         m->ve(u"B2");
         QCOMPARE(nombre->text() + linea->text(), u"B21/3"_s);
         // What is typed into the cell is seen in the line too, until Escape takes it back.
@@ -179,24 +157,25 @@ private Q_SLOTS:
         QCOMPARE(nombre->text(), u"A1"_s);
         m->boton(u"Deshacer"_s);
         QCOMPARE(nombre->text() + linea->text(), u"B21/3+1/3"_s);
+        // A button of the toolbar takes what stands in the line, as it does with a cell's edit.
+        m->ve(u"A1");
+        linea->setFocus();
+        QTest::keyClicks(linea, u"3/4"_s);
+        m->boton(u"ValorDecimal"_s);
+        QCOMPARE(m->texto(u"A1"), u"0,75"_s);
     }
 
     /// What would make an expression too long is refused as a whole, in the cell and above it.
-    void loDemasiadoLargoSeRechaza_data()
-    {
-        QTest::addColumn<bool>("enLaCelda");
-        QTest::newRow("cell") << true;
-        QTest::newRow("line") << false;
-    }
+    void loDemasiadoLargoSeRechaza_data() { tabla(u"donde\nin the cell|cell\nabove it|line"_s); }
     void loDemasiadoLargoSeRechaza()
     {
-        QFETCH(bool, enLaCelda);
+        QFETCH(QString, donde);
         m->ve(u"A1");
         m->teclea(u"2"_s);
-        auto *linea = control<QLineEdit>(m->ventana(), u"txtExpresión"_s);
-        if (!enLaCelda)
+        auto *linea = m->campo(u"txtExpresión"_s);
+        if (donde == u"line"_s)
             linea->setFocus();
-        QLineEdit *campo = enLaCelda ? m->editor() : linea;
+        QLineEdit *campo = donde == u"line"_s ? linea : m->editor();
         QApplication::clipboard()->setText(u"1+"_s.repeated(49'999) + u"1234"_s);
         campo->paste();
         QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"Parte de lo que"_s));
@@ -210,30 +189,21 @@ private Q_SLOTS:
 
     void lasFuncionesSeOfrecen_data()
     {
-        QTest::addColumn<QString>("escrito");
-        QTest::addColumn<QList<Qt::Key>>("teclas");
-        QTest::addColumn<QString>("queda");
-        const auto fila = [](const char *nombre, const QString &escrito,
-                             const QList<Qt::Key> &teclas, const QString &queda) {
-            QTest::newRow(nombre) << escrito << teclas << queda;
-        };
-        fila("first one", u"2+MC"_s, {Qt::Key_Tab}, u"2+mcd("_s);
-        fila("chosen", u"mc"_s, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}, u"mcm("_s);
-        fila("back up", u"mi"_s, {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return}, u"min("_s);
-        fila("put away", u"fi"_s, {Qt::Key_Escape}, u"fi"_s);
-        fila("gone with the bracket", u"fi(7)"_s, {}, u"fi(7)"_s);
-        fila("no such name", u"xy"_s, {}, u"xy"_s);
+        tabla(uR"(
+            escrito | teclas | queda
+            first one | 2+MC | Tab | 2+mcd( || chosen | mc | Down Down Return | mcm(
+            back up | mi | Down Up Return | min( || put away | fi | Esc | fi
+            gone with the bracket | fi(7) | | fi(7) || no such name | xy | | xy)"_s);
     }
     void lasFuncionesSeOfrecen()
     {
         QFETCH(QString, escrito);
-        QFETCH(QList<Qt::Key>, teclas);
+        QFETCH(QString, teclas);
         m->ve(u"A1");
         m->teclea(escrito);
         const auto *lista = m->editor()->findChild<QListWidget *>(u"lstFunciones"_s);
         QCOMPARE(lista && lista->isVisible(), !teclas.isEmpty());
-        for (const Qt::Key tecla : teclas)
-            m->pulsa(tecla);
+        m->pulsa(teclas);
         QVERIFY(!lista || !lista->isVisible());
         QVERIFY(m->editor());
         QTEST(m->editor()->text(), "queda");
@@ -243,29 +213,17 @@ private Q_SLOTS:
         QCOMPARE(m->actual(), u"A2"_s);
     }
 
-    /// A button of the toolbar takes what stands in the line, as it does with an edit in a cell.
-    void losBotonesTomanLaLinea()
-    {
-        auto *linea = control<QLineEdit>(m->ventana(), u"txtExpresión"_s);
-        m->ve(u"A1");
-        linea->setFocus();
-        QTest::keyClicks(linea, u"3/4"_s);
-        m->boton(u"ValorDecimal"_s);
-        QCOMPARE(m->texto(u"A1"), u"0,75"_s);
-    }
-
     void loQueSeDiceDeLaCelda()
     {
-        const auto *estado = control<QLabel>(m->ventana(), u"lblEstado"_s);
         m->entra(u"A1", u"1+C3"_s);
-        QCOMPARE(estado->text(), QString());
+        QCOMPARE(m->rotulo(u"lblEstado"_s), QString());
         m->ve(u"A1");
-        QCOMPARE(estado->text(), u"✗ C3 está vacía."_s);
+        QCOMPARE(m->rotulo(u"lblEstado"_s), u"✗ C3 está vacía."_s);
         QCOMPARE(m->indice(u"A1").data(Qt::ToolTipRole).toString(), u"Error: C3 está vacía."_s);
         m->entra(u"C3", u"2^100"_s);
         m->ve(u"A1");
         m->pulsa(Qt::Key_F9);
-        QCOMPARE(estado->text(), u"Cifras: 31"_s);
+        QCOMPARE(m->rotulo(u"lblEstado"_s), u"Cifras: 31"_s);
     }
 
 private:

@@ -6,6 +6,7 @@
 #include "shell/core/run/Tareas.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
+#include "tests/shell/support/Tabla.h"
 
 #include <QRandomGenerator>
 
@@ -32,12 +33,12 @@ QString alAzar(QRandomGenerator &azar, QStringView letras, int largo)
     return s;
 }
 
-QStringList nombres(const ColVariables &variables)
+QString nombres(const ColVariables &variables)
 {
-    QStringList lista;
+    QString lista;
     for (const auto &[orden, variable] : variables)
-        lista << variable.Nombre();
-    return lista;
+        lista += variable.Nombre() + u' ';
+    return lista.trimmed();
 }
 
 } // namespace
@@ -65,20 +66,19 @@ private Q_SLOTS:
     void coleccion()
     {
         ColVariables v;
-        v.Agregar(u"B1"_s, u"(1)"_s);
-        v.Agregar(u"A1"_s, u"(2)"_s);
-        v.Agregar(u"C1"_s, u"(3)"_s);
+        for (const QString &nombre : {u"B1"_s, u"A1"_s, u"C1"_s})
+            v.Agregar(nombre, u"(1)"_s);
         QCOMPARE(v.Agregar(u"B1"_s, u"(4)"_s).Valor(), u"(4)"_s);
-        QCOMPARE(nombres(v), QStringList({u"B1"_s, u"A1"_s, u"C1"_s}));
+        QCOMPARE(nombres(v), u"B1 A1 C1"_s);
         QCOMPARE(v.Count(), 3);
         QCOMPARE(v.Item(2).Nombre(), u"A1"_s);
         QCOMPARE(v.Item(u"B1"_s).Valor(), u"(4)"_s);
         v.Remove(u"Z9"_s);
         v.Remove(u"B1"_s);
         v.Agregar(u"B1"_s, u"(5)"_s);
-        QCOMPARE(nombres(v), QStringList({u"A1"_s, u"C1"_s, u"B1"_s}));
+        QCOMPARE(nombres(v), u"A1 C1 B1"_s);
         v.Remove(1);
-        QCOMPARE(nombres(v), QStringList({u"C1"_s, u"B1"_s}));
+        QCOMPARE(nombres(v), u"C1 B1"_s);
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, v.Item(3));
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, v.Remove(0));
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, v.Item(u"A1"_s));
@@ -100,40 +100,24 @@ private Q_SLOTS:
 
     void expresiones_data()
     {
-        QTest::addColumn<QString>("expresion");
-        QTest::addColumn<QString>("muestra");
-        const auto fila = [](const char *nombre, const QString &expresion, const QString &muestra) {
-            QTest::newRow(nombre) << expresion << muestra;
-        };
-        fila("always over the rationals", u"1/2+1/3"_s, u"5/6"_s);
-        fila("mod, with blanks", u"2 mod 3"_s, u"2"_s);
-        fila("mod, between digits", u"2mod3"_s, u"2"_s);
-        fila("mod, in capitals and brackets", u"(7)MOD(3)"_s, u"1"_s);
-        fila("letter before mod", u"2amod3"_s, u"Error"_s);
-        fila("letter after mod", u"2 modo 3"_s, u"Error"_s);
-        fila("second mod too close", u"7mod3mod2"_s, u"Error"_s);
-        fila("mod at the start", u"mod 3"_s, u"Error"_s);
-        fila("mod alone", u"MOD"_s, u"Error"_s);
-        fila("blank", u"   "_s, QString());
-        fila("division by zero", u"1/0"_s, u"Error"_s);
-        fila("unknown name", u"B7+1"_s, u"Error"_s);
-        fila("name in small letters", u"a1+1"_s, u"Error"_s);
-        fila("does not fit", u"9^9^9^9"_s, u"Error"_s);
-        fila("one digit too many", u"10^24575"_s, u"Error"_s);
-        fila("name used", u"A1*2"_s, u"10"_s);
-        fila("name within a longer one", u"A12"_s, u"10"_s);
-        fila("value as a function's argument", u"fiA1"_s, u"4"_s);
-        fila("value of a fraction is bracketed", u"C1^2"_s, u"1/9"_s);
-        fila("negative value is bracketed", u"2-D1"_s, u"6"_s);
-        fila("outside Windows-1252", u"2·3→5"_s, u"Error"_s);
+        tabla(uR"(
+            expresion | muestra
+            always over the rationals | 1/2+1/3 | 5/6 || mod, with blanks | 2 mod 3 | 2
+            mod, between digits | 2mod3 | 2 || mod, in capitals and brackets | (7)MOD(3) | 1
+            letter before mod | 2amod3 | Error || letter after mod | 2 modo 3 | Error
+            second mod too close | 7mod3mod2 | Error || mod at the start | mod 3 | Error
+            mod alone | MOD | Error || blank | ␣␣␣ | || division by zero | 1/0 | Error
+            unknown name | B7+1 | Error || name in small letters | a1+1 | Error
+            does not fit | 9^9^9^9 | Error || one digit too many | 10^24575 | Error
+            name used | A1*2 | 10 || name within a longer one | A12 | 10
+            value as a function's argument | fiA1 | 4
+            value of a fraction is bracketed | C1^2 | 1/9
+            negative value is bracketed | 2-D1 | 6 || outside Windows-1252 | 2·3→5 | Error)"_s);
     }
     void expresiones()
     {
         QFETCH(QString, expresion);
-        HojaDeCalculo hoja;
-        entra(hoja, u"A1", u"5"_s);
-        entra(hoja, u"C1", u"1/3"_s);
-        entra(hoja, u"D1", u"-4"_s);
+        HojaCon hoja{{u"A1", u"5"}, {u"C1", u"1/3"}, {u"D1", u"-4"}};
         QTEST(entra(hoja, u"B1", expresion), "muestra");
         QCOMPARE(hoja.Expresiones(1, 2), expresion);
         const bool tiene = hoja.Variables().busca(u"B1"_s) != hoja.Variables().end();
@@ -143,16 +127,15 @@ private Q_SLOTS:
 
     void elMayorResultado()
     {
-        HojaDeCalculo hoja;
-        QCOMPARE(entra(hoja, u"A1", u"10^24574"_s).size(), 24575);
+        HojaCon hoja{{u"A1", u"10^24574"}};
+        QCOMPARE(hoja.texto(en(u"A1")).size(), 24575);
         QCOMPARE(entra(hoja, u"B1", u"A1+1"_s).right(3), u"001"_s);
         QCOMPARE(entra(hoja, u"C1", u"A1*10"_s), u"Error"_s);
     }
 
     void loDemasiadoLargoNiSeSustituye()
     {
-        HojaDeCalculo hoja;
-        entra(hoja, u"A1", u"10^24000"_s);
+        HojaCon hoja{{u"A1", u"10^24000"}};
         QCOMPARE(sustituyeVariables(hoja.Variables(), u"A1-"_s, 24'004).size(), 24'004);
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
                                  sustituyeVariables(hoja.Variables(), u"A1-"_s, 24'003));
@@ -163,10 +146,7 @@ private Q_SLOTS:
 
     void nadaSeRecalculaSolo()
     {
-        HojaDeCalculo hoja;
-        entra(hoja, u"A1", u"5"_s);
-        entra(hoja, u"B1", u"A1*2"_s);
-        entra(hoja, u"A1", u"6"_s);
+        HojaCon hoja{{u"A1", u"5"}, {u"B1", u"A1*2"}, {u"A1", u"6"}};
         QCOMPARE(resultado(hoja, u"B1"), u"10"_s);
         QVERIFY(!hoja.finDeEdicion(en(u"B1"), u"A1*2"_s));
         QCOMPARE(resultado(hoja, u"B1"), u"10"_s);
@@ -182,10 +162,8 @@ private Q_SLOTS:
 
     void unaVariableQueVuelveVaAlFinal()
     {
-        HojaDeCalculo hoja;
-        entra(hoja, u"A1", u"5"_s);
-        entra(hoja, u"A12", u"7"_s);
-        QCOMPARE(entra(hoja, u"B1", u"A12"_s), u"10"_s);
+        HojaCon hoja{{u"A1", u"5"}, {u"A12", u"7"}, {u"B1", u"A12"}};
+        QCOMPARE(resultado(hoja, u"B1"), u"10"_s);
         entra(hoja, u"A1", QString());
         entra(hoja, u"A1", u"5"_s);
         hoja.Recalcular(en(u"B1"));
@@ -194,32 +172,27 @@ private Q_SLOTS:
 
     void valorDecimal()
     {
-        HojaDeCalculo hoja;
-        entra(hoja, u"A1", u"3/4"_s);
+        HojaCon hoja{{u"A1", u"3/4"}, {u"A2", u"12"}, {u"A4", u"-1/8"}};
         QVERIFY(hoja.ValorDecimal(en(u"A1")));
         QCOMPARE(resultado(hoja, u"A1"), u"0,75"_s);
         QCOMPARE(hoja.Variables().Item(u"A1"_s).Valor(), u"(3/4)"_s);
         QVERIFY(!hoja.ValorDecimal(en(u"A1")));
-        // An edit that changes nothing gives the decimal back; recalculating gives the fraction.
+        // An edit that changes nothing gives the decimal back.
         hoja.MostrarExpresiones();
         QVERIFY(!hoja.finDeEdicion(en(u"A1"), u"3/4"_s));
         QCOMPARE(hoja.texto(en(u"A1")), u"0,75"_s);
         hoja.Recalcular(en(u"A1"));
         QCOMPARE(hoja.texto(en(u"A1")), u"3/4"_s);
-
-        entra(hoja, u"A2", u"12"_s);
         QVERIFY(!hoja.ValorDecimal(en(u"A2")));
         QVERIFY(!hoja.ValorDecimal(en(u"A3")));
         QVERIFY(!hoja.ValorDecimal({0, 1}) && !hoja.Recalcular({1, 0}));
-        entra(hoja, u"A4", u"-1/8"_s);
         QVERIFY(hoja.ValorDecimal(en(u"A4")) && !hoja.ValorDecimal(en(u"A4")));
         QCOMPARE(resultado(hoja, u"A4"), u"-0,125"_s);
     }
 
     void unDecimalQueNoCabeEsErrorPeroElValorSigue()
     {
-        HojaDeCalculo hoja;
-        entra(hoja, u"A1", u"10^20000+1/3"_s);
+        HojaCon hoja{{u"A1", u"10^20000+1/3"}};
         hoja.ValorDecimal(en(u"A1"));
         QCOMPARE(resultado(hoja, u"A1"), u"Error"_s);
         QCOMPARE(entra(hoja, u"B1", u"A1-10^20000"_s), u"1/3"_s);
@@ -235,9 +208,7 @@ private Q_SLOTS:
 
     void expresionesYResultados()
     {
-        HojaDeCalculo hoja;
-        entra(hoja, u"A1", u"1/4"_s);
-        entra(hoja, u"B2", u"7 mod 3"_s);
+        HojaCon hoja{{u"A1", u"1/4"}, {u"B2", u"7 mod 3"}};
         hoja.ValorDecimal(en(u"A1"));
         hoja.MostrarExpresiones();
         QCOMPARE(hoja.texto(en(u"A1")), u"1/4"_s);
@@ -261,7 +232,7 @@ private Q_SLOTS:
         QCOMPARE(hoja.deshace().size(), 2);
         QVERIFY(!hoja.historial().modificado());
         // With its place in the order: A1 is still replaced before A12.
-        QCOMPARE(nombres(hoja.Variables()), QStringList({u"A1"_s, u"A12"_s}));
+        QCOMPARE(nombres(hoja.Variables()), u"A1 A12"_s);
         QCOMPARE(entra(hoja, u"B1", u"A12"_s), u"10"_s);
         QVERIFY(!hoja.historial().puedeRehacer());
         entra(hoja, u"A1", u"1/3"_s);
@@ -279,19 +250,17 @@ private Q_SLOTS:
         QVERIFY(hoja.deshace().isEmpty());
     }
 
-    /// Whatever is done, undoing all of it leads back through the same sheets.
     /// What comes back has its old place, and what is new comes behind all.
     void loQueVuelveNoQuitaElSitioANadie()
     {
-        HojaDeCalculo hoja;
-        entra(hoja, u"A1", u"5"_s);
-        entra(hoja, u"A2", u"7"_s);
+        HojaCon hoja{{u"A1", u"5"}, {u"A2", u"7"}};
         hoja.borra({en(u"A1")});
         hoja.deshace();
         entra(hoja, u"B1", u"1"_s);
-        QCOMPARE(nombres(hoja.Variables()), QStringList({u"A1"_s, u"A2"_s, u"B1"_s}));
+        QCOMPARE(nombres(hoja.Variables()), u"A1 A2 B1"_s);
     }
 
+    /// Whatever is done, undoing all of it leads back through the same sheets.
     void deshacerAlAzar()
     {
         QRandomGenerator azar(8);
@@ -302,16 +271,13 @@ private Q_SLOTS:
             QList<HojaGuardada> vistas{contenidoDe(hoja)};
             for (int paso = 0; paso < 20; ++paso) {
                 const Celda celda = en(casillas[azar.bounded(4)]);
-                switch (azar.bounded(4)) {
-                case 0:
+                const int que = azar.bounded(4);
+                if (que == 0)
                     hoja.Recalcular(celda);
-                    break;
-                case 1:
+                else if (que == 1)
                     hoja.ValorDecimal(celda);
-                    break;
-                default:
+                else
                     hoja.finDeEdicion(celda, textos[azar.bounded(6)]);
-                }
                 if (contenidoDe(hoja) != vistas.constLast())
                     vistas << contenidoDe(hoja);
             }
@@ -358,22 +324,16 @@ private Q_SLOTS:
 
     /// Stopped, broken off by an error or gone with its window: what had been entered can be
     /// undone.
-    void unPegadoAMedias_data()
-    {
-        QTest::addColumn<int>("como");
-        QTest::newRow("stopped") << 0;
-        QTest::newRow("error") << 1;
-        QTest::newRow("window closed") << 2;
-    }
+    void unPegadoAMedias_data() { tabla(u"como\nstopped|stop\nerror|error\ngone|gone"_s); }
     void unPegadoAMedias()
     {
-        QFETCH(int, como);
+        QFETCH(QString, como);
         HojaDeCalculo hoja;
         int errores = 0;
         auto tareas = std::make_unique<Tareas>([&](const std::exception_ptr &) { ++errores; });
         int celdas = 0;
         hoja.alCambiar = [&](Celda) {
-            if (como == 1 && ++celdas == 3)
+            if (como == u"error"_s && ++celdas == 3)
                 throw ErrorEjecucion(ErrorEjecucion::MemoriaInsuficiente);
         };
         const auto corre = [](HojaDeCalculo &h, Billete billete) -> Tarea<> {
@@ -383,44 +343,31 @@ private Q_SLOTS:
         tareas->lanza(corre(hoja, tareas->billete()));
         QCOMPARE(hoja.modificada(), true);
         QVERIFY(hoja.ultimaUsada().columna >= 1 && hoja.ultimaUsada().fila < 99);
-        if (como == 0)
+        if (como == u"stop"_s)
             tareas->detener();
-        if (como == 2)
+        if (como == u"gone"_s)
             tareas.reset();
         QTRY_VERIFY(!tareas || tareas->vacias());
-        QCOMPARE(errores, como == 1 ? 1 : 0);
+        QCOMPARE(errores, como == u"error"_s ? 1 : 0);
         hoja.alCambiar = {};
         hoja.deshace();
-        QVERIFY(hoja.ultimaUsada().columna <= (como == 1 ? 3 : 0) &&
+        QVERIFY(hoja.ultimaUsada().columna <= (errores == 1 ? 3 : 0) &&
                 !hoja.historial().puedeDeshacer());
     }
 
-    void csv_data()
-    {
-        QTest::addColumn<QChar>("signo");
-        QTest::addColumn<QByteArray>("texto");
-        QTest::newRow("comma") << QChar(u',') << "0,125;;1/3\r\n;Error;\r\n"_ba;
-        QTest::newRow("point") << QChar(u'.') << "0.125,,1/3\r\n,Error,\r\n"_ba;
-    }
     void csv()
     {
-        QFETCH(QChar, signo);
-        HojaDeCalculo hoja;
-        entra(hoja, u"A1", u"1/8"_s);
+        HojaCon hoja{{u"A1", u"1/8"}, {u"C1", u"1/3"}, {u"B2", u"("}};
         hoja.ValorDecimal(en(u"A1"));
-        entra(hoja, u"C1", u"1/3"_s);
-        entra(hoja, u"B2", u"("_s);
         hoja.MostrarExpresiones();
-        QTEST(csvDeHoja(hoja, signo), "texto");
-        QCOMPARE(csvDeHoja(HojaDeCalculo(), signo), QByteArray());
+        QCOMPARE(csvDeHoja(hoja, u','), "0,125;;1/3\r\n;Error;\r\n"_ba);
+        QCOMPARE(csvDeHoja(hoja, u'.'), "0.125,,1/3\r\n,Error,\r\n"_ba);
+        QCOMPARE(csvDeHoja(HojaDeCalculo(), u','), QByteArray());
     }
 
     void lineasParaImprimir()
     {
-        HojaDeCalculo hoja;
-        entra(hoja, u"B10", u"2^100"_s);
-        entra(hoja, u"A1", u"7"_s);
-        entra(hoja, u"C1", u" 1/2 +  1/3"_s);
+        const HojaCon hoja{{u"B10", u"2^100"}, {u"A1", u"7"}, {u"C1", u" 1/2 +  1/3"}};
         QCOMPARE(lineasDeHoja(hoja, 20),
                  QStringList({u"A1   7"_s, u"C1   1/2 + 1/3"_s, u"   = 5/6"_s, u"B10  2^100"_s,
                               u"   = 126765060022822"_s, u"     940149670320537"_s, u"     6"_s}));

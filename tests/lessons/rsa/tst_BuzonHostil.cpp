@@ -19,28 +19,19 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// For as long as it lives, this process writes no file longer than so many bytes.
-class LimiteDeArchivo
+/// Does something while this process can write no file longer than so many bytes.
+template <typename Accion>
+void conLimiteDeArchivo(rlim_t bytes, Accion accion)
 {
-public:
-    explicit LimiteDeArchivo(rlim_t bytes) : m_senal(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_antes);
-        const rlimit limite{bytes, m_antes.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limite);
-    }
-    ~LimiteDeArchivo()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_antes);
-        std::signal(SIGXFSZ, m_senal);
-    }
-    LimiteDeArchivo(const LimiteDeArchivo &) = delete;
-    LimiteDeArchivo &operator=(const LimiteDeArchivo &) = delete;
-
-private:
-    rlimit m_antes{};
-    void (*m_senal)(int);
-};
+    rlimit antes{};
+    ::getrlimit(RLIMIT_FSIZE, &antes);
+    const rlimit limite{bytes, antes.rlim_max};
+    const auto senal = std::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &limite);
+    accion();
+    ::setrlimit(RLIMIT_FSIZE, &antes);
+    std::signal(SIGXFSZ, senal);
+}
 
 } // namespace
 
@@ -82,8 +73,7 @@ private Q_SLOTS:
     {
         m_yo->escribe(u"fuera.txt"_s, "luis\r\nnada\r\n");
         enlaza(u"fuera.txt"_s, u"ana/RSA1.msg"_s);
-        QCOMPARE(numeroDeError([&] { leeMensaje(m_yo->buzon() + u"\\ana\\RSA1.msg"_s); }),
-                 int(ErrorEjecucion::PermisoDenegado));
+        QCOMPARE_ERROR(PermisoDenegado, leeMensaje(m_yo->buzon() + u"\\ana\\RSA1.msg"_s));
         m_yo->escribe(u"clave.txt"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
         enlaza(u"clave.txt"_s, u"ana/Clave.RSA"_s);
         QCOMPARE(leeClavePublica(m_yo->buzon(), u"ana"_s).q, QString());
@@ -94,8 +84,7 @@ private Q_SLOTS:
     {
         QTemporaryDir fuera;
         QVERIFY(QFile::link(fuera.path(), m_yo->enBuzon(u"ana"_s)));
-        QCOMPARE(numeroDeError([&] { dejaMensaje(m_yo->buzon(), u"ana"_s, "x"); }),
-                 int(ErrorEjecucion::RutaNoEncontrada));
+        QCOMPARE_ERROR(RutaNoEncontrada, dejaMensaje(m_yo->buzon(), u"ana"_s, "x"));
         QVERIFY(QDir(fuera.path()).isEmpty());
 
         // A link in the place of the own key is replaced; what it points to stays.
@@ -114,16 +103,14 @@ private Q_SLOTS:
     void ficherosEnormes()
     {
         m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nenorme\r\n1\r\n");
-        const QString ruta = m_yo->enBuzon(u"ana/RSA1.msg"_s);
-        // Sparse: the size of gigabytes without their disk.
-        QCOMPARE(::truncate(qPrintable(ruta), 5'000'000'000), 0);
         m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=33\r\n");
-        QCOMPARE(::truncate(qPrintable(m_yo->enBuzon(u"ana/Clave.RSA"_s)), 5'000'000'000), 0);
+        // Sparse: the size of gigabytes without their disk.
+        for (const QString &nombre : {u"ana/RSA1.msg"_s, u"ana/Clave.RSA"_s})
+            QCOMPARE(::truncate(qPrintable(m_yo->enBuzon(nombre)), 5'000'000'000), 0);
         const auto [mensajes, ilegibles] = revisa();
         QCOMPARE(ilegibles, 0);
         QCOMPARE(mensajes.Item(1).Asunto(), u"enorme"_s);
-        QCOMPARE(numeroDeError([&] { leeMensaje(mensajes.Item(1).NombreFichero()); }),
-                 int(ErrorEjecucion::ErrorDeArchivo));
+        QCOMPARE_ERROR(ErrorDeArchivo, leeMensaje(mensajes.Item(1).NombreFichero()));
         QCOMPARE(leeClavePublica(m_yo->buzon(), u"ana"_s).q, QString());
     }
 
@@ -133,30 +120,24 @@ private Q_SLOTS:
     {
         ClsRSA clave(Sesión());
         clave.ponDirMensajes(m_yo->buzon());
-        clave.ponr(1);
-        clave.ponq(1, u"257"_s);
-        clave.ponq(2, u"263"_s);
-        clave.pons(u"5"_s);
+        Estudiante::ponClave(clave);
         clave.Valida();
         clave.PublicaClave();
         m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nx\r\n");
-        const QString publica = m_yo->enBuzon(m_yo->usuario() + u"/Clave.RSA"_s);
-        const QList<QByteArray> antes{Estudiante::lee(m_yo->ficheroPrivado()),
-                                      Estudiante::lee(publica)};
+        const QString publica = m_yo->usuario() + u"/Clave.RSA"_s;
+        const QList<QByteArray> antes{m_yo->clavePrivada(), m_yo->leeDelBuzon(publica)};
         clave.pons(u"7"_s);
         QList<int> errores;
-        {
-            const LimiteDeArchivo limite(10);
+        conLimiteDeArchivo(10, [&] {
             errores << numeroDeError([&] { clave.Valida(); });
             errores << numeroDeError([&] { clave.PublicaClave(); });
-            errores << numeroDeError(
-                [&] { dejaMensaje(m_yo->buzon(), u"ana"_s, QByteArray(90, 'x')); });
-        }
+            errores << numeroDeError([&] { dejaMensaje(m_yo->buzon(), u"ana"_s, "doce o mas x"); });
+        });
         QCOMPARE(errores, QList<int>(3, ErrorEjecucion::ErrorDeArchivo));
         QVERIFY(!clave.ClaveOK());
-        QCOMPARE(QList({Estudiante::lee(m_yo->ficheroPrivado()), Estudiante::lee(publica)}), antes);
+        QCOMPARE(QList({m_yo->clavePrivada(), m_yo->leeDelBuzon(publica)}), antes);
         for (const QString &carpeta : {u"ana"_s, m_yo->usuario(), u"../trabajo"_s})
-            QCOMPARE(QDir(m_yo->enBuzon(carpeta)).entryList(QDir::Files | QDir::Hidden).size(), 1);
+            QCOMPARE(m_yo->ficheros(carpeta).size(), 1);
     }
 
     void unaCarpetaQueDesaparece()
@@ -193,9 +174,9 @@ private Q_SLOTS:
             QVERIFY(!borrador.nombraSiLibre(u"RSA1.msg"_s));
             QVERIFY(borrador.nombraSiLibre(u"RSA2.msg"_s));
         }
-        QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"ana/RSA1.msg"_s)), "primero"_ba);
-        QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"ana/RSA2.msg"_s)), "segundo"_ba);
-        QCOMPARE(QDir(m_yo->enBuzon(u"ana"_s)).entryList(QDir::Files | QDir::Hidden).size(), 2);
+        QCOMPARE(m_yo->leeDelBuzon(u"ana/RSA1.msg"_s), "primero"_ba);
+        QCOMPARE(m_yo->leeDelBuzon(u"ana/RSA2.msg"_s), "segundo"_ba);
+        QCOMPARE(m_yo->ficheros(u"ana"_s).size(), 2);
     }
 
     /// Of those that nobody named, the old ones are swept by who writes there next.
@@ -212,8 +193,7 @@ private Q_SLOTS:
         hace(u".numora-2f.tmp"_s, 25);
         hace(u"otro.tmp"_s, 25);
         dejaMensaje(m_yo->buzon(), u"ana"_s, "x");
-        QCOMPARE(QDir(m_yo->enBuzon(u"ana"_s)).entryList(QDir::Files | QDir::Hidden).join(u' '),
-                 u".numora-1f.tmp otro.tmp RSA1.msg"_s);
+        QCOMPARE(m_yo->ficheros(u"ana"_s).join(u' '), u".numora-1f.tmp otro.tmp RSA1.msg"_s);
     }
 
     void hastaElLimiteYNoMas()
@@ -222,8 +202,7 @@ private Q_SLOTS:
         m_yo->escribe(u"ana/uno mas"_s, QByteArray(101, 'x'));
         const CarpetaCompartida carpeta = CarpetaCompartida(m_yo->buzon()).subcarpeta(u"ana"_s);
         QCOMPARE(carpeta.lee(u"justo"_s, 100).size(), 100);
-        QCOMPARE(numeroDeError([&] { carpeta.lee(u"uno mas"_s, 100); }),
-                 int(ErrorEjecucion::ErrorDeArchivo));
+        QCOMPARE_ERROR(ErrorDeArchivo, carpeta.lee(u"uno mas"_s, 100));
     }
 
     /// What is made in a shared mailbox is as open as the mailbox, whatever the account's mask.
@@ -293,14 +272,10 @@ private:
             m_yo->escribe(malo, QByteArray(1'000'000, 'x'));
         else if (que == u"link for a folder"_s)
             QVERIFY(QFile::link(m_yo->enBuzon(u"ana"_s), m_yo->enBuzon(u"zoe"_s)));
-        else
-            cierra(malo);
-    }
-
-    void cierra(const QString &nombre) const
-    {
-        m_yo->escribe(nombre, "luis\r\nx\r\n");
-        QVERIFY(QFile::setPermissions(m_yo->enBuzon(nombre), QFile::WriteOwner));
+        else {
+            m_yo->escribe(malo, "luis\r\nx\r\n");
+            QVERIFY(QFile::setPermissions(ruta, QFile::WriteOwner));
+        }
     }
 
     mode_t modo(const QString &nombre) const

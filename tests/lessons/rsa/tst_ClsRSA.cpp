@@ -5,6 +5,7 @@
 #include "lessons/rsa/key/TextoEnBloques.h"
 #include "shell/core/run/Tareas.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
+#include "tests/shell/support/Tabla.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,62 +30,45 @@ private Q_SLOTS:
 
     void valida_data()
     {
-        QTest::addColumn<QStringList>("numeros"); // q(1), q(2), s, r, bits demanded
-        QTest::addColumn<QString>("aviso");
-        QTest::addColumn<QStringList>("resultado"); // q(0), Fi(Q), t
-        const QStringList nada{QString(), QString(), QString()};
-        const auto fila = [](const char *nombre, const QStringList &numeros, const QString &aviso,
-                             const QStringList &resultado) {
-            QTest::newRow(nombre) << numeros << aviso << resultado;
-        };
-        const QStringList buena{u"67591"_s, u"67072"_s, u"26829"_s};
-        fila("good", {u"257"_s, u"263"_s, u"5"_s, u"1"_s, u"0"_s}, u"+Clave OK"_s, buena);
-        fila("good, of the size demanded", {u"257"_s, u"263"_s, u"5"_s, u"1"_s, u"17"_s},
-             u"+Clave OK"_s, buena);
-        fila("size", {u"257"_s, u"263"_s, u"5"_s, u"1"_s, u"16"_s},
-             u"-Se requiere una clave de 16 bits, y la actual tiene 17"_s, buena);
-        fila("no s", {u"257"_s, u"263"_s, {}, u"1"_s, u"0"_s}, {}, nada);
-        fila("no q(2)", {u"257"_s, {}, u"5"_s, u"1"_s, u"0"_s}, {}, nada);
-        fila("both composite: the first is told", {u"259"_s, u"265"_s, u"5"_s, u"1"_s, u"0"_s},
-             u"-q(1) debe ser primo."_s, nada);
-        fila("second composite", {u"257"_s, u"265"_s, u"2"_s, u"1"_s, u"0"_s},
-             u"-q(2) debe ser primo."_s, nada);
-        fila("too small", {u"251"_s, u"265"_s, u"5"_s, u"1"_s, u"0"_s},
-             u"-q(1) debe ser mayor que 255."_s, nada);
-        fila("second too small for r = 2", {u"255259"_s, u"255253"_s, u"5"_s, u"2"_s, u"0"_s},
-             u"-q(2) debe ser mayor que 255255."_s, nada);
-        fila("not a number", {u"257+6"_s, u"263"_s, u"5"_s, u"1"_s, u"0"_s},
-             u"-q(1) debe ser primo."_s, nada);
-        fila("r = 0 has no bound", {u"2"_s, u"3"_s, u"1"_s, u"0"_s, u"0"_s}, u"+Clave OK"_s,
-             {u"6"_s, u"2"_s, u"1"_s});
-        fila("equal primes", {u"257"_s, u"257"_s, u"3"_s, u"1"_s, u"0"_s}, u"+Clave OK"_s,
-             {u"66049"_s, u"65536"_s, u"43691"_s});
-        fila("s not coprime", {u"257"_s, u"263"_s, u"131"_s, u"1"_s, u"99"_s},
-             u"-El número s debe ser primo con 67072"_s, {u"67591"_s, u"67072"_s, {}});
-        fila("s no number", {u"257"_s, u"263"_s, u"x"_s, u"1"_s, u"0"_s},
-             u"-El número s debe ser primo con 67072"_s, {u"67591"_s, u"67072"_s, {}});
+        // Of the numbers: q(1), q(2), s, r, bits demanded. Of the result: q(0), Fi(Q), t.
+        tabla(uR"(
+    numeros | aviso | resultado
+    good | 257 263 5 1 0 | +Clave OK | 67591 67072 26829
+    good, of the size demanded | 257 263 5 1 17 | +Clave OK | 67591 67072 26829
+    size | 257 263 5 1 16 | -Se requiere una clave de 16 bits, y la actual tiene 17 | 67591 67072 26829
+    no s | 257 263 - 1 0 | | - - -
+    no q(2) | 257 - 5 1 0 | | - - -
+    both composite | 259 265 5 1 0 | -q(1) debe ser primo. | - - -
+    second composite | 257 265 2 1 0 | -q(2) debe ser primo. | - - -
+    too small | 251 265 5 1 0 | -q(1) debe ser mayor que 255. | - - -
+    second too small for r = 2 | 255259 255253 5 2 0 | -q(2) debe ser mayor que 255255. | - - -
+    not a number | 257+6 263 5 1 0 | -q(1) debe ser primo. | - - -
+    r = 0 has no bound | 2 3 1 0 0 | +Clave OK | 6 2 1
+    equal primes | 257 257 3 1 0 | +Clave OK | 66049 65536 43691
+    s not coprime | 257 263 131 1 99 | -El número s debe ser primo con 67072 | 67591 67072 -
+    s no number | 257 263 x 1 0 | -El número s debe ser primo con 67072 | 67591 67072 -)"_s);
     }
     void valida()
     {
-        QFETCH(QStringList, numeros);
+        QFETCH(QString, numeros);
         QFETCH(QString, aviso);
-        QFETCH(QStringList, resultado);
-        pon(numeros[0], numeros[1], numeros[2], static_cast<std::int16_t>(numeros[3].toInt()));
-        m_clave->ponNBitsRequeridos(static_cast<std::int16_t>(numeros[4].toInt()));
+        QFETCH(QString, resultado);
+        m_clave->ponNBitsRequeridos(pon(numeros).toShort());
         const QString objecion = m_clave->Objecion();
         m_clave->Valida();
         QCOMPARE(m_avisos, aviso.isEmpty() ? QStringList() : QStringList{aviso});
-        QCOMPARE(QStringList({m_clave->q(0), m_clave->FiQ(), m_clave->t()}), resultado);
+        const auto visto = [](const QString &numero) { return numero.isEmpty() ? u"-"_s : numero; };
+        QCOMPARE(visto(m_clave->q(0)) + u' ' + visto(m_clave->FiQ()) + u' ' + visto(m_clave->t()),
+                 resultado);
         QCOMPARE(m_clave->ClaveOK(), aviso.startsWith(u'+'));
         QCOMPARE(objecion, aviso.startsWith(u'-') ? aviso.sliced(1) : QString());
         // A key that is good but for its size has been saved on the way.
-        QCOMPARE(QFile::exists(m_yo->ficheroPrivado()), !resultado[2].isEmpty());
+        QCOMPARE(QFile::exists(m_yo->ficheroPrivado()), !resultado.endsWith(u'-'));
     }
 
     void losProductosSeBorranTrasElAviso()
     {
-        pon(u"257"_s, u"263"_s, u"5"_s);
-        m_clave->Valida();
+        ponYValida();
         m_clave->ponq(1, u"259"_s);
         m_clave->Valida();
         QCOMPARE(m_q0AlAvisar, u"67591"_s);
@@ -94,16 +78,16 @@ private Q_SLOTS:
 
     void seGuardaAntesYDespuesDeT()
     {
-        pon(u"257"_s, u"263"_s, u"5"_s);
+        pon();
         m_clave->pont(u"vieja"_s);
         m_clave->ponNBitsRequeridos(16);
         m_clave->Valida();
-        QCOMPARE(Estudiante::lee(m_yo->ficheroPrivado()),
+        QCOMPARE(m_yo->clavePrivada(),
                  "[RSA]\r\nr=1\r\nq(0)=67591\r\nq(1)=257\r\nq(2)=263\r\ns=5\r\nt=vieja\r\n"
                  "NBits=17\r\nFi(Q)=67072\r\n"_ba);
         m_clave->ponNBitsRequeridos(0);
         m_clave->Valida();
-        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("\r\nt=26829\r\n"));
+        QVERIFY(m_yo->clavePrivada().contains("\r\nt=26829\r\n"));
         const auto deOtros =
             QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
         QCOMPARE(QFileInfo(m_yo->ficheroPrivado()).permissions() & deOtros, QFile::Permissions());
@@ -114,7 +98,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("fichero");
         QTest::addColumn<QStringList>("avisos");
         QTest::addColumn<int>("error");
-        const QStringList bien{u"+Clave OK"_s};
+        const QStringList bien{u"+Clave OK"_s}, nada;
+        const int desborda = ErrorEjecucion::Desbordamiento;
         QTest::newRow("our own") << "[RSA]\r\nr=1\r\nq(0)=67591\r\nq(1)=257\r\nq(2)=263\r\ns=5\r\n"
                                     "t=26829\r\nNBits=17\r\nFi(Q)=67072\r\n"_ba
                                  << bien << 0;
@@ -122,18 +107,16 @@ private Q_SLOTS:
             << "\xEF\xBB\xBF[rsa]\nS = 5\nQ(2) = 263\nnbits=17\nQ(1)=\"257\"\nR=1\n"_ba << bien
             << 0;
         QTest::newRow("no r") << "[RSA]\nq(1)=3\nq(2)=5\ns=3\n"_ba << bien << 0;
-        QTest::newRow("other section") << "[R]\nq(1)=3\nq(2)=5\ns=3\n"_ba << QStringList() << 0;
-        QTest::newRow("public half only") << "[RSA]\nr=1\nq(0)=33\ns=3\n"_ba << QStringList() << 0;
-        QTest::newRow("damaged") << QByteArray(5000, '\xFF') << QStringList() << 0;
-        QTest::newRow("r beyond 16 bits")
-            << "[RSA]\nr=32768\n"_ba << QStringList() << int(ErrorEjecucion::Desbordamiento);
-        QTest::newRow("size beyond 16 bits") << "[RSA]\nr=1\nNBits=99999\n"_ba << QStringList()
-                                             << int(ErrorEjecucion::Desbordamiento);
+        QTest::newRow("other section") << "[R]\nq(1)=3\nq(2)=5\ns=3\n"_ba << nada << 0;
+        QTest::newRow("public half only") << "[RSA]\nr=1\nq(0)=33\ns=3\n"_ba << nada << 0;
+        QTest::newRow("damaged") << QByteArray(5000, '\xFF') << nada << 0;
+        QTest::newRow("r beyond 16 bits") << "[RSA]\nr=32768\n"_ba << nada << desborda;
+        QTest::newRow("size beyond 16 bits") << "[RSA]\nr=1\nNBits=99999\n"_ba << nada << desborda;
         QTest::newRow("a million digits")
             << "[RSA]\nr=1\nq(1)=" + QByteArray(1'000'000, '7') + "\nq(2)=263\ns=5\n"
-            << QStringList() << int(ErrorEjecucion::Desbordamiento);
+            << nada << desborda;
         QTest::newRow("too long for a key file")
-            << QByteArray(5'000'000, 'x') << QStringList() << int(ErrorEjecucion::ErrorDeArchivo);
+            << QByteArray(5'000'000, 'x') << nada << int(ErrorEjecucion::ErrorDeArchivo);
     }
     void recupera()
     {
@@ -159,8 +142,7 @@ private Q_SLOTS:
         QTemporaryDir datos;
         qputenv("XDG_DATA_HOME", datos.path().toLocal8Bit());
         Sesión().ponCarpeta(m_yo->buzon() + u"/no existe"_s);
-        pon(u"257"_s, u"263"_s, u"5"_s);
-        m_clave->Valida();
+        ponYValida();
         QVERIFY(m_clave->ClaveOK());
         QCOMPARE(m_clave->FicheroClavePrivada(),
                  datos.path() + u"/Numora\\"_s + m_yo->usuario() + u".RSA"_s);
@@ -183,8 +165,7 @@ private Q_SLOTS:
         m_clave->ponDirMensajes(m_yo->buzon());
         QCOMPARE(buzones, QStringList{m_yo->buzon()});
         QCOMPARE(ClsRSA(Sesión()).DirMensajes(), m_yo->buzon());
-        pon(u"257"_s, u"263"_s, u"5"_s);
-        m_clave->Valida();
+        ponYValida();
         m_clave->PublicaClave();
         const QString carpeta = m_yo->enBuzon(m_yo->usuario());
         QCOMPARE(Estudiante::lee(carpeta + u"/Clave.RSA"_s), "[RSA]\r\nq=67591\r\ns=5\r\n"_ba);
@@ -198,31 +179,21 @@ private Q_SLOTS:
 
     void codificaConocidos_data()
     {
-        QTest::addColumn<QStringList>("clave");
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<QStringList>("bloques");
-        QTest::addColumn<QString>("vuelta");
-        const QStringList una{u"257"_s, u"263"_s, u"5"_s, u"1"_s};
-        const QStringList dos{u"255259"_s, u"255313"_s, u"5"_s, u"2"_s};
-        QTest::newRow("r = 1") << una << u"HOLA"_s
-                               << QStringList{u"57666"_s, u"43715"_s, u"51784"_s, u"23519"_s}
-                               << u"HOLA"_s;
-        QTest::newRow("r = 2") << dos << u"HOLA"_s
-                               << QStringList{u"55662054903"_s, u"20841377323"_s} << u"HOLA"_s;
-        QTest::newRow("empty") << dos << QString() << QStringList() << QString();
-        QTest::newRow("small power") << QStringList{u"5003"_s, u"5009"_s, u"3"_s, u"1"_s} << u"A"_s
-                                     << QStringList{u"274625"_s} << u"A"_s;
+        tabla(uR"(
+            clave | texto | bloques
+            r = 1 | 257 263 5 1 | HOLA | 57666 43715 51784 23519
+            r = 2 | 255259 255313 5 2 | HOLA | 55662054903 20841377323
+            empty | 255259 255313 5 2 | | || small power | 5003 5009 3 1 | A | 274625)"_s);
     }
     void codificaConocidos()
     {
-        QFETCH(QStringList, clave);
-        QFETCH(QString, texto);
-        pon(clave[0], clave[1], clave[2], static_cast<std::int16_t>(clave[3].toInt()));
-        m_clave->Valida();
+        QFETCH(QString, clave);
+        ponYValida(clave);
         QVERIFY(m_clave->ClaveOK());
+        QFETCH(QString, texto);
         const QStringList bloques = m_clave->Codifica(texto, {}).completa();
-        QTEST(bloques, "bloques");
-        QTEST(m_clave->DesCodifica(bloques, {}).completa(), "vuelta");
+        QTEST(bloques.join(u' '), "bloques");
+        QTEST(m_clave->DesCodifica(bloques, {}).completa(), "texto");
     }
 
     void idaYVuelta_data()
@@ -236,8 +207,7 @@ private Q_SLOTS:
         QFETCH(int, r);
         // The least primes that the bound allows: the largest block is as near to them as can be.
         const QString primero = PrimoSiguiente(u"255"_s.repeated(r));
-        pon(primero, PrimoSiguiente(primero), u"65537"_s, static_cast<std::int16_t>(r));
-        m_clave->Valida();
+        ponYValida(u"%1 %2 65537 %3"_s.arg(primero, PrimoSiguiente(primero)).arg(r));
         QVERIFY(m_clave->ClaveOK());
         QByteArray bytes(r, '\xFF');
         bytes += QByteArray(r, '\0');
@@ -262,8 +232,7 @@ private Q_SLOTS:
 
     void bloquesQueFallan()
     {
-        pon(u"257"_s, u"263"_s, u"5"_s);
-        m_clave->Valida();
+        ponYValida();
         QCOMPARE(
             m_clave->DesCodifica({u"57666"_s, u"Error"_s, {}, u"-"_s, u"43715"_s}, {}).completa(),
             u"HO"_s);
@@ -276,50 +245,37 @@ private Q_SLOTS:
     void pocosBloquesNoLlenanLaMemoria()
     {
         const QString primero = PrimoSiguiente(u"1"_s + QString(300, u'0'));
-        pon(primero, PrimoSiguiente(primero), u"65537"_s);
-        m_clave->Valida();
+        ponYValida(u"%1 %2 65537 1"_s.arg(primero, PrimoSiguiente(primero)));
         const QStringList bloques(20'000, u"2"_s);
-        QCOMPARE(numeroDeError([&] { m_clave->DesCodifica(bloques, {}).completa(); }),
-                 int(ErrorEjecucion::MemoriaInsuficiente));
+        QCOMPARE_ERROR(MemoriaInsuficiente, m_clave->DesCodifica(bloques, {}).completa());
     }
 
     void loQueNoSePuedeCodificar()
     {
-        pon(u"257"_s, u"263"_s, u"5"_s);
-        QCOMPARE(numeroDeError([&] { m_clave->Codifica(u"α"_s, {}).completa(); }),
-                 int(ErrorEjecucion::ArgumentoNoValido));
+        pon();
+        QCOMPARE_ERROR(ArgumentoNoValido, m_clave->Codifica(u"α"_s, {}).completa());
         m_clave->ponr(0);
-        QCOMPARE(numeroDeError([&] { m_clave->Codifica(u"a"_s, {}).completa(); }),
-                 int(ErrorEjecucion::DivisionPorCero));
+        QCOMPARE_ERROR(DivisionPorCero, m_clave->Codifica(u"a"_s, {}).completa());
         QVERIFY(!caracterInadmisible(u"¿Año? 5 €"_s));
         QVERIFY(caracterInadmisible(u"a😀α"_s)->contains(u"«😀», que está en el lugar 2"_s));
-        QCOMPARE(numeroDeError([&] { m_clave->q(3); }), int(ErrorEjecucion::IndiceFueraDeRango));
-        QCOMPARE(numeroDeError([&] { m_clave->ponq(-1, {}); }),
-                 int(ErrorEjecucion::IndiceFueraDeRango));
+        QCOMPARE_ERROR(IndiceFueraDeRango, m_clave->q(3));
+        QCOMPARE_ERROR(IndiceFueraDeRango, m_clave->ponq(-1, {}));
     }
 
-    void numeroATexto_data()
-    {
-        QTest::addColumn<QString>("numero");
-        QTest::addColumn<QString>("texto");
-        QTest::newRow("leading zero") << u"72079"_s << u"HO"_s;
-        QTest::newRow("blanks") << u" 72 "_s << u"H"_s;
-        QTest::newRow("after NUL") << QString(u"72"_s + QChar(u'\0') + u"079"_s) << u"H"_s;
-        QTest::newRow("beyond 255") << u"321"_s << u"A"_s;
-        QTest::newRow("euro") << u"128"_s << u"€"_s;
-        QTest::newRow("nothing") << QString() << QString();
-    }
     void numeroATexto()
     {
-        QFETCH(QString, numero);
-        QTEST(NumeroATexto(numero), "texto");
+        QCOMPARE(NumeroATexto(u"72079"_s), u"HO"_s); // with a leading zero
+        QCOMPARE(NumeroATexto(u" 72 "_s), u"H"_s);
+        QCOMPARE(NumeroATexto(u"72"_s + QChar(u'\0') + u"079"_s), u"H"_s);
+        QCOMPARE(NumeroATexto(u"321"_s), u"A"_s);
+        QCOMPARE(NumeroATexto(u"128"_s), u"€"_s);
+        QCOMPARE(NumeroATexto({}), QString());
     }
 
     /// A run gives up the thread, and ends where it is when it is told to.
     void laCodificacionCedeYSePara()
     {
-        pon(u"257"_s, u"263"_s, u"5"_s);
-        m_clave->Valida();
+        ponYValida();
         Tareas tareas([](const std::exception_ptr &) { QFAIL("an error"); });
         const QString largo(2'000'000, u'H');
         qsizetype bloques = -1, caracteres = -1;
@@ -338,12 +294,18 @@ private Q_SLOTS:
     }
 
 private:
-    void pon(const QString &q1, const QString &q2, const QString &s, std::int16_t r = 1)
+    /// Sets q(1), q(2), s and r, "-" for one that is not there; what follows them is given back.
+    QString pon(const QString &numeros = u"257 263 5 1"_s)
     {
-        m_clave->ponq(1, q1);
-        m_clave->ponq(2, q2);
-        m_clave->pons(s);
-        m_clave->ponr(r);
+        QStringList todos = numeros.split(u' ');
+        todos.replaceInStrings(u"-"_s, QString());
+        Estudiante::ponClave(*m_clave, todos[0], todos[1], todos[2], todos[3].toShort());
+        return todos.value(4);
+    }
+    void ponYValida(const QString &numeros = u"257 263 5 1"_s)
+    {
+        pon(numeros);
+        m_clave->Valida();
     }
 
     std::unique_ptr<Estudiante> m_yo;

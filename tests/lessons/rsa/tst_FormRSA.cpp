@@ -2,6 +2,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/rsa/windows/FormRSAComun.h"
 #include "tests/lessons/rsa/support/VentanaRSA.h"
+#include "tests/shell/support/Tabla.h"
 
 /// The own key, and texts encrypted with it.
 class TestFormRSA : public QObject, private VentanaRSA
@@ -34,11 +35,8 @@ private Q_SLOTS:
 
     void unaClaveBuena()
     {
-        abre();
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
-        QCOMPARE(campo(u"txtQ_0"_s)->text(), u"67591"_s);
-        QCOMPARE(campo(u"txtFiQ"_s)->text(), u"67072"_s);
-        QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
+        abreConClave();
+        QCOMPARE(calculados(), u"67591|67072|26829"_s);
         QCOMPARE(rotulo(u"LabelNumBits"_s), u"Nº de bits de la clave = 17"_s);
         QVERIFY(rotulo(u"lblFichero"_s).endsWith(m_yo->ficheroPrivado()));
         QVERIFY(boton(u"cmdCodificar"_s)->isEnabled() && boton(u"cmdDescodificar"_s)->isEnabled());
@@ -50,26 +48,24 @@ private Q_SLOTS:
 
     void clavesMalas_data()
     {
-        QTest::addColumn<QStringList>("numeros");
-        QTest::addColumn<QString>("texto");
-        QTest::newRow("composite")
-            << QStringList{u"259"_s, u"263"_s, u"5"_s} << u"q(1) debe ser primo."_s;
-        QTest::newRow("small") << QStringList{u"257"_s, u"251"_s, u"5"_s}
-                               << u"q(2) debe ser mayor que 255."_s;
-        QTest::newRow("exponent") << QStringList{u"257"_s, u"263"_s, u"131"_s}
-                                  << u"El número s debe ser primo con 67072"_s;
+        tabla(uR"(
+            q1 | q2 | s | texto
+            composite | 259 | 263 | 5 | q(1) debe ser primo.
+            small | 257 | 251 | 5 | q(2) debe ser mayor que 255.
+            exponent | 257 | 263 | 131 | El número s debe ser primo con 67072)"_s);
     }
     void clavesMalas()
     {
-        QFETCH(QStringList, numeros);
+        QFETCH(QString, q1);
+        QFETCH(QString, q2);
+        QFETCH(QString, s);
         QFETCH(QString, texto);
-        abre();
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
-        ponClave(numeros[0], numeros[1], numeros[2]);
-        const auto mensaje = Entorno::grabadora().unico();
-        QCOMPARE(mensaje.texto, texto);
-        QCOMPARE(mensaje.titulo, u"Error en la clave"_s);
-        QCOMPARE(mensaje.icono, Interlocutor::Icono::Critico);
+        abreConClave();
+        ponClave(q1, q2, s);
+        const auto caja = Entorno::grabadora().unico();
+        QCOMPARE(caja.texto, texto);
+        QCOMPARE(caja.titulo, u"Error en la clave"_s);
+        QCOMPARE(caja.icono, Interlocutor::Icono::Critico);
         QCOMPARE(rotulo(u"lblEstado"_s), u"✗ "_s + texto);
         QVERIFY(!boton(u"cmdCodificar"_s)->isEnabled());
     }
@@ -100,8 +96,7 @@ private Q_SLOTS:
 
     void elNumeroDeCaracteres()
     {
-        abre();
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        abreConClave();
         linea(u"txtR"_s)->setText(u"2"_s);
         QCOMPARE(Entorno::grabadora().unico().texto, u"q(1) debe ser mayor que 255255."_s);
         linea(u"txtR"_s)->setText(u"40000"_s);
@@ -115,16 +110,15 @@ private Q_SLOTS:
 
     void elNumeroDeBits()
     {
-        abre();
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        abreConClave();
         linea(u"TxtNumBits"_s)->setText(u"100"_s);
-        control<QCheckBox>(m_ventana.get(), u"ChkNumBits"_s)->click();
+        auto *casilla = control<QCheckBox>(m_ventana.get(), u"ChkNumBits"_s);
+        casilla->click();
         QVERIFY(linea(u"TxtNumBits"_s)->isEnabled());
         const QString texto = u"Se requiere una clave de 100 bits, y la actual tiene 17"_s;
         QCOMPARE(rotulo(u"lblEstado"_s), u"✗ "_s + texto);
         escribe(u"txtS"_s, u"5"_s);
         QCOMPARE(Entorno::grabadora().unico().texto, texto);
-        auto *casilla = control<QCheckBox>(m_ventana.get(), u"ChkNumBits"_s);
         casilla->click();
         escribe(u"txtS"_s, u"5"_s);
         QVERIFY(boton(u"cmdCodificar"_s)->isEnabled());
@@ -137,20 +131,17 @@ private Q_SLOTS:
 
     void cerrarConUnNumeroAMedias()
     {
-        abre();
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        abreConClave();
         campo(u"txtQ_1"_s)->setFocus();
         QTest::keyClicks(campo(u"txtQ_1"_s), u"1"_s);
-        m_ventana->close();
-        m_ventana.release(); // it deletes itself
+        m_ventana.release()->close(); // it deletes itself
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
-        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
+        QVERIFY(m_yo->clavePrivada().contains("q(1)=257\r\n"));
     }
 
     void codificaYDescodifica()
     {
-        abre();
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        abreConClave();
         area(u"txtTextoOriginal"_s)->setPlainText(u"HOLA"_s);
         pulsa(u"cmdCodificar"_s);
         auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexTextoCodificado"_s);
@@ -168,8 +159,7 @@ private Q_SLOTS:
     /// Refused or half written, a number takes with it what was computed from the one before.
     void loCalculadoEsDeLoEscrito()
     {
-        abre();
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        abreConClave();
         campo(u"txtS"_s)->setText(u"13"_s);
         QCOMPARE(calculados(), u"67591|67072|"_s);
         campo(u"txtS"_s)->setText(u"5"_s);
@@ -210,33 +200,26 @@ private Q_SLOTS:
         escribeArchivo(m_yo->ficheroPrivado(), "[RSA]\nr=99999\n");
         abre();
         QCOMPARE(Entorno::grabadora().unico().texto, u"Desbordamiento."_s);
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
-        QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
+        ponClave();
+        QCOMPARE(calculados(), u"67591|67072|26829"_s);
     }
 
     /// The run dies with its window, wherever it is.
     void cerrarMientrasSeCodifica()
     {
-        abre();
-        ponClave(u"1000003"_s, u"1000033"_s, u"65537"_s);
-        area(u"txtTextoOriginal"_s)->setPlainText(u"Hola "_s.repeated(200'000));
-        boton(u"cmdCodificar"_s)->click();
+        codificaSinFin();
         QCOMPARE(boton(u"cmdCodificar"_s)->text(), u"Detener"_s);
         // The other button does not start a second one.
         boton(u"cmdDescodificar"_s)->click();
         QCOMPARE(boton(u"cmdDescodificar"_s)->text(), u"&Descodificar"_s);
-        m_ventana->close();
-        m_ventana.release(); // it deletes itself
+        m_ventana.release()->close(); // it deletes itself
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
     }
 
     void detenerDejaLoHecho()
     {
-        abre();
-        ponClave(u"1000003"_s, u"1000033"_s, u"65537"_s);
-        area(u"txtTextoOriginal"_s)->setPlainText(u"Hola "_s.repeated(200'000));
-        boton(u"cmdCodificar"_s)->click();
+        codificaSinFin();
         QTest::keyClick(area(u"txtTextoOriginal"_s), Qt::Key_Escape);
         acaba();
         const int filas =
@@ -246,6 +229,13 @@ private Q_SLOTS:
     }
 
 private:
+    void codificaSinFin()
+    {
+        abre();
+        ponClave(u"1000003"_s, u"1000033"_s, u"65537"_s);
+        area(u"txtTextoOriginal"_s)->setPlainText(u"Hola "_s.repeated(200'000));
+        boton(u"cmdCodificar"_s)->click();
+    }
     QString calculados() const
     {
         return campo(u"txtQ_0"_s)->text() + u'|' + campo(u"txtFiQ"_s)->text() + u'|' +

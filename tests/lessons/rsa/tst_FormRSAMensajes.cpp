@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/lessons/rsa/support/VentanaRSA.h"
+#include "tests/shell/support/Tabla.h"
 
 /// The mailbox: publishing, sending, receiving.
 class TestFormRSAMensajes : public QObject, private VentanaRSA
@@ -19,7 +20,7 @@ private Q_SLOTS:
         abre();
         eligeBuzon(m_yo->buzon());
         QCOMPARE(temas().size(), 3);
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        ponClave();
         QCOMPARE(temas().mid(3), QStringList{u"Enviar y recibir"_s});
         QVERIFY(boton(u"cmdPublicarClave"_s)->isEnabled());
         escribe(u"txtS"_s, u"2"_s);
@@ -69,15 +70,15 @@ private Q_SLOTS:
                  u"Dirigido a     \tDe           \tAsunto\n%1\t%1\tCita\n"_s.arg(m_yo->usuario()));
         eligeFila(0);
         QCOMPARE(linea(u"txtAsunto"_s)->text(), u"Cita"_s);
-        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), QString());
-        QTest::keyClick(control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s), Qt::Key_Return);
-        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
+        QCOMPARE(mensaje()->toPlainText(), QString());
+        QTest::keyClick(rejillaDeMensajes(), Qt::Key_Return);
+        QCOMPARE(mensaje()->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
 
         pulsa(u"enviar"_s);
-        const auto mensaje = Entorno::grabadora().unico();
-        QCOMPARE(mensaje.titulo, u"Mensaje repetido"_s);
-        QCOMPARE(mensaje.icono, Interlocutor::Icono::Critico);
-        QCOMPARE(mensaje.texto,
+        const auto caja = Entorno::grabadora().unico();
+        QCOMPARE(caja.titulo, u"Mensaje repetido"_s);
+        QCOMPARE(caja.icono, Interlocutor::Icono::Critico);
+        QCOMPARE(caja.texto,
                  u"Ya hay un mensaje de %1 para %1 con asunto 'Cita'"_s.arg(m_yo->usuario()));
     }
 
@@ -108,7 +109,7 @@ private Q_SLOTS:
         control<CampoLargo>(ventanaClave(), u"TxtDestT"_s)->setText(u"26829"_s);
         QVERIFY(boton(u"recibir"_s)->isEnabled());
         pulsa(u"recibir"_s);
-        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"HO"_s);
+        QCOMPARE(mensaje()->toPlainText(), u"HO"_s);
     }
 
     /// Arrows and Enter do; the focus on its way through the window does not.
@@ -120,14 +121,14 @@ private Q_SLOTS:
         m_ventana->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
         escribeMensaje({}, u"a medias"_s);
-        auto *lista = control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s);
+        auto *lista = rejillaDeMensajes();
         for (const auto motivo :
              {Qt::TabFocusReason, Qt::BacktabFocusReason, Qt::OtherFocusReason}) {
             lista->setFocus(motivo);
             QVERIFY(lista->hasFocus());
             QCOMPARE(rotulo(u"LabelTexto"_s), u"Mensaje"_s);
-            QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
-            area(u"txtDestTextoOriginal"_s)->setFocus();
+            QVERIFY(m_yo->clavePrivada().contains("q(1)=257\r\n"));
+            mensaje()->setFocus();
             pulsa(u"revisar"_s);
         }
         lista->setFocus();
@@ -142,15 +143,15 @@ private Q_SLOTS:
         m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
         preparaBuzon();
         eligeUsuario(u"ana"_s);
-        QCOMPARE(Estudiante::lee(m_yo->ficheroPrivado()),
+        QCOMPARE(m_yo->clavePrivada(),
                  "[RSA]\r\nr=1\r\nq(0)=33\r\nq(1)=\r\nq(2)=\r\ns=3\r\nt=\r\nNBits=0\r\n"
                  "Fi(Q)=\r\n"_ba);
         temasDe()->setCurrentIndex(1);
-        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(0)=67591\r\n"));
+        QVERIFY(m_yo->clavePrivada().contains("q(0)=67591\r\n"));
         temasDe()->setCurrentIndex(3);
         eligeUsuario(u"luis"_s);
         m_ventana.reset();
-        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("t=26829\r\n"));
+        QVERIFY(m_yo->clavePrivada().contains("t=26829\r\n"));
         QVERIFY(!QFile::exists(m_yo->ficheroPrivado() + u".propia"_s));
     }
 
@@ -159,13 +160,13 @@ private Q_SLOTS:
     {
         m_yo->escribe(u"eva/Clave.RSA"_s, "[RSA]\r\nq=33\r\ns=3\r\n");
         preparaBuzon();
-        const QByteArray propia = Estudiante::lee(m_yo->ficheroPrivado());
+        const QByteArray propia = m_yo->clavePrivada();
         for (const QString &usuario : {u"ana"_s, u"eva"_s})
             eligeUsuario(usuario);
         const QString copia = m_yo->ficheroPrivado() + u".propia"_s;
         QCOMPARE(QFileInfo(copia).permissions() & (QFile::ReadGroup | QFile::ReadOther),
                  QFile::Permissions());
-        const QByteArray ajena = Estudiante::lee(m_yo->ficheroPrivado());
+        const QByteArray ajena = m_yo->clavePrivada();
         QVERIFY(ajena.contains("q(1)=\r\n"));
         QVERIFY(QFile::copy(copia, copia + u".aparte"_s));
         cierra();
@@ -174,7 +175,7 @@ private Q_SLOTS:
         abre();
         QTRY_COMPARE(Entorno::grabadora().mensajes.size(), 1);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"Clave recuperada"_s);
-        QCOMPARE(Estudiante::lee(m_yo->ficheroPrivado()), propia);
+        QCOMPARE(m_yo->clavePrivada(), propia);
         QCOMPARE(campo(u"txtT"_s)->text(), u"26829"_s);
         QVERIFY(!QFile::exists(copia));
         // Left behind by one that died before it overwrote anything.
@@ -191,7 +192,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(m_yo->ficheroPrivado() + u".propia"_s));
         eligeUsuario(u"ana"_s);
         QCOMPARE(Entorno::grabadora().unico().titulo, u"Error en tiempo de ejecución"_s);
-        QVERIFY(Estudiante::lee(m_yo->ficheroPrivado()).contains("q(1)=257\r\n"));
+        QVERIFY(m_yo->clavePrivada().contains("q(1)=257\r\n"));
     }
 
     void sinClaveQueSirva_data()
@@ -214,27 +215,21 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(m_yo->enBuzon(u"eva/RSA1.msg"_s)));
         Entorno::grabadora().respondeSi = true;
         pulsa(u"enviar"_s);
-        QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"eva/RSA1.msg"_s)),
+        QCOMPARE(m_yo->leeDelBuzon(u"eva/RSA1.msg"_s),
                  m_yo->usuario().toLatin1() + "\r\nx\r\nError\r\nError\r\n");
     }
 
     void loQueNoSePuedeEnviar_data()
     {
-        QTest::addColumn<QString>("usuario");
-        QTest::addColumn<QString>("asunto");
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<QString>("titulo");
-        QTest::addColumn<bool>("sale");
-        QTest::newRow("text beyond Windows-1252")
-            << u"ana"_s << u"x"_s << u"día α"_s << u"Carácter no admitido"_s << false;
-        QTest::newRow("subject beyond Windows-1252")
-            << u"ana"_s << u"α"_s << u"x"_s << u"Carácter no admitido"_s << false;
-        QTest::newRow("text without end") << u"ana"_s << u"x"_s << QString(1'000'001, u'a')
-                                          << u"Texto demasiado largo"_s << false;
-        QTest::newRow("out of the mailbox")
-            << u"../ana"_s << u"x"_s << u"x"_s << u"Error en tiempo de ejecución"_s << false;
-        QTest::newRow("unfit text and subject: one box")
-            << u"ana"_s << u"\u0001"_s << u"\u0001"_s << u"Error en el mensaje"_s << true;
+        const QString largo(1'000'001, u'a');
+        tabla(u"usuario | asunto | texto | titulo | sale\n"
+              "text beyond Windows-1252 | ana | x | día α | Carácter no admitido | no\n"
+              "subject beyond Windows-1252 | ana | α | x | Carácter no admitido | no\n"
+              "text without end | ana | x | "_s +
+              largo +
+              u" | Texto demasiado largo | no\n"
+              "out of the mailbox | ../ana | x | x | Error en tiempo de ejecución | no\n"
+              "unfit text and subject | ana | \u0001 | \u0001 | Error en el mensaje | RSA1.msg"_s);
     }
     void loQueNoSePuedeEnviar()
     {
@@ -247,7 +242,8 @@ private Q_SLOTS:
         escribeMensaje(asunto, texto);
         pulsa(u"enviar"_s);
         QTEST(Entorno::grabadora().unico().titulo, "titulo");
-        QTEST(QFile::exists(m_yo->enBuzon(usuario + u"/RSA1.msg"_s)), "sale");
+        const bool sale = QFile::exists(m_yo->enBuzon(usuario + u"/RSA1.msg"_s));
+        QTEST(sale ? u"RSA1.msg"_s : u"no"_s, "sale");
     }
 
     void unBuzonQueDesaparece()
@@ -266,8 +262,7 @@ private Q_SLOTS:
     void unBuzonQueNoEsCarpeta()
     {
         m_yo->escribe(u"archivo"_s, "x");
-        abre();
-        ponClave(u"257"_s, u"263"_s, u"5"_s);
+        abreConClave();
         eligeBuzon(m_yo->enBuzon(u"archivo"_s));
         QCoreApplication::processEvents();
         QVERIFY(Entorno::grabadora().unico().texto.startsWith(u"No se encontró la ruta"_s));
@@ -276,11 +271,10 @@ private Q_SLOTS:
 
     void unaClaveQueSePublicaMasTarde_data()
     {
-        QTest::addColumn<QString>("antes");
-        QTest::addColumn<QString>("boton");
-        QTest::newRow("none before, seen on sending") << QString() << u"enviar"_s;
-        QTest::newRow("another before, seen on sending") << u"323"_s << u"enviar"_s;
-        QTest::newRow("seen on scanning") << QString() << u"revisar"_s;
+        tabla(uR"(
+            antes | boton
+            none before, seen on sending | | enviar || another before | 323 | enviar
+            seen on scanning | | revisar)"_s);
     }
     void unaClaveQueSePublicaMasTarde()
     {
@@ -296,17 +290,15 @@ private Q_SLOTS:
         pulsa(boton);
         QCOMPARE(campoAjeno(u"txtDestQ"_s), u"67591"_s);
         if (boton == u"enviar"_s)
-            QVERIFY(Estudiante::lee(m_yo->enBuzon(u"ana/RSA1.msg"_s)).endsWith("x\r\n57666\r\n"));
+            QVERIFY(m_yo->leeDelBuzon(u"ana/RSA1.msg"_s).endsWith("x\r\n57666\r\n"));
     }
 
     /// As many characters without a blank as a message can hold: Qt would lay out their lines for
     /// minutes, which the test's time limit does not allow.
     void unMensajeSinFin()
     {
-        QByteArray bytes = "luis\r\nlargo\r\n";
-        for (int i = 0; i < 1'000'000; ++i)
-            bytes += "57666\r\n";
-        m_yo->escribe(m_yo->usuario() + u"/RSA1.msg"_s, bytes);
+        m_yo->escribe(m_yo->usuario() + u"/RSA1.msg"_s,
+                      "luis\r\nlargo\r\n" + QByteArray("57666\r\n").repeated(1'000'000));
         preparaBuzon();
         boton(u"cmdPublicarClave"_s)->click();
         eligeFila(0);
@@ -314,11 +306,10 @@ private Q_SLOTS:
         for (const QString &antes : {QString(), u"x"_s}) {
             escribeMensaje({}, antes);
             pulsa(u"recibir"_s);
-            QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText().size(), 1'000'000);
+            QCOMPARE(mensaje()->toPlainText().size(), 1'000'000);
         }
-        area(u"txtDestTextoOriginal"_s)->setPlainText(u"corto "_s.repeated(2000));
-        QCOMPARE(area(u"txtDestTextoOriginal"_s)->wordWrapMode(),
-                 QTextOption::WrapAtWordBoundaryOrAnywhere);
+        mensaje()->setPlainText(u"corto "_s.repeated(2000));
+        QCOMPARE(mensaje()->wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
     }
 
     /// What was written to somebody is theirs until it is sent or emptied, whatever is looked at or
@@ -365,10 +356,9 @@ private Q_SLOTS:
         escribeMensaje(u"respuesta"_s, u"a medias"_s);
         m_yo->escribe(u"Ada/RSA1.msg"_s, "luis\r\nprimera\r\n1\r\n");
         pulsa(u"revisar"_s);
-        QCOMPARE(area(u"txtDestTextoOriginal"_s)->toPlainText(), u"a medias"_s);
-        QCOMPARE(control<QComboBox>(m_ventana.get(), u"cmbDestinatario"_s)->currentText(),
-                 u"ana"_s);
-        QCOMPARE(control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s)->currentIndex().row(), 1);
+        QCOMPARE(mensaje()->toPlainText(), u"a medias"_s);
+        QCOMPARE(destinatario()->currentText(), u"ana"_s);
+        QCOMPARE(rejillaDeMensajes()->currentIndex().row(), 1);
     }
 };
 

@@ -8,12 +8,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-const QString Motivo = u"El texto del mensaje que quiere enviar puede confundir al destinatario."_s;
-
-} // namespace
-
 /// Messages, their files, their collection, and the scan of a mailbox of good will.
 class TestMensajes : public QObject
 {
@@ -26,10 +20,7 @@ private Q_SLOTS:
         m_yo = std::make_unique<Estudiante>();
         m_clave = std::make_unique<ClsRSA>(Sesión());
         m_clave->ponDirMensajes(m_yo->buzon());
-        m_clave->ponr(1);
-        m_clave->ponq(1, u"257"_s);
-        m_clave->ponq(2, u"263"_s);
-        m_clave->pons(u"5"_s);
+        Estudiante::ponClave(*m_clave);
         m_clave->Valida();
         m_mensaje = std::make_unique<clsMensaje>();
         m_mensaje->ponClave(m_clave.get());
@@ -41,16 +32,15 @@ private Q_SLOTS:
     void enviaYRecibe()
     {
         QCOMPARE(envia(u"ana"_s, u" Qué tal "_s, u"HOLA"_s), u"RSA1.msg"_s);
-        QCOMPARE(Estudiante::lee(m_yo->enBuzon(u"ana/RSA1.msg"_s)),
+        QCOMPARE(m_yo->leeDelBuzon(u"ana/RSA1.msg"_s),
                  m_yo->usuario().toLatin1() +
                      "\r\nQu\xE9 tal\r\n57666\r\n43715\r\n51784\r\n23519\r\n");
         clsMensaje recibido;
         recibido.ponClave(m_clave.get());
         recibido.ponNombreFichero(m_mensaje->NombreFichero());
         recibido.Recibe({}).completa();
-        QCOMPARE(recibido.Remitente(), m_yo->usuario());
-        QCOMPARE(recibido.Asunto(), u"Qué tal"_s);
-        QCOMPARE(recibido.TextoOriginal(), u"HOLA"_s);
+        QCOMPARE(recibido.Remitente() + u'|' + recibido.Asunto() + u'|' + recibido.TextoOriginal(),
+                 m_yo->usuario() + u"|Qué tal|HOLA"_s);
         recibido.DescodificaTexto({}).completa();
         QCOMPARE(recibido.TextoOriginal(), u"HOLA"_s);
         m_clave->ponq(1, u"259"_s);
@@ -71,14 +61,14 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_yo->buzon()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
                  QStringList{u"ana"_s});
         // No draft is left behind.
-        QCOMPARE(QDir(m_yo->enBuzon(u"ana"_s)).entryList(QDir::Files | QDir::Hidden).size(), 17);
+        QCOMPARE(m_yo->ficheros(u"ana"_s).size(), 17);
     }
 
     void textosQueConfunden()
     {
         m_mensaje->ponMensajeOK(true);
         m_mensaje->ponTextoOriginal(u"a\u0001"_s);
-        QCOMPARE(m_errores, QStringList{Motivo});
+        QCOMPARE(m_errores, m_motivo);
         QVERIFY(!m_mensaje->MensajeOK());
         QCOMPARE(m_mensaje->TextoOriginal(), u"a\u0001"_s);
         m_mensaje->CodificaTexto({}).completa();
@@ -107,12 +97,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, destinatario);
         QFETCH(QString, asunto);
-        QCOMPARE(numeroDeError([&] { envia(destinatario, asunto, u"x"_s); }),
-                 int(ErrorEjecucion::ArgumentoNoValido));
+        QCOMPARE_ERROR(ArgumentoNoValido, envia(destinatario, asunto, u"x"_s));
         QVERIFY(!QFile::exists(m_yo->enBuzon(u"ana"_s)));
         m_clave->ponDirMensajes({});
-        QCOMPARE(numeroDeError([&] { envia(u"ana"_s, u"a"_s, u"x"_s); }),
-                 int(ErrorEjecucion::RutaNoEncontrada));
+        QCOMPARE_ERROR(RutaNoEncontrada, envia(u"ana"_s, u"a"_s, u"x"_s));
     }
 
     void ficherosDeOtros_data()
@@ -157,34 +145,24 @@ private Q_SLOTS:
 
     void unMillonDeLineas()
     {
-        QByteArray bytes = "ana\r\nlargo\r\n";
-        for (int i = 0; i < 1'000'000; ++i)
-            bytes += "57666\r\n";
-        m_yo->escribe(u"ana/RSA1.msg"_s, bytes);
-        m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
-        m_mensaje->Recibe({}).completa();
+        const QByteArray bytes = "ana\r\nlargo\r\n" + QByteArray("57666\r\n").repeated(1'000'000);
+        recibe(bytes);
         QCOMPARE(m_mensaje->TextoOriginal(), QString(1'000'000, u'H'));
-        m_yo->escribe(u"ana/RSA1.msg"_s, bytes + "1\r\n");
-        QCOMPARE(numeroDeError([&] { m_mensaje->Recibe({}).completa(); }),
-                 int(ErrorEjecucion::ErrorDeArchivo));
+        QCOMPARE_ERROR(ErrorDeArchivo, recibe(bytes + "1\r\n"));
     }
 
     void soloDosLineas()
     {
-        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\r\nnada\r\n");
-        m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
         m_mensaje->ponTextoOriginal(u"viejo"_s);
-        m_mensaje->Recibe({}).completa();
+        recibe("luis\r\nnada\r\n");
         QVERIFY(m_mensaje->Bloques().isEmpty() && m_mensaje->TextoOriginal().isEmpty());
     }
 
     void unTextoRecibidoQueConfunde()
     {
         const QString bloque = m_clave->Codifica(u"\u0001"_s, {}).completa().constFirst();
-        m_yo->escribe(u"ana/RSA1.msg"_s, "luis\nnada\n" + bloque.toLatin1() + '\n');
-        m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
-        m_mensaje->Recibe({}).completa();
-        QCOMPARE(m_errores, QStringList{Motivo});
+        recibe("luis\nnada\n" + bloque.toLatin1() + '\n');
+        QCOMPARE(m_errores, m_motivo);
         QCOMPARE(m_mensaje->TextoOriginal(), u"\u0001"_s);
     }
 
@@ -197,15 +175,13 @@ private Q_SLOTS:
         QCOMPARE(mensajes.Item(u"ana.luis.uno"_s).get(), &uno);
         QCOMPARE(&mensajes.Item(1), &uno);
         QVERIFY(!mensajes.Item(u"ana.luis.tres"_s));
-        QCOMPARE(numeroDeError([&] { mensajes.Add(u"ana"_s, u"luis"_s, u"dos"_s, {}); }),
-                 int(ErrorEjecucion::ArgumentoNoValido));
+        QCOMPARE_ERROR(ArgumentoNoValido, mensajes.Add(u"ana"_s, u"luis"_s, u"dos"_s, {}));
         mensajes.Remove(1);
         QCOMPARE(mensajes.Count(), 1);
         QVERIFY(!mensajes.Item(u"ana.luis.uno"_s));
         QCOMPARE((*mensajes.begin())->Asunto(), u"dos"_s);
         for (const qsizetype indice : {0, 2})
-            QCOMPARE(numeroDeError([&] { mensajes.Remove(indice); }),
-                     int(ErrorEjecucion::IndiceFueraDeRango));
+            QCOMPARE_ERROR(IndiceFueraDeRango, mensajes.Remove(indice));
     }
 
     void revision()
@@ -230,35 +206,27 @@ private Q_SLOTS:
                               u"ana|luis||RSAB.msg"_s, u"Luis|ana||RSA1.msg"_s}));
         QCOMPARE(usuariosDelBuzon(m_yo->buzon()), QStringList({u"ana"_s, u"Luis"_s}));
         QCOMPARE(revisaBuzon({}, {}).completa().mensajes.Count(), 0);
-        QCOMPARE(numeroDeError([] { revisaBuzon(u"/no existe"_s, {}).completa(); }),
-                 int(ErrorEjecucion::RutaNoEncontrada));
+        QCOMPARE_ERROR(RutaNoEncontrada, revisaBuzon(u"/no existe"_s, {}).completa());
     }
 
-    void clavesPublicas_data()
-    {
-        QTest::addColumn<QString>("fichero");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("clave"); // q|s
-        QTest::newRow("as written here")
-            << u"Clave.RSA"_s << "[RSA]\r\nq=33\r\ns=3\r\n"_ba << u"33|3"_s;
-        QTest::newRow("by others")
-            << u"clave.rsa"_s << "\xEF\xBB\xBF[RSA]\nS=3\nQ=33\n"_ba << u"33|3"_s;
-        QTest::newRow("no s") << u"Clave.RSA"_s << "[RSA]\nq=33\n"_ba << u"33|"_s;
-        QTest::newRow("a million digits")
-            << u"Clave.RSA"_s << "[RSA]\nq=" + QByteArray(1'000'000, '7') + "\ns=3\n"
-            << QString(8191, u'7') + u"|3"_s;
-        QTest::newRow("none") << u"otro"_s << QByteArray() << u"|"_s;
-    }
     void clavesPublicas()
     {
-        QFETCH(QString, fichero);
-        QFETCH(QByteArray, bytes);
-        m_yo->escribe(u"Ana/"_s + fichero, bytes);
-        const ClavePublica clave = leeClavePublica(m_yo->buzon(), u"ana"_s);
-        QTEST(clave.q + u'|' + clave.s, "clave");
+        QCOMPARE(clavePublica(u"otro"_s, {}), u"|"_s);
+        // As written here, and by others.
+        QCOMPARE(clavePublica(u"Clave.RSA"_s, "[RSA]\r\nq=33\r\ns=3\r\n"), u"33|3"_s);
+        QCOMPARE(clavePublica(u"clave.rsa"_s, "\xEF\xBB\xBF[RSA]\nS=3\nQ=33\n"), u"33|3"_s);
+        QCOMPARE(clavePublica(u"Clave.RSA"_s, "[RSA]\nq=33\n"), u"33|"_s);
+        QCOMPARE(clavePublica(u"Clave.RSA"_s, "[RSA]\nq=" + QByteArray(1'000'000, '7') + "\ns=3\n"),
+                 QString(8191, u'7') + u"|3"_s);
     }
 
 private:
+    void recibe(const QByteArray &bytes)
+    {
+        m_yo->escribe(u"ana/RSA1.msg"_s, bytes);
+        m_mensaje->ponNombreFichero(m_yo->buzon() + u"\\ana\\RSA1.msg"_s);
+        m_mensaje->Recibe({}).completa();
+    }
     /// Sends a message, and gives the name of its file.
     QString envia(const QString &destinatario, const QString &asunto, const QString &texto)
     {
@@ -272,10 +240,21 @@ private:
         return m_mensaje->NombreFichero().section(u'\\', -1);
     }
 
+    /// What is read of a user's key when this is the only file of theirs: q|s.
+    QString clavePublica(const QString &fichero, const QByteArray &bytes) const
+    {
+        QDir(m_yo->enBuzon(u"Ana"_s)).removeRecursively();
+        m_yo->escribe(u"Ana/"_s + fichero, bytes);
+        const ClavePublica clave = leeClavePublica(m_yo->buzon(), u"ana"_s);
+        return clave.q + u'|' + clave.s;
+    }
+
     std::unique_ptr<Estudiante> m_yo;
     std::unique_ptr<ClsRSA> m_clave;
     std::unique_ptr<clsMensaje> m_mensaje;
     QStringList m_errores;
+    const QStringList m_motivo{
+        u"El texto del mensaje que quiere enviar puede confundir al destinatario."_s};
 };
 
 NUMORA_TEST_MAIN(TestMensajes)

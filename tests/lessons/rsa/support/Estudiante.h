@@ -35,7 +35,26 @@ public:
         if (!archivo.open(QIODevice::WriteOnly) || archivo.write(bytes) != bytes.size())
             qFatal("cannot write %s", qPrintable(nombre));
     }
+    QByteArray leeDelBuzon(const QString &nombre) const { return lee(enBuzon(nombre)); }
+    QByteArray clavePrivada() const { return lee(ficheroPrivado()); }
+    /// The files in a folder of the mailbox, the hidden ones too.
+    QStringList ficheros(const QString &carpeta) const
+    {
+        return QDir(enBuzon(carpeta)).entryList(QDir::Files | QDir::Hidden);
+    }
     static QByteArray lee(const QString &ruta) { return leeArchivo(ruta, 100'000'000); }
+
+    /// Gives a key its numbers: without any, the least that encrypts one character a block.
+    template <typename Clave>
+    static void ponClave(Clave &clave, const QString &q1 = QStringLiteral("257"),
+                         const QString &q2 = QStringLiteral("263"),
+                         const QString &s = QStringLiteral("5"), std::int16_t r = 1)
+    {
+        clave.ponq(1, q1);
+        clave.ponq(2, q2);
+        clave.pons(s);
+        clave.ponr(r);
+    }
 
 private:
     QTemporaryDir m_carpeta;
@@ -52,3 +71,6 @@ int numeroDeError(Accion accion)
     }
     return 0;
 }
+/// What is done ends in that run-time error.
+#define QCOMPARE_ERROR(Error, ...)                                                                 \
+    QCOMPARE(numeroDeError([&] { __VA_ARGS__; }), int(ErrorEjecucion::Error))

@@ -74,7 +74,13 @@ public:
         boton(u"cmdBuzon"_s)->click();
     }
 
-    void ponClave(const QString &q1, const QString &q2, const QString &s)
+    void abreConClave()
+    {
+        abre();
+        ponClave();
+    }
+    void ponClave(const QString &q1 = u"257"_s, const QString &q2 = u"263"_s,
+                  const QString &s = u"5"_s)
     {
         // Each field is taken over as it is left; the last verdict is the one on the whole key.
         const auto avisos = Entorno::grabadora().mensajes;
@@ -95,26 +101,28 @@ public:
     void escribeMensaje(const QString &asunto, const QString &texto)
     {
         linea(u"txtAsunto"_s)->setText(asunto);
-        area(u"txtDestTextoOriginal"_s)->setPlainText(texto);
+        mensaje()->setPlainText(texto);
     }
 
     /// Subject and text of the sheet.
     QString escrito() const
     {
-        return linea(u"txtAsunto"_s)->text() + u'|' +
-               area(u"txtDestTextoOriginal"_s)->toPlainText();
+        return linea(u"txtAsunto"_s)->text() + u'|' + mensaje()->toPlainText();
     }
 
     void eligeUsuario(const QString &usuario)
     {
-        auto *combo = control<QComboBox>(m_ventana.get(), u"cmbDestinatario"_s);
-        combo->setCurrentText(usuario);
-        QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
+        destinatario()->setCurrentText(usuario);
+        QTest::keyClick(destinatario()->lineEdit(), Qt::Key_Return);
+    }
+    QComboBox *destinatario() const
+    {
+        return control<QComboBox>(m_ventana.get(), u"cmbDestinatario"_s);
     }
 
     void eligeFila(int fila)
     {
-        auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s);
+        auto *rejilla = rejillaDeMensajes();
         const QRect celda = rejilla->visualRect(rejilla->model()->index(fila, 0));
         QTest::mouseClick(rejilla->viewport(), Qt::LeftButton, {}, celda.center());
     }
@@ -127,25 +135,21 @@ public:
             rotulos << temasDe()->tabText(i);
         return rotulos;
     }
+    Rejilla *rejillaDeMensajes() const
+    {
+        return control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s);
+    }
     /// The cells of the list of messages; empty when it is.
     QString lista() const
     {
-        const auto *rejilla = control<Rejilla>(m_ventana.get(), u"FlexMensajes"_s);
-        return rejilla->model()->rowCount() == 0 ? QString() : todas(*rejilla->model());
-    }
-    static QString todas(const QAbstractItemModel &modelo)
-    {
-        QStringList lineas{QString()};
-        for (int c = 0; c < 3; ++c)
-            lineas[0] +=
-                modelo.headerData(c, Qt::Horizontal).toString() + (c < 2 ? u"\t"_s : u""_s);
-        for (int f = 0; f < modelo.rowCount(); ++f) {
-            lineas << QStringList({modelo.index(f, 0).data().toString(),
-                                   modelo.index(f, 1).data().toString(),
-                                   modelo.index(f, 2).data().toString()})
-                          .join(u'\t');
-        }
-        return lineas.join(u'\n') + u'\n';
+        const QAbstractItemModel &modelo = *rejillaDeMensajes()->model();
+        QString lineas;
+        for (int f = -1; f < modelo.rowCount() && modelo.rowCount() > 0; ++f)
+            for (int c = 0; c < 3; ++c)
+                lineas += (f < 0 ? modelo.headerData(c, Qt::Horizontal) : modelo.index(f, c).data())
+                              .toString() +
+                          (c < 2 ? u'\t' : u'\n');
+        return lineas;
     }
     FormClaveRSA *ventanaClave() const { return m_ventana->findChild<FormClaveRSA *>(); }
     QString campoAjeno(const QString &nombre) const
@@ -164,6 +168,7 @@ public:
     {
         return control<QPlainTextEdit>(m_ventana.get(), nombre);
     }
+    QPlainTextEdit *mensaje() const { return area(u"txtDestTextoOriginal"_s); }
     QAbstractButton *boton(const QString &nombre) const
     {
         return control<QAbstractButton>(m_ventana.get(), nombre);
