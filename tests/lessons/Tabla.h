@@ -15,7 +15,9 @@ Tipo valor(const QString &celda)
     if constexpr (std::is_same_v<Tipo, QString>) {
         const bool entreComillas = celda.size() > 1 && celda.startsWith(u'"');
         QString texto = entreComillas ? celda.sliced(1).chopped(1) : celda;
-        return texto.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
+        // Null where it is empty, as QString() is: a null text does not start with an empty one.
+        return texto.isEmpty() ? QString()
+                               : texto.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
     } else {
         bool vale = true;
         const qint64 numero = celda == u"yes" ? 1 : celda == u"no" ? 0 : celda.toLongLong(&vale);
