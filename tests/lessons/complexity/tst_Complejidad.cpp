@@ -6,6 +6,7 @@
 #include "lessons/complexity/GeometriaHanoi.h"
 #include "lessons/complexity/TorresHanoi.h"
 #include "shell/core/MejorDeVarias.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QRegularExpression>
@@ -25,35 +26,24 @@ private Q_SLOTS:
 
     void medidas_data()
     {
-        QTest::addColumn<int>("n");
-        QTest::addColumn<qint64>("valor");
-        QTest::addColumn<qint64>("llamadas");
-        QTest::addColumn<qint64>("conMemoria");
-        QTest::addColumn<qint64>("sumas");
-        const auto fila = [](int n, qint64 valor, qint64 llamadas, qint64 conMemoria,
-                             qint64 sumas) {
-            QTest::addRow("%d", n) << n << valor << llamadas << conMemoria << sumas;
-        };
-        fila(0, 0, 1, 1, 0);
-        fila(1, 1, 1, 1, 0);
-        fila(2, 1, 3, 3, 1);
-        fila(20, 6765, 21891, 39, 19);
-        fila(25, 75'025, 242'785, 49, 24);
-        // The next one no longer fits 64 bits and must not be formed.
-        fila(92, 7540113804746346429, 0, 183, 91);
+        // F(93) no longer fits 64 bits and must not be formed.
+        filasDeTexto<int, qint64, qint64, qint64, qint64>(uR"(
+            0 | 0 | 1 | 1 | 0 || 1 | 1 | 1 | 1 | 0 || 2 | 1 | 3 | 3 | 1
+            20 | 6765 | 21891 | 39 | 19 || 25 | 75025 | 242785 | 49 | 24
+            92 | 7540113804746346429 | 0 | 183 | 91)"_s);
     }
     void medidas()
     {
-        QFETCH(int, n);
-        QFETCH(qint64, llamadas);
+        const auto [n, valor, llamadas, conMemoria, sumas] =
+            estaFila<int, qint64, qint64, qint64, qint64>();
         MedidasDeFibonacci medidas{{}, mideConMemoria(n), mideIterativa(n)};
         if (llamadas > 0)
             medidas = *mideFibonacci(n, {}).completa();
         QCOMPARE(medidas.recursiva.pasos, llamadas);
-        QTEST(medidas.conMemoria.pasos, "conMemoria");
-        QTEST(medidas.iterativa.pasos, "sumas");
+        QCOMPARE(medidas.conMemoria.pasos, conMemoria);
+        QCOMPARE(medidas.iterativa.pasos, sumas);
         for (const Medida &m : {medidas.conMemoria, medidas.iterativa}) {
-            QTEST(m.valor, "valor");
+            QCOMPARE(m.valor, valor);
             QVERIFY(m.nanosegundos > 0);
         }
     }
@@ -113,40 +103,25 @@ private Q_SLOTS:
 
     void arbol_data()
     {
-        QTest::addColumn<int>("n");
-        QTest::addColumn<bool>("memoria");
-        QTest::addColumn<int>("llamadas");
-        QTest::addColumn<int>("repetidas");
-        QTest::addColumn<int>("filas");
-        QTest::newRow("0") << 0 << false << 1 << 0 << 1;
-        QTest::newRow("1") << 1 << false << 1 << 0 << 1;
-        QTest::newRow("5") << 5 << false << 15 << 9 << 5;
-        QTest::newRow("10") << 10 << false << 177 << 166 << 10;
-        QTest::newRow("5 with memory") << 5 << true << 9 << 3 << 5;
-        QTest::newRow("10 with memory") << 10 << true << 19 << 8 << 10;
+        filasDeTexto<int, bool, int, int, int>(uR"(
+            0 | 0 | no | 1 | 0 | 1 || 1 | 1 | no | 1 | 0 | 1 || 5 | 5 | no | 15 | 9 | 5
+            10 | 10 | no | 177 | 166 | 10 || 5 with memory | 5 | yes | 9 | 3 | 5
+            10 with memory | 10 | yes | 19 | 8 | 10)"_s);
     }
     void arbol()
     {
-        QFETCH(int, n);
-        QFETCH(bool, memoria);
+        const auto [n, memoria, llamadas, repetidas, filas] = estaFila<int, bool, int, int, int>();
         const ArbolDeLlamadas arbol(n, memoria);
-        QTEST(static_cast<int>(arbol.llamadas().size()), "llamadas");
-        QTEST(arbol.repetidas(), "repetidas");
-        QTEST(arbol.filas(), "filas");
+        QCOMPARE(static_cast<int>(arbol.llamadas().size()), llamadas);
+        QCOMPARE(arbol.repetidas(), repetidas);
+        QCOMPARE(arbol.filas(), filas);
         compruebaSitios(arbol);
     }
 
-    void hanoi_data()
-    {
-        QTest::addColumn<int>("discos");
-        QTest::newRow("1") << 1;
-        QTest::newRow("2") << 2;
-        QTest::newRow("5") << 5;
-        QTest::newRow("12") << TorresHanoi::MaximoDiscos;
-    }
+    void hanoi_data() { filasDeTexto<int>(uR"(1 || 2 || 5 || 12)"_s); }
     void hanoi()
     {
-        QFETCH(int, discos);
+        const int discos = estaFila<int>();
         TorresHanoi torres(discos);
         const QList<int> todos = torres.palo(0);
         QCOMPARE(static_cast<int>(todos.size()), discos);
@@ -194,30 +169,27 @@ private Q_SLOTS:
 
     void cuestiones_data()
     {
-        QTest::addColumn<QString>("respuesta");
-        QTest::addColumn<bool>("acertada");
-        QTest::addColumn<QString>("palabra");
-        QTest::newRow("calls") << u"L177"_s << true << u"F(11)"_s;
-        QTest::newRow("calls, expression") << u"L2*fib(11)-1"_s << true << u"177"_s;
-        QTest::newRow("calls without the first") << u"L176"_s << false << u"primera"_s;
-        QTest::newRow("last calls") << u"L89"_s << false << u"no hacen otras"_s;
-        QTest::newRow("calls, other") << u"L100"_s << false << u"L(n)"_s;
-        QTest::newRow("calls, beyond 64 bits") << u"L10^30"_s << false << u"L(n)"_s;
-        QTest::newRow("calls, no number") << u"Lmuchas"_s << false << u"entero"_s;
-        QTest::newRow("moves") << u"H2^7"_s << true << u"doble"_s;
-        QTest::newRow("all moves") << u"H1023"_s << false << u"todos"_s;
-        QTest::newRow("discs from the other end") << u"H4"_s << false << u"revés"_s;
-        QTest::newRow("moves, other") << u"H127"_s << false << u"mayor"_s;
-        QTest::newRow("moves, fraction") << u"H1/3"_s << false << u"entero"_s;
+        filasDeTexto<QString, bool, QString>(uR"(
+            calls                    | L177         | yes | F(11)
+            calls, expression        | L2*fib(11)-1 | yes | 177
+            calls without the first  | L176         | no  | primera
+            last calls               | L89          | no  | no hacen otras
+            calls, other             | L100         | no  | L(n)
+            calls, beyond 64 bits    | L10^30       | no  | L(n)
+            calls, no number         | Lmuchas      | no  | entero
+            moves                    | H2^7         | yes | doble
+            all moves                | H1023        | no  | todos
+            discs from the other end | H4           | no  | revés
+            moves, other             | H127         | no  | mayor
+            moves, fraction          | H1/3         | no  | entero)"_s);
     }
     void cuestiones()
     {
-        QFETCH(QString, respuesta);
-        QFETCH(QString, palabra);
+        const auto [respuesta, acertada, palabra] = estaFila<QString, bool, QString>();
         const Cuestion cuestion =
             respuesta.startsWith(u'L') ? cuestionLlamadas(10) : cuestionHanoi(10, 3);
         const Juicio juicio = cuestion.juzga(respuesta.sliced(1));
-        QTEST(juicio.acertada, "acertada");
+        QCOMPARE(juicio.acertada, acertada);
         QVERIFY2(juicio.palabra.contains(palabra), qPrintable(juicio.palabra));
     }
 

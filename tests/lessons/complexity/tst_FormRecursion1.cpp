@@ -2,6 +2,7 @@
 #include "lessons/complexity/windows/FormRecursion1.h"
 #include "lessons/complexity/windows/FormRecursion1DibujoArbol.h"
 #include "shell/plot/Grafica.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QCheckBox>
@@ -59,17 +60,12 @@ private Q_SLOTS:
 
     void unFinalFueraDeSitio_data()
     {
-        QTest::addColumn<QString>("hasta");
-        QTest::addColumn<bool>("aviso");
-        QTest::newRow("above") << u"46"_s << true;
-        QTest::newRow("below") << u"2"_s << false;
-        QTest::newRow("fraction") << u"7/2"_s << false;
-        QTest::newRow("words") << u"mucho"_s << false;
+        filasDeTexto<QString, bool>(uR"(
+            above | 46 | yes || below | 2 | no || fraction | 7/2 | no || words | mucho | no)"_s);
     }
     void unFinalFueraDeSitio()
     {
-        QFETCH(QString, hasta);
-        QFETCH(bool, aviso);
+        const auto [hasta, aviso] = estaFila<QString, bool>();
         mide(hasta);
         QCOMPARE(filas(u"FlexMedidas"_s), 0);
         QVERIFY(texto(u"lblAvance"_s).startsWith(u"✗"_s));
@@ -115,15 +111,10 @@ private Q_SLOTS:
         QCOMPARE(texto(u"lblAvance"_s), QString());
     }
 
-    void seCierraDurante_data()
-    {
-        QTest::addColumn<int>("tras");
-        QTest::newRow("behind the click") << 0;
-        QTest::newRow("later") << 60;
-    }
+    void seCierraDurante_data() { filasDeTexto<int>(uR"(behind the click | 0 || later | 60)"_s); }
     void seCierraDurante()
     {
-        QFETCH(int, tras);
+        const int tras = estaFila<int>();
         auto *ventana = new FormRecursión1;
         QPointer<QWidget> viva(ventana);
         ventana->show();
@@ -155,23 +146,19 @@ private Q_SLOTS:
 
     void leyendasDelArbol_data()
     {
-        QTest::addColumn<int>("n");
-        QTest::addColumn<QString>("leyenda");
-        QTest::newRow("0") << 0 << u"Una llamada: es un caso base."_s;
-        QTest::newRow("1") << 1 << u"Una llamada: es un caso base."_s;
-        QTest::newRow("2") << 2 << u"3 llamadas, y ningún valor se pide dos veces."_s;
-        QTest::newRow("3") << 3
-                           << u"5 llamadas, de las que una pide un valor ya pedido antes "
-                              u"(borde discontinuo)."_s;
-        QTest::newRow("10") << 10
-                            << u"177 llamadas, de las que 166 piden un valor ya pedido antes "
-                               u"(borde discontinuo)."_s;
+        filasDeTexto<int, QString>(uR"(
+            0 | Una llamada: es un caso base.
+            1 | Una llamada: es un caso base.
+            2 | 3 llamadas, y ningún valor se pide dos veces.
+            3 | 5 llamadas, de las que una pide un valor ya pedido antes (borde discontinuo).
+            10 | 177 llamadas, de las que 166 piden un valor ya pedido antes (borde \
+              discontinuo).)"_s);
     }
     void leyendasDelArbol()
     {
-        QFETCH(int, n);
+        const auto [n, leyenda] = estaFila<int, QString>();
         control<QSpinBox>(m_ventana.get(), u"SpinN"_s)->setValue(n);
-        QTEST(texto(u"lblLeyenda"_s), "leyenda");
+        QCOMPARE(texto(u"lblLeyenda"_s), leyenda);
     }
 
     void torresDeHanoi()
@@ -234,12 +221,14 @@ private:
     {
         return control<QPushButton>(m_ventana.get(), nombre);
     }
+
     void pulsa(const QString &nombre) { boton(nombre)->click(); }
     void mideHastaElFinal(const QString &hasta)
     {
         mide(hasta);
         QTRY_COMPARE(boton(u"cmdMedir"_s)->toolTip(), u"Calcular"_s);
     }
+
     void mide(const QString &hasta)
     {
         control<QLineEdit>(m_ventana.get(), u"TxtHasta"_s)->setText(hasta);

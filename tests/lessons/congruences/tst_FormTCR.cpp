@@ -2,6 +2,7 @@
 #include "lessons/congruences/windows/FormTCR.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/grid/Rejilla.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QClipboard>
@@ -74,22 +75,17 @@ private Q_SLOTS:
 
     void cuantasEcuaciones_data()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<int>("avisos");
-        QTest::newRow("none") << u"0"_s << 0;
-        QTest::newRow("empty") << QString() << 0;
-        QTest::newRow("negative") << u"-3"_s << 0;
-        QTest::newRow("no number") << u"doce"_s << 0;
-        QTest::newRow("too many") << u"13"_s << 1;
-        QTest::newRow("far too few") << u"-10^30"_s << 0;
+        filasDeTexto<QString, int>(uR"(
+            none | 0 | 0 || empty |  | 0 || negative | -3 | 0 || no number | doce | 0
+            too many | 13 | 1 || far too few | -10^30 | 0)"_s);
     }
     void cuantasEcuaciones()
     {
-        QFETCH(QString, texto);
+        const auto [texto, avisos] = estaFila<QString, int>();
         escribe({u"2"_s, u"3"_s});
         m_ecuaciones->setText(texto);
         m_plantea->click();
-        QTEST(int(Entorno::grabadora().mensajes.size()), "avisos");
+        QCOMPARE(int(Entorno::grabadora().mensajes.size()), avisos);
         QCOMPARE(celda(0, 1).data().toString(), u"3"_s);
     }
 

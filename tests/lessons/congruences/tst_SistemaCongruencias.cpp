@@ -2,10 +2,10 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/congruences/ModeloCongruencias.h"
 #include "lessons/congruences/SistemaCongruencias.h"
+#include "tests/lessons/Tabla.h"
 
 #include <QAbstractItemModelTester>
 #include <QLocale>
-#include <QTest>
 #include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
@@ -51,55 +51,41 @@ private Q_SLOTS:
 
     void soluciones_data()
     {
-        QTest::addColumn<QString>("filas");
-        QTest::addColumn<QString>("resultado");
-        QTest::newRow("Sun") << u"2 3, 3 5, 2 7"_s << u"23"_s;
-        QTest::newRow("eggs") << u"1 2, 1 3, 1 4, 1 5, 1 6, 0 7"_s << u"301"_s;
-        QTest::newRow("one row") << u"17 5"_s << u"2"_s;
-        QTest::newRow("negative remainder") << u"-1 3, -1 5"_s << u"14"_s;
-        QTest::newRow("moduli that agree") << u"2 6, 8 10"_s << u"8"_s;
-        QTest::newRow("half a row does not count") << u"2 3, 3 , 2 7"_s << u"2"_s;
-        QTest::newRow("moduli that disagree")
-            << u"1 2, 0 4"_s
-            << u"Las filas 1 y 2 se contradicen módulo 2: piden los restos 1 y 0."_s;
-        QTest::newRow("the last row, and one that does not count")
-            << u"2 3, 5 , 1 5, 1 8000, 8 9, 1 21"_s
-            << u"Las filas 1 y 6 se contradicen módulo 3: piden los restos 2 y 1."_s;
-        QTest::newRow("the first pair of several")
-            << u"1 1, 0 10, 3 10, 4 10, 5 10"_s
-            << u"Las filas 2 y 3 se contradicen módulo 10: piden los restos 0 y 3."_s;
-        const QString diez20 = u'1' + QString(20, u'0'), diez19 = diez20.chopped(1);
-        QTest::newRow("long numbers")
-            << u"1 %1, 0 %1"_s.arg(diez20) << u"Las filas 1 y 2 se contradicen."_s;
-        QTest::newRow("less long")
-            << u"1 %1, 0 %1"_s.arg(diez19)
-            << u"Las filas 1 y 2 se contradicen módulo 10.000.000.000.000.000.000: piden los "
-               "restos 1 y 0."_s;
-        const auto nueves = [](int cifras) { return QString(cifras, u'9'); };
-        QTest::newRow("as long as they may be")
-            << u"-1 1%1"_s.arg(QString(8191, u'0')) << nueves(8191);
-        QTest::newRow("too long") << u"-1 1%1, 0 3"_s.arg(QString(8192, u'0')) << u"out of reach"_s;
-        QTest::newRow("unreadable") << u"%1 3, 1 3"_s.arg(nueves(24'600)) << u"out of reach"_s;
-        QTest::newRow("large") << u"1 1000000000000000000007, 0 10"_s
-                               << u"7000000000000000000050"_s;
+        // 10^n stands for its digits, 9^n for n nines.
+        filasDeTexto<QString, QString>(uR"(
+            Sun | 2 3, 3 5, 2 7 | 23 || eggs | 1 2, 1 3, 1 4, 1 5, 1 6, 0 7 | 301
+            one row | 17 5 | 2 || negative remainder | -1 3, -1 5 | 14
+            moduli that agree | 2 6, 8 10 | 8 || half a row does not count | 2 3, 3 , 2 7 | 2
+            moduli that disagree | 1 2, 0 4 | \
+              Las filas 1 y 2 se contradicen módulo 2: piden los restos 1 y 0.
+            the last row, and one that does not count | 2 3, 5 , 1 5, 1 8000, 8 9, 1 21 | \
+              Las filas 1 y 6 se contradicen módulo 3: piden los restos 2 y 1.
+            the first pair of several | 1 1, 0 10, 3 10, 4 10, 5 10 | \
+              Las filas 2 y 3 se contradicen módulo 10: piden los restos 0 y 3.
+            long numbers | 1 10^20, 0 10^20 | Las filas 1 y 2 se contradicen.
+            less long | 1 10^19, 0 10^19 | Las filas 1 y 2 se contradicen módulo \
+              10.000.000.000.000.000.000: piden los restos 1 y 0.
+            as long as they may be | -1 10^8191 | 9^8191
+            too long | -1 10^8192, 0 3 | out of reach || unreadable | 9^24600 3, 1 3 | out of reach
+            large | 1 1000000000000000000007, 0 10 | 7000000000000000000050)"_s);
     }
     void soluciones()
     {
-        QFETCH(QString, filas);
-        QTEST(dicho(sistema(filas)), "resultado");
+        auto [filas, resultado] = estaFila<QString, QString>();
+        for (QString *texto : {&filas, &resultado}) {
+            static const QRegularExpression potencia(u"(1?)([09])\\^(\\d+)"_s);
+            for (auto m = potencia.match(*texto); m.hasMatch(); m = potencia.match(*texto))
+                texto->replace(m.captured(),
+                               m.captured(1) + m.captured(2).repeated(m.captured(3).toInt()));
+        }
+        QCOMPARE(dicho(sistema(filas)), resultado);
     }
 
     /// What is posed has the shape that it must have, and its solution is found by substitution.
-    void problemasAlAzar_data()
-    {
-        QTest::addColumn<int>("k");
-        for (const int k : {1, 2, 3, 7, MayorSistema})
-            QTest::addRow("%d", k) << k;
-    }
     void problemasAlAzar()
     {
-        QFETCH(int, k);
-        for (int vez = 0; vez < 20; ++vez) {
+        for (int vez = 0; vez < 100; ++vez) {
+            const int k = vez < 80 ? QList{1, 2, 3, 7}[vez % 4] : MayorSistema;
             const SistemaCongruencias filas = planteaSistema(k);
             QCOMPARE(filas.size(), k);
             compruebaModulos(filas);
@@ -113,29 +99,24 @@ private Q_SLOTS:
 
     void defectos_data()
     {
-        QTest::addColumn<QString>("resto");
-        QTest::addColumn<QString>("modulo");
-        QTest::addColumn<bool>("cuenta");
-        QTest::addColumn<QString>("defecto");
-        const QString resto = u"El resto tiene que ser un número entero"_s;
-        const QString modulo = u"El módulo tiene que ser un número entero mayor que 0"_s;
-        QTest::newRow("good") << u" -2 "_s << u"+7"_s << true << QString();
-        QTest::newRow("blank cell") << u"2"_s << u"  "_s << false << modulo;
-        QTest::newRow("word") << u"dos"_s << u"7"_s << true << resto;
-        QTest::newRow("expression") << u"2"_s << u"7+1"_s << true << modulo;
-        QTest::newRow("decimals") << u"2,5"_s << u"7"_s << true << resto;
-        QTest::newRow("modulus 0") << u"2"_s << u"0"_s << true << modulo;
-        QTest::newRow("negative modulus") << u"2"_s << u"-7"_s << true << modulo;
-        QTest::newRow("modulus -0") << u"2"_s << u"-0"_s << true << modulo;
-        QTest::newRow("other digits") << u"٣"_s << u"7"_s << true << resto;
+        filasDeTexto<QString, QString, bool, QString>(uR"(
+            good | " -2 " | +7 | yes |
+            blank cell | 2 | "  " | no | El módulo tiene que ser un número entero mayor que 0
+            word | dos | 7 | yes | El resto tiene que ser un número entero
+            expression | 2 | 7+1 | yes | El módulo tiene que ser un número entero mayor que 0
+            decimals | 2,5 | 7 | yes | El resto tiene que ser un número entero
+            modulus 0 | 2 | 0 | yes | El módulo tiene que ser un número entero mayor que 0
+            negative modulus | 2 | -7 | yes | El módulo tiene que ser un número entero mayor \
+              que 0
+            modulus -0 | 2 | -0 | yes | El módulo tiene que ser un número entero mayor que 0
+            other digits | ٣ | 7 | yes | El resto tiene que ser un número entero)"_s);
     }
     void defectos()
     {
-        QFETCH(QString, resto);
-        QFETCH(QString, modulo);
+        const auto [resto, modulo, cuenta, defecto] = estaFila<QString, QString, bool, QString>();
         const Congruencia fila{resto, modulo};
-        QTEST(fila.cuenta(), "cuenta");
-        QTEST(fila.defecto(), "defecto");
+        QCOMPARE(fila.cuenta(), cuenta);
+        QCOMPARE(fila.defecto(), defecto);
     }
 
     void respuestas()

@@ -14,11 +14,6 @@ inline Exacto exacto(Moneda valor)
     return valor.entero();
 }
 
-inline Exacto pisoExacto(Exacto n, Exacto d)
-{
-    return n / d - ((n % d != 0) && ((n < 0) != (d < 0)) ? 1 : 0);
-}
-
 /// Whole numbers of every size up to the largest, the same in every run.
 class Muestras
 {

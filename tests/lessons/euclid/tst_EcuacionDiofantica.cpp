@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/euclid/EcuacionDiofantica.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/lessons/euclid/Muestras.h"
 
 #include <QLocale>
@@ -27,43 +28,33 @@ private Q_SLOTS:
 
     void textos_data()
     {
-        QTest::addColumn<qint64>("a");
-        QTest::addColumn<qint64>("b");
-        QTest::addColumn<qint64>("c");
-        QTest::addColumn<QString>("cuenta");
-        QTest::addColumn<QString>("general");
-        const auto fila = [](const char *nombre, qint64 a, qint64 b, qint64 c,
-                             const QString &cuenta, const QString &general) {
-            QTest::newRow(nombre) << a << b << c << cuenta << general;
-        };
-        const QString unica = u"Solución única"_s, ninguna = u"Sin soluciones positivas"_s;
-        fila("only one", 2, 3, 7, unica, u"x = 2\ny = 1"_s);
-        fila("no multiple of the gcd", 5, 10, 3, ninguna, QString());
-        fila("only with negative numbers", 5, 8, 27, ninguna, QString());
-        fila("nothing to change", 6, 10, 0, unica, u"x = 0\ny = 0"_s);
-        fila("a is 0", 0, 3, 7, u"Soluciones"_s, QString());
-        fila("b is 0", 3, 0, 7, u"Soluciones"_s, QString());
-        fila("c is negative", 3, 5, -8, u"Soluciones"_s, QString());
-        fila("no constant, no factors", 1, 1, 2000, u"2.001 soluciones"_s,
-             u"x = k\ny = 2.000 - k\n\nk entero en \n[0, 2.000]"_s);
-        fila("all terms", 6, 10, 100, u"4 soluciones"_s,
-             u"x = 100 + 5·k\ny = -50 - 3·k\n\nk entero en \n[-20, -17]"_s);
-        fila("no constant in y", 2, 1, 6, u"4 soluciones"_s,
-             u"x = k\ny = 6 - 2·k\n\nk entero en \n[0, 3]"_s);
-        fila("only the sign left of y", 1, 3, 9, u"4 soluciones"_s,
-             u"x = 9 + 3·k\ny =  - k\n\nk entero en \n[-3, 0]"_s);
-        fila("large: every count is written in full", 1, 1, Moneda::MaximoEntero,
-             u"922.337.203.685.478 soluciones"_s,
-             u"x = k\ny = 922.337.203.685.477 - k\n\nk entero en \n[0, 922.337.203.685.477]"_s);
+        filasDeTexto<qint64, qint64, qint64, QString, QString>(uR"(
+            only one | 2 | 3 | 7 | Solución única | x = 2\ny = 1
+            no multiple of the gcd | 5 | 10 | 3 | Sin soluciones positivas |
+            only with negative numbers | 5 | 8 | 27 | Sin soluciones positivas |
+            nothing to change | 6 | 10 | 0 | Solución única | x = 0\ny = 0
+            a is 0 | 0 | 3 | 7 | Soluciones |
+            b is 0 | 3 | 0 | 7 | Soluciones |
+            c is negative | 3 | 5 | -8 | Soluciones |
+            no constant, no factors | 1 | 1 | 2000 | 2.001 soluciones | x = k\ny = 2.000 - \
+              k\n\nk entero en \n[0, 2.000]
+            all terms | 6 | 10 | 100 | 4 soluciones | x = 100 + 5·k\ny = -50 - 3·k\n\nk \
+              entero en \n[-20, -17]
+            no constant in y | 2 | 1 | 6 | 4 soluciones | x = k\ny = 6 - 2·k\n\nk entero en \
+              \n[0, 3]
+            only the sign left of y | 1 | 3 | 9 | 4 soluciones | x = 9 + 3·k\ny =  - k\n\nk \
+              entero en \n[-3, 0]
+            large: every count is written in full | 1 | 1 | 922337203685477 | \
+              922.337.203.685.478 soluciones | x = k\ny = 922.337.203.685.477 - k\n\nk entero \
+              en \n[0, 922.337.203.685.477])"_s);
     }
     void textos()
     {
-        QFETCH(qint64, a);
-        QFETCH(qint64, b);
-        QFETCH(qint64, c);
+        const auto [a, b, c, cuenta, general] =
+            estaFila<qint64, qint64, qint64, QString, QString>();
         const SolucionesDiofanticas soluciones = resuelve(a, b, c);
-        QTEST(soluciones.cuenta, "cuenta");
-        QTEST(soluciones.general, "general");
+        QCOMPARE(soluciones.cuenta, cuenta);
+        QCOMPARE(soluciones.general, general);
     }
 
     void ningunaFalta()
@@ -78,17 +69,15 @@ private Q_SLOTS:
 
     void lasPrimerasYLasUltimas_data()
     {
-        QTest::addColumn<int>("c");
-        QTest::addColumn<int>("filas");
-        QTest::newRow("1000 solutions") << 999 << 1000;
-        QTest::newRow("1001 solutions") << 1000 << 1001;
-        QTest::newRow("2001 solutions") << 2000 << 1001;
+        filasDeTexto<int, int>(uR"(
+            1000 solutions | 999 | 1000 || 1001 solutions | 1000 | 1001
+            2001 solutions | 2000 | 1001)"_s);
     }
     void lasPrimerasYLasUltimas()
     {
-        QFETCH(int, c);
+        const auto [c, filas] = estaFila<int, int>();
         const auto lista = resuelve(1, 1, c).lista;
-        QTEST(int(lista.size()), "filas");
+        QCOMPARE(int(lista.size()), filas);
         QCOMPARE(qint64(lista[499].numero), qint64(500));
         QCOMPARE(qint64(lista.constLast().numero), qint64(c + 1));
         if (c < 1000)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/TablaEuclides.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/lessons/euclid/Muestras.h"
 
 #include <QLocale>
@@ -9,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// A table as text: "240 46 5 10 1 -5 | 46 10 ...".
+/// A table as text: "240 46 5 10 1 -5, 46 10 ...".
 QString texto(const TablaEuclides &tabla)
 {
     QStringList filas;
@@ -19,7 +20,7 @@ QString texto(const TablaEuclides &tabla)
                           d.resto.texto())
                      .arg(d.coef1)
                      .arg(d.coef2);
-    return filas.join(u" | "_s);
+    return filas.join(u", "_s);
 }
 
 TablaEuclides tabla(std::int64_t a, std::int64_t b, AlgoritmoEuclides algoritmo)
@@ -32,8 +33,6 @@ constexpr auto Reducidos = AlgoritmoEuclides::RestosReducidos;
 
 } // namespace
 
-Q_DECLARE_METATYPE(AlgoritmoEuclides)
-
 class TestTablaEuclides : public QObject
 {
     Q_OBJECT
@@ -43,73 +42,49 @@ private Q_SLOTS:
 
     void ejemplos_data()
     {
-        QTest::addColumn<qint64>("a");
-        QTest::addColumn<qint64>("b");
-        QTest::addColumn<AlgoritmoEuclides>("algoritmo");
-        QTest::addColumn<QString>("filas");
-        QTest::addColumn<QString>("resultado");
-        const auto fila = [](const char *nombre, qint64 a, qint64 b, AlgoritmoEuclides algoritmo,
-                             const QString &filas, const QString &resultado) {
-            QTest::newRow(nombre) << a << b << algoritmo << filas << resultado;
-        };
-        fila("standard", 240, 46, Estandar,
-             u"240 46 5 10 1 -5 | 46 10 4 6 -4 21 | 10 6 1 4 5 -26 | 6 4 1 2 -9 47 | "
-             "4 2 2 0 23 -120"_s,
-             u"(-9) · 240 + 47 · 46 = 2"_s);
-        fila("reduced", 240, 46, Reducidos,
-             u"240 46 5 10 1 -5 | 46 10 5 -4 -5 26 | 10 4 2 2 11 -57 | 4 2 2 0 -27 140"_s,
-             u"El MCD es 2"_s);
-        fila("a tie keeps the positive remainder", 6, 4, Reducidos,
-             u"6 4 1 2 1 -1 | 4 2 2 0 -2 3"_s, u"El MCD es 2"_s);
-        fila("one division: the divisor itself", 92, 46, Estandar, u"92 46 2 0 1 -2"_s,
-             u"0 · 92 + 1 · 46 = 46"_s);
-        fila("smaller dividend", 3, 7, Estandar, u"3 7 0 3 1 0 | 7 3 2 1 -2 1 | 3 1 3 0 7 -3"_s,
-             u"(-2) · 3 + 1 · 7 = 1"_s);
-        fila("negative dividend", -7, 3, Estandar, u"-7 3 -3 2 1 3 | 3 2 1 1 -1 -2 | 2 1 2 0 3 7"_s,
-             u"(-1) · (-7) + (-2) · 3 = 1"_s);
-        fila("thousands", 1234567, 1000, Estandar,
-             u"1234567 1000 1234 567 1 -1234 | 1000 567 1 433 -1 1235 | 567 433 1 134 2 -2469 | "
-             "433 134 3 31 -7 8642 | 134 31 4 10 30 -37037 | 31 10 3 1 -97 119753 | "
-             "10 1 10 0 1000 -1234567"_s,
-             u"(-97) · 1.234.567 + 119.753 · 1.000 = 1"_s);
-        fila("plain number", 5000, 0, Reducidos, QString(), u"El MCD es 5000"_s);
-        fila("divisor 0, a plain divisor of all", 5000, 0, Estandar, QString(),
-             u"1 · 5.000 + 0 · 0 = 5000"_s);
-        const QString consejo = u"El divisor tiene que ser mayor que 0."_s;
-        fila("two zeros", 0, 0, Estandar, QString(), consejo);
-        fila("negative divisor", 240, -46, Estandar, QString(), consejo);
+        filasDeTexto<qint64, qint64, bool, QString, QString>(uR"(
+            standard | 240 | 46 | no | 240 46 5 10 1 -5, 46 10 4 6 -4 21, 10 6 1 4 5 -26, \
+              6 4 1 2 -9 47, 4 2 2 0 23 -120 | (-9) · 240 + 47 · 46 = 2
+            reduced | 240 | 46 | yes | 240 46 5 10 1 -5, 46 10 5 -4 -5 26, 10 4 2 2 11 -57, \
+              4 2 2 0 -27 140 | El MCD es 2
+            a tie keeps the positive remainder | 6 | 4 | yes | 6 4 1 2 1 -1, 4 2 2 0 -2 3 | \
+              El MCD es 2
+            one division: the divisor itself | 92 | 46 | no | 92 46 2 0 1 -2 | \
+              0 · 92 + 1 · 46 = 46
+            smaller dividend | 3 | 7 | no | 3 7 0 3 1 0, 7 3 2 1 -2 1, 3 1 3 0 7 -3 | \
+              (-2) · 3 + 1 · 7 = 1
+            negative dividend | -7 | 3 | no | -7 3 -3 2 1 3, 3 2 1 1 -1 -2, 2 1 2 0 3 7 | \
+              (-1) · (-7) + (-2) · 3 = 1
+            thousands | 1234567 | 1000 | no | 1234567 1000 1234 567 1 -1234, \
+              1000 567 1 433 -1 1235, 567 433 1 134 2 -2469, 433 134 3 31 -7 8642, \
+              134 31 4 10 30 -37037, 31 10 3 1 -97 119753, 10 1 10 0 1000 -1234567 | \
+              (-97) · 1.234.567 + 119.753 · 1.000 = 1
+            plain number | 5000 | 0 | yes |  | El MCD es 5000
+            divisor 0, a plain divisor of all | 5000 | 0 | no |  | 1 · 5.000 + 0 · 0 = 5000
+            two zeros | 0 | 0 | no |  | El divisor tiene que ser mayor que 0.
+            negative divisor | 240 | -46 | no |  | El divisor tiene que ser mayor que 0.)"_s);
     }
     void ejemplos()
     {
-        QFETCH(qint64, a);
-        QFETCH(qint64, b);
-        QFETCH(AlgoritmoEuclides, algoritmo);
-        const TablaEuclides t = tabla(a, b, algoritmo);
-        QTEST(texto(t), "filas");
-        QTEST(t.resultado(), "resultado");
+        const auto [a, b, reducidos, filas, resultado] =
+            estaFila<qint64, qint64, bool, QString, QString>();
+        const TablaEuclides t = tabla(a, b, reducidos ? Reducidos : Estandar);
+        QCOMPARE(texto(t), filas);
+        QCOMPARE(t.resultado(), resultado);
     }
 
     /// Every row against exact arithmetic, up to the bound of each algorithm.
-    void propiedades_data()
-    {
-        QTest::addColumn<AlgoritmoEuclides>("algoritmo");
-        QTest::newRow("standard") << Estandar;
-        QTest::newRow("reduced") << Reducidos;
-    }
+    void propiedades_data() { filasDeTexto<bool>(uR"(standard | no || reduced | yes)"_s); }
     void propiedades()
     {
-        QFETCH(AlgoritmoEuclides, algoritmo);
+        const auto algoritmo = estaFila<bool>() ? Reducidos : Estandar;
         const std::int64_t mayor = mayorNumero(algoritmo).entero();
         Muestras muestras(2);
         for (int i = 0; i < 5000; ++i) {
             const std::int64_t a = i % 3 == 0 ? muestras.extremo(mayor) : muestras.natural(mayor);
             const std::int64_t b = i % 6 == 0 ? muestras.extremo(mayor) : muestras.natural(mayor);
             comprueba(i % 7 == 0 && b > 0 ? -a : a, b, algoritmo);
-            if (QTest::currentTestFailed()) {
-                qWarning("with %lld and %lld", static_cast<long long>(a),
-                         static_cast<long long>(b));
-                return;
-            }
+            QVERIFY2(!QTest::currentTestFailed(), qPrintable(u"%1 and %2"_s.arg(a).arg(b)));
         }
     }
 

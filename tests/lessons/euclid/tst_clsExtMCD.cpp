@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/clsExtMCD.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/lessons/euclid/Muestras.h"
 
 #include <numeric>
+
+using namespace Qt::Literals::StringLiterals;
 
 class TestClsExtMCD : public QObject
 {
@@ -11,38 +14,30 @@ class TestClsExtMCD : public QObject
 private Q_SLOTS:
     void casos_data()
     {
-        QTest::addColumn<qint64>("numero1");
-        QTest::addColumn<qint64>("numero2");
-        QTest::addColumn<qint64>("mcd");
-        QTest::addColumn<qint64>("coeficiente1");
-        QTest::addColumn<qint64>("coeficiente2");
-        QTest::addColumn<int>("divisiones");
-        const auto fila = [](const char *nombre, qint64 n1, qint64 n2, qint64 mcd, qint64 c1,
-                             qint64 c2,
-                             int n) { QTest::newRow(nombre) << n1 << n2 << mcd << c1 << c2 << n; };
-        fila("240 by 46", 46, 240, 2, 47, -9, 5);
-        fila("46 by 240", 240, 46, 2, -9, 47, 6);
-        fila("both negative", -46, -240, 2, -47, 9, 5);
-        fila("first 0, second negative", 0, -5, 5, 0, -1, 0);
-        fila("second 0, first negative", -7, 0, 7, -1, 0, 0);
-        fila("two zeros", 0, 0, 1, 0, 0, 0);
-        fila("equal", 6, 6, 6, 1, 0, 1);
-        fila("largest by 1", 1, Moneda::MaximoEntero, 1, 1, 0, 1);
-        fila("1 by largest", Moneda::MaximoEntero, 1, 1, 0, 1, 2);
-        fila("Fibonacci 72 and 73", 498454011879264, 806515533049393, 1, 308061521170129,
-             -190392490709135, 71);
+        filasDeTexto<qint64, qint64, qint64, qint64, qint64, int>(uR"(
+            240 by 46 | 46 | 240 | 2 | 47 | -9 | 5
+            46 by 240 | 240 | 46 | 2 | -9 | 47 | 6
+            both negative | -46 | -240 | 2 | -47 | 9 | 5
+            first 0, second negative | 0 | -5 | 5 | 0 | -1 | 0
+            second 0, first negative | -7 | 0 | 7 | -1 | 0 | 0
+            two zeros | 0 | 0 | 1 | 0 | 0 | 0
+            equal | 6 | 6 | 6 | 1 | 0 | 1
+            largest by 1 | 1 | 922337203685477 | 1 | 1 | 0 | 1
+            1 by largest | 922337203685477 | 1 | 1 | 0 | 1 | 2
+            Fibonacci 72 and 73 | 498454011879264 | 806515533049393 | 1 | 308061521170129 | \
+              -190392490709135 | 71)"_s);
     }
     void casos()
     {
-        QFETCH(qint64, numero1);
-        QFETCH(qint64, numero2);
+        const auto [numero1, numero2, mcd, coeficiente1, coeficiente2, divisiones] =
+            estaFila<qint64, qint64, qint64, qint64, qint64, int>();
         clsExtMCD objeto;
         objeto.ponNúmero1(Moneda::deEntero(numero1));
         objeto.ponNúmero2(Moneda::deEntero(numero2));
-        QTEST(qint64(objeto.MCD().entero()), "mcd");
-        QTEST(qint64(objeto.Coeficiente1().entero()), "coeficiente1");
-        QTEST(qint64(objeto.Coeficiente2().entero()), "coeficiente2");
-        QTEST(int(objeto.NumDivisiones()), "divisiones");
+        QCOMPARE(qint64(objeto.MCD().entero()), mcd);
+        QCOMPARE(qint64(objeto.Coeficiente1().entero()), coeficiente1);
+        QCOMPARE(qint64(objeto.Coeficiente2().entero()), coeficiente2);
+        QCOMPARE(int(objeto.NumDivisiones()), divisiones);
     }
 
     void identidadDeBezout()
@@ -61,9 +56,9 @@ private Q_SLOTS:
             const Exacto combinado =
                 exacto(objeto.Coeficiente1()) * a + exacto(objeto.Coeficiente2()) * b;
             QCOMPARE(objeto.MCD(), Moneda::deEntero(std::gcd(a, b)));
-            QVERIFY2(combinado == exacto(objeto.MCD()), qPrintable(texto(a, b)));
-            QVERIFY2(objeto.Coeficiente1().esEntero() && objeto.Coeficiente2().esEntero(),
-                     qPrintable(texto(a, b)));
+            QVERIFY2(combinado == exacto(objeto.MCD()) && objeto.Coeficiente1().esEntero() &&
+                         objeto.Coeficiente2().esEntero(),
+                     qPrintable(QStringLiteral("%1 %2").arg(a).arg(b)));
         }
     }
 
@@ -85,12 +80,6 @@ private Q_SLOTS:
         objeto.ponNúmero2(Moneda());
         QCOMPARE(objeto.Coeficiente1(), Moneda::deEntero(1));
         QCOMPARE(objeto.NumDivisiones(), std::int16_t(1));
-    }
-
-private:
-    static QString texto(std::int64_t a, std::int64_t b)
-    {
-        return QString::number(a) + QChar(u' ') + QString::number(b);
     }
 };
 

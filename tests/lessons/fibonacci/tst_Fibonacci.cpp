@@ -13,10 +13,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-Q_DECLARE_METATYPE(Esfuerzo)
-Q_DECLARE_METATYPE(FalloZeckendorf)
-Q_DECLARE_METATYPE(MetodoFibonacci)
-
 /// The logic of the lesson on the Fibonacci numbers.
 class TestFibonacci : public QObject
 {
@@ -27,34 +23,27 @@ private Q_SLOTS:
 
     /// The methods on numbers are tested with the library; here, that each is the one it says, what
     /// it costs, and the border of the definition between what is done at one go and what yields.
-    void metodos_data()
-    {
-        QTest::addColumn<MetodoFibonacci>("metodo");
-        QTest::addColumn<int>("n");
-        QTest::addColumn<Esfuerzo>("esfuerzo");
-        const auto definicion = MetodoFibonacci::Definicion;
-        // 2 F(n+1) - 1 calls, F(n+1) - 1 additions.
-        QTest::newRow("definition, 0") << definicion << 0 << Esfuerzo{1, 0, 0};
-        QTest::newRow("definition, 1") << definicion << 1 << Esfuerzo{1, 0, 0};
-        QTest::newRow("definition, 2") << definicion << 2 << Esfuerzo{3, 1, 0};
-        QTest::newRow("definition, 24") << definicion << 24 << Esfuerzo{150'049, 75'024, 0};
-        QTest::newRow("definition, 25") << definicion << 25 << Esfuerzo{242'785, 121'392, 0};
-        QTest::newRow("definition, 27") << definicion << 27 << Esfuerzo{635'621, 317'810, 0};
-        QTest::newRow("iteration") << MetodoFibonacci::Iteracion << 20 << Esfuerzo{0, 19, 0};
-        QTest::newRow("largest") << MetodoFibonacci::Iteracion << cotaDe(MetodoFibonacci::Iteracion)
-                                 << Esfuerzo{0, 117'591, 0};
-        // 20 is 10100 in binary: five steps, two of them with one addition more.
-        QTest::newRow("doubling") << MetodoFibonacci::Duplicacion << 20 << Esfuerzo{0, 17, 15};
-    }
     void metodos()
     {
-        QFETCH(MetodoFibonacci, metodo);
-        QFETCH(int, n);
-        CalculoFibonacci calculo;
-        const FibonacciMedido medido = calculo.calcula(metodo, n, {}).completa();
-        QCOMPARE(medido.valor, Evalua(u"fib(%1)"_s.arg(n)));
-        QTEST(medido.esfuerzo, "esfuerzo");
-        QVERIFY(medido.nanosegundos > 0);
+        using Metodo = MetodoFibonacci;
+        const std::tuple<Metodo, int, Esfuerzo> casos[] = {
+            // 2 F(n+1) - 1 calls, F(n+1) - 1 additions.
+            {Metodo::Definicion, 0, {1, 0, 0}},
+            {Metodo::Definicion, 1, {1, 0, 0}},
+            {Metodo::Definicion, 2, {3, 1, 0}},
+            {Metodo::Definicion, 24, {150'049, 75'024, 0}},
+            {Metodo::Definicion, 25, {242'785, 121'392, 0}},
+            {Metodo::Definicion, 27, {635'621, 317'810, 0}},
+            {Metodo::Iteracion, 20, {0, 19, 0}},
+            {Metodo::Iteracion, cotaDe(Metodo::Iteracion), {0, 117'591, 0}},
+            // 20 is 10100 in binary: five steps, two of them with one addition more.
+            {Metodo::Duplicacion, 20, {0, 17, 15}}};
+        for (const auto &[metodo, n, esfuerzo] : casos) {
+            const FibonacciMedido medido = CalculoFibonacci().calcula(metodo, n, {}).completa();
+            QCOMPARE(medido.valor, Evalua(u"fib(%1)"_s.arg(n)));
+            QCOMPARE(medido.esfuerzo, esfuerzo);
+            QVERIFY(medido.nanosegundos > 0);
+        }
     }
 
     /// The same for a small number and for a large one: the recursion, cold or warm, takes less
@@ -103,43 +92,33 @@ private Q_SLOTS:
         QCOMPARE(numeroAureo(1000).size(), 1002);
     }
 
-    void textoDePotencias_data()
-    {
-        QTest::addColumn<double>("valor");
-        QTest::addColumn<QString>("texto");
-        QTest::newRow("below one") << 4.73e-5 << u"4,73 · 10⁻⁵"_s;
-        QTest::newRow("rounds up to ten") << 9.999e-3 << u"1,00 · 10⁻²"_s;
-        QTest::newRow("power of ten") << 1e-12 << u"1,00 · 10⁻¹²"_s;
-    }
     void textoDePotencias()
     {
-        QFETCH(double, valor);
-        QTEST(textoDePotencia(std::log10(valor)), "texto");
+        const std::pair<double, QString> casos[] = {{4.73e-5, u"4,73 · 10⁻⁵"_s},
+                                                    {9.999e-3, u"1,00 · 10⁻²"_s}, // rounds up
+                                                    {1e-12, u"1,00 · 10⁻¹²"_s}};
+        for (const auto &[valor, texto] : casos)
+            QCOMPARE(textoDePotencia(std::log10(valor)), texto);
     }
 
     /// What defines the representation: summands of the sequence, no neighbours, the right sum.
-    void zeckendorf_data()
-    {
-        QTest::addColumn<QString>("n");
-        for (const QString &n : {u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"88"_s, u"89"_s, u"90"_s,
-                                 u"100"_s, u"832039"_s, u"1"_s + QString(200, u'0')})
-            QTest::newRow(qPrintable(n.left(12))) << n;
-    }
     void zeckendorf()
     {
-        QFETCH(QString, n);
-        const QList<PasoZeckendorf> pasos = representacionZeckendorf(n);
-        QString resto = n;
-        int indice = std::numeric_limits<int>::max();
-        for (const PasoZeckendorf &paso : pasos) {
-            QCOMPARE(paso.resto, resto);
-            QCOMPARE(paso.sumando, Evalua(u"fib(%1)"_s.arg(paso.indice)));
-            QCOMPARE(paso.queda, Evalua(u"%1-%2"_s.arg(resto, paso.sumando)));
-            QVERIFY(paso.indice >= 2 && indice - paso.indice > 1);
-            indice = paso.indice;
-            resto = paso.queda;
+        for (const QString &n : {u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"88"_s, u"89"_s, u"90"_s,
+                                 u"100"_s, u"832039"_s, u'1' + QString(200, u'0')}) {
+            const QList<PasoZeckendorf> pasos = representacionZeckendorf(n);
+            QString resto = n;
+            int indice = std::numeric_limits<int>::max();
+            for (const PasoZeckendorf &paso : pasos) {
+                QCOMPARE(paso.resto, resto);
+                QCOMPARE(paso.sumando, Evalua(u"fib(%1)"_s.arg(paso.indice)));
+                QCOMPARE(paso.queda, Evalua(u"%1-%2"_s.arg(resto, paso.sumando)));
+                QVERIFY(paso.indice >= 2 && indice - paso.indice > 1);
+                indice = paso.indice;
+                resto = paso.queda;
+            }
+            QCOMPARE(resto, u"0"_s);
         }
-        QCOMPARE(resto, u"0"_s);
     }
 
     void codigo()
@@ -148,52 +127,32 @@ private Q_SLOTS:
         QCOMPARE(codigoZeckendorf(representacionZeckendorf(u"1"_s)), u"1"_s);
     }
 
-    void juiciosDeZeckendorf_data()
-    {
-        QTest::addColumn<QString>("respuesta");
-        QTest::addColumn<FalloZeckendorf>("fallo");
-        QTest::newRow("right") << u"89 + 8 + 3"_s << FalloZeckendorf::Ninguno;
-        QTest::newRow("any order") << u"3+89+8"_s << FalloZeckendorf::Ninguno;
-        QTest::newRow("expressions") << u"fib(11) + 2^3 + fib(4)"_s << FalloZeckendorf::Ninguno;
-        QTest::newRow("neighbours") << u"55 + 34 + 8 + 3"_s << FalloZeckendorf::Consecutivos;
-        QTest::newRow("1 and 2 are neighbours")
-            << u"89 + 8 + 2 + 1"_s << FalloZeckendorf::Consecutivos;
-        QTest::newRow("twice") << u"89 + 8 + 1 + 1 + 1"_s << FalloZeckendorf::Consecutivos;
-        QTest::newRow("other sum") << u"89 + 8"_s << FalloZeckendorf::OtraSuma;
-        QTest::newRow("not Fibonacci") << u"90 + 10"_s << FalloZeckendorf::NoEsFibonacci;
-        QTest::newRow("zero") << u"89 + 8 + 3 + 0"_s << FalloZeckendorf::NoEsFibonacci;
-        QTest::newRow("negative") << u"144 + -44"_s << FalloZeckendorf::NoEsFibonacci;
-        QTest::newRow("difference") << u"89 + 13-2"_s << FalloZeckendorf::NoEsFibonacci;
-        QTest::newRow("fraction") << u"89 + 8 + 6/4"_s << FalloZeckendorf::NoEsSuma;
-        QTest::newRow("empty summand") << u"89 + + 3"_s << FalloZeckendorf::NoEsSuma;
-        QTest::newRow("words") << u"ochenta"_s << FalloZeckendorf::NoEsSuma;
-        QTest::newRow("beyond 32 bits") << u"99999999999"_s << FalloZeckendorf::NoEsSuma;
-    }
     void juiciosDeZeckendorf()
     {
-        QFETCH(QString, respuesta);
-        QTEST(juzgaZeckendorf(respuesta, 100), "fallo");
+        const std::pair<FalloZeckendorf, QString> casos[] = {
+            {FalloZeckendorf::Ninguno, u"89 + 8 + 3|3+89+8|fib(11) + 2^3 + fib(4)"_s},
+            {FalloZeckendorf::Consecutivos, u"55 + 34 + 8 + 3|89 + 8 + 2 + 1|89 + 8 + 1 + 1 + 1"_s},
+            {FalloZeckendorf::OtraSuma, u"89 + 8"_s},
+            {FalloZeckendorf::NoEsFibonacci, u"90 + 10|89 + 8 + 3 + 0|144 + -44|89 + 13-2"_s},
+            {FalloZeckendorf::NoEsSuma, u"89 + 8 + 6/4|89 + + 3|ochenta|99999999999"_s}};
+        for (const auto &[fallo, respuestas] : casos) {
+            for (const QString &respuesta : respuestas.split(u'|'))
+                QCOMPARE(juzgaZeckendorf(respuesta, 100), fallo);
+        }
     }
 
-    void identidades_data()
-    {
-        QTest::addColumn<int>("m");
-        QTest::addColumn<int>("n");
-        QTest::newRow("least") << 1 << 1;
-        QTest::newRow("odd n") << 12 << 17;
-        QTest::newRow("even n") << 30 << 42;
-        QTest::newRow("a block of the sums") << 7 << 100;
-        QTest::newRow("largest") << MaximoDeIdentidades << MaximoDeIdentidades;
-    }
     void identidades()
     {
-        QFETCH(int, m);
-        QFETCH(int, n);
-        const QList<IdentidadProbada> lista = pruebaIdentidades(m, n);
-        QCOMPARE(lista.size(), 5);
-        for (const IdentidadProbada &identidad : lista) {
-            QVERIFY2(identidad.seCumple(), qPrintable(identidad.nombre));
-            QVERIFY(!identidad.izquierda.isEmpty() && identidad.izquierda != TextoError);
+        // The least, odd n, even n, a block of the sums, the largest.
+        for (const auto &[m, n] :
+             {std::pair(1, 1), std::pair(12, 17), std::pair(30, 42), std::pair(7, 100),
+              std::pair(MaximoDeIdentidades, MaximoDeIdentidades)}) {
+            const QList<IdentidadProbada> lista = pruebaIdentidades(m, n);
+            QCOMPARE(lista.size(), 5);
+            for (const IdentidadProbada &identidad : lista) {
+                QVERIFY2(identidad.seCumple(), qPrintable(identidad.nombre));
+                QVERIFY(!identidad.izquierda.isEmpty() && identidad.izquierda != TextoError);
+            }
         }
     }
 

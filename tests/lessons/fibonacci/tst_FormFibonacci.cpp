@@ -5,6 +5,7 @@
 #include "shell/controls/CampoLargo.h"
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/plot/Grafica.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>
@@ -48,20 +49,14 @@ private Q_SLOTS:
 
     void unIndiceFueraDeSitio_data()
     {
-        QTest::addColumn<QString>("metodo");
-        QTest::addColumn<QString>("n");
-        QTest::addColumn<QString>("cota");
-        QTest::newRow("definition") << u"optMetodo_0"_s << u"51"_s << u"50"_s;
-        QTest::newRow("doubling") << u"optMetodo_2"_s << u"117592+1"_s << u"117592"_s;
-        QTest::newRow("negative") << u"optMetodo_1"_s << u"-1"_s << QString();
-        QTest::newRow("fraction") << u"optMetodo_1"_s << u"5/2"_s << QString();
-        QTest::newRow("empty") << u"optMetodo_1"_s << QString() << QString();
+        filasDeTexto<QString, QString, QString>(uR"(
+            definition | optMetodo_0 | 51 | 50 || doubling | optMetodo_2 | 117592+1 | 117592
+            negative | optMetodo_1 | -1 | "" || fraction | optMetodo_1 | 5/2 | ""
+            empty | optMetodo_1 |  | "")"_s);
     }
     void unIndiceFueraDeSitio()
     {
-        QFETCH(QString, metodo);
-        QFETCH(QString, n);
-        QFETCH(QString, cota);
+        const auto [metodo, n, cota] = estaFila<QString, QString, QString>();
         control<QRadioButton>(m_ventana.get(), metodo)->click();
         calcula(n);
         QVERIFY(texto(u"lblAviso"_s).startsWith(u"✗"_s));
@@ -113,20 +108,16 @@ private Q_SLOTS:
     /// What is shown belongs to what stands in the fields, whether it was refused or only edited.
     void otroNumeroSeLlevaLoDeAntes_data()
     {
-        QTest::addColumn<QString>("campo");
-        QTest::addColumn<QString>("boton");
-        QTest::addColumn<QString>("rejilla");
-        QTest::newRow("values") << u"TxtN"_s << u"cmdCalcular"_s << QString();
-        QTest::newRow("golden ratio") << u"TxtHasta"_s << u"cmdAureo"_s << u"FlexCocientes"_s;
-        QTest::newRow("m") << u"TxtIndiceM"_s << u"cmdProbar"_s << u"FlexIdentidades"_s;
-        QTest::newRow("n") << u"TxtIndiceN"_s << u"cmdProbar"_s << u"FlexIdentidades"_s;
+        filasDeTexto<QString, QString, QString>(uR"(
+            values       | TxtN       | cmdCalcular |
+            golden ratio | TxtHasta   | cmdAureo    | FlexCocientes
+            m            | TxtIndiceM | cmdProbar   | FlexIdentidades
+            n            | TxtIndiceN | cmdProbar   | FlexIdentidades)"_s);
     }
     void otroNumeroSeLlevaLoDeAntes()
     {
-        QFETCH(QString, campo);
-        QFETCH(QString, boton);
-        QFETCH(QString, rejilla);
-        const auto hayAlgo = [&] {
+        const auto [campo, boton, rejilla] = estaFila<QString, QString, QString>();
+        const auto hayAlgo = [this, &rejilla = rejilla] {
             return rejilla.isEmpty() ? !largo(u"txtValor"_s).isEmpty() : filas(rejilla) > 0;
         };
         escribe(campo, u"12"_s);
@@ -235,11 +226,13 @@ private:
     {
         return control<QPushButton>(m_ventana.get(), nombre);
     }
+
     void pulsa(const QString &nombre) { boton(nombre)->click(); }
     void escribe(const QString &campo, const QString &texto)
     {
         control<QLineEdit>(m_ventana.get(), campo)->setText(texto);
     }
+
     void calcula(const QString &n)
     {
         escribe(u"TxtN"_s, n);

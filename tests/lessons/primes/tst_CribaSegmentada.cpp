@@ -51,23 +51,18 @@ class TestCribaSegmentada : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void contraElServicio_data()
+    void contraElServicio()
     {
-        QTest::addColumn<int>("limite");
         // Around the first candidates, the ends of blocks (6001, 12001, …) and squares of primes.
         for (const int limite : {3,     4,     5,     6,     7,     8,      10,     11,       24,
                                  25,    48,    49,    5999,  6000,  6001,   6006,   6007,     11999,
-                                 12001, 12007, 36000, 36001, 65000, 120409, 994009, 1'000'000})
-            QTest::addRow("%d", limite) << limite;
-    }
-    void contraElServicio()
-    {
-        QFETCH(int, limite);
-        CribaSegmentada criba;
-        criba.criba(limite, {}, {}).completa();
-        const PrimosDelServicio esperados = listaPrimos(limite, {}, {}).completa();
-        QCOMPARE(static_cast<std::int32_t>(criba.primos().size()), esperados.cuantos);
-        QCOMPARE(criba.numeros(), esperados.numeros);
+                                 12001, 12007, 36000, 36001, 65000, 120409, 994009, 1'000'000}) {
+            CribaSegmentada criba;
+            criba.criba(limite, {}, {}).completa();
+            const PrimosDelServicio esperados = listaPrimos(limite, {}, {}).completa();
+            QCOMPARE(static_cast<std::int32_t>(criba.primos().size()), esperados.cuantos);
+            QCOMPARE(criba.numeros(), esperados.numeros);
+        }
     }
 
     void losMenores()
@@ -75,10 +70,9 @@ private Q_SLOTS:
         for (const int limite : {2, 1, 0, -5}) {
             CribaSegmentada criba;
             criba.criba(limite, {}, {}).completa();
-            QCOMPARE(criba.numeros(), (std::vector<std::uint32_t>{2, 3}));
-            const bool hayPrimo = limite == 2;
+            QCOMPARE(criba.numeros(), (Numeros{2, 3}));
             const auto lista = listaPrimos(limite, {}, [](int) {}).completa();
-            QCOMPARE(lista.numeros, hayPrimo ? Numeros{2} : Numeros{});
+            QCOMPARE(lista.numeros, limite == 2 ? Numeros{2} : Numeros{});
         }
     }
 
@@ -87,25 +81,20 @@ private Q_SLOTS:
         CribaSegmentada criba;
         criba.criba(20'000, {}, {}).completa();
         criba.criba(10, {}, {}).completa();
-        QCOMPARE(criba.numeros(), (std::vector<std::uint32_t>{2, 3, 5, 7}));
+        QCOMPARE(criba.numeros(), (Numeros{2, 3, 5, 7}));
     }
 
     /// 25 is listed and struck: from 100 % the bar falls back to 92 %.
-    void elAvanceSigueAlUltimoNumero_data()
-    {
-        QTest::addColumn<int>("limite");
-        for (const int limite : {3, 10, 25, 97, 6001, 6007, 30'000, 65'000})
-            QTest::addRow("%d", limite) << limite;
-    }
     void elAvanceSigueAlUltimoNumero()
     {
-        QFETCH(int, limite);
-        std::vector<int> avances, esperados;
-        const auto anota = [&](int porcentaje) { avances.push_back(porcentaje); };
-        CribaSegmentada criba;
-        criba.criba(limite, {}, anota).completa();
-        QCOMPARE(criba.numeros(), cribaLenta(static_cast<std::uint32_t>(limite), esperados));
-        QCOMPARE(sinRepetir(avances), sinRepetir(esperados));
+        for (const int limite : {3, 10, 25, 97, 6001, 6007, 30'000, 65'000}) {
+            std::vector<int> avances, esperados;
+            const auto anota = [&](int porcentaje) { avances.push_back(porcentaje); };
+            CribaSegmentada criba;
+            criba.criba(limite, {}, anota).completa();
+            QCOMPARE(criba.numeros(), cribaLenta(static_cast<std::uint32_t>(limite), esperados));
+            QCOMPARE(sinRepetir(avances), sinRepetir(esperados));
+        }
     }
 
     /// A stop in the middle of a block leaves candidates that nothing has struck yet; those that
@@ -113,7 +102,7 @@ private Q_SLOTS:
     void detenidaEnCualquierPaso()
     {
         constexpr int limite = 12'000'000;
-        const std::vector<std::uint32_t> primos = listaPrimos(limite, {}, {}).completa().numeros;
+        const Numeros primos = listaPrimos(limite, {}, {}).completa().numeros;
         for (int paso = 0; paso < 100; paso += 9) {
             const auto parada = std::make_shared<Parada>();
             const auto detiene = [&](int porcentaje) {

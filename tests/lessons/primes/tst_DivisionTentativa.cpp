@@ -3,10 +3,10 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/primes/DivisionTentativa.h"
 #include "lessons/primes/TablaDeFactores.h"
+#include "tests/lessons/Tabla.h"
 
 #include <QLocale>
 #include <QRegularExpression>
-#include <QTest>
 #include <random>
 
 using namespace Qt::Literals::StringLiterals;
@@ -85,26 +85,22 @@ private Q_SLOTS:
         QCOMPARE(errorDe([&] { factores.Remove(u"2P"_s); }), ErrorEjecucion::ArgumentoNoValido);
     }
 
-    void losTresAlgoritmos_data()
-    {
-        QTest::addColumn<qint64>("n");
-        QTest::addColumn<QString>("factores");
-        QTest::newRow("360") << qint64(360) << u"2^3 3^2 5^1"_s;
-        QTest::newRow("97") << qint64(97) << u"97^1"_s;
-        QTest::newRow("one") << qint64(1) << QString();
-        QTest::newRow("zero") << qint64(0) << u"desenlace %1"_s.arg(TablaDeFactores::EsCero);
-        QTest::newRow("2^49") << (qint64(1) << 49) << u"2^49"_s;
-        QTest::newRow("square of a prime") << qint64(10'609) << u"103^2"_s;
-        QTest::newRow("5^21") << qint64(476'837'158'203'125) << u"5^21"_s;
-        QTest::newRow("5, 7, 11, 13") << qint64(25 * 49 * 11 * 13) << u"5^2 7^2 11^1 13^1"_s;
-    }
     void losTresAlgoritmos()
     {
-        QFETCH(qint64, n);
-        QFETCH(QString, factores);
-        QCOMPARE(mejorado(n), factores);
-        QCOMPARE(avanzado(QString::number(n)), factores);
-        QCOMPARE(ingenuo(n), factores);
+        const std::pair<std::int64_t, QString> casos[] = {
+            {360, u"2^3 3^2 5^1"_s},
+            {97, u"97^1"_s},
+            {1, QString()},
+            {0, u"desenlace %1"_s.arg(TablaDeFactores::EsCero)},
+            {std::int64_t(1) << 49, u"2^49"_s},
+            {10'609, u"103^2"_s},
+            {476'837'158'203'125, u"5^21"_s},
+            {25 * 49 * 11 * 13, u"5^2 7^2 11^1 13^1"_s}};
+        for (const auto &[n, factores] : casos) {
+            QCOMPARE(mejorado(n), factores);
+            QCOMPARE(avanzado(QString::number(n)), factores);
+            QCOMPARE(ingenuo(n), factores);
+        }
     }
 
     /// The divisions do not look at the sign, but only those by 2 and 3 come before n > 1 is asked.
@@ -217,19 +213,15 @@ private Q_SLOTS:
     /// By what each factor of a number was found, which the student reads below it.
     void hallazgos_data()
     {
-        QTest::addColumn<QString>("expresion");
-        QTest::addColumn<QString>("forma");
-        QTest::newRow("none") << u"97"_s << u".*"_s;
-        QTest::newRow("division") << u"2^10*3"_s << u"(Hallado por división: .*\\.;?){2}"_s;
-        QTest::newRow("sieve, two primes of 25 digits")
-            << u"sigprimo(3*10^24)*sigprimo(7*10^24)"_s
-            << u"(Hallado por (la criba cuadrática: [\\d.]+ relaciones|la curva elíptica .*), "
-               u"?.*s\\.;?){2}"_s;
+        filasDeTexto<QString, QString>(uR"(
+            none | 97 | .*
+            division | 2^10*3 | (Hallado por división: .*\.;?){2}
+            sieve, two primes of 25 digits | sigprimo(3*10^24)*sigprimo(7*10^24) | (Hallado \
+              por (la criba cuadrática: [\d.]+ relaciones|la curva elíptica .*), ?.*s\.;?){2})"_s);
     }
     void hallazgos()
     {
-        QFETCH(QString, expresion);
-        QFETCH(QString, forma);
+        auto [expresion, forma] = estaFila<QString, QString>();
         QStringList hallazgos;
         for (const FilaDeFactor &fila : factorizaGrande(Evalua(expresion)).filas)
             hallazgos << fila.hallazgo;
@@ -240,22 +232,17 @@ private Q_SLOTS:
     /// What is no whole number, and what is too large to be split: neither has "no factors".
     void otrosDesenlaces_data()
     {
-        QTest::addColumn<QString>("expresion");
-        QTest::addColumn<int>("desenlace");
-        QTest::addColumn<QString>("primeros");
-        using T = TablaDeFactores;
-        QTest::newRow("half") << u"1/2"_s << int(T::NoEsEntero) << QString();
-        QTest::newRow("fraction") << u"25/2"_s << int(T::NoEsEntero) << QString();
-        QTest::newRow("9000 digits")
-            << u"(10^9000-1)/9*7"_s << int(T::QuedaCompuesto) << u"3² · 7² · 11 · "_s;
-        QTest::newRow("9002 digits") << u"2*(10^9000+1)"_s << int(T::QuedaCompuesto) << u"2 · "_s;
+        filasDeTexto<QString, bool, QString>(uR"(
+            half | 1/2 | no | "" || fraction | 25/2 | no |
+            9000 digits | (10^9000-1)/9*7 | yes | "3² · 7² · 11 · "
+            9002 digits | 2*(10^9000+1) | yes | "2 · ")"_s);
     }
     void otrosDesenlaces()
     {
-        QFETCH(QString, primeros);
-        QFETCH(QString, expresion);
-        const TablaDeFactores tabla = factorizaGrande(Evalua(expresion));
-        QTEST(int(tabla.desenlace), "desenlace");
+        const auto [expresion, compuesto, primeros] = estaFila<QString, bool, QString>();
+        const TablaDeFactores tabla = factorizaGrande(Evalua(QString(expresion)));
+        QCOMPARE(tabla.desenlace,
+                 compuesto ? TablaDeFactores::QuedaCompuesto : TablaDeFactores::NoEsEntero);
         QVERIFY2(tabla.producto().startsWith(primeros), qPrintable(tabla.producto().left(80)));
         QVERIFY(tabla.filas.isEmpty() || !tabla.filas.last().primo);
     }

@@ -2,6 +2,7 @@
 #include "lessons/primes/windows/FormPrimos.h"
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/grid/Rejilla.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>
@@ -34,30 +35,18 @@ private Q_SLOTS:
 
     void cribas_data()
     {
-        QTest::addColumn<QString>("cota");
-        QTest::addColumn<bool>("servicio");
-        QTest::addColumn<int>("filas");
-        QTest::addColumn<QString>("ultimo");
-        QTest::addColumn<QString>("resumen");
-        QTest::addColumn<int>("porcentaje");
-        const QString alAbrir = u"6.493 primos; el mayor es 64.997"_s;
-        QTest::newRow("own") << u"65000"_s << false << 1624 << u"64.997"_s << alAbrir << 99;
-        QTest::newRow("library") << u"65000"_s << true << 1624 << u"64.997"_s << alAbrir << 100;
-        QTest::newRow("expression")
-            << u"2^3+2"_s << false << 1 << u"7"_s << u"4 primos; el mayor es 7"_s << 70;
-        QTest::newRow("own, 2") << u"2"_s << false << 1 << u"3"_s << u"2 primos; el mayor es 3"_s
-                                << 0;
-        QTest::newRow("library, 2")
-            << u"2"_s << true << 1 << u"2"_s << u"Un solo primo: 2"_s << 100;
-        QTest::newRow("library, none")
-            << u"1"_s << true << 0 << QString() << u"No hay primos hasta ese número"_s << 100;
+        filasDeTexto<QString, bool, int, QString, QString, int>(uR"(
+            own | 65000 | no | 1624 | 64.997 | 6.493 primos; el mayor es 64.997 | 99
+            library | 65000 | yes | 1624 | 64.997 | 6.493 primos; el mayor es 64.997 | 100
+            expression | 2^3+2 | no | 1 | 7 | 4 primos; el mayor es 7 | 70
+            own, 2 | 2 | no | 1 | 3 | 2 primos; el mayor es 3 | 0
+            library, 2 | 2 | yes | 1 | 2 | Un solo primo: 2 | 100
+            library, none | 1 | yes | 0 |  | No hay primos hasta ese número | 100)"_s);
     }
     void cribas()
     {
-        QFETCH(QString, cota);
-        QFETCH(bool, servicio);
-        QFETCH(int, filas);
-        QFETCH(QString, ultimo);
+        const auto [cota, servicio, filas, ultimo, resumen, porcentaje] =
+            estaFila<QString, bool, int, QString, QString, int>();
         m_cota->setText(cota);
         if (servicio)
             control<QRadioButton>(m_ventana, u"optTipoCriba_1"_s)->click();
@@ -71,11 +60,11 @@ private Q_SLOTS:
             hallado = celda.isEmpty() ? hallado : celda;
         }
         QCOMPARE(hallado, ultimo);
-        QTEST(m_resumen->text(), "resumen");
+        QCOMPARE(m_resumen->text(), resumen);
         QCOMPARE(m_boton->toolTip(), u"Realizar la criba"_s);
         QCOMPARE(m_ruedas->estado(), ReproductorAVI::Parado);
         const auto *barra = control<QProgressBar>(m_ventana, u"ProgressBar"_s);
-        QTEST(barra->value(), "porcentaje");
+        QCOMPARE(barra->value(), porcentaje);
         QCOMPARE(barra->text(), u"Terminada"_s);
     }
 
@@ -97,18 +86,16 @@ private Q_SLOTS:
 
     void entradasRechazadas_data()
     {
-        QTest::addColumn<QString>("cota");
-        QTest::addColumn<QString>("aviso");
-        QTest::newRow("empty") << u"  "_s << QString();
-        QTest::newRow("half an expression") << u"10^"_s << QString();
-        QTest::newRow("fraction") << u"5/2"_s << QString();
-        QTest::newRow("too large") << u"10^8+1"_s << u"El mayor número permitido es 100000000"_s;
-        QTest::newRow("far below zero") << u"-10^40"_s << u"Desbordamiento."_s;
+        filasDeTexto<QString, QString>(uR"(
+            empty              | "  "   |
+            half an expression | 10^    |
+            fraction           | 5/2    |
+            too large          | 10^8+1 | El mayor número permitido es 100000000
+            far below zero     | -10^40 | Desbordamiento.)"_s);
     }
     void entradasRechazadas()
     {
-        QFETCH(QString, aviso);
-        QFETCH(QString, cota);
+        const auto [cota, aviso] = estaFila<QString, QString>();
         m_cota->setText(cota);
         m_boton->click();
         QVERIFY(m_ruedas->estado() == ReproductorAVI::Parado);
@@ -122,15 +109,10 @@ private Q_SLOTS:
         }
     }
 
-    void seDetiene_data()
-    {
-        QTest::addColumn<bool>("servicio");
-        QTest::newRow("own") << false;
-        QTest::newRow("library") << true;
-    }
+    void seDetiene_data() { filasDeTexto<bool>(uR"(own | no || library | yes)"_s); }
     void seDetiene()
     {
-        QFETCH(bool, servicio);
+        const bool servicio = estaFila<bool>();
         control<QRadioButton>(m_ventana, u"optTipoCriba_%1"_s.arg(int(servicio)))->click();
         m_cota->setText(u"10^8"_s);
         m_boton->click();
@@ -170,13 +152,11 @@ private Q_SLOTS:
 
     void cerrarMientrasCriba_data()
     {
-        QTest::addColumn<int>("tras");
-        QTest::newRow("behind the click") << 0;
-        QTest::newRow("later") << 30;
+        filasDeTexto<int>(uR"(behind the click | 0 || later | 30)"_s);
     }
     void cerrarMientrasCriba()
     {
-        QFETCH(int, tras);
+        const int tras = estaFila<int>();
         const QPointer<FormPrimos> viva = m_ventana;
         m_cota->setText(u"10^8"_s);
         m_ventana->show();

@@ -3,6 +3,7 @@
 #include "lessons/primes/windows/FormPrimos.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/controls/ReproductorAVI.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>
@@ -86,21 +87,15 @@ private Q_SLOTS:
 
     void sinPrimo_data()
     {
-        QTest::addColumn<QString>("primo1");
-        QTest::addColumn<QString>("primo2");
-        QTest::addColumn<int>("foco");
-        QTest::addColumn<QString>("aviso");
-        QTest::newRow("composite") << u"7*13"_s << u"3"_s << 0 << u"El número 91 no es primo"_s;
-        QTest::newRow("second") << u"3"_s << u"2^10"_s << 1 << u"El número 1024 no es primo"_s;
-        QTest::newRow("empty") << u"3"_s << QString() << 1 << QString();
-        QTest::newRow("no expression") << u"3+"_s << u"4"_s << 0 << QString();
+        filasDeTexto<QString, QString, int, QString>(uR"(
+            composite     | 7*13 | 3    | 0 | El número 91 no es primo
+            second        | 3    | 2^10 | 1 | El número 1024 no es primo
+            empty         | 3    |      | 1 |
+            no expression | 3+   | 4    | 0 |)"_s);
     }
     void sinPrimo()
     {
-        QFETCH(QString, primo1);
-        QFETCH(QString, primo2);
-        QFETCH(int, foco);
-        QFETCH(QString, aviso);
+        const auto [primo1, primo2, foco, aviso] = estaFila<QString, QString, int, QString>();
         responde(primo1, primo2);
         QCOMPARE(m_ventana->focusWidget(), m_primos[static_cast<std::size_t>(foco)]);
         QVERIFY(m_producto->text().isEmpty());

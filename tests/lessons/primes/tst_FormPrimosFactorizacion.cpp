@@ -4,6 +4,7 @@
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/core/clsSesion.h"
 #include "shell/grid/Rejilla.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>
@@ -35,24 +36,18 @@ private Q_SLOTS:
 
     void factores_data()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<int>("algoritmo");
-        QTest::addColumn<QString>("factores");
-        for (int algoritmo = 0; algoritmo < 3; ++algoritmo) {
-            QTest::addRow("360 by %d", algoritmo) << u"360"_s << algoritmo << u"2|3 3|2 5|1"_s;
-            QTest::addRow("expression by %d", algoritmo) << u"97*2"_s << algoritmo << u"2|1 97|1"_s;
-            QTest::addRow("1 by %d", algoritmo) << u"1"_s << algoritmo << QString();
-        }
-        QTest::newRow("beyond the limit")
-            << u"922337203685477+1"_s << 2 << u"2|1 3|1 7|1 21960409611559|1"_s;
+        filasDeTexto<QString, int, QString>(uR"(
+            360 | 0 | 2,3 3,2 5,1 || 360 | 1 | 2,3 3,2 5,1 || 360 | 2 | 2,3 3,2 5,1
+            97*2 | 0 | 2,1 97,1 || 97*2 | 1 | 2,1 97,1 || 97*2 | 2 | 2,1 97,1
+            1 | 0 | "" || 1 | 1 | "" || 1 | 2 | ""
+            922337203685477+1 | 2 | 2,1 3,1 7,1 21960409611559,1)"_s);
     }
     void factores()
     {
-        QFETCH(QString, texto);
-        QFETCH(int, algoritmo);
+        const auto [texto, algoritmo, factores] = estaFila<QString, int, QString>();
         elige(algoritmo);
         factoriza(texto);
-        QTEST(mostrados(), "factores");
+        QCOMPARE(mostrados(), factores);
         QCOMPARE(m_ruedas->estado(), ReproductorAVI::Parado);
         QCOMPARE(control<QLabel>(m_ventana, u"lblTiempo"_s)->text(),
                  control<QLabel>(m_ventana, u"lblTiempoFactorizando"_s)->text());
@@ -60,23 +55,19 @@ private Q_SLOTS:
 
     void rechazados_data()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<int>("algoritmo");
-        QTest::addColumn<QString>("aviso");
-        const QString limite = u"Solo puede dar números grandes con el algoritmo avanzado.\n"
-                               "Con el algoritmo seleccionado, el máximo es 922337203685477"_s;
-        QTest::newRow("empty") << QString() << 2 << QString();
-        QTest::newRow("no expression") << u"2+"_s << 0 << QString();
-        QTest::newRow("too large, naive") << u"922337203685477+1"_s << 0 << limite;
-        QTest::newRow("too large, improved") << u"10^400"_s << 1 << limite;
-        QTest::newRow("far below zero") << u"-10^20"_s << 0 << u"Desbordamiento."_s;
-        QTest::newRow("fraction") << u"7/2"_s << 1 << u"No coinciden los tipos.\n7/2"_s;
+        filasDeTexto<QString, int, QString>(uR"(
+            empty |  | 2 |
+            no expression | 2+ | 0 |
+            too large, naive | 922337203685477+1 | 0 | Solo puede dar números grandes con el \
+              algoritmo avanzado.\nCon el algoritmo seleccionado, el máximo es 922337203685477
+            too large, improved | 10^400 | 1 | Solo puede dar números grandes con el \
+              algoritmo avanzado.\nCon el algoritmo seleccionado, el máximo es 922337203685477
+            far below zero | -10^20 | 0 | Desbordamiento.
+            fraction | 7/2 | 1 | No coinciden los tipos.\n7/2)"_s);
     }
     void rechazados()
     {
-        QFETCH(QString, texto);
-        QFETCH(int, algoritmo);
-        QFETCH(QString, aviso);
+        const auto [texto, algoritmo, aviso] = estaFila<QString, int, QString>();
         elige(algoritmo);
         m_numero->setText(texto);
         m_boton->click();
@@ -93,13 +84,12 @@ private Q_SLOTS:
 
     void desbordamientoDelMejorado_data()
     {
-        QTest::addColumn<bool>("escape");
-        QTest::newRow("stopped by the button") << false;
-        QTest::newRow("stopped by Escape") << true;
+        filasDeTexto<bool>(uR"(
+            stopped by the button | no || stopped by Escape | yes)"_s);
     }
     void desbordamientoDelMejorado()
     {
-        QFETCH(bool, escape);
+        const bool escape = estaFila<bool>();
         factoriza(u"6"_s);
         elige(1);
         m_numero->setText(u"10000000019"_s);
@@ -118,7 +108,7 @@ private Q_SLOTS:
             m_boton->click();
         QVERIFY(estaEnReposo());
         factoriza(u"10"_s);
-        QCOMPARE(mostrados(), u"2|1 5|1"_s);
+        QCOMPARE(mostrados(), u"2,1 5,1"_s);
     }
 
     /// An error that comes when the window is gone is dropped with its run.
@@ -163,21 +153,19 @@ private Q_SLOTS:
         QCOMPARE(m_ventana->cursor().shape(), Qt::WaitCursor);
         m_boton->click();
         QVERIFY(estaEnReposo());
-        QTRY_COMPARE(mostrados(), u"2|2 3|1"_s);
+        QTRY_COMPARE(mostrados(), u"2,2 3,1"_s);
         QCOMPARE(producto(), u"2² · 3 · (9999999999971)"_s);
         QVERIFY2(resultado().startsWith(u"Detenida. "_s), qPrintable(resultado()));
     }
 
     void cerrarMientrasCorre_data()
     {
-        QTest::addColumn<int>("vueltas");
-        QTest::newRow("behind the click") << 0;
-        QTest::newRow("in the first yield") << 1;
-        QTest::newRow("in the run") << 10;
+        filasDeTexto<int>(uR"(
+            behind the click | 0 || in the first yield | 1 || in the run | 10)"_s);
     }
     void cerrarMientrasCorre()
     {
-        QFETCH(int, vueltas);
+        const int vueltas = estaFila<int>();
         cierraCon([this, vueltas] {
             correElIngenuo();
             daVueltas(vueltas);
@@ -187,14 +175,12 @@ private Q_SLOTS:
     /// What a student may do during a run.
     void mientrasCorre_data()
     {
-        QTest::addColumn<int>("accion");
-        QTest::newRow("switch topics") << 0;
-        QTest::newRow("sieve") << 1;
-        QTest::newRow("change the precision") << 2;
+        filasDeTexto<int>(uR"(
+            switch topics | 0 || sieve | 1 || change the precision | 2)"_s);
     }
     void mientrasCorre()
     {
-        QFETCH(int, accion);
+        const int accion = estaFila<int>();
         m_ventana->show();
         correElIngenuo();
         daVueltas(10);
@@ -213,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(m_boton->toolTip(), u"Detener factorización"_s);
         QTest::keyClick(m_numero, Qt::Key_Escape);
         QVERIFY(estaEnReposo());
-        QTRY_COMPARE(mostrados(), u"2|2 3|1"_s);
+        QTRY_COMPARE(mostrados(), u"2,2 3,1"_s);
         if (accion == 1)
             QTRY_VERIFY(control<QLabel>(m_ventana, u"lblResumen"_s)->text().contains(u"detenida"));
     }
@@ -228,7 +214,7 @@ private Q_SLOTS:
         m_boton->click();
         factoriza(u"30"_s);
         QTest::qWait(50);
-        QCOMPARE(mostrados(), u"2|1 3|1 5|1"_s);
+        QCOMPARE(mostrados(), u"2,1 3,1 5,1"_s);
     }
 
     /// What a run had found when it was stopped does not come into the next one.
@@ -251,7 +237,7 @@ private Q_SLOTS:
         m_boton->click();
         factoriza(u"30"_s);
         QTest::qWait(20);
-        QCOMPARE(mostrados(), u"2|1 3|1 5|1"_s);
+        QCOMPARE(mostrados(), u"2,1 3,1 5,1"_s);
     }
 
 private:
@@ -308,7 +294,7 @@ private:
         QStringList filas;
         const QAbstractItemModel *tabla = m_rejilla->model();
         for (int f = 0; f < tabla->rowCount(); ++f)
-            filas << tabla->index(f, 0).data().toString() + u'|' +
+            filas << tabla->index(f, 0).data().toString() + u',' +
                          tabla->index(f, 1).data().toString();
         return filas.join(u' ');
     }

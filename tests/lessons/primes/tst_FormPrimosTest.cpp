@@ -2,6 +2,7 @@
 #include "lessons/primes/windows/FormPrimos.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/controls/Dibujo.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QLabel>
@@ -69,24 +70,15 @@ private Q_SLOTS:
 
     void veredictos_data()
     {
-        QTest::addColumn<QString>("numero");
-        QTest::addColumn<bool>("primo");
-        QTest::addColumn<QString>("bits");
-        QTest::newRow("97") << u"97"_s << true << u"7"_s;
-        QTest::newRow("91") << u"91"_s << false << u"7"_s;
-        QTest::newRow("blanks around") << u" 97 "_s << true << u"7"_s;
-        QTest::newRow("no expressions") << u"90+7"_s << false << u"0"_s;
-        QTest::newRow("negative") << u"-7"_s << false << u"3"_s;
-        QTest::newRow("2^521-1")
-            << u"6864797660130609714981900799081393217269435300143305409394463459185543183397656052"
-               "122559640661454554977296311391480858037121987999716643812574028291115057151"_s
-            << true << u"521"_s;
+        filasDeTexto<QString, bool, QString>(uR"(
+            97 | yes | 7 || 91 | no | 7 || " 97 " | yes | 7 || 90+7 | no | 0 || -7 | no | 3
+            68647976601306097149819007990813932172694353001433054093944634591855431833976560521\
+            22559640661454554977296311391480858037121987999716643812574028291115057151 | \
+            yes | 521)"_s);
     }
     void veredictos()
     {
-        QFETCH(QString, numero);
-        QFETCH(bool, primo);
-        QFETCH(QString, bits);
+        const auto [numero, primo, bits] = estaFila<QString, bool, QString>();
         m_numero->setText(numero);
         QCOMPARE(m_esPrimo->text(), u"¿Es primo?"_s);
         m_esPrimo->click();
@@ -127,22 +119,15 @@ private Q_SLOTS:
 
     void numeroDeBits_data()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<bool>("activo");
-        QTest::addColumn<int>("avisos");
-        QTest::newRow("the most") << u"2000"_s << true << 0;
-        QTest::newRow("one more") << u"2001"_s << false << 1;
-        QTest::newRow("expression") << u"2*64"_s << true << 0;
-        QTest::newRow("half an expression") << u"2*"_s << false << 0;
-        QTest::newRow("fraction") << u"5/2"_s << false << 0;
-        QTest::newRow("huge") << u"9^9^9^9"_s << false << 0;
+        filasDeTexto<QString, bool, int>(uR"(
+            the most | 2000 | yes | 0 || one more | 2001 | no | 1 || expression | 2*64 | yes | 0
+            half an expression | 2* | no | 0 || fraction | 5/2 | no | 0 || huge | 9^9^9^9 | no | 0)"_s);
     }
     void numeroDeBits()
     {
-        QFETCH(QString, texto);
-        QFETCH(int, avisos);
+        const auto [texto, activo, avisos] = estaFila<QString, bool, int>();
         m_bits->setText(texto);
-        QTEST(m_busca->isEnabled(), "activo");
+        QCOMPARE(m_busca->isEnabled(), activo);
         QCOMPARE(Entorno::grabadora().mensajes.size(), avisos);
         if (avisos == 1) {
             const auto mensaje = Entorno::grabadora().unico();
@@ -179,20 +164,15 @@ private Q_SLOTS:
     /// While a long call goes on, nothing is painted: what tells of it stands there before.
     void loQueTardaSeDiceAntes_data()
     {
-        QTest::addColumn<QString>("boton");
-        QTest::addColumn<QString>("numero");
-        QTest::addColumn<bool>("linea");
-        QTest::newRow("test") << u"cmdEsPrimo"_s << QString(2500, u'4') << true;
-        QTest::newRow("short test") << u"cmdEsPrimo"_s << QString(2000, u'4') << false;
-        QTest::newRow("next") << u"cmdSigPrimo"_s << QString(4000, u'4') << true;
-        QTest::newRow("short next") << u"cmdSigPrimo"_s << QString(40, u'4') << false;
-        QTest::newRow("random") << u"cmdNumBits"_s << u"2000"_s << true;
-        QTest::newRow("short random") << u"cmdNumBits"_s << u"100"_s << false;
+        filasDeTexto<QString, QString, int, bool>(uR"(
+            cmdEsPrimo | 4 | 2500 | yes || cmdEsPrimo | 4 | 2000 | no
+            cmdSigPrimo | 4 | 4000 | yes || cmdSigPrimo | 4 | 40 | no
+            cmdNumBits | 2000 | 1 | yes || cmdNumBits | 100 | 1 | no)"_s);
     }
     void loQueTardaSeDiceAntes()
     {
-        QFETCH(QString, boton);
-        QFETCH(QString, numero);
+        const auto [boton, cifras, veces, dicho] = estaFila<QString, QString, int, bool>();
+        const QString numero = cifras.repeated(veces);
         control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(2);
         m_ventana->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_ventana.get()));
@@ -200,7 +180,7 @@ private Q_SLOTS:
         auto *linea = control<QLabel>(m_ventana.get(), u"lblEspera"_s);
         Testigo testigo(m_ventana.get(), linea);
         control<QPushButton>(m_ventana.get(), boton)->click();
-        QTEST(testigo.pintada, "linea");
+        QCOMPARE(testigo.pintada, dicho);
         QVERIFY(testigo.conReloj);
         QVERIFY(linea->text().isEmpty());
         QCOMPARE(m_ventana->cursor().shape(), Qt::ArrowCursor);

@@ -2,6 +2,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/recursion/functions/Ack.h"
 #include "lessons/recursion/functions/windows/ModeloAck.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/lessons/recursion/Detenida.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -49,6 +50,18 @@ struct Prueba
     Ack ack;
 };
 
+/// What an action ends in; a test that meets no error fails by its number.
+template <typename Accion>
+ErrorEjecucion errorDe(Accion accion)
+{
+    try {
+        accion();
+    } catch (const ErrorEjecucion &error) {
+        return error;
+    }
+    qFatal("no error");
+}
+
 } // namespace
 
 /// Ackermann's function without a window.
@@ -61,26 +74,15 @@ private Q_SLOTS:
 
     void ackComoLaDefinicion_data()
     {
-        QTest::addColumn<int>("m");
-        QTest::addColumn<int>("n");
-        QTest::addColumn<int>("valor");
-        QTest::newRow("0, 7") << 0 << 7 << 8;
-        QTest::newRow("1, 0") << 1 << 0 << 2;
-        QTest::newRow("1, 50") << 1 << 50 << 52;
-        QTest::newRow("2, 0") << 2 << 0 << 3;
-        QTest::newRow("2, 3") << 2 << 3 << 9;
-        QTest::newRow("2, 100") << 2 << 100 << 203;
-        QTest::newRow("3, 0") << 3 << 0 << 5;
-        QTest::newRow("3, 6") << 3 << 6 << 509;
-        QTest::newRow("3, 9") << 3 << 9 << 4093;
-        QTest::newRow("4, 0") << 4 << 0 << 13;
+        filasDeTexto<int, int, int>(uR"(
+            0 | 7 | 8 || 1 | 0 | 2 || 1 | 50 | 52 || 2 | 0 | 3 || 2 | 3 | 9 || 2 | 100 | 203
+            3 | 0 | 5 || 3 | 6 | 509 || 3 | 9 | 4093 || 4 | 0 | 13)"_s);
     }
     void ackComoLaDefinicion()
     {
-        QFETCH(int, m);
-        QFETCH(int, n);
+        const auto [m, n, valor] = estaFila<int, int, int>();
         Prueba prueba;
-        QTEST(prueba.calcula(m, n), "valor");
+        QCOMPARE(prueba.calcula(m, n), valor);
         AckPorDefinicion definicion;
         definicion.calcula(m, n);
         QCOMPARE(prueba.ack.numLlamadas(), definicion.llamadas);
@@ -115,33 +117,24 @@ private Q_SLOTS:
 
     void elCorte_data()
     {
-        QTest::addColumn<int>("m");
-        QTest::addColumn<int>("n");
-        QTest::addColumn<int>("corte");
-        QTest::addColumn<int>("valor");
-        QTest::addColumn<int>("filas");
-        QTest::addColumn<int>("columnas");
-        QTest::newRow("argument at the cut-off") << 0 << 5000 << 5000 << 5001 << 5001 << 1;
-        QTest::newRow("argument beyond: the grid grows first")
-            << 0 << 6000 << 5000 << 0 << 6001 << 1;
-        QTest::newRow("m at the cut-off") << 2 << 0 << 2 << 3 << 3 << 3;
-        QTest::newRow("m beyond") << 9 << 2 << 8 << 0 << 3 << 10;
-        QTest::newRow("just enough inside") << 3 << 5 << 252 << 253 << 253 << 4;
-        QTest::newRow("one too few inside") << 3 << 5 << 251 << 0 << 253 << 4;
-        QTest::newRow("4, 1 with the default") << 4 << 1 << 5000 << 0 << 5002 << 5;
-        QTest::newRow("negative") << 0 << 0 << -1 << 0 << 1 << 1;
+        filasDeTexto<int, int, int, int, int, int>(uR"(
+            argument at the cut-off               | 0 | 5000 | 5000 | 5001 | 5001 | 1
+            argument beyond: the grid grows first | 0 | 6000 | 5000 | 0    | 6001 | 1
+            m at the cut-off                      | 2 | 0    | 2    | 3    | 3    | 3
+            m beyond                              | 9 | 2    | 8    | 0    | 3    | 10
+            just enough inside                    | 3 | 5    | 252  | 253  | 253  | 4
+            one too few inside                    | 3 | 5    | 251  | 0    | 253  | 4
+            4, 1 with the default                 | 4 | 1    | 5000 | 0    | 5002 | 5
+            negative                              | 0 | 0    | -1   | 0    | 1    | 1)"_s);
     }
     void elCorte()
     {
-        QFETCH(int, m);
-        QFETCH(int, n);
-        QFETCH(int, corte);
-        QFETCH(int, valor);
+        const auto [m, n, corte, valor, filas, columnas] = estaFila<int, int, int, int, int, int>();
         Prueba prueba(corte);
         QCOMPARE(prueba.calcula(m, n), valor);
         QCOMPARE(prueba.ack.rendido(), valor == 0);
-        QTEST(prueba.memoria->filas(), "filas");
-        QTEST(prueba.memoria->columnas(), "columnas");
+        QCOMPARE(prueba.memoria->filas(), filas);
+        QCOMPARE(prueba.memoria->columnas(), columnas);
     }
 
     /// The calls that waited leave a 0; the one that was refused leaves its cell empty, and what
@@ -167,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(Ack(prueba.memoria, 100, {}).calcula(2, 3).completa(), 9);
     }
 
-    void unMillonDeFilas()
+    void unMillonDeFilasYArgumentosNegativos()
     {
         Prueba prueba(INT_MAX);
         QCOMPARE(prueba.calcula(1, 999'998), 1'000'000);
@@ -176,20 +169,11 @@ private Q_SLOTS:
              {std::pair(1, 999'999), std::pair(4, 2), std::pair(0, INT_MAX), std::pair(INT_MAX, 0),
               std::pair(6, 6), std::pair(MemoriaAck::MaximoDeLineas, 0)}) {
             Prueba otra(INT_MAX);
-            try {
-                otra.calcula(m, n);
-                QFAIL("no error");
-            } catch (const ErrorEjecucion &error) {
-                QCOMPARE(error.numero(), ErrorEjecucion::Desbordamiento);
-                QVERIFY(error.detalle().contains(u"1.000.000"_s));
-                QVERIFY(otra.memoria->columnas() <= MemoriaAck::MaximoDeLineas);
-            }
+            const ErrorEjecucion error = errorDe([&, m = m, n = n] { otra.calcula(m, n); });
+            QCOMPARE(error.numero(), ErrorEjecucion::Desbordamiento);
+            QVERIFY(error.detalle().contains(u"1.000.000"_s));
+            QVERIFY(otra.memoria->columnas() <= MemoriaAck::MaximoDeLineas);
         }
-    }
-
-    void argumentosNegativos()
-    {
-        Prueba prueba;
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, prueba.calcula(-1, 3));
         QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, prueba.calcula(3, -1));
     }
@@ -216,19 +200,10 @@ private Q_SLOTS:
             {u"5000"_s, 5000}, {u" 7 "_s, 7}, {u"2,5"_s, 2}, {u"3.5"_s, 4}, {u"1,5e3"_s, 1500}};
         for (const auto &[texto, valor] : numeros)
             QCOMPARE(enteroDeTexto(texto, u"x"_s), valor);
-        const QList<std::pair<QString, int>> errores{
-            {u"abc"_s, ErrorEjecucion::TipoNoCoincide},
-            {u"2*3"_s, ErrorEjecucion::TipoNoCoincide},
-            {{}, ErrorEjecucion::TipoNoCoincide},
-            {u"3000000000"_s, ErrorEjecucion::Desbordamiento},
-            {u"1e300"_s, ErrorEjecucion::Desbordamiento}};
-        for (const auto &[texto, numero] : errores) {
-            try {
-                enteroDeTexto(texto, u"x"_s);
-                QFAIL(qPrintable(texto));
-            } catch (const ErrorEjecucion &error) {
-                QCOMPARE(int(error.numero()), numero);
-            }
+        for (const QString &texto : {u"abc"_s, u"2*3"_s, QString(), u"3000000000"_s, u"1e300"_s}) {
+            const bool grande = texto.size() > 3;
+            QCOMPARE(errorDe([&] { enteroDeTexto(texto, u"x"_s); }).numero(),
+                     grande ? ErrorEjecucion::Desbordamiento : ErrorEjecucion::TipoNoCoincide);
         }
     }
 

@@ -2,6 +2,7 @@
 #include "lessons/recursion/modular/windows/FormRecursion2.h"
 #include "shell/controls/Dibujo.h"
 #include "shell/plot/Grafica.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QClipboard>
@@ -58,17 +59,15 @@ private Q_SLOTS:
 
     void elConsejoDelModulo_data()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<QString>("consejo");
-        QTest::newRow("number") << u"91"_s << u"91"_s;
-        QTest::newRow("expression") << u"7*13"_s << u"7*13=91"_s;
-        QTest::newRow("mod as typed") << u"100 mod 7"_s << u"100 mod 7=2"_s;
+        filasDeTexto<QString, QString>(uR"(
+            number | 91 | 91 || expression | 7*13 | 7*13=91
+            mod as typed | 100 mod 7 | 100 mod 7=2)"_s);
     }
     void elConsejoDelModulo()
     {
-        QFETCH(QString, texto);
+        const auto [texto, consejo] = estaFila<QString, QString>();
         calcula(texto);
-        QTEST(m_modulo->toolTip(), "consejo");
+        QCOMPARE(m_modulo->toolTip(), consejo);
     }
 
     void periodoGrande()

@@ -4,6 +4,7 @@
 #include "shell/controls/Dibujo.h"
 #include "shell/grid/Rejilla.h"
 #include "shell/plot/Grafica.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QBrush>
@@ -116,45 +117,38 @@ private Q_SLOTS:
 
     void erroresDeAck_data()
     {
-        QTest::addColumn<QString>("x");
-        QTest::addColumn<QString>("y");
-        QTest::addColumn<QString>("texto");
-        QTest::newRow("letters") << u"a"_s << u"1"_s << u"No coinciden los tipos."_s;
-        QTest::newRow("empty") << u"1"_s << QString() << u"No coinciden los tipos."_s;
-        QTest::newRow("negative") << u"1"_s << u"-1"_s << u"Argumento no válido."_s;
-        QTest::newRow("beyond 32 bits") << u"1"_s << u"3000000000"_s << u"Desbordamiento."_s;
-        QTest::newRow("beyond the grid") << u"1"_s << u"2000000000"_s << u"Desbordamiento."_s;
+        filasDeTexto<QString, QString, QString>(uR"(
+            letters         | a | 1          | No coinciden los tipos.
+            empty           | 1 |            | No coinciden los tipos.
+            negative        | 1 | -1         | Argumento no válido.
+            beyond 32 bits  | 1 | 3000000000 | Desbordamiento.
+            beyond the grid | 1 | 2000000000 | Desbordamiento.)"_s);
     }
     void erroresDeAck()
     {
-        QFETCH(QString, x);
-        QFETCH(QString, y);
+        const auto [x, y, texto] = estaFila<QString, QString, QString>();
         calculaAck(u"2"_s, u"3"_s);
         calculaAck(x, y);
-        QTEST(Entorno::grabadora().unico().texto.section(u'\n', 0, 0), "texto");
+        QCOMPARE(Entorno::grabadora().unico().texto.section(u'\n', 0, 0), texto);
         calculaAck(u"1"_s, u"1"_s);
         QCOMPARE(control<QLabel>(m_ventana, u"lblResultado"_s)->text(), u"Ack(1, 1) = 3"_s);
     }
 
     void granizo_data()
     {
-        QTest::addColumn<QString>("inicio");
-        QTest::addColumn<int>("filas");
-        QTest::addColumn<QString>("resumen");
-        QTest::newRow("6") << u"6"_s << 9 << u"Con 6 se llega a 1 en 8 iteraciones."_s;
-        QTest::newRow("1") << u"1"_s << 4 << u"Con 1 se llega a 1 en 3 iteraciones."_s;
-        QTest::newRow("letters")
-            << u"abc"_s << 2
-            << u"El valor inicial tiene que ser un número entero escrito con sus cifras, "
-               "24575 como mucho."_s;
+        filasDeTexto<QString, int, QString>(uR"(
+            6 | 6 | 9 | Con 6 se llega a 1 en 8 iteraciones.
+            1 | 1 | 4 | Con 1 se llega a 1 en 3 iteraciones.
+            letters | abc | 2 | El valor inicial tiene que ser un número entero escrito con \
+              sus cifras, 24575 como mucho.)"_s);
     }
     void granizo()
     {
-        QFETCH(QString, inicio);
+        const auto [inicio, filas, resumen] = estaFila<QString, int, QString>();
         largo(u"TxtInicial"_s)->setText(inicio);
         corre(u"cmdHail"_s);
-        QTEST(rejilla(u"FlexHail"_s)->model()->rowCount(), "filas");
-        QTEST(largo(u"LabelHail"_s)->text(), "resumen");
+        QCOMPARE(rejilla(u"FlexHail"_s)->model()->rowCount(), filas);
+        QCOMPARE(largo(u"LabelHail"_s)->text(), resumen);
     }
 
     /// A point of the curve leads to the row of its step.
@@ -204,29 +198,22 @@ private Q_SLOTS:
     /// stop flag. The button is at rest at once; nothing is said.
     void parar_data()
     {
-        QTest::addColumn<QString>("nombre");
-        QTest::addColumn<int>("pestana");
+        QTest::addColumn<int>("corrida");
         QTest::addColumn<int>("milisegundos");
         QTest::addColumn<int>("como");
-        const std::tuple<const char *, QString, int> corridas[] = {{"Ackermann", u"cmdAck"_s, 0},
-                                                                   {"Hailstone", u"cmdHail"_s, 1},
-                                                                   {"Capicúas", u"cmdCap"_s, 2}};
-        const char *modos[] = {"click", "Escape", "close"};
-        for (const auto &[rotulo, nombre, pestana] : corridas) {
-            for (const int como : {0, 1, 2}) {
-                for (const int milisegundos : {0, 15})
-                    QTest::addRow("%s, %s, %d ms", rotulo, modos[como], milisegundos)
-                        << nombre << pestana << milisegundos << como;
-            }
+        for (int i = 0; i < 18; ++i) {
+            const int corrida = i % 3, milisegundos = i / 3 % 2 * 15, como = i / 6;
+            QTest::addRow("%d, %d ms, %d", corrida, milisegundos, como)
+                << corrida << milisegundos << como;
         }
     }
     void parar()
     {
-        QFETCH(QString, nombre);
-        QFETCH(int, pestana);
+        QFETCH(int, corrida);
         QFETCH(int, milisegundos);
         QFETCH(int, como);
-        control<QTabWidget>(m_ventana, u"SSTab1"_s)->setCurrentIndex(pestana);
+        const QString nombre = u"cmdAck cmdHail cmdCap"_s.section(u' ', corrida, corrida);
+        control<QTabWidget>(m_ventana, u"SSTab1"_s)->setCurrentIndex(corrida);
         prepara(nombre, u"2"_s);
         const QPointer<FormRecursión3> testigo = m_ventana;
         boton(nombre)->click();
@@ -235,7 +222,7 @@ private Q_SLOTS:
             QTRY_VERIFY(timerAck()->isActive());
         QTest::qWait(milisegundos);
         QCOMPARE(boton(nombre)->toolTip(), u"Detener cálculo"_s);
-        if (como == 2) {
+        if (como == 2) { // closed
             m_ventana->close();
             QTRY_VERIFY(!testigo);
             m_ventana = nullptr;

@@ -3,6 +3,7 @@
 #include "lessons/recursion/modular/ModeloValores.h"
 #include "lessons/recursion/modular/SucesionModular.h"
 #include "lessons/recursion/modular/TextoDeDefinicion.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>
@@ -62,35 +63,25 @@ private Q_SLOTS:
 
     void periodos_data()
     {
-        QTest::addColumn<qint64>("alfa");
-        QTest::addColumn<qint64>("beta");
-        QTest::addColumn<qint64>("f1");
-        QTest::addColumn<qint64>("f2");
-        QTest::addColumn<int>("m");
-        QTest::addColumn<int>("inicio");
-        QTest::addColumn<int>("longitud");
-        QTest::newRow("one value") << 1LL << 1LL << 1LL << 1LL << 1 << 1 << 1;
-        QTest::newRow("one value before") << 1LL << 2LL << 1LL << 1LL << 12 << 2 << 6;
-        QTest::newRow("powers of 2 modulo 12") << 2LL << 0LL << 1LL << 2LL << 12 << 3 << 2;
-        QTest::newRow("dies out") << 2LL << 0LL << 1LL << 2LL << 1024 << 11 << 1;
-        QTest::newRow("largest found") << 2LL << -1LL << 0LL << 1LL << 248 << 1 << 248;
-        QTest::newRow("one too large") << 2LL << -1LL << 0LL << 1LL << 249 << 0 << 0;
-        QTest::newRow("huge coefficient")
-            << 922'337'203'685'477LL << 0LL << 1LL << 7LL << 10 << 1 << 4;
-        QTest::newRow("all pairs but one") << 2LL << 2LL << 1LL << 1LL << 7 << 1 << 48;
+        filasDeTexto<qint64, qint64, qint64, qint64, int, int, int>(uR"(
+            one value             | 1               | 1  | 1 | 1 | 1    | 1  | 1
+            one value before      | 1               | 2  | 1 | 1 | 12   | 2  | 6
+            powers of 2 modulo 12 | 2               | 0  | 1 | 2 | 12   | 3  | 2
+            dies out              | 2               | 0  | 1 | 2 | 1024 | 11 | 1
+            largest found         | 2               | -1 | 0 | 1 | 248  | 1  | 248
+            one too large         | 2               | -1 | 0 | 1 | 249  | 0  | 0
+            huge coefficient      | 922337203685477 | 0  | 1 | 7 | 10   | 1  | 4
+            all pairs but one     | 2               | 2  | 1 | 1 | 7    | 1  | 48)"_s);
     }
     void periodos()
     {
-        QFETCH(qint64, alfa);
-        QFETCH(qint64, beta);
-        QFETCH(qint64, f1);
-        QFETCH(qint64, f2);
-        QFETCH(int, m);
+        const auto [alfa, beta, f1, f2, m, inicio, longitud] =
+            estaFila<qint64, qint64, qint64, qint64, int, int, int>();
         const auto periodo = SucesionModular(definicion(alfa, beta, f1, f2), m)
                                  .periodo()
                                  .value_or(PeriodoModular{0, 0});
-        QTEST(periodo.inicio, "inicio");
-        QTEST(periodo.longitud, "longitud");
+        QCOMPARE(periodo.inicio, inicio);
+        QCOMPARE(periodo.longitud, longitud);
     }
 
     /// What a period is, looked at directly, for many sequences with and without a start.

@@ -3,6 +3,7 @@
 #include "lessons/recursion/functions/Capicua.h"
 #include "lessons/recursion/functions/Granizo.h"
 #include "lessons/recursion/functions/ModeloGranizo.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/lessons/recursion/Detenida.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -22,62 +23,35 @@ private Q_SLOTS:
     /// Sequence A006577 of the On-Line Encyclopedia of Integer Sequences, but for the start 1.
     void granizo_data()
     {
-        QTest::addColumn<QString>("inicio");
-        QTest::addColumn<int>("pasos");
-        QTest::newRow("1") << u"1"_s << 3;
-        QTest::newRow("2") << u"2"_s << 1;
-        QTest::newRow("6") << u"6"_s << 8;
-        QTest::newRow("27") << u"27"_s << 111;
-        QTest::newRow("97") << u"97"_s << 118;
-        QTest::newRow("871") << u"871"_s << 178;
-        QTest::newRow("6171") << u"6171"_s << 261;
-        QTest::newRow("77031") << u"77031"_s << 350;
-        QTest::newRow("837799") << u"837799"_s << 524;
-        QTest::newRow("63728127") << u"63728127"_s << 949;
-        QTest::newRow("2^100") << u"1267650600228229401496703205376"_s << 100;
+        filasDeTexto<QString, int>(uR"(
+            1 | 3 || 2 | 1 || 6 | 8 || 27 | 111 || 97 | 118 || 871 | 178 || 6171 | 261
+            77031 | 350 || 837799 | 524 || 63728127 | 949
+            1267650600228229401496703205376 | 100)"_s);
     }
     void granizo()
     {
-        QFETCH(QString, inicio);
+        const auto [inicio, pasos] = estaFila<QString, int>();
         const auto historia = std::make_shared<HistoriaGranizo>();
         QCOMPARE(correGranizo(inicio, historia, {}).completa(), FinDeGranizo::EnUno);
         QCOMPARE(historia->valor(0), inicio);
-        QTEST(static_cast<int>(historia->ultimo()), "pasos");
+        QCOMPARE(static_cast<int>(historia->ultimo()), pasos);
         QCOMPARE(historia->valor(historia->ultimo()), u"1"_s);
+        for (qint64 k = 1; k < 9 && pasos == 8; ++k)
+            QCOMPARE(historia->valor(k), u"3 10 5 16 8 4 2 1"_s.section(u' ', k - 1, k - 1));
     }
 
-    void granizoDe6()
-    {
-        const auto historia = std::make_shared<HistoriaGranizo>();
-        correGranizo(u"6"_s, historia, {}).completa();
-        QStringList valores;
-        for (qint64 k = 0; k <= historia->ultimo(); ++k)
-            valores << historia->valor(k);
-        QCOMPARE(valores.join(u' '), u"6 3 10 5 16 8 4 2 1"_s);
-    }
-
-    void granizoSinNumero_data()
-    {
-        QTest::addColumn<QString>("inicio");
-        QTest::addColumn<FinDeGranizo>("fin");
-        constexpr auto sinEntero = FinDeGranizo::SinEntero;
-        QTest::newRow("empty") << QString() << sinEntero;
-        QTest::newRow("letters") << u"abc"_s << sinEntero;
-        QTest::newRow("fraction") << u"1/2"_s << sinEntero;
-        QTest::newRow("expression") << u"10+2"_s << sinEntero;
-        QTest::newRow("mod first") << u"mod 2"_s << sinEntero;
-        QTest::newRow("one digit too many") << QString(24'576, u'9') << sinEntero;
-        QTest::newRow("as long as may be")
-            << QString(24'575, u'9') << FinDeGranizo::DemasiadasCifras;
-    }
     void granizoSinNumero()
     {
-        QFETCH(QString, inicio);
-        const auto historia = std::make_shared<HistoriaGranizo>();
-        QTEST(correGranizo(inicio, historia, {}).completa(), "fin");
-        QCOMPARE(historia->ultimo(), 1);
-        QCOMPARE(historia->valor(0), inicio);
-        QCOMPARE(historia->valor(1), u"Error"_s);
+        const QString justo(24'575, u'9');
+        for (const QString &inicio :
+             {QString(), u"abc"_s, u"1/2"_s, u"10+2"_s, u"mod 2"_s, justo + u'9', justo}) {
+            const auto historia = std::make_shared<HistoriaGranizo>();
+            QCOMPARE(correGranizo(inicio, historia, {}).completa(),
+                     inicio == justo ? FinDeGranizo::DemasiadasCifras : FinDeGranizo::SinEntero);
+            QCOMPARE(historia->ultimo(), 1);
+            QCOMPARE(historia->valor(0), inicio);
+            QCOMPARE(historia->valor(1), u"Error"_s);
+        }
     }
 
     void curvaCorta()
@@ -196,48 +170,36 @@ private Q_SLOTS:
 
     void capicuas_data()
     {
-        QTest::addColumn<QString>("inicio");
-        QTest::addColumn<int>("sumas");
-        QTest::addColumn<QString>("capicua");
-        QTest::newRow("at once") << u"11"_s << 0 << u"11"_s;
-        QTest::newRow("one digit") << u"0"_s << 0 << u"0"_s;
-        QTest::newRow("87") << u"87"_s << 4 << u"4884"_s;
-        QTest::newRow("89") << u"89"_s << 24 << u"8813200023188"_s;
-        QTest::newRow("expression") << u"10*8+9"_s << 24 << u"8813200023188"_s;
-        QTest::newRow("leading zeros") << u"0089"_s << 24 << u"8813200023188"_s;
-        QTest::newRow("10911") << u"10911"_s << 55 << u"4668731596684224866951378664"_s;
-        QTest::newRow("1186060307891929990") << u"1186060307891929990"_s << 261
-                                             << u"4456266587897643762243784897665387038888478366259"
-                                                u"8425855963436955852489526638748888"
-                                                "307835667984873422673467987856626544"_s;
+        filasDeTexto<QString, int, QString>(uR"(
+            11 | 0 | 11 || 0 | 0 | 0 || 87 | 4 | 4884 || 89 | 24 | 8813200023188
+            10*8+9 | 24 | 8813200023188 || 0089 | 24 | 8813200023188
+            10911 | 55 | 4668731596684224866951378664
+            1186060307891929990 | 261 | 4456266587897643762243784897665387038888478366259842585\
+            5963436955852489526638748888307835667984873422673467987856626544)"_s);
     }
     void capicuas()
     {
-        QFETCH(QString, inicio);
+        const auto [inicio, sumas, final] = estaFila<QString, int, QString>();
         Capicua capicua;
         QCOMPARE(capicua.busca(inicio, {}).completa(), Capicua::Fin::Hallado);
-        QTEST(static_cast<int>(capicua.numSumas()), "sumas");
-        QTEST(capicua.actual(), "capicua");
+        QCOMPARE(static_cast<int>(capicua.numSumas()), sumas);
+        QCOMPARE(capicua.actual(), final);
     }
 
-    void sinCapicua_data()
-    {
-        QTest::addColumn<QString>("inicio");
-        QTest::addColumn<Capicua::Fin>("fin");
-        QTest::newRow("empty") << u" "_s << Capicua::Fin::SinValor;
-        QTest::newRow("letters") << u"abc"_s << Capicua::Fin::SinValor;
-        QTest::newRow("no room for the start") << u"99999999!"_s << Capicua::Fin::SinValor;
-        QTest::newRow("negative") << u"7-19"_s << Capicua::Fin::Negativo;
-        QTest::newRow("no room for the sum")
-            << u'9' + QString(24'574, u'8') << Capicua::Fin::DemasiadasCifras;
-    }
     void sinCapicua()
     {
-        QFETCH(QString, inicio);
-        QFETCH(Capicua::Fin, fin);
-        Capicua capicua;
-        QCOMPARE(capicua.busca(inicio, {}).completa(), fin);
-        QCOMPARE(capicua.numSumas(), fin == Capicua::Fin::DemasiadasCifras ? 1 : 0);
+        using Fin = Capicua::Fin;
+        const std::tuple<QString, Fin, int> casos[] = {
+            {u" "_s, Fin::SinValor, 0},
+            {u"abc"_s, Fin::SinValor, 0},
+            {u"99999999!"_s, Fin::SinValor, 0}, // no room for the start
+            {u"7-19"_s, Fin::Negativo, 0},
+            {u'9' + QString(24'574, u'8'), Fin::DemasiadasCifras, 1}};
+        for (const auto &[inicio, fin, sumas] : casos) {
+            Capicua capicua;
+            QCOMPARE(capicua.busca(inicio, {}).completa(), fin);
+            QCOMPARE(capicua.numSumas(), sumas);
+        }
     }
 
     /// It goes on until it is stopped; of its sums the first two hundred are kept.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/units/CuestionesUnidades.h"
 #include "lessons/units/GrupoUnidades.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QRegularExpression>
@@ -8,8 +9,6 @@
 #include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
-
-Q_DECLARE_METATYPE(Cuestion)
 
 /// The questions: their judgement and what is said of a wrong answer.
 class TestCuestionesUnidades : public QObject
@@ -21,77 +20,56 @@ private Q_SLOTS:
 
     void juicios_data()
     {
-        QTest::addColumn<Cuestion>("cuestion");
-        QTest::addColumn<QString>("respuesta");
-        QTest::addColumn<QString>("palabra"); // without a reason, only that it is right
-        const QString bien = u"¡Correcto!"_s;
-        const auto inverso = [](const char *nombre, const QString &respuesta) -> QTestData & {
-            return QTest::newRow(nombre) << cuestionInverso(26, 7) << respuesta;
-        };
-        inverso("inverse", u"15"_s) << bien;
-        inverso("inverse, expression", u"(1+26*4)/7"_s) << bien;
-        inverso("inverse, negative", u"-11"_s) << bien + u" Entre 0 y 25 se escribe 15."_s;
-        inverso("inverse, far beyond n", u"15+26*10^40"_s)
-            << bien + u" Entre 0 y 25 se escribe 15."_s;
-        inverso("inverse, wrong", u"11"_s)
-            << u"7 · 11 = 77, que es 25 módulo 26, y tendría que ser 1."_s;
-        inverso("inverse, long and wrong", u"10^500"_s)
-            << u"7 · 22 = 154, que es 24 módulo 26, y tendría que ser 1."_s;
-        inverso("no whole number", u"1/7"_s) << u"La respuesta es un número entero."_s;
-        inverso("words", u"quince"_s) << u"La respuesta es un número entero."_s;
-        const auto orden = [](const char *nombre, const QString &respuesta) -> QTestData & {
-            return QTest::newRow(nombre) << cuestionOrden(13, 3) << respuesta;
-        };
-        orden("order", u"3"_s) << bien;
-        orden("order, a multiple", u"12"_s)
-            << u"3^12 sí da 1, pero hay un exponente menor que también lo da."_s;
-        orden("order, wrong", u"2"_s) << u"3^2 da 9 módulo 13, y tendría que dar 1."_s;
-        orden("order, zero", u"0"_s) << u"El orden es un exponente positivo."_s;
-        orden("order, negative and long", u"-10^90"_s) << u"El orden es un exponente positivo."_s;
-        orden("order, beyond phi", u"3*10^90"_s) << u"Ningún orden pasa de φ(13) = 12."_s;
-        const auto raiz = [](const char *nombre, const QString &respuesta) -> QTestData & {
-            return QTest::newRow(nombre) << cuestionRaizPrimitiva(14) << respuesta;
-        };
-        raiz("root", u"5"_s) << bien + u" Hay 2 en total."_s;
-        raiz("root, negative", u"-9"_s) << bien + u" Hay 2 en total."_s;
-        raiz("root, short order", u"9"_s)
-            << u"El orden de 9 es 3: sus potencias son solo 3 de las 6 unidades."_s;
-        raiz("root, no unit", u"21"_s) << u"21 no es una unidad: mcd(21, 14) = 7."_s;
-        raiz("root, zero", u"0"_s) << u"0 no es una unidad: mcd(0, 14) = 14."_s;
-        raiz("root, long and no unit", u"7*10^60+7"_s) << u"7 no es una unidad: mcd(7, 14) = 7."_s;
-        const auto fi = [](const char *nombre, const QString &respuesta) -> QTestData & {
-            return QTest::newRow(nombre) << cuestionFi(360) << respuesta;
-        };
-        fi("phi", u"4*6*4"_s) << bien;
-        fi("phi as of a prime", u"359"_s)
-            << u"φ(n) = n − 1 solo si n es primo, y 360 = 2^3 · 3^2 · 5."_s;
-        fi("phi without exponents", u"8"_s)
-            << u"Ha tomado cada primo una sola vez, pero 360 = 2^3 · 3^2 · 5 y φ(p^k) = "
-               u"p^(k−1)·(p − 1)."_s;
-        fi("phi, too small", u"95"_s)
-            << u"Es mayor que 95. Tenga en cuenta que 360 = 2^3 · 3^2 · 5."_s;
-        fi("phi, too large", u"97"_s)
-            << u"Es menor que 97. Tenga en cuenta que 360 = 2^3 · 3^2 · 5."_s;
-        for (const QString &imposible : {u"0"_s, u"-10^30"_s, u"360"_s, u"10^30"_s}) {
-            fi(qPrintable(u"phi, "_s + imposible), imposible)
-                << u"φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359."_s;
-        }
-        const auto potencia = [](const char *nombre, const QString &respuesta) -> QTestData & {
-            return QTest::newRow(nombre) << cuestionPotencia(10, 3, 1002) << respuesta;
-        };
-        potencia("power", u"9"_s) << bien;
-        potencia("power, congruent", u"-1"_s)
-            << u"Es congruente con la solución, pero un resto está entre 0 y 9."_s;
-        potencia("power, wrong", u"7"_s)
-            << u"Como φ(10) = 4 y 3 es una unidad, 3^4 da 1: basta calcular 3^2, porque 2 es el "
-               u"resto de 1002 entre 4."_s;
+        // By its first letter: Inverse of 7 (26), Order of 3 (13), Root (14), Phi (360), poWer.
+        filasDeTexto<QString, QString>(uR"(
+            inverse | I15 | ¡Correcto! || inverse, expression | I(1+26*4)/7 | ¡Correcto!
+            inverse, negative | I-11 | ¡Correcto! Entre 0 y 25 se escribe 15.
+            inverse, far beyond n | I15+26*10^40 | ¡Correcto! Entre 0 y 25 se escribe 15.
+            inverse, wrong | I11 | 7 · 11 = 77, que es 25 módulo 26, y tendría que ser 1.
+            inverse, long and wrong | I10^500 | \
+              7 · 22 = 154, que es 24 módulo 26, y tendría que ser 1.
+            no whole number | I1/7 | La respuesta es un número entero.
+            words | Iquince | La respuesta es un número entero.
+            order | O3 | ¡Correcto!
+            order, a multiple | O12 | \
+              3^12 sí da 1, pero hay un exponente menor que también lo da.
+            order, wrong | O2 | 3^2 da 9 módulo 13, y tendría que dar 1.
+            order, zero | O0 | El orden es un exponente positivo.
+            order, negative and long | O-10^90 | El orden es un exponente positivo.
+            order, beyond phi | O3*10^90 | Ningún orden pasa de φ(13) = 12.
+            root | R5 | ¡Correcto! Hay 2 en total.
+            root, negative | R-9 | ¡Correcto! Hay 2 en total.
+            root, short order | R9 | \
+              El orden de 9 es 3: sus potencias son solo 3 de las 6 unidades.
+            root, no unit | R21 | 21 no es una unidad: mcd(21, 14) = 7.
+            root, zero | R0 | 0 no es una unidad: mcd(0, 14) = 14.
+            root, long and no unit | R7*10^60+7 | 7 no es una unidad: mcd(7, 14) = 7.
+            phi | P4*6*4 | ¡Correcto!
+            phi as of a prime | P359 | \
+              φ(n) = n − 1 solo si n es primo, y 360 = 2^3 · 3^2 · 5.
+            phi without exponents | P8 | Ha tomado cada primo una sola vez, pero \
+              360 = 2^3 · 3^2 · 5 y φ(p^k) = p^(k−1)·(p − 1).
+            phi, too small | P95 | Es mayor que 95. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
+            phi, too large | P97 | Es menor que 97. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
+            P0 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
+            P-10^30 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
+            P360 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
+            P10^30 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
+            power | W9 | ¡Correcto!
+            power, congruent | W-1 | \
+              Es congruente con la solución, pero un resto está entre 0 y 9.
+            power, wrong | W7 | Como φ(10) = 4 y 3 es una unidad, 3^4 da 1: basta calcular \
+              3^2, porque 2 es el resto de 1002 entre 4.)"_s);
     }
     void juicios()
     {
-        QFETCH(Cuestion, cuestion);
-        QFETCH(QString, respuesta);
-        QFETCH(QString, palabra);
-        const Juicio juicio = cuestion.juzga(respuesta);
+        const auto [respuesta, palabra] = estaFila<QString, QString>();
+        const QMap<QChar, Cuestion> cuestiones{{u'I', cuestionInverso(26, 7)},
+                                               {u'O', cuestionOrden(13, 3)},
+                                               {u'R', cuestionRaizPrimitiva(14)},
+                                               {u'P', cuestionFi(360)},
+                                               {u'W', cuestionPotencia(10, 3, 1002)}};
+        const Juicio juicio = cuestiones[respuesta.front()].juzga(respuesta.sliced(1));
         QCOMPARE(juicio.palabra, palabra);
         QCOMPARE(juicio.acertada, palabra.startsWith(u"¡Correcto!"_s));
     }

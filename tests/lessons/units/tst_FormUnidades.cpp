@@ -4,6 +4,7 @@
 #include "shell/controls/CampoLargo.h"
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/grid/Rejilla.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>
@@ -54,41 +55,28 @@ private Q_SLOTS:
 
     void modulos_data()
     {
-        QTest::addColumn<QString>("modulo");
-        QTest::addColumn<int>("unidades");
-        QTest::addColumn<QString>("resumen");
-        QTest::addColumn<QString>("aviso");
-        const QString no = u"✗ El módulo es un número entero de 1 a 10000."_s;
-        const QString grande = u"El mayor número permitido es 10000"_s;
-        QTest::newRow("one") << u"1"_s << 1
-                             << u"Z₁ tiene una unidad. El grupo es cíclico, con una raíz "
-                                u"primitiva.\nφ(1) = 1, según la biblioteca."_s
-                             << QString();
-        QTest::newRow("prime")
-            << u"2^13 - 1"_s << 8190
-            << u"Z₈₁₉₁ tiene 8.190 unidades. El grupo es cíclico, con 1.728 "
-               u"raíces primitivas.\nφ(8191) = 8190, según la biblioteca. Por factores: "
-               u"8191 es primo; φ(8191) = 8191 − 1 = 8190"_s
-            << QString();
-        QTest::newRow("largest")
-            << u"10^4"_s << 4000
-            << u"Z₁₀₀₀₀ tiene 4.000 unidades. No hay raíces primitivas: el "
-               u"grupo no es cíclico, y el mayor orden es 500.\n"
-               u"φ(10000) = 4000, según la biblioteca. Por factores: 10000 = 2^4 · 5^4; "
-               u"φ(10000) = 2^3·(2 − 1) · 5^3·(5 − 1) = 4000"_s
-            << QString();
-        QTest::newRow("one more") << u"10001"_s << 0 << no << grande;
-        QTest::newRow("zero") << u"0"_s << 0 << no << QString();
+        filasDeTexto<QString, int, QString, QString>(uR"(
+            one | 1 | 1 | Z₁ tiene una unidad. El grupo es cíclico, con una raíz \
+              primitiva.\nφ(1) = 1, según la biblioteca. |
+            prime | 2^13 - 1 | 8190 | Z₈₁₉₁ tiene 8.190 unidades. El grupo es cíclico, con \
+              1.728 raíces primitivas.\nφ(8191) = 8190, según la biblioteca. Por factores: \
+              8191 es primo; φ(8191) = 8191 − 1 = 8190 |
+            largest | 10^4 | 4000 | Z₁₀₀₀₀ tiene 4.000 unidades. No hay raíces primitivas: el \
+              grupo no es cíclico, y el mayor orden es 500.\nφ(10000) = 4000, según la \
+              biblioteca. Por factores: 10000 = 2^4 · 5^4; φ(10000) = 2^3·(2 − 1) · 5^3·(5 − \
+              1) = 4000 |
+            one more | 10001 | 0 | ✗ El módulo es un número entero de 1 a 10000. | El mayor \
+              número permitido es 10000
+            zero | 0 | 0 | ✗ El módulo es un número entero de 1 a 10000. |)"_s);
     }
     void modulos()
     {
-        QFETCH(QString, modulo);
-        QFETCH(QString, aviso);
+        const auto [modulo, unidades, resumen, aviso] = estaFila<QString, int, QString, QString>();
         muestra(u"14"_s);
         rejilla(u"FlexUnidades"_s)->setCurrentIndex(celda(u"FlexUnidades"_s, 1, 0));
         muestra(modulo);
-        QTEST(rejilla(u"FlexUnidades"_s)->model()->rowCount(), "unidades");
-        QTEST(texto(u"lblResumen"_s), "resumen");
+        QCOMPARE(rejilla(u"FlexUnidades"_s)->model()->rowCount(), unidades);
+        QCOMPARE(texto(u"lblResumen"_s), resumen);
         QCOMPARE(filas(u"FlexPotencias"_s), QString());
         if (aviso.isEmpty())
             QVERIFY(Entorno::grabadora().mensajes.isEmpty());
@@ -107,28 +95,22 @@ private Q_SLOTS:
 
     void potenciasDeCualquiera_data()
     {
-        QTest::addColumn<QString>("elemento");
-        QTest::addColumn<QString>("potencias");
-        QTest::addColumn<QString>("resumen");
-        QTest::newRow("root")
-            << u"-11"_s << u"0 1/1 3/2 9/3 13/4 11/5 5/6 1"_s
-            << u"3 es una raíz primitiva: su orden es 6 y sus potencias son todas "
-               u"las unidades."_s;
-        QTest::newRow("no unit") << u"4"_s << u"0 1/1 4/2 2/3 8/4 4"_s
-                                 << u"4 no es una unidad, porque mcd(4, 14) = 2: sus potencias no "
-                                    u"vuelven a ser 1, y se repiten desde la de exponente 1."_s;
-        QTest::newRow("beyond 64 bits")
-            << u"14*10^30 + 13"_s << u"0 1/1 13/2 1"_s
-            << u"El orden de 13 es 2: sus potencias son 2 de las 6 unidades."_s;
-        QTest::newRow("text") << u"a"_s << QString() << u"✗ El elemento es un número entero."_s;
+        filasDeTexto<QString, QString, QString>(uR"(
+            root | -11 | 0 1/1 3/2 9/3 13/4 11/5 5/6 1 | 3 es una raíz primitiva: su orden es \
+              6 y sus potencias son todas las unidades.
+            no unit | 4 | 0 1/1 4/2 2/3 8/4 4 | 4 no es una unidad, porque mcd(4, 14) = 2: \
+              sus potencias no vuelven a ser 1, y se repiten desde la de exponente 1.
+            beyond 64 bits | 14*10^30 + 13 | 0 1/1 13/2 1 | El orden de 13 es 2: sus \
+              potencias son 2 de las 6 unidades.
+            text | a |  | ✗ El elemento es un número entero.)"_s);
     }
     void potenciasDeCualquiera()
     {
-        QFETCH(QString, elemento);
+        const auto [elemento, potencias, resumen] = estaFila<QString, QString, QString>();
         campo(u"txtElemento"_s)->setText(elemento);
         pulsa(u"cmdPotencias"_s);
-        QTEST(filas(u"FlexPotencias"_s), "potencias");
-        QTEST(texto(u"lblPotencias"_s), "resumen");
+        QCOMPARE(filas(u"FlexPotencias"_s), potencias);
+        QCOMPARE(texto(u"lblPotencias"_s), resumen);
     }
 
     /// Sorting goes by the numbers, and the chosen row stays the one that was clicked.
@@ -214,23 +196,19 @@ private Q_SLOTS:
 
     void grandesRechazados_data()
     {
-        QTest::addColumn<QString>("n");
-        QTest::addColumn<QString>("a");
-        QTest::addColumn<QString>("aviso");
-        const QString deN =
-            u"✗ El módulo n es un número entero positivo de 1000 cifras como mucho."_s;
-        const QString deA = u"✗ El elemento a es un número entero de 2000 cifras como mucho."_s;
-        QTest::newRow("no n") << QString() << u"5"_s << deN;
-        QTest::newRow("zero") << u"0"_s << u"5"_s << deN;
-        QTest::newRow("too long") << u"10^1000"_s << u"5"_s << deN;
-        QTest::newRow("no a") << u"10^999"_s << QString() << deA;
-        QTest::newRow("too long a") << u"10^999"_s << u"10^2000"_s << deA;
+        filasDeTexto<QString, QString, QString>(uR"(
+            no n |  | 5 | ✗ El módulo n es un número entero positivo de 1000 cifras como mucho.
+            zero | 0 | 5 | ✗ El módulo n es un número entero positivo de 1000 cifras como \
+              mucho.
+            too long | 10^1000 | 5 | ✗ El módulo n es un número entero positivo de 1000 \
+              cifras como mucho.
+            no a | 10^999 |  | ✗ El elemento a es un número entero de 2000 cifras como mucho.
+            too long a | 10^999 | 10^2000 | ✗ El elemento a es un número entero de 2000 \
+              cifras como mucho.)"_s);
     }
     void grandesRechazados()
     {
-        QFETCH(QString, n);
-        QFETCH(QString, a);
-        QFETCH(QString, aviso);
+        const auto [n, a, aviso] = estaFila<QString, QString, QString>();
         escribeGrandes(n, a);
         pulsa(u"cmdInverso"_s);
         QCOMPARE(texto(u"lblMcd"_s), aviso);
@@ -289,6 +267,7 @@ private:
     {
         return control<QLabel>(m_ventana.get(), rotulo)->text();
     }
+
     void pulsa(const QString &boton) const
     {
         control<QPushButton>(m_ventana.get(), boton)->click();
@@ -297,20 +276,24 @@ private:
     {
         return rejilla(nombre)->model()->index(fila, columna);
     }
+
     void abreTema(int indice) const
     {
         control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(indice);
     }
+
     void muestra(const QString &modulo) const
     {
         campo(u"txtN"_s)->setText(modulo);
         pulsa(u"cmdUnidades"_s);
     }
+
     void escribeGrandes(const QString &n, const QString &a) const
     {
         largo(u"txtNGrande"_s)->setText(n);
         largo(u"txtAGrande"_s)->setText(a);
     }
+
     void responde(const QString &cuestion, const QString &respuesta) const
     {
         campo(u"txtRespuesta_"_s + cuestion)->setText(respuesta);

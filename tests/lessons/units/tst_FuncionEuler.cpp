@@ -2,6 +2,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/InversoGrande.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <numeric>
@@ -26,16 +27,16 @@ private Q_SLOTS:
 
     void comoElServicio_data()
     {
-        QTest::addColumn<QString>("expresion");
-        QTest::newRow("hundred and fifty-eight digits") << u"100!"_s;
-        QTest::newRow("prime power") << u"(2^61-1)^7"_s;
-        QTest::newRow("large prime factor") << u"(2^1279-1)*3^50"_s;
-        QTest::newRow("two primes of the same size") << u"(10^12+39)*(10^12+61)"_s;
-        QTest::newRow("as many primes as fit") << u"223092870*29*31*37*41*43*47*53"_s;
+        filasDeTexto<QString>(uR"(
+            hundred and fifty-eight digits | 100!
+            prime power                    | (2^61-1)^7
+            large prime factor             | (2^1279-1)*3^50
+            two primes of the same size    | (10^12+39)*(10^12+61)
+            as many primes as fit          | 223092870*29*31*37*41*43*47*53)"_s);
     }
     void comoElServicio()
     {
-        QFETCH(QString, expresion);
+        QString expresion = estaFila<QString>();
         const QString n = Evalua(expresion);
         const FuncionEuler euler(n);
         QCOMPARE(euler.valor(), FiEuler(n));
@@ -50,42 +51,35 @@ private Q_SLOTS:
 
     void pasos_data()
     {
-        QTest::addColumn<QString>("n");
-        QTest::addColumn<QString>("pasos");
-        QTest::newRow("one") << u"1"_s << u"n = 1\nφ(n) = 1"_s;
-        QTest::newRow("prime") << u"13"_s << u"n = 13\nφ(n) = 13 − 1\nφ(n) = 12"_s;
-        QTest::newRow("square") << u"49"_s << u"n = 7^2\nφ(n) = 7·(7 − 1)\nφ(n) = 42"_s;
-        QTest::newRow("several") << u"360"_s
-                                 << u"n = 2^3 · 3^2 · 5\nφ(n) = φ(2^3) · φ(3^2) · φ(5)\n"
-                                    u"φ(n) = 2^2·(2 − 1) · 3·(3 − 1) · (5 − 1)\n"
-                                    u"φ(n) = 4 · 6 · 4\nφ(n) = 96"_s;
+        filasDeTexto<QString, QString>(uR"(
+            one | 1 | n = 1\nφ(n) = 1
+            prime | 13 | n = 13\nφ(n) = 13 − 1\nφ(n) = 12
+            square | 49 | n = 7^2\nφ(n) = 7·(7 − 1)\nφ(n) = 42
+            several | 360 | n = 2^3 · 3^2 · 5\nφ(n) = φ(2^3) · φ(3^2) · φ(5)\nφ(n) = 2^2·(2 − \
+              1) · 3·(3 − 1) · (5 − 1)\nφ(n) = 4 · 6 · 4\nφ(n) = 96)"_s);
     }
     void pasos()
     {
-        QFETCH(QString, n);
-        QTEST(FuncionEuler(n).pasos(), "pasos");
+        const auto [n, pasos] = estaFila<QString, QString>();
+        QCOMPARE(FuncionEuler(n).pasos(), pasos);
     }
 
     void inversos_data()
     {
-        QTest::addColumn<QString>("a");
-        QTest::addColumn<QString>("n");
-        QTest::addColumn<QString>("mcd");
-        QTest::newRow("small") << u"7"_s << u"26"_s << u"1"_s;
-        QTest::newRow("negative") << u"-7"_s << u"26"_s << u"1"_s;
-        QTest::newRow("beyond n") << u"10^40+7"_s << u"10^6"_s << u"1"_s;
-        QTest::newRow("no unit") << u"10^30-1"_s << u"10^60-1"_s
-                                 << u"999999999999999999999999999999"_s;
-        QTest::newRow("zero") << u"0"_s << u"12"_s << u"12"_s;
-        QTest::newRow("one element") << u"5"_s << u"1"_s << u"1"_s;
-        QTest::newRow("hundreds of digits") << u"2^521-1"_s << u"150!"_s << u"1"_s;
+        filasDeTexto<QString, QString, QString>(uR"(
+            small              | 7       | 26      | 1
+            negative           | -7      | 26      | 1
+            beyond n           | 10^40+7 | 10^6    | 1
+            no unit            | 10^30-1 | 10^60-1 | 999999999999999999999999999999
+            zero               | 0       | 12      | 12
+            one element        | 5       | 1       | 1
+            hundreds of digits | 2^521-1 | 150!    | 1)"_s);
     }
     void inversos()
     {
-        QFETCH(QString, a);
-        QFETCH(QString, n);
+        const auto [a, n, mcd] = estaFila<QString, QString, QString>();
         const InversoGrande resultado = invierte(Evalua(QString(a)), Evalua(QString(n)));
-        QTEST(resultado.mcd, "mcd");
+        QCOMPARE(resultado.mcd, mcd);
         QCOMPARE(resultado.inverso.isEmpty(), resultado.mcd != u"1"_s);
         if (!resultado.inverso.isEmpty()) {
             const QString sobra = u"(%1)*%2-1"_s.arg(a, resultado.inverso);

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/units/GrupoUnidades.h"
+#include "tests/lessons/Tabla.h"
 
-#include <QTest>
 #include <algorithm>
 #include <numeric>
+
+using namespace Qt::Literals::StringLiterals;
 
 /// The units of Z_n against multiplication by hand, and their powers.
 class TestGrupoUnidades : public QObject
@@ -37,25 +39,22 @@ private Q_SLOTS:
 
     void estructura_data()
     {
-        QTest::addColumn<int>("n");
-        QTest::addColumn<int>("fi");
-        QTest::addColumn<int>("exponente");
-        QTest::addColumn<int>("raices");
-        QTest::newRow("one element") << 1 << 1 << 1 << 1;
-        QTest::newRow("two elements") << 2 << 1 << 1 << 1;
-        QTest::newRow("Klein's group") << 8 << 4 << 2 << 0;
-        QTest::newRow("twice a power of an odd prime") << 1458 << 486 << 486 << 162;
-        QTest::newRow("Carmichael's number") << 561 << 320 << 80 << 0;
-        QTest::newRow("largest prime") << 9973 << 9972 << 9972 << 3312;
-        QTest::newRow("largest") << 10000 << 4000 << 500 << 0;
+        filasDeTexto<int, int, int, int>(uR"(
+            one element                   | 1     | 1    | 1    | 1
+            two elements                  | 2     | 1    | 1    | 1
+            Klein's group                 | 8     | 4    | 2    | 0
+            twice a power of an odd prime | 1458  | 486  | 486  | 162
+            Carmichael's number           | 561   | 320  | 80   | 0
+            largest prime                 | 9973  | 9972 | 9972 | 3312
+            largest                       | 10000 | 4000 | 500  | 0)"_s);
     }
     void estructura()
     {
-        QFETCH(int, n);
+        const auto [n, fi, exponente, raices] = estaFila<int, int, int, int>();
         const GrupoUnidades grupo(n);
-        QTEST(grupo.fi(), "fi");
-        QTEST(grupo.exponente(), "exponente");
-        QTEST(grupo.numeroDeRaicesPrimitivas(), "raices");
+        QCOMPARE(grupo.fi(), fi);
+        QCOMPARE(grupo.exponente(), exponente);
+        QCOMPARE(grupo.numeroDeRaicesPrimitivas(), raices);
         QCOMPARE(grupo.esCiclico(), grupo.numeroDeRaicesPrimitivas() > 0);
     }
 
@@ -67,27 +66,21 @@ private Q_SLOTS:
 
     void potencias_data()
     {
-        QTest::addColumn<int>("n");
-        QTest::addColumn<int>("a");
-        QTest::addColumn<QList<std::int32_t>>("valores");
-        QTest::addColumn<int>("vuelta");
-        using Lista = QList<std::int32_t>;
-        QTest::newRow("unit") << 7 << 2 << Lista{1, 2, 4} << 0;
-        QTest::newRow("negative") << 7 << -4 << Lista{1, 3, 2, 6, 4, 5} << 0;
-        QTest::newRow("beyond n") << 7 << 1'000'000'000 << Lista{1, 6} << 0;
-        QTest::newRow("no unit") << 12 << 2 << Lista{1, 2, 4, 8} << 2;
-        QTest::newRow("idempotent") << 12 << 4 << Lista{1, 4} << 1;
-        QTest::newRow("nilpotent") << 12 << 6 << Lista{1, 6, 0} << 2;
-        QTest::newRow("zero") << 5 << 0 << Lista{1, 0} << 1;
-        QTest::newRow("one element") << 1 << 5 << Lista{0} << 0;
+        filasDeTexto<int, int, QString, int>(uR"(
+            unit | 7 | 2 | 1 2 4 | 0 || negative | 7 | -4 | 1 3 2 6 4 5 | 0
+            beyond n | 7 | 1000000000 | 1 6 | 0 || no unit | 12 | 2 | 1 2 4 8 | 2
+            idempotent | 12 | 4 | 1 4 | 1 || nilpotent | 12 | 6 | 1 6 0 | 2
+            zero | 5 | 0 | 1 0 | 1 || one element | 1 | 5 | 0 | 0)"_s);
     }
     void potencias()
     {
-        QFETCH(int, n);
-        QFETCH(int, a);
+        const auto [n, a, valores, vuelta] = estaFila<int, int, QString, int>();
         const Potencias potencias = GrupoUnidades(n).potencias(a);
-        QTEST(potencias.valores, "valores");
-        QTEST(potencias.vuelta, "vuelta");
+        QStringList halladas;
+        for (const std::int32_t potencia : potencias.valores)
+            halladas << QString::number(potencia);
+        QCOMPARE(halladas.join(u' '), valores);
+        QCOMPARE(potencias.vuelta, vuelta);
     }
 };
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/units/windows/ModeloCayley.h"
+#include "tests/lessons/Tabla.h"
 #include "tests/shell/support/Contraste.h"
 
 #include <QAbstractItemModelTester>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 using Operacion = TablaCayley::Operacion;
@@ -26,24 +26,20 @@ class TestModeloCayley : public QObject
 private Q_SLOTS:
     void tablas_data()
     {
-        QTest::addColumn<int>("n");
-        QTest::addColumn<Operacion>("operacion");
-        QTest::addColumn<QString>("tabla");
-        QTest::newRow("units") << 8 << Operacion::ProductoDeUnidades
-                               << u"1 3 5 7|1 3 5 7/3 1 7 5/5 7 1 3/7 5 3 1"_s;
-        QTest::newRow("products") << 4 << Operacion::Producto
-                                  << u"0 1 2 3|0 0 0 0/0 1 2 3/0 2 0 2/0 3 2 1"_s;
-        QTest::newRow("sums") << 3 << Operacion::Suma << u"0 1 2|0 1 2/1 2 0/2 0 1"_s;
-        QTest::newRow("one element") << 1 << Operacion::ProductoDeUnidades << u"0|0"_s;
+        filasDeTexto<int, int, QString>(uR"(
+            units | 8 | 0 | 1 3 5 7,1 3 5 7/3 1 7 5/5 7 1 3/7 5 3 1
+            products | 4 | 1 | 0 1 2 3,0 0 0 0/0 1 2 3/0 2 0 2/0 3 2 1
+            sums | 3 | 2 | 0 1 2,0 1 2/1 2 0/2 0 1 || one element | 1 | 0 | 0,0)"_s);
     }
     void tablas()
     {
-        QFETCH(int, n);
-        QFETCH(Operacion, operacion);
+        const auto [n, cual, tabla] = estaFila<int, int, QString>();
+        const Operacion operaciones[] = {Operacion::ProductoDeUnidades, Operacion::Producto,
+                                         Operacion::Suma};
         ModeloCayley modelo;
         const QAbstractItemModelTester examen(
             &modelo, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        modelo.pon({n, operacion});
+        modelo.pon({n, operaciones[cual]});
         QStringList cabecera, filas;
         for (int f = 0; f < modelo.rowCount(); ++f) {
             QStringList celdas;
@@ -54,7 +50,7 @@ private Q_SLOTS:
             QCOMPARE(modelo.headerData(f, Qt::Vertical, Qt::DisplayRole).toString(),
                      cabecera.constLast());
         }
-        QTEST(cabecera.join(u' ') + u'|' + filas.join(u'/'), "tabla");
+        QCOMPARE(cabecera.join(u' ') + u',' + filas.join(u'/'), tabla);
     }
 
     void moduloFueraDeSitio()
@@ -67,22 +63,18 @@ private Q_SLOTS:
     /// it, in both themes.
     void colores_data()
     {
-        QTest::addColumn<bool>("oscuro");
-        QTest::addColumn<Operacion>("operacion");
-        QTest::newRow("light products") << false << Operacion::Producto;
-        QTest::newRow("dark products") << true << Operacion::Producto;
-        QTest::newRow("light sums") << false << Operacion::Suma;
-        QTest::newRow("dark sums") << true << Operacion::Suma;
+        filasDeTexto<bool, bool>(uR"(
+            light products | no | no || dark products | yes | no
+            light sums | no | yes || dark sums | yes | yes)"_s);
     }
     void colores()
     {
-        QFETCH(bool, oscuro);
-        QFETCH(Operacion, operacion);
+        const auto [oscuro, sumas] = estaFila<bool, bool>();
         ModeloCayley modelo;
         modelo.ponOscuro(oscuro);
         for (const int n : {5, 60}) {
-            modelo.pon({n, operacion});
-            const QString neutro = operacion == Operacion::Suma ? u"0"_s : u"1"_s;
+            modelo.pon({n, sumas ? Operacion::Suma : Operacion::Producto});
+            const QString neutro = sumas ? u"0"_s : u"1"_s;
             QColor resaltado;
             QSet<QRgb> otros;
             for (int c = 0; c < n; ++c) {
