@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BignumCalls.h"
+#include "TextTable.h"
 
 #include <QProcess>
 #include <chrono>
 #include <thread>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -94,41 +97,31 @@ class TestBignumFactors : public QObject
 private Q_SLOTS:
     void known_data()
     {
-        QTest::addColumn<std::string>("number");
-        QTest::addColumn<std::string>("factors");
-        const auto row = [](const std::string &number, const std::string &expected) {
-            QTest::newRow(number.c_str()) << number << expected;
-        };
-        row("0", "");
-        row("1", "");
-        row("-1", "");
-        row("2", "2");
-        row("-360", "2^3 3^2 5");
-        row("65536", "2^16");
-        row("4295098369", "65537^2"); // the square of the least prime above the trial divisors
-        row("18446744073709551615", "3 5 17 257 641 65537 6700417");
-        row("18446744073709551617", "274177 67280421310721");
-        row("18446744030759878681", "4294967291^2"); // the square of the largest prime of 32 bits
-        // Round-looking, with an eight-digit factor.
-        row("126582278481012658227848101265822806309", "32384567 3908722277528449221749609969027");
-        row("1000000000000000000000000000000000000000420217",
-            "14853224237640427 67325449612875386921338313771");
-        row("340282366920938463463374607431768211457", "59649589127497217 5704689200685129054721");
-        row("618970019642690137449562111", "618970019642690137449562111"); // 2^89 - 1
-        row("147573952589676412927", "193707721 761838257287");            // 2^67 - 1
-        // 2^256 + 1: a factor of 16 digits before one of 62.
-        row("115792089237316195423570985008687907853269984665640564039457584007913129639937",
-            "1238926361552897 93461639715357977769163558199606896584051237541638188580280321");
-        row("1111111111111111111111111111111111111111", // forty ones
-            "11 41 73 101 137 271 3541 9091 27961 1676321 5964848081");
+        // Among them the squares of the least prime above the trial divisors and of the largest
+        // of 32 bits, 2^67 - 1, 2^89 - 1, 2^256 + 1 and forty ones.
+        addTable({"number", "factors"}, R"(
+0 = ''  1 = ''  -1 = ''  2 = 2  -360 = 2^3 3^2 5  65536 = 2^16
+4295098369 = 65537^2  18446744030759878681 = 4294967291^2
+18446744073709551615 = 3 5 17 257 641 65537 6700417
+18446744073709551617 = 274177 67280421310721
+126582278481012658227848101265822806309 = 32384567 3908722277528449221749609969027
+1000000000000000000000000000000000000000420217 = 14853224237640427 67325449612875386921338313771
+340282366920938463463374607431768211457 = 59649589127497217 5704689200685129054721
+618970019642690137449562111 = 618970019642690137449562111
+147573952589676412927 = 193707721 761838257287
+1111111111111111111111111111111111111111 = 11 41 73 101 137 271 3541 9091 27961 1676321 5964848081
+)");
+        QTest::newRow("2^256 + 1")
+            << "115792089237316195423570985008687907853269984665640564039457584007913129639937"_ba
+            << "1238926361552897 93461639715357977769163558199606896584051237541638188580280321"_ba;
     }
     void known()
     {
-        QFETCH(std::string, number);
-        const Factored result = factored(number);
+        QFETCH(QByteArray, number);
+        const Factored result = factored(number.toStdString());
         QCOMPARE(result.flag, 1);
         QVERIFY(result.intact);
-        QTEST(written(result), "factors");
+        QTEST(QByteArray::fromStdString(written(result)), "factors");
     }
 
     void smallNumbers()
@@ -212,29 +205,7 @@ private Q_SLOTS:
         QVERIFY(tooLong.entries.empty() && tooLong.intact);
     }
 
-    void eulersFunction_data()
-    {
-        QTest::addColumn<std::string>("number");
-        QTest::addColumn<std::string>("phi");
-        const auto row = [](const std::string &number, const std::string &expected) {
-            QTest::newRow(number.c_str()) << number << expected;
-        };
-        row("1", "1");
-        row("2", "1");
-        row("36", "12");
-        row("1000000007", "1000000006");
-        row("18446744073709551616", "9223372036854775808");
-        row("0", "failure");
-        row("-5", "failure");
-        row("", "failure");
-    }
     void eulersFunction()
-    {
-        QFETCH(std::string, number);
-        QTEST(call(EulerFi, number.c_str()).value_or("failure"), "phi");
-    }
-
-    void eulersFunctionCountsUnits()
     {
         for (int n = 1; n < 300; ++n) {
             int units = 0;
@@ -243,6 +214,11 @@ private Q_SLOTS:
             QCOMPARE(call(EulerFi, std::to_string(n).c_str()).value_or("failure"),
                      std::to_string(units));
         }
+        QCOMPARE(call(EulerFi, "1000000007").value_or(""), std::string("1000000006"));
+        QCOMPARE(call(EulerFi, "18446744073709551616").value_or(""),
+                 std::string("9223372036854775808"));
+        for (const char *refused : {"0", "-5", ""})
+            QVERIFY2(!call(EulerFi, refused), refused);
     }
 
     void twoThreadsAtOnce()
@@ -254,9 +230,8 @@ private Q_SLOTS:
             threads.emplace_back([&failures, t] {
                 Random random(100 + t);
                 for (unsigned digits = 10; digits <= 19; ++digits) {
-                    const mpz_class n =
-                        primeOfDigits(random, digits) * primeOfDigits(random, digits);
-                    failures[t] += factors(n) ? 0 : 1;
+                    const mpz_class p = primeOfDigits(random, digits);
+                    failures[t] += factors(p * primeOfDigits(random, digits)) ? 0 : 1;
                 }
             });
         }
@@ -267,27 +242,21 @@ private Q_SLOTS:
 
     void asFound_data()
     {
-        QTest::addColumn<std::string>("number");
-        QTest::addColumn<std::string>("found");
-        const auto row = [](const std::string &number, const std::string &expected) {
-            QTest::newRow(number.c_str()) << number << expected;
-        };
-        row("0", "");
-        row("1", "");
-        row("-7", "7 itself");
-        row("1000000007", "1000000007 itself");
-        row("360", "2^3 division, 3^2 division, 5 division");
-        row("6000000042", "2 division, 3 division, 1000000007 division");
-        row("1000000016000000063", "1000000009 rho, 1000000007 rho");
-        row("1000000000000000000000000000114000000000000000000000000003249",
-            "1000000000000000000000000000057^2 root");
+        addTable({"number", "found"}, R"(
+0 = ''  1 = ''  -7 = 7 itself  1000000007 = 1000000007 itself
+360 = 2^3 division, 3^2 division, 5 division
+6000000042 = 2 division, 3 division, 1000000007 division
+1000000016000000063 = 1000000009 rho, 1000000007 rho)");
+        QTest::newRow("a square")
+            << "1000000000000000000000000000114000000000000000000000000003249"_ba
+            << "1000000000000000000000000000057^2 root"_ba;
     }
     void asFound()
     {
-        QFETCH(const std::string, number);
+        QFETCH(const QByteArray, number);
         Taken taken;
-        QCOMPARE(FactorsAsFound(number.c_str(), take, &taken), BIGNUM_ALL_PRIMES);
-        QTEST(taken.text, "found");
+        QCOMPARE(FactorsAsFound(number.constData(), take, &taken), BIGNUM_ALL_PRIMES);
+        QTEST(QByteArray::fromStdString(taken.text), "found");
         QVERIFY(taken.countsFit);
     }
 
