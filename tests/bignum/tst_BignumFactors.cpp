@@ -44,15 +44,6 @@ bool factors(const mpz_class &n)
     return isFactorization(factored(n.get_str()), n);
 }
 
-mpz_class primeOfDigits(Random &random, unsigned digits)
-{
-    mpz_class low;
-    mpz_ui_pow_ui(low.get_mpz_t(), 10, digits - 1);
-    mpz_class prime = low + random.below(8 * low);
-    mpz_nextprime(prime.get_mpz_t(), prime.get_mpz_t());
-    return prime;
-}
-
 /// "2^3 division, 11 rho", with "?" after a composite.
 struct Taken
 {
@@ -85,7 +76,7 @@ int32_t take(const BignumFactor *factor, void *context)
 mpz_class outOfReach(unsigned digits)
 {
     Random random(77);
-    return primeOfDigits(random, digits / 2) * primeOfDigits(random, digits - digits / 2);
+    return random.primeOfDigits(digits / 2) * random.primeOfDigits(digits - digits / 2);
 }
 
 } // namespace
@@ -146,8 +137,8 @@ private Q_SLOTS:
         // Two equal halves are the worst case of every method.
         Random random(22);
         for (unsigned digits = 3; digits <= 20; ++digits) {
-            const mpz_class p = primeOfDigits(random, digits);
-            const mpz_class q = primeOfDigits(random, digits);
+            const mpz_class p = random.primeOfDigits(digits);
+            const mpz_class q = random.primeOfDigits(digits);
             QVERIFY2(factors(p * q), mpz_class(p * q).get_str().c_str());
             QVERIFY2(factors(p * p), p.get_str().c_str());
             if (digits <= 13)
@@ -161,7 +152,7 @@ private Q_SLOTS:
         for (unsigned long exponent : {2UL, 3UL, 4UL, 5UL, 6UL, 7UL, 12UL, 30UL}) {
             for (const unsigned digits : {5U, 6U, 9U, 12U, 20U, 25U}) {
                 mpz_class power;
-                const mpz_class prime = primeOfDigits(random, digits);
+                const mpz_class prime = random.primeOfDigits(digits);
                 mpz_pow_ui(power.get_mpz_t(), prime.get_mpz_t(), exponent);
                 QCOMPARE(written(factored(power.get_str())),
                          prime.get_str() + "^" + std::to_string(exponent));
@@ -230,8 +221,8 @@ private Q_SLOTS:
             threads.emplace_back([&failures, t] {
                 Random random(100 + t);
                 for (unsigned digits = 10; digits <= 19; ++digits) {
-                    const mpz_class p = primeOfDigits(random, digits);
-                    failures[t] += factors(p * primeOfDigits(random, digits)) ? 0 : 1;
+                    const mpz_class p = random.primeOfDigits(digits);
+                    failures[t] += factors(p * random.primeOfDigits(digits)) ? 0 : 1;
                 }
             });
         }
@@ -260,21 +251,14 @@ private Q_SLOTS:
         QVERIFY(taken.countsFit);
     }
 
-    void theTakerEndsTheSearch()
+    void theTakerMayEndTheSearch()
     {
         Taken taken{.text = "", .most = 2};
         QCOMPARE(FactorsAsFound("30030", take, &taken), BIGNUM_FACTORS_STOPPED);
-        QCOMPARE(taken.text, std::string("2 division, 3 division"));
-    }
-
-    void noNumberAndNoTaker()
-    {
-        Taken taken;
-        for (const char *text : {"", "x", "1/2", "-"})
+        for (const char *text : {"", "x", "1/2", "-", static_cast<const char *>(nullptr)})
             QCOMPARE(FactorsAsFound(text, take, &taken), BIGNUM_NO_NUMBER);
-        QCOMPARE(FactorsAsFound(nullptr, take, &taken), BIGNUM_NO_NUMBER);
         QCOMPARE(FactorsAsFound("6", nullptr, &taken), BIGNUM_FACTORS_FAILED);
-        QCOMPARE(taken.text, std::string());
+        QCOMPARE(taken.text, std::string("2 division, 3 division"));
     }
 
     void whatIsOutOfReachComesLast()
@@ -288,33 +272,28 @@ private Q_SLOTS:
         QCOMPARE(factored(repeated).flag, 0);
     }
 
-    void endBignumStops_data()
-    {
-        QTest::addColumn<unsigned>("digits");
-        QTest::newRow("in the sieve") << 79U;
-        QTest::newRow("in the curves") << 110U;
-    }
     void endBignumStops()
     {
-        QFETCH(const unsigned, digits);
         using Clock = std::chrono::steady_clock;
-        const mpz_class hard = outOfReach(digits);
-        const mpz_class number = 12 * hard;
-        Factored result;
-        Clock::time_point ended;
-        std::thread worker([&] {
-            result = factored(number.get_str());
-            ended = Clock::now();
-        });
-        std::this_thread::sleep_for(std::chrono::milliseconds(700));
-        const auto asked = Clock::now();
-        QCOMPARE(EndBignum(), 1);
-        worker.join();
-        QCOMPARE(result.flag, 0);
-        QCOMPARE(written(result), "2^2 3 " + hard.get_str() + "?");
-        // 50 ms on a machine that is idle.
-        QVERIFY2(ended - asked < std::chrono::milliseconds(1000), "the stop took too long");
-        QVERIFY(factors(mpz_class("1000000016000000063"))); // the library goes on
+        for (const unsigned digits : {79U, 110U}) { // in the sieve, in the curves
+            const mpz_class hard = outOfReach(digits);
+            const mpz_class number = 12 * hard;
+            Factored result;
+            Clock::time_point ended;
+            std::thread worker([&] {
+                result = factored(number.get_str());
+                ended = Clock::now();
+            });
+            std::this_thread::sleep_for(std::chrono::milliseconds(700));
+            const auto asked = Clock::now();
+            QCOMPARE(EndBignum(), 1);
+            worker.join();
+            QCOMPARE(result.flag, 0);
+            QCOMPARE(written(result), "2^2 3 " + hard.get_str() + "?");
+            // 50 ms on a machine that is idle.
+            QVERIFY2(ended - asked < std::chrono::milliseconds(1000), "the stop took too long");
+            QVERIFY(factors(mpz_class("1000000016000000063"))); // the library goes on
+        }
     }
 
     void processMayEndMeanwhile()

@@ -288,10 +288,6 @@ fi(0) = domain = ''  9^9^9 = large = ''  10^24575 = large = ''  sigprimo(10^2000
 
     void nulls()
     {
-        std::array<char, kBuffer> buffer{};
-        QCOMPARE(ZEval(nullptr, buffer.data()), 0);
-        QCOMPARE(ZEval("1", nullptr), 0);
-        QCOMPARE(QEval("1", nullptr), 0);
         int32_t place = 0;
         QCOMPARE(QEvalFault(nullptr, &place, &place), -1);
         QCOMPARE(EvalFunction(0, nullptr), 0);
