@@ -98,6 +98,14 @@ public:
 
     mpz_class below(const mpz_class &bound) { return m_random.get_z_range(bound); }
     mpz_class bits(unsigned long count) { return m_random.get_z_bits(count); }
+    mpz_class primeOfDigits(unsigned digits)
+    {
+        mpz_class low;
+        mpz_ui_pow_ui(low.get_mpz_t(), 10, digits - 1);
+        mpz_class prime = low + below(8 * low);
+        mpz_nextprime(prime.get_mpz_t(), prime.get_mpz_t());
+        return prime;
+    }
     /// Of either sign, from a few up to `count` bits.
     mpz_class anySize(unsigned long count)
     {

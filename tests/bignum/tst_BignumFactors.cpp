@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BignumCalls.h"
+#include "TextTable.h"
 
 #include <QProcess>
 #include <chrono>
 #include <thread>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -41,15 +44,6 @@ bool factors(const mpz_class &n)
     return isFactorization(factored(n.get_str()), n);
 }
 
-mpz_class primeOfDigits(Random &random, unsigned digits)
-{
-    mpz_class low;
-    mpz_ui_pow_ui(low.get_mpz_t(), 10, digits - 1);
-    mpz_class prime = low + random.below(8 * low);
-    mpz_nextprime(prime.get_mpz_t(), prime.get_mpz_t());
-    return prime;
-}
-
 /// "2^3 division, 11 rho", with "?" after a composite.
 struct Taken
 {
@@ -82,7 +76,7 @@ int32_t take(const BignumFactor *factor, void *context)
 mpz_class outOfReach(unsigned digits)
 {
     Random random(77);
-    return primeOfDigits(random, digits / 2) * primeOfDigits(random, digits - digits / 2);
+    return random.primeOfDigits(digits / 2) * random.primeOfDigits(digits - digits / 2);
 }
 
 } // namespace
@@ -94,41 +88,31 @@ class TestBignumFactors : public QObject
 private Q_SLOTS:
     void known_data()
     {
-        QTest::addColumn<std::string>("number");
-        QTest::addColumn<std::string>("factors");
-        const auto row = [](const std::string &number, const std::string &expected) {
-            QTest::newRow(number.c_str()) << number << expected;
-        };
-        row("0", "");
-        row("1", "");
-        row("-1", "");
-        row("2", "2");
-        row("-360", "2^3 3^2 5");
-        row("65536", "2^16");
-        row("4295098369", "65537^2"); // the square of the least prime above the trial divisors
-        row("18446744073709551615", "3 5 17 257 641 65537 6700417");
-        row("18446744073709551617", "274177 67280421310721");
-        row("18446744030759878681", "4294967291^2"); // the square of the largest prime of 32 bits
-        // Round-looking, with an eight-digit factor.
-        row("126582278481012658227848101265822806309", "32384567 3908722277528449221749609969027");
-        row("1000000000000000000000000000000000000000420217",
-            "14853224237640427 67325449612875386921338313771");
-        row("340282366920938463463374607431768211457", "59649589127497217 5704689200685129054721");
-        row("618970019642690137449562111", "618970019642690137449562111"); // 2^89 - 1
-        row("147573952589676412927", "193707721 761838257287");            // 2^67 - 1
-        // 2^256 + 1: a factor of 16 digits before one of 62.
-        row("115792089237316195423570985008687907853269984665640564039457584007913129639937",
-            "1238926361552897 93461639715357977769163558199606896584051237541638188580280321");
-        row("1111111111111111111111111111111111111111", // forty ones
-            "11 41 73 101 137 271 3541 9091 27961 1676321 5964848081");
+        // Among them the squares of the least prime above the trial divisors and of the largest
+        // of 32 bits, 2^67 - 1, 2^89 - 1, 2^256 + 1 and forty ones.
+        addTable({"number", "factors"}, R"(
+0 = ''  1 = ''  -1 = ''  2 = 2  -360 = 2^3 3^2 5  65536 = 2^16
+4295098369 = 65537^2  18446744030759878681 = 4294967291^2
+18446744073709551615 = 3 5 17 257 641 65537 6700417
+18446744073709551617 = 274177 67280421310721
+126582278481012658227848101265822806309 = 32384567 3908722277528449221749609969027
+1000000000000000000000000000000000000000420217 = 14853224237640427 67325449612875386921338313771
+340282366920938463463374607431768211457 = 59649589127497217 5704689200685129054721
+618970019642690137449562111 = 618970019642690137449562111
+147573952589676412927 = 193707721 761838257287
+1111111111111111111111111111111111111111 = 11 41 73 101 137 271 3541 9091 27961 1676321 5964848081
+)");
+        QTest::newRow("2^256 + 1")
+            << "115792089237316195423570985008687907853269984665640564039457584007913129639937"_ba
+            << "1238926361552897 93461639715357977769163558199606896584051237541638188580280321"_ba;
     }
     void known()
     {
-        QFETCH(std::string, number);
-        const Factored result = factored(number);
+        QFETCH(QByteArray, number);
+        const Factored result = factored(number.toStdString());
         QCOMPARE(result.flag, 1);
         QVERIFY(result.intact);
-        QTEST(written(result), "factors");
+        QTEST(QByteArray::fromStdString(written(result)), "factors");
     }
 
     void smallNumbers()
@@ -153,8 +137,8 @@ private Q_SLOTS:
         // Two equal halves are the worst case of every method.
         Random random(22);
         for (unsigned digits = 3; digits <= 20; ++digits) {
-            const mpz_class p = primeOfDigits(random, digits);
-            const mpz_class q = primeOfDigits(random, digits);
+            const mpz_class p = random.primeOfDigits(digits);
+            const mpz_class q = random.primeOfDigits(digits);
             QVERIFY2(factors(p * q), mpz_class(p * q).get_str().c_str());
             QVERIFY2(factors(p * p), p.get_str().c_str());
             if (digits <= 13)
@@ -168,7 +152,7 @@ private Q_SLOTS:
         for (unsigned long exponent : {2UL, 3UL, 4UL, 5UL, 6UL, 7UL, 12UL, 30UL}) {
             for (const unsigned digits : {5U, 6U, 9U, 12U, 20U, 25U}) {
                 mpz_class power;
-                const mpz_class prime = primeOfDigits(random, digits);
+                const mpz_class prime = random.primeOfDigits(digits);
                 mpz_pow_ui(power.get_mpz_t(), prime.get_mpz_t(), exponent);
                 QCOMPARE(written(factored(power.get_str())),
                          prime.get_str() + "^" + std::to_string(exponent));
@@ -212,29 +196,7 @@ private Q_SLOTS:
         QVERIFY(tooLong.entries.empty() && tooLong.intact);
     }
 
-    void eulersFunction_data()
-    {
-        QTest::addColumn<std::string>("number");
-        QTest::addColumn<std::string>("phi");
-        const auto row = [](const std::string &number, const std::string &expected) {
-            QTest::newRow(number.c_str()) << number << expected;
-        };
-        row("1", "1");
-        row("2", "1");
-        row("36", "12");
-        row("1000000007", "1000000006");
-        row("18446744073709551616", "9223372036854775808");
-        row("0", "failure");
-        row("-5", "failure");
-        row("", "failure");
-    }
     void eulersFunction()
-    {
-        QFETCH(std::string, number);
-        QTEST(call(EulerFi, number.c_str()).value_or("failure"), "phi");
-    }
-
-    void eulersFunctionCountsUnits()
     {
         for (int n = 1; n < 300; ++n) {
             int units = 0;
@@ -243,6 +205,11 @@ private Q_SLOTS:
             QCOMPARE(call(EulerFi, std::to_string(n).c_str()).value_or("failure"),
                      std::to_string(units));
         }
+        QCOMPARE(call(EulerFi, "1000000007").value_or(""), std::string("1000000006"));
+        QCOMPARE(call(EulerFi, "18446744073709551616").value_or(""),
+                 std::string("9223372036854775808"));
+        for (const char *refused : {"0", "-5", ""})
+            QVERIFY2(!call(EulerFi, refused), refused);
     }
 
     void twoThreadsAtOnce()
@@ -254,9 +221,8 @@ private Q_SLOTS:
             threads.emplace_back([&failures, t] {
                 Random random(100 + t);
                 for (unsigned digits = 10; digits <= 19; ++digits) {
-                    const mpz_class n =
-                        primeOfDigits(random, digits) * primeOfDigits(random, digits);
-                    failures[t] += factors(n) ? 0 : 1;
+                    const mpz_class p = random.primeOfDigits(digits);
+                    failures[t] += factors(p * random.primeOfDigits(digits)) ? 0 : 1;
                 }
             });
         }
@@ -267,45 +233,32 @@ private Q_SLOTS:
 
     void asFound_data()
     {
-        QTest::addColumn<std::string>("number");
-        QTest::addColumn<std::string>("found");
-        const auto row = [](const std::string &number, const std::string &expected) {
-            QTest::newRow(number.c_str()) << number << expected;
-        };
-        row("0", "");
-        row("1", "");
-        row("-7", "7 itself");
-        row("1000000007", "1000000007 itself");
-        row("360", "2^3 division, 3^2 division, 5 division");
-        row("6000000042", "2 division, 3 division, 1000000007 division");
-        row("1000000016000000063", "1000000009 rho, 1000000007 rho");
-        row("1000000000000000000000000000114000000000000000000000000003249",
-            "1000000000000000000000000000057^2 root");
+        addTable({"number", "found"}, R"(
+0 = ''  1 = ''  -7 = 7 itself  1000000007 = 1000000007 itself
+360 = 2^3 division, 3^2 division, 5 division
+6000000042 = 2 division, 3 division, 1000000007 division
+1000000016000000063 = 1000000009 rho, 1000000007 rho)");
+        QTest::newRow("a square")
+            << "1000000000000000000000000000114000000000000000000000000003249"_ba
+            << "1000000000000000000000000000057^2 root"_ba;
     }
     void asFound()
     {
-        QFETCH(const std::string, number);
+        QFETCH(const QByteArray, number);
         Taken taken;
-        QCOMPARE(FactorsAsFound(number.c_str(), take, &taken), BIGNUM_ALL_PRIMES);
-        QTEST(taken.text, "found");
+        QCOMPARE(FactorsAsFound(number.constData(), take, &taken), BIGNUM_ALL_PRIMES);
+        QTEST(QByteArray::fromStdString(taken.text), "found");
         QVERIFY(taken.countsFit);
     }
 
-    void theTakerEndsTheSearch()
+    void theTakerMayEndTheSearch()
     {
         Taken taken{.text = "", .most = 2};
         QCOMPARE(FactorsAsFound("30030", take, &taken), BIGNUM_FACTORS_STOPPED);
-        QCOMPARE(taken.text, std::string("2 division, 3 division"));
-    }
-
-    void noNumberAndNoTaker()
-    {
-        Taken taken;
-        for (const char *text : {"", "x", "1/2", "-"})
+        for (const char *text : {"", "x", "1/2", "-", static_cast<const char *>(nullptr)})
             QCOMPARE(FactorsAsFound(text, take, &taken), BIGNUM_NO_NUMBER);
-        QCOMPARE(FactorsAsFound(nullptr, take, &taken), BIGNUM_NO_NUMBER);
         QCOMPARE(FactorsAsFound("6", nullptr, &taken), BIGNUM_FACTORS_FAILED);
-        QCOMPARE(taken.text, std::string());
+        QCOMPARE(taken.text, std::string("2 division, 3 division"));
     }
 
     void whatIsOutOfReachComesLast()
@@ -319,33 +272,28 @@ private Q_SLOTS:
         QCOMPARE(factored(repeated).flag, 0);
     }
 
-    void endBignumStops_data()
-    {
-        QTest::addColumn<unsigned>("digits");
-        QTest::newRow("in the sieve") << 79U;
-        QTest::newRow("in the curves") << 110U;
-    }
     void endBignumStops()
     {
-        QFETCH(const unsigned, digits);
         using Clock = std::chrono::steady_clock;
-        const mpz_class hard = outOfReach(digits);
-        const mpz_class number = 12 * hard;
-        Factored result;
-        Clock::time_point ended;
-        std::thread worker([&] {
-            result = factored(number.get_str());
-            ended = Clock::now();
-        });
-        std::this_thread::sleep_for(std::chrono::milliseconds(700));
-        const auto asked = Clock::now();
-        QCOMPARE(EndBignum(), 1);
-        worker.join();
-        QCOMPARE(result.flag, 0);
-        QCOMPARE(written(result), "2^2 3 " + hard.get_str() + "?");
-        // 50 ms on a machine that is idle.
-        QVERIFY2(ended - asked < std::chrono::milliseconds(1000), "the stop took too long");
-        QVERIFY(factors(mpz_class("1000000016000000063"))); // the library goes on
+        for (const unsigned digits : {79U, 110U}) { // in the sieve, in the curves
+            const mpz_class hard = outOfReach(digits);
+            const mpz_class number = 12 * hard;
+            Factored result;
+            Clock::time_point ended;
+            std::thread worker([&] {
+                result = factored(number.get_str());
+                ended = Clock::now();
+            });
+            std::this_thread::sleep_for(std::chrono::milliseconds(700));
+            const auto asked = Clock::now();
+            QCOMPARE(EndBignum(), 1);
+            worker.join();
+            QCOMPARE(result.flag, 0);
+            QCOMPARE(written(result), "2^2 3 " + hard.get_str() + "?");
+            // 50 ms on a machine that is idle.
+            QVERIFY2(ended - asked < std::chrono::milliseconds(1000), "the stop took too long");
+            QVERIFY(factors(mpz_class("1000000016000000063"))); // the library goes on
+        }
     }
 
     void processMayEndMeanwhile()

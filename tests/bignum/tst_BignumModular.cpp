@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BignumCalls.h"
+#include "TextTable.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -37,21 +38,37 @@ Bezout bezout(const std::string &a, const std::string &b)
     return {d.isIntact() && x.isIntact() && y.isIntact() ? flag : -1, d.text(), x.text(), y.text()};
 }
 
-/// Solves congruences written as "2 3, 3 5": remainder and modulus.
+/// Solves congruences written as "2 3 3 5": remainder and modulus.
 std::string solve(const QByteArray &system)
 {
-    std::vector<QByteArray> texts;
-    for (const QByteArray &congruence : system.split(','))
-        for (const QByteArray &text : congruence.simplified().split(' '))
-            texts.push_back(text);
+    const QList<QByteArray> texts = system.split(' ');
     std::vector<const char *> remainders;
     std::vector<const char *> moduli;
-    for (std::size_t i = 0; i + 1 < texts.size(); i += 2) {
+    for (qsizetype i = 0; i + 1 < texts.size(); i += 2) {
         remainders.push_back(texts[i].constData());
         moduli.push_back(texts[i + 1].constData());
     }
     return call(CRT, remainders.data(), moduli.data(), static_cast<int32_t>(moduli.size()))
         .value_or(kFailure);
+}
+
+/// The result of an operation that is written as its name and what it works on.
+std::string done(const QList<QByteArray> &words)
+{
+    const std::string a = words.at(1).toStdString();
+    const std::string b = words.at(2).toStdString();
+    if (words[0] == "mod")
+        return modulo(a, b);
+    if (words[0] == "power")
+        return power(a, b, words.at(3).toStdString());
+    if (words[0] == "inverse")
+        return inverse(a, b);
+    if (words[0] == "gcd")
+        return call(BMcd, a.c_str(), b.c_str()).value_or(kFailure);
+    if (words[0] == "base")
+        return call(ToBasis, std::stoi(a), b.c_str()).value_or(kFailure);
+    const Bezout result = bezout(a, b);
+    return result.flag == 1 ? result.d + " " + result.x + " " + result.y : kFailure;
 }
 
 } // namespace
@@ -63,80 +80,33 @@ class TestBignumModular : public QObject
 private Q_SLOTS:
     void operations_data()
     {
-        QTest::addColumn<std::string>("actual");
-        QTest::addColumn<std::string>("expected");
-        const auto row = [](const char *name, const std::string &actual,
-                            const std::string &expected) {
-            QTest::newRow(name) << actual << expected;
-        };
-        row("mod of a negative", modulo("-7", "3"), "2");
-        row("mod of a negative modulus", modulo("7", "-3"), "1");
-        row("mod of two negatives", modulo("-7", "-3"), "2");
-        row("mod of a multiple", modulo("-9", "3"), "0");
-        row("mod 1", modulo("12345678901234567890123", "1"), "0");
-        row("mod 0", modulo("5", "0"), kFailure);
-        row("mod of no number", modulo("x", "3"), kFailure);
-        row("mod by no number", modulo("5", "3x"), kFailure);
-
-        row("power", power("3", "200", "13"), "9");
-        row("power of a negative base", power("-2", "3", "7"), "6");
-        row("power with a negative modulus", power("2", "3", "-7"), "1");
-        row("power 0^0", power("0", "0", "7"), "1");
-        row("power modulo 1", power("5", "0", "1"), "0");
-        row("power modulo 0", power("5", "2", "0"), kFailure);
-        row("power with a negative exponent", power("3", "-2", "7"), "4");
-        row("power without inverse", power("6", "-1", "9"), kFailure);
-        row("power with no number", power("2", "", "9"), kFailure);
-        row("power, long modulus", power("2", "10", "1" + std::string(9000, '0')), "1024");
-        row("power, long modulus and exponent",
-            power("2", "1" + std::string(2000, '0'), "1" + std::string(9000, '0')), kFailure);
-
-        row("inverse", inverse("3", "7"), "5");
-        row("inverse of a negative", inverse("-3", "7"), "2");
-        row("inverse with a negative modulus", inverse("3", "-7"), "5");
-        row("inverse modulo 1", inverse("5", "1"), "0");
-        row("inverse of 0 modulo 1", inverse("0", "-1"), "0");
-        row("inverse modulo 0", inverse("1", "0"), kFailure);
-        row("no inverse", inverse("6", "9"), kFailure);
-        row("inverse of 0", inverse("0", "9"), kFailure);
-
-        row("gcd", call(BMcd, "-12", "18").value_or(kFailure), "6");
-        row("gcd with 0", call(BMcd, "0", "-18").value_or(kFailure), "18");
-        row("gcd of zeros", call(BMcd, "0", "0").value_or(kFailure), "0");
-        row("gcd of no number", call(BMcd, "0", "1/2").value_or(kFailure), kFailure);
+        addTable({"operation", "expected"}, R"(
+mod -7 3 = 2  mod 7 -3 = 1  mod -7 -3 = 2  mod -9 3 = 0  mod 12345678901234567890123 1 = 0
+mod 5 0 = failure  mod x 3 = failure  mod 5 3x = failure
+power 3 200 13 = 9  power -2 3 7 = 6  power 2 3 -7 = 1  power 0 0 7 = 1  power 5 0 1 = 0
+power 3 -2 7 = 4  power 5 2 0 = failure  power 6 -1 9 = failure  power 2 x 9 = failure
+inverse 3 7 = 5  inverse -3 7 = 2  inverse 3 -7 = 5  inverse 5 1 = 0  inverse 0 -1 = 0
+inverse 1 0 = failure  inverse 6 9 = failure  inverse 0 9 = failure
+gcd -12 18 = 6  gcd 0 -18 = 18  gcd 0 0 = 0  gcd 0 1/2 = failure
+base 2 10 = 1010  base 16 255 = ff  base 36 -1295 = -zz  base 7 0 = 0
+base 1 5 = failure  base 37 5 = failure  base -16 5 = failure  base 2 five = failure
+bezout 240 46 = 2 -9 47  bezout 17 3120 = 1 -367 2  bezout 0 0 = 0 0 0  bezout 0 5 = 5 0 1
+bezout -5 0 = 5 -1 0  bezout 6 6 = 6 0 1  bezout 1 1 = 1 0 1  bezout 12 4 = 4 0 1
+bezout 7 -1 = 1 0 -1)");
     }
     void operations()
     {
-        QFETCH(std::string, actual);
-        QTEST(actual, "expected");
+        QFETCH(QByteArray, operation);
+        QTEST(QByteArray::fromStdString(done(operation.split(' '))), "expected");
     }
 
-    void bezoutEdges_data()
+    void longOperands()
     {
-        QTest::addColumn<std::string>("a");
-        QTest::addColumn<std::string>("b");
-        QTest::addColumn<std::string>("result"); ///< d x y
-        const auto row = [](const char *a, const char *b, const char *result) {
-            QTest::addRow("%s, %s", a, b)
-                << std::string(a) << std::string(b) << std::string(result);
-        };
-        row("240", "46", "2 -9 47");
-        row("17", "3120", "1 -367 2");
-        row("0", "0", "0 0 0");
-        row("0", "5", "5 0 1");
-        row("-5", "0", "5 -1 0");
-        row("6", "6", "6 0 1");
-        row("1", "1", "1 0 1");
-        row("12", "4", "4 0 1");
-        row("7", "-1", "1 0 -1");
-    }
-    void bezoutEdges()
-    {
-        QFETCH(std::string, a);
-        QFETCH(std::string, b);
-        const Bezout result = bezout(a, b);
-        QCOMPARE(result.flag, 1);
-        QTEST(result.d + " " + result.x + " " + result.y, "result");
+        const std::string modulus = "1" + std::string(9000, '0');
+        QCOMPARE(power("2", "10", modulus), std::string("1024"));
+        QCOMPARE(power("2", "1" + std::string(2000, '0'), modulus), std::string(kFailure));
+        QVERIFY(!call(ToBasis, 2, ("1" + std::string(3000, '0')).c_str()));
+        QCOMPARE(call(ToBasis, 10, " +0042 "), std::optional<std::string>("42"));
     }
 
     void bezoutHoldsForRandomNumbers()
@@ -201,27 +171,15 @@ private Q_SLOTS:
 
     void congruences_data()
     {
-        QTest::addColumn<QByteArray>("system");
-        QTest::addColumn<std::string>("solution");
-        const auto row = [](const char *name, const char *system, const char *solution) {
-            QTest::newRow(name) << QByteArray(system) << std::string(solution);
-        };
-        row("Sun Zi", "2 3, 3 5, 2 7", "23");
-        row("one alone", "17 5", "2");
-        row("negative remainder", "-1 3, -1 5", "14");
-        row("negative modulus", "2 -3, 3 5", "8");
-        row("not coprime, compatible", "3 4, 5 6", "11");
-        row("the same twice", "3 4, 7 4", "3");
-        row("not coprime, contradictory", "3 4, 4 6", kFailure);
-        row("modulus one", "5 1, 3 4", "3");
-        row("modulus zero", "5 0, 3 4", kFailure);
-        row("no number", "5 3, a 4", kFailure);
-        row("none", "", kFailure);
+        addTable({"system", "solution"}, R"(
+2 3 3 5 2 7 = 23  17 5 = 2  -1 3 -1 5 = 14  2 -3 3 5 = 8  5 1 3 4 = 3  5 0 3 4 = failure
+not coprime:  3 4 5 6 = 11  3 4 7 4 = 3  3 4 4 6 = failure
+no numbers:  5 3 a 4 = failure  '' = failure)");
     }
     void congruences()
     {
         QFETCH(QByteArray, system);
-        QTEST(solve(system), "solution");
+        QTEST(QByteArray::fromStdString(solve(system)), "solution");
     }
 
     void congruencesOfRandomNumbers()
@@ -237,7 +195,7 @@ private Q_SLOTS:
             for (int k = 0; k < 8; ++k) {
                 moduli.emplace_back(random.bits(60) + 2);
                 const mpz_class remainder = secret % moduli.back() + moduli.back() * random.bits(3);
-                system += remainder.get_str() + " " + moduli.back().get_str() + ",";
+                system += remainder.get_str() + " " + moduli.back().get_str() + " ";
                 product = lcm(product, moduli.back());
             }
             system.pop_back();
@@ -277,57 +235,24 @@ private Q_SLOTS:
         QCOMPARE(Fibonacci(0, 5, 1, nullptr, &cost), 0);
     }
 
-    void bases_data()
-    {
-        QTest::addColumn<int>("base");
-        QTest::addColumn<QByteArray>("number");
-        QTest::addColumn<std::string>("text");
-        QTest::newRow("binary") << 2 << "10"_ba << std::string("1010");
-        QTest::newRow("hexadecimal") << 16 << "255"_ba << std::string("ff");
-        QTest::newRow("base 36") << 36 << "-1295"_ba << std::string("-zz");
-        QTest::newRow("zero") << 7 << "0"_ba << std::string("0");
-        QTest::newRow("decimal cleans up") << 10 << " +0042 "_ba << std::string("42");
-        QTest::newRow("base 1") << 1 << "5"_ba << std::string(kFailure);
-        QTest::newRow("base 37") << 37 << "5"_ba << std::string(kFailure);
-        QTest::newRow("negative base") << -16 << "5"_ba << std::string(kFailure);
-        QTest::newRow("no number") << 2 << "five"_ba << std::string(kFailure);
-        QTest::newRow("does not fit")
-            << 2 << "1"_ba + QByteArray(3000, '0') << std::string(kFailure);
-    }
-    void bases()
-    {
-        QFETCH(int, base);
-        QFETCH(QByteArray, number);
-        QTEST(call(ToBasis, base, number.constData()).value_or(kFailure), "text");
-    }
-
     void comparisons_data()
     {
-        QTest::addColumn<QByteArray>("a");
-        QTest::addColumn<QByteArray>("b");
-        QTest::addColumn<int>("result");
-        const auto row = [](const char *name, const QByteArray &a, const QByteArray &b,
-                            int result) { QTest::newRow(name) << a << b << result; };
-        const QByteArray long1 = "1"_ba + QByteArray(20000, '0');
-        row("b larger", "2", "10", 2);
-        row("a larger", "10", "9", 1);
-        row("equal", "10", " +010", 0);
-        row("negative", "-10", "-9", 2);
-        row("rationals", "1/3", "1/2", 2);
-        row("equal rationals", "2/4", "1/2", 0);
-        row("rational and integer", "7/2", "3", 1);
-        row("empty is zero", "", "1", 2);
-        row("blank is zero", "0", "  ", 0);
-        row("long", long1, long1 + "0", 2);
-        row("no number", "1", "Error", -1);
-        row("denominator zero", "1/0", "5", -1);
-        row("negative denominator", "1/-2", "5", -1);
+        addTable({"a", "b", "larger"}, R"(
+2 = 10 = 2  10 = 9 = 1  10 = +010 = 0  -10 = -9 = 2  '' = 1 = 2  0 = '' = 0
+rationals:  1/3 = 1/2 = 2  2/4 = 1/2 = 0  7/2 = 3 = 1  1/0 = 5 = -1  1/-2 = 5 = -1
+no number:  1 = Error = -1)");
+        const QByteArray large = "1"_ba + QByteArray(20000, '0');
+        QTest::newRow("long") << large << large + "0"
+                              << "2"_ba;
+        QTest::newRow("blanks") << "0"_ba
+                                << "  "_ba
+                                << "0"_ba;
     }
     void comparisons()
     {
         QFETCH(QByteArray, a);
         QFETCH(QByteArray, b);
-        QTEST(BMax(a.constData(), b.constData()), "result");
+        QTEST(QByteArray::number(BMax(a.constData(), b.constData())), "larger");
     }
 };
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/bignum.h"
 
-#include <QTest>
+#include "TextTable.h"
+
 #include <gmpxx.h>
 #include <random>
 #include <string>
@@ -71,41 +72,22 @@ private Q_SLOTS:
 
     void values_data()
     {
-        QTest::addColumn<int>("precision");
-        QTest::addColumn<QByteArray>("rational");
-        QTest::addColumn<QByteArray>("expected");
-        const auto row = [](const char *name, int precision, const char *rational,
-                            const char *expected) {
-            QTest::newRow(name) << precision << QByteArray(rational) << QByteArray(expected);
-        };
-        row("whole", 5, "1234567", "1234567");
-        row("zero", 5, "0", "0");
-        row("exact", 100, "-49/4", "-12.25");
-        row("below one", 100, "1/2", "0.5");
-        row("third", 5, "1/3", "0.33333");
-        row("two thirds", 5, "-2/3", "-0.66667");
-        row("zeros do not count", 3, "1/700000", "0.00000143");
-        row("digits of 65 are guessed as three", 2, "7/65", "0.11");
-        row("carry", 3, "9996/10000", "1");
-        row("carry to the left", 3, "99996/1000", "100");
-        row("tie to even, down", 2, "25/1000", "0.025");
-        row("tie to even 1", 1, "25/100", "0.2");
-        row("tie to even 2", 1, "35/100", "0.4");
-        row("just above a tie", 1, "2500000001/10000000000", "0.3");
-        row("integer part is whole", 3, "123456/10", "12346");
-        row("tie of the integer part", 1, "25/2", "12");
-        row("precision 0 is 1", 0, "1/3", "0.3");
-        row("precision -5 is 1", -5, "1/3", "0.3");
-        row("no trailing zeros", 5, "10000001/100000000", "0.1");
-        row("not a number", 5, "1/0", "fails");
-        row("negative denominator", 5, "1/-2", "fails");
-        row("text", 5, "x", "fails");
+        addTable({"precision", "rational", "expected"}, R"(
+exact:  5 = 1234567  5 = 0  100 = -49/4 = -12.25  100 = 1/2 = 0.5  5 = 10000001/100000000 = 0.1
+rounded:  5 = 1/3 = 0.33333  5 = -2/3 = -0.66667  3 = 123456/10 = 12346
+zeros do not count:  3 = 1/700000 = 0.00000143
+digits of 65 are guessed as three:  2 = 7/65 = 0.11
+carries:  3 = 9996/10000 = 1  3 = 99996/1000 = 100
+ties:  2 = 25/1000 = 0.025  1 = 25/100 = 0.2  1 = 35/100 = 0.4  1 = 25/2 = 12
+just above a tie:  1 = 2500000001/10000000000 = 0.3
+precisions below 1:  0 = 1/3 = 0.3  -5 = 1/3 = 0.3
+no values:  5 = 1/0 = fails  5 = 1/-2 = fails  5 = x = fails)");
     }
     void values()
     {
-        QFETCH(int, precision);
+        QFETCH(QByteArray, precision);
         QFETCH(QByteArray, rational);
-        InitBignum(precision);
+        InitBignum(precision.toInt());
         QTEST(QByteArray::fromStdString(decimal(rational.toStdString())), "expected");
     }
 

@@ -4,9 +4,20 @@
 #include "bignum/gateway/ModBignum.h"
 #include "bignum/gateway/Windows1252.h"
 
-#include <QTest>
+#include "../TextTable.h"
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A column of the row under test.
+QString enTexto(const char *columna)
+{
+    return QString::fromUtf8(
+        *static_cast<QByteArray *>(QTest::qData(columna, qMetaTypeId<QByteArray>())));
+}
+
+} // namespace
 
 class TestModBignum : public QObject
 {
@@ -22,59 +33,48 @@ private Q_SLOTS:
 
     void mod_data()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<QString>("reescrito");
-        QTest::addColumn<QString>("valor");
-        QTest::newRow("blanks") << u"7 mod 3"_s << u"7 % 3"_s << u"1"_s;
-        QTest::newRow("digits") << u"2mod3"_s << u"2%3"_s << u"2"_s;
-        QTest::newRow("brackets, capitals") << u"(7)MOD(3)"_s << u"(7)%(3)"_s << u"1"_s;
-        QTest::newRow("letter before") << u"2amod3"_s << u"2amod3"_s << u"Error"_s;
-        QTest::newRow("letter behind") << u"2 modo 3"_s << u"2 modo 3"_s << u"Error"_s;
-        QTest::newRow("two are skipped") << u"7mod3mod2"_s << u"7%3mod2"_s << u"Error"_s;
-        QTest::newRow("far enough apart") << u"77mod30 mod2"_s << u"77%30 %2"_s << u"1"_s;
-        QTest::newRow("at the end") << u"7 mod"_s << u"7 %"_s << u"Error"_s;
-        QTest::newRow("line break") << u"7\r\nmod\r\n3"_s << u"7\r\n%\r\n3"_s << u"1"_s;
-        QTest::newRow("modular power")
-            << u"(57666)^(26829) mod (67591)"_s << u"(57666)^(26829) % (67591)"_s << u"72"_s;
+        addTable({"texto", "reescrito", "valor"}, R"(
+7 mod 3 = 7 % 3 = 1  2mod3 = 2%3 = 2  (7)MOD(3) = (7)%(3) = 1  7 mod = 7 % = Error
+letters:  2amod3 = 2amod3 = Error  2 modo 3 = 2 modo 3 = Error
+two:  7mod3mod2 = 7%3mod2 = Error  77mod30 mod2 = 77%30 %2 = 1
+(57666)^(26829) mod (67591) = (57666)^(26829) % (67591) = 72)");
+        QTest::newRow("line break") << "7\r\nmod\r\n3"_ba
+                                    << "7\r\n%\r\n3"_ba
+                                    << "1"_ba;
     }
     void mod()
     {
-        QFETCH(QString, texto);
-        QTEST(Evalua(texto), "valor");
-        QTEST(texto, "reescrito");
+        QString texto = enTexto("texto");
+        QCOMPARE(Evalua(texto), enTexto("valor"));
+        QCOMPARE(texto, enTexto("reescrito"));
     }
 
     void modAlPrincipio()
     {
         for (const QString &texto : {u"mod 5"_s, u"MODO"_s, u"mod"_s}) {
+            int numero = 0;
             try {
                 (void)Evalua(QString(texto));
-                QFAIL("no error");
             } catch (const ErrorEjecucion &error) {
-                QCOMPARE(error.numero(), ErrorEjecucion::ArgumentoNoValido);
+                numero = error.numero();
             }
+            QCOMPARE(numero, ErrorEjecucion::ArgumentoNoValido);
         }
         QCOMPARE(Evalua(u" mod 5"_s), u"Error"_s);
     }
 
     void evalua_data()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<QString>("racional");
-        QTest::addColumn<QString>("entero");
-        QTest::newRow("empty") << QString() << QString() << QString();
-        QTest::newRow("blanks") << u" \t "_s << QString() << QString();
-        QTest::newRow("sign first") << u"-3+1"_s << u"-2"_s << u"-2"_s;
-        QTest::newRow("quotient") << u"7/2"_s << u"7/2"_s << u"3"_s;
-        QTest::newRow("unbalanced") << u"1)+(2"_s << u"3"_s << u"3"_s;
-        QTest::newRow("no character of the library") << u"1+日"_s << u"Error"_s << u"Error"_s;
-        QTest::newRow("accents") << u"raíz(17)"_s << u"4"_s << u"4"_s;
+        addTable({"texto", "racional", "entero"}, R"(
+'' = ''  -3+1 = -2  7/2 = 7/2 = 3  1)+(2 = 3  1+日 = Error  raíz(17) = 4)");
+        QTest::newRow("blanks") << " \t "_ba
+                                << ""_ba
+                                << ""_ba;
     }
     void evalua()
     {
-        QFETCH(QString, texto);
-        QTEST(Evalua(QString(texto)), "racional");
-        QTEST(Evalua(QString(texto), {}, Aritmetica::Entera), "entero");
+        QCOMPARE(Evalua(enTexto("texto")), enTexto("racional"));
+        QCOMPARE(Evalua(enTexto("texto"), {}, Aritmetica::Entera), enTexto("entero"));
     }
 
     void cotas()
@@ -87,33 +87,24 @@ private Q_SLOTS:
         QCOMPARE(Evalua(u"-10^50"_s, u"2000"_s), u"-1"_s + QString(50, u'0'));
         QCOMPARE(Evalua(u"1/0"_s, u"2000"_s), u"Error"_s);
         QCOMPARE(m_avisos.size(), 2);
+        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
+                                 (void)EvaluaMoneda(u"-10^20"_s, Moneda::deEntero(5)));
     }
 
     void evaluaMoneda_data()
     {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<qint64>("diezmilesimas");
-        QTest::newRow("whole") << u"2^10"_s << qint64(10240000);
-        QTest::newRow("two digits, then a fraction") << u"49/4"_s << qint64(122500);
-        QTest::newRow("one digit over a denominator") << u"1/2"_s << qint64(0);
-        QTest::newRow("sign and digit") << u"-7/2"_s << qint64(-35000);
-        QTest::newRow("empty") << QString() << qint64(0);
-        QTest::newRow("invalid") << u"2+"_s << qint64(0);
-        QTest::newRow("bound with decimals") << u"1000001/10"_s << qint64(0);
-        QTest::newRow("just below it") << u"1000000/10"_s << qint64(1000000000);
+        // A fraction wants two digits, or a sign and one; the last but one reaches the bound.
+        addTable({"texto", "diezmilesimas"}, R"(
+2^10 = 10240000  49/4 = 122500  1/2 = 0  -7/2 = -35000  '' = 0  2+ = 0
+1000001/10 = 0  1000000/10 = 1000000000)");
     }
     void evaluaMoneda()
     {
-        QFETCH(QString, texto);
+        QString texto = enTexto("texto");
         const Moneda cota = Moneda::deDiezmilesimas(1'000'000'500);
-        QTEST(qint64(EvaluaMoneda(texto, cota).diezmilesimas()), "diezmilesimas");
+        const auto valor = EvaluaMoneda(texto, cota).diezmilesimas();
+        QCOMPARE(QString::number(valor), enTexto("diezmilesimas"));
         QCOMPARE(m_avisos, texto == u"1000001/10"_s ? QStringList{u"100000,05"_s} : QStringList());
-    }
-
-    void evaluaMonedaPorDebajo()
-    {
-        QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
-                                 (void)EvaluaMoneda(u"-10^20"_s, Moneda::deEntero(5)));
     }
 
     void decimales()
@@ -171,35 +162,24 @@ private Q_SLOTS:
         QCOMPARE(Factoriza(u"6"_s, uno, otro), 0);
     }
 
-    void buscaFactores_data()
-    {
-        QTest::addColumn<QString>("n");
-        QTest::addColumn<FinDeFactores>("fin");
-        QTest::addColumn<QString>("hallados");
-        const auto fila = [](const char *n, FinDeFactores fin, const char *hallados) {
-            QTest::newRow(n) << QString::fromLatin1(n) << fin << QString::fromLatin1(hallados);
-        };
-        fila("360", FinDeFactores::TodosPrimos, "2^3 3^2 5^1");
-        fila("1", FinDeFactores::TodosPrimos, "");
-        fila("1/2", FinDeFactores::NoEsNumero, "");
-        fila("30030", FinDeFactores::Detenido, "2^1 3^1 5^1 7^1"); // the receiver wants no more
-    }
     void buscaFactores()
     {
-        QFETCH(const QString, n);
-        QFETCH(const FinDeFactores, fin);
-        QStringList hallados;
-        QCOMPARE(BuscaFactores(n,
-                               [&](const FactorHallado &factor) {
-                                   hallados += u"%1^%2"_s.arg(factor.base).arg(factor.exponente);
-                                   return factor.primo && hallados.size() < 4;
-                               }),
-                 fin);
-        QTEST(hallados.join(u' '), "hallados");
-    }
-
-    void buscaFactoresDejaPasarLoQueSeLanza()
-    {
+        QString hallados;
+        const auto toma = [&](const FactorHallado &factor) {
+            hallados += u"%1^%2 "_s.arg(factor.base).arg(factor.exponente);
+            return factor.primo && hallados.size() < 16;
+        };
+        const auto busca = [&](const QString &n) {
+            hallados.clear();
+            return BuscaFactores(n, toma);
+        };
+        QCOMPARE(busca(u"360"_s), FinDeFactores::TodosPrimos);
+        QCOMPARE(hallados, u"2^3 3^2 5^1 "_s);
+        QCOMPARE(busca(u"1"_s), FinDeFactores::TodosPrimos);
+        QCOMPARE(hallados, QString());
+        QCOMPARE(busca(u"1/2"_s), FinDeFactores::NoEsNumero);
+        QCOMPARE(busca(u"30030"_s), FinDeFactores::Detenido); // the receiver wants no more
+        QCOMPARE(hallados, u"2^1 3^1 5^1 7^1 "_s);
         const auto lanza = [](const FactorHallado &) -> bool {
             throw ErrorEjecucion(ErrorEjecucion::DivisionPorCero);
         };
@@ -210,10 +190,8 @@ private Q_SLOTS:
     {
         QVERIFY(EsTextoLegible(QString()));
         QVERIFY(EsTextoLegible(u"¿Qué tal? 5 €\r\n\t—"_s));
-        QVERIFY(!EsTextoLegible(u"日本"_s));
-        QVERIFY(!EsTextoLegible(QString(QChar(7))));
-        QVERIFY(!EsTextoLegible(QString(QChar(0))));
-        QVERIFY(!EsTextoLegible(QString(QChar(0x81))));
+        for (const QChar ilegible : {QChar(u'日'), QChar(7), QChar(0), QChar(0x81)})
+            QVERIFY(!EsTextoLegible(ilegible));
         QByteArray todos;
         for (int i = 0; i < 256; ++i)
             todos += static_cast<char>(i);

@@ -63,211 +63,182 @@ class TestSieveMatrix : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void dependencyByDefinition();
-    void blocksMultiply();
-    void gauss_data();
-    void gauss();
-    void lanczos_data();
-    void lanczos();
-    void lanczosEndsWithoutDependencies();
-    void filterKeepsDependencies_data();
-    void filterKeepsDependencies();
-    void stops();
-    void squaresSplit_data();
-    void squaresSplit();
-    void noSquareFromOddPowers();
-};
+    void dependencyByDefinition()
+    {
+        const SparseMatrix matrix{3, {{0, 1}, {1, 2}, {0, 2}, {}}};
+        QVERIFY(isDependency(matrix, {0, 1, 2}));
+        QVERIFY(isDependency(matrix, {3}));
+        QVERIFY(!isDependency(matrix, {0, 1}));
+        QVERIFY(!isDependency(matrix, {}));
+    }
 
-void TestSieveMatrix::dependencyByDefinition()
-{
-    const SparseMatrix matrix{3, {{0, 1}, {1, 2}, {0, 2}, {}}};
-    QVERIFY(isDependency(matrix, {0, 1, 2}));
-    QVERIFY(isDependency(matrix, {3}));
-    QVERIFY(!isDependency(matrix, {0, 1}));
-    QVERIFY(!isDependency(matrix, {}));
-}
-
-void TestSieveMatrix::blocksMultiply()
-{
-    std::mt19937_64 random(3);
-    Block a;
-    Block b;
-    std::ranges::generate(a, random);
-    std::ranges::generate(b, random);
-    const Block product = a * b;
-    const BlockMultiplier timesB(b);
-    BlockVector v(a.begin(), a.end());
-    BlockVector w(b.begin(), b.end());
-    const Block transposed = transposedProduct(v, w);
-    for (std::size_t i = 0; i < 64; ++i) {
-        QCOMPARE(timesB(a[i]), product[i]);
-        for (std::size_t j = 0; j < 64; ++j) {
-            std::uint64_t rowByColumn = 0;
-            std::uint64_t columnByColumn = 0;
-            for (std::size_t k = 0; k < 64; ++k) {
-                rowByColumn ^= a[i] >> k & b[k] >> j & 1;
-                columnByColumn ^= a[k] >> i & b[k] >> j & 1;
+    void blocksMultiply()
+    {
+        std::mt19937_64 random(3);
+        Block a;
+        Block b;
+        std::ranges::generate(a, random);
+        std::ranges::generate(b, random);
+        const Block product = a * b;
+        const BlockMultiplier timesB(b);
+        BlockVector v(a.begin(), a.end());
+        BlockVector w(b.begin(), b.end());
+        const Block transposed = transposedProduct(v, w);
+        for (std::size_t i = 0; i < 64; ++i) {
+            QCOMPARE(timesB(a[i]), product[i]);
+            for (std::size_t j = 0; j < 64; ++j) {
+                std::uint64_t rowByColumn = 0;
+                std::uint64_t columnByColumn = 0;
+                for (std::size_t k = 0; k < 64; ++k) {
+                    rowByColumn ^= a[i] >> k & b[k] >> j & 1;
+                    columnByColumn ^= a[k] >> i & b[k] >> j & 1;
+                }
+                QCOMPARE(product[i] >> j & 1, rowByColumn);
+                QCOMPARE(transposed[i] >> j & 1, columnByColumn);
             }
-            QCOMPARE(product[i] >> j & 1, rowByColumn);
-            QCOMPARE(transposed[i] >> j & 1, columnByColumn);
         }
     }
-}
 
-void TestSieveMatrix::gauss_data()
-{
-    QTest::addColumn<SparseMatrix>("matrix");
-    QTest::addColumn<std::size_t>("least");
-    QTest::newRow("empty") << SparseMatrix{} << std::size_t{0};
-    QTest::newRow("zero columns") << SparseMatrix{2, {{}, {}}} << std::size_t{2};
-    QTest::newRow("identity") << SparseMatrix{3, {{0}, {1}, {2}}} << std::size_t{0};
-    QTest::newRow("two equal") << SparseMatrix{3, {{0, 2}, {1}, {0, 2}}} << std::size_t{1};
-    for (const std::size_t rows : {1UL, 63UL, 64UL, 65UL, 500UL})
-        QTest::addRow("%zu rows", rows) << sieveLike(rows, rows + 20, 4) << std::size_t{20};
-}
-
-void TestSieveMatrix::gauss()
-{
-    QFETCH(const SparseMatrix, matrix);
-    QFETCH(const std::size_t, least);
-    const auto found = gaussianDependencies(matrix, kNoStop);
-    QVERIFY(found.size() >= least);
-    QVERIFY(areDependencies(matrix, found));
-}
-
-void TestSieveMatrix::lanczos_data()
-{
-    QTest::addColumn<std::size_t>("rows");
-    QTest::addColumn<std::size_t>("columns");
-    QTest::newRow("some hundred") << std::size_t{400} << std::size_t{440};
-    QTest::newRow("thousand") << std::size_t{1000} << std::size_t{1040};
-    QTest::newRow("few to spare") << std::size_t{2000} << std::size_t{2010};
-    QTest::newRow("many to spare") << std::size_t{1000} << std::size_t{1500};
-}
-
-void TestSieveMatrix::lanczos()
-{
-    QFETCH(const std::size_t, rows);
-    QFETCH(const std::size_t, columns);
-    const SparseMatrix matrix = sieveLike(rows, columns, 5);
-    int successes = 0;
-    for (std::uint64_t seed = 1; seed <= 10; ++seed) {
-        const auto found = lanczosDependencies(matrix, seed, kNoStop);
+    void gauss_data()
+    {
+        QTest::addColumn<SparseMatrix>("matrix");
+        QTest::addColumn<std::size_t>("least");
+        QTest::newRow("empty") << SparseMatrix{} << std::size_t{0};
+        QTest::newRow("zero columns") << SparseMatrix{2, {{}, {}}} << std::size_t{2};
+        QTest::newRow("identity") << SparseMatrix{3, {{0}, {1}, {2}}} << std::size_t{0};
+        QTest::newRow("two equal") << SparseMatrix{3, {{0, 2}, {1}, {0, 2}}} << std::size_t{1};
+        for (const std::size_t rows : {1UL, 63UL, 64UL, 65UL, 500UL})
+            QTest::addRow("%zu rows", rows) << sieveLike(rows, rows + 20, 4) << std::size_t{20};
+    }
+    void gauss()
+    {
+        QFETCH(const SparseMatrix, matrix);
+        QFETCH(const std::size_t, least);
+        const auto found = gaussianDependencies(matrix, kNoStop);
+        QVERIFY(found.size() >= least);
         QVERIFY(areDependencies(matrix, found));
-        successes += found.size() >= 10 ? 1 : 0;
     }
-    QVERIFY2(successes >= 6, std::to_string(successes).c_str());
-    QVERIFY(dependenciesOf(matrix, kNoStop).size() >= 10);
-}
 
-void TestSieveMatrix::lanczosEndsWithoutDependencies()
-{
-    SparseMatrix matrix{2000, {}};
-    for (std::uint32_t row = 0; row < 2000; ++row)
-        matrix.columns.push_back(row == 0 ? std::vector{row} : std::vector{row - 1, row});
-    for (std::uint64_t seed = 1; seed <= 5; ++seed)
-        QVERIFY(lanczosDependencies(matrix, seed, kNoStop).empty());
-    QVERIFY(dependenciesOf(matrix, kNoStop).empty());
-}
-
-void TestSieveMatrix::filterKeepsDependencies_data()
-{
-    QTest::addColumn<SparseMatrix>("matrix");
-    QTest::newRow("empty") << SparseMatrix{};
-    QTest::newRow("no ones") << SparseMatrix{2, {{}, {}, {}}};
-    QTest::newRow("singletons all the way") << SparseMatrix{4, {{0}, {0, 1}, {1, 2}, {2, 3}}};
-    QTest::newRow("small") << sieveLike(50, 90, 6);
-    QTest::newRow("few to spare") << sieveLike(2000, 2030, 7);
-    QTest::newRow("many to spare") << sieveLike(2000, 2500, 8);
-}
-
-void TestSieveMatrix::filterKeepsDependencies()
-{
-    QFETCH(const SparseMatrix, matrix);
-    const FilteredMatrix small = filtered(matrix, kNoStop);
-    QCOMPARE(small.sources.size(), small.matrix.columns.size());
-    QVERIFY(small.matrix.columns.size() <= matrix.columns.size());
-    // The excess is kept up to its bound: the dependencies of one are those of the other.
-    const std::size_t excess =
-        std::min(kExcess, matrix.columns.size() - std::min(matrix.columns.size(), matrix.rows));
-    QVERIFY(small.matrix.columns.size() >= small.matrix.rows + excess);
-
-    std::vector<Dependency> found;
-    for (const Dependency &dependency : gaussianDependencies(small.matrix, kNoStop)) {
-        Dependency columns;
-        for (const std::uint32_t column : dependency)
-            columns = sumOf(columns, small.sources[column]);
-        found.push_back(columns);
+    void lanczos()
+    {
+        using Size = std::pair<std::size_t, std::size_t>;
+        for (const auto &[rows, columns] :
+             {Size(400, 440), Size(1000, 1040), Size(2000, 2010), Size(1000, 1500)}) {
+            const SparseMatrix matrix = sieveLike(rows, columns, 5);
+            int successes = 0;
+            for (std::uint64_t seed = 1; seed <= 10; ++seed) {
+                const auto found = lanczosDependencies(matrix, seed, kNoStop);
+                QVERIFY(areDependencies(matrix, found));
+                successes += found.size() >= 10 ? 1 : 0;
+            }
+            QVERIFY2(successes >= 6, std::to_string(successes).c_str());
+            QVERIFY(dependenciesOf(matrix, kNoStop).size() >= 10);
+        }
     }
-    QVERIFY(found.size() >= excess);
-    QVERIFY(areDependencies(matrix, found));
-}
 
-void TestSieveMatrix::stops()
-{
-    const SparseMatrix matrix = sieveLike(2000, 2040, 9);
-    QVERIFY(gaussianDependencies(matrix, kStopped).empty());
-    QVERIFY(lanczosDependencies(matrix, 1, kStopped).empty());
-    QVERIFY(dependenciesOf(matrix, kStopped).empty());
-    filtered(matrix, kStopped);
-}
-
-void TestSieveMatrix::squaresSplit_data()
-{
-    QTest::addColumn<std::string>("number");
-    QTest::addColumn<std::size_t>("parts");
-    const auto row = [](const char *name, const std::string &number, std::size_t count) {
-        QTest::newRow(name) << number << count;
-    };
-    row("two primes", "100000980001501", 2);
-    row("three primes", "1005306552331", 3);
-    row("the square of a prime", "1000006000009", 1);
-}
-
-void TestSieveMatrix::squaresSplit()
-{
-    QFETCH(const std::string, number);
-    QFETCH(const std::size_t, parts);
-    const NaiveRelations naive(mpz_class(number), 80, 60000, 10000);
-    const auto sets = relationSets(naive.store, kNoStop);
-    const FilteredMatrix small =
-        filtered(parityMatrix(naive.store, sets, naive.primes.size(), kNoStop), kNoStop);
-    const auto found = gaussianDependencies(small.matrix, kNoStop);
-    QVERIFY(found.size() >= 20);
-    SplitNumber split(naive.n);
-    for (const Dependency &dependency : found) {
-        RelationSet relations;
-        for (const std::uint32_t column : dependency)
-            for (const std::uint32_t set : small.sources[column])
-                relations.insert(relations.end(), sets[set].begin(), sets[set].end());
-        reduceToOddOnes(relations);
-        const auto squares = congruentSquares(naive.store, relations, naive.primes, naive.n);
-        QVERIFY(squares);
-        QVERIFY((squares->x * squares->x - squares->y * squares->y) % naive.n == 0);
-        split.splitBy(*squares);
+    void lanczosEndsWithoutDependencies()
+    {
+        SparseMatrix matrix{2000, {}};
+        for (std::uint32_t row = 0; row < 2000; ++row)
+            matrix.columns.push_back(row == 0 ? std::vector{row} : std::vector{row - 1, row});
+        for (std::uint64_t seed = 1; seed <= 5; ++seed)
+            QVERIFY(lanczosDependencies(matrix, seed, kNoStop).empty());
+        QVERIFY(dependenciesOf(matrix, kNoStop).empty());
     }
-    mpz_class product = 1;
-    for (const mpz_class &part : split.parts())
-        product *= part;
-    QVERIFY(product == naive.n);
-    QCOMPARE(split.parts().size(), parts);
-    QCOMPARE(split.isComplete(), parts > 1);
-}
 
-void TestSieveMatrix::noSquareFromOddPowers()
-{
-    const mpz_class n = 1649; // 41^2 = 32 = 2^5 and 43^2 = 200 = 2^3 5^2
-    const std::vector<std::uint32_t> primes{1, 2, 5};
-    RelationStore store(n);
-    store.add(std::vector<Relation>{{41, {1, 1, 1, 1, 1}, {1, 1}},
-                                    {43, {1, 1, 1, 2, 2}, {1, 1}},
-                                    {44, {1, 1, 1, 1, 1}, {1, 1}}});
-    using Numbers = std::vector<std::uint32_t>;
-    QVERIFY(congruentSquares(store, Numbers{0, 1}, primes, n));
-    QVERIFY(!congruentSquares(store, Numbers{0}, primes, n));
-    QVERIFY2(!congruentSquares(store, Numbers{1, 2}, primes, n), "44^2 is not 32");
-}
+    void filterKeepsDependencies_data()
+    {
+        QTest::addColumn<SparseMatrix>("matrix");
+        QTest::newRow("empty") << SparseMatrix{};
+        QTest::newRow("no ones") << SparseMatrix{2, {{}, {}, {}}};
+        QTest::newRow("singletons all the way") << SparseMatrix{4, {{0}, {0, 1}, {1, 2}, {2, 3}}};
+        QTest::newRow("small") << sieveLike(50, 90, 6);
+        QTest::newRow("few to spare") << sieveLike(2000, 2030, 7);
+        QTest::newRow("many to spare") << sieveLike(2000, 2500, 8);
+    }
+    void filterKeepsDependencies()
+    {
+        QFETCH(const SparseMatrix, matrix);
+        const FilteredMatrix small = filtered(matrix, kNoStop);
+        QCOMPARE(small.sources.size(), small.matrix.columns.size());
+        QVERIFY(small.matrix.columns.size() <= matrix.columns.size());
+        // The excess is kept up to its bound: the dependencies of one are those of the other.
+        const std::size_t excess =
+            std::min(kExcess, matrix.columns.size() - std::min(matrix.columns.size(), matrix.rows));
+        QVERIFY(small.matrix.columns.size() >= small.matrix.rows + excess);
+
+        std::vector<Dependency> found;
+        for (const Dependency &dependency : gaussianDependencies(small.matrix, kNoStop)) {
+            Dependency columns;
+            for (const std::uint32_t column : dependency)
+                columns = sumOf(columns, small.sources[column]);
+            found.push_back(columns);
+        }
+        QVERIFY(found.size() >= excess);
+        QVERIFY(areDependencies(matrix, found));
+    }
+
+    void stops()
+    {
+        const SparseMatrix matrix = sieveLike(2000, 2040, 9);
+        QVERIFY(gaussianDependencies(matrix, kStopped).empty());
+        QVERIFY(lanczosDependencies(matrix, 1, kStopped).empty());
+        QVERIFY(dependenciesOf(matrix, kStopped).empty());
+        filtered(matrix, kStopped);
+    }
+
+    void squaresSplit_data()
+    {
+        QTest::addColumn<std::string>("number");
+        QTest::addColumn<std::size_t>("parts");
+        QTest::newRow("two primes") << std::string("100000980001501") << std::size_t{2};
+        QTest::newRow("three primes") << std::string("1005306552331") << std::size_t{3};
+        QTest::newRow("the square of a prime") << std::string("1000006000009") << std::size_t{1};
+    }
+    void squaresSplit()
+    {
+        QFETCH(const std::string, number);
+        QFETCH(const std::size_t, parts);
+        const NaiveRelations naive(mpz_class(number), 80, 60000, 10000);
+        const auto sets = relationSets(naive.store, kNoStop);
+        const FilteredMatrix small =
+            filtered(parityMatrix(naive.store, sets, naive.primes.size(), kNoStop), kNoStop);
+        const auto found = gaussianDependencies(small.matrix, kNoStop);
+        QVERIFY(found.size() >= 20);
+        SplitNumber split(naive.n);
+        for (const Dependency &dependency : found) {
+            RelationSet relations;
+            for (const std::uint32_t column : dependency)
+                for (const std::uint32_t set : small.sources[column])
+                    relations.insert(relations.end(), sets[set].begin(), sets[set].end());
+            reduceToOddOnes(relations);
+            const auto squares = congruentSquares(naive.store, relations, naive.primes, naive.n);
+            QVERIFY(squares);
+            QVERIFY((squares->x * squares->x - squares->y * squares->y) % naive.n == 0);
+            split.splitBy(*squares);
+        }
+        mpz_class product = 1;
+        for (const mpz_class &part : split.parts())
+            product *= part;
+        QVERIFY(product == naive.n);
+        QCOMPARE(split.parts().size(), parts);
+        QCOMPARE(split.isComplete(), parts > 1);
+    }
+
+    void noSquareFromOddPowers()
+    {
+        const mpz_class n = 1649; // 41^2 = 32 = 2^5 and 43^2 = 200 = 2^3 5^2
+        const std::vector<std::uint32_t> primes{1, 2, 5};
+        RelationStore store(n);
+        store.add(std::vector<Relation>{{41, {1, 1, 1, 1, 1}, {1, 1}},
+                                        {43, {1, 1, 1, 2, 2}, {1, 1}},
+                                        {44, {1, 1, 1, 1, 1}, {1, 1}}});
+        using Numbers = std::vector<std::uint32_t>;
+        QVERIFY(congruentSquares(store, Numbers{0, 1}, primes, n));
+        QVERIFY(!congruentSquares(store, Numbers{0}, primes, n));
+        QVERIFY2(!congruentSquares(store, Numbers{1, 2}, primes, n), "44^2 is not 32");
+    }
+};
 
 QTEST_APPLESS_MAIN(TestSieveMatrix)
-
 #include "tst_SieveMatrix.moc"
