@@ -169,8 +169,8 @@ private Q_SLOTS:
         if (aviso.isEmpty())
             QVERIFY(Entorno::grabadora().mensajes.isEmpty());
         else
-            QCOMPARE(Entorno::grabadora().unico().texto.remove(u"El mayor número permitido es "_s),
-                     aviso);
+            QCOMPARE(Entorno::grabadora().unico().texto,
+                     aviso.front().isDigit() ? u"El mayor número permitido es "_s + aviso : aviso);
         if (!texto.isEmpty())
             QCOMPARE(empiezaAEditar(2)->text(), texto);
         edita(2, u"46"_s);
