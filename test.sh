@@ -21,4 +21,5 @@ ctest --preset tsan --parallel "$(nproc)"
 
 cmake --preset ci
 cmake --build --preset ci
+scripts/tidy.sh
 ctest --preset ci --parallel "$(nproc)"

@@ -2,10 +2,10 @@
 # Looks with clang-tidy for what compilers do not tell (.clang-tidy). Usage:
 #   scripts/tidy.sh [--build DIR] [REF]   sources that differ from REF, HEAD~1 unless told
 #   scripts/tidy.sh [--build DIR] --all   every source: some ten minutes on two cores
-# DIR is a build with its compile_commands.json and its generated headers; build/ci unless told.
+# DIR is a build with its compile_commands.json and its generated headers; build/release unless told.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-carpeta=build/ci
+carpeta=build/release
 if [ "${1:-}" = --build ]; then
     carpeta=$2
     shift 2
