@@ -14,7 +14,7 @@ if(NUMORA_SANITIZE)
     target_compile_options(numora_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     target_link_options(numora_options INTERFACE -fsanitize=address,undefined)
-    # clang 14 cannot place what it checks calls through pointers by into the parts of a coroutine.
+    # clang 14 cannot compile coroutines with its check of calls through pointers.
     target_compile_options(numora_options INTERFACE
         $<$<CXX_COMPILER_ID:Clang>:-fno-sanitize=function>)
     # g++ loses track of what is initialised in instrumented code; the plain build keeps the warning.
