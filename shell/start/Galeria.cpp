@@ -127,9 +127,9 @@ private:
             return;
         abreTema(*leccion->findChild<QTabBar *>(u"tsTema"_s), escena.tema);
         espera(50ms);
-        for (const Paso &paso : escena.pasos) {
+        for (const Gesto &gesto : escena.gestos) {
             esperaCorridas(*leccion);
-            da(paso, *leccion);
+            da(gesto, *leccion);
         }
         if (!escena.durante)
             esperaCorridas(*leccion);
@@ -148,29 +148,29 @@ private:
         }
     }
 
-    static void da(const Paso &paso, const QWidget &ventana)
+    static void da(const Gesto &gesto, const QWidget &ventana)
     {
-        auto *control = ventana.findChild<QWidget *>(paso.control);
-        if (paso.valor.endsWith(u'\n')) {
-            da({paso.control, paso.valor.chopped(1)}, ventana);
+        auto *control = ventana.findChild<QWidget *>(gesto.control);
+        if (gesto.valor.endsWith(u'\n')) {
+            da({gesto.control, gesto.valor.chopped(1)}, ventana);
             QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
             QCoreApplication::sendEvent(control, &intro);
         } else if (auto *tira = qobject_cast<QTabBar *>(control))
-            abreTema(*tira, paso.valor);
+            abreTema(*tira, gesto.valor);
         else if (auto *lista = qobject_cast<QComboBox *>(control))
-            lista->setCurrentText(paso.valor);
+            lista->setCurrentText(gesto.valor);
         else if (auto *campo = qobject_cast<QLineEdit *>(control))
-            campo->setText(paso.valor);
+            campo->setText(gesto.valor);
         else if (auto *texto = qobject_cast<QPlainTextEdit *>(control))
-            texto->setPlainText(paso.valor);
+            texto->setPlainText(gesto.valor);
         else if (auto *boton = qobject_cast<QAbstractButton *>(control))
             boton->click();
         else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
-            escribe(*rejilla, paso.valor);
+            escribe(*rejilla, gesto.valor);
         else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
-            pestanas->setCurrentIndex(paso.valor.toInt());
+            pestanas->setCurrentIndex(gesto.valor.toInt());
         else
-            qWarning("no such control in the scene: %s", qPrintable(paso.control));
+            qWarning("no such control in the scene: %s", qPrintable(gesto.control));
     }
 
     /// "row,column:text", or "row,column" for the cell to become current; both counted from 0.
