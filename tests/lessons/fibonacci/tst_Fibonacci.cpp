@@ -7,11 +7,7 @@
 #include "lessons/fibonacci/Zeckendorf.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QRegularExpression>
-#include <QSet>
 #include <cmath>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The logic of the lesson on the Fibonacci numbers.
 class TestFibonacci : public QObject
