@@ -6,9 +6,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// A few cells of every kind: short and long results, fractions, decimals, an error.
-QList<Paso> hojaDeMuestra()
+QList<Gesto> hojaDeMuestra()
 {
-    const auto en = [](const QString &casillaYTexto) { return Paso{u"FlexCalc"_s, casillaYTexto}; };
+    const auto en = [](const QString &casillaYTexto) {
+        return Gesto{u"FlexCalc"_s, casillaYTexto};
+    };
     return {en(u"0,0:1"_s),
             en(u"1,0:(A1+2/A1)/2"_s),
             en(u"2,0:(A2+2/A2)/2"_s),
@@ -21,7 +23,7 @@ QList<Paso> hojaDeMuestra()
             en(u"2,3:fib(100)"_s),
             en(u"0,4:1/7"_s),
             en(u"0,4"_s),
-            Paso{u"ValorDecimal"_s, {}},
+            Gesto{u"ValorDecimal"_s, {}},
             en(u"1,1:A4^2-2"_s),
             en(u"3,0"_s)};
 }
@@ -30,10 +32,10 @@ QList<Paso> hojaDeMuestra()
 
 QList<Escena> escenasMiniCal()
 {
-    QList<Paso> expresiones = hojaDeMuestra();
-    expresiones << Paso{u"MostrarExpresiones"_s, {}};
-    QList<Paso> enElError = hojaDeMuestra();
-    enElError << Paso{u"FlexCalc"_s, u"1,3"_s};
+    QList<Gesto> expresiones = hojaDeMuestra();
+    expresiones << Gesto{u"MostrarExpresiones"_s, {}};
+    QList<Gesto> enElError = hojaDeMuestra();
+    enElError << Gesto{u"FlexCalc"_s, u"1,3"_s};
     return {{u"minical-vacia"_s, u"hoja"_s},
             {u"minical-resultados"_s, u"hoja"_s, hojaDeMuestra()},
             {u"minical-expresiones"_s, u"hoja"_s, expresiones},

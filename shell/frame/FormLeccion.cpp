@@ -8,6 +8,8 @@
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/NavegadorPagina.h"
 #include "shell/look/Aspecto.h"
+#include "shell/steps/PanelDePasos.h"
+#include "shell/steps/SeparadorDePasos.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -18,14 +20,23 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Whether the user wants to see steps, in whatever lesson.
+const QString ClaveDePasos = u"Pasos/Visibles"_s;
+
+} // namespace
 
 FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     : QWidget(padre),
       m_pagina(pagina),
       m_tsTema(new QTabBar(this)),
+      m_cmdPasos(new QToolButton(this)),
       m_paneles(new QStackedWidget(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -36,10 +47,27 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     auto *columna = new QVBoxLayout(this);
     columna->setContentsMargins(0, Aspecto::Espacio / 2, 0, 0);
     columna->setSpacing(0);
-    columna->addWidget(m_tsTema);
+    auto *tira = new QHBoxLayout;
+    tira->setContentsMargins(0, 0, Aspecto::Espacio / 2, 0);
+    tira->addWidget(m_tsTema, 1);
+    tira->addWidget(m_cmdPasos);
+    columna->addLayout(tira);
     columna->addWidget(m_paneles);
+    preparaPasos();
     conecta(m_tsTema, &QTabBar::currentChanged, this, &FormLeccion::tsTema_Click);
     qApp->installEventFilter(this);
+}
+
+void FormLeccion::preparaPasos()
+{
+    m_cmdPasos->setObjectName(u"cmdPasos"_s);
+    m_cmdPasos->setText(Traduce(u"Paso a paso"_s));
+    m_cmdPasos->setToolTip(Traduce(u"Muestra u oculta por qué sale el resultado (F8)"_s));
+    m_cmdPasos->setFocusPolicy(Qt::StrongFocus);
+    m_cmdPasos->setCheckable(true);
+    m_cmdPasos->setChecked(Sesión().recuerda(ClaveDePasos, true).toBool());
+    m_cmdPasos->hide();
+    conecta(m_cmdPasos, &QToolButton::clicked, this, &FormLeccion::cmdPasos_Click);
 }
 
 QString FormLeccion::URL() const
@@ -80,9 +108,11 @@ QAbstractButton *FormLeccion::botonEnMarcha() const
     return hallado;
 }
 
-void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel)
+void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel,
+                             PanelDePasos *pasos)
 {
-    const int indice = m_paneles->addWidget(panel);
+    const int indice =
+        m_paneles->addWidget(pasos ? new SeparadorDePasos(panel, pasos, m_paneles) : panel);
     panel->setObjectName(u"PanelFicha_%1"_s.arg(indice));
     m_tsTema->addTab(Traduce(rotulo));
     m_tsTema->setTabData(indice, clave);
@@ -125,6 +155,42 @@ void FormLeccion::agregaIntroduccion(const QString &rotulo)
 void FormLeccion::tsTema_Click(int indice)
 {
     m_paneles->setCurrentIndex(indice);
+    muestraPasos();
+}
+
+PanelDePasos *FormLeccion::pasosALaVista() const
+{
+    const auto *separador = qobject_cast<SeparadorDePasos *>(m_paneles->currentWidget());
+    return separador ? separador->pasos() : nullptr;
+}
+
+void FormLeccion::muestraPasos()
+{
+    PanelDePasos *pasos = pasosALaVista();
+    m_cmdPasos->setVisible(pasos != nullptr);
+    if (pasos)
+        pasos->setVisible(m_cmdPasos->isChecked());
+}
+
+void FormLeccion::cmdPasos_Click(bool visibles)
+{
+    Sesión().anota(ClaveDePasos, visibles);
+    muestraPasos();
+}
+
+/// To the steps; from them back to the tool, and they go.
+void FormLeccion::teclaDePasos()
+{
+    PanelDePasos *pasos = pasosALaVista();
+    if (!pasos)
+        return;
+    const bool dentro = pasos->isAncestorOf(QApplication::focusWidget());
+    if (dentro)
+        m_tsTema->setFocus(Qt::ShortcutFocusReason);
+    m_cmdPasos->setChecked(!dentro);
+    cmdPasos_Click(!dentro);
+    if (!dentro)
+        pasos->enfoca();
 }
 
 void FormLeccion::closeEvent(QCloseEvent *suceso)
@@ -181,6 +247,10 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         return QWidget::eventFilter(objeto, suceso);
     if (suceso->type() == QEvent::KeyRelease && pulsacion->key() == Qt::Key_F1) {
         evento(this, [this] { muestraAyuda(); });
+        return true;
+    }
+    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_F8) {
+        evento(this, [this] { teclaDePasos(); });
         return true;
     }
     if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&

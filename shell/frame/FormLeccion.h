@@ -7,9 +7,11 @@
 #include <QWidget>
 
 class NavegadorPagina;
+class PanelDePasos;
 class QAbstractButton;
 class QStackedWidget;
 class QTabBar;
+class QToolButton;
 
 /// The frame of every lesson window: a strip of topics (`tsTema`), one panel a topic (`PanelFicha`)
 /// of which the selected one is in front, the introduction page (`wbIntro`), help on F1, and the
@@ -56,8 +58,9 @@ Q_SIGNALS:
 
 protected:
     /// Adds a topic behind the others. The panel becomes the window's and is named PanelFicha_<n>,
-    /// counted from 0.
-    void agregaTema(const QString &rotulo, const QString &clave, QWidget *panel);
+    /// counted from 0. `pasos` shows why its results hold, beside or below it.
+    void agregaTema(const QString &rotulo, const QString &clave, QWidget *panel,
+                    PanelDePasos *pasos = nullptr);
 
     /// Takes a topic off the strip; its panel stays as it is, and may be added again. Nothing for a
     /// key that no topic has.
@@ -73,12 +76,18 @@ protected:
 private:
     int indiceDeTema(const QString &clave) const;
     void tsTema_Click(int indice);
+    void cmdPasos_Click(bool visibles);
+    void teclaDePasos();
+    PanelDePasos *pasosALaVista() const;
+    void preparaPasos();
+    void muestraPasos();
     Tarea<> pideCierre();
     QAbstractButton *botonEnMarcha() const;
     QWidget *marco();
 
     QString m_pagina;
     QTabBar *m_tsTema;
+    QToolButton *m_cmdPasos;
     QStackedWidget *m_paneles;
     std::shared_ptr<Parada> m_parada = std::make_shared<Parada>();
     bool m_cierrePermitido = false;

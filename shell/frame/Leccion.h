@@ -10,7 +10,7 @@ class FormLeccion;
 class QWidget;
 
 /// One step of a scene of the gallery: what a student would do to bring a window into a state.
-struct Paso
+struct Gesto
 {
     QString control; ///< objectName of a control of the window
     /// The text to write; in a grid "row,column:text", or "row,column" to make that cell the
@@ -24,7 +24,7 @@ struct Escena
 {
     QString nombre; ///< file name without extension
     QString tema;   ///< key of the topic
-    QList<Paso> pasos = {};
+    QList<Gesto> gestos = {};
     /// The last step starts a run: the picture is taken while it runs, and then it is stopped.
     bool durante = false;
     /// How long after its start the picture of a run is taken; 0 for a run that is over at once.

@@ -71,14 +71,23 @@ class Fotografo
 {
 public:
     Fotografo(const Contenido &contenido, const OpcionesDeGaleria &opciones)
-        : m_contenido(contenido), m_carpeta(opciones.carpeta), m_principal(contenido)
+        : m_contenido(contenido),
+          m_carpeta(opciones.carpeta),
+          m_tamano(opciones.tamano),
+          m_principal(contenido)
     {
-        m_principal.resize(opciones.tamano);
     }
 
     bool retrataTodo()
     {
-        m_principal.show();
+        m_principal.showNormal();
+        // Shown, a window has been cut to the screen, which may be smaller than what is asked for.
+        m_principal.resize(m_tamano);
+        espera(50ms);
+        if (m_principal.size() != m_tamano) {
+            qCritical("the window cannot be made %d by %d", m_tamano.width(), m_tamano.height());
+            return false;
+        }
         QWidget *acercaDe = m_principal.muestraAcercaDe(false);
         espera(600ms);
         retrata(*acercaDe, u"acercade"_s);
@@ -127,9 +136,9 @@ private:
             return;
         abreTema(*leccion->findChild<QTabBar *>(u"tsTema"_s), escena.tema);
         espera(50ms);
-        for (const Paso &paso : escena.pasos) {
+        for (const Gesto &gesto : escena.gestos) {
             esperaCorridas(*leccion);
-            da(paso, *leccion);
+            da(gesto, *leccion);
         }
         if (!escena.durante)
             esperaCorridas(*leccion);
@@ -148,29 +157,29 @@ private:
         }
     }
 
-    static void da(const Paso &paso, const QWidget &ventana)
+    static void da(const Gesto &gesto, const QWidget &ventana)
     {
-        auto *control = ventana.findChild<QWidget *>(paso.control);
-        if (paso.valor.endsWith(u'\n')) {
-            da({paso.control, paso.valor.chopped(1)}, ventana);
+        auto *control = ventana.findChild<QWidget *>(gesto.control);
+        if (gesto.valor.endsWith(u'\n')) {
+            da({gesto.control, gesto.valor.chopped(1)}, ventana);
             QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
             QCoreApplication::sendEvent(control, &intro);
         } else if (auto *tira = qobject_cast<QTabBar *>(control))
-            abreTema(*tira, paso.valor);
+            abreTema(*tira, gesto.valor);
         else if (auto *lista = qobject_cast<QComboBox *>(control))
-            lista->setCurrentText(paso.valor);
+            lista->setCurrentText(gesto.valor);
         else if (auto *campo = qobject_cast<QLineEdit *>(control))
-            campo->setText(paso.valor);
+            campo->setText(gesto.valor);
         else if (auto *texto = qobject_cast<QPlainTextEdit *>(control))
-            texto->setPlainText(paso.valor);
+            texto->setPlainText(gesto.valor);
         else if (auto *boton = qobject_cast<QAbstractButton *>(control))
             boton->click();
         else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
-            escribe(*rejilla, paso.valor);
+            escribe(*rejilla, gesto.valor);
         else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
-            pestanas->setCurrentIndex(paso.valor.toInt());
+            pestanas->setCurrentIndex(gesto.valor.toInt());
         else
-            qWarning("no such control in the scene: %s", qPrintable(paso.control));
+            qWarning("no such control in the scene: %s", qPrintable(gesto.control));
     }
 
     /// "row,column:text", or "row,column" for the cell to become current; both counted from 0.
@@ -187,6 +196,7 @@ private:
 
     const Contenido &m_contenido;
     QDir m_carpeta;
+    QSize m_tamano;
     FormPrincipal m_principal;
     bool m_bien = true;
 };

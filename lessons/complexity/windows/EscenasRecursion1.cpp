@@ -5,10 +5,10 @@ using namespace Qt::Literals::StringLiterals;
 
 QList<Escena> escenasRecursion1()
 {
-    const Paso mide{u"cmdMedir"_s, {}};
-    const Paso mueve{u"cmdMover"_s, {}};
-    const Paso disco{u"cmdSiguienteMovimiento"_s, {}};
-    const Paso llamada{u"cmdSiguienteLlamada"_s, {}};
+    const Gesto mide{u"cmdMedir"_s, {}};
+    const Gesto mueve{u"cmdMover"_s, {}};
+    const Gesto disco{u"cmdSiguienteMovimiento"_s, {}};
+    const Gesto llamada{u"cmdSiguienteLlamada"_s, {}};
     return {{u"recursion1-introduccion"_s, u"intro"_s},
             {u"recursion1-fibonacci-vacia"_s, u"fibonacci"_s},
             {u"recursion1-fibonacci"_s, u"fibonacci"_s, {mide}},

@@ -5,12 +5,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QList<Paso> ecuacion(const QString &a, const QString &b, const QString &c)
+QList<Gesto> ecuacion(const QString &a, const QString &b, const QString &c)
 {
     return {{u"txtNº_0"_s, a}, {u"txtNº_1"_s, b}, {u"txtNº_2"_s, c}};
 }
 
-QList<Paso> respuesta(const QString &a, const QString &b, const QString &n)
+QList<Gesto> respuesta(const QString &a, const QString &b, const QString &n)
 {
     return {{u"txtP1_0"_s, a}, {u"txtP1_1"_s, b}, {u"TxtN"_s, n}, {u"cmdProblema"_s, {}}};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/windows/FormEuclidesTabla.h"
 
+#include "lessons/euclid/PasosDeEuclides.h"
 #include "lessons/euclid/windows/ModeloEuclides.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -9,6 +10,7 @@
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormEuclidesTabla.h"
 
 #include <QToolButton>
@@ -29,6 +31,7 @@ FormEuclidesTabla::FormEuclidesTabla(QWidget *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormEuclidesTabla>()),
       m_modelo(new ModeloEuclides(this)),
+      m_pasos(new PanelDePasos(u"Algoritmo de Euclides"_s, this)),
       m_panelAlgoritmo(new QToolButton(this))
 {
     ui->setupUi(this);
@@ -83,6 +86,7 @@ void FormEuclidesTabla::rehazTabla(Moneda dividendo, Moneda divisor)
         {dividendo, divisor,
          m_restosReducidos ? AlgoritmoEuclides::RestosReducidos : AlgoritmoEuclides::Estandar});
     ui->lblExtEuclides->setText(m_modelo->tabla().resultado());
+    m_pasos->pon(pasosDeEuclides(m_modelo->tabla()));
 }
 
 void FormEuclidesTabla::FlexEuclides_AfterEdit(int columna, const QString &texto)

@@ -5,11 +5,11 @@ using namespace Qt::Literals::StringLiterals;
 
 QList<Escena> escenasFibonacci()
 {
-    const Paso calcula{u"cmdCalcular"_s, {}};
-    const Paso porDefinicion{u"optMetodo_0"_s, {}};
-    const Paso porDuplicacion{u"optMetodo_2"_s, {}};
-    const Paso hastaElFinal{u"cmdTodo"_s, {}};
-    const Paso prueba{u"cmdProbar"_s, {}};
+    const Gesto calcula{u"cmdCalcular"_s, {}};
+    const Gesto porDefinicion{u"optMetodo_0"_s, {}};
+    const Gesto porDuplicacion{u"optMetodo_2"_s, {}};
+    const Gesto hastaElFinal{u"cmdTodo"_s, {}};
+    const Gesto prueba{u"cmdProbar"_s, {}};
     return {
         {u"fibonacci-introduccion"_s, u"intro"_s},
         {u"fibonacci-valores-vacia"_s, u"valores"_s},

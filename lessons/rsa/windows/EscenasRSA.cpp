@@ -10,11 +10,11 @@ QList<Escena> escenasRSA()
     const QString p = u"618970019642690137449562111"_s;
     const QString q = u"170141183460469231731687303715884105727"_s;
     const QString clave, s = u"65537"_s;
-    const QList<Paso> valida{
+    const QList<Gesto> valida{
         {u"txtQ_1"_s, p + u'\n'}, {u"txtQ_2"_s, q + u'\n'}, {u"txtS"_s, s + u'\n'}};
-    const QList<Paso> publica =
+    const QList<Gesto> publica =
         valida +
-        QList<Paso>{{u"cmdBuzon"_s, {}}, {u"cmdPublicarClave"_s, {}}, {u"tsTema"_s, u"env-rec"_s}};
+        QList<Gesto>{{u"cmdBuzon"_s, {}}, {u"cmdPublicarClave"_s, {}}, {u"tsTema"_s, u"env-rec"_s}};
     return {
         {u"rsa-introduccion"_s, u"intro"_s},
         {u"rsa-clave-vacia"_s, clave},
@@ -27,15 +27,15 @@ QList<Escena> escenasRSA()
          {{u"txtTextoOriginal"_s, u"¿Quedamos mañana a las cinco?"_s}}},
         {u"rsa-clave"_s, clave, valida},
         {u"rsa-codificado"_s, clave,
-         valida + QList<Paso>{{u"tsTema"_s, u"cod-decod"_s},
-                              {u"txtTextoOriginal"_s, u"¿Quedamos mañana a las cinco?"_s},
-                              {u"cmdCodificar"_s, {}}}},
+         valida + QList<Gesto>{{u"tsTema"_s, u"cod-decod"_s},
+                               {u"txtTextoOriginal"_s, u"¿Quedamos mañana a las cinco?"_s},
+                               {u"cmdCodificar"_s, {}}}},
         {u"rsa-mensajes-vacio"_s, clave, publica},
         {u"rsa-mensajes"_s, clave,
-         publica + QList<Paso>{{u"cmbDestinatario"_s, Sesión().UserName() + u'\n'},
-                               {u"txtAsunto"_s, u"La merienda"_s},
-                               {u"txtDestTextoOriginal"_s, u"¿Quedamos mañana a las cinco?"_s},
-                               {u"enviar"_s, {}},
-                               {u"revisar"_s, {}}}},
+         publica + QList<Gesto>{{u"cmbDestinatario"_s, Sesión().UserName() + u'\n'},
+                                {u"txtAsunto"_s, u"La merienda"_s},
+                                {u"txtDestTextoOriginal"_s, u"¿Quedamos mañana a las cinco?"_s},
+                                {u"enviar"_s, {}},
+                                {u"revisar"_s, {}}}},
     };
 }

@@ -8,18 +8,18 @@ QList<Escena> escenasUnidades()
     const QString unidades = u"unidades"_s, cayley = u"cayley"_s, grandes = u"grandes"_s,
                   cuestiones = u"cuestiones"_s;
     const auto grupo = [](const QString &n, const QString &a) {
-        return QList<Paso>{
+        return QList<Gesto>{
             {u"txtN"_s, n}, {u"cmdUnidades"_s, {}}, {u"txtElemento"_s, a}, {u"cmdPotencias"_s, {}}};
     };
     const auto tabla = [](const QString &n, const QString &operacion) {
-        return QList<Paso>{{u"txtNCayley"_s, n}, {operacion, {}}};
+        return QList<Gesto>{{u"txtNCayley"_s, n}, {operacion, {}}};
     };
     const auto grande = [](const QString &n, const QString &a) {
-        return QList<Paso>{{u"txtNGrande"_s, n},
-                           {u"txtAGrande"_s, a},
-                           {u"cmdInverso"_s, {}},
-                           {u"cmdFi"_s, {}},
-                           {u"cmdFactores"_s, {}}};
+        return QList<Gesto>{{u"txtNGrande"_s, n},
+                            {u"txtAGrande"_s, a},
+                            {u"cmdInverso"_s, {}},
+                            {u"cmdFi"_s, {}},
+                            {u"cmdFactores"_s, {}}};
     };
     return {{u"unidades-introduccion"_s, u"intro"_s},
             {u"unidades-grupo"_s, unidades},

@@ -5,11 +5,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const Paso EnAckermann{u"SSTab1"_s, u"0"_s};
-const Paso EnHailstone{u"SSTab1"_s, u"1"_s};
-const Paso EnCapicuas{u"SSTab1"_s, u"2"_s};
+const Gesto EnAckermann{u"SSTab1"_s, u"0"_s};
+const Gesto EnHailstone{u"SSTab1"_s, u"1"_s};
+const Gesto EnCapicuas{u"SSTab1"_s, u"2"_s};
 
-Escena funciones(const QString &nombre, const QList<Paso> &pasos, bool durante = false)
+Escena funciones(const QString &nombre, const QList<Gesto> &pasos, bool durante = false)
 {
     return {nombre, u"funciones"_s, pasos, durante};
 }
@@ -18,9 +18,9 @@ Escena funciones(const QString &nombre, const QList<Paso> &pasos, bool durante =
 
 QList<Escena> escenasRecursion3()
 {
-    const Paso ack{u"cmdAck"_s, {}};
-    const Paso hail{u"cmdHail"_s, {}};
-    const Paso cap{u"cmdCap"_s, {}};
+    const Gesto ack{u"cmdAck"_s, {}};
+    const Gesto hail{u"cmdHail"_s, {}};
+    const Gesto cap{u"cmdCap"_s, {}};
     const QString largo = u"27182818284590452353602874713526624977572470936999"_s.repeated(200);
     return {
         {u"recursion3-introduccion"_s, u"intro"_s},

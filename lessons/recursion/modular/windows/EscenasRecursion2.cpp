@@ -5,7 +5,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QList<Paso> conModulo(const QString &modulo)
+QList<Gesto> conModulo(const QString &modulo)
 {
     return {{u"TxtMódulo"_s, modulo}, {u"cmdCalcular"_s, {}}};
 }
