@@ -7,14 +7,7 @@
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>
-#include <QLabel>
-#include <QLineEdit>
-#include <QLocale>
-#include <QPushButton>
-#include <QScopeGuard>
 #include <cmath>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// Small pieces that lessons are built of.
 class TestPiezasDeLeccion : public QObject

@@ -6,15 +6,11 @@
 #include "lessons/complexity/GeometriaHanoi.h"
 #include "lessons/complexity/TorresHanoi.h"
 #include "shell/core/MejorDeVarias.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QRegularExpression>
-#include <QSet>
 #include <algorithm>
 #include <cmath>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The logic of the lesson on recursion and complexity.
 class TestComplejidad : public QObject

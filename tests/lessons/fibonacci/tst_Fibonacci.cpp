@@ -7,12 +7,8 @@
 #include "lessons/fibonacci/Zeckendorf.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QRegularExpression>
-#include <QSet>
 #include <cmath>
 #include <numeric>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The logic of the lesson on the Fibonacci numbers.
 class TestFibonacci : public QObject

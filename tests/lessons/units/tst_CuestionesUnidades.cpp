@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/units/CuestionesUnidades.h"
 #include "lessons/units/GrupoUnidades.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QRegularExpression>
-#include <QSet>
 #include <numeric>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The questions: their judgement and what is said of a wrong answer.
 class TestCuestionesUnidades : public QObject
