@@ -51,7 +51,7 @@ Paso division(const Busqueda &b, qsizetype i)
             {Formula(u"%1 = %2*%3 + %4"_s.arg(d.dividendo.texto(), d.cociente.texto(),
                                               d.divisor.texto(), d.resto.texto())),
              Formula(u"\"%1\" = %2 - %3*%4 = %5"_s.arg(
-                 Traduce(u"coeficiente"_s), antes.texto(), d.cociente.texto(), ultimo.trasSigno(),
+                 Traduce(u"Coeficiente"_s), antes.texto(), d.cociente.texto(), ultimo.trasSigno(),
                  d.coeficiente.texto())),
              Formula(u"%1 == %2*%3 (mod %4)"_s.arg(d.resto.texto(), d.coeficiente.trasSigno(),
                                                    b.reducido.texto(), b.n.texto()))},

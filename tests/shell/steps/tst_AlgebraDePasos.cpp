@@ -120,7 +120,7 @@ void tst_AlgebraDePasos::bordes_data()
     fila("inverse modulo 1", pasosDeInverso(u"5"_s, u"1"_s), "0 · 0 ≡ 1 (mod 1)");
     fila("inverse of 0", pasosDeInverso(u"0"_s, u"6"_s), "6 ∣ 0, 6 ∣ 6, 6 ∤ 1");
     fila("inverse of a negative", pasosDeInverso(u"-3"_s, u"7"_s), "4 · 2 ≡ 1 (mod 7)");
-    fila("a division", pasosDeInverso(u"3"_s, u"7"_s), "coeficiente = 0 − 2 · 1 = −2");
+    fila("a division", pasosDeInverso(u"3"_s, u"7"_s), "Coeficiente = 0 − 2 · 1 = −2");
     fila("power 0", pasosDePotencia(u"5"_s, u"0"_s, u"7"_s), "5⁰ ≡ 1 (mod 7)");
     fila("modulus 1", pasosDePotencia(u"5"_s, u"3"_s, u"1"_s), "5³ ≡ 0 (mod 1)");
     fila("power 0 modulo 1", pasosDePotencia(u"5"_s, u"0"_s, u"1"_s), "5⁰ ≡ 0 (mod 1)");
