@@ -61,6 +61,16 @@ void tst_PanelDePasos::nadaSeHaceAntesDeVerlo()
     QVERIFY(panel.findChildren<QWidget *>().isEmpty());
     panel.show();
     QVERIFY(hechos > 0);
+    panel.hide();
+    int aplazados = 0;
+    panel.pon(Pasos::aplazados([&aplazados] {
+        ++aplazados;
+        return cuantos(3);
+    }));
+    QCOMPARE(aplazados, 0);
+    panel.show();
+    QCOMPARE(panel.vistos(), 1);
+    QCOMPARE(aplazados, 1);
 }
 
 void tst_PanelDePasos::unoAUnoPorBotonesYTeclas()
