@@ -29,9 +29,10 @@ void agregaTorres(Lamina &lamina, const TorresHanoi &torres, QPointF esquina, in
 /// A tower of k discs right before its largest one moves, and right after.
 Lamina laminaDeMayor(int k)
 {
-    Lamina lamina(Traduce(u"Torre de %1 discos: los menores esperan en B mientras el mayor pasa de A "
-                          "a C."_s)
-                      .arg(k));
+    Lamina lamina(
+        Traduce(u"Torre de %1 discos: los menores esperan en B mientras el mayor pasa de A "
+                "a C."_s)
+            .arg(k));
     TorresHanoi torres(k);
     for (int i = 0; i < torres.minimo() / 2; ++i)
         torres.avanza();
@@ -56,8 +57,9 @@ Paso pasoDeTorre(int k, int discos)
                    2 * antes + 1),
                u"H(%1) = 2^%1 - 1"_s.arg(k)}};
     if (k == discos)
-        paso.regla = Traduce(u"Con menos no se puede: el mayor solo se mueve cuando los demás están "
-                             "juntos en otro palo."_s);
+        paso.regla =
+            Traduce(u"Con menos no se puede: el mayor solo se mueve cuando los demás están "
+                    "juntos en otro palo."_s);
     paso.lamina = laminaDeMayor(k);
     return paso;
 }
@@ -80,18 +82,20 @@ Paso pasoDeDisco(const TorresHanoi &torres, int d)
         coste += torres.paloDe(mayor) == torres.destino(mayor) ? 0 : 1 << (mayor - 1);
     const int suyo = enSitio ? 0 : 1 << (d - 1);
     const QString frase =
-        enSitio ? Traduce(u"El disco %1 está en %2, donde tiene que estar: no cuesta nada."_s)
-                : Traduce(u"El disco %1 está en %2 y tiene que ir a %3: un movimiento, y %4 para que "
-                          "los menores le sigan."_s);
-    const QString formula = d == torres.discos() ? u"M_%1 = %2"_s.arg(d).arg(
-                                                       enSitio ? u"0"_s : u"2^%1 = %2"_s.arg(d - 1).arg(suyo))
-                            : enSitio ? u"M_%1 = M_%2 = %3"_s.arg(d).arg(d + 1).arg(coste)
-                                      : u"M_%1 = M_%2 + 2^%3 = %4 + %5 = %6"_s.arg(d)
-                                            .arg(d + 1)
-                                            .arg(d - 1)
-                                            .arg(coste)
-                                            .arg(suyo)
-                                            .arg(coste + suyo);
+        enSitio
+            ? Traduce(u"El disco %1 está en %2, donde tiene que estar: no cuesta nada."_s)
+            : Traduce(u"El disco %1 está en %2 y tiene que ir a %3: un movimiento, y %4 para que "
+                      "los menores le sigan."_s);
+    const QString formula =
+        d == torres.discos()
+            ? u"M_%1 = %2"_s.arg(d).arg(enSitio ? u"0"_s : u"2^%1 = %2"_s.arg(d - 1).arg(suyo))
+        : enSitio ? u"M_%1 = M_%2 = %3"_s.arg(d).arg(d + 1).arg(coste)
+                  : u"M_%1 = M_%2 + 2^%3 = %4 + %5 = %6"_s.arg(d)
+                        .arg(d + 1)
+                        .arg(d - 1)
+                        .arg(coste)
+                        .arg(suyo)
+                        .arg(coste + suyo);
     Paso paso{enSitio ? frase.arg(d).arg(nombreDePalo(palo))
                       : frase.arg(d).arg(nombreDePalo(palo), nombreDePalo(destino)).arg(suyo - 1),
               {formula}};
@@ -104,23 +108,25 @@ Paso pasoDeCuenta(const TorresHanoi &torres)
 {
     const int hechos = torres.hechos();
     const int faltan = torres.faltan();
-    Paso paso{faltan == 0 ? Traduce(u"Están todos en C. Movimientos hechos: %1. Los menos posibles: "
-                                    "%2."_s)
-                                .arg(hechos)
-                                .arg(torres.minimo())
-                          : Traduce(u"Movimientos hechos: %1. Faltan al menos %2, que con los hechos "
-                                    "son %3. Los menos posibles desde el principio: %4."_s)
-                                .arg(hechos)
-                                .arg(faltan)
-                                .arg(hechos + faltan)
-                                .arg(torres.minimo())};
+    Paso paso{faltan == 0
+                  ? Traduce(u"Están todos en C. Movimientos hechos: %1. Los menos posibles: "
+                            "%2."_s)
+                        .arg(hechos)
+                        .arg(torres.minimo())
+                  : Traduce(u"Movimientos hechos: %1. Por hacer, como poco: %2. Juntos: %3. "
+                            "Los menos posibles desde el principio: %4."_s)
+                        .arg(hechos)
+                        .arg(faltan)
+                        .arg(hechos + faltan)
+                        .arg(torres.minimo())};
     const QString signo = hechos + faltan == torres.minimo() ? u"="_s : u">"_s;
     paso.formulas = {u"%1 + %2 = %3 %4 2^%5 - 1"_s.arg(hechos)
                          .arg(faltan)
                          .arg(hechos + faltan)
                          .arg(signo)
                          .arg(torres.discos())};
-    paso.regla = Traduce(u"Cada disco fuera de su sitio, el número d, cuesta 2^(d − 1) movimientos."_s);
+    paso.regla =
+        Traduce(u"Cada disco fuera de su sitio, el número d, cuesta 2^(d − 1) movimientos."_s);
     return paso;
 }
 

@@ -62,21 +62,22 @@ Paso pasoDeLlamadas(int k, bool conMemoria)
         return caso(k);
     const qint64 una = llamadas(k - 1, conMemoria);
     const qint64 otra = conMemoria ? 1 : llamadas(k - 2, false);
-    Paso paso{conMemoria && k > 2
-                  ? Traduce(u"F(%1) llama a F(%2), que las hace todas, y a F(%3), que ya está en la "
-                            "memoria."_s)
-                  : Traduce(u"F(%1) llama a F(%2) y a F(%3): su llamada y las de las dos."_s)};
+    Paso paso{
+        conMemoria && k > 2
+            ? Traduce(u"F(%1) llama a F(%2), que las hace todas, y a F(%3), que ya está en la "
+                      "memoria."_s)
+            : Traduce(u"F(%1) llama a F(%2) y a F(%3): su llamada y las de las dos."_s)};
     paso.frase = paso.frase.arg(k).arg(k - 1).arg(k - 2);
     const QString segunda = conMemoria ? u"1"_s : u"L(%1)"_s.arg(k - 2);
-    paso.formulas = {u"L(%1) = 1 + L(%2) + %3 = 1 + %4 + %5 = %6"_s.arg(k)
-                         .arg(k - 1)
-                         .arg(segunda)
-                         .arg(una)
-                         .arg(otra)
-                         .arg(1 + una + otra),
-                     conMemoria ? u"L(%1) = 2*%1 - 1"_s.arg(k)
-                                : u"L(%1) = 2*F(%2) - 1 = 2*%3 - 1"_s.arg(k).arg(k + 1).arg(
-                                      fibonacci(k + 1))};
+    paso.formulas = {
+        u"L(%1) = 1 + L(%2) + %3 = 1 + %4 + %5 = %6"_s.arg(k)
+            .arg(k - 1)
+            .arg(segunda)
+            .arg(una)
+            .arg(otra)
+            .arg(1 + una + otra),
+        conMemoria ? u"L(%1) = 2*%1 - 1"_s.arg(k)
+                   : u"L(%1) = 2*F(%2) - 1 = 2*%3 - 1"_s.arg(k).arg(k + 1).arg(fibonacci(k + 1))};
     paso.regla = conMemoria ? Traduce(u"Cada valor nuevo cuesta dos llamadas: crecen como n."_s)
                             : Traduce(u"Las llamadas crecen como los propios números de Fibonacci, "
                                       "que se multiplican por casi 1,618 cada vez."_s);

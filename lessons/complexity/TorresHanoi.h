@@ -47,8 +47,8 @@ public:
     /// The fewest from here (Andreas M. Hinz, "The Tower of Hanoi", 1989: the distance to a perfect
     /// state): 2^(d-1) for each disc d that does not lie where it has to lie.
     int faltan() const;
-    /// Where disc d has to lie when the larger ones are moved first: on the third pole while they all
-    /// lie where they have to, else out of their way.
+    /// Where disc d has to lie when the larger ones are moved first: on the third pole while they
+    /// all lie where they have to, else out of their way.
     int destino(int disco) const;
     int paloDe(int disco) const;
 

@@ -19,9 +19,8 @@ QColor colorDeVuelta(int vuelta)
     if (vuelta < 0)
         return Aspecto::atenuado();
     constexpr float Naranja = 0.08F;
-    return vuelta % 2 == 0
-               ? Aspecto::acento()
-               : QColor::fromHslF(Naranja, 0.85F, Aspecto::esOscuro() ? 0.62F : 0.42F);
+    return vuelta % 2 == 0 ? Aspecto::acento()
+                           : QColor::fromHslF(Naranja, 0.85F, Aspecto::esOscuro() ? 0.62F : 0.42F);
 }
 
 } // namespace

@@ -12,10 +12,12 @@ struct TrazoDeGrafica
     qreal inicio = 0;  ///< from which x on the points repeat themselves
     qreal periodo = 0; ///< after how much of x; 0 when they do not
 
-    /// Which turn of the period an x belongs to, from 0 on; -1 before the first. 0 without a period.
+    /// Which turn of the period an x belongs to, from 0 on; -1 before the first. 0 without a
+    /// period.
     int vuelta(qreal x) const
     {
-        return periodo > 0 ? static_cast<int>(std::max(qreal(-1), std::floor((x - inicio) / periodo)))
-                           : 0;
+        return periodo > 0
+                   ? static_cast<int>(std::max(qreal(-1), std::floor((x - inicio) / periodo)))
+                   : 0;
     }
 };

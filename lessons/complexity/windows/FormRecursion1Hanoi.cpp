@@ -39,11 +39,10 @@ QString cuenta(const TorresHanoi &torres)
     if (hechos == 0)
         return {};
     if (faltan > 0)
-        return u' ' + Traduce(u"Desde aquí faltan al menos %1."_s).arg(formatoEntero(faltan));
-    return u' ' + (hechos == torres.minimo()
-                       ? Traduce(u"Conseguido, y con los menos posibles."_s)
-                       : Traduce(u"Conseguido, con %1 de más."_s)
-                             .arg(formatoEntero(hechos - torres.minimo())));
+        return u' ' + Traduce(u"Por hacer, como poco: %1."_s).arg(formatoEntero(faltan));
+    return u' ' + (hechos == torres.minimo() ? Traduce(u"Conseguido, y con los menos posibles."_s)
+                                             : Traduce(u"Conseguido, con %1 de más."_s)
+                                                   .arg(formatoEntero(hechos - torres.minimo())));
 }
 
 } // namespace

@@ -43,16 +43,20 @@ void tst_PasosComplejidad::llamadas()
             return cuentas[n];
         };
         revisor.agrega(u"L"_s, [&](const auto &n) {
-            return mpq_class(std::to_string(cuenta(static_cast<int>(n.front().get_num().get_si()))));
+            return mpq_class(
+                std::to_string(cuenta(static_cast<int>(n.front().get_num().get_si()))));
         });
         revisor.agrega(u"F"_s, [](const auto &n) {
             mpz_class f;
             mpz_fib_ui(f.get_mpz_t(), static_cast<unsigned>(n.front().get_num().get_ui()));
             return mpq_class(f);
         });
-        revisaAlAzar(revisor, [conMemoria](QRandomGenerator &azar) {
-            return pasosDeLlamadas(azar.bounded(81), conMemoria);
-        }, 5000);
+        revisaAlAzar(
+            revisor,
+            [conMemoria](QRandomGenerator &azar) {
+                return pasosDeLlamadas(azar.bounded(81), conMemoria);
+            },
+            5000);
     }
 }
 
@@ -65,7 +69,8 @@ void tst_PasosComplejidad::hanoi()
             movimientos = 2 * movimientos + 1;
         return mpq_class(movimientos);
     });
-    revisaAlAzar(revisor, [](QRandomGenerator &azar) { return pasosDeHanoi(alAzar(azar)); }, 10000, 3);
+    revisaAlAzar(
+        revisor, [](QRandomGenerator &azar) { return pasosDeHanoi(alAzar(azar)); }, 10000, 3);
 }
 
 /// Against a search through all positions of five discs.
@@ -87,7 +92,8 @@ void tst_PasosComplejidad::loQueFaltaEsLoMenosPosible()
                 Posicion otra = esta;
                 otra[d] = palo;
                 const auto menores = esta.first(d);
-                if (menores.contains(esta[d]) || menores.contains(palo) || distancias.contains(otra))
+                if (menores.contains(esta[d]) || menores.contains(palo) ||
+                    distancias.contains(otra))
                     continue;
                 distancias.insert(otra, distancias[esta] + 1);
                 frontera << otra;

@@ -10,7 +10,8 @@
 /// ones and the last one of the others, which is what time allows. `sortea` gives the steps of an
 /// input, and may give the checker what they need; each input must compare something.
 template <typename Sortea>
-void revisaAlAzar(RevisorDeFormulas &revisor, Sortea sortea, int entradas = 10000, int porEntrada = 2)
+void revisaAlAzar(RevisorDeFormulas &revisor, Sortea sortea, int entradas = 10000,
+                  int porEntrada = 2)
 {
     constexpr int Enteras = 60;
     QRandomGenerator azar(20261122);
@@ -25,7 +26,10 @@ void revisaAlAzar(RevisorDeFormulas &revisor, Sortea sortea, int entradas = 1000
         for (const qsizetype i : std::as_const(elegidos)) {
             for (const Formula &formula : pasos.paso(i).formulas) {
                 const QString falta = revisor.revisa(formula);
-                QVERIFY2(falta.isEmpty(), qPrintable(QStringLiteral("input %1, step %2: %3").arg(entrada).arg(i + 1).arg(falta)));
+                QVERIFY2(falta.isEmpty(), qPrintable(QStringLiteral("input %1, step %2: %3")
+                                                         .arg(entrada)
+                                                         .arg(i + 1)
+                                                         .arg(falta)));
             }
         }
         QVERIFY2(revisor.comparadas() > antes, qPrintable(pasos.paso(0).frase));
