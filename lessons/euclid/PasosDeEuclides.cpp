@@ -33,8 +33,8 @@ void agregaCuadrados(Lamina &lamina, QRectF &hueco, qint64 cociente, int serie, 
     const bool apaisado = hueco.width() >= hueco.height();
     const qreal l = apaisado ? hueco.height() : hueco.width();
     for (qint64 i = 0; i < cuantos; ++i) {
-        const QPointF esquina = hueco.topLeft() + (apaisado ? QPointF(l, 0) : QPointF(0, l)) *
-                                                      static_cast<qreal>(i);
+        const QPointF esquina =
+            hueco.topLeft() + (apaisado ? QPointF(l, 0) : QPointF(0, l)) * static_cast<qreal>(i);
         lamina.rectangulo(QRectF(esquina, QSizeF(l, l)), Tono::serie(serie), true,
                           cuantos <= 12 ? lado : QString());
     }
@@ -50,10 +50,11 @@ Lamina rectangulo(const TablaEuclides &tabla, qsizetype hasta)
     const auto b = static_cast<qreal>(tabla.divisor().entero());
     if (a <= 0 || b <= 0 || tabla.algoritmo() != AlgoritmoEuclides::Estandar)
         return {};
-    Lamina lamina(Traduce(u"Un rectángulo de %1 por %2, cortado en los cuadrados de las primeras %3 "
-                          "divisiones."_s)
-                      .arg(cifras(tabla.dividendo()), cifras(tabla.divisor()))
-                      .arg(hasta + 1));
+    Lamina lamina(
+        Traduce(u"Un rectángulo de %1 por %2, cortado en los cuadrados de las primeras %3 "
+                "divisiones."_s)
+            .arg(cifras(tabla.dividendo()), cifras(tabla.divisor()))
+            .arg(hasta + 1));
     QRectF hueco(0, 0, a, b);
     for (qsizetype i = 0; i <= hasta; ++i) {
         const qint64 cociente = divisiones[i].cociente.entero();
@@ -71,12 +72,12 @@ Pasos pasosDeEuclides(const TablaEuclides &tabla)
 {
     return Pasos(tabla.divisiones().size(), [tabla](qsizetype i) {
         const DivisionEuclides &d = tabla.divisiones()[i];
-        Paso paso{Traduce(u"Se divide %1 entre %2: cociente %3, resto %4."_s)
-                      .arg(cifras(d.dividendo), cifras(d.divisor), cifras(d.cociente),
-                           cifras(d.resto)),
-                  {Formula(u"%1 = %2*%3 + %4"_s.arg(cifras(d.dividendo), cifras(d.divisor),
-                                                    trasSigno(cifras(d.cociente)),
-                                                    trasSigno(cifras(d.resto))))}};
+        Paso paso{
+            Traduce(u"Se divide %1 entre %2: cociente %3, resto %4."_s)
+                .arg(cifras(d.dividendo), cifras(d.divisor), cifras(d.cociente), cifras(d.resto)),
+            {Formula(u"%1 = %2*%3 + %4"_s.arg(cifras(d.dividendo), cifras(d.divisor),
+                                              trasSigno(cifras(d.cociente)),
+                                              trasSigno(cifras(d.resto))))}};
         paso.lamina = rectangulo(tabla, i);
         return paso;
     });

@@ -41,8 +41,7 @@ const PasoCompuesto &DelegadoDePasos::compuesto(const QStyleOptionViewItem &opci
     if (PasoCompuesto *hecho = m_compuestos.object(indice.row()))
         return *hecho;
     const auto *modelo = static_cast<const ModeloDePasos *>(indice.model());
-    auto *nuevo =
-        new PasoCompuesto(modelo->paso(indice.row()), indice.row(), opcion.font, m_ancho);
+    auto *nuevo = new PasoCompuesto(modelo->paso(indice.row()), indice.row(), opcion.font, m_ancho);
     m_compuestos.insert(indice.row(), nuevo);
     return *nuevo;
 }

@@ -44,15 +44,24 @@ public:
     Caja nodo(const Nodo &n) const
     {
         switch (n.clase) {
-        case Nodo::Numero: return texto(numeroEnPantalla(n.texto));
-        case Nodo::Palabra: return texto(n.texto);
-        case Nodo::Nombre: return nombre(n);
-        case Nodo::Puntos: return texto(u"…"_s);
-        case Nodo::Fraccion: return fraccion(n);
-        case Nodo::Potencia: return potencia(n);
-        case Nodo::Funcion: return funcion(n);
-        case Nodo::Parentesis: return entre(u"("_s, partes(n), u")"_s);
-        default: break;
+        case Nodo::Numero:
+            return texto(numeroEnPantalla(n.texto));
+        case Nodo::Palabra:
+            return texto(n.texto);
+        case Nodo::Nombre:
+            return nombre(n);
+        case Nodo::Puntos:
+            return texto(u"…"_s);
+        case Nodo::Fraccion:
+            return fraccion(n);
+        case Nodo::Potencia:
+            return potencia(n);
+        case Nodo::Funcion:
+            return funcion(n);
+        case Nodo::Parentesis:
+            return entre(u"("_s, partes(n), u")"_s);
+        default:
+            break;
         }
         Caja fila;
         for (const Caja &trozo : trozos(n))
@@ -64,11 +73,15 @@ public:
     std::vector<Caja> trozos(const Nodo &n) const
     {
         switch (n.clase) {
-        case Nodo::Opuesto: return conSigno(u"−"_s, trozosDeParte(n, 0));
-        case Nodo::Operacion: return encadena(trozosDeParte(n, 0), n.texto, trozosDeParte(n, 1));
+        case Nodo::Opuesto:
+            return conSigno(u"−"_s, trozosDeParte(n, 0));
+        case Nodo::Operacion:
+            return encadena(trozosDeParte(n, 0), n.texto, trozosDeParte(n, 1));
         case Nodo::Relacion:
-        case Nodo::Lista: return cadena(n);
-        default: return {nodo(n)};
+        case Nodo::Lista:
+            return cadena(n);
+        default:
+            return {nodo(n)};
         }
     }
 
@@ -136,8 +149,8 @@ private:
 
     Caja potencia(const Nodo &n) const
     {
-        Caja base = llevaParentesis(n, 0) ? entre(u"("_s, nodo(n.partes[0]), u")"_s)
-                                          : nodo(n.partes[0]);
+        Caja base =
+            llevaParentesis(n, 0) ? entre(u"("_s, nodo(n.partes[0]), u")"_s) : nodo(n.partes[0]);
         const Caja exponente = menor().nodo(n.partes[1]);
         const qreal alza = std::max(m_medidas.ascent() * 0.42, base.alto - exponente.alto * 0.6);
         junta(base, exponente, base.ancho, -alza);

@@ -130,8 +130,8 @@ void PanelDePasos::muestra()
     ui->repartoDePasos->setVisible(hay);
     ui->LienzoDePasos->pon({});
     ui->LienzoDePasos->hide();
-    for (QWidget *control : {static_cast<QWidget *>(ui->cmdReproducirPasos),
-                             static_cast<QWidget *>(ui->cmbVelocidad)})
+    for (QWidget *control :
+         {static_cast<QWidget *>(ui->cmdReproducirPasos), static_cast<QWidget *>(ui->cmbVelocidad)})
         control->setVisible(m_pasos.animables());
     for (QToolButton *boton :
          {ui->cmdTodosLosPasos, ui->cmdCopiarPasos, ui->cmdImprimirPasos, ui->cmdReproducirPasos})
@@ -261,9 +261,14 @@ bool PanelDePasos::eventFilter(QObject *objeto, QEvent *suceso)
     }
     switch (tecla->key()) {
     case Qt::Key_Down:
-    case Qt::Key_Right: evento(this, [this] { cmdSiguiente_Click(); }); return true;
+    case Qt::Key_Right:
+        evento(this, [this] { cmdSiguiente_Click(); });
+        return true;
     case Qt::Key_Up:
-    case Qt::Key_Left: evento(this, [this] { cmdAnterior_Click(); }); return true;
-    default: return QWidget::eventFilter(objeto, suceso);
+    case Qt::Key_Left:
+        evento(this, [this] { cmdAnterior_Click(); });
+        return true;
+    default:
+        return QWidget::eventFilter(objeto, suceso);
     }
 }

@@ -17,9 +17,9 @@ class PanelDePasos;
 }
 
 /// "Paso a paso": shows why a tool's result holds, beside or below it (FormLeccion places it). The
-/// steps appear one at a time or all at once; the drawing of the current one stands above them. They
-/// are copied as text, Markdown or LaTeX, printed, and played where they make a film. Nothing is
-/// made of it before it is first seen, so that a lesson opens as fast without it.
+/// steps appear one at a time or all at once; the drawing of the current one stands above them.
+/// They are copied as text, Markdown or LaTeX, printed, and played where they make a film. Nothing
+/// is made of it before it is first seen, so that a lesson opens as fast without it.
 class PanelDePasos : public QWidget
 {
     Q_OBJECT

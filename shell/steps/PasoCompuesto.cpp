@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qreal CuerpoDeRegla = 0.9;   ///< to the sentence
+constexpr qreal CuerpoDeRegla = 0.9; ///< to the sentence
 constexpr qreal CuerpoDeFormula = 1.15;
 
 QFont escalada(QFont fuente, qreal factor)
@@ -30,9 +30,9 @@ QList<qreal> anchosDe(const TablaDePaso &tabla, const QFontMetricsF &medidas, qr
     QList<qreal> anchos(tabla.cabecera.size(), 0);
     const auto mide = [&](const QStringList &fila) {
         for (qsizetype i = 0; i < std::min(fila.size(), anchos.size()); ++i)
-            anchos[i] = std::max(anchos[i], medidas.horizontalAdvance(
-                                                conNumerosEnPantalla(fila[i])) +
-                                                medidas.height());
+            anchos[i] =
+                std::max(anchos[i], medidas.horizontalAdvance(conNumerosEnPantalla(fila[i])) +
+                                        medidas.height());
     };
     mide(tabla.cabecera);
     for (const QStringList &fila : tabla.filas)

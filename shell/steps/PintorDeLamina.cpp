@@ -69,11 +69,20 @@ void pintaFigura(QPainter &pintor, const Figura &figura, const Escala &escala,
     pintor.setBrush(figura.rellena || figura.clase == Figura::Flecha ? QBrush(color)
                                                                      : QBrush(Qt::NoBrush));
     switch (figura.clase) {
-    case Figura::Rectangulo: pintor.drawRect(lugar); break;
-    case Figura::Elipse: pintor.drawEllipse(lugar); break;
-    case Figura::Linea: pintor.drawLine(lugar.topLeft(), lugar.bottomRight()); break;
-    case Figura::Flecha: pintaFlecha(pintor, lugar.topLeft(), lugar.bottomRight()); break;
-    case Figura::Texto: break;
+    case Figura::Rectangulo:
+        pintor.drawRect(lugar);
+        break;
+    case Figura::Elipse:
+        pintor.drawEllipse(lugar);
+        break;
+    case Figura::Linea:
+        pintor.drawLine(lugar.topLeft(), lugar.bottomRight());
+        break;
+    case Figura::Flecha:
+        pintaFlecha(pintor, lugar.topLeft(), lugar.bottomRight());
+        break;
+    case Figura::Texto:
+        break;
     }
     if (figura.texto.isEmpty())
         return;

@@ -48,8 +48,8 @@ void SeparadorDePasos::acomoda()
         return;
     m_acomodado = true;
     setOrientation(conviene);
-    const int parte = std::clamp(
-        Sesión().recuerda(claveDeParte(conviene), ParteDePasos).toInt(), 5, 95);
+    const int parte =
+        std::clamp(Sesión().recuerda(claveDeParte(conviene), ParteDePasos).toInt(), 5, 95);
     setSizes({100 * (100 - parte), 100 * parte});
 }
 

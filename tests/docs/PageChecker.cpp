@@ -15,7 +15,7 @@ const QStringList kVoid = u"meta link img br hr col"_s.split(u' ');
 const QStringList kElements =
     u"html head meta title link body header footer nav main section h1 h2 h3 p ul ol li dl dt dd "
     "table thead tbody tr th td img a b i em strong sup sub span var code pre kbd br hr "
-    "blockquote"_s.split(u' ');
+    "blockquote details summary script"_s.split(u' ');
 
 } // namespace
 
@@ -128,7 +128,7 @@ private:
         if (href.isEmpty() || !url.isValid())
             return fault(u"link without a target"_s);
         if (!url.scheme().isEmpty()) {
-            if (url.scheme() != u"https")
+            if (url.scheme() != u"https" && url.scheme() != u"numora")
                 fault(u"external link is not https: "_s + href);
             return;
         }

@@ -67,8 +67,7 @@ QString enMarkdown(const Paso &paso, qsizetype numero)
 QString enLatex(const Paso &paso, qsizetype numero)
 {
     constexpr QStringView Especiales = u"#$%&_{}";
-    QString texto =
-        u"\\item[%1.] %2\n"_s.arg(numero + 1).arg(escapada(paso.frase, Especiales));
+    QString texto = u"\\item[%1.] %2\n"_s.arg(numero + 1).arg(escapada(paso.frase, Especiales));
     for (const Formula &formula : paso.formulas)
         texto += u"\\[ "_s + comoLatex(formula) + u" \\]\n"_s;
     if (!paso.regla.isEmpty())
@@ -83,9 +82,12 @@ QString enLatex(const Paso &paso, qsizetype numero)
 QString pasoComo(FormaDePasos forma, const Paso &paso, qsizetype numero)
 {
     switch (forma) {
-    case FormaDePasos::Texto: return enTexto(paso, numero);
-    case FormaDePasos::Markdown: return enMarkdown(paso, numero);
-    case FormaDePasos::Latex: return enLatex(paso, numero);
+    case FormaDePasos::Texto:
+        return enTexto(paso, numero);
+    case FormaDePasos::Markdown:
+        return enMarkdown(paso, numero);
+    case FormaDePasos::Latex:
+        return enLatex(paso, numero);
     }
     return {};
 }

@@ -23,17 +23,27 @@ public:
     {
         switch (n.clase) {
         case Nodo::Numero:
-        case Nodo::Palabra: return hoja(n);
-        case Nodo::Nombre: return nombre(n);
-        case Nodo::Puntos: return u"…"_s;
-        case Nodo::Opuesto: return signo(u"neg"_s) + parte(n, 0);
-        case Nodo::Operacion: return parte(n, 0) + signo(n.texto) + parte(n, 1);
-        case Nodo::Fraccion: return fraccion(n);
-        case Nodo::Potencia: return potencia(n);
-        case Nodo::Funcion: return funcion(n);
-        case Nodo::Parentesis: return entreParentesis(partes(n));
+        case Nodo::Palabra:
+            return hoja(n);
+        case Nodo::Nombre:
+            return nombre(n);
+        case Nodo::Puntos:
+            return u"…"_s;
+        case Nodo::Opuesto:
+            return signo(u"neg"_s) + parte(n, 0);
+        case Nodo::Operacion:
+            return parte(n, 0) + signo(n.texto) + parte(n, 1);
+        case Nodo::Fraccion:
+            return fraccion(n);
+        case Nodo::Potencia:
+            return potencia(n);
+        case Nodo::Funcion:
+            return funcion(n);
+        case Nodo::Parentesis:
+            return entreParentesis(partes(n));
         case Nodo::Relacion:
-        case Nodo::Lista: return cadena(n);
+        case Nodo::Lista:
+            return cadena(n);
         }
         return {};
     }
@@ -129,23 +139,24 @@ class EnLatex final : public Escritura
     }
     QString nombre(const Nodo &n) const override
     {
-        const QString nombre = n.texto.size() > 1 ? u"\\operatorname{%1}"_s.arg(n.texto) : letra(n.texto);
+        const QString nombre =
+            n.texto.size() > 1 ? u"\\operatorname{%1}"_s.arg(n.texto) : letra(n.texto);
         return n.partes.empty() ? nombre : u"%1_{%2}"_s.arg(nombre, nodo(n.partes.front()));
     }
     static QString letra(const QString &texto)
     {
         static const QHash<QString, QString> griegas = {
-            {u"φ"_s, u"\\varphi"_s},  {u"λ"_s, u"\\lambda"_s}, {u"σ"_s, u"\\sigma"_s},
-            {u"τ"_s, u"\\tau"_s},     {u"π"_s, u"\\pi"_s},     {u"α"_s, u"\\alpha"_s},
-            {u"β"_s, u"\\beta"_s},    {u"ψ"_s, u"\\psi"_s},    {u"μ"_s, u"\\mu"_s}};
+            {u"φ"_s, u"\\varphi"_s}, {u"λ"_s, u"\\lambda"_s}, {u"σ"_s, u"\\sigma"_s},
+            {u"τ"_s, u"\\tau"_s},    {u"π"_s, u"\\pi"_s},     {u"α"_s, u"\\alpha"_s},
+            {u"β"_s, u"\\beta"_s},   {u"ψ"_s, u"\\psi"_s},    {u"μ"_s, u"\\mu"_s}};
         return griegas.value(texto, texto);
     }
     QString signo(const QString &escrito) const override
     {
         static const QHash<QString, QString> signos = {
-            {u"neg"_s, u"-"_s},        {u"*"_s, u" \\cdot "_s},    {u"mod"_s, u" \\bmod "_s},
-            {u"!="_s, u" \\neq "_s},   {u"<="_s, u" \\leq "_s},    {u">="_s, u" \\geq "_s},
-            {u"~"_s, u" \\approx "_s}, {u"=="_s, u" \\equiv "_s},  {u"|"_s, u" \\mid "_s},
+            {u"neg"_s, u"-"_s},        {u"*"_s, u" \\cdot "_s},     {u"mod"_s, u" \\bmod "_s},
+            {u"!="_s, u" \\neq "_s},   {u"<="_s, u" \\leq "_s},     {u">="_s, u" \\geq "_s},
+            {u"~"_s, u" \\approx "_s}, {u"=="_s, u" \\equiv "_s},   {u"|"_s, u" \\mid "_s},
             {u"!|"_s, u" \\nmid "_s},  {u"=>"_s, u" \\implies "_s}, {u","_s, u",\\ "_s}};
         return signos.value(escrito, u' ' + escrito + u' ');
     }
@@ -167,7 +178,8 @@ class EnLatex final : public Escritura
             return u"\\left\\lceil %1 \\right\\rceil"_s.arg(partes(n));
         if (n.texto == u"abs"_s)
             return u"\\left| %1 \\right|"_s.arg(partes(n));
-        const QString nombre = n.texto.size() > 1 ? u"\\operatorname{%1}"_s.arg(n.texto) : letra(n.texto);
+        const QString nombre =
+            n.texto.size() > 1 ? u"\\operatorname{%1}"_s.arg(n.texto) : letra(n.texto);
         return nombre + entreParentesis(partes(n));
     }
     QString modulo(const Nodo &m) const override { return u" \\pmod{%1}"_s.arg(nodo(m)); }
@@ -181,7 +193,8 @@ class EnPalabras final : public Escritura
 {
     QString nombre(const Nodo &n) const override
     {
-        return n.partes.empty() ? n.texto : Traduce(u"%1 sub %2"_s).arg(n.texto, nodo(n.partes.front()));
+        return n.partes.empty() ? n.texto
+                                : Traduce(u"%1 sub %2"_s).arg(n.texto, nodo(n.partes.front()));
     }
     QString signo(const QString &escrito) const override
     {
@@ -243,7 +256,8 @@ QString comoPalabras(const Formula &formula)
 QString signoImpreso(const QString &signo)
 {
     static const QHash<QString, QString> impresos = {
-        {u"-"_s, u"−"_s},  {u"*"_s, u"·"_s},  {u"!="_s, u"≠"_s}, {u"<="_s, u"≤"_s}, {u">="_s, u"≥"_s},
-        {u"~"_s, u"≈"_s},  {u"=="_s, u"≡"_s}, {u"|"_s, u"∣"_s},  {u"!|"_s, u"∤"_s}, {u"=>"_s, u"⇒"_s}};
+        {u"-"_s, u"−"_s},  {u"*"_s, u"·"_s}, {u"!="_s, u"≠"_s}, {u"<="_s, u"≤"_s},
+        {u">="_s, u"≥"_s}, {u"~"_s, u"≈"_s}, {u"=="_s, u"≡"_s}, {u"|"_s, u"∣"_s},
+        {u"!|"_s, u"∤"_s}, {u"=>"_s, u"⇒"_s}};
     return impresos.value(signo, signo);
 }

@@ -217,8 +217,9 @@ private:
     void exige(bool cumplido) const
     {
         if (!cumplido)
-            throw std::invalid_argument(
-                u"no formula from its character %1 on: %2"_s.arg(m_aqui).arg(m_escrita).toStdString());
+            throw std::invalid_argument(u"no formula from its character %1 on: %2"_s.arg(m_aqui)
+                                            .arg(m_escrita)
+                                            .toStdString());
     }
 
     QStringView m_escrita;
@@ -235,9 +236,11 @@ bool llevaParentesis(const NodoDeFormula &nodo, std::size_t i)
                parte.clase != Nodo::Parentesis && parte.clase != Nodo::Funcion;
     if (nodo.clase != Nodo::Operacion && nodo.clase != Nodo::Opuesto)
         return false;
-    const bool suma = parte.clase == Nodo::Operacion && (parte.texto == u"+" || parte.texto == u"-");
+    const bool suma =
+        parte.clase == Nodo::Operacion && (parte.texto == u"+" || parte.texto == u"-");
     const bool enSuma = nodo.texto == u"+" || (nodo.texto == u"-" && i == 0);
-    return (suma && !enSuma) || (parte.clase == Nodo::Opuesto && (i == 1 || nodo.clase == Nodo::Opuesto));
+    return (suma && !enSuma) ||
+           (parte.clase == Nodo::Opuesto && (i == 1 || nodo.clase == Nodo::Opuesto));
 }
 
 Formula::Formula(const QString &escrita) : m_escrita(escrita)

@@ -15,7 +15,7 @@ struct Tono
         Acento,  ///< what the step is about
         Acierto, ///< what holds
         Fallo,   ///< what does not hold
-        Serie    ///< one of a series of colours that can be told apart; `indice` from 0, of any size
+        Serie ///< one of a series of colours that can be told apart; `indice` from 0, of any size
     };
     Clase clase = Tinta;
     int indice = 0;
@@ -28,14 +28,14 @@ struct Figura
 {
     enum Clase { Rectangulo, Elipse, Linea, Flecha, Texto };
     Clase clase = Rectangulo;
-    QRectF lugar;      ///< Linea and Flecha go from its top left to its bottom right corner
+    QRectF lugar;       ///< Linea and Flecha go from its top left to its bottom right corner
     QString texto = {}; ///< in the middle of a rectangle or an ellipse, or the text itself
     Tono tono = {};
     bool rellena = false;
 };
 
-/// A drawing as data, made by logic and painted by the shell: rectangles, circles, lines, arrows and
-/// texts in units of its own.
+/// A drawing as data, made by logic and painted by the shell: rectangles, circles, lines, arrows
+/// and texts in units of its own.
 class Lamina
 {
 public:
@@ -49,7 +49,8 @@ public:
     /// The smallest rectangle that holds all figures.
     QRectF marco() const;
 
-    void rectangulo(const QRectF &lugar, Tono tono, bool rellena = false, const QString &texto = {});
+    void rectangulo(const QRectF &lugar, Tono tono, bool rellena = false,
+                    const QString &texto = {});
     /// An ellipse that fills the rectangle.
     void elipse(const QRectF &lugar, Tono tono, bool rellena = false, const QString &texto = {});
     void linea(QPointF desde, QPointF hasta, Tono tono = {});

@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// The digits of a number as a step shows them: one of more than 40 by its ends and how many it has,
-/// any other in groups of three from five digits on, between which a line never breaks.
+/// The digits of a number as a step shows them: one of more than 40 by its ends and how many it
+/// has, any other in groups of three from five digits on, between which a line never breaks.
 QString numeroEnPantalla(QStringView digitos);
 
 /// A sentence with every number in it as above.

@@ -39,8 +39,8 @@ public:
     /// No steps.
     Pasos() = default;
     explicit Pasos(const QList<Paso> &pasos);
-    /// `hace` is asked for the steps 0 … cuantos − 1, in any order and more than once; what it needs
-    /// it holds by value.
+    /// `hace` is asked for the steps 0 … cuantos − 1, in any order and more than once; what it
+    /// needs it holds by value.
     Pasos(qsizetype cuantos, Hace hace);
 
     qsizetype cuantos() const { return m_cuantos; }

@@ -91,9 +91,13 @@ RevisorDeFormulas::RevisorDeFormulas()
         };
     };
     for (const QString &nombre : {u"mcd"_s, u"gcd"_s})
-        agrega(nombre, plegada([](const mpz_class &a, const mpz_class &b) { return mpz_class(gcd(a, b)); }));
+        agrega(nombre, plegada([](const mpz_class &a, const mpz_class &b) {
+                   return mpz_class(gcd(a, b));
+               }));
     for (const QString &nombre : {u"mcm"_s, u"lcm"_s})
-        agrega(nombre, plegada([](const mpz_class &a, const mpz_class &b) { return mpz_class(lcm(a, b)); }));
+        agrega(nombre, plegada([](const mpz_class &a, const mpz_class &b) {
+                   return mpz_class(lcm(a, b));
+               }));
     agrega(u"floor"_s, [](const auto &n) { return mpq_class(suelo(n.front())); });
     agrega(u"ceil"_s, [](const auto &n) { return mpq_class(-suelo(-n.front())); });
     agrega(u"abs"_s, [](const auto &n) { return mpq_class(abs(n.front())); });
@@ -112,14 +116,18 @@ std::optional<mpq_class> RevisorDeFormulas::valor(const NodoDeFormula &nodo) con
         }
     }
     switch (nodo.clase) {
-    case Nodo::Numero: return mpq_class(nodo.texto.toStdString());
+    case Nodo::Numero:
+        return mpq_class(nodo.texto.toStdString());
     case Nodo::Nombre: {
         const auto dado = m_valores.constFind(comoTexto(nodo));
         return dado == m_valores.constEnd() ? std::optional<mpq_class>() : *dado;
     }
-    case Nodo::Opuesto: return -partes[0];
-    case Nodo::Parentesis: return partes.size() == 1 ? std::optional(partes[0]) : std::nullopt;
-    case Nodo::Potencia: return potencia(partes[0], entero(partes[1]));
+    case Nodo::Opuesto:
+        return -partes[0];
+    case Nodo::Parentesis:
+        return partes.size() == 1 ? std::optional(partes[0]) : std::nullopt;
+    case Nodo::Potencia:
+        return potencia(partes[0], entero(partes[1]));
     case Nodo::Fraccion:
         if (partes[1] == 0)
             throw std::domain_error("a fraction over 0");
@@ -136,7 +144,8 @@ std::optional<mpq_class> RevisorDeFormulas::valor(const NodoDeFormula &nodo) con
         if (nodo.texto == u"*"_s)
             return mpq_class(partes[0] * partes[1]);
         return mpq_class(resto(entero(partes[0]), entero(partes[1])));
-    default: return {};
+    default:
+        return {};
     }
 }
 
@@ -152,7 +161,8 @@ std::optional<mpz_class> RevisorDeFormulas::valorModulo(const NodoDeFormula &nod
         mpz_powm(r.get_mpz_t(), base->get_mpz_t(), entero(*exponente).get_mpz_t(), m.get_mpz_t());
         return r;
     }
-    if (nodo.clase == Nodo::Opuesto || (nodo.clase == Nodo::Parentesis && nodo.partes.size() == 1)) {
+    if (nodo.clase == Nodo::Opuesto ||
+        (nodo.clase == Nodo::Parentesis && nodo.partes.size() == 1)) {
         const auto dentro = valorModulo(nodo.partes[0], m);
         if (!dentro)
             return {};

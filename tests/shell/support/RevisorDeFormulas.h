@@ -9,9 +9,9 @@
 #include <gmpxx.h>
 #include <optional>
 
-/// Checks what steps claim by computing both sides of every formula with exact rationals. A name that
-/// stands alone on a side is bound to the value of the others at its first sight, and must keep it
-/// until `olvida`; a term that has no value (words, …, an unknown) is not compared.
+/// Checks what steps claim by computing both sides of every formula with exact rationals. A name
+/// that stands alone on a side is bound to the value of the others at its first sight, and must
+/// keep it until `olvida`; a term that has no value (words, …, an unknown) is not compared.
 class RevisorDeFormulas
 {
 public:
@@ -19,11 +19,15 @@ public:
 
     /// Knows mcd, mcm, gcd, lcm, floor, ceil, abs, φ; names of functions and values may be added.
     RevisorDeFormulas();
-    void agrega(const QString &nombre, Funcion funcion) { m_funciones.insert(nombre, std::move(funcion)); }
+    void agrega(const QString &nombre, Funcion funcion)
+    {
+        m_funciones.insert(nombre, std::move(funcion));
+    }
     void da(const QString &nombre, const mpq_class &valor) { m_valores.insert(nombre, valor); }
     void olvida() { m_valores.clear(); }
 
-    /// What is wrong with a formula; empty where it holds. Counts how many relations it has compared.
+    /// What is wrong with a formula; empty where it holds. Counts how many relations it has
+    /// compared.
     QString revisa(const Formula &formula);
     /// The first fault of all steps, with its step; empty where all hold.
     QString revisa(const Pasos &pasos);
@@ -31,8 +35,8 @@ public:
     /// Relations compared so far, with a value on both sides.
     int comparadas() const { return m_comparadas; }
 
-    /// A term's value; none for what has no value. Throws std::domain_error for a division by 0, and
-    /// for a power too large to write.
+    /// A term's value; none for what has no value. Throws std::domain_error for a division by 0,
+    /// and for a power too large to write.
     std::optional<mpq_class> valor(const NodoDeFormula &nodo) const;
     /// The remainder of a whole term by m, however large its powers are.
     std::optional<mpz_class> valorModulo(const NodoDeFormula &nodo, const mpz_class &m) const;
