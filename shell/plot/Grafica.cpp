@@ -67,6 +67,7 @@ void Grafica::ponPuntos(const QList<QPointF> &puntos, const QRectF &limites)
     m_puntos = puntos;
     m_tramoDesde = m_tramoHasta = 0;
     m_rectaDesde = m_rectaHasta = {};
+    m_trazo.periodo = 0;
     m_encuadre.ponLimites(limites);
     m_ejeX->setVisible(!puntos.isEmpty());
     m_ejeY->setVisible(!puntos.isEmpty());
@@ -85,6 +86,19 @@ void Grafica::ponRecta(QPointF desde, QPointF hasta)
 {
     m_rectaDesde = desde;
     m_rectaHasta = hasta;
+    update();
+}
+
+void Grafica::ponPeriodo(qreal inicio, qreal longitud)
+{
+    m_trazo.inicio = inicio;
+    m_trazo.periodo = longitud;
+    update();
+}
+
+void Grafica::ponUnida(bool unida)
+{
+    m_trazo.unido = unida;
     update();
 }
 
@@ -225,7 +239,7 @@ void Grafica::paintEvent(QPaintEvent *)
     const QRectF &visible = m_encuadre.visible();
     const int desde = std::max(0, puntoCercano(visible.left()) - 1);
     const int hasta = puntoCercano(visible.right()) + 2;
-    dibujo.funcion(m_puntos.mid(desde, hasta - desde));
+    dibujo.funcion(m_puntos.mid(desde, hasta - desde), m_trazo);
     dibujo.recta(m_rectaDesde, m_rectaHasta);
     if (hasFocus())
         dibujo.marcoDelFoco();

@@ -14,6 +14,15 @@ QColor translucido(QColor color, int opacidad)
     return color;
 }
 
+QColor colorDeVuelta(int vuelta)
+{
+    if (vuelta < 0)
+        return Aspecto::atenuado();
+    constexpr float Naranja = 0.08F;
+    return vuelta % 2 == 0 ? Aspecto::acento()
+                           : QColor::fromHslF(Naranja, 0.85F, Aspecto::esOscuro() ? 0.62F : 0.42F);
+}
+
 } // namespace
 
 PintorDeGrafica::PintorDeGrafica(const Encuadre &encuadre, const QPalette &colores,
@@ -55,17 +64,18 @@ void PintorDeGrafica::rejilla(const QList<qint64> &enX, const QList<qint64> &enY
     }
 }
 
-void PintorDeGrafica::funcion(const QList<QPointF> &puntos)
+void PintorDeGrafica::funcion(const QList<QPointF> &puntos, const TrazoDeGrafica &trazo)
 {
     QPolygonF linea;
     for (const QPointF &punto : puntos)
         linea << m_encuadre.aPixel(punto);
     m_pintor.setPen(QPen(translucido(Aspecto::acento(), 110), 1));
     m_pintor.setBrush(Qt::NoBrush);
-    m_pintor.drawPolyline(linea);
+    if (trazo.unido)
+        m_pintor.drawPolyline(linea);
 
     // Points grow with the room that they have.
-    constexpr qreal radioMinimo = 1.8;
+    const qreal radioMinimo = trazo.unido ? 1.8 : 2.6;
     constexpr qreal radioMaximo = 4;
     qreal radio = radioMaximo;
     if (linea.size() > 1) {
@@ -74,9 +84,10 @@ void PintorDeGrafica::funcion(const QList<QPointF> &puntos)
                            radioMaximo);
     }
     m_pintor.setPen(Qt::NoPen);
-    m_pintor.setBrush(Aspecto::acento());
-    for (const QPointF &punto : std::as_const(linea))
-        m_pintor.drawEllipse(punto, radio, radio);
+    for (qsizetype i = 0; i < linea.size(); ++i) {
+        m_pintor.setBrush(colorDeVuelta(trazo.vuelta(puntos.at(i).x())));
+        m_pintor.drawEllipse(linea.at(i), radio, radio);
+    }
 }
 
 void PintorDeGrafica::recta(QPointF desde, QPointF hasta)
