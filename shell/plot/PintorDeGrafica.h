@@ -4,6 +4,8 @@
 #include "shell/plot/Encuadre.h"
 
 #include <QPalette>
+#include <QString>
+#include <utility>
 
 class QPainter;
 
@@ -18,9 +20,11 @@ public:
     void tramo(qreal desde, qreal hasta);
     void rejilla(const QList<qint64> &enX, const QList<qint64> &enY);
     /// The points and the lines between them.
-    void funcion(const QList<QPointF> &puntos);
+    void funcion(const QList<QPointF> &puntos, const QColor &color);
     /// A dashed straight line over the points; nothing when its ends are equal.
-    void recta(QPointF desde, QPointF hasta);
+    void recta(QPointF desde, QPointF hasta, const QColor &color);
+    /// Names beside their colours, in the upper left corner.
+    void leyenda(const QList<std::pair<QString, QColor>> &nombres);
     void marcoDelFoco();
 
 private:

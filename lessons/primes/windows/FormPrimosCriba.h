@@ -11,6 +11,7 @@
 class CribaSegmentada;
 class FormLeccion;
 class ModeloPrimos;
+class PanelDePasos;
 namespace Ui {
 class FormPrimosCriba;
 }
@@ -26,6 +27,7 @@ public:
     ~FormPrimosCriba() override;
 
     Tareas &tareas() { return m_tareas; }
+    PanelDePasos *pasos() const { return m_pasos; }
 
     /// Writes a time into the label of the panel.
     void muestraTiempo(const QString &tiempo);
@@ -40,6 +42,7 @@ private:
     std::unique_ptr<Ui::FormPrimosCriba> ui;
     FormLeccion *m_leccion;
     ModeloPrimos *m_modelo;
+    PanelDePasos *m_pasos;
     BotonDeCorrida *m_boton;
     std::shared_ptr<CribaSegmentada> m_criba; ///< the last sieve, kept between runs
     TareasDeVentana m_tareas;
