@@ -19,5 +19,6 @@ std::optional<AjustePotencial> ajustaPotencial(const QList<QPointF> &logaritmos)
         return {};
     const double pendiente = xy / xx;
     // Points on one height have no variance to explain: the line goes through all of them.
-    return AjustePotencial{pendiente, media.y() - pendiente * media.x(), yy == 0 ? 1 : xy * xy / (xx * yy)};
+    return AjustePotencial{pendiente, media.y() - pendiente * media.x(),
+                           yy == 0 ? 1 : xy * xy / (xx * yy)};
 }

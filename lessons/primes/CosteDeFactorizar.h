@@ -41,10 +41,13 @@ public:
     /// The bits of the next number.
     int bits() const { return m_bits; }
     bool terminado() const;
-    Retirada retirada(int algoritmo) const { return m_retiradas.at(static_cast<std::size_t>(algoritmo)); }
+    Retirada retirada(int algoritmo) const
+    {
+        return m_retiradas.at(static_cast<std::size_t>(algoritmo));
+    }
 
-    /// Times them on the next number; nothing when the run was stopped. Only while not `terminado()`;
-    /// the race outlives the task.
+    /// Times them on the next number; nothing when the run was stopped. Only while not
+    /// `terminado()`; the race outlives the task.
     Tarea<std::optional<MedidaDeCoste>> siguiente(Billete billete);
 
 private:

@@ -18,7 +18,8 @@ const Moneda Cero, Uno = Moneda::deEntero(1), Dos = Moneda::deEntero(2), Tres = 
 class Rastreador
 {
 public:
-    Rastreador(RastroDeDivision *rastro, const Billete &billete) : m_rastro(rastro), m_billete(billete)
+    Rastreador(RastroDeDivision *rastro, const Billete &billete)
+        : m_rastro(rastro), m_billete(billete)
     {
     }
 
@@ -33,8 +34,8 @@ public:
         if (!m_rastro)
             return;
         const auto tiempo = Reloj::now() - m_inicio - m_billete.tiempoCedido();
-        m_rastro->divisiones.append({factor, std::chrono::duration<double>(tiempo).count(), esElResto,
-                                     m_rastro->alcanzado});
+        m_rastro->divisiones.append({factor, std::chrono::duration<double>(tiempo).count(),
+                                     esElResto, m_rastro->alcanzado});
     }
 
 private:

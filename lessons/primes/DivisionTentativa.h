@@ -15,8 +15,9 @@ struct RastroDeDivision
     {
         Moneda divisor;
         double segundos = 0; ///< from the beginning, without the yields
-        bool esElResto = false; ///< taken for prime because no divisor up to its square root was found
-        Moneda alcanzado = {};  ///< the divisor that came next
+        bool esElResto =
+            false; ///< taken for prime because no divisor up to its square root was found
+        Moneda alcanzado = {}; ///< the divisor that came next
     };
     QList<Division> divisiones;
     Moneda alcanzado = Moneda::deEntero(2); ///< the divisor that is tried

@@ -158,7 +158,7 @@ QList<Corte> cortesDe(const RastroDeDivision &rastro)
         const QString como = division.esElResto
                                  ? Traduce(u"Queda cuando se ha pasado de la raíz cuadrada: %1."_s)
                                  : Traduce(u"Hallado por división: %1."_s);
-        cortes << Corte{division.divisor.texto(), 1, true, division.esElResto, como.arg(tiempo),
+        cortes << Corte{division.divisor.texto(),  1, true, division.esElResto, como.arg(tiempo),
                         division.alcanzado.texto()};
     }
     return cortes;
@@ -170,7 +170,8 @@ TablaDeFactores factorizaGrande(const QString &n)
     const FinDeFactores fin = BuscaFactores(n, [&](const FactorHallado &factor) {
         tabla.filas << filaDe(factor);
         tabla.cortes << Corte{factor.base, factor.exponente, factor.primo,
-                              factor.metodo == MetodoDeFactor::Ninguno, tabla.filas.last().hallazgo};
+                              factor.metodo == MetodoDeFactor::Ninguno,
+                              tabla.filas.last().hallazgo};
         return true;
     });
     std::ranges::sort(tabla.filas, vaAntes);

@@ -44,7 +44,7 @@ struct TablaDeFactores
     QString numero; ///< what was to be factored
     QList<FilaDeFactor> filas = {};
     Desenlace desenlace = Completa;
-    QString resto = {}; ///< what no row holds; nothing where all was divided
+    QString resto = {};       ///< what no row holds; nothing where all was divided
     QList<Corte> cortes = {}; ///< the same factors in the order in which they were found
 
     /// The factors as a product, what may be composite in brackets: "2² · 3 · (9999999999971)";

@@ -81,7 +81,8 @@ void Grafica::ponSeries(const QList<SerieDeGrafica> &series, const QRectF &limit
     QList<QPointF> todos;
     for (const SerieDeGrafica &serie : series)
         todos << serie.puntos;
-    std::stable_sort(todos.begin(), todos.end(), [](QPointF a, QPointF b) { return a.x() < b.x(); });
+    std::stable_sort(todos.begin(), todos.end(),
+                     [](QPointF a, QPointF b) { return a.x() < b.x(); });
     ponPuntos(todos, limites);
     m_series = series;
 }

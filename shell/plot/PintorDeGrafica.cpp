@@ -92,8 +92,10 @@ void PintorDeGrafica::leyenda(const QList<std::pair<QString, QColor>> &nombres)
     const QFontMetricsF medidas(m_pintor.font());
     QPointF esquina = m_encuadre.lienzo().topLeft() + QPointF(10, 8);
     for (const auto &[nombre, color] : nombres) {
-        const QRectF sitio(esquina, QSizeF(medidas.horizontalAdvance(nombre) + 18, medidas.height()));
-        m_pintor.fillRect(sitio.adjusted(-2, 0, 2, 0), translucido(m_colores.color(QPalette::Base), 200));
+        const QRectF sitio(esquina,
+                           QSizeF(medidas.horizontalAdvance(nombre) + 18, medidas.height()));
+        m_pintor.fillRect(sitio.adjusted(-2, 0, 2, 0),
+                          translucido(m_colores.color(QPalette::Base), 200));
         m_pintor.setPen(Qt::NoPen);
         m_pintor.setBrush(color);
         m_pintor.drawEllipse(QPointF(sitio.left() + 5, sitio.center().y()), 4, 4);

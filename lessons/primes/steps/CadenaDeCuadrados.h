@@ -18,9 +18,9 @@ ParteImpar parteImpar(const QString &par);
 /// n − 1, for n > 0.
 QString anterior(const QString &n);
 
-/// The strong test of an odd n to a base: base^d, and its squares (Gary Miller, "Riemann's hypothesis
-/// and tests for primality", 1976; Michael Rabin, "Probabilistic algorithm for testing primality",
-/// 1980).
+/// The strong test of an odd n to a base: base^d, and its squares (Gary Miller, "Riemann's
+/// hypothesis and tests for primality", 1976; Michael Rabin, "Probabilistic algorithm for testing
+/// primality", 1980).
 struct CadenaDeCuadrados
 {
     QString n;

@@ -33,9 +33,8 @@ QString resto(const NodoDePratt &nodo, const NodoDePratt::Factor &factor)
 
 bool tieneOrdenMaximo(const NodoDePratt &nodo)
 {
-    return std::ranges::none_of(nodo.factores, [&nodo](const auto &factor) {
-        return resto(nodo, factor) == u"1"_s;
-    });
+    return std::ranges::none_of(
+        nodo.factores, [&nodo](const auto &factor) { return resto(nodo, factor) == u"1"_s; });
 }
 
 QString producto(const QList<NodoDePratt::Factor> &factores)
@@ -66,7 +65,8 @@ void CertificadoPratt::agrega(const QString &p)
     }
     m_nodos << nodo;
     for (const auto &factor : std::as_const(nodo.factores)) {
-        const bool esta = std::ranges::find(m_nodos, factor.primo, &NodoDePratt::p) != m_nodos.end();
+        const bool esta =
+            std::ranges::find(m_nodos, factor.primo, &NodoDePratt::p) != m_nodos.end();
         if (!esta && !esEvidente(factor.primo))
             agrega(factor.primo);
     }
@@ -87,14 +87,15 @@ Paso CertificadoPratt::paso(qsizetype nodo) const
     QStringList porCertificar;
     for (const auto &factor : este.factores) {
         const QString r = resto(este, factor);
-        paso.formulas << Formula(u"%1^{%2/%3} == %4 (mod %5), %4 != 1"_s.arg(
-            g, menosUno, factor.primo, r, este.p));
+        paso.formulas << Formula(
+            u"%1^{%2/%3} == %4 (mod %5), %4 != 1"_s.arg(g, menosUno, factor.primo, r, este.p));
         if (!esEvidente(factor.primo))
             porCertificar << factor.primo;
     }
-    paso.frase += porCertificar.isEmpty()
-                      ? Traduce(u" Los primos de %1 son menores que 100."_s).arg(menosUno)
-                      : Traduce(u" Falta ver que son primos: %1."_s).arg(porCertificar.join(u", "_s));
+    paso.frase +=
+        porCertificar.isEmpty()
+            ? Traduce(u" Los primos de %1 son menores que 100."_s).arg(menosUno)
+            : Traduce(u" Falta ver que son primos: %1."_s).arg(porCertificar.join(u", "_s));
     paso.lamina = arbol(nodo);
     return paso;
 }
@@ -127,8 +128,8 @@ Lamina CertificadoPratt::arbol(qsizetype actual) const
         if (lugar == m_nodos.end())
             lamina.elipse(caja, {Tono::Acierto}, false, p);
         else
-            lamina.rectangulo(caja, {nodo == actual ? Tono::Acento : Tono::Acierto},
-                              nodo <= actual, p);
+            lamina.rectangulo(caja, {nodo == actual ? Tono::Acento : Tono::Acierto}, nodo <= actual,
+                              p);
         return x;
     };
     dibuja(dibuja, m_nodos.first().p, 0);

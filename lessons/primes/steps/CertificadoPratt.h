@@ -16,7 +16,7 @@ struct NodoDePratt
         int exponente = 1;
     };
     QString p;
-    QString testigo;       ///< the least whose order is p − 1
+    QString testigo;        ///< the least whose order is p − 1
     QList<Factor> factores; ///< of p − 1, ascending
 };
 

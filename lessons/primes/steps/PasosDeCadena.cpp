@@ -23,11 +23,14 @@ QString potencia(const CadenaDeCuadrados &cadena, qsizetype i)
 
 Paso pasoDelExponente(const CadenaDeCuadrados &cadena)
 {
-    return {Traduce(u"De %1 − 1 se separan los doses: queda un exponente impar. La base es %2."_s)
-                .arg(cadena.n, cadena.base),
-            {Formula(u"%1 - 1 = 2^%2*%3"_s.arg(cadena.n).arg(cadena.exponente.s).arg(cadena.exponente.d))},
-            Traduce(u"Si n es primo, la base elevada a n − 1 da 1 módulo n (Fermat), y 1 no tiene más raíces "
-                    "cuadradas que 1 y −1: al elevar al cuadrado se llega a 1 desde 1 o desde −1."_s)};
+    return {
+        Traduce(u"De %1 − 1 se separan los doses: queda un exponente impar. La base es %2."_s)
+            .arg(cadena.n, cadena.base),
+        {Formula(
+            u"%1 - 1 = 2^%2*%3"_s.arg(cadena.n).arg(cadena.exponente.s).arg(cadena.exponente.d))},
+        Traduce(u"Si n es primo, la base elevada a n − 1 da 1 módulo n (Fermat), y 1 no tiene más "
+                u"raíces "
+                "cuadradas que 1 y −1: al elevar al cuadrado se llega a 1 desde 1 o desde −1."_s)};
 }
 
 QString comentario(const CadenaDeCuadrados &cadena, qsizetype i)
@@ -73,19 +76,23 @@ Paso pasoDelTestigo(const CadenaDeCuadrados &cadena)
     const QString &n = cadena.n;
     Paso paso{Traduce(u"%1 es un testigo: %2 no es primo."_s).arg(cadena.base, n)};
     if (const auto raiz = cadena.raizDeUno()) {
-        paso.frase += Traduce(u" Su cadena da una raíz cuadrada de 1, %1, que no es 1 ni −1."_s).arg(*raiz);
+        paso.frase +=
+            Traduce(u" Su cadena da una raíz cuadrada de 1, %1, que no es 1 ni −1."_s).arg(*raiz);
         paso.formulas = formulasDeLaRaiz(*raiz, n);
-        paso.regla = Traduce(u"Si y² ≡ 1 sin que y ≡ ±1, n divide a (y − 1)(y + 1) y a ninguno de los dos: "
-                             "mcd(y − 1; n) es un divisor de n."_s);
+        paso.regla =
+            Traduce(u"Si y² ≡ 1 sin que y ≡ ±1, n divide a (y − 1)(y + 1) y a ninguno de los dos: "
+                    "mcd(y − 1; n) es un divisor de n."_s);
         return paso;
     }
     const QString alFinal = PotenciaMod(cadena.base, anterior(n), n);
     paso.formulas << congruencia(u"%1^{%2}"_s.arg(cadena.base, anterior(n)), alFinal, n)
                   << Formula(u"%1 != 1"_s.arg(alFinal));
     if (const QString comun = Mcd(cadena.base, n); comun != u"1"_s)
-        paso.formulas << Formula(u"%1(%2; %3) = %4"_s.arg(Traduce(u"mcd"_s), cadena.base, n, comun));
-    paso.regla = Traduce(u"Si n es primo y no divide a la base, la base elevada a n − 1 da 1 módulo n "
-                         "(pequeño teorema de Fermat)."_s);
+        paso.formulas << Formula(
+            u"%1(%2; %3) = %4"_s.arg(Traduce(u"mcd"_s), cadena.base, n, comun));
+    paso.regla =
+        Traduce(u"Si n es primo y no divide a la base, la base elevada a n − 1 da 1 módulo n "
+                "(pequeño teorema de Fermat)."_s);
     return paso;
 }
 
@@ -93,13 +100,17 @@ Paso veredicto(const CadenaDeCuadrados &cadena, bool primo)
 {
     if (!cadena.pasa())
         return pasoDelTestigo(cadena);
-    Paso paso{Traduce(u"%1 pasa el test con la base %2."_s).arg(cadena.n, cadena.base),
-              {formulaDelFin(cadena)},
-              Traduce(u"Todos los primos pasan el test con todas las bases; un compuesto, a lo sumo con la "
-                      "cuarta parte de ellas."_s)};
+    Paso paso{
+        Traduce(u"%1 pasa el test con la base %2."_s).arg(cadena.n, cadena.base),
+        {formulaDelFin(cadena)},
+        Traduce(
+            u"Todos los primos pasan el test con todas las bases; un compuesto, a lo sumo con la "
+            "cuarta parte de ellas."_s)};
     if (!primo)
-        paso.frase += Traduce(u" Y sin embargo es compuesto: esta base lo disfraza. Con la base %1 se descubre."_s)
-                          .arg(primerTestigo(cadena.n));
+        paso.frase +=
+            Traduce(
+                u" Y sin embargo es compuesto: esta base lo disfraza. Con la base %1 se descubre."_s)
+                .arg(primerTestigo(cadena.n));
     return paso;
 }
 
@@ -131,7 +142,8 @@ QList<Formula> formulasDeLaRaiz(const QString &raiz, const QString &n)
 {
     const QString divisor = Mcd(anterior(raiz), n);
     const QString otro = calculaEntero(u"(%1)/(%2)"_s.arg(n, divisor)).value_or(QString());
-    return {congruencia(raiz + u"^2"_s, u"1"_s, n), Formula(u"%1 != 1, %1 != %2 - 1"_s.arg(raiz, n)),
+    return {congruencia(raiz + u"^2"_s, u"1"_s, n),
+            Formula(u"%1 != 1, %1 != %2 - 1"_s.arg(raiz, n)),
             Formula(u"%1(%2 - 1; %3) = %4"_s.arg(Traduce(u"mcd"_s), raiz, n, divisor)),
             Formula(u"%1 = %2*%3"_s.arg(n, divisor, otro))};
 }

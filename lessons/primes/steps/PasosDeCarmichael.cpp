@@ -46,7 +46,7 @@ void parte(QStringList &partes, const QString &base, const ParteImpar &exponente
     QStringList nuevas;
     for (const QString &m : std::as_const(partes)) {
         const QString comun = Mcd(base, m);
-        const QString d = EsPrimo(m)                        ? QString()
+        const QString d = EsPrimo(m)                      ? QString()
                           : comun != u"1"_s && comun != m ? comun
                                                           : divisorPorRaiz(m, exponente, base);
         if (d.isEmpty())
@@ -87,12 +87,15 @@ Paso pasoDeFermat(const Diseccion &diseccion)
     const QString &n = diseccion.n;
     const QString &base = diseccion.testigo;
     const QString resto = PotenciaMod(base, anterior(n), n);
-    return {Traduce(u"%1 no es un número de Carmichael: el test de Fermat lo descubre con la base %2."_s)
-                .arg(n, base),
-            {Formula(u"%1(%2; %3) = 1"_s.arg(Traduce(u"mcd"_s), base, n)), fermat(base, n, resto),
-             Formula(u"%1 != 1"_s.arg(resto))},
-            Traduce(u"Un número de Carmichael es un compuesto que da 1 con todas las bases que no tienen "
-                    "factores comunes con él."_s)};
+    return {
+        Traduce(
+            u"%1 no es un número de Carmichael: el test de Fermat lo descubre con la base %2."_s)
+            .arg(n, base),
+        {Formula(u"%1(%2; %3) = 1"_s.arg(Traduce(u"mcd"_s), base, n)), fermat(base, n, resto),
+         Formula(u"%1 != 1"_s.arg(resto))},
+        Traduce(
+            u"Un número de Carmichael es un compuesto que da 1 con todas las bases que no tienen "
+            "factores comunes con él."_s)};
 }
 
 Paso pasoDeFactores(const Diseccion &diseccion)
@@ -104,11 +107,14 @@ Paso pasoDeFactores(const Diseccion &diseccion)
 
 Paso pasoDeKorselt(const Diseccion &diseccion)
 {
-    Paso paso{Traduce(u"Cada primo p de %1 cumple que p − 1 divide a %1 − 1: es un número de Carmichael."_s)
-                  .arg(diseccion.n),
-              {},
-              Traduce(u"Un compuesto sin factores repetidos es de Carmichael si y solo si p − 1 divide a n − 1 para "
-                      "cada primo p que lo divide (Korselt)."_s)};
+    Paso paso{
+        Traduce(
+            u"Cada primo p de %1 cumple que p − 1 divide a %1 − 1: es un número de Carmichael."_s)
+            .arg(diseccion.n),
+        {},
+        Traduce(u"Un compuesto sin factores repetidos es de Carmichael si y solo si p − 1 divide a "
+                u"n − 1 para "
+                "cada primo p que lo divide (Korselt)."_s)};
     for (const QString &p : diseccion.partes)
         paso.formulas << Formula(u"%1 - 1 | %2 - 1"_s.arg(p, diseccion.n));
     return paso;
@@ -116,9 +122,12 @@ Paso pasoDeKorselt(const Diseccion &diseccion)
 
 Paso pasoDelDisfraz(const Diseccion &diseccion)
 {
-    Paso paso{Traduce(u"El test de Fermat no lo descubre: con cualquier base que no tenga factores comunes con %1 da 1."_s)
-                  .arg(diseccion.n)};
-    for (const QString &base : diseccion.sinDivisor.first(std::min<qsizetype>(4, diseccion.sinDivisor.size())))
+    Paso paso{
+        Traduce(
+            u"El test de Fermat no lo descubre: con cualquier base que no tenga factores comunes con %1 da 1."_s)
+            .arg(diseccion.n)};
+    for (const QString &base :
+         diseccion.sinDivisor.first(std::min<qsizetype>(4, diseccion.sinDivisor.size())))
         paso.formulas << fermat(base, diseccion.n, u"1"_s);
     return paso;
 }
@@ -126,10 +135,12 @@ Paso pasoDelDisfraz(const Diseccion &diseccion)
 /// A number that no base has betrayed, and that is none all the same.
 Paso pasoSinKorselt(const Diseccion &diseccion, const QString &p)
 {
-    return {Traduce(u"%1 no es un número de Carmichael: no cumple el criterio de Korselt para el primo %2."_s)
-                .arg(diseccion.n, p),
-            {diseccion.partes.count(p) > 1 ? Formula(u"%1^2 | %2"_s.arg(p, diseccion.n))
-                                           : Formula(u"%1 - 1 !| %2 - 1"_s.arg(p, diseccion.n))}};
+    return {
+        Traduce(
+            u"%1 no es un número de Carmichael: no cumple el criterio de Korselt para el primo %2."_s)
+            .arg(diseccion.n, p),
+        {diseccion.partes.count(p) > 1 ? Formula(u"%1^2 | %2"_s.arg(p, diseccion.n))
+                                       : Formula(u"%1 - 1 !| %2 - 1"_s.arg(p, diseccion.n))}};
 }
 
 bool cumpleKorselt(const Diseccion &diseccion, const QString &p)
@@ -143,15 +154,20 @@ Pasos desenmascarado(const Diseccion &diseccion)
         return !cadenaDeCuadrados(diseccion.n, b).pasa();
     });
     if (base == diseccion.sinDivisor.end())
-        return Pasos({pasoDeFactores(diseccion), pasoDeKorselt(diseccion), pasoDelDisfraz(diseccion)});
+        return Pasos(
+            {pasoDeFactores(diseccion), pasoDeKorselt(diseccion), pasoDelDisfraz(diseccion)});
     const CadenaDeCuadrados cadena = cadenaDeCuadrados(diseccion.n, *base);
     constexpr qsizetype Previos = 3;
     return Pasos(Previos + pasosDeCadena(cadena), [diseccion, cadena](qsizetype i) {
         switch (i) {
-        case 0: return pasoDeFactores(diseccion);
-        case 1: return pasoDeKorselt(diseccion);
-        case 2: return pasoDelDisfraz(diseccion);
-        default: return pasoDeCadena(cadena, false, i - Previos);
+        case 0:
+            return pasoDeFactores(diseccion);
+        case 1:
+            return pasoDeKorselt(diseccion);
+        case 2:
+            return pasoDelDisfraz(diseccion);
+        default:
+            return pasoDeCadena(cadena, false, i - Previos);
         }
     });
 }
@@ -165,7 +181,8 @@ Pasos pasosDeCarmichael(const QString &n)
         return Pasos({pasoDeFermat(diseccion)});
     for (const QString &p : diseccion.partes) {
         if (!EsPrimo(p))
-            return Pasos({Paso{Traduce(u"No se ha podido decidir si %1 es un número de Carmichael: pasa el test de Fermat con las "
+            return Pasos({Paso{Traduce(u"No se ha podido decidir si %1 es un número de Carmichael: "
+                                       u"pasa el test de Fermat con las "
                                        "bases menores que 230, y no se ha partido en primos."_s)
                                    .arg(n)}});
     }

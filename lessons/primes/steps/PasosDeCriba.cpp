@@ -33,7 +33,8 @@ std::vector<int> TableroDeCriba::tachados(std::size_t paso) const
 {
     std::vector<int> primero(static_cast<std::size_t>(m_n) + 1, -1);
     int orden = -1;
-    for (std::size_t i = 0; i <= std::min(paso, m_tachaduras.size() - 1) && !m_tachaduras.empty(); ++i) {
+    for (std::size_t i = 0; i <= std::min(paso, m_tachaduras.size() - 1) && !m_tachaduras.empty();
+         ++i) {
         const Tachadura &t = m_tachaduras[i];
         orden += t.numero == 0 ? 1 : 0;
         if (t.nueva)
@@ -51,19 +52,21 @@ Lamina TableroDeCriba::lamina(std::size_t paso) const
     const int tachador = acabada ? 0 : m_tachaduras[paso].primo;
     const std::vector<int> primero = tachados(paso);
     const auto tachado = std::ranges::count_if(primero, [](int orden) { return orden >= 0; });
-    Lamina lamina(Traduce(u"Tablero de los números de 1 a %1: van tachados %2."_s).arg(m_n).arg(tachado));
+    Lamina lamina(
+        Traduce(u"Tablero de los números de 1 a %1: van tachados %2."_s).arg(m_n).arg(tachado));
     for (int k = 1; k <= m_n; ++k) {
-        const QRectF casilla((k - 1) % columnas * (Ancho + Hueco), (k - 1) / columnas * (Alto + Hueco),
-                             Ancho, Alto);
+        const QRectF casilla((k - 1) % columnas * (Ancho + Hueco),
+                             (k - 1) / columnas * (Alto + Hueco), Ancho, Alto);
         const int orden = primero[static_cast<std::size_t>(k)];
-        const Tono tono = orden >= 0                            ? Tono::serie(orden)
-                          : acabada && k > 1                    ? Tono{Tono::Acierto}
-                          : k == tachador                       ? Tono{Tono::Acento}
-                                                                : Tono{Tono::Suave};
+        const Tono tono = orden >= 0         ? Tono::serie(orden)
+                          : acabada && k > 1 ? Tono{Tono::Acierto}
+                          : k == tachador    ? Tono{Tono::Acento}
+                                             : Tono{Tono::Suave};
         const bool rellena = orden >= 0 || k == tachador;
         lamina.rectangulo(casilla, tono, rellena, rellena ? QString::number(k) : QString());
         if (!rellena)
-            lamina.texto(casilla, QString::number(k), {acabada && k > 1 ? Tono::Acierto : Tono::Tinta});
+            lamina.texto(casilla, QString::number(k),
+                         {acabada && k > 1 ? Tono::Acierto : Tono::Tinta});
         if (k == actual)
             lamina.rectangulo(casilla.adjusted(-Hueco, -Hueco, Hueco, Hueco), {Tono::Acento});
     }
@@ -76,13 +79,15 @@ using Tachadura = TableroDeCriba::Tachadura;
 
 Paso pasoDelPrimo(const TableroDeCriba &tablero, int p)
 {
-    return {Traduce(u"%1 no está tachado: es primo. Se tachan sus múltiplos desde %2, que son %3."_s)
-                .arg(p)
-                .arg(p * p)
-                .arg(tablero.golpes(p)),
-            {Formula(u"%1^2 = %2"_s.arg(p).arg(p * p)),
-             Formula(u"floor(%1/%2) - %2 + 1 = %3"_s.arg(tablero.n()).arg(p).arg(tablero.golpes(p)))},
-            Traduce(u"Los múltiplos menores que p² tienen un factor menor que p, que ya los ha tachado."_s)};
+    return {
+        Traduce(u"%1 no está tachado: es primo. Se tachan sus múltiplos desde %2, que son %3."_s)
+            .arg(p)
+            .arg(p * p)
+            .arg(tablero.golpes(p)),
+        {Formula(u"%1^2 = %2"_s.arg(p).arg(p * p)),
+         Formula(u"floor(%1/%2) - %2 + 1 = %3"_s.arg(tablero.n()).arg(p).arg(tablero.golpes(p)))},
+        Traduce(
+            u"Los múltiplos menores que p² tienen un factor menor que p, que ya los ha tachado."_s)};
 }
 
 Paso pasoDelMultiplo(const Tachadura &t)
@@ -113,20 +118,22 @@ Paso pasoFinal(const TableroDeCriba &tablero)
     const int n = tablero.n();
     const int primos = n - 1 - tablero.compuestos();
     const int siguiente = primeroSinTachar(tablero);
-    Paso paso{Traduce(u"El siguiente sin tachar es %1, y su cuadrado pasa de %2. Sin tachar, además del 1, "
-                      "quedan %3: son los primos."_s)
-                  .arg(siguiente)
-                  .arg(n)
-                  .arg(primos),
-              {Formula(u"%1^2 > %2"_s.arg(siguiente).arg(n)),
-               Formula(u"%1 - 1 - %2 = %3"_s.arg(n).arg(tablero.compuestos()).arg(primos))},
-              Traduce(u"Un compuesto hasta n tiene un factor primo que no pasa de √n, y ese lo ha tachado."_s)};
+    Paso paso{
+        Traduce(
+            u"El siguiente sin tachar es %1, y su cuadrado pasa de %2. Sin tachar, además del 1, "
+            "quedan %3: son los primos."_s)
+            .arg(siguiente)
+            .arg(n)
+            .arg(primos),
+        {Formula(u"%1^2 > %2"_s.arg(siguiente).arg(n)),
+         Formula(u"%1 - 1 - %2 = %3"_s.arg(n).arg(tablero.compuestos()).arg(primos))},
+        Traduce(
+            u"Un compuesto hasta n tiene un factor primo que no pasa de √n, y ese lo ha tachado."_s)};
     paso.tabla = {{Traduce(u"Primo"_s), Traduce(u"Tachaduras"_s), Traduce(u"Nuevas"_s)}, {}};
     QStringList golpes;
     for (const int p : tablero.tachadores()) {
-        const auto nuevas = std::ranges::count_if(tablero.tachaduras(), [p](const Tachadura &t) {
-            return t.primo == p && t.nueva;
-        });
+        const auto nuevas = std::ranges::count_if(
+            tablero.tachaduras(), [p](const Tachadura &t) { return t.primo == p && t.nueva; });
         golpes << QString::number(tablero.golpes(p));
         paso.tabla.filas << QStringList{QString::number(p), golpes.last(), QString::number(nuevas)};
     }
@@ -144,22 +151,25 @@ Pasos pasosDeCriba(qint64 limite)
     const int n = static_cast<int>(std::min<qint64>(limite, TableroDeCriba::MayorTablero));
     const auto tablero = std::make_shared<const TableroDeCriba>(n);
     const std::size_t ultimo = tablero->tachaduras().size();
-    return Pasos(static_cast<qsizetype>(ultimo) + 1,
-                 [tablero, ultimo, limite](qsizetype i) {
-                     const auto lugar = static_cast<std::size_t>(i);
-                     Paso paso;
-                     if (lugar == ultimo)
-                         paso = pasoFinal(*tablero);
-                     else if (const Tachadura &t = tablero->tachaduras()[lugar]; t.numero == 0)
-                         paso = pasoDelPrimo(*tablero, t.primo);
-                     else
-                         paso = pasoDelMultiplo(t);
-                     if (i == 0 && limite > tablero->n())
-                         paso.frase += Traduce(u" El tablero enseña los %1 primeros números; la criba hasta %2 sigue igual."_s)
-                                           .arg(tablero->n())
-                                           .arg(limite);
-                     paso.lamina = tablero->lamina(lugar);
-                     return paso;
-                 })
+    return Pasos(
+               static_cast<qsizetype>(ultimo) + 1,
+               [tablero, ultimo, limite](qsizetype i) {
+                   const auto lugar = static_cast<std::size_t>(i);
+                   Paso paso;
+                   if (lugar == ultimo)
+                       paso = pasoFinal(*tablero);
+                   else if (const Tachadura &t = tablero->tachaduras()[lugar]; t.numero == 0)
+                       paso = pasoDelPrimo(*tablero, t.primo);
+                   else
+                       paso = pasoDelMultiplo(t);
+                   if (i == 0 && limite > tablero->n())
+                       paso.frase +=
+                           Traduce(
+                               u" El tablero enseña los %1 primeros números; la criba hasta %2 sigue igual."_s)
+                               .arg(tablero->n())
+                               .arg(limite);
+                   paso.lamina = tablero->lamina(lugar);
+                   return paso;
+               })
         .comoPelicula();
 }

@@ -67,7 +67,8 @@ QString fraseDelCorte(const Corte &corte, const QString &antes, const QString &d
     if (despues == u"1"_s && corte.exponente == 1 && corte.esElResto)
         return Traduce(u"Lo que queda, %1, es primo."_s).arg(corte.factor);
     if (despues == u"1"_s)
-        return Traduce(u"%1 se divide entre %2: queda 1, y se ha terminado."_s).arg(antes, impreso(corte));
+        return Traduce(u"%1 se divide entre %2: queda 1, y se ha terminado."_s)
+            .arg(antes, impreso(corte));
     return Traduce(u"%1 se divide entre %2: queda %3."_s).arg(antes, impreso(corte), despues);
 }
 
@@ -100,11 +101,13 @@ Paso pasoDelProducto(const Historia &historia)
         potencias << escrito({factor.key().second, factor.value()});
     if (historia.restos.last() != u"1"_s)
         potencias << historia.restos.last();
-    return {historia.tabla.desenlace == TablaDeFactores::Detenida
-                ? Traduce(u"Detenida: lo último falta por descomponer."_s)
-                : Traduce(u"El producto de los factores es el número."_s),
-            {Formula(u"%1 = %2"_s.arg(historia.restos.first(), potencias.join(u'*')))},
-            Traduce(u"Cada número mayor que 1 es producto de primos de una sola manera, salvo el orden."_s)};
+    return {
+        historia.tabla.desenlace == TablaDeFactores::Detenida
+            ? Traduce(u"Detenida: lo último falta por descomponer."_s)
+            : Traduce(u"El producto de los factores es el número."_s),
+        {Formula(u"%1 = %2"_s.arg(historia.restos.first(), potencias.join(u'*')))},
+        Traduce(
+            u"Cada número mayor que 1 es producto de primos de una sola manera, salvo el orden."_s)};
 }
 
 } // namespace

@@ -49,7 +49,8 @@ Paso pasoDeBits(const QString &n, int bits)
 Paso pasoDeDivisor(const QString &n, const QString &p)
 {
     return {Traduce(u"%1 es divisible por %2: no es primo."_s).arg(n, p),
-            {Formula(u"%1 = %2*%3"_s.arg(n, p, calculaEntero(u"(%1)/%2"_s.arg(n, p)).value_or(QString()))),
+            {Formula(u"%1 = %2*%3"_s.arg(
+                 n, p, calculaEntero(u"(%1)/%2"_s.arg(n, p)).value_or(QString()))),
              Formula(u"1 < %1 < %2"_s.arg(p, n))},
             Traduce(u"Un primo solo es divisible por 1 y por sí mismo."_s)};
 }
@@ -88,22 +89,25 @@ Paso pasoSinDivisores(const QString &n, const QStringList &primos)
 Paso pasoProbable(const QString &n)
 {
     constexpr int CuantasBases = 10;
-    Paso paso{Traduce(u"%1 se comporta como primo con las %2 primeras bases. Es un primo probable: con "
-                      "más de %3 bits no se demuestra aquí, pero un compuesto elegido de antemano solo "
-                      "pasa por casualidad."_s)
-                  .arg(n)
-                  .arg(CuantasBases)
-                  .arg(CertificadoPratt::MasBits)};
+    Paso paso{
+        Traduce(u"%1 se comporta como primo con las %2 primeras bases. Es un primo probable: con "
+                "más de %3 bits no se demuestra aquí, pero un compuesto elegido de antemano solo "
+                "pasa por casualidad."_s)
+            .arg(n)
+            .arg(CuantasBases)
+            .arg(CertificadoPratt::MasBits)};
     paso.tabla = {{Traduce(u"Base"_s), Traduce(u"Último valor"_s)}, {}};
     for (const QString &base : basesPrimas().first(CuantasBases)) {
         const CadenaDeCuadrados cadena = cadenaDeCuadrados(n, base);
         paso.tabla.filas << QStringList{base, cadena.acabaEnUno() ? u"1"_s : u"n − 1"_s};
         paso.formulas << formulaDelFin(cadena);
     }
-    paso.formulas << Formula(u"1/4^%1 = 1/%2"_s.arg(CuantasBases).arg(qint64{1} << 2 * CuantasBases));
-    paso.regla = Traduce(u"De cada compuesto, a lo sumo la cuarta parte de las bases lo disfrazan (Rabin): "
-                         "k bases al azar fallan todas con probabilidad 1/4ᵏ como mucho. El programa "
-                         "añade el test de Lucas: no se conoce ningún compuesto que pase los dos."_s);
+    paso.formulas << Formula(
+        u"1/4^%1 = 1/%2"_s.arg(CuantasBases).arg(qint64{1} << 2 * CuantasBases));
+    paso.regla =
+        Traduce(u"De cada compuesto, a lo sumo la cuarta parte de las bases lo disfrazan (Rabin): "
+                "k bases al azar fallan todas con probabilidad 1/4ᵏ como mucho. El programa "
+                "añade el test de Lucas: no se conoce ningún compuesto que pase los dos."_s);
     return paso;
 }
 
@@ -138,8 +142,9 @@ Pasos pasosSinTest(const QString &texto, const QString &n)
         return Pasos({Paso{Traduce(u"%1 no es primo: los primos son mayores que 1."_s).arg(n),
                            {Formula(u"%1 < 2"_s.arg(n))},
                            Traduce(u"Un primo tiene dos divisores exactamente, 1 y él mismo."_s)}});
-    return Pasos({Paso{Traduce(u"«%1» no es un número natural escrito con sus cifras: no es primo."_s)
-                           .arg(texto)}});
+    return Pasos(
+        {Paso{Traduce(u"«%1» no es un número natural escrito con sus cifras: no es primo."_s)
+                  .arg(texto)}});
 }
 
 void agregaCertificado(Guion &guion, const QString &n, int bits)

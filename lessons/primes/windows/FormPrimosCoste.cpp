@@ -35,8 +35,8 @@ FormPrimosCoste::FormPrimosCoste(FormLeccion *leccion)
     m_boton =
         new BotonDeCorrida(ui->cmdCoste, BotonDeCorrida::calcular(), BotonDeCorrida::detener());
     ui->FlexCoste->setModel(&m_modelo);
-    ui->FlexCoste->ponTextoVacio(
-        Traduce(u"Pulse «Calcular» para medir lo que tarda cada algoritmo con números cada vez mayores"_s));
+    ui->FlexCoste->ponTextoVacio(Traduce(
+        u"Pulse «Calcular» para medir lo que tarda cada algoritmo con números cada vez mayores"_s));
     new ColumnasRepartidas(ui->FlexCoste);
     ui->PicCoste->ponTextoVacio(Traduce(u"Aquí aparecerá el tiempo de cada algoritmo"_s));
     conecta(ui->cmdCoste, &QPushButton::clicked, this, &FormPrimosCoste::cmdCoste_Click);
@@ -78,7 +78,8 @@ Tarea<> FormPrimosCoste::mide()
         if (!marcha.vigente())
             co_return;
         if (!medida) {
-            muestraNeutro(ui->lblAvanceCoste, Traduce(u"Detenido en %1 bits."_s).arg(carrera.bits()));
+            muestraNeutro(ui->lblAvanceCoste,
+                          Traduce(u"Detenido en %1 bits."_s).arg(carrera.bits()));
             co_return;
         }
         agrega(*medida);
@@ -167,8 +168,8 @@ void FormPrimosCoste::PicCoste_Senalado(int indice)
     }
     const Punto &punto = m_puntos.at(indice);
     const MedidaDeCoste &medida = m_medidas.at(punto.medida);
-    ui->lblPuntoCoste->setText(
-        Traduce(u"%1, n = %2: %3"_s)
-            .arg(nombre(punto.algoritmo), formatoAbreviado(medida.numero),
-                 textoDeDuracion(*medida.nanosegundos.at(static_cast<std::size_t>(punto.algoritmo)))));
+    ui->lblPuntoCoste->setText(Traduce(u"%1, n = %2: %3"_s)
+                                   .arg(nombre(punto.algoritmo), formatoAbreviado(medida.numero),
+                                        textoDeDuracion(*medida.nanosegundos.at(
+                                            static_cast<std::size_t>(punto.algoritmo)))));
 }

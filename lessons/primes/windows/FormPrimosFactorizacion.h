@@ -47,7 +47,8 @@ private:
     bool excedeElLimite(const QString &numero);
     void ponEnMarcha(Algoritmo elegido, const QString &numero);
     Tarea<> factoriza(Algoritmo elegido, QString numero, Moneda moneda);
-    Tarea<TablaDeFactores> divide(Algoritmo elegido, QString numero, Moneda moneda, Billete billete);
+    Tarea<TablaDeFactores> divide(Algoritmo elegido, QString numero, Moneda moneda,
+                                  Billete billete);
     Tarea<TablaDeFactores> halla(Algoritmo elegido, QString numero, Moneda moneda, Billete billete);
     void muestra(const TablaDeFactores &tabla);
 
@@ -55,7 +56,7 @@ private:
     ModeloFactores *m_modelo;
     PanelDePasos *m_pasos;
     BotonDeCorrida *m_boton;
-    std::unique_ptr<ColFactores> m_factores; ///< those found by trial division
+    std::unique_ptr<ColFactores> m_factores;    ///< those found by trial division
     std::shared_ptr<RastroDeDivision> m_rastro; ///< of the trial division that runs, or null
     QString m_numero;
     qsizetype m_divisionesVistas = 0;

@@ -185,8 +185,8 @@ void FormPrimosTest::cmdNumBits_Click()
 void FormPrimosTest::preparaPasos()
 {
     ui->FlexHistorial->setModel(&m_historial);
-    ui->FlexHistorial->ponTextoVacio(
-        Traduce(u"Aquí se anotan los números que se prueban. Con Entrar, el elegido vuelve al campo."_s));
+    ui->FlexHistorial->ponTextoVacio(Traduce(
+        u"Aquí se anotan los números que se prueban. Con Entrar, el elegido vuelve al campo."_s));
     ui->FlexHistorial->setTextElideMode(Qt::ElideMiddle);
     ui->FlexHistorial->setSelectionBehavior(QAbstractItemView::SelectRows);
     QHeaderView *cabecera = ui->FlexHistorial->horizontalHeader();
@@ -229,8 +229,9 @@ QString FormPrimosTest::baseElegida()
         return *leida;
     if (!ui->txtBase->text().trimmed().isEmpty())
         muestraVeredicto(ui->lblAvisoBase, false,
-                         leida ? Traduce(u"La base va de 2 a n − 2. Se toma la automática."_s)
-                               : leida.razon().frase() + u' ' + Traduce(u"Se toma la automática."_s));
+                         leida
+                             ? Traduce(u"La base va de 2 a n − 2. Se toma la automática."_s)
+                             : leida.razon().frase() + u' ' + Traduce(u"Se toma la automática."_s));
     return {};
 }
 

@@ -139,7 +139,8 @@ private Q_SLOTS:
         std::mt19937_64 azar(17);
         int hallados = 0;
         for (int i = 0; i < Muestras; ++i) {
-            const unsigned n = i < 5000 ? 2 * static_cast<unsigned>(i) + 9 : static_cast<unsigned>(azar() >> 32) | 1U;
+            const unsigned n = i < 5000 ? 2 * static_cast<unsigned>(i) + 9
+                                        : static_cast<unsigned>(azar() >> 32) | 1U;
             const QString numero = QString::number(n);
             if (EsPrimo(numero))
                 continue;
@@ -168,7 +169,8 @@ private Q_SLOTS:
         QVERIFY(larga.paso(0).frase.contains(u"65000"_s));
         const auto llenas = [&](qsizetype paso) {
             const auto figuras = larga.paso(paso).lamina.figuras();
-            return std::count_if(figuras.begin(), figuras.end(), [](const Figura &f) { return f.rellena; });
+            return std::count_if(figuras.begin(), figuras.end(),
+                                 [](const Figura &f) { return f.rellena; });
         };
         QCOMPARE(llenas(0), 1);
         QCOMPARE(llenas(519), 400 - 78 - 1);
@@ -212,7 +214,8 @@ private Q_SLOTS:
         RastroDeDivision rastro;
         QVERIFY(fraseDelAvance(rastro).endsWith(u"alcanzado: 2. Aún no hay factores."_s));
         FactorizaMejorado(Moneda::deEntero(12 * 97), {}, &rastro).completa();
-        QVERIFY(fraseDelAvance(rastro).endsWith(u"alcanzado: 11. Factores hallados: 2 · 2 · 3 · 97."_s));
+        QVERIFY(fraseDelAvance(rastro).endsWith(
+            u"alcanzado: 11. Factores hallados: 2 · 2 · 3 · 97."_s));
     }
 
 private:
