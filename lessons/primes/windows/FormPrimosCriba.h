@@ -8,7 +8,6 @@
 #include <QWidget>
 #include <memory>
 
-class CribaSegmentada;
 class FormLeccion;
 class ModeloPrimos;
 class PanelDePasos;
@@ -44,6 +43,5 @@ private:
     ModeloPrimos *m_modelo;
     PanelDePasos *m_pasos;
     BotonDeCorrida *m_boton;
-    std::shared_ptr<CribaSegmentada> m_criba; ///< the last sieve, kept between runs
     TareasDeVentana m_tareas;
 };
