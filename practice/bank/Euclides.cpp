@@ -13,8 +13,7 @@ namespace {
 
 Pasos divisionesDe(qint64 a, qint64 b)
 {
-    return pasosDeEuclides(
-        {Moneda::deEntero(a), Moneda::deEntero(b), AlgoritmoEuclides::Estandar});
+    return pasosDeEuclides({Moneda::deEntero(a), Moneda::deEntero(b), AlgoritmoEuclides::Estandar});
 }
 
 Fallo juzgaMcd(const RespuestaLeida &r, qint64 a, qint64 b)
@@ -45,7 +44,8 @@ std::pair<qint64, qint64> coprimosDe(int divisiones, Sorteo &sorteo)
 Ejercicio mcd(int nivel, Sorteo &sorteo)
 {
     const qint64 d = sorteo.entre(2, 12 * nivel);
-    const auto coprimos = coprimosDe(static_cast<int>(sorteo.entre(2, 3)) + 2 * (nivel - 1), sorteo);
+    const auto coprimos =
+        coprimosDe(static_cast<int>(sorteo.entre(2, 3)) + 2 * (nivel - 1), sorteo);
     const qint64 a = coprimos.first * d;
     const qint64 b = coprimos.second * d;
     return {.enunciado = Traduce(u"¿Cuál es el máximo común divisor de %1 y %2?"_s).arg(a).arg(b),

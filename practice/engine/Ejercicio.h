@@ -47,7 +47,8 @@ bool mismosEnOtroOrden(const RespuestaLeida &respuesta, QStringList esperados);
 /// A kind of exercise, with three levels: how one is drawn, and all that is known of it then.
 struct TipoDeEjercicio
 {
-    QString clave;  ///< "euclides.mcd": the lesson and the kind; never changes, for progress is kept by it
+    QString clave; ///< "euclides.mcd": the lesson and the kind; never changes, for progress is kept
+                   ///< by it
     QString titulo; ///< Spanish
     /// Draws one of level 1, 2 or 3.
     std::function<Ejercicio(int nivel, Sorteo &sorteo)> genera;

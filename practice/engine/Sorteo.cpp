@@ -22,8 +22,7 @@ std::uint64_t Sorteo::siguiente()
 
 std::int64_t Sorteo::entre(std::int64_t a, std::int64_t b)
 {
-    const std::uint64_t cuantos =
-        static_cast<std::uint64_t>(b) - static_cast<std::uint64_t>(a) + 1;
+    const std::uint64_t cuantos = static_cast<std::uint64_t>(b) - static_cast<std::uint64_t>(a) + 1;
     if (cuantos == 0) // all of them
         return static_cast<std::int64_t>(siguiente());
     // The largest multiple of `cuantos` that fits: what lies beyond would favour the first values.
@@ -40,5 +39,6 @@ std::uint64_t semillaDe(std::uint64_t serie, const QString &tipo, int nivel, int
     const QByteArray letras = tipo.toUtf8();
     for (const char letra : letras)
         h = mezcla(h ^ static_cast<unsigned char>(letra));
-    return mezcla(mezcla(h ^ static_cast<std::uint64_t>(nivel)) ^ static_cast<std::uint64_t>(lugar));
+    return mezcla(mezcla(h ^ static_cast<std::uint64_t>(nivel)) ^
+                  static_cast<std::uint64_t>(lugar));
 }

@@ -7,8 +7,8 @@
 
 /// The generator of the exercises: the same seed draws the same ones on every machine, in every
 /// version of the program that states the same VersionDeSorteo. (Source of the generator: G. L.
-/// Steele Jr., D. Lea, C. H. Flood, "Fast splittable pseudorandom number generators", 2014.) Not for
-/// secrets.
+/// Steele Jr., D. Lea, C. H. Flood, "Fast splittable pseudorandom number generators", 2014.) Not
+/// for secrets.
 class Sorteo
 {
 public:

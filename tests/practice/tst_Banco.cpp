@@ -92,8 +92,8 @@ void tst_Banco::cadaTipo()
             Sorteo sorteo(semillaDe(17, clave, nivel, i));
             const Ejercicio ejercicio = tipo->genera(nivel, sorteo);
             const QString falta = faltaEn(ejercicio);
-            QVERIFY2(falta.isEmpty(), qPrintable(u"level %1, %2: %3"_s.arg(nivel)
-                                                     .arg(ejercicio.enunciado, falta)));
+            QVERIFY2(falta.isEmpty(),
+                     qPrintable(u"level %1, %2: %3"_s.arg(nivel).arg(ejercicio.enunciado, falta)));
             enunciados << ejercicio.enunciado;
         }
         QVERIFY2(enunciados.size() > 5, "too few different exercises");

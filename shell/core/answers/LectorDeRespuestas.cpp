@@ -176,6 +176,26 @@ RespuestaLeida leeLista(const QString &expresion)
     return leida(numeros, enParentesis(numeros));
 }
 
+RespuestaLeida leeSuma(const QString &expresion)
+{
+    QStringList numeros;
+    QString sumando;
+    int hondo = 0;
+    for (const QChar c : QString(expresion + u'+')) {
+        hondo += c == u'(' ? 1 : c == u')' ? -1 : 0;
+        if (hondo > 0 || c != u'+') {
+            sumando += c;
+            continue;
+        }
+        const auto valor = entero(sumando);
+        if (!valor || numeros.size() == MasNumeros)
+            return noEntendida(sumando.trimmed());
+        numeros << *valor;
+        sumando.clear();
+    }
+    return leida(numeros, numeros.join(u" + "_s));
+}
+
 bool menorEnCifras(const QString &a, const QString &b)
 {
     return a.size() != b.size() ? a.size() < b.size() : a < b;
@@ -184,7 +204,8 @@ bool menorEnCifras(const QString &a, const QString &b)
 RespuestaLeida leeProducto(const QString &expresion)
 {
     static const QRegularExpression entreFactores(u"[*,;]|(?<=\\d)\\s*[xX]\\s*(?=\\d)"_s);
-    static const QRegularExpression potencia(u"^\\s*\\(?\\s*(\\d+)\\s*(?:\\^\\s*(\\d{1,6}))?\\s*\\)?\\s*$"_s);
+    static const QRegularExpression potencia(
+        u"^\\s*\\(?\\s*(\\d+)\\s*(?:\\^\\s*(\\d{1,6}))?\\s*\\)?\\s*$"_s);
     QMap<QString, qint64> exponentes;
     for (const QString &tramo : expresion.split(entreFactores)) {
         for (const QString &factor : partesSueltas(tramo)) {
@@ -243,7 +264,7 @@ RespuestaLeida leeSolucion(const QString &expresion)
     if (numeros.size() != 4)
         return noEntendida(expresion.trimmed());
     return leida(numeros, u"x = %1 + (%2)k, y = %3 + (%4)k"_s.arg(numeros[0], numeros[1],
-                                                                   numeros[2], numeros[3]));
+                                                                  numeros[2], numeros[3]));
 }
 
 /// Small letters without accents: "Si" for "sí".
@@ -263,11 +284,18 @@ RespuestaLeida leeSegun(const FormaDeRespuesta &forma, const QString &texto)
     if (esLaPregunta(expresion, forma.preguntadas))
         return {RespuestaLeida::EsLaPregunta, {}, {}, Traduce(u"eso es la pregunta"_s)};
     switch (forma.clase) {
-    case FormaDeRespuesta::Entero: return leeUno(expresion, texto);
-    case FormaDeRespuesta::Lista: return leeLista(expresion);
-    case FormaDeRespuesta::Producto: return leeProducto(expresion);
-    case FormaDeRespuesta::Solucion: return leeSolucion(expresion);
-    case FormaDeRespuesta::Palabra: break;
+    case FormaDeRespuesta::Entero:
+        return leeUno(expresion, texto);
+    case FormaDeRespuesta::Lista:
+        return leeLista(expresion);
+    case FormaDeRespuesta::Suma:
+        return leeSuma(expresion);
+    case FormaDeRespuesta::Producto:
+        return leeProducto(expresion);
+    case FormaDeRespuesta::Solucion:
+        return leeSolucion(expresion);
+    case FormaDeRespuesta::Palabra:
+        break;
     }
     return noEntendida(texto.trimmed());
 }
@@ -282,7 +310,10 @@ QString comoExpresion(QString texto)
     bajaCifras(texto);
     quitaGrupos(texto);
     texto.replace(u'−', u'-').replace(u'·', u'*').replace(u'×', u'*').replace(u'÷', u'/');
-    return texto.replace(fibonacci, u"fib"_s).replace(fi, u"fi"_s).replace(producto, u"*"_s).trimmed();
+    return texto.replace(fibonacci, u"fib"_s)
+        .replace(fi, u"fi"_s)
+        .replace(producto, u"*"_s)
+        .trimmed();
 }
 
 RespuestaLeida leeRespuesta(const QString &texto, const FormaDeRespuesta &forma)

@@ -8,10 +8,12 @@
 struct FormaDeRespuesta
 {
     enum Clase {
-        Entero,   ///< one whole number
-        Lista,    ///< whole numbers between ",", ";", "y" or blanks, in brackets or not, in any order
+        Entero, ///< one whole number
+        Lista,  ///< whole numbers between ",", ";", "y" or blanks, in brackets or not, in any order
+        Suma,   ///< whole numbers joined by "+", each of which counts
         Producto, ///< prime powers: "2^3·5", "2³ x 5", "2, 2, 2, 5"
-        Solucion, ///< "x = 3 + 5k, y = 2 − 4k": where it begins and how far it goes, of each unknown
+        Solucion, ///< "x = 3 + 5k, y = 2 − 4k": where it begins and how far it goes, of each
+                  ///< unknown
         Palabra   ///< one of the words alone
     };
     Clase clase = Entero;
@@ -28,9 +30,9 @@ struct RespuestaLeida
 {
     enum Estado { Vacia, Leida, NoEntendida, EsLaPregunta };
     Estado estado = Vacia;
-    /// Whole numbers in digits with their sign, in the order in which they stand. Of a Producto prime,
-    /// exponent, prime, exponent …, in order of the primes and joined; of a Solucion the beginning and
-    /// the step of x, then of y.
+    /// Whole numbers in digits with their sign, in the order in which they stand. Of a Producto
+    /// prime, exponent, prime, exponent …, in order of the primes and joined; of a Solucion the
+    /// beginning and the step of x, then of y.
     QStringList numeros = {};
     QString palabra = {}; ///< the word that was answered, in Spanish
     /// What the student is told: "leo 5167"; of one that is not understood, which part is not.

@@ -172,12 +172,12 @@ private Q_SLOTS:
             last calls               | L89          | no  | no hacen otras
             calls, other             | L100         | no  | L(n)
             calls, beyond 64 bits    | L10^30       | no  | L(n)
-            calls, no number         | Lmuchas      | no  | entero
+            calls, no number         | Lmuchas      | no  | «muchas»
             moves                    | H2^7         | yes | doble
             all moves                | H1023        | no  | todos
             discs from the other end | H4           | no  | revés
             moves, other             | H127         | no  | mayor
-            moves, fraction          | H1/3         | no  | entero)"_s);
+            moves, fraction          | H1/3         | no  | «1/3»)"_s);
     }
     void cuestiones()
     {

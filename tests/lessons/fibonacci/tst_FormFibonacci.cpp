@@ -186,7 +186,7 @@ private Q_SLOTS:
         for (const PasoZeckendorf &paso : representacionZeckendorf(n))
             sumandos << paso.sumando;
         pulsa(u"cmdComprobar_0"_s);
-        QCOMPARE(texto(u"lblVeredicto_0"_s), QString());
+        QCOMPARE(texto(u"lblVeredicto_0"_s), u"Escriba una respuesta."_s);
         escribe(u"txtRespuesta_0"_s, sumandos.join(u" + "_s));
         pulsa(u"cmdComprobar_0"_s);
         QVERIFY(texto(u"lblVeredicto_0"_s).startsWith(u"✓"_s));

@@ -212,14 +212,14 @@ private Q_SLOTS:
         const auto *animacion = el<ReproductorAVI>(u"ccrpAniEureka"_s);
         for (const QString &i : {u"0"_s, u"1"_s}) {
             responde(i, u"2/3"_s);
-            QCOMPARE(texto(u"lblVeredicto_"_s + i), u"✗ La respuesta es un número entero."_s);
+            QCOMPARE(texto(u"lblVeredicto_"_s + i), u"No se ha juzgado: no entiendo «2/3»."_s);
             responde(i, u"-1"_s);
             QVERIFY(texto(u"lblVeredicto_"_s + i).startsWith(u"✗ "_s));
             QCOMPARE(animacion->estado(), ReproductorAVI::Reproduciendo);
         }
     }
 
-    /// A power is a question that the expression of its own text answers.
+    /// A power is no answer by the expression of its own text, but by its value.
     void aciertoDeUnaPotencia()
     {
         const QRegularExpression potencia(u"(\\d+\\^\\d+) al dividirlo entre (\\d+)"_s);
@@ -229,7 +229,10 @@ private Q_SLOTS:
             hallada = potencia.match(texto(u"lblEnunciado_1"_s));
         }
         QVERIFY(hallada.hasMatch());
-        responde(u"1"_s, hallada.captured(1) + u" mod "_s + hallada.captured(2));
+        const QString potenciaPedida = hallada.captured(1) + u" mod "_s + hallada.captured(2);
+        responde(u"1"_s, potenciaPedida);
+        QCOMPARE(texto(u"lblVeredicto_1"_s), u"No se ha juzgado: eso es la pregunta."_s);
+        responde(u"1"_s, Evalua(QString(potenciaPedida)));
         QCOMPARE(texto(u"lblVeredicto_1"_s), u"✓ ¡Correcto!"_s);
     }
 
