@@ -4,7 +4,19 @@
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::Literals::StringLiterals;
+
+QString comoExpresion(QString respuesta)
+{
+    static const QRegularExpression fibonacci(u"\\bF\\s*\\("_s);
+    return respuesta.replace(u'−', u'-')
+        .replace(u'·', u'*')
+        .replace(u'×', u'*')
+        .replace(fibonacci, u"fib("_s)
+        .trimmed();
+}
 
 Juez juezDeEnteros(const Juez &juez)
 {

@@ -23,6 +23,10 @@ struct Cuestion
     Juez juzga;
 };
 
+/// An answer as it is judged: the signs of print as the keyboard has them, and F(n) as expressions
+/// call it, so that mathematics may be answered as the lessons print them.
+QString comoExpresion(QString respuesta);
+
 /// The judge of answers that are expressions for whole numbers of any size, made of one that is
 /// given their digits with their sign. Any other answer is wrong, and told so.
 Juez juezDeEnteros(const Juez &juez);

@@ -6,8 +6,9 @@
 #include "shell/core/Traduccion.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/Interlocutor.h"
-#include "shell/frame/NavegadorPagina.h"
+#include "shell/frame/Relleno.h"
 #include "shell/look/Aspecto.h"
+#include "shell/page/PaginaDeLeccion.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -17,28 +18,49 @@
 #include <QScopeGuard>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QStringView TemaIntroduccion = u"intro";
+
+} // namespace
 
 FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     : QWidget(padre),
       m_pagina(pagina),
       m_tsTema(new QTabBar(this)),
-      m_paneles(new QStackedWidget(this))
+      m_paneles(new QStackedWidget(this)),
+      m_cmdVolver(new QToolButton(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     m_tsTema->setObjectName(u"tsTema"_s);
     m_tsTema->setAccessibleName(Traduce(u"Temas de la lección"_s));
     m_tsTema->setExpanding(false);
     m_tsTema->setDrawBase(true);
+    m_cmdVolver->setObjectName(u"cmdVolver"_s);
+    m_cmdVolver->setText(Traduce(u"Volver a la página"_s));
+    m_cmdVolver->setToolTip(Traduce(u"Volver al lugar de la página que trajo aquí (Alt+←)"_s));
+    m_cmdVolver->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_cmdVolver->setArrowType(Qt::LeftArrow);
+    m_cmdVolver->setAutoRaise(true);
+    m_cmdVolver->setFocusPolicy(Qt::StrongFocus);
+    m_cmdVolver->hide();
     auto *columna = new QVBoxLayout(this);
     columna->setContentsMargins(0, Aspecto::Espacio / 2, 0, 0);
     columna->setSpacing(0);
-    columna->addWidget(m_tsTema);
+    auto *tira = new QHBoxLayout;
+    tira->addWidget(m_tsTema, 1);
+    tira->addWidget(m_cmdVolver);
+    columna->addLayout(tira);
     columna->addWidget(m_paneles);
     conecta(m_tsTema, &QTabBar::currentChanged, this, &FormLeccion::tsTema_Click);
+    conecta(m_cmdVolver, &QToolButton::clicked, this, &FormLeccion::cmdVolver_Click);
     qApp->installEventFilter(this);
 }
 
@@ -49,7 +71,22 @@ QString FormLeccion::URL() const
 
 void FormLeccion::muestraAyuda() const
 {
-    interlocutor().abre(PaginaTraducida(URL(), Idioma()));
+    const QString seccion = seccionAlFrente();
+    interlocutor().abre(PaginaTraducida(URL(), Idioma()) +
+                        (seccion.isEmpty() ? seccion : u'#' + seccion));
+}
+
+QString FormLeccion::seccionAlFrente() const
+{
+    const QString clave = m_tsTema->tabData(m_tsTema->currentIndex()).toString();
+    for (const TemaDePagina &tema : m_temasDePagina) {
+        if (tema.clave != clave)
+            continue;
+        const auto *pestanas = m_paneles->currentWidget()->findChild<QTabWidget *>();
+        return pestanas ? tema.pestanas.value(pestanas->currentIndex(), tema.seccion)
+                        : tema.seccion;
+    }
+    return {};
 }
 
 void FormLeccion::cierra()
@@ -114,12 +151,55 @@ void FormLeccion::agregaIntroduccion(const QString &rotulo)
     auto *panel = new QWidget(this);
     auto *marco = new QVBoxLayout(panel);
     marco->setContentsMargins(0, 0, 0, 0);
-    auto *pagina = new NavegadorPagina(panel);
-    pagina->setObjectName(u"wbIntro"_s);
-    pagina->setAccessibleName(Traduce(u"Introducción"_s));
-    pagina->navega(PaginaTraducida(URL(), Idioma()));
-    marco->addWidget(pagina);
-    agregaTema(rotulo, u"intro"_s, panel);
+    m_introduccion = new PaginaDeLeccion(panel);
+    m_introduccion->navegador()->navega(PaginaTraducida(URL(), Idioma()));
+    marco->addWidget(m_introduccion);
+    agregaTema(rotulo, TemaIntroduccion.toString(), panel);
+}
+
+bool FormLeccion::abreTema(const QString &clave)
+{
+    const int indice = indiceDeTema(clave);
+    if (indice >= 0)
+        m_tsTema->setCurrentIndex(indice);
+    return indice >= 0;
+}
+
+bool FormLeccion::rellenaCampo(const QString &campo, const QString &valor)
+{
+    auto *control = findChild<QWidget *>(campo);
+    if (!control)
+        return false;
+    for (QTabWidget *pestanas : findChildren<QTabWidget *>()) {
+        for (int i = 0; i < pestanas->count(); ++i) {
+            if (pestanas->widget(i)->isAncestorOf(control))
+                pestanas->setCurrentIndex(i);
+        }
+    }
+    return rellena(*control, valor);
+}
+
+bool FormLeccion::introduccionAlFrente() const
+{
+    return m_introduccion && m_introduccion->isVisible();
+}
+
+void FormLeccion::ofreceVuelta(const std::function<void()> &vuelve)
+{
+    m_vuelve = vuelve;
+    m_cmdVolver->show();
+}
+
+/// Without a page that led here, back is the lesson's own.
+void FormLeccion::cmdVolver_Click()
+{
+    m_cmdVolver->hide();
+    if (const auto vuelve = std::exchange(m_vuelve, {})) {
+        vuelve();
+    } else if (m_introduccion) {
+        abreTema(TemaIntroduccion.toString());
+        m_introduccion->navegador()->setFocus();
+    }
 }
 
 void FormLeccion::tsTema_Click(int indice)
@@ -181,6 +261,11 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         return QWidget::eventFilter(objeto, suceso);
     if (suceso->type() == QEvent::KeyRelease && pulsacion->key() == Qt::Key_F1) {
         evento(this, [this] { muestraAyuda(); });
+        return true;
+    }
+    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Left &&
+        pulsacion->modifiers() == Qt::AltModifier && !introduccionAlFrente()) {
+        evento(this, [this] { cmdVolver_Click(); });
         return true;
     }
     if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&

@@ -2,14 +2,17 @@
 #pragma once
 
 #include "shell/frame/Evento.h"
+#include "shell/frame/Leccion.h"
 
 #include <QString>
 #include <QWidget>
+#include <functional>
 
-class NavegadorPagina;
+class PaginaDeLeccion;
 class QAbstractButton;
 class QStackedWidget;
 class QTabBar;
+class QToolButton;
 
 /// The frame of every lesson window: a strip of topics (`tsTema`), one panel a topic (`PanelFicha`)
 /// of which the selected one is in front, the introduction page (`wbIntro`), help on F1, and the
@@ -26,8 +29,24 @@ public:
     QString URL() const;
 
     /// Opens the help page in the system's browser, in the language of the interface where it has
-    /// been translated.
+    /// been translated, at the section of the topic in front.
     void muestraAyuda() const;
+
+    /// The topics as the page knows them: which sections tell about them.
+    void ponTemasDePagina(const QList<TemaDePagina> &temas) { m_temasDePagina = temas; }
+
+    /// The introduction; null for a lesson that has none.
+    PaginaDeLeccion *pagina() const { return m_introduccion; }
+
+    /// Brings a topic to the front; false for a key that no topic has.
+    bool abreTema(const QString &clave);
+
+    /// Writes into a control of the lesson (Relleno), and brings the tab to the front that holds
+    /// it. False where there is no such control and where it does not take the text.
+    bool rellenaCampo(const QString &campo, const QString &valor);
+
+    /// Shows a way back to the page that led here, by a button and by Alt+Left, until it is taken.
+    void ofreceVuelta(const std::function<void()> &vuelve);
 
     /// Closes the window as its close button would.
     void cierra();
@@ -72,7 +91,10 @@ protected:
 
 private:
     int indiceDeTema(const QString &clave) const;
+    QString seccionAlFrente() const;
+    bool introduccionAlFrente() const;
     void tsTema_Click(int indice);
+    void cmdVolver_Click();
     Tarea<> pideCierre();
     QAbstractButton *botonEnMarcha() const;
     QWidget *marco();
@@ -80,6 +102,10 @@ private:
     QString m_pagina;
     QTabBar *m_tsTema;
     QStackedWidget *m_paneles;
+    QToolButton *m_cmdVolver;
+    PaginaDeLeccion *m_introduccion = nullptr;
+    QList<TemaDePagina> m_temasDePagina;
+    std::function<void()> m_vuelve;
     std::shared_ptr<Parada> m_parada = std::make_shared<Parada>();
     bool m_cierrePermitido = false;
     bool m_enCierre = false;

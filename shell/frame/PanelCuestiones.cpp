@@ -9,25 +9,12 @@
 #include "shell/look/Textos.h"
 #include "ui_PanelCuestiones.h"
 
-#include <QRegularExpression>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 /// How often a question is drawn again until it is another one; a draw among very few may repeat.
 constexpr int SorteosComoMucho = 20;
-
-/// The signs of print as the keyboard has them, and F(n) as expressions call it.
-QString comoExpresion(QString respuesta)
-{
-    static const QRegularExpression fibonacci(u"\\bF\\s*\\("_s);
-    return respuesta.replace(u'−', u'-')
-        .replace(u'·', u'*')
-        .replace(u'×', u'*')
-        .replace(fibonacci, u"fib("_s)
-        .trimmed();
-}
 
 } // namespace
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/frame/NavegadorPagina.h"
+#include "shell/page/NavegadorPagina.h"
 #include "shell/look/Aspecto.h"
 #include "tests/shell/support/Entorno.h"
 

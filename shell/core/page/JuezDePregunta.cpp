@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/core/page/JuezDePregunta.h"
+
+#include "shell/core/Lectura.h"
+#include "shell/core/ModGlobal.h"
+#include "shell/core/page/TextoBuscado.h"
+
+#include <QStringList>
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+std::optional<bool> leeSiNo(const QString &texto)
+{
+    const QString palabra = paraBuscar(texto.trimmed());
+    if (QStringList{u"si"_s, u"s"_s, u"yes"_s, u"y"_s}.contains(palabra))
+        return true;
+    return QStringList{u"no"_s, u"n"_s}.contains(palabra) ? std::optional(false) : std::nullopt;
+}
+
+Juicio juicio(bool acertada)
+{
+    return {acertada, acertada ? Traduce(u"¡Correcto!"_s) : Traduce(u"No es esa la respuesta."_s)};
+}
+
+} // namespace
+
+Juez juezDePregunta(const QString &esperada)
+{
+    if (const auto cierta = leeSiNo(esperada)) {
+        return [cierta = *cierta](const QString &respuesta) -> Juicio {
+            const auto dicha = leeSiNo(respuesta);
+            return dicha ? juicio(*dicha == cierta)
+                         : Juicio{false, Traduce(u"La respuesta es sí o no."_s)};
+        };
+    }
+    const auto valor = calculaEntero(esperada);
+    if (!valor)
+        return {};
+    return juezDeEnteros(
+        [valor = *valor](const QString &respuesta) { return juicio(respuesta == valor); });
+}
