@@ -28,20 +28,20 @@ TemaDePagina tema(const QString &clave, const QString &seccion, const QStringLis
 /// that is judged, and none whose change would write a file.
 QHash<QString, Fila> filas()
 {
-    // A sequence is taken over in one topic and shown in the others.
+    // What is entered in one topic and used in the others.
+    const QStringList clave = campos(u"txtQ_1 txtQ_2 txtS txtR ChkNumBits TxtNumBits"_s);
     const QStringList sucesion = campos(u"txtAlfa TxtBeta TxtF1 txtF2"_s);
     return {
         {u"FIBONACCI"_s,
          {u"fibonacci"_s,
-          {tema(u"valores"_s, u"calcular"_s,
-                campos(u"TxtN optMetodo_0 optMetodo_1 optMetodo_2"_s)),
+          {tema(u"valores"_s, u"calcular"_s, campos(u"TxtN optMetodo_0 optMetodo_1 optMetodo_2"_s)),
            tema(u"aureo"_s, u"aureo"_s, campos(u"TxtHasta"_s)),
            tema(u"zeckendorf"_s, u"zeckendorf"_s, campos(u"TxtNumero"_s)),
            tema(u"identidades"_s, u"identidades"_s, campos(u"TxtIndiceM TxtIndiceN"_s)),
            tema(u"cuestiones"_s, u"pruebalo"_s)}}},
         {u"EUCLIDES"_s,
          {u"euclides"_s,
-          {tema(u"euclides"_s, u"algoritmo"_s, campos(u"FlexEuclides"_s)),
+          {tema(u"euclides"_s, u"algoritmo"_s, campos(u"StatusBar_1 FlexEuclides"_s)),
            tema(u"diofantica"_s, u"diofantica"_s, campos(u"txtNº_0 txtNº_1 txtNº_2"_s)),
            tema(u"cuestiones"_s, u"rapidez"_s, campos(u"TxtN"_s))}}},
         {u"PRIMOS"_s,
@@ -60,15 +60,12 @@ QHash<QString, Fila> filas()
            tema(u"cuestiones"_s, u"fi"_s)}}},
         {u"RSA"_s,
          {u"rsa"_s,
-          {{.nombre = u"clave"_s,
-            .clave = {},
-            .seccion = u"clave"_s,
-            .campos = campos(u"txtQ_1 txtQ_2 txtS txtR TxtNumBits"_s)},
-           tema(u"cod-decod"_s, u"texto"_s, campos(u"txtTextoOriginal"_s)),
+          {{.nombre = u"clave"_s, .clave = {}, .seccion = u"clave"_s, .campos = clave},
+           tema(u"cod-decod"_s, u"texto"_s, clave + campos(u"txtTextoOriginal"_s)),
            tema(u"env-rec"_s, u"buzon"_s)}}},
         {u"TCR"_s,
          {u"congruencias"_s,
-          {tema(u"sistemas"_s, u"metodo"_s, campos(u"txtNumEcuaciones FlexTCR"_s))}}},
+          {tema(u"sistemas"_s, u"metodo"_s, campos(u"txtNumEcuaciones FlexTCR txtSol1"_s))}}},
         {u"RECURSION"_s,
          {u"complejidad"_s,
           {tema(u"fibonacci"_s, u"contar"_s, campos(u"TxtHasta optLlamadas optTiempo"_s)),

@@ -21,6 +21,8 @@ void describe(QCommandLineParser &opciones)
         {u"galeria"_s, u"Guarda imágenes de todas las ventanas en la carpeta DIR."_s, u"DIR"_s});
     opciones.addOption({u"tamano"_s, u"Tamaño de la ventana en la galería, como 1366x768."_s,
                         u"ANCHOxALTO"_s, u"1366x768"_s});
+    opciones.addOption({u"escala"_s, u"Escala de la galería en tanto por ciento, como 150."_s,
+                        u"PORCIENTO"_s, u"100"_s});
     opciones.addOption({u"oscuro"_s, u"Colores oscuros en la galería."_s});
 }
 
@@ -50,12 +52,25 @@ void contestaSinVentanas(int argc, char *argv[])
     opciones.showVersion();
 }
 
+/// The scale of the gallery has to stand before Qt looks for it.
+void ponEscala(int argc, char *argv[])
+{
+    QStringList palabras;
+    for (int i = 0; i < argc; ++i)
+        palabras << QString::fromLocal8Bit(argv[i]);
+    const qsizetype lugar = palabras.indexOf(u"--escala"_s);
+    const double porCiento = lugar < 0 ? 0 : palabras.value(lugar + 1).toDouble();
+    if (porCiento >= 100 && porCiento <= 400)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(porCiento / 100));
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     presentaPrograma(QStringLiteral(NUMORA_VERSION));
     contestaSinVentanas(argc, argv);
+    ponEscala(argc, argv);
     const QApplication aplicacion(argc, argv);
 
     QCommandLineParser opciones;

@@ -8,7 +8,9 @@ namespace {
 /// A few cells of every kind: short and long results, fractions, decimals, an error.
 QList<Gesto> hojaDeMuestra()
 {
-    const auto en = [](const QString &casillaYTexto) { return Gesto{u"FlexCalc"_s, casillaYTexto}; };
+    const auto en = [](const QString &casillaYTexto) {
+        return Gesto{u"FlexCalc"_s, casillaYTexto};
+    };
     return {en(u"0,0:1"_s),
             en(u"1,0:(A1+2/A1)/2"_s),
             en(u"2,0:(A2+2/A2)/2"_s),

@@ -3,12 +3,10 @@
 
 #include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/core/Traduccion.h"
 #include "shell/frame/BotonDeCorrida.h"
-#include "shell/frame/Interlocutor.h"
-#include "shell/frame/Relleno.h"
 #include "shell/look/Aspecto.h"
-#include "shell/page/PaginaDeLeccion.h"
+#include "shell/steps/PanelDePasos.h"
+#include "shell/steps/SeparadorDePasos.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -18,7 +16,6 @@
 #include <QScopeGuard>
 #include <QStackedWidget>
 #include <QTabBar>
-#include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -27,7 +24,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QStringView TemaIntroduccion = u"intro";
+/// Whether the user wants to see steps, in whatever lesson.
+const QString ClaveDePasos = u"Pasos/Visibles"_s;
 
 } // namespace
 
@@ -35,6 +33,7 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     : QWidget(padre),
       m_pagina(pagina),
       m_tsTema(new QTabBar(this)),
+      m_cmdPasos(new QToolButton(this)),
       m_paneles(new QStackedWidget(this)),
       m_cmdVolver(new QToolButton(this))
 {
@@ -43,50 +42,37 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     m_tsTema->setAccessibleName(Traduce(u"Temas de la lección"_s));
     m_tsTema->setExpanding(false);
     m_tsTema->setDrawBase(true);
-    m_cmdVolver->setObjectName(u"cmdVolver"_s);
-    m_cmdVolver->setText(Traduce(u"Volver a la página"_s));
-    m_cmdVolver->setToolTip(Traduce(u"Volver al lugar de la página que trajo aquí (Alt+←)"_s));
-    m_cmdVolver->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_cmdVolver->setArrowType(Qt::LeftArrow);
-    m_cmdVolver->setAutoRaise(true);
-    m_cmdVolver->setFocusPolicy(Qt::StrongFocus);
-    m_cmdVolver->hide();
     auto *columna = new QVBoxLayout(this);
     columna->setContentsMargins(0, Aspecto::Espacio / 2, 0, 0);
     columna->setSpacing(0);
     auto *tira = new QHBoxLayout;
+    tira->setContentsMargins(0, 0, Aspecto::Espacio / 2, 0);
     tira->addWidget(m_tsTema, 1);
+    tira->addWidget(m_cmdPasos);
     tira->addWidget(m_cmdVolver);
     columna->addLayout(tira);
     columna->addWidget(m_paneles);
+    preparaPasos();
+    preparaVuelta();
     conecta(m_tsTema, &QTabBar::currentChanged, this, &FormLeccion::tsTema_Click);
-    conecta(m_cmdVolver, &QToolButton::clicked, this, &FormLeccion::cmdVolver_Click);
     qApp->installEventFilter(this);
+}
+
+void FormLeccion::preparaPasos()
+{
+    m_cmdPasos->setObjectName(u"cmdPasos"_s);
+    m_cmdPasos->setText(Traduce(u"Paso a paso"_s));
+    m_cmdPasos->setToolTip(Traduce(u"Muestra u oculta por qué sale el resultado (F8)"_s));
+    m_cmdPasos->setFocusPolicy(Qt::StrongFocus);
+    m_cmdPasos->setCheckable(true);
+    m_cmdPasos->setChecked(Sesión().recuerda(ClaveDePasos, true).toBool());
+    m_cmdPasos->hide();
+    conecta(m_cmdPasos, &QToolButton::clicked, this, &FormLeccion::cmdPasos_Click);
 }
 
 QString FormLeccion::URL() const
 {
     return Sesión().carpeta() + u"\\Doc\\"_s + m_pagina;
-}
-
-void FormLeccion::muestraAyuda() const
-{
-    const QString seccion = seccionAlFrente();
-    interlocutor().abre(PaginaTraducida(URL(), Idioma()) +
-                        (seccion.isEmpty() ? seccion : u'#' + seccion));
-}
-
-QString FormLeccion::seccionAlFrente() const
-{
-    const QString clave = m_tsTema->tabData(m_tsTema->currentIndex()).toString();
-    for (const TemaDePagina &tema : m_temasDePagina) {
-        if (tema.clave != clave)
-            continue;
-        const auto *pestanas = m_paneles->currentWidget()->findChild<QTabWidget *>();
-        return pestanas ? tema.pestanas.value(pestanas->currentIndex(), tema.seccion)
-                        : tema.seccion;
-    }
-    return {};
 }
 
 void FormLeccion::cierra()
@@ -117,9 +103,11 @@ QAbstractButton *FormLeccion::botonEnMarcha() const
     return hallado;
 }
 
-void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel)
+void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel,
+                             PanelDePasos *pasos)
 {
-    const int indice = m_paneles->addWidget(panel);
+    const int indice =
+        m_paneles->addWidget(pasos ? new SeparadorDePasos(panel, pasos, m_paneles) : panel);
     panel->setObjectName(u"PanelFicha_%1"_s.arg(indice));
     m_tsTema->addTab(Traduce(rotulo));
     m_tsTema->setTabData(indice, clave);
@@ -146,65 +134,45 @@ int FormLeccion::indiceDeTema(const QString &clave) const
     return -1;
 }
 
-void FormLeccion::agregaIntroduccion(const QString &rotulo)
-{
-    auto *panel = new QWidget(this);
-    auto *marco = new QVBoxLayout(panel);
-    marco->setContentsMargins(0, 0, 0, 0);
-    m_introduccion = new PaginaDeLeccion(panel);
-    m_introduccion->navegador()->navega(PaginaTraducida(URL(), Idioma()));
-    marco->addWidget(m_introduccion);
-    agregaTema(rotulo, TemaIntroduccion.toString(), panel);
-}
-
-bool FormLeccion::abreTema(const QString &clave)
-{
-    const int indice = indiceDeTema(clave);
-    if (indice >= 0)
-        m_tsTema->setCurrentIndex(indice);
-    return indice >= 0;
-}
-
-bool FormLeccion::rellenaCampo(const QString &campo, const QString &valor)
-{
-    auto *control = findChild<QWidget *>(campo);
-    if (!control)
-        return false;
-    for (QTabWidget *pestanas : findChildren<QTabWidget *>()) {
-        for (int i = 0; i < pestanas->count(); ++i) {
-            if (pestanas->widget(i)->isAncestorOf(control))
-                pestanas->setCurrentIndex(i);
-        }
-    }
-    return rellena(*control, valor);
-}
-
-bool FormLeccion::introduccionAlFrente() const
-{
-    return m_introduccion && m_introduccion->isVisible();
-}
-
-void FormLeccion::ofreceVuelta(const std::function<void()> &vuelve)
-{
-    m_vuelve = vuelve;
-    m_cmdVolver->show();
-}
-
-/// Without a page that led here, back is the lesson's own.
-void FormLeccion::cmdVolver_Click()
-{
-    m_cmdVolver->hide();
-    if (const auto vuelve = std::exchange(m_vuelve, {})) {
-        vuelve();
-    } else if (m_introduccion) {
-        abreTema(TemaIntroduccion.toString());
-        m_introduccion->navegador()->setFocus();
-    }
-}
-
 void FormLeccion::tsTema_Click(int indice)
 {
     m_paneles->setCurrentIndex(indice);
+    muestraPasos();
+}
+
+PanelDePasos *FormLeccion::pasosALaVista() const
+{
+    const auto *separador = qobject_cast<SeparadorDePasos *>(m_paneles->currentWidget());
+    return separador ? separador->pasos() : nullptr;
+}
+
+void FormLeccion::muestraPasos()
+{
+    PanelDePasos *pasos = pasosALaVista();
+    m_cmdPasos->setVisible(pasos != nullptr);
+    if (pasos)
+        pasos->setVisible(m_cmdPasos->isChecked());
+}
+
+void FormLeccion::cmdPasos_Click(bool visibles)
+{
+    Sesión().anota(ClaveDePasos, visibles);
+    muestraPasos();
+}
+
+/// To the steps; from them back to the tool, and they go.
+void FormLeccion::teclaDePasos()
+{
+    PanelDePasos *pasos = pasosALaVista();
+    if (!pasos)
+        return;
+    const bool dentro = pasos->isAncestorOf(QApplication::focusWidget());
+    if (dentro)
+        m_tsTema->setFocus(Qt::ShortcutFocusReason);
+    m_cmdPasos->setChecked(!dentro);
+    cmdPasos_Click(!dentro);
+    if (!dentro)
+        pasos->enfoca();
 }
 
 void FormLeccion::closeEvent(QCloseEvent *suceso)
@@ -266,12 +234,14 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
     if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Left &&
         pulsacion->modifiers() == Qt::AltModifier && !introduccionAlFrente()) {
         evento(this, [this] { cmdVolver_Click(); });
-        return true;
+        if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_F8) {
+            evento(this, [this] { teclaDePasos(); });
+            return true;
+        }
+        if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
+            botonEnMarcha()) {
+            evento(this, [this] { detenCorrida(); });
+            return true;
+        }
+        return QWidget::eventFilter(objeto, suceso);
     }
-    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
-        botonEnMarcha()) {
-        evento(this, [this] { detenCorrida(); });
-        return true;
-    }
-    return QWidget::eventFilter(objeto, suceso);
-}

@@ -9,6 +9,7 @@
 #include <functional>
 
 class PaginaDeLeccion;
+class PanelDePasos;
 class QAbstractButton;
 class QStackedWidget;
 class QTabBar;
@@ -75,8 +76,9 @@ Q_SIGNALS:
 
 protected:
     /// Adds a topic behind the others. The panel becomes the window's and is named PanelFicha_<n>,
-    /// counted from 0.
-    void agregaTema(const QString &rotulo, const QString &clave, QWidget *panel);
+    /// counted from 0. `pasos` shows why its results hold, beside or below it.
+    void agregaTema(const QString &rotulo, const QString &clave, QWidget *panel,
+                    PanelDePasos *pasos = nullptr);
 
     /// Takes a topic off the strip; its panel stays as it is, and may be added again. Nothing for a
     /// key that no topic has.
@@ -94,13 +96,20 @@ private:
     QString seccionAlFrente() const;
     bool introduccionAlFrente() const;
     void tsTema_Click(int indice);
+    void preparaVuelta();
     void cmdVolver_Click();
+    void cmdPasos_Click(bool visibles);
+    void teclaDePasos();
+    PanelDePasos *pasosALaVista() const;
+    void preparaPasos();
+    void muestraPasos();
     Tarea<> pideCierre();
     QAbstractButton *botonEnMarcha() const;
     QWidget *marco();
 
     QString m_pagina;
     QTabBar *m_tsTema;
+    QToolButton *m_cmdPasos;
     QStackedWidget *m_paneles;
     QToolButton *m_cmdVolver;
     PaginaDeLeccion *m_introduccion = nullptr;

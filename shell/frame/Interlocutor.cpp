@@ -294,10 +294,10 @@ void Interlocutor::abre(const QString &direccion)
 {
     const QFileInfo entero(rutaExistente(direccion));
     // A name may hold a "#" of its own.
-    const QString lugar = entero.exists() ? QString() : direccion.section(u'#', 1).section(u'#', -1);
+    const QString lugar =
+        entero.exists() ? QString() : direccion.section(u'#', 1).section(u'#', -1);
     const QFileInfo archivo(
-        lugar.isEmpty() ? entero
-                        : QFileInfo(rutaExistente(direccion.chopped(lugar.size() + 1))));
+        lugar.isEmpty() ? entero : QFileInfo(rutaExistente(direccion.chopped(lugar.size() + 1))));
     if (!archivo.isAbsolute() && !archivo.exists()) {
         QDesktopServices::openUrl(QUrl(direccion));
         return;

@@ -13,8 +13,8 @@ Tarea<> imprimePagina(NavegadorPagina *pagina)
 {
     const auto impresora = std::make_shared<QPrinter>(QPrinter::HighResolution);
     impresora->setDocName(pagina->documentTitle());
-    const bool elegida = co_await interlocutor().eligeImpresora(pagina, impresora,
-                                                                Traduce(u"Imprimir la página"_s));
+    const bool elegida =
+        co_await interlocutor().eligeImpresora(pagina, impresora, Traduce(u"Imprimir la página"_s));
     if (!elegida)
         co_return;
     pagina->paraPapel()->print(impresora.get());

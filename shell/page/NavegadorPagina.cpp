@@ -62,8 +62,7 @@ QString hojaDeEstilo(const QColor &enlaces, const QColor &titulos)
 
 bool esDibujo(const QUrl &direccion)
 {
-    return direccion.isLocalFile() &&
-           direccion.path().endsWith(u".svg"_s, Qt::CaseInsensitive);
+    return direccion.isLocalFile() && direccion.path().endsWith(u".svg"_s, Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -117,8 +116,7 @@ void NavegadorPagina::muestra()
 
 void NavegadorPagina::ponColores()
 {
-    document()->setDefaultStyleSheet(
-        hojaDeEstilo(palette().link().color(), Aspecto::acento()));
+    document()->setDefaultStyleSheet(hojaDeEstilo(palette().link().color(), Aspecto::acento()));
 }
 
 void NavegadorPagina::ponLetra()
@@ -185,8 +183,8 @@ QVariant NavegadorPagina::loadResource(int tipo, const QUrl &nombre)
 {
     const QUrl direccion = source().resolved(nombre);
     if (tipo == QTextDocument::ImageResource && esDibujo(direccion)) {
-        const QPixmap imagen = ImagenDeArchivo(direccion.toLocalFile(), devicePixelRatioF(),
-                                               Aspecto::esOscuro());
+        const QPixmap imagen =
+            ImagenDeArchivo(direccion.toLocalFile(), devicePixelRatioF(), Aspecto::esOscuro());
         return imagen.isNull() ? QVariant() : QVariant(imagen);
     }
     const QVariant leido = QTextBrowser::loadResource(tipo, nombre);

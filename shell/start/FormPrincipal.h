@@ -39,7 +39,8 @@ public:
     /// row that does not exist or has no lesson yet.
     FormLeccion *abreLeccion(int fila);
 
-    /// Practises a kind of exercise at a level; a sentence for the reader where that cannot be done.
+    /// Practises a kind of exercise at a level; a sentence for the reader where that cannot be
+    /// done.
     using Practicas = std::function<QString(const QString &clase, int nivel)>;
     /// What links to the practice window do.
     void ponPracticas(const Practicas &practicas) { m_practicas = practicas; }

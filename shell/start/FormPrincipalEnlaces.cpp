@@ -41,9 +41,39 @@ QPair<QString, QString> enLaVentana(const TemaDePagina &tema, const QPair<QStrin
     return {tema.celdas, u"%1,%2:%3"_s.arg(fila).arg(columna).arg(campo.second)};
 }
 
+/// Empties the cells of a grid that the user may fill, but for those that the link fills itself.
+void vacia(QAbstractItemView &rejilla, const QStringList &casillas)
+{
+    const QAbstractItemModel &modelo = *rejilla.model();
+    for (int fila = 0; fila < modelo.rowCount(); ++fila) {
+        for (int columna = 0; columna < modelo.columnCount(); ++columna) {
+            const QModelIndex indice = modelo.index(fila, columna);
+            if (indice.flags() & Qt::ItemIsEditable && !indice.data().toString().isEmpty() &&
+                !casillas.contains(u"%1,%2"_s.arg(fila).arg(columna)))
+                rejilla.model()->setData(indice, QString(), Qt::EditRole);
+        }
+    }
+}
+
+/// What another example has left in the grids that the link fills. A sheet is the user's own.
+void vaciaRejillas(FormLeccion &leccion, const TemaDePagina &tema, const EnlaceDeLeccion &enlace)
+{
+    for (const QString &nombre : tema.campos) {
+        QStringList casillas;
+        for (const QPair<QString, QString> &campo : enlace.campos) {
+            if (campo.first == nombre)
+                casillas << campo.second.section(u':', 0, 0);
+        }
+        auto *rejilla = leccion.findChild<QAbstractItemView *>(nombre);
+        if (rejilla && !casillas.isEmpty())
+            vacia(*rejilla, casillas);
+    }
+}
+
 /// What the lesson's window could not be filled with, as a sentence.
 QString rellena(FormLeccion &leccion, const TemaDePagina &tema, const EnlaceDeLeccion &enlace)
 {
+    vaciaRejillas(leccion, tema, enlace);
     QStringList rechazados;
     QWidget *enfocado = nullptr;
     for (const QPair<QString, QString> &campo : enlace.campos) {
@@ -56,9 +86,9 @@ QString rellena(FormLeccion &leccion, const TemaDePagina &tema, const EnlaceDeLe
     }
     if (enfocado)
         enfocado->setFocus();
-    return rechazados.isEmpty() ? QString()
-                                : Traduce(u"No se ha podido escribir en %1."_s)
-                                      .arg(rechazados.join(u", "_s));
+    return rechazados.isEmpty()
+               ? QString()
+               : Traduce(u"No se ha podido escribir en %1."_s).arg(rechazados.join(u", "_s));
 }
 
 } // namespace
@@ -90,9 +120,8 @@ QString FormPrincipal::sigueEnlace(const EnlaceDeLeccion &enlace, int desde)
     if (fila == m_lecciones.size())
         return Traduce(u"El enlace nombra una lección que no existe: %1."_s).arg(enlace.leccion);
     const QList<TemaDePagina> &temas = leccionDe(fila).temas;
-    const auto tema = std::find_if(temas.begin(), temas.end(), [&](const TemaDePagina &t) {
-        return t.nombre == enlace.tema;
-    });
+    const auto tema = std::find_if(temas.begin(), temas.end(),
+                                   [&](const TemaDePagina &t) { return t.nombre == enlace.tema; });
     if (tema == temas.end())
         return Traduce(u"El enlace nombra un tema que no existe: %1."_s).arg(enlace.tema);
     for (const auto &[campo, valor] : enlace.campos) {

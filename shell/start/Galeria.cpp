@@ -68,14 +68,23 @@ class Fotografo
 {
 public:
     Fotografo(const Contenido &contenido, const OpcionesDeGaleria &opciones)
-        : m_contenido(contenido), m_carpeta(opciones.carpeta), m_principal(contenido)
+        : m_contenido(contenido),
+          m_carpeta(opciones.carpeta),
+          m_tamano(opciones.tamano),
+          m_principal(contenido)
     {
-        m_principal.resize(opciones.tamano);
     }
 
     bool retrataTodo()
     {
-        m_principal.show();
+        m_principal.showNormal();
+        // Shown, a window has been cut to the screen, which may be smaller than what is asked for.
+        m_principal.resize(m_tamano);
+        espera(50ms);
+        if (m_principal.size() != m_tamano) {
+            qCritical("the window cannot be made %d by %d", m_tamano.width(), m_tamano.height());
+            return false;
+        }
         QWidget *acercaDe = m_principal.muestraAcercaDe(false);
         espera(600ms);
         retrata(*acercaDe, u"acercade"_s);
@@ -164,6 +173,7 @@ private:
 
     const Contenido &m_contenido;
     QDir m_carpeta;
+    QSize m_tamano;
     FormPrincipal m_principal;
     bool m_bien = true;
 };

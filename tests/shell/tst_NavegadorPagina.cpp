@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/page/NavegadorPagina.h"
 #include "shell/look/Aspecto.h"
+#include "shell/page/NavegadorPagina.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QScrollBar>

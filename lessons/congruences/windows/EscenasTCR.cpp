@@ -16,8 +16,8 @@ QList<Escena> escenasTCR()
 {
     const QString tema = u"sistemas"_s;
     const QList<Gesto> sun{celda(u"0,0"_s, u"2"_s), celda(u"0,1"_s, u"3"_s),
-                          celda(u"1,0"_s, u"3"_s), celda(u"1,1"_s, u"5"_s),
-                          celda(u"2,0"_s, u"2"_s), celda(u"2,1"_s, u"7"_s)};
+                           celda(u"1,0"_s, u"3"_s), celda(u"1,1"_s, u"5"_s),
+                           celda(u"2,0"_s, u"2"_s), celda(u"2,1"_s, u"7"_s)};
     const QList<Gesto> doce{{u"txtNumEcuaciones"_s, u"12"_s}, {u"cmdProblema1"_s, {}}};
     const Gesto resuelve{u"cmdResolver1"_s, {}};
     return {{u"tcr-introduccion"_s, u"intro"_s},

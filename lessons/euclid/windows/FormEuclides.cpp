@@ -16,7 +16,7 @@ FormEuclides::FormEuclides(QWidget *padre)
     setWindowTitle(Traduce(u"Euclides"_s));
     setWindowIcon(Icono(u"EUCLIDES"_s));
     agregaIntroduccion(u"Introducción"_s);
-    agregaTema(u"Algoritmo de Euclides"_s, u"euclides"_s, m_tabla);
+    agregaTema(u"Algoritmo de Euclides"_s, u"euclides"_s, m_tabla, m_tabla->pasos());
     agregaTema(u"Ecuación diofántica"_s, u"diofantica"_s, new FormEuclidesDiofantica(this));
     agregaTema(u"Cuestiones"_s, u"cuestiones"_s, new FormEuclidesCuestiones(this));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/windows/FormEuclidesTabla.h"
 
+#include "lessons/euclid/PasosDeEuclides.h"
 #include "lessons/euclid/windows/ModeloEuclides.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -9,6 +10,7 @@
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormEuclidesTabla.h"
 
 #include <QToolButton>
@@ -29,6 +31,7 @@ FormEuclidesTabla::FormEuclidesTabla(QWidget *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormEuclidesTabla>()),
       m_modelo(new ModeloEuclides(this)),
+      m_pasos(new PanelDePasos(u"Algoritmo de Euclides"_s, this)),
       m_panelAlgoritmo(new QToolButton(this))
 {
     ui->setupUi(this);
@@ -64,6 +67,7 @@ void FormEuclidesTabla::preparaStatusBar()
         Traduce(u"Decide si usa o no el método de los restos reducidos"_s));
     m_panelAlgoritmo->setToolButtonStyle(Qt::ToolButtonTextOnly);
     m_panelAlgoritmo->setFocusPolicy(Qt::StrongFocus);
+    m_panelAlgoritmo->setCheckable(true);
     ui->StatusBar->setSizeGripEnabled(false);
     ui->StatusBar->addWidget(m_panelAlgoritmo);
     ponRestosReducidos(false);
@@ -72,6 +76,7 @@ void FormEuclidesTabla::preparaStatusBar()
 void FormEuclidesTabla::ponRestosReducidos(bool reducidos)
 {
     m_restosReducidos = reducidos;
+    m_panelAlgoritmo->setChecked(reducidos);
     m_panelAlgoritmo->setProperty(PropiedadTag, reducidos ? u"1"_s : QString());
     m_panelAlgoritmo->setText(
         Traduce(reducidos ? u"Algoritmo de los restos reducidos"_s : u"Algoritmo estándard"_s));
@@ -83,6 +88,7 @@ void FormEuclidesTabla::rehazTabla(Moneda dividendo, Moneda divisor)
         {dividendo, divisor,
          m_restosReducidos ? AlgoritmoEuclides::RestosReducidos : AlgoritmoEuclides::Estandar});
     ui->lblExtEuclides->setText(m_modelo->tabla().resultado());
+    m_pasos->pon(pasosDeEuclides(m_modelo->tabla()));
 }
 
 void FormEuclidesTabla::FlexEuclides_AfterEdit(int columna, const QString &texto)

@@ -7,6 +7,7 @@
 #include <memory>
 
 class ModeloEuclides;
+class PanelDePasos;
 class QToolButton;
 
 namespace Ui {
@@ -23,6 +24,8 @@ public:
     explicit FormEuclidesTabla(QWidget *leccion);
     ~FormEuclidesTabla() override;
 
+    PanelDePasos *pasos() const { return m_pasos; }
+
     bool RestosReducidos() const { return m_restosReducidos; }
     void ponRestosReducidos(bool reducidos);
 
@@ -35,6 +38,7 @@ private:
 
     std::unique_ptr<Ui::FormEuclidesTabla> ui;
     ModeloEuclides *m_modelo;
+    PanelDePasos *m_pasos;
     QToolButton *m_panelAlgoritmo;
     bool m_restosReducidos = false;
 };

@@ -16,10 +16,10 @@ QList<Escena> escenasUnidades()
     };
     const auto grande = [](const QString &n, const QString &a) {
         return QList<Gesto>{{u"txtNGrande"_s, n},
-                           {u"txtAGrande"_s, a},
-                           {u"cmdInverso"_s, {}},
-                           {u"cmdFi"_s, {}},
-                           {u"cmdFactores"_s, {}}};
+                            {u"txtAGrande"_s, a},
+                            {u"cmdInverso"_s, {}},
+                            {u"cmdFi"_s, {}},
+                            {u"cmdFactores"_s, {}}};
     };
     return {{u"unidades-introduccion"_s, u"intro"_s},
             {u"unidades-grupo"_s, unidades},

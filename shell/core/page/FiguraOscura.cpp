@@ -56,8 +56,7 @@ std::uint32_t oscuro(std::uint32_t color)
 
 QByteArray figuraOscura(const QByteArray &svg)
 {
-    static const QRegularExpression carta(
-        u"<rect x=\"0\" y=\"0\"[^<>]*fill=\"#f4f6fb\"[^<>]*/>"_s);
+    static const QRegularExpression carta(u"<rect x=\"0\" y=\"0\"[^<>]*fill=\"#f4f6fb\"[^<>]*/>"_s);
     static const QRegularExpression color(u"(?<==\")#([0-9a-fA-F]{6})(?=\")"_s);
     QString texto = QString::fromUtf8(svg);
     if (const auto hallada = carta.match(texto); hallada.hasMatch())

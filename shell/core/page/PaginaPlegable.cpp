@@ -243,10 +243,10 @@ QString PaginaPlegable::muestra(const QSet<int> &abiertos) const
         if (pieza.tipo == Pieza::Html)
             html += pieza.html;
         else if (pieza.tipo == Pieza::Titulo)
-            html += u"<p class=\"pliegue\"><a href=\"pliegue:%1\">%2 %3</a></p>"_s
-                        .arg(pieza.pliegue)
-                        .arg(abierto ? u'▾' : u'▸')
-                        .arg(pieza.html);
+            html +=
+                u"<p class=\"pliegue\"><a href=\"pliegue:%1\">%2 %3</a></p>"_s.arg(pieza.pliegue)
+                    .arg(abierto ? u'▾' : u'▸')
+                    .arg(pieza.html);
         else if (pieza.tipo == Pieza::Cierra)
             html += u"</div>"_s;
         else if (abierto)

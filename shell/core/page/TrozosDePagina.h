@@ -21,4 +21,3 @@ struct TrozoDePagina
 
 /// Takes a page apart. Takes any text: what is no tag is text. The pieces make up the page again.
 QList<TrozoDePagina> trozosDePagina(const QString &pagina);
-

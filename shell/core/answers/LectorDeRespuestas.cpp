@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/core/answers/LectorDeRespuestas.h"
+
+#include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/Expresiones.h"
+#include "bignum/gateway/ModBignum.h"
+#include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
+#include "shell/core/ModGlobal.h"
+
+#include <QMap>
+#include <QRegularExpression>
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// An answer is a few numbers; what is longer was pasted.
+constexpr qsizetype MasLetras = 4000;
+constexpr qsizetype MasNumeros = 200;
+
+RespuestaLeida noEntendida(const QString &parte)
+{
+    return {RespuestaLeida::NoEntendida, {}, {}, Traduce(u"no entiendo «%1»"_s).arg(parte)};
+}
+
+RespuestaLeida leida(const QStringList &numeros, const QString &como)
+{
+    return {RespuestaLeida::Leida, numeros, {}, Traduce(u"leo %1"_s).arg(como)};
+}
+
+/// "²" and "₂" as the digits that they are, after "^" and as the index of F.
+void bajaCifras(QString &texto)
+{
+    static const QString arriba = u"⁰¹²³⁴⁵⁶⁷⁸⁹⁻"_s;
+    static const QString abajo = u"₀₁₂₃₄₅₆₇₈₉"_s;
+    static const QString llanas = u"0123456789-"_s;
+    QString llano;
+    bool enExponente = false;
+    bool enIndice = false;
+    for (const QChar c : texto) {
+        const qsizetype exponente = arriba.indexOf(c);
+        const qsizetype indice = abajo.indexOf(c);
+        if (enIndice && indice < 0)
+            llano += u')';
+        if (exponente >= 0)
+            llano += (enExponente ? QString() : u"^"_s) + llanas[exponente];
+        else if (indice >= 0)
+            llano += (enIndice ? QString() : u"("_s) + llanas[indice];
+        else
+            llano += c;
+        enExponente = exponente >= 0;
+        enIndice = indice >= 0;
+    }
+    texto = enIndice ? llano + u')' : llano;
+}
+
+/// Grouping as the program prints it; a comma only where nothing else can be meant.
+void quitaGrupos(QString &texto)
+{
+    static const QRegularExpression grupos(
+        u"(?<![\\d.,'])\\d{1,3}(?:([.'\\x{00a0}\\x{202f}\\x{2009}])\\d{3})(?:\\g1\\d{3})*(?![\\d.])"_s);
+    QString sin;
+    qsizetype desde = 0;
+    for (auto i = grupos.globalMatch(texto); i.hasNext();) {
+        const auto hallado = i.next();
+        sin += QStringView(texto).sliced(desde, hallado.capturedStart() - desde);
+        for (const QChar c : hallado.captured()) {
+            if (c.isDigit())
+                sin += c;
+        }
+        desde = hallado.capturedEnd();
+    }
+    texto = sin + texto.sliced(desde);
+}
+
+/// Names as the library calls them, of what stands in an expression as a name.
+QStringList nombresEn(const QString &expresion)
+{
+    static const QRegularExpression palabra(u"\\p{L}+"_s);
+    QStringList nombres;
+    for (auto i = palabra.globalMatch(expresion); i.hasNext();) {
+        QString nombre = i.next().captured().toLower();
+        for (const FuncionDeExpresiones &funcion : funcionesDeExpresiones()) {
+            if (nombre == funcion.internacional)
+                nombre = funcion.nombre;
+        }
+        nombres << nombre;
+    }
+    return nombres;
+}
+
+bool esLaPregunta(const QString &expresion, const QStringList &preguntadas)
+{
+    const QStringList nombres = nombresEn(expresion);
+    const auto usa = [&](const QString &cosa) {
+        if (cosa == u"mod"_s)
+            return nombres.contains(cosa) || expresion.contains(u'%');
+        return cosa.front().isLetter() ? nombres.contains(cosa) : expresion.contains(cosa);
+    };
+    return std::any_of(preguntadas.begin(), preguntadas.end(), [&](const QString &preguntada) {
+        const QStringList cosas = preguntada.split(u' ');
+        return std::all_of(cosas.begin(), cosas.end(), usa);
+    });
+}
+
+/// The whole number of an expression; nothing where it has none.
+std::optional<QString> entero(const QString &expresion)
+{
+    try {
+        const auto leido = leeEntero(expresion);
+        return leido ? std::optional(*leido) : std::nullopt;
+    } catch (const ErrorEjecucion &) {
+        return {};
+    }
+}
+
+QString enParentesis(const QStringList &numeros)
+{
+    return u'(' + numeros.join(u"; "_s) + u')';
+}
+
+RespuestaLeida leeUno(const QString &expresion, const QString &texto)
+{
+    // Blanks between digits group them, where one number alone is asked for.
+    static const QRegularExpression blancos(u"(?<=\\d)\\s+(?=\\d{3}(?!\\d))"_s);
+    const auto valor = entero(QString(expresion).remove(blancos));
+    return valor ? leida({*valor}, formatoAbreviado(*valor)) : noEntendida(texto.trimmed());
+}
+
+/// Splits at what stands between the numbers of a list, but not inside brackets.
+QStringList partesDeLista(QString texto)
+{
+    static const QRegularExpression y(u"(?<=[\\s\\d)])(?:y|and)(?=[\\s\\d(])(?!\\s*=)"_s);
+    texto.replace(y, u","_s);
+    texto = texto.trimmed();
+    const bool encerrada = texto.size() > 1 && u"([{"_s.contains(texto.front()) &&
+                           u")]}"_s.contains(texto.back()) && texto.count(u'(') <= 1;
+    if (encerrada)
+        texto = texto.sliced(1, texto.size() - 2);
+    QStringList partes(1);
+    int hondo = 0;
+    for (const QChar c : std::as_const(texto)) {
+        hondo += c == u'(' ? 1 : c == u')' ? -1 : 0;
+        if (hondo == 0 && (c == u',' || c == u';'))
+            partes << QString();
+        else
+            partes.back() += c;
+    }
+    return partes;
+}
+
+/// Blanks part numbers where no sign joins them: "3 5" but not "3 + 5".
+QStringList partesSueltas(const QString &parte)
+{
+    static const QRegularExpression blancos(u"(?<=[\\d)])\\s+(?=[\\d(\\p{L}]|-\\d)"_s);
+    return parte.split(blancos, Qt::SkipEmptyParts);
+}
+
+RespuestaLeida leeLista(const QString &expresion)
+{
+    QStringList numeros;
+    for (const QString &tramo : partesDeLista(expresion)) {
+        for (const QString &parte : partesSueltas(tramo.trimmed())) {
+            const auto valor = entero(parte);
+            if (!valor)
+                return noEntendida(parte.trimmed());
+            numeros << *valor;
+            if (numeros.size() > MasNumeros)
+                return noEntendida(u"…"_s);
+        }
+    }
+    if (numeros.isEmpty())
+        return noEntendida(expresion.trimmed());
+    return leida(numeros, enParentesis(numeros));
+}
+
+bool menorEnCifras(const QString &a, const QString &b)
+{
+    return a.size() != b.size() ? a.size() < b.size() : a < b;
+}
+
+RespuestaLeida leeProducto(const QString &expresion)
+{
+    static const QRegularExpression entreFactores(u"[*,;]|(?<=\\d)\\s*[xX]\\s*(?=\\d)"_s);
+    static const QRegularExpression potencia(
+        u"^\\s*\\(?\\s*(\\d+)\\s*(?:\\^\\s*(\\d{1,6}))?\\s*\\)?\\s*$"_s);
+    QMap<QString, qint64> exponentes;
+    for (const QString &tramo : expresion.split(entreFactores)) {
+        for (const QString &factor : partesSueltas(tramo)) {
+            const auto hallada = potencia.match(factor);
+            if (!hallada.hasMatch())
+                return noEntendida(factor.trimmed());
+            const QString exponente = hallada.captured(2);
+            exponentes[entero(hallada.captured(1)).value_or(QString())] +=
+                exponente.isEmpty() ? 1 : exponente.toLongLong();
+        }
+    }
+    QStringList primos = exponentes.keys();
+    if (primos.isEmpty() || primos.contains(QString()))
+        return noEntendida(expresion.trimmed());
+    std::sort(primos.begin(), primos.end(), menorEnCifras);
+    QStringList numeros;
+    QStringList escritos;
+    for (const QString &primo : primos) {
+        const QString exponente = QString::number(exponentes.value(primo));
+        numeros << primo << exponente;
+        escritos << primo + (exponente == u"1"_s ? QString() : enSuperindice(exponente));
+    }
+    return leida(numeros, escritos.join(u" · "_s));
+}
+
+/// The beginning and the step of "3 + 5k" or "3 − 5·k", whatever the letter is.
+std::optional<QStringList> rectaDe(QString lado)
+{
+    static const QRegularExpression letra(u"\\*?\\s*[ktnmsλ]\\b\\s*\\*?"_s);
+    lado.replace(letra, u"*K"_s);
+    const auto en = [&](const QString &k) {
+        QString expresion = lado;
+        expresion.replace(u"+*K"_s, u"+1*K"_s).replace(u"-*K"_s, u"-1*K"_s);
+        if (expresion.startsWith(u"*K"_s))
+            expresion.prepend(u'1');
+        return entero(expresion.replace(u'K', k));
+    };
+    lado.remove(u' ');
+    const auto cero = en(u"(0)"_s);
+    const auto uno = en(u"(1)"_s);
+    if (!cero || !uno)
+        return {};
+    return QStringList{*cero, entero(u"(%1)-(%2)"_s.arg(*uno, *cero)).value_or(u"0"_s)};
+}
+
+RespuestaLeida leeSolucion(const QString &expresion)
+{
+    QStringList numeros;
+    for (QString lado : partesDeLista(expresion)) {
+        const qsizetype igual = lado.indexOf(u'=');
+        const auto recta = rectaDe(igual < 0 ? lado : lado.sliced(igual + 1));
+        if (!recta)
+            return noEntendida(lado.trimmed());
+        numeros << *recta;
+    }
+    if (numeros.size() != 4)
+        return noEntendida(expresion.trimmed());
+    return leida(numeros, u"x = %1 + (%2)k, y = %3 + (%4)k"_s.arg(numeros[0], numeros[1],
+                                                                  numeros[2], numeros[3]));
+}
+
+/// Small letters without accents: "Si" for "sí".
+QString llana(const QString &palabra)
+{
+    QString letras;
+    for (const QChar c : palabra.trimmed().toLower().normalized(QString::NormalizationForm_D)) {
+        if (c.isLetterOrNumber() || c.isSpace())
+            letras += c;
+    }
+    return letras;
+}
+
+RespuestaLeida leeSegun(const FormaDeRespuesta &forma, const QString &texto)
+{
+    const QString expresion = comoExpresion(texto);
+    if (esLaPregunta(expresion, forma.preguntadas))
+        return {RespuestaLeida::EsLaPregunta, {}, {}, Traduce(u"eso es la pregunta"_s)};
+    switch (forma.clase) {
+    case FormaDeRespuesta::Entero:
+        return leeUno(expresion, texto);
+    case FormaDeRespuesta::Lista:
+        return leeLista(expresion);
+    case FormaDeRespuesta::Producto:
+        return leeProducto(expresion);
+    case FormaDeRespuesta::Solucion:
+        return leeSolucion(expresion);
+    case FormaDeRespuesta::Palabra:
+        break;
+    }
+    return noEntendida(texto.trimmed());
+}
+
+} // namespace
+
+QString comoExpresion(QString texto)
+{
+    static const QRegularExpression fibonacci(u"(?<!\\p{L})F\\s*(?=\\()"_s);
+    static const QRegularExpression fi(u"φ\\s*(?=\\()"_s);
+    static const QRegularExpression producto(u"(?<=[\\d)])(?=\\p{L}+\\(|\\()"_s);
+    bajaCifras(texto);
+    quitaGrupos(texto);
+    texto.replace(u'−', u'-').replace(u'·', u'*').replace(u'×', u'*').replace(u'÷', u'/');
+    return texto.replace(fibonacci, u"fib"_s)
+        .replace(fi, u"fi"_s)
+        .replace(producto, u"*"_s)
+        .trimmed();
+}
+
+RespuestaLeida leeRespuesta(const QString &texto, const FormaDeRespuesta &forma)
+{
+    if (texto.trimmed().isEmpty())
+        return {};
+    if (texto.size() > MasLetras)
+        return noEntendida(texto.left(20) + u'…');
+    for (const QString &palabra : forma.palabras) {
+        if (llana(texto) == llana(palabra) || llana(texto) == llana(Traduce(palabra)))
+            return {RespuestaLeida::Leida, {}, palabra, Traduce(u"leo %1"_s).arg(Traduce(palabra))};
+    }
+    return leeSegun(forma, texto);
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What an answer is made of.
+struct FormaDeRespuesta
+{
+    enum Clase {
+        Entero, ///< one whole number
+        Lista,  ///< whole numbers between ",", ";", "y" or blanks, in brackets or not, in any order
+        Producto, ///< prime powers: "2^3·5", "2³ x 5", "2, 2, 2, 5"
+        Solucion, ///< "x = 3 + 5k, y = 2 − 4k": where it begins and how far it goes, of each
+                  ///< unknown
+        Palabra   ///< one of the words alone
+    };
+    Clase clase = Entero;
+    /// Words that are answers of their own: "sí", "no", "ninguna". Spanish; their translations are
+    /// read as well.
+    QStringList palabras = {};
+    /// What the question asks for, by the name of a function ("mcd", "fi") or the signs of an
+    /// operation ("^ mod"): an answer that computes with it repeats the question.
+    QStringList preguntadas = {};
+};
+
+/// An answer as it has been read, before anybody judges it.
+struct RespuestaLeida
+{
+    enum Estado { Vacia, Leida, NoEntendida, EsLaPregunta };
+    Estado estado = Vacia;
+    /// Whole numbers in digits with their sign, in the order in which they stand. Of a Producto
+    /// prime, exponent, prime, exponent …, in order of the primes and joined; of a Solucion the
+    /// beginning and the step of x, then of y.
+    QStringList numeros = {};
+    QString palabra = {}; ///< the word that was answered, in Spanish
+    /// What the student is told: "leo 5167"; of one that is not understood, which part is not.
+    QString leo = {};
+};
+
+/// Reads an answer without judging it: expressions, digits grouped as the program prints them,
+/// signs of print, superscripts and subscripts (F₁₁), a factor before a bracket or a name. Never
+/// throws.
+RespuestaLeida leeRespuesta(const QString &texto, const FormaDeRespuesta &forma);
+
+/// An expression with the signs of print as expressions have them: "2F(18) − 1" as "2*fib(18)-1",
+/// "2³ · 5" as "2^3*5", "5.167" as "5167".
+QString comoExpresion(QString texto);

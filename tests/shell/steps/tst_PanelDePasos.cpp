@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/core/ModGlobal.h"
+#include "shell/steps/FormulaCompuesta.h"
+#include "shell/steps/PanelDePasos.h"
+#include "shell/steps/SeparadorDePasos.h"
+#include "tests/shell/support/Entorno.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QListView>
+#include <QMenu>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The panel of steps as a student uses it.
+class tst_PanelDePasos : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { Entorno::limpia(); }
+    void nadaSeHaceAntesDeVerlo();
+    void unoAUnoPorBotonesYTeclas();
+    void todosALaVezYSeRecuerda();
+    void seCopiaLoQueEstaALaVista();
+    void seImprimen();
+    void laPeliculaLlegaAlFinalYPara();
+    void otrosPasosEmpiezanPorElPrimero();
+    void alLadoODebajo();
+    void unaFormulaAnchaSeParte();
+
+private:
+    struct Panel : PanelDePasos
+    {
+        Panel() : PanelDePasos(u"Prueba"_s, nullptr) {}
+        QListView *lista() const { return control<QListView>(this, u"listaDePasos"_s); }
+        int vistos() const { return lista()->model()->rowCount(); }
+        int actual() const { return lista()->currentIndex().row(); }
+        void pulsa(const QString &boton) const { control<QToolButton>(this, boton)->click(); }
+    };
+
+    static Pasos cuantos(qsizetype n)
+    {
+        return Pasos(n, [](qsizetype i) {
+            return Paso{u"Paso número %1"_s.arg(i), {Formula(u"%1 = %1"_s.arg(i))}};
+        });
+    }
+};
+
+void tst_PanelDePasos::nadaSeHaceAntesDeVerlo()
+{
+    int hechos = 0;
+    Panel panel;
+    panel.pon(Pasos(5, [&hechos](qsizetype) {
+        ++hechos;
+        return Paso();
+    }));
+    QCOMPARE(hechos, 0);
+    QVERIFY(panel.findChildren<QWidget *>().isEmpty());
+    panel.show();
+    QVERIFY(hechos > 0);
+}
+
+void tst_PanelDePasos::unoAUnoPorBotonesYTeclas()
+{
+    Panel panel;
+    panel.pon(cuantos(4));
+    panel.show();
+    QCOMPARE(panel.vistos(), 1);
+    panel.pulsa(u"cmdPasoSiguiente"_s);
+    QTest::keyClick(panel.lista(), Qt::Key_Down);
+    QCOMPARE(panel.vistos(), 3);
+    QCOMPARE(panel.actual(), 2);
+    QCOMPARE(control<QLabel>(&panel, u"lblCualPaso"_s)->text(), u"Paso 3 de 4"_s);
+    QVERIFY(control<QLabel>(&panel, u"lblCualPaso"_s)
+                ->accessibleDescription()
+                .contains(u"2 igual a 2"_s));
+    QTest::keyClick(panel.lista(), Qt::Key_Left);
+    QCOMPARE(panel.actual(), 1);
+    QCOMPARE(panel.vistos(), 3);
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(panel.lista(), Qt::Key_Right);
+    QCOMPARE(panel.actual(), 3);
+    QVERIFY(!control<QToolButton>(&panel, u"cmdPasoSiguiente"_s)->isEnabled());
+}
+
+void tst_PanelDePasos::todosALaVezYSeRecuerda()
+{
+    {
+        Panel panel;
+        panel.pon(cuantos(6));
+        panel.show();
+        panel.pulsa(u"cmdTodosLosPasos"_s);
+        QCOMPARE(panel.vistos(), 6);
+        QCOMPARE(panel.actual(), 0);
+    }
+    Panel otro;
+    otro.pon(cuantos(7));
+    otro.show();
+    QCOMPARE(otro.vistos(), 7);
+    otro.pulsa(u"cmdTodosLosPasos"_s);
+    QCOMPARE(otro.vistos(), 1);
+}
+
+void tst_PanelDePasos::seCopiaLoQueEstaALaVista()
+{
+    Panel panel;
+    panel.pon(cuantos(3));
+    panel.show();
+    panel.pulsa(u"cmdPasoSiguiente"_s);
+    QTest::keyClick(panel.lista(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(),
+             u"1. Paso número 0\n   0 = 0\n2. Paso número 1\n   1 = 1\n"_s);
+    control<QToolButton>(&panel, u"cmdCopiarPasos"_s)->menu()->actions().last()->trigger();
+    QVERIFY(QGuiApplication::clipboard()->text().contains(u"\\[ 1 = 1 \\]"_s));
+}
+
+void tst_PanelDePasos::seImprimen()
+{
+    QTemporaryDir carpeta;
+    Entorno::grabadora().impresion = carpeta.filePath(u"pasos.pdf"_s);
+    Panel panel;
+    panel.pon(cuantos(90));
+    panel.show();
+    panel.pulsa(u"cmdImprimirPasos"_s);
+    QTRY_VERIFY(QFileInfo(carpeta.filePath(u"pasos.pdf"_s)).size() > 1000);
+}
+
+void tst_PanelDePasos::laPeliculaLlegaAlFinalYPara()
+{
+    Panel panel;
+    panel.pon(cuantos(3));
+    panel.show();
+    QVERIFY(control<QToolButton>(&panel, u"cmdReproducirPasos"_s)->isHidden());
+    panel.pon(cuantos(3).comoPelicula());
+    auto *boton = control<QToolButton>(&panel, u"cmdReproducirPasos"_s);
+    QVERIFY(!boton->isHidden());
+    control<QComboBox>(&panel, u"cmbVelocidad"_s)->setCurrentIndex(2);
+    boton->click();
+    QTRY_COMPARE(panel.actual(), 2);
+    QTRY_VERIFY(!boton->isChecked());
+}
+
+void tst_PanelDePasos::otrosPasosEmpiezanPorElPrimero()
+{
+    Panel panel;
+    panel.pon(cuantos(3));
+    panel.show();
+    panel.pulsa(u"cmdPasoSiguiente"_s);
+    panel.pon(cuantos(5));
+    QCOMPARE(panel.vistos(), 1);
+    panel.pon({});
+    QCOMPARE(panel.vistos(), 0);
+    QVERIFY(!control<QLabel>(&panel, u"lblSinPasos"_s)->isHidden());
+    QVERIFY(!control<QToolButton>(&panel, u"cmdPasoSiguiente"_s)->isEnabled());
+}
+
+void tst_PanelDePasos::alLadoODebajo()
+{
+    auto *herramienta = new QLabel(u"herramienta"_s);
+    auto *panel = new Panel;
+    SeparadorDePasos separador(herramienta, panel, nullptr);
+    panel->show();
+    separador.resize(1200, 600);
+    separador.show();
+    QCOMPARE(separador.orientation(), Qt::Horizontal);
+    QVERIFY(panel->width() > 300);
+    separador.resize(700, 600);
+    QCOMPARE(separador.orientation(), Qt::Vertical);
+    QVERIFY(panel->height() > 100);
+}
+
+void tst_PanelDePasos::unaFormulaAnchaSeParte()
+{
+    QStringList sumandos;
+    for (int i = 0; i < 40; ++i)
+        sumandos << u"1000*%1^2"_s.arg(i);
+    const Formula formula(u"x = "_s + sumandos.join(u" + "_s));
+    const FormulaCompuesta entera(formula, QFont(), 1e6);
+    const FormulaCompuesta partida(formula, QFont(), 300);
+    QVERIFY(entera.tamano().width() > 1000);
+    QVERIFY(partida.tamano().width() <= 300);
+    QVERIFY(partida.tamano().height() > 3 * entera.tamano().height());
+}
+
+NUMORA_TEST_MAIN(tst_PanelDePasos)
+#include "tst_PanelDePasos.moc"
