@@ -232,16 +232,18 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         return true;
     }
     if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Left &&
-        pulsacion->modifiers() == Qt::AltModifier && !introduccionAlFrente()) {
+        pulsacion->modifiers() & Qt::AltModifier && !introduccionAlFrente()) {
         evento(this, [this] { cmdVolver_Click(); });
-        if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_F8) {
-            evento(this, [this] { teclaDePasos(); });
-            return true;
-        }
-        if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
-            botonEnMarcha()) {
-            evento(this, [this] { detenCorrida(); });
-            return true;
-        }
-        return QWidget::eventFilter(objeto, suceso);
+        return true;
     }
+    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_F8) {
+        evento(this, [this] { teclaDePasos(); });
+        return true;
+    }
+    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
+        botonEnMarcha()) {
+        evento(this, [this] { detenCorrida(); });
+        return true;
+    }
+    return QWidget::eventFilter(objeto, suceso);
+}
