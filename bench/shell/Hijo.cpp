@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/shell/Hijo.h"
 
+#include "bench/shell/Clics.h"
 #include "numora/Lecciones.h"
 #include "shell/core/run/Tareas.h"
 #include "shell/core/system/InstanciaUnica.h"
@@ -135,6 +136,14 @@ int hijo::memoria(int argc, char *argv[])
         enMarcha->principal()->abreLeccion(fila);
     QCoreApplication::processEvents();
     imprime(static_cast<double>(memoriaResidente()));
+    return 0;
+}
+
+int hijo::clics(int argc, char *argv[])
+{
+    QApplication aplicacion(argc, argv);
+    const auto enMarcha = programa();
+    mideClics(*enMarcha->principal());
     return 0;
 }
 

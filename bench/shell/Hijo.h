@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// What a child process of the benchmark does. Each prints one number on its standard output and
-/// ends.
+/// What a child process of the benchmark does. Each prints one number on its standard output, or a
+/// table, and ends.
 namespace hijo {
 
 /// A bare Qt program: an empty window, up to its first paint. Prints its resident memory in KiB.
@@ -18,8 +18,11 @@ int lecciones(int argc, char *argv[]);
 /// Opens every lesson; prints the resident memory in KiB.
 int memoria(int argc, char *argv[]);
 
-/// Runs a loop through Corrida while another thread asks for attention; prints the longest wait in
+/// Runs a loop that yields while another thread asks for attention; prints the longest wait in
 /// milliseconds.
 int atencion(int argc, char *argv[]);
+
+/// Prints how long clicks wait during the runs of the lessons; see Clics.h.
+int clics(int argc, char *argv[]);
 
 } // namespace hijo

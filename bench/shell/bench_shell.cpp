@@ -83,7 +83,10 @@ int padre(int argc, char *argv[])
     fila(u"memory with every lesson open"_s, memoria.numero / 1024, desnudo.numero / 1024, u"MB"_s,
          6);
     fila(u"wait of a click during a run, of 50"_s, atencion.numero, 50, u"ms"_s, 1);
-    return 0;
+    QTextStream(stdout)
+        << "wait of clicks during runs, ms                       middle    99%  longest"
+        << Qt::endl;
+    return QProcess::execute(QCoreApplication::applicationFilePath(), {u"clics"_s});
 }
 
 } // namespace
@@ -101,5 +104,7 @@ int main(int argc, char *argv[])
         return hijo::memoria(argc, argv);
     if (std::strcmp(modo, "atencion") == 0)
         return hijo::atencion(argc, argv);
+    if (std::strcmp(modo, "clics") == 0)
+        return hijo::clics(argc, argv);
     return padre(argc, argv);
 }

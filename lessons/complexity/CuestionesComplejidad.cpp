@@ -57,7 +57,7 @@ Cuestion cuestionLlamadas(int n)
                     u"contando la primera?"_s)
                 .arg(n),
             Traduce(u"Un número o una expresión"_s),
-            juezDeEnteros([n](const QString &valor) { return juzgaLlamadas(valor, n); })};
+            [n](const QString &valor) { return juzgaLlamadas(valor, n); }};
 }
 
 Cuestion sorteaHanoi()
@@ -81,6 +81,5 @@ Cuestion cuestionHanoi(int discos, int disco)
             .arg(discos)
             .arg(disco),
         Traduce(u"Un número o una expresión, como 2^10"_s),
-        juezDeEnteros(
-            [discos, disco](const QString &valor) { return juzgaHanoi(valor, discos, disco); })};
+        [discos, disco](const QString &valor) { return juzgaHanoi(valor, discos, disco); }};
 }

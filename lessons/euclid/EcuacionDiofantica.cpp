@@ -121,6 +121,6 @@ SolucionesDiofanticas EcuacionDiofantica::resuelve(Moneda a, Moneda b, Moneda c)
                       kmax};
     if (recta.cuantas() == 1)
         return {lista(recta), Traduce(u"Solución única"_s), solucionUnica(recta)};
-    return {lista(recta), formato(recta.cuantas()) + Traduce(u" soluciones"_s),
+    return {lista(recta), Traduce(u"%1 soluciones"_s).arg(formato(recta.cuantas())),
             solucionGeneral(recta)};
 }

@@ -21,6 +21,8 @@ QString palabraZeckendorf(FalloZeckendorf fallo, const QString &respuesta)
         return Traduce(u"¡Correcto! Y no hay otra."_s);
     case FalloZeckendorf::NoEsSuma:
         return Traduce(u"Escriba números enteros, sin puntos, separados por el signo +."_s);
+    case FalloZeckendorf::Cero:
+        return Traduce(u"Quite el 0: no es sumando de ninguna representación."_s);
     case FalloZeckendorf::NoEsFibonacci:
         return Traduce(u"Algún sumando no es un número de Fibonacci."_s);
     case FalloZeckendorf::Consecutivos:
@@ -71,10 +73,12 @@ Cuestion cuestionZeckendorf(int n)
         Traduce(u"Escriba %1 como suma de números de Fibonacci distintos, sin que haya dos "
                 u"consecutivos."_s)
             .arg(n),
-        Traduce(u"Una suma, como 34 + 13 + 1"_s), [n](const QString &respuesta) {
+        Traduce(u"Una suma, como 34 + 13 + 1"_s),
+        [n](const QString &respuesta) {
             const FalloZeckendorf fallo = juzgaZeckendorf(respuesta, n);
             return Juicio{fallo == FalloZeckendorf::Ninguno, palabraZeckendorf(fallo, respuesta)};
-        }};
+        },
+        {FormaDeRespuesta::Suma}};
 }
 
 Cuestion sorteaMcd()
@@ -97,5 +101,6 @@ Cuestion cuestionMcd(int m, int n)
                 .arg(m)
                 .arg(n),
             Traduce(u"Un número"_s),
-            juezDeEnteros([m, n](const QString &valor) { return juzgaMcd(valor, m, n); })};
+            [m, n](const QString &valor) { return juzgaMcd(valor, m, n); },
+            {FormaDeRespuesta::Entero, {}, {u"mcd"_s}}};
 }

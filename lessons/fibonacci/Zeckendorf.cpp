@@ -77,6 +77,8 @@ FalloZeckendorf juzgaZeckendorf(const QString &suma, int n)
         const qint64 valor = Evalua(QString(termino)).toInt(&esEntero);
         if (!esEntero)
             return FalloZeckendorf::NoEsSuma;
+        if (valor == 0)
+            return FalloZeckendorf::Cero;
         if (valor < 1 || indiceDe(valor) == 0)
             return FalloZeckendorf::NoEsFibonacci;
         indices << indiceDe(valor);

@@ -27,6 +27,7 @@ QString codigoZeckendorf(const QList<PasoZeckendorf> &pasos);
 enum class FalloZeckendorf {
     Ninguno,
     NoEsSuma,      ///< something other than small whole numbers joined by +
+    Cero,          ///< a summand is 0
     NoEsFibonacci, ///< a summand is no Fibonacci number
     Consecutivos,  ///< two summands are neighbours or equal
     OtraSuma       ///< the sum is another number

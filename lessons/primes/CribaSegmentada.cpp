@@ -2,6 +2,7 @@
 #include "lessons/primes/CribaSegmentada.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -55,6 +56,12 @@ void CribaSegmentada::empieza(std::int64_t limite)
     m_candidatos = 0;
     m_informado = 0;
     m_porcentaje = 0;
+}
+
+std::vector<std::uint32_t> CribaSegmentada::entregaPrimos()
+{
+    m_numeros.resize(m_seguros);
+    return std::exchange(m_numeros, {});
 }
 
 /// Lists the candidates of some values of k.

@@ -133,10 +133,8 @@ Juicio juzgaFi(const QString &valor, std::int32_t n)
     if (!EsMayor(u"0"_s, valor) || !EsMayor(valor, QString::number(n)))
         return {false, Traduce(u"φ(%1) cuenta las unidades de Z%2: está entre 1 y %3."_s)
                            .arg(QString::number(n), subindice(n), QString::number(n - 1))};
-    return {false,
-            Traduce(EsMayor(valor, euler.valor()) ? u"Es mayor que %1. Tenga en cuenta que %2."_s
-                                                  : u"Es menor que %1. Tenga en cuenta que %2."_s)
-                .arg(valor, igualdad)};
+    // Neither "larger" nor "smaller": a few of those would find it without a thought.
+    return {false, Traduce(u"No es %1. Tenga en cuenta que %2."_s).arg(valor, igualdad)};
 }
 
 Juicio juzgaPotencia(const QString &valor, const GrupoUnidades &grupo, std::int32_t a,
@@ -168,9 +166,9 @@ QString unEntero()
 Cuestion cuestionInverso(std::int32_t n, std::int32_t a)
 {
     return {Traduce(u"¿Cuál es el inverso de %1 módulo %2?"_s).arg(a).arg(n), unEntero(),
-            juezDeEnteros([grupo = GrupoUnidades(n), a](const QString &valor) {
+            [grupo = GrupoUnidades(n), a](const QString &valor) {
                 return juzgaInverso(valor, grupo, a);
-            })};
+            }};
 }
 
 Cuestion cuestionOrden(std::int32_t n, std::int32_t a)
@@ -178,9 +176,9 @@ Cuestion cuestionOrden(std::int32_t n, std::int32_t a)
     return {Traduce(u"¿Cuál es el orden de %1 en el grupo de las unidades de Z%2?"_s)
                 .arg(a)
                 .arg(subindice(n)),
-            unEntero(), juezDeEnteros([grupo = GrupoUnidades(n), a](const QString &valor) {
+            unEntero(), [grupo = GrupoUnidades(n), a](const QString &valor) {
                 return juzgaOrden(valor, grupo, a);
-            })};
+            }};
 }
 
 Cuestion cuestionRaizPrimitiva(std::int32_t n)
@@ -188,23 +186,26 @@ Cuestion cuestionRaizPrimitiva(std::int32_t n)
     return {Traduce(u"Encuentre una raíz primitiva módulo %1: una unidad cuyas potencias son todas "
                     u"las unidades."_s)
                 .arg(n),
-            unEntero(), juezDeEnteros([grupo = GrupoUnidades(n)](const QString &v) {
-                return juzgaRaiz(v, grupo);
-            })};
+            unEntero(),
+            [grupo = GrupoUnidades(n)](const QString &v) { return juzgaRaiz(v, grupo); }};
 }
 
 Cuestion cuestionFi(std::int32_t n)
 {
-    return {Traduce(u"¿Cuánto vale φ(%1)?"_s).arg(n), unEntero(),
-            juezDeEnteros([n](const QString &valor) { return juzgaFi(valor, n); })};
+    return {Traduce(u"¿Cuánto vale φ(%1)?"_s).arg(n),
+            unEntero(),
+            [n](const QString &valor) { return juzgaFi(valor, n); },
+            {FormaDeRespuesta::Entero, {}, {u"fi"_s}}};
 }
 
 Cuestion cuestionPotencia(std::int32_t n, std::int32_t a, std::int32_t k)
 {
     return {Traduce(u"¿Qué resto da %1^%2 al dividirlo entre %3?"_s).arg(a).arg(k).arg(n),
-            unEntero(), juezDeEnteros([grupo = GrupoUnidades(n), a, k](const QString &valor) {
+            unEntero(),
+            [grupo = GrupoUnidades(n), a, k](const QString &valor) {
                 return juzgaPotencia(valor, grupo, a, k);
-            })};
+            },
+            {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}}};
 }
 
 Cuestion sorteaDelGrupo()

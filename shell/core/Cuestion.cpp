@@ -1,28 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/Cuestion.h"
 
-#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
-
-#include <QRegularExpression>
 
 using namespace Qt::Literals::StringLiterals;
 
-QString comoExpresion(QString respuesta)
+Juicio Cuestion::juzga(const QString &respuesta) const
 {
-    static const QRegularExpression fibonacci(u"\\bF\\s*\\("_s);
-    return respuesta.replace(u'−', u'-')
-        .replace(u'·', u'*')
-        .replace(u'×', u'*')
-        .replace(fibonacci, u"fib("_s)
-        .trimmed();
-}
-
-Juez juezDeEnteros(const Juez &juez)
-{
-    return [juez](const QString &respuesta) -> Juicio {
-        const auto valor = leeEntero(respuesta);
-        return valor ? juez(*valor)
-                     : Juicio{false, Traduce(u"La respuesta es un número entero."_s)};
-    };
+    const RespuestaLeida leida = leeRespuesta(respuesta, forma);
+    switch (leida.estado) {
+    case RespuestaLeida::Vacia:
+        return {false, Traduce(u"Escriba una respuesta."_s), false};
+    case RespuestaLeida::NoEntendida:
+        return {false, Traduce(u"No se ha juzgado: %1."_s).arg(leida.leo), false};
+    case RespuestaLeida::EsLaPregunta:
+        return {false, Traduce(u"No se ha juzgado: eso es la pregunta."_s), false};
+    case RespuestaLeida::Leida:
+        break;
+    }
+    return juez(leida.numeros.join(u'+'));
 }

@@ -9,6 +9,8 @@
 #include "shell/look/Textos.h"
 #include "ui_PanelCuestiones.h"
 
+#include <QLineEdit>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -25,6 +27,7 @@ struct PanelCuestiones::Lugar
     QLabel *enunciado;
     QLineEdit *respuesta;
     QPushButton *comprobar, *otra;
+    QLabel *leido;
     QLabel *veredicto;
     Cuestion cuestion = {};
 };
@@ -35,9 +38,9 @@ PanelCuestiones::PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, Q
     ui->setupUi(this);
     traduceVentana(this);
     m_lugares = {{primera, ui->lblEnunciado_0, ui->txtRespuesta_0, ui->cmdComprobar_0,
-                  ui->cmdOtra_0, ui->lblVeredicto_0},
+                  ui->cmdOtra_0, ui->lblLeido_0, ui->lblVeredicto_0},
                  {segunda, ui->lblEnunciado_1, ui->txtRespuesta_1, ui->cmdComprobar_1,
-                  ui->cmdOtra_1, ui->lblVeredicto_1}};
+                  ui->cmdOtra_1, ui->lblLeido_1, ui->lblVeredicto_1}};
     for (QLabel *titulo : {ui->lblTitulo_0, ui->lblTitulo_1})
         Aspecto::destaca(titulo, 1.15);
     for (Lugar &lugar : m_lugares) {
@@ -48,8 +51,8 @@ PanelCuestiones::PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, Q
         conecta(lugar.otra, &QPushButton::clicked, this, [&lugar] { cmdOtra_Click(lugar); });
         conecta(lugar.respuesta, &QLineEdit::returnPressed, this,
                 [this, &lugar] { cmdComprobar_Click(lugar); });
-        // A verdict belongs to the answer that was judged.
-        conecta(lugar.respuesta, &QLineEdit::textChanged, lugar.veredicto, &QLabel::clear);
+        conecta(lugar.respuesta, &QLineEdit::textChanged, this,
+                [&lugar] { txtRespuesta_Change(lugar); });
         plantea(lugar);
     }
 }
@@ -67,6 +70,14 @@ void PanelCuestiones::plantea(Lugar &lugar)
     lugar.veredicto->clear();
 }
 
+/// What is read stands there at each key, judged by nobody; a verdict belongs to the answer that
+/// was judged.
+void PanelCuestiones::txtRespuesta_Change(Lugar &lugar)
+{
+    lugar.leido->setText(leeRespuesta(lugar.respuesta->text(), lugar.cuestion.forma).leo);
+    lugar.veredicto->clear();
+}
+
 void PanelCuestiones::cmdOtra_Click(Lugar &lugar)
 {
     plantea(lugar);
@@ -76,10 +87,11 @@ void PanelCuestiones::cmdOtra_Click(Lugar &lugar)
 void PanelCuestiones::cmdComprobar_Click(Lugar &lugar)
 {
     lugar.respuesta->setFocus();
-    const QString respuesta = comoExpresion(lugar.respuesta->text());
-    if (respuesta.isEmpty())
+    const Juicio juicio = lugar.cuestion.juzga(lugar.respuesta->text());
+    if (!juicio.juzgada) {
+        muestraNeutro(lugar.veredicto, juicio.palabra);
         return;
-    const Juicio juicio = lugar.cuestion.juzga(respuesta);
+    }
     muestraVeredicto(lugar.veredicto, juicio.acertada, juicio.palabra);
     ui->ccrpAniEureka->carga(juicio.acertada ? Sesión().AVIEureka() : Sesión().AVIError(),
                              juicio.acertada ? u"EUREKA"_s : u"ERROR"_s);

@@ -12,8 +12,8 @@ class PanelCuestiones;
 }
 
 /// The topic "Cuestiones" of a lesson that asks two questions: each is drawn at random, judged with
-/// a word and an animation, and can be drawn anew. An answer may be written as the lessons print
-/// mathematics: "2 · F(11) − 1" is judged as "2 * fib(11) - 1".
+/// a word and an animation, and can be drawn anew. What has been read of an answer stands below it
+/// at each key; what cannot be read is named and not judged.
 class PanelCuestiones : public QWidget
 {
     Q_OBJECT
@@ -28,6 +28,7 @@ private:
     struct Lugar;
 
     static void plantea(Lugar &lugar);
+    static void txtRespuesta_Change(Lugar &lugar);
     static void cmdOtra_Click(Lugar &lugar);
     void cmdComprobar_Click(Lugar &lugar);
 

@@ -61,7 +61,7 @@ BarraDePregunta::BarraDePregunta(QWidget *padre)
 
 void BarraDePregunta::pregunta(const PaginaPlegable::Pregunta &pregunta)
 {
-    m_juez = juezDePregunta(pregunta.respuesta);
+    m_esperada = pregunta.respuesta;
     m_enunciado->setText(pregunta.enunciado);
     m_respuesta->clear();
     m_respuesta->setAccessibleDescription(
@@ -74,11 +74,11 @@ void BarraDePregunta::pregunta(const PaginaPlegable::Pregunta &pregunta)
 void BarraDePregunta::cmdComprobarPregunta_Click()
 {
     m_respuesta->setFocus();
-    const QString respuesta = comoExpresion(m_respuesta->text());
-    if (respuesta.isEmpty() || !m_juez)
-        return;
-    const Juicio juicio = m_juez(respuesta);
-    muestraVeredicto(m_veredicto, juicio.acertada, juicio.palabra);
+    const Juicio juicio = juzgaPregunta(m_esperada, m_respuesta->text());
+    if (juicio.juzgada)
+        muestraVeredicto(m_veredicto, juicio.acertada, juicio.palabra);
+    else
+        muestraNeutro(m_veredicto, juicio.palabra);
     // The focus stays in the field: a screen reader says what changes about that.
     m_respuesta->setAccessibleDescription(juicio.palabra);
     QAccessibleEvent aviso(m_veredicto, QAccessible::Alert);

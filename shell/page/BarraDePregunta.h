@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/core/Cuestion.h"
 #include "shell/core/page/PaginaPlegable.h"
 
 #include <QWidget>
@@ -31,5 +30,5 @@ private:
     QLabel *m_enunciado;
     QLineEdit *m_respuesta;
     QLabel *m_veredicto;
-    Juez m_juez;
+    QString m_esperada;
 };

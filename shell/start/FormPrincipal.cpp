@@ -72,6 +72,7 @@ void FormPrincipal::preparaMenu(const Contenido &contenido)
     menu->installEventFilter(this);
     m_bienvenida = new PanelBienvenida(m_menu, this);
     ui->AreaDeTrabajo->ponBienvenida(m_bienvenida);
+    connect(ui->AreaDeTrabajo, &QMdiArea::subWindowActivated, this, &FormPrincipal::marcaLecciones);
     conecta(m_bienvenida, &PanelBienvenida::elegida, this, &FormPrincipal::abreLeccion);
     conecta(menu, &QListView::clicked, this, &FormPrincipal::FlexMenu_Click);
     conecta(menu->selectionModel(), &QItemSelectionModel::currentChanged, this,

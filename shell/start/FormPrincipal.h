@@ -72,6 +72,7 @@ private:
     void preparaMenu(const Contenido &contenido);
     void preparaOrdenes();
     void preparaAspecto();
+    void marcaLecciones();
     void recuperaTamano();
     void anotaTamanos();
     void colocaVentana(FormLeccion *leccion);

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BignumCalls.h"
-#include "TextTable.h"
+#include "tests/Tabla.h"
 
 #include <QProcess>
 #include <chrono>
 #include <thread>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -90,29 +88,30 @@ private Q_SLOTS:
     {
         // Among them the squares of the least prime above the trial divisors and of the largest
         // of 32 bits, 2^67 - 1, 2^89 - 1, 2^256 + 1 and forty ones.
-        addTable({"number", "factors"}, R"(
-0 = ''  1 = ''  -1 = ''  2 = 2  -360 = 2^3 3^2 5  65536 = 2^16
-4295098369 = 65537^2  18446744030759878681 = 4294967291^2
-18446744073709551615 = 3 5 17 257 641 65537 6700417
-18446744073709551617 = 274177 67280421310721
-126582278481012658227848101265822806309 = 32384567 3908722277528449221749609969027
-1000000000000000000000000000000000000000420217 = 14853224237640427 67325449612875386921338313771
-340282366920938463463374607431768211457 = 59649589127497217 5704689200685129054721
-618970019642690137449562111 = 618970019642690137449562111
-147573952589676412927 = 193707721 761838257287
-1111111111111111111111111111111111111111 = 11 41 73 101 137 271 3541 9091 27961 1676321 5964848081
-)");
-        QTest::newRow("2^256 + 1")
-            << "115792089237316195423570985008687907853269984665640564039457584007913129639937"_ba
-            << "1238926361552897 93461639715357977769163558199606896584051237541638188580280321"_ba;
+        filasDeTexto<QByteArray, QByteArray>(uR"(
+0 | || 1 | || -1 | || 2 | 2 || -360 | 2^3 3^2 5 || 65536 | 2^16
+4295098369 | 65537^2 || 18446744030759878681 | 4294967291^2
+18446744073709551615 | 3 5 17 257 641 65537 6700417
+18446744073709551617 | 274177 67280421310721
+126582278481012658227848101265822806309 | 32384567 3908722277528449221749609969027
+1000000000000000000000000000000000000000420217 | 14853224237640427 67325449612875386921338313771
+340282366920938463463374607431768211457 | 59649589127497217 5704689200685129054721
+618970019642690137449562111 | 618970019642690137449562111
+147573952589676412927 | 193707721 761838257287
+1111111111111111111111111111111111111111 | 11 41 73 101 137 271 3541 9091 27961 1676321 5964848081
+)"_s);
+        otraFila<QByteArray, QByteArray>(
+            u"2^256 + 1"_s,
+            "115792089237316195423570985008687907853269984665640564039457584007913129639937"_ba,
+            "1238926361552897 93461639715357977769163558199606896584051237541638188580280321"_ba);
     }
     void known()
     {
-        QFETCH(QByteArray, number);
+        const auto [number, factors] = estaFila<QByteArray, QByteArray>();
         const Factored result = factored(number.toStdString());
         QCOMPARE(result.flag, 1);
         QVERIFY(result.intact);
-        QTEST(QByteArray::fromStdString(written(result)), "factors");
+        QCOMPARE(QByteArray::fromStdString(written(result)), factors);
     }
 
     void smallNumbers()
@@ -233,21 +232,21 @@ private Q_SLOTS:
 
     void asFound_data()
     {
-        addTable({"number", "found"}, R"(
-0 = ''  1 = ''  -7 = 7 itself  1000000007 = 1000000007 itself
-360 = 2^3 division, 3^2 division, 5 division
-6000000042 = 2 division, 3 division, 1000000007 division
-1000000016000000063 = 1000000009 rho, 1000000007 rho)");
-        QTest::newRow("a square")
-            << "1000000000000000000000000000114000000000000000000000000003249"_ba
-            << "1000000000000000000000000000057^2 root"_ba;
+        filasDeTexto<QByteArray, QByteArray>(uR"(
+0 | || 1 | || -7 | 7 itself || 1000000007 | 1000000007 itself
+360 | 2^3 division, 3^2 division, 5 division
+6000000042 | 2 division, 3 division, 1000000007 division
+1000000016000000063 | 1000000009 rho, 1000000007 rho)"_s);
+        otraFila<QByteArray, QByteArray>(
+            u"a square"_s, "1000000000000000000000000000114000000000000000000000000003249"_ba,
+            "1000000000000000000000000000057^2 root"_ba);
     }
     void asFound()
     {
-        QFETCH(const QByteArray, number);
+        const auto [number, found] = estaFila<QByteArray, QByteArray>();
         Taken taken;
         QCOMPARE(FactorsAsFound(number.constData(), take, &taken), BIGNUM_ALL_PRIMES);
-        QTEST(QByteArray::fromStdString(taken.text), "found");
+        QCOMPARE(QByteArray::fromStdString(taken.text), found);
         QVERIFY(taken.countsFit);
     }
 

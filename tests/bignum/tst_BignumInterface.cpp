@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BignumCalls.h"
-#include "TextTable.h"
+#include "tests/Tabla.h"
 
 #include <atomic>
 #include <thread>
-
-using namespace Qt::Literals::StringLiterals;
 
 extern "C" int32_t sumOfPrimesUpTo10(void);
 extern "C" int32_t exponentsOf360(void);
@@ -31,23 +29,21 @@ private Q_SLOTS:
 
     void numberTexts_data()
     {
-        addTable({"text", "number"}, R"(
-123 = 123  000123 = 123  +5 = 5  -0 = 0  '' = failure  - = failure  +-5 = failure  - 5 = failure
-1 000 = failure  1.0 = failure  0x10 = failure  1e5 = failure  12a = failure)");
-        QTest::newRow("blanks around") << " \t\r\n-5 \n"_ba
-                                       << "-5"_ba;
-        QTest::newRow("blank") << "  "_ba
-                               << "failure"_ba;
-        QTest::newRow("no-break space") << QByteArray("\xA0") + "5"
-                                        << "failure"_ba;
-        QTest::newRow("superscript digit") << "5\xB2"_ba
-                                           << "failure"_ba;
+        filasDeTexto<QByteArray, QByteArray>(uR"(
+123 | 123 || 000123 | 123 || +5 | 5 || -0 | 0 ||  | failure || - | failure || +-5 | failure
+- 5 | failure
+1 000 | failure || 1.0 | failure || 0x10 | failure || 1e5 | failure || 12a | failure)"_s);
+        otraFila<QByteArray, QByteArray>(u"blanks around"_s, " \t\r\n-5 \n"_ba, "-5"_ba);
+        otraFila<QByteArray, QByteArray>(u"blank"_s, "  "_ba, "failure"_ba);
+        otraFila<QByteArray, QByteArray>(u"no-break space"_s, QByteArray("\xA0") + "5",
+                                         "failure"_ba);
+        otraFila<QByteArray, QByteArray>(u"superscript digit"_s, "5\xB2"_ba, "failure"_ba);
     }
     void numberTexts()
     {
-        QFETCH(QByteArray, text);
+        const auto [text, expected] = estaFila<QByteArray, QByteArray>();
         const auto number = call(ToBasis, 10, text.constData());
-        QTEST(QByteArray::fromStdString(number.value_or("failure")), "number");
+        QCOMPARE(QByteArray::fromStdString(number.value_or("failure")), expected);
     }
 
     void resultsFillTheirBuffers()

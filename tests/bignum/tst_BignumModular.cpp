@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BignumCalls.h"
-#include "TextTable.h"
-
-using namespace Qt::Literals::StringLiterals;
+#include "tests/Tabla.h"
 
 namespace {
 
@@ -80,24 +78,24 @@ class TestBignumModular : public QObject
 private Q_SLOTS:
     void operations_data()
     {
-        addTable({"operation", "expected"}, R"(
-mod -7 3 = 2  mod 7 -3 = 1  mod -7 -3 = 2  mod -9 3 = 0  mod 12345678901234567890123 1 = 0
-mod 5 0 = failure  mod x 3 = failure  mod 5 3x = failure
-power 3 200 13 = 9  power -2 3 7 = 6  power 2 3 -7 = 1  power 0 0 7 = 1  power 5 0 1 = 0
-power 3 -2 7 = 4  power 5 2 0 = failure  power 6 -1 9 = failure  power 2 x 9 = failure
-inverse 3 7 = 5  inverse -3 7 = 2  inverse 3 -7 = 5  inverse 5 1 = 0  inverse 0 -1 = 0
-inverse 1 0 = failure  inverse 6 9 = failure  inverse 0 9 = failure
-gcd -12 18 = 6  gcd 0 -18 = 18  gcd 0 0 = 0  gcd 0 1/2 = failure
-base 2 10 = 1010  base 16 255 = ff  base 36 -1295 = -zz  base 7 0 = 0
-base 1 5 = failure  base 37 5 = failure  base -16 5 = failure  base 2 five = failure
-bezout 240 46 = 2 -9 47  bezout 17 3120 = 1 -367 2  bezout 0 0 = 0 0 0  bezout 0 5 = 5 0 1
-bezout -5 0 = 5 -1 0  bezout 6 6 = 6 0 1  bezout 1 1 = 1 0 1  bezout 12 4 = 4 0 1
-bezout 7 -1 = 1 0 -1)");
+        filasDeTexto<QByteArray, QByteArray>(uR"(
+mod -7 3 | 2 || mod 7 -3 | 1 || mod -7 -3 | 2 || mod -9 3 | 0 || mod 12345678901234567890123 1 | 0
+mod 5 0 | failure || mod x 3 | failure || mod 5 3x | failure
+power 3 200 13 | 9 || power -2 3 7 | 6 || power 2 3 -7 | 1 || power 0 0 7 | 1 || power 5 0 1 | 0
+power 3 -2 7 | 4 || power 5 2 0 | failure || power 6 -1 9 | failure || power 2 x 9 | failure
+inverse 3 7 | 5 || inverse -3 7 | 2 || inverse 3 -7 | 5 || inverse 5 1 | 0 || inverse 0 -1 | 0
+inverse 1 0 | failure || inverse 6 9 | failure || inverse 0 9 | failure
+gcd -12 18 | 6 || gcd 0 -18 | 18 || gcd 0 0 | 0 || gcd 0 1/2 | failure
+base 2 10 | 1010 || base 16 255 | ff || base 36 -1295 | -zz || base 7 0 | 0
+base 1 5 | failure || base 37 5 | failure || base -16 5 | failure || base 2 five | failure
+bezout 240 46 | 2 -9 47 || bezout 17 3120 | 1 -367 2 || bezout 0 0 | 0 0 0 || bezout 0 5 | 5 0 1
+bezout -5 0 | 5 -1 0 || bezout 6 6 | 6 0 1 || bezout 1 1 | 1 0 1 || bezout 12 4 | 4 0 1
+bezout 7 -1 | 1 0 -1)"_s);
     }
     void operations()
     {
-        QFETCH(QByteArray, operation);
-        QTEST(QByteArray::fromStdString(done(operation.split(' '))), "expected");
+        const auto [operation, expected] = estaFila<QByteArray, QByteArray>();
+        QCOMPARE(QByteArray::fromStdString(done(operation.split(' '))), expected);
     }
 
     void longOperands()
@@ -171,15 +169,15 @@ bezout 7 -1 = 1 0 -1)");
 
     void congruences_data()
     {
-        addTable({"system", "solution"}, R"(
-2 3 3 5 2 7 = 23  17 5 = 2  -1 3 -1 5 = 14  2 -3 3 5 = 8  5 1 3 4 = 3  5 0 3 4 = failure
-not coprime:  3 4 5 6 = 11  3 4 7 4 = 3  3 4 4 6 = failure
-no numbers:  5 3 a 4 = failure  '' = failure)");
+        filasDeTexto<QByteArray, QByteArray>(uR"(
+2 3 3 5 2 7 | 23 || 17 5 | 2 || -1 3 -1 5 | 14 || 2 -3 3 5 | 8 || 5 1 3 4 | 3 || 5 0 3 4 | failure
+not coprime: || 3 4 5 6 | 11 || 3 4 7 4 | 3 || 3 4 4 6 | failure
+no numbers: || 5 3 a 4 | failure ||  | failure)"_s);
     }
     void congruences()
     {
-        QFETCH(QByteArray, system);
-        QTEST(QByteArray::fromStdString(solve(system)), "solution");
+        const auto [system, solution] = estaFila<QByteArray, QByteArray>();
+        QCOMPARE(QByteArray::fromStdString(solve(system)), solution);
     }
 
     void congruencesOfRandomNumbers()
@@ -237,22 +235,18 @@ no numbers:  5 3 a 4 = failure  '' = failure)");
 
     void comparisons_data()
     {
-        addTable({"a", "b", "larger"}, R"(
-2 = 10 = 2  10 = 9 = 1  10 = +010 = 0  -10 = -9 = 2  '' = 1 = 2  0 = '' = 0
-rationals:  1/3 = 1/2 = 2  2/4 = 1/2 = 0  7/2 = 3 = 1  1/0 = 5 = -1  1/-2 = 5 = -1
-no number:  1 = Error = -1)");
+        filasDeTexto<QByteArray, QByteArray, QByteArray>(uR"(
+2 | 10 | 2 || 10 | 9 | 1 || 10 | +010 | 0 || -10 | -9 | 2 ||  | 1 | 2 || 0 |  | 0
+rationals: || 1/3 | 1/2 | 2 || 2/4 | 1/2 | 0 || 7/2 | 3 | 1 || 1/0 | 5 | -1 || 1/-2 | 5 | -1
+no number: || 1 | Error | -1)"_s);
         const QByteArray large = "1"_ba + QByteArray(20000, '0');
-        QTest::newRow("long") << large << large + "0"
-                              << "2"_ba;
-        QTest::newRow("blanks") << "0"_ba
-                                << "  "_ba
-                                << "0"_ba;
+        otraFila<QByteArray, QByteArray, QByteArray>(u"long"_s, large, large + "0", "2"_ba);
+        otraFila<QByteArray, QByteArray, QByteArray>(u"blanks"_s, "0"_ba, "  "_ba, "0"_ba);
     }
     void comparisons()
     {
-        QFETCH(QByteArray, a);
-        QFETCH(QByteArray, b);
-        QTEST(QByteArray::number(BMax(a.constData(), b.constData())), "larger");
+        const auto [a, b, larger] = estaFila<QByteArray, QByteArray, QByteArray>();
+        QCOMPARE(QByteArray::number(BMax(a.constData(), b.constData())), larger);
     }
 };
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BignumCalls.h"
-#include "TextTable.h"
+#include "tests/Tabla.h"
 
 #include <map>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -65,31 +63,34 @@ private Q_SLOTS:
     {
         // Composites: the least that pass strong tests to the first prime bases, Carmichael's,
         // those that pass the Lucas half of the test alone, squares of Wieferich primes.
-        addTable({"number", "prime"}, R"(
-0 = 0  -2 = 0
-strong:  2047 = 0  1373653 = 0  25326001 = 0  3215031751 = 0  2152302898747 = 0  3474749660383 = 0
-strong:  341550071728321 = 0  3825123056546413051 = 0  318665857834031151167461 = 0
-strong:  3317044064679887385961981 = 0
-Carmichael:  561 = 0  1729 = 0  294409 = 0  56052361 = 0  118901521 = 0  9746347772161 = 0
-Carmichael:  349407515342287435050603204719587201 = 0
-Lucas:  989 = 0  3239 = 0  5459 = 0  5777 = 0  10877 = 0  72389 = 0  100127 = 0  113573 = 0
-squares:  1194649 = 0  12327121 = 0  340282366920938460843936948965011886881 = 0
-about 2^64:  18446744073709551557 = 1  18446744073709551629 = 1  18446744073709551615 = 0
-powers of 2 and 1:  18446744073709551617 = 0  340282366920938463463374607431768211457 = 0)");
-        QTest::newRow("two with sign and blanks") << "\t +2 \r\n"_ba
-                                                  << "1"_ba;
+        filasDeTexto<QByteArray, QByteArray>(uR"(
+0 | 0 || -2 | 0
+strong: || 2047 | 0 || 1373653 | 0 || 25326001 | 0 || 3215031751 | 0 || 2152302898747 | 0
+strong: || 3474749660383 | 0
+strong: || 341550071728321 | 0 || 3825123056546413051 | 0 || 318665857834031151167461 | 0
+strong: || 3317044064679887385961981 | 0
+Carmichael: || 561 | 0 || 1729 | 0 || 294409 | 0 || 56052361 | 0 || 118901521 | 0
+Carmichael: || 9746347772161 | 0
+Carmichael: || 349407515342287435050603204719587201 | 0
+Lucas: || 989 | 0 || 3239 | 0 || 5459 | 0 || 5777 | 0 || 10877 | 0 || 72389 | 0 || 100127 | 0
+Lucas: || 113573 | 0
+squares: || 1194649 | 0 || 12327121 | 0 || 340282366920938460843936948965011886881 | 0
+about 2^64: || 18446744073709551557 | 1 || 18446744073709551629 | 1 || 18446744073709551615 | 0
+powers of 2 and 1: || 18446744073709551617 | 0 || 340282366920938463463374607431768211457 | 0)"_s);
+        otraFila<QByteArray, QByteArray>(u"two with sign and blanks"_s, "\t +2 \r\n"_ba, "1"_ba);
         for (const unsigned long p :
              {61UL, 89UL, 107UL, 127UL, 521UL, 607UL, 1279UL, 2203UL, 67UL, 101UL, 257UL, 1009UL}) {
             const bool composite = p == 67 || p == 101 || p == 257 || p == 1009;
-            QTest::addRow("Mersenne %lu", p)
-                << QByteArray::fromStdString(mpz_class((mpz_class(1) << p) - 1).get_str())
-                << (composite ? "0"_ba : "1"_ba);
+            otraFila<QByteArray, QByteArray>(
+                u"Mersenne %1"_s.arg(p),
+                QByteArray::fromStdString(mpz_class((mpz_class(1) << p) - 1).get_str()),
+                composite ? "0"_ba : "1"_ba);
         }
     }
     void knownNumbers()
     {
-        QFETCH(QByteArray, number);
-        QTEST(QByteArray::number(IsPrime(number.constData())), "prime");
+        const auto [number, prime] = estaFila<QByteArray, QByteArray>();
+        QCOMPARE(QByteArray::number(IsPrime(number.constData())), prime);
     }
 
     void randomNumbersAgreeWithGmp()
@@ -136,20 +137,21 @@ powers of 2 and 1:  18446744073709551617 = 0  3402823669209384634633746074317682
 
     void nextPrimes_data()
     {
-        addTable({"number", "next"}, R"(
--1000000000000000000000000 = 2  1 = 2  2 = 3  3 = 5
-across gaps:  492113 = 492227  1425172824437699411 = 1425172824437700887
-to the last prime of a word:  18446744073709551556 = 18446744073709551557
-out of the word:  18446744073709551557 = 18446744073709551629)");
-        QTest::newRow("beyond the bits of a search") << "-1" + QByteArray(4000, '0') << "2"_ba;
+        filasDeTexto<QByteArray, QByteArray>(uR"(
+-1000000000000000000000000 | 2 || 1 | 2 || 2 | 3 || 3 | 5
+across gaps: || 492113 | 492227 || 1425172824437699411 | 1425172824437700887
+to the last prime of a word: || 18446744073709551556 | 18446744073709551557
+out of the word: || 18446744073709551557 | 18446744073709551629)"_s);
+        otraFila<QByteArray, QByteArray>(u"beyond the bits of a search"_s,
+                                         "-1" + QByteArray(4000, '0'), "2"_ba);
         const QByteArray googol = "1" + QByteArray(100, '0');
-        QTest::newRow("googol") << googol << googol.chopped(3) + "267";
+        otraFila<QByteArray, QByteArray>(u"googol"_s, googol, googol.chopped(3) + "267");
     }
     void nextPrimes()
     {
-        QFETCH(QByteArray, number);
+        const auto [number, expected] = estaFila<QByteArray, QByteArray>();
         const auto next = call(NextPrime, number.constData());
-        QTEST(QByteArray::fromStdString(next.value_or("failure")), "next");
+        QCOMPARE(QByteArray::fromStdString(next.value_or("failure")), expected);
     }
 
     void nextPrimeSkipsNone()

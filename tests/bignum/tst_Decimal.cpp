@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/bignum.h"
 
-#include "TextTable.h"
+#include "tests/Tabla.h"
 
 #include <gmpxx.h>
 #include <random>
@@ -72,23 +72,23 @@ private Q_SLOTS:
 
     void values_data()
     {
-        addTable({"precision", "rational", "expected"}, R"(
-exact:  5 = 1234567  5 = 0  100 = -49/4 = -12.25  100 = 1/2 = 0.5  5 = 10000001/100000000 = 0.1
-rounded:  5 = 1/3 = 0.33333  5 = -2/3 = -0.66667  3 = 123456/10 = 12346
-zeros do not count:  3 = 1/700000 = 0.00000143
-digits of 65 are guessed as three:  2 = 7/65 = 0.11
-carries:  3 = 9996/10000 = 1  3 = 99996/1000 = 100
-ties:  2 = 25/1000 = 0.025  1 = 25/100 = 0.2  1 = 35/100 = 0.4  1 = 25/2 = 12
-just above a tie:  1 = 2500000001/10000000000 = 0.3
-precisions below 1:  0 = 1/3 = 0.3  -5 = 1/3 = 0.3
-no values:  5 = 1/0 = fails  5 = 1/-2 = fails  5 = x = fails)");
+        filasDeTexto<QByteArray, QByteArray, QByteArray>(uR"(
+exact: || 5 | 1234567 | 1234567 || 5 | 0 | 0 || 100 | -49/4 | -12.25 || 100 | 1/2 | 0.5
+exact: || 5 | 10000001/100000000 | 0.1
+rounded: || 5 | 1/3 | 0.33333 || 5 | -2/3 | -0.66667 || 3 | 123456/10 | 12346
+zeros do not count: || 3 | 1/700000 | 0.00000143
+digits of 65 are guessed as three: || 2 | 7/65 | 0.11
+carries: || 3 | 9996/10000 | 1 || 3 | 99996/1000 | 100
+ties: || 2 | 25/1000 | 0.025 || 1 | 25/100 | 0.2 || 1 | 35/100 | 0.4 || 1 | 25/2 | 12
+just above a tie: || 1 | 2500000001/10000000000 | 0.3
+precisions below 1: || 0 | 1/3 | 0.3 || -5 | 1/3 | 0.3
+no values: || 5 | 1/0 | fails || 5 | 1/-2 | fails || 5 | x | fails)"_s);
     }
     void values()
     {
-        QFETCH(QByteArray, precision);
-        QFETCH(QByteArray, rational);
+        const auto [precision, rational, expected] = estaFila<QByteArray, QByteArray, QByteArray>();
         InitBignum(precision.toInt());
-        QTEST(QByteArray::fromStdString(decimal(rational.toStdString())), "expected");
+        QCOMPARE(QByteArray::fromStdString(decimal(rational.toStdString())), expected);
     }
 
     void theBufferIsTheLimit()

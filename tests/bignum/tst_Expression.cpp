@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/bignum.h"
 
-#include "TextTable.h"
+#include "tests/Tabla.h"
 
 #include <array>
 #include <gmpxx.h>
@@ -9,8 +9,6 @@
 #include <optional>
 #include <random>
 #include <string>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -171,77 +169,86 @@ class TestExpression : public QObject
 private Q_SLOTS:
     void values_data()
     {
-        addTable({"expression", "integer", "rational"}, R"(
-order:  0+(7 % 3) = 1  10-4-3 = 3  100/10/5 = 2  2^3^2 = 512  2^3! = 64  3!^2 = 36  3!! = 720
-signs:  -2^2 = -4  2^-1 = fails = 1/2  (-1)^-3 = -1  2--+-3 = -1  0^0 = 1  0^-1 = fails
-factorials:  (-1)! = fails  (1/2)! = 1 = fails
-implicit products:  (5)2 = 10  2(3)[4]{5} = 120  6/2(3) = 9  (2)mcd(4;6) = 4
-no products:  2mcd(4;6) = fails  5 5 = fails
-Euclid:  -7/2 = -4 = -7/2  -7%2 = 1  7/-2 = -3 = -7/2  7%-2 = 1  -7/-2 = 4 = 7/2  7/2%2 = 1 = fails
-by zero:  1/(2-2) = fails  1%0 = fails  2^5%0 = fails
-modular powers:  3^1000000000000%1000007 = 273158  -3^2%7 = 5  -3^100%7 = 3  3^5%-7 = 5  2*3^4%7 = 1
-decimals:  1,5+.25 = fails = 7/4  2.0*3,00 = 6  6/4-1/2 = 1  2. = fails  1.2.3 = fails
-roots:  raiz(99)+SQRT[100] = 19  raíz(9)+RAÍZ(16) = 7  raiz(-1) = fails  raiz(1/4) = 0 = fails
-divisors:  gcd(12;18;27) = 3  Mcm(4;6;10) = 60  fi(36)+phi(97) = 108
-two primes of 39 digits:  fi(nextprime(10^38)*nextprime(3*10^38)) = fails
-sizes:  abs(-3/4) = 1 = 3/4  min(3;1/2)+max(1/3;1/4) = 0 = 5/6
-numbers:  fib(100) = 354224848179261915075  primo(97)+10*isprime(91) = 1
-next primes:  sigprimo(97)+nextprime(-5) = 103
-no functions:  sen(1) = fails  mcd = fails  mcd() = fails  abs(1;2) = fails  1;2 = fails
-brackets:  {[(1+2)*3]} = 9  ([1)] = fails  (1+2 = fails  1+2) = fails  '' = fails  () = fails
-no operators:  1+ = fails  1&2 = fails)");
-        QTest::newRow("line breaks") << "1\r\n+\t2"_ba
-                                     << "3"_ba
-                                     << "3"_ba;
-        QTest::newRow("Windows-1252") << "ra\xEDz(9)+RA\xCDZ(16)"_ba
-                                      << "7"_ba
-                                      << "7"_ba;
+        filasDeTexto<QByteArray, QByteArray, QByteArray>(uR"(
+order: || 0+(7 % 3) | 1 | 1 || 10-4-3 | 3 | 3 || 100/10/5 | 2 | 2 || 2^3^2 | 512 | 512
+order: || 2^3! | 64 | 64 || 3!^2 | 36 | 36 || 3!! | 720 | 720
+signs: || -2^2 | -4 | -4 || 2^-1 | fails | 1/2 || (-1)^-3 | -1 | -1 || 2--+-3 | -1 | -1
+signs: || 0^0 | 1 | 1 || 0^-1 | fails | fails
+factorials: || (-1)! | fails | fails || (1/2)! | 1 | fails
+implicit products: || (5)2 | 10 | 10 || 2(3)[4]{5} | 120 | 120 || 6/2(3) | 9 | 9
+implicit products: || (2)mcd(4;6) | 4 | 4
+no products: || 2mcd(4;6) | fails | fails || 5 5 | fails | fails
+Euclid: || -7/2 | -4 | -7/2 || -7%2 | 1 | 1 || 7/-2 | -3 | -7/2 || 7%-2 | 1 | 1 || -7/-2 | 4 | 7/2
+Euclid: || 7/2%2 | 1 | fails
+by zero: || 1/(2-2) | fails | fails || 1%0 | fails | fails || 2^5%0 | fails | fails
+modular powers: || 3^1000000000000%1000007 | 273158 | 273158 || -3^2%7 | 5 | 5 || -3^100%7 | 3 | 3
+modular powers: || 3^5%-7 | 5 | 5 || 2*3^4%7 | 1 | 1
+decimals: || 1,5+.25 | fails | 7/4 || 2.0*3,00 | 6 | 6 || 6/4-1/2 | 1 | 1 || 2. | fails | fails
+decimals: || 1.2.3 | fails | fails
+roots: || raiz(99)+SQRT[100] | 19 | 19 || raíz(9)+RAÍZ(16) | 7 | 7 || raiz(-1) | fails | fails
+roots: || raiz(1/4) | 0 | fails
+divisors: || gcd(12;18;27) | 3 | 3 || Mcm(4;6;10) | 60 | 60 || fi(36)+phi(97) | 108 | 108
+two primes of 39 digits: || fi(nextprime(10^38)*nextprime(3*10^38)) | fails | fails
+sizes: || abs(-3/4) | 1 | 3/4 || min(3;1/2)+max(1/3;1/4) | 0 | 5/6
+numbers: || fib(100) | 354224848179261915075 | 354224848179261915075
+numbers: || primo(97)+10*isprime(91) | 1 | 1
+next primes: || sigprimo(97)+nextprime(-5) | 103 | 103
+no functions: || sen(1) | fails | fails || mcd | fails | fails || mcd() | fails | fails
+no functions: || abs(1;2) | fails | fails || 1;2 | fails | fails
+brackets: || {[(1+2)*3]} | 9 | 9 || ([1)] | fails | fails || (1+2 | fails | fails
+brackets: || 1+2) | fails | fails ||  | fails | fails || () | fails | fails
+no operators: || 1+ | fails | fails || 1&2 | fails | fails)"_s);
+        otraFila<QByteArray, QByteArray, QByteArray>(u"line breaks"_s, "1\r\n+\t2"_ba, "3"_ba,
+                                                     "3"_ba);
+        otraFila<QByteArray, QByteArray, QByteArray>(u"Windows-1252"_s, "ra\xEDz(9)+RA\xCDZ(16)"_ba,
+                                                     "7"_ba, "7"_ba);
     }
     void values()
     {
-        QFETCH(QByteArray, expression);
+        const auto [expression, integer, rational] = estaFila<QByteArray, QByteArray, QByteArray>();
         const std::string text = expression.toStdString();
-        QTEST(QByteArray::fromStdString(evaluated(ZEval, text)), "integer");
-        QTEST(QByteArray::fromStdString(evaluated(QEval, text)), "rational");
+        QCOMPARE(QByteArray::fromStdString(evaluated(ZEval, text)), integer);
+        QCOMPARE(QByteArray::fromStdString(evaluated(QEval, text)), rational);
     }
 
     void refused_data()
     {
-        addTable({"expression"}, R"(
-9^9^9^9  10^100000  99999!  9!!  fib(10^9)  2^-9^9^9  (((((99!^9)^9)^9)^9)^9)
-7^(10^24000)%(10^24000+1)  sigprimo(10^20000)  primo(10^20000+1))");
-        const auto row = [](const char *name, const std::string &expression) {
-            QTest::newRow(name) << QByteArray::fromStdString(expression);
+        filasDeTexto<QByteArray>(uR"(
+9^9^9^9 || 10^100000 || 99999! || 9!! || fib(10^9) || 2^-9^9^9 || (((((99!^9)^9)^9)^9)^9)
+7^(10^24000)%(10^24000+1) || sigprimo(10^20000) || primo(10^20000+1))"_s);
+        const auto row = [](const QString &name, const std::string &expression) {
+            otraFila(name, QByteArray::fromStdString(expression));
         };
-        row("100 000 brackets", repeated("(", 100'000));
-        row("100 000 signs", repeated("-", 100'000) + "1");
-        row("100 000 powers", repeated("1^", 100'000) + "1");
-        row("100 000 calls", repeated("abs(", 100'000));
-        row("text of a megabyte", repeated("1+", 500'001) + "1");
-        row("arguments beyond memory", "max(" + repeated("2^80000;", 120'000) + "1)");
+        row(u"100 000 brackets"_s, repeated("(", 100'000));
+        row(u"100 000 signs"_s, repeated("-", 100'000) + "1");
+        row(u"100 000 powers"_s, repeated("1^", 100'000) + "1");
+        row(u"100 000 calls"_s, repeated("abs(", 100'000));
+        row(u"text of a megabyte"_s, repeated("1+", 500'001) + "1");
+        row(u"arguments beyond memory"_s, "max(" + repeated("2^80000;", 120'000) + "1)");
     }
     void refused()
     {
-        QFETCH(QByteArray, expression);
+        const QByteArray expression = estaFila<QByteArray>();
         QCOMPARE(evaluated(ZEval, expression.toStdString()), "fails");
         QCOMPARE(evaluated(QEval, expression.toStdString()), "fails");
     }
 
     void faults_data()
     {
-        addTable({"expression", "fault", "where"}, R"(
-1/2 = none = ''  2**3 = operand = *  2+ = operand = ''  '' = operand = ''  5 6 = operator = 6
-1.000.000 = operator = .000  (5 6) = operator = 6  2) = misplaced = )  (2] = misplaced = ]
-1;2 = misplaced = ;  1e3 = unknown = e  1<2 = unknown = <  5. = unknown = 5.
-seno(1) = unknown = seno  1+fi = arguments = fi  raiz(1;2) = arguments = raiz
-1/(2-2) = division = ''  5%0 = division = ''  2^70%0 = division = ''  0^-1 = division = ''
-1/2%3 = whole = ''  2^(1/2) = whole = ''  (-1)! = domain = ''  raiz(-1) = domain = ''
-fi(0) = domain = ''  9^9^9 = large = ''  10^24575 = large = ''  sigprimo(10^20000) = slow = '')");
-        QTest::newRow("brackets") << QByteArray(2000, '(') << "large"_ba
-                                  << ""_ba;
+        filasDeTexto<QByteArray, QByteArray, QByteArray>(uR"(
+1/2 | none | || 2**3 | operand | * || 2+ | operand | ||  | operand | || 5 6 | operator | 6
+1.000.000 | operator | .000 || (5 6) | operator | 6 || 2) | misplaced | ) || (2] | misplaced | ]
+1;2 | misplaced | ; || 1e3 | unknown | e || 1<2 | unknown | < || 5. | unknown | 5.
+seno(1) | unknown | seno || 1+fi | arguments | fi || raiz(1;2) | arguments | raiz
+1/(2-2) | division | || 5%0 | division | || 2^70%0 | division | || 0^-1 | division |
+1/2%3 | whole | || 2^(1/2) | whole | || (-1)! | domain | || raiz(-1) | domain |
+fi(0) | domain | || 9^9^9 | large | || 10^24575 | large | || sigprimo(10^20000) | slow |)"_s);
+        otraFila<QByteArray, QByteArray, QByteArray>(u"brackets"_s, QByteArray(2000, '('),
+                                                     "large"_ba, ""_ba);
     }
     void faults()
     {
+        const auto [expression, fault, where] = estaFila<QByteArray, QByteArray, QByteArray>();
         static const std::map<QByteArray, int> names{
             {"none", BIGNUM_NO_FAULT},        {"operand", BIGNUM_MISSING_OPERAND},
             {"misplaced", BIGNUM_MISPLACED},  {"operator", BIGNUM_MISSING_OPERATOR},
@@ -249,12 +256,10 @@ fi(0) = domain = ''  9^9^9 = large = ''  10^24575 = large = ''  sigprimo(10^2000
             {"whole", BIGNUM_NOT_WHOLE},      {"division", BIGNUM_ZERO_DIVISION},
             {"domain", BIGNUM_OUT_OF_DOMAIN}, {"large", BIGNUM_TOO_LARGE},
             {"slow", BIGNUM_TOO_SLOW}};
-        QFETCH(QByteArray, expression);
-        QFETCH(QByteArray, fault);
         int32_t start = -1;
         int32_t length = -1;
         QCOMPARE(int(QEvalFault(expression.constData(), &start, &length)), names.at(fault));
-        QTEST(expression.mid(start, length), "where");
+        QCOMPARE(expression.mid(start, length), where);
         QCOMPARE(evaluated(QEval, expression.toStdString()) == "fails", fault != "none");
     }
 

@@ -4,13 +4,6 @@
 #include "minical/windows/FormCalc.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QAbstractButton>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QTableView>
-
 /// A window of the sheet in sight, and what a user does to it by keys, mouse and buttons.
 class VentanaDePrueba
 {

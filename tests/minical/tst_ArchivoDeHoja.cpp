@@ -3,8 +3,6 @@
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QRandomGenerator>
-
 using namespace Qt::Literals::StringLiterals;
 using Motivo = FalloDeHoja::Motivo;
 Q_DECLARE_METATYPE(FalloDeHoja::Motivo)

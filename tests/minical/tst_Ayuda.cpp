@@ -3,11 +3,6 @@
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QFile>
-#include <QXmlStreamReader>
-
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// One row of a table of the page: the texts of its cells, by the headings of the columns.

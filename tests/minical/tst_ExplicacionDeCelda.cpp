@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "minical/ExplicacionDeCelda.h"
+#include "tests/Tabla.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
-#include "tests/shell/support/Tabla.h"
-
-using namespace Qt::Literals::StringLiterals;
 
 /// What the sheet says about a cell beside its text.
 class TestExplicacionDeCelda : public QObject
@@ -16,8 +14,7 @@ private Q_SLOTS:
 
     void motivos_data()
     {
-        tabla(uR"(
-            expresion | empieza
+        filasDeTexto<QString, QString>(uR"(
             empty cell | A1+C7 | C7 está vacía. || last column | Y7+1 | Y7 está vacía.
             cell with an error | A1*B1 | B1 tiene un error.
             name behind another | A12+C7 | C7 está vacía.
@@ -27,7 +24,7 @@ private Q_SLOTS:
             not closed | 2*(3+[4] | Falta cerrar «(». || not opened | 2*3) | Sobra «)»
             other kind | (2*3] | Sobra «]»
             begins with mod | mod 5 | «mod» necesita un número delante
-            blank before mod | ␣Mod 5 | «mod» necesita un número delante
+            blank before mod | " Mod 5" | «mod» necesita un número delante
             commas | mcd(12,18) | Los argumentos se separan con punto y coma
             a good comma | 1,5/0 | Divide entre 0.
             division by a cell | 1/(A1-5) | Divide entre 0.
@@ -46,8 +43,7 @@ private Q_SLOTS:
     }
     void motivos()
     {
-        QFETCH(QString, expresion);
-        QFETCH(QString, empieza);
+        const auto [expresion, empieza] = estaFila<QString, QString>();
         HojaCon hoja{{u"A1", u"5"}, {u"B1", u"("}};
         QCOMPARE(entra(hoja, u"D4", expresion), u"Error"_s);
         const QString motivo = explicacionDeCelda(hoja, en(u"D4"));
@@ -74,18 +70,17 @@ private Q_SLOTS:
 
     void longitudes_data()
     {
-        tabla(uR"(
-            expresion | explicacion
+        filasDeTexto<QString, QString>(uR"(
             empty |  | || short | 2^10 | || long | 2^4000 | Cifras: 1.205
             negative | -10^20 | Cifras: 21
             fraction | -10^20/3 | Cifras del numerador: 21 · del denominador: 1)"_s);
     }
     void longitudes()
     {
-        QFETCH(QString, expresion);
+        const auto [expresion, explicacion] = estaFila<QString, QString>();
         HojaDeCalculo hoja;
         entra(hoja, u"A1", expresion);
-        QTEST(explicacionDeCelda(hoja, en(u"A1")), "explicacion");
+        QCOMPARE(explicacionDeCelda(hoja, en(u"A1")), explicacion);
         QCOMPARE(explicacionDeCelda(hoja, Celda()), QString());
     }
 };

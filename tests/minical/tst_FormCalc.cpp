@@ -2,17 +2,10 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/ModGlobal.h"
+#include "tests/Tabla.h"
 #include "tests/minical/VentanaDePrueba.h"
-#include "tests/shell/support/Tabla.h"
 
 #include <QAbstractItemModelTester>
-#include <QClipboard>
-#include <QHeaderView>
-#include <QTabBar>
-#include <QTextBrowser>
-#include <QToolBar>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The window of the sheet by mouse and buttons: commands, precision, clipboard, help.
 class TestFormCalc : public QObject
@@ -49,8 +42,7 @@ private Q_SLOTS:
 
     void botonesYAyudas_data()
     {
-        tabla(uR"(
-            ayuda
+        filasDeTexto<QString, QString>(uR"(
             ValorDecimal | Valor decimal || Recalcular | Recalcula
             MostrarExpresiones | Mostrar las expresiones entradas
             MostrarResultados | Mostrar los resultados de las evaluaciones
@@ -58,8 +50,9 @@ private Q_SLOTS:
     }
     void botonesYAyudas()
     {
-        const auto *boton = m->elBoton(QString::fromUtf8(QTest::currentDataTag()));
-        QTEST(boton->toolTip(), "ayuda");
+        const auto [orden, ayuda] = estaFila<QString, QString>();
+        const auto *boton = m->elBoton(orden);
+        QCOMPARE(boton->toolTip(), ayuda);
         QVERIFY(!boton->icon().isNull());
     }
 
@@ -147,8 +140,7 @@ private Q_SLOTS:
 
     void precision_data()
     {
-        tabla(uR"(
-            texto | queda | mensaje
+        filasDeTexto<QString, QString, QString>(uR"(
             expression | 2*25 | 50 | || the most | 1000 | 1000 |
             one more | 1001 | 100 | El mayor número permitido es 1000
             half an expression | 2* | 100 | || fraction | 7/2 | 100 | || empty |  | 100 |
@@ -156,8 +148,7 @@ private Q_SLOTS:
     }
     void precision()
     {
-        QFETCH(QString, texto);
-        QFETCH(QString, mensaje);
+        const auto [texto, queda, mensaje] = estaFila<QString, QString, QString>();
         InstalaAvisoDeCota([](const QString &cota) {
             interlocutor().avisa(nullptr, Interlocutor::Icono::Informacion,
                                  u"El mayor número permitido es "_s + cota, {});
@@ -165,7 +156,7 @@ private Q_SLOTS:
         QCOMPARE(m->campo(u"txtPrecisión"_s)->text(), u"100"_s);
         m->campo(u"txtPrecisión"_s)->setText(texto);
         m->boton(u"ValidarPrecisión"_s);
-        QTEST(QString::number(Sesión().Precisión()), "queda");
+        QCOMPARE(QString::number(Sesión().Precisión()), queda);
         QCOMPARE(Entorno::grabadora().mensajes.size(), mensaje.isEmpty() ? 0 : 1);
         QCOMPARE(Entorno::grabadora().mensajes.value(0).texto, mensaje);
     }

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/Tabla.h"
 #include "tests/minical/VentanaDePrueba.h"
-#include "tests/shell/support/Tabla.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
 using Guardado = Interlocutor::Guardado;
@@ -144,10 +140,13 @@ private Q_SLOTS:
 
     /// What was not saved when the window went is offered by the next one, and back if it is
     /// wanted.
-    void laCopiaVuelve_data() { tabla(u"que\nrecovered|recupera\ndiscarded|descarta"_s); }
+    void laCopiaVuelve_data()
+    {
+        filasDeTexto<QString>(u"recovered | recupera || discarded | descarta"_s);
+    }
     void laCopiaVuelve()
     {
-        QFETCH(QString, que);
+        const QString que = estaFila<QString>();
         const bool descarta = que == u"descarta"_s;
         guarda(u"hoja.minical"_s);
         m->entra(u"A1", u"1/8"_s);

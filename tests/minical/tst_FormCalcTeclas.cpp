@@ -1,14 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/Tabla.h"
 #include "tests/minical/VentanaDePrueba.h"
-#include "tests/shell/support/Tabla.h"
-
-#include <QApplication>
-#include <QClipboard>
-#include <QLabel>
-#include <QListWidget>
-#include <QMouseEvent>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The sheet by its keys: edits in the cells and above them, and where the keys lead.
 class TestFormCalcTeclas : public QObject
@@ -52,29 +44,27 @@ private Q_SLOTS:
 
     void adondeLlevanLasTeclas_data()
     {
-        tabla(uR"(
-            teclas | destino
+        filasDeTexto<QString, QString>(uR"(
             Enter | Return | C4 || Shift+Enter | Shift+Return | C2 || Tab | Tab | D3
             Shift+Tab | Shift+Backtab | B3 || down | Down | C4 || up | Up | C2)"_s);
     }
     void adondeLlevanLasTeclas()
     {
-        QFETCH(QString, teclas);
+        const auto [teclas, destino] = estaFila<QString, QString>();
         m->ve(u"C3");
         m->teclea(u"6*7"_s);
         m->pulsa(teclas);
         QCOMPARE(m->texto(u"C3"), u"42"_s);
-        QTEST(m->actual(), "destino");
+        QCOMPARE(m->actual(), destino);
         // The same without an edit.
         m->ve(u"C3");
         m->pulsa(teclas);
-        QTEST(m->actual(), "destino");
+        QCOMPARE(m->actual(), destino);
     }
 
     void saltosConCtrl_data()
     {
-        tabla(uR"(
-            tecla | desde | hasta
+        filasDeTexto<QString, QString, QString>(uR"(
             end of the block | Down | B2 | B4 || to the next block | Down | B4 | B8
             from outside | Down | B1 | B2 || edge | Down | B8 | B99 || up | Up | B4 | B2
             right | Right | B3 | D3 || left | Left | D3 | B3 || left edge | Left | B3 | A3
@@ -82,16 +72,15 @@ private Q_SLOTS:
     }
     void saltosConCtrl()
     {
-        QFETCH(QString, tecla);
-        QFETCH(QString, desde);
+        const auto [tecla, desde, hasta] = estaFila<QString, QString, QString>();
         for (const auto *celda : {u"B2", u"B3", u"B4", u"B8", u"C3", u"D3"})
             m->entra(celda, u"1"_s);
         m->ve(desde);
         m->pulsa(u"Ctrl+"_s + tecla);
-        QTEST(m->actual(), "hasta");
+        QCOMPARE(m->actual(), hasta);
         m->ve(desde);
         m->pulsa(u"Ctrl+Shift+"_s + tecla);
-        QTEST(m->actual(), "hasta");
+        QCOMPARE(m->actual(), hasta);
         QVERIFY(m->rejilla()->selectionModel()->isSelected(m->indice(desde)));
     }
 
@@ -166,10 +155,13 @@ private Q_SLOTS:
     }
 
     /// What would make an expression too long is refused as a whole, in the cell and above it.
-    void loDemasiadoLargoSeRechaza_data() { tabla(u"donde\nin the cell|cell\nabove it|line"_s); }
+    void loDemasiadoLargoSeRechaza_data()
+    {
+        filasDeTexto<QString>(u"in the cell | cell || above it | line"_s);
+    }
     void loDemasiadoLargoSeRechaza()
     {
-        QFETCH(QString, donde);
+        const QString donde = estaFila<QString>();
         m->ve(u"A1");
         m->teclea(u"2"_s);
         auto *linea = m->campo(u"txtExpresión"_s);
@@ -189,16 +181,14 @@ private Q_SLOTS:
 
     void lasFuncionesSeOfrecen_data()
     {
-        tabla(uR"(
-            escrito | teclas | queda
+        filasDeTexto<QString, QString, QString>(uR"(
             first one | 2+MC | Tab | 2+mcd( || chosen | mc | Down Down Return | mcm(
             back up | mi | Down Up Return | min( || put away | fi | Esc | fi
             gone with the bracket | fi(7) | | fi(7) || no such name | xy | | xy)"_s);
     }
     void lasFuncionesSeOfrecen()
     {
-        QFETCH(QString, escrito);
-        QFETCH(QString, teclas);
+        const auto [escrito, teclas, queda] = estaFila<QString, QString, QString>();
         m->ve(u"A1");
         m->teclea(escrito);
         const auto *lista = m->editor()->findChild<QListWidget *>(u"lstFunciones"_s);
@@ -206,7 +196,7 @@ private Q_SLOTS:
         m->pulsa(teclas);
         QVERIFY(!lista || !lista->isVisible());
         QVERIFY(m->editor());
-        QTEST(m->editor()->text(), "queda");
+        QCOMPARE(m->editor()->text(), queda);
         // With none chosen, Enter is what it always is.
         m->pulsa(Qt::Key_Return);
         QVERIFY(!m->editor());

@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/minical/VentanaDePrueba.h"
 
-#include <QHeaderView>
-#include <QSlider>
-
-using namespace Qt::Literals::StringLiterals;
-
 /// The zoom of the current cell, and what makes it follow and what does not.
 class TestFormZoom : public QObject
 {

@@ -4,13 +4,9 @@
 #include "minical/Sustitucion.h"
 #include "minical/TextosDeHoja.h"
 #include "shell/core/run/Tareas.h"
+#include "tests/Tabla.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
-#include "tests/shell/support/Tabla.h"
-
-#include <QRandomGenerator>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -100,13 +96,12 @@ private Q_SLOTS:
 
     void expresiones_data()
     {
-        tabla(uR"(
-            expresion | muestra
+        filasDeTexto<QString, QString>(uR"(
             always over the rationals | 1/2+1/3 | 5/6 || mod, with blanks | 2 mod 3 | 2
             mod, between digits | 2mod3 | 2 || mod, in capitals and brackets | (7)MOD(3) | 1
             letter before mod | 2amod3 | Error || letter after mod | 2 modo 3 | Error
             second mod too close | 7mod3mod2 | Error || mod at the start | mod 3 | Error
-            mod alone | MOD | Error || blank | ␣␣␣ | || division by zero | 1/0 | Error
+            mod alone | MOD | Error || blank | "   " | || division by zero | 1/0 | Error
             unknown name | B7+1 | Error || name in small letters | a1+1 | Error
             does not fit | 9^9^9^9 | Error || one digit too many | 10^24575 | Error
             name used | A1*2 | 10 || name within a longer one | A12 | 10
@@ -116,9 +111,9 @@ private Q_SLOTS:
     }
     void expresiones()
     {
-        QFETCH(QString, expresion);
+        const auto [expresion, muestra] = estaFila<QString, QString>();
         HojaCon hoja{{u"A1", u"5"}, {u"C1", u"1/3"}, {u"D1", u"-4"}};
-        QTEST(entra(hoja, u"B1", expresion), "muestra");
+        QCOMPARE(entra(hoja, u"B1", expresion), muestra);
         QCOMPARE(hoja.Expresiones(1, 2), expresion);
         const bool tiene = hoja.Variables().busca(u"B1"_s) != hoja.Variables().end();
         const QString r = resultado(hoja, u"B1");
@@ -324,10 +319,13 @@ private Q_SLOTS:
 
     /// Stopped, broken off by an error or gone with its window: what had been entered can be
     /// undone.
-    void unPegadoAMedias_data() { tabla(u"como\nstopped|stop\nerror|error\ngone|gone"_s); }
+    void unPegadoAMedias_data()
+    {
+        filasDeTexto<QString>(u"stopped | stop || error | error || gone | gone"_s);
+    }
     void unPegadoAMedias()
     {
-        QFETCH(QString, como);
+        const QString como = estaFila<QString>();
         HojaDeCalculo hoja;
         int errores = 0;
         auto tareas = std::make_unique<Tareas>([&](const std::exception_ptr &) { ++errores; });

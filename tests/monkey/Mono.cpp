@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/monkey/Mono.h"
 
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
 
 #include <QAbstractButton>
@@ -14,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTest>
+#include <algorithm>
 #include <ctime>
 
 using namespace Qt::Literals::StringLiterals;
@@ -97,7 +99,7 @@ Control *Mono::alguno(QWidget *donde)
 
 QString Mono::actua()
 {
-    ++m_actos;
+    ++m_cuenta.actos;
     if (QWidget *menu = QApplication::activePopupWidget()) {
         anota(u"Escape in a menu"_s);
         QTest::keyClick(menu, Qt::Key_Escape);
@@ -133,7 +135,22 @@ void Mono::abreVentana()
 {
     const int fila = numero(m_filas + 1) - 1;
     anota(u"opens %1"_s.arg(fila));
-    m_principal->abreLeccion(fila);
+    vigila(m_principal->abreLeccion(fila));
+}
+
+/// A window is counted once, and each run that begins in it; once closed it may have none.
+void Mono::vigila(FormLeccion *leccion)
+{
+    m_abiertas.removeAll(nullptr);
+    if (m_abiertas.contains(leccion))
+        return;
+    m_abiertas << leccion;
+    ++m_cuenta.ventanas;
+    QObject::connect(leccion, &FormLeccion::descargada, leccion,
+                     [this, leccion] { m_cerradas << leccion; });
+    for (const auto *corrida : leccion->findChildren<BotonDeCorrida *>())
+        QObject::connect(corrida, &BotonDeCorrida::empezada, leccion,
+                         [this] { ++m_cuenta.corridas; });
 }
 
 void Mono::cambiaTema()
@@ -258,6 +275,12 @@ QString Mono::quéFalla() const
     const QWidget *caja = QApplication::activeModalWidget();
     if (caja && caja->parentWidget() && !caja->parentWidget()->window()->isVisible())
         return u"the box \"%1\" stands over nothing"_s.arg(caja->windowTitle());
+    for (const auto &cerrada : m_cerradas) {
+        const auto corridas =
+            cerrada ? cerrada->findChildren<BotonDeCorrida *>() : QList<BotonDeCorrida *>();
+        if (std::ranges::any_of(corridas, &BotonDeCorrida::enMarcha))
+            return u"a run goes on in %1, which was closed"_s.arg(cerrada->objectName());
+    }
     return {};
 }
 

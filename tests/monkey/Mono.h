@@ -4,6 +4,7 @@
 #include "shell/start/FormPrincipal.h"
 
 #include <QPoint>
+#include <QPointer>
 #include <QStringList>
 #include <memory>
 #include <random>
@@ -26,7 +27,14 @@ public:
     /// What it did last, the latest at the end.
     const QStringList &diario() const { return m_diario; }
 
-    int actos() const { return m_actos; }
+    /// How much it has done: acts, windows opened, runs begun.
+    struct Cuenta
+    {
+        int actos = 0;
+        int ventanas = 0;
+        int corridas = 0;
+    };
+    const Cuenta &cuenta() const { return m_cuenta; }
 
 private:
     void respondeCaja(QWidget *caja);
@@ -40,6 +48,7 @@ private:
     void cierraVentana();
     void cambiaTamano();
     void deja(int milisegundos);
+    void vigila(FormLeccion *leccion);
     QString quéFalla() const;
 
     template <typename Control>
@@ -51,5 +60,6 @@ private:
     int m_filas;
     std::mt19937 m_azar;
     QStringList m_diario;
-    int m_actos = 0;
+    Cuenta m_cuenta;
+    QList<QPointer<FormLeccion>> m_abiertas, m_cerradas;
 };

@@ -3,10 +3,6 @@
 #include "tests/monkey/Mono.h"
 #include "tests/numora/Estudiante.h"
 
-#include <QElapsedTimer>
-
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// Real boxes and questions, but nothing outside the program.
@@ -43,19 +39,22 @@ private Q_SLOTS:
         const qint64 plazo = 1000LL * ajuste("NUMORA_MONKEY_SECONDS", 10);
         QElapsedTimer reloj;
         reloj.start();
-        int actos = 0;
+        Mono::Cuenta suma;
         for (unsigned vida = 0; reloj.elapsed() < plazo; ++vida) {
             Mono mono(contenidoDelPrograma(), semilla * 1000 + vida);
             QString mal;
-            while (mal.isEmpty() && mono.actos() < 400 && reloj.elapsed() < plazo)
+            while (mal.isEmpty() && mono.cuenta().actos < 400 && reloj.elapsed() < plazo)
                 mal = mono.actua();
             if (mal.isEmpty())
                 mal = mono.recoge();
-            actos += mono.actos();
+            suma.actos += mono.cuenta().actos;
+            suma.ventanas += mono.cuenta().ventanas;
+            suma.corridas += mono.cuenta().corridas;
             QVERIFY2(mal.isEmpty(),
                      qPrintable(mal + u"\nafter:\n  "_s + mono.diario().join(u"\n  "_s)));
         }
-        qInfo("seed %u: %d acts in %lld s", semilla, actos, reloj.elapsed() / 1000);
+        qInfo("seed %u: %lld s, %d acts, %d windows, %d runs", semilla, reloj.elapsed() / 1000,
+              suma.actos, suma.ventanas, suma.corridas);
     }
 };
 

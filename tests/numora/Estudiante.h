@@ -5,9 +5,6 @@
 #include "shell/core/clsSesion.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 /// A student in a working folder of their own, with a good key and a mailbox, so that the topics
 /// that come and go are there.
 class Estudiante
@@ -15,7 +12,6 @@ class Estudiante
 public:
     Estudiante()
     {
-        using namespace Qt::Literals::StringLiterals;
         for (const QString &parte : {u"ClipArt"_s, u"Doc"_s})
             QFile::link(Entorno::carpetaDeTrabajo() + u'/' + parte, m_carpeta.filePath(parte));
     }
@@ -23,7 +19,6 @@ public:
     /// Settings, language and key as new.
     void prepara() const
     {
-        using namespace Qt::Literals::StringLiterals;
         Entorno::limpia();
         Sesión().ponCarpeta(m_carpeta.path());
         ClsRSA clave(Sesión());

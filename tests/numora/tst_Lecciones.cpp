@@ -6,16 +6,6 @@
 #include "shell/start/FormPrincipal.h"
 #include "tests/numora/Estudiante.h"
 
-#include <QAbstractButton>
-#include <QAccessible>
-#include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTabBar>
-#include <QTabWidget>
-
-using namespace Qt::Literals::StringLiterals;
-
 /// What every lesson owes its users, whatever it teaches: seen on each topic of each window of the
 /// program, in both its languages.
 class TestLecciones : public QObject

@@ -7,15 +7,6 @@
 #include "shell/start/FormPrincipal.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QAction>
-#include <QDirIterator>
-#include <QLabel>
-#include <QTabBar>
-
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// The key under which a text stands in Numora.txt.

@@ -5,15 +5,9 @@
 #include "shell/start/Main.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QDir>
-#include <QLabel>
-#include <QPushButton>
-#include <QTimer>
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

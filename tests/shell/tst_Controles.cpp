@@ -9,17 +9,7 @@
 #include "tests/shell/support/Contraste.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QStandardItemModel>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -6,16 +6,7 @@
 #include "shell/start/FormPrincipal.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QDir>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QScopeGuard>
-#include <QTabBar>
-#include <QVBoxLayout>
 #include <stdexcept>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -10,19 +10,8 @@
 #include "shell/start/TarjetasDeLecciones.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QAction>
-#include <QLineEdit>
-#include <QListView>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QSessionManager>
 #include <csignal>
 #include <cstddef>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -2,11 +2,7 @@
 #include "shell/plot/Grafica.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QLabel>
 #include <QSignalSpy>
-#include <QWheelEvent>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The plot: what it shows of the plane, and what follows the pointer.
 class TestGrafica : public QObject

@@ -2,16 +2,6 @@
 #include "shell/frame/Evento.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QDesktopServices>
-#include <QDialogButtonBox>
-#include <QDir>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTreeView>
-#include <QUrl>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;

@@ -5,7 +5,6 @@
 #include "shell/look/TextosDeQt.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QFile>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;

@@ -3,11 +3,6 @@
 #include "shell/page/NavegadorPagina.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QScrollBar>
-#include <QTextBlock>
-
-using namespace Qt::Literals::StringLiterals;
-
 /// The browser of introductions, with a page of the program in it.
 class TestNavegadorPagina : public QObject
 {

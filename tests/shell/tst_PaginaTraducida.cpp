@@ -6,10 +6,6 @@
 #include "shell/page/NavegadorPagina.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QDir>
-
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 class FormConPagina : public FormLeccion

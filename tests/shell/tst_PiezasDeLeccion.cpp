@@ -7,14 +7,7 @@
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>
-#include <QLabel>
-#include <QLineEdit>
-#include <QLocale>
-#include <QPushButton>
-#include <QScopeGuard>
 #include <cmath>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// Small pieces that lessons are built of.
 class TestPiezasDeLeccion : public QObject
@@ -118,8 +111,9 @@ private Q_SLOTS:
         auto *comprobar = control<QPushButton>(&panel, u"cmdComprobar_1"_s);
         respuesta->setText(u"   "_s);
         comprobar->click();
-        QCOMPARE(veredicto->text(), QString());
+        QCOMPARE(veredicto->text(), u"Escriba una respuesta."_s);
         respuesta->setText(u" 6 "_s);
+        QCOMPARE(control<QLabel>(&panel, u"lblLeido_1"_s)->text(), u"leo 6"_s);
         comprobar->click();
         QCOMPARE(veredicto->text(), u"✓ Palabra: 6"_s);
         QCOMPARE(control<QLabel>(&panel, u"lblVeredicto_0"_s)->text(), QString());
@@ -135,7 +129,11 @@ private Q_SLOTS:
         // What the lessons print can be given as an answer.
         respuesta->setText(u" 2 · F(11) − F (3)×fib(4) "_s);
         comprobar->click();
-        QCOMPARE(veredicto->text(), u"✗ Palabra: 2 * fib(11) - fib(3)*fib(4)"_s);
+        QCOMPARE(veredicto->text(), u"✗ Palabra: 172"_s);
+        // What cannot be read is named, and neither right nor wrong.
+        respuesta->setText(u"seis"_s);
+        comprobar->click();
+        QCOMPARE(veredicto->text(), u"No se ha juzgado: no entiendo «seis»."_s);
     }
 
     void otraCuestionEsOtra()

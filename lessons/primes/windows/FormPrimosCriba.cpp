@@ -113,11 +113,12 @@ void FormPrimosCriba::ponEnMarcha()
 Tarea<PrimosDelServicio> FormPrimosCriba::criba(std::int32_t limite, Billete billete,
                                                 std::function<void(int porcentaje)> avance)
 {
-    const auto esta = m_criba = std::make_shared<CribaSegmentada>();
-    co_await esta->criba(limite, billete, std::move(avance));
-    const auto primos = esta->primos();
-    co_return PrimosDelServicio{static_cast<std::int32_t>(primos.size()),
-                                {primos.begin(), primos.end()}};
+    CribaSegmentada esta;
+    co_await esta.criba(limite, billete, std::move(avance));
+    PrimosDelServicio lista;
+    lista.numeros = esta.entregaPrimos();
+    lista.cuantos = static_cast<std::int32_t>(lista.numeros.size());
+    co_return lista;
 }
 
 void FormPrimosCriba::muestraPrimos(PrimosDelServicio lista, bool detenida)

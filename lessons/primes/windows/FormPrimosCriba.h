@@ -8,7 +8,6 @@
 #include <QWidget>
 #include <memory>
 
-class CribaSegmentada;
 class FormLeccion;
 class ModeloPrimos;
 namespace Ui {
@@ -41,6 +40,5 @@ private:
     FormLeccion *m_leccion;
     ModeloPrimos *m_modelo;
     BotonDeCorrida *m_boton;
-    std::shared_ptr<CribaSegmentada> m_criba; ///< the last sieve, kept between runs
     TareasDeVentana m_tareas;
 };

@@ -176,6 +176,26 @@ RespuestaLeida leeLista(const QString &expresion)
     return leida(numeros, enParentesis(numeros));
 }
 
+RespuestaLeida leeSuma(const QString &expresion)
+{
+    QStringList numeros;
+    QString sumando;
+    int hondo = 0;
+    for (const QChar c : QString(expresion + u'+')) {
+        hondo += c == u'(' ? 1 : c == u')' ? -1 : 0;
+        if (hondo > 0 || c != u'+') {
+            sumando += c;
+            continue;
+        }
+        const auto valor = entero(sumando);
+        if (!valor || numeros.size() == MasNumeros)
+            return noEntendida(sumando.trimmed());
+        numeros << *valor;
+        sumando.clear();
+    }
+    return leida(numeros, numeros.join(u" + "_s));
+}
+
 bool menorEnCifras(const QString &a, const QString &b)
 {
     return a.size() != b.size() ? a.size() < b.size() : a < b;
@@ -268,6 +288,8 @@ RespuestaLeida leeSegun(const FormaDeRespuesta &forma, const QString &texto)
         return leeUno(expresion, texto);
     case FormaDeRespuesta::Lista:
         return leeLista(expresion);
+    case FormaDeRespuesta::Suma:
+        return leeSuma(expresion);
     case FormaDeRespuesta::Producto:
         return leeProducto(expresion);
     case FormaDeRespuesta::Solucion:

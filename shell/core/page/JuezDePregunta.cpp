@@ -27,18 +27,14 @@ Juicio juicio(bool acertada)
 
 } // namespace
 
-Juez juezDePregunta(const QString &esperada)
+Juicio juzgaPregunta(const QString &esperada, const QString &respuesta)
 {
     if (const auto cierta = leeSiNo(esperada)) {
-        return [cierta = *cierta](const QString &respuesta) -> Juicio {
-            const auto dicha = leeSiNo(respuesta);
-            return dicha ? juicio(*dicha == cierta)
-                         : Juicio{false, Traduce(u"La respuesta es sí o no."_s)};
-        };
+        const auto dicha = leeSiNo(respuesta);
+        return dicha ? juicio(*dicha == *cierta)
+                     : Juicio{false, Traduce(u"La respuesta es sí o no."_s), false};
     }
     const auto valor = calculaEntero(esperada);
-    if (!valor)
-        return {};
-    return juezDeEnteros(
-        [valor = *valor](const QString &respuesta) { return juicio(respuesta == valor); });
+    return Cuestion{{}, {}, [&](const QString &leida) { return juicio(leida == valor); }}.juzga(
+        respuesta);
 }

@@ -3,7 +3,7 @@
 
 #include "shell/core/Cuestion.h"
 
-/// The judge of a question of a page, made of the answer that the page holds: an expression for a
-/// whole number, or "sí", "no", "yes", which are understood in every language. No judge for an
-/// answer that is neither.
-Juez juezDePregunta(const QString &esperada);
+/// Judges the answer to a question of a page by the one that the page holds: an expression for a
+/// whole number, or "sí", "no", "yes", which are understood in every language. Throws what Evalua
+/// throws.
+Juicio juzgaPregunta(const QString &esperada, const QString &respuesta);

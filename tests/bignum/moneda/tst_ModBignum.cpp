@@ -4,20 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "bignum/gateway/Windows1252.h"
 
-#include "../TextTable.h"
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-/// A column of the row under test.
-QString enTexto(const char *columna)
-{
-    return QString::fromUtf8(
-        *static_cast<QByteArray *>(QTest::qData(columna, qMetaTypeId<QByteArray>())));
-}
-
-} // namespace
+#include "tests/Tabla.h"
 
 class TestModBignum : public QObject
 {
@@ -33,20 +20,19 @@ private Q_SLOTS:
 
     void mod_data()
     {
-        addTable({"texto", "reescrito", "valor"}, R"(
-7 mod 3 = 7 % 3 = 1  2mod3 = 2%3 = 2  (7)MOD(3) = (7)%(3) = 1  7 mod = 7 % = Error
-letters:  2amod3 = 2amod3 = Error  2 modo 3 = 2 modo 3 = Error
-two:  7mod3mod2 = 7%3mod2 = Error  77mod30 mod2 = 77%30 %2 = 1
-(57666)^(26829) mod (67591) = (57666)^(26829) % (67591) = 72)");
-        QTest::newRow("line break") << "7\r\nmod\r\n3"_ba
-                                    << "7\r\n%\r\n3"_ba
-                                    << "1"_ba;
+        filasDeTexto<QString, QString, QString>(uR"(
+7 mod 3 | 7 % 3 | 1 || 2mod3 | 2%3 | 2 || (7)MOD(3) | (7)%(3) | 1 || 7 mod | 7 % | Error
+letters: || 2amod3 | 2amod3 | Error || 2 modo 3 | 2 modo 3 | Error
+two: || 7mod3mod2 | 7%3mod2 | Error || 77mod30 mod2 | 77%30 %2 | 1
+(57666)^(26829) mod (67591) | (57666)^(26829) % (67591) | 72)"_s);
+        otraFila<QString, QString, QString>(u"line break"_s, u"7\r\nmod\r\n3"_s, u"7\r\n%\r\n3"_s,
+                                            u"1"_s);
     }
     void mod()
     {
-        QString texto = enTexto("texto");
-        QCOMPARE(Evalua(texto), enTexto("valor"));
-        QCOMPARE(texto, enTexto("reescrito"));
+        auto [texto, reescrito, valor] = estaFila<QString, QString, QString>();
+        QCOMPARE(Evalua(texto), valor);
+        QCOMPARE(texto, reescrito);
     }
 
     void modAlPrincipio()
@@ -65,16 +51,16 @@ two:  7mod3mod2 = 7%3mod2 = Error  77mod30 mod2 = 77%30 %2 = 1
 
     void evalua_data()
     {
-        addTable({"texto", "racional", "entero"}, R"(
-'' = ''  -3+1 = -2  7/2 = 7/2 = 3  1)+(2 = 3  1+日 = Error  raíz(17) = 4)");
-        QTest::newRow("blanks") << " \t "_ba
-                                << ""_ba
-                                << ""_ba;
+        filasDeTexto<QString, QString, QString>(uR"(
+ |  | || -3+1 | -2 | -2 || 7/2 | 7/2 | 3 || 1)+(2 | 3 | 3 || 1+日 | Error | Error
+raíz(17) | 4 | 4)"_s);
+        otraFila<QString, QString, QString>(u"blanks"_s, u" \t "_s, QString(), QString());
     }
     void evalua()
     {
-        QCOMPARE(Evalua(enTexto("texto")), enTexto("racional"));
-        QCOMPARE(Evalua(enTexto("texto"), {}, Aritmetica::Entera), enTexto("entero"));
+        const auto [texto, racional, entero] = estaFila<QString, QString, QString>();
+        QCOMPARE(Evalua(QString(texto)), racional);
+        QCOMPARE(Evalua(QString(texto), {}, Aritmetica::Entera), entero);
     }
 
     void cotas()
@@ -94,16 +80,16 @@ two:  7mod3mod2 = 7%3mod2 = Error  77mod30 mod2 = 77%30 %2 = 1
     void evaluaMoneda_data()
     {
         // A fraction wants two digits, or a sign and one; the last but one reaches the bound.
-        addTable({"texto", "diezmilesimas"}, R"(
-2^10 = 10240000  49/4 = 122500  1/2 = 0  -7/2 = -35000  '' = 0  2+ = 0
-1000001/10 = 0  1000000/10 = 1000000000)");
+        filasDeTexto<QString, QString>(uR"(
+2^10 | 10240000 || 49/4 | 122500 || 1/2 | 0 || -7/2 | -35000 ||  | 0 || 2+ | 0
+1000001/10 | 0 || 1000000/10 | 1000000000)"_s);
     }
     void evaluaMoneda()
     {
-        QString texto = enTexto("texto");
+        auto [texto, diezmilesimas] = estaFila<QString, QString>();
         const Moneda cota = Moneda::deDiezmilesimas(1'000'000'500);
         const auto valor = EvaluaMoneda(texto, cota).diezmilesimas();
-        QCOMPARE(QString::number(valor), enTexto("diezmilesimas"));
+        QCOMPARE(QString::number(valor), diezmilesimas);
         QCOMPARE(m_avisos, texto == u"1000001/10"_s ? QStringList{u"100000,05"_s} : QStringList());
     }
 

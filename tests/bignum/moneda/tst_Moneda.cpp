@@ -3,12 +3,10 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/Moneda.h"
 
-#include "../TextTable.h"
+#include "tests/Tabla.h"
 
 #include <limits>
 #include <random>
-
-using namespace Qt::Literals::StringLiterals;
 
 class TestMoneda : public QObject
 {
@@ -17,20 +15,20 @@ class TestMoneda : public QObject
 private Q_SLOTS:
     void texto_data()
     {
-        addTable({"texto", "diezmilesimas"}, R"(
-97 = 970000  -1,5 = -15000  .5 = 5000
-halves:  0,00005 = 0  0,00015 = 2  -0,00025 = -2  0,00005000000000000000001 = 1
-ends:  922337203685477,5807 = 9223372036854775807  -922337203685477,5808 = -9223372036854775808)");
-        QTest::newRow("third") << "0,"_ba + QByteArray(100, '3') << "3333"_ba;
-        QTest::newRow("blanks") << " -1,5 "_ba
-                                << "-15000"_ba;
+        filasDeTexto<QString, QString>(uR"(
+97 | 970000 || -1,5 | -15000 || .5 | 5000
+halves: || 0,00005 | 0 || 0,00015 | 2 || -0,00025 | -2 || 0,00005000000000000000001 | 1
+ends: || 922337203685477,5807 | 9223372036854775807
+ends: || -922337203685477,5808 | -9223372036854775808)"_s);
+        otraFila<QString, QString>(u"third"_s, u"0,"_s + QString(100, u'3'), u"3333"_s);
+        otraFila<QString, QString>(u"blanks"_s, u" -1,5 "_s, u"-15000"_s);
     }
     void texto()
     {
-        QFETCH(QByteArray, texto);
-        const auto valor = Moneda::deTexto(QString::fromUtf8(texto));
+        const auto [texto, diezmilesimas] = estaFila<QString, QString>();
+        const auto valor = Moneda::deTexto(texto);
         QVERIFY(valor);
-        QTEST(QByteArray::number(qint64(valor->diezmilesimas())), "diezmilesimas");
+        QCOMPARE(QString::number(qint64(valor->diezmilesimas())), diezmilesimas);
         QCOMPARE(Moneda::deTexto(valor->texto()), valor);
     }
 

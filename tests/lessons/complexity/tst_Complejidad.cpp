@@ -6,15 +6,11 @@
 #include "lessons/complexity/GeometriaHanoi.h"
 #include "lessons/complexity/TorresHanoi.h"
 #include "shell/core/MejorDeVarias.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QRegularExpression>
-#include <QSet>
 #include <algorithm>
 #include <cmath>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The logic of the lesson on recursion and complexity.
 class TestComplejidad : public QObject
@@ -176,12 +172,12 @@ private Q_SLOTS:
             last calls               | L89          | no  | no hacen otras
             calls, other             | L100         | no  | L(n)
             calls, beyond 64 bits    | L10^30       | no  | L(n)
-            calls, no number         | Lmuchas      | no  | entero
+            calls, no number         | Lmuchas      | no  | «muchas»
             moves                    | H2^7         | yes | doble
             all moves                | H1023        | no  | todos
             discs from the other end | H4           | no  | revés
             moves, other             | H127         | no  | mayor
-            moves, fraction          | H1/3         | no  | entero)"_s);
+            moves, fraction          | H1/3         | no  | «1/3»)"_s);
     }
     void cuestiones()
     {

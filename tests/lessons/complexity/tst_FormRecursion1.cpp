@@ -2,32 +2,16 @@
 #include "lessons/complexity/windows/FormRecursion1.h"
 #include "lessons/complexity/windows/FormRecursion1DibujoArbol.h"
 #include "shell/plot/Grafica.h"
-#include "tests/lessons/Tabla.h"
-#include "tests/shell/support/Entorno.h"
-
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QRegularExpression>
-#include <QSlider>
-#include <QSpinBox>
-#include <QTableView>
-
-using namespace Qt::Literals::StringLiterals;
+#include "tests/Tabla.h"
+#include "tests/lessons/VentanaDeLeccion.h"
 
 /// The lesson on recursion and complexity, by its controls.
-class TestFormRecursion1 : public QObject
+class TestFormRecursion1 : public QObject, private VentanaDeLeccion<FormRecursión1>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        Entorno::limpia();
-        m_ventana = std::make_unique<FormRecursión1>();
-    }
+    void init() { abre(); }
     void cleanup() { m_ventana.reset(); }
 
     void alAbrir()
@@ -45,8 +29,8 @@ private Q_SLOTS:
         QCOMPARE(celda(u"FlexMedidas"_s, 13, 2), u"1.219"_s);
         QCOMPARE(celda(u"FlexMedidas"_s, 13, 4), u"27"_s);
         QCOMPARE(celda(u"FlexMedidas"_s, 13, 6), u"13"_s);
-        control<QRadioButton>(m_ventana.get(), u"optLlamadas"_s)->click();
-        auto *grafica = control<Grafica>(m_ventana.get(), u"PicCrecimiento"_s);
+        el<QRadioButton>(u"optLlamadas"_s)->click();
+        auto *grafica = el<Grafica>(u"PicCrecimiento"_s);
         QCOMPARE(grafica->encuadre().visible(), QRectF(0, 0, 14, 4));
         // Calls are counted, so that their fit is the same on every machine: nearly φ.
         QVERIFY2(texto(u"lblAjuste"_s).contains(u"1,62"_s), qPrintable(texto(u"lblAjuste"_s)));
@@ -71,7 +55,7 @@ private Q_SLOTS:
         QVERIFY(texto(u"lblAvance"_s).startsWith(u"✗"_s));
         QCOMPARE(Entorno::grabadora().mensajes.size(), aviso ? 1 : 0);
         Entorno::grabadora().mensajes.clear();
-        control<QLineEdit>(m_ventana.get(), u"TxtHasta"_s)->setText(u"5"_s);
+        campo(u"TxtHasta"_s)->setText(u"5"_s);
         QCOMPARE(texto(u"lblAvance"_s), QString());
     }
 
@@ -92,7 +76,7 @@ private Q_SLOTS:
     /// Started again and stopped at once: no mark is left on the plot whose row is gone.
     void otraMedidaSeLlevaLaGrafica()
     {
-        auto *grafica = control<Grafica>(m_ventana.get(), u"PicCrecimiento"_s);
+        auto *grafica = el<Grafica>(u"PicCrecimiento"_s);
         mideHastaElFinal(u"5"_s);
         QTest::keyClick(grafica, Qt::Key_Right);
         QVERIFY(!texto(u"lblPunto"_s).isEmpty());
@@ -127,8 +111,8 @@ private Q_SLOTS:
 
     void arbolDeLlamadas()
     {
-        auto *n = control<QSpinBox>(m_ventana.get(), u"SpinN"_s);
-        auto *hechas = control<QSlider>(m_ventana.get(), u"sldLlamadas"_s);
+        auto *n = el<QSpinBox>(u"SpinN"_s);
+        auto *hechas = el<QSlider>(u"sldLlamadas"_s);
         n->setValue(5);
         QCOMPARE(hechas->maximum(), 15);
         QCOMPARE(texto(u"lblLlamada"_s), u"Llamada 15 de 15: F(1), se vuelve a calcular."_s);
@@ -138,7 +122,7 @@ private Q_SLOTS:
         QCOMPARE(texto(u"lblLlamada"_s), u"Llamada 7 de 15: F(1), se vuelve a calcular."_s);
         hechas->setValue(0);
         QVERIFY(!texto(u"lblLlamada"_s).contains(u"F("_s));
-        control<QCheckBox>(m_ventana.get(), u"chkMemoria"_s)->click();
+        el<QCheckBox>(u"chkMemoria"_s)->click();
         QCOMPARE(hechas->maximum(), 9);
         QCOMPARE(texto(u"lblLlamada"_s), u"Llamada 9 de 9: F(3), estaba en la memoria."_s);
         QVERIFY(texto(u"lblLeyenda"_s).startsWith(u"9 llamadas, de las que 3 "_s));
@@ -157,13 +141,13 @@ private Q_SLOTS:
     void leyendasDelArbol()
     {
         const auto [n, leyenda] = estaFila<int, QString>();
-        control<QSpinBox>(m_ventana.get(), u"SpinN"_s)->setValue(n);
+        el<QSpinBox>(u"SpinN"_s)->setValue(n);
         QCOMPARE(texto(u"lblLeyenda"_s), leyenda);
     }
 
     void torresDeHanoi()
     {
-        auto *discos = control<QSpinBox>(m_ventana.get(), u"SpinDiscos"_s);
+        auto *discos = el<QSpinBox>(u"SpinDiscos"_s);
         discos->setValue(1);
         QCOMPARE(texto(u"lblMovimiento"_s), u"Con un disco basta un movimiento."_s);
         discos->setValue(3);
@@ -173,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(texto(u"lblMovimiento"_s).startsWith(u"Movimiento 2: el disco 2 pasa de A a B."_s));
         pulsa(u"cmdAnterior"_s);
         QCOMPARE(filas(u"FlexMovimientos"_s), 1);
-        control<QSlider>(m_ventana.get(), u"sldVelocidad"_s)->setValue(10);
+        el<QSlider>(u"sldVelocidad"_s)->setValue(10);
         pulsa(u"cmdMover"_s);
         QCOMPARE(boton(u"cmdMover"_s)->toolTip(), u"Detener los movimientos"_s);
         QTRY_COMPARE(filas(u"FlexMovimientos"_s), 7);
@@ -199,7 +183,7 @@ private Q_SLOTS:
         static const QRegularExpression datos(u"con (\\d+) discos.*disco (\\d+)"_s);
         const auto hallado = datos.match(texto(u"lblEnunciado_1"_s));
         QVERIFY(hallado.hasMatch());
-        control<QLineEdit>(m_ventana.get(), u"txtRespuesta_1"_s)
+        campo(u"txtRespuesta_1"_s)
             ->setText(u"2^(%1-%2)"_s.arg(hallado.captured(1), hallado.captured(2)));
         pulsa(u"cmdComprobar_1"_s);
         QVERIFY(texto(u"lblVeredicto_1"_s).startsWith(u"✓"_s));
@@ -217,12 +201,6 @@ private Q_SLOTS:
     }
 
 private:
-    QPushButton *boton(const QString &nombre)
-    {
-        return control<QPushButton>(m_ventana.get(), nombre);
-    }
-
-    void pulsa(const QString &nombre) { boton(nombre)->click(); }
     void mideHastaElFinal(const QString &hasta)
     {
         mide(hasta);
@@ -231,24 +209,14 @@ private:
 
     void mide(const QString &hasta)
     {
-        control<QLineEdit>(m_ventana.get(), u"TxtHasta"_s)->setText(hasta);
+        campo(u"TxtHasta"_s)->setText(hasta);
         pulsa(u"cmdMedir"_s);
-    }
-    QString texto(const QString &rotulo) const
-    {
-        return control<QLabel>(m_ventana.get(), rotulo)->text();
-    }
-    const QAbstractItemModel *modelo(const QString &rejilla) const
-    {
-        return control<QTableView>(m_ventana.get(), rejilla)->model();
     }
     int filas(const QString &rejilla) const { return modelo(rejilla)->rowCount(); }
     QString celda(const QString &rejilla, int fila, int columna) const
     {
         return modelo(rejilla)->index(fila, columna).data().toString();
     }
-
-    std::unique_ptr<FormRecursión1> m_ventana;
 };
 
 NUMORA_TEST_MAIN(TestFormRecursion1)

@@ -1,47 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/congruences/windows/FormTCR.h"
-#include "shell/controls/CampoLargo.h"
-#include "shell/grid/Rejilla.h"
-#include "tests/lessons/Tabla.h"
-#include "tests/shell/support/Entorno.h"
-
-#include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QTabBar>
-#include <QTimer>
-
-using namespace Qt::Literals::StringLiterals;
+#include "tests/Tabla.h"
+#include "tests/lessons/VentanaDeLeccion.h"
 
 /// The window of the Chinese remainder theorem, by its controls.
-class TestFormTCR : public QObject
+class TestFormTCR : public QObject, private VentanaDeLeccion<FormTCR>
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        Entorno::limpia();
-        m_ventana = std::make_unique<FormTCR>();
-        m_ventana->resize(960, 600);
-        m_ventana->show();
-        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(1);
-        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
-        m_rejilla = control<Rejilla>(m_ventana.get(), u"FlexTCR"_s);
-        m_ecuaciones = control<QLineEdit>(m_ventana.get(), u"txtNumEcuaciones"_s);
-        m_solucion = control<CampoLargo>(m_ventana.get(), u"txtSol1"_s);
-        m_comprueba = control<QPushButton>(m_ventana.get(), u"cmdSol1"_s);
-        m_plantea = control<QPushButton>(m_ventana.get(), u"cmdProblema1"_s);
-        m_resuelve = control<QPushButton>(m_ventana.get(), u"cmdResolver1"_s);
+        abre({960, 600});
+        abreTema(1);
+        m_rejilla = rejilla(u"FlexTCR"_s);
+        m_ecuaciones = campo(u"txtNumEcuaciones"_s);
+        m_solucion = el<CampoLargo>(u"txtSol1"_s);
+        m_comprueba = boton(u"cmdSol1"_s);
+        m_plantea = boton(u"cmdProblema1"_s);
+        m_resuelve = boton(u"cmdResolver1"_s);
     }
     void cleanup() { m_ventana.reset(); }
 
     void alAbrir()
     {
         QVERIFY(m_ventana->URL().endsWith(u"\\Doc\\TCR.html"_s));
-        QVERIFY(!control<QTimer>(m_ventana.get(), u"TimerTCR"_s)->isActive());
+        QVERIFY(!el<QTimer>(u"TimerTCR"_s)->isActive());
         QVERIFY(!m_comprueba->icon().isNull());
         QCOMPARE(m_rejilla->model()->headerData(0, Qt::Horizontal).toString(), u"n da resto"_s);
         QCOMPARE(m_rejilla->model()->headerData(1, Qt::Horizontal).toString(),
@@ -110,7 +94,7 @@ private Q_SLOTS:
 
     void sinSolucion()
     {
-        const auto *aviso = control<QLabel>(m_ventana.get(), u"lblAviso"_s);
+        const auto *aviso = el<QLabel>(u"lblAviso"_s);
         escribe({u"1"_s, u"6"_s, u"8"_s, u"10"_s});
         m_resuelve->click();
         QCOMPARE(m_solucion->text(), u"Error"_s);
@@ -182,7 +166,6 @@ private:
             m_rejilla->model()->setData(celda(fila + i / 2, i % 2), textos[i], Qt::EditRole);
     }
 
-    std::unique_ptr<FormTCR> m_ventana;
     Rejilla *m_rejilla = nullptr;
     QLineEdit *m_ecuaciones = nullptr;
     CampoLargo *m_solucion = nullptr;

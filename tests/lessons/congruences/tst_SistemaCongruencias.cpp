@@ -2,13 +2,11 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/congruences/ModeloCongruencias.h"
 #include "lessons/congruences/SistemaCongruencias.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 
 #include <QAbstractItemModelTester>
 #include <QLocale>
 #include <numeric>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/euclid/CuestionEuclides.h"
-#include "tests/lessons/Tabla.h"
-
-using namespace Qt::Literals::StringLiterals;
+#include "tests/Tabla.h"
 
 class TestCuestionEuclides : public QObject
 {

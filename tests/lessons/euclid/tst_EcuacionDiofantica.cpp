@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/euclid/EcuacionDiofantica.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/lessons/euclid/Muestras.h"
 
 #include <QLocale>
 #include <numeric>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

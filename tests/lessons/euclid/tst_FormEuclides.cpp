@@ -1,21 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/windows/FormEuclides.h"
 #include "shell/controls/ReproductorAVI.h"
-#include "shell/grid/Rejilla.h"
-#include "tests/lessons/Tabla.h"
-#include "tests/shell/support/Entorno.h"
+#include "tests/Tabla.h"
+#include "tests/lessons/VentanaDeLeccion.h"
 
 #include <QAbstractItemModelTester>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QStatusBar>
-#include <QTabBar>
-#include <QToolButton>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -38,23 +27,18 @@ QString fila(const QAbstractItemModel *modelo, int f)
 } // namespace
 
 /// The window of Euclid's algorithm, by its controls.
-class TestFormEuclides : public QObject
+class TestFormEuclides : public QObject, private VentanaDeLeccion<FormEuclides>
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        Entorno::limpia();
-        m_ventana = std::make_unique<FormEuclides>();
-        m_ventana->resize(960, 600);
-        m_ventana->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
-        m_rejilla = control<Rejilla>(m_ventana.get(), u"FlexEuclides"_s);
-        m_resultado = control<QLabel>(m_ventana.get(), u"lblExtEuclides"_s);
-        m_algoritmo = control<QToolButton>(control<QStatusBar>(m_ventana.get(), u"StatusBar"_s),
-                                           u"StatusBar_1"_s);
-        m_soluciones = control<Rejilla>(m_ventana.get(), u"FlexEcuación"_s);
+        abre({960, 600});
+        m_rejilla = rejilla(u"FlexEuclides"_s);
+        m_resultado = el<QLabel>(u"lblExtEuclides"_s);
+        m_algoritmo = control<QToolButton>(el<QStatusBar>(u"StatusBar"_s), u"StatusBar_1"_s);
+        m_soluciones = rejilla(u"FlexEcuación"_s);
         for (const Rejilla *rejilla : {m_rejilla, m_soluciones})
             new QAbstractItemModelTester(rejilla->model(), m_ventana.get());
     }
@@ -160,7 +144,7 @@ private Q_SLOTS:
     {
         const auto [reducidos, texto, aviso, fila1, motivo] =
             estaFila<bool, QString, QString, QString, QString>();
-        const auto *rotulo = control<QLabel>(m_ventana.get(), u"lblAviso"_s);
+        const auto *rotulo = el<QLabel>(u"lblAviso"_s);
         m_ventana->ponRestosReducidos(reducidos);
         edita(2, texto);
         QCOMPARE(fila(m_rejilla->model(), 0), fila1);
@@ -197,8 +181,8 @@ private Q_SLOTS:
     void ecuacionAlEscribir()
     {
         abreTema(2);
-        const auto *cuenta = control<QLabel>(m_ventana.get(), u"lblSoluciones"_s);
-        const auto *general = control<QPlainTextEdit>(m_ventana.get(), u"TxtSoluciones"_s);
+        const auto *cuenta = el<QLabel>(u"lblSoluciones"_s);
+        const auto *general = el<QPlainTextEdit>(u"TxtSoluciones"_s);
         QTest::keyClicks(campo(u"txtNº_0"_s), u"6"_s);
         QCOMPARE(cabecera(m_soluciones->model()).join(u'|'),
                  u"Sol. Nº|Nº de billetes de 6|y billetes de importe b"_s);
@@ -239,7 +223,7 @@ private Q_SLOTS:
         QVERIFY2(mensaje.texto.startsWith(u"Desbordamiento.\nEl primer valor de k"_s),
                  qPrintable(mensaje.texto));
         QCOMPARE(m_soluciones->model()->rowCount(), 0);
-        QCOMPARE(control<QLabel>(m_ventana.get(), u"lblSoluciones"_s)->text(), u"Soluciones"_s);
+        QCOMPARE(texto(u"lblSoluciones"_s), u"Soluciones"_s);
     }
 
     void cuestiones_data()
@@ -255,9 +239,9 @@ private Q_SLOTS:
         campo(u"txtP1_0"_s)->setText(u"34"_s);
         campo(u"txtP1_1"_s)->setText(u"21"_s);
         campo(u"TxtN"_s)->setText(n);
-        control<QPushButton>(m_ventana.get(), u"cmdProblema"_s)->click();
-        const auto *animacion = control<ReproductorAVI>(m_ventana.get(), u"ccrpAnimation"_s);
-        const auto *veredicto = control<QLabel>(m_ventana.get(), u"lblVeredicto"_s);
+        pulsa(u"cmdProblema"_s);
+        const auto *animacion = el<ReproductorAVI>(u"ccrpAnimation"_s);
+        const auto *veredicto = el<QLabel>(u"lblVeredicto"_s);
         QCOMPARE(animacion->estado(), ReproductorAVI::Reproduciendo);
         QCOMPARE(veredicto->text(), palabra);
         campo(u"TxtN"_s)->setText(u"1"_s);
@@ -267,21 +251,11 @@ private Q_SLOTS:
     void demasiadasIteraciones()
     {
         campo(u"TxtN"_s)->setText(u"101"_s);
-        control<QPushButton>(m_ventana.get(), u"cmdProblema"_s)->click();
+        pulsa(u"cmdProblema"_s);
         QCOMPARE(Entorno::grabadora().unico().texto, u"El mayor número permitido es 100"_s);
     }
 
 private:
-    QLineEdit *campo(const QString &nombre) const
-    {
-        return control<QLineEdit>(m_ventana.get(), nombre);
-    }
-
-    void abreTema(int indice)
-    {
-        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(indice);
-    }
-
     QLineEdit *editor() const { return m_rejilla->viewport()->findChild<QLineEdit *>(); }
 
     /// Opens the editor of a cell of the first row as the F2 key does.
@@ -315,7 +289,6 @@ private:
         campo(u"txtNº_2"_s)->setText(c);
     }
 
-    std::unique_ptr<FormEuclides> m_ventana;
     Rejilla *m_rejilla = nullptr, *m_soluciones = nullptr;
     QLabel *m_resultado = nullptr;
     QToolButton *m_algoritmo = nullptr;

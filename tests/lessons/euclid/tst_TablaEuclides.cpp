@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/TablaEuclides.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/lessons/euclid/Muestras.h"
 
 #include <QLocale>
 #include <numeric>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

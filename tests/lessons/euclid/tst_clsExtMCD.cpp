@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/clsExtMCD.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/lessons/euclid/Muestras.h"
 
 #include <numeric>
-
-using namespace Qt::Literals::StringLiterals;
 
 class TestClsExtMCD : public QObject
 {

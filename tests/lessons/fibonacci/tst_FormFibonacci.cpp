@@ -2,40 +2,25 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/fibonacci/Zeckendorf.h"
 #include "lessons/fibonacci/windows/FormFibonacci.h"
-#include "shell/controls/CampoLargo.h"
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/plot/Grafica.h"
-#include "tests/lessons/Tabla.h"
-#include "tests/shell/support/Entorno.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QRegularExpression>
-#include <QSet>
-#include <QTableView>
-
-using namespace Qt::Literals::StringLiterals;
+#include "tests/Tabla.h"
+#include "tests/lessons/VentanaDeLeccion.h"
 
 /// The lesson on the Fibonacci numbers, by its controls.
-class TestFormFibonacci : public QObject
+class TestFormFibonacci : public QObject, private VentanaDeLeccion<FormFibonacci>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        Entorno::limpia();
-        m_ventana = std::make_unique<FormFibonacci>();
-    }
+    void init() { abre(); }
     void cleanup() { m_ventana.reset(); }
 
     void valores()
     {
         QSet<QString> reglas;
         for (const QString &metodo : {u"optMetodo_0"_s, u"optMetodo_1"_s, u"optMetodo_2"_s}) {
-            control<QRadioButton>(m_ventana.get(), metodo)->click();
+            el<QRadioButton>(metodo)->click();
             reglas << texto(u"lblRegla"_s);
             calcula(u"5*4"_s);
             QCOMPARE(largo(u"txtValor"_s), u"6765"_s);
@@ -57,7 +42,7 @@ private Q_SLOTS:
     void unIndiceFueraDeSitio()
     {
         const auto [metodo, n, cota] = estaFila<QString, QString, QString>();
-        control<QRadioButton>(m_ventana.get(), metodo)->click();
+        el<QRadioButton>(metodo)->click();
         calcula(n);
         QVERIFY(texto(u"lblAviso"_s).startsWith(u"✗"_s));
         QCOMPARE(columna(u"FlexComparacion"_s, 0), QString());
@@ -72,7 +57,7 @@ private Q_SLOTS:
 
     void seDetiene()
     {
-        control<QRadioButton>(m_ventana.get(), u"optMetodo_0"_s)->click();
+        el<QRadioButton>(u"optMetodo_0"_s)->click();
         escribe(u"TxtN"_s, u"50"_s);
         pulsa(u"cmdCalcular"_s);
         QCOMPARE(boton(u"cmdCalcular"_s)->toolTip(), u"Detener cálculo"_s);
@@ -129,7 +114,7 @@ private Q_SLOTS:
         pulsa(boton);
         QVERIFY(!hayAlgo());
         // Nothing is left to point at.
-        QTest::keyClick(control<Grafica>(m_ventana.get(), u"PicError"_s), Qt::Key_Right);
+        QTest::keyClick(el<Grafica>(u"PicError"_s), Qt::Key_Right);
     }
 
     void numeroAureo()
@@ -142,7 +127,7 @@ private Q_SLOTS:
         QVERIFY(celda(u"FlexCocientes"_s, 11, 3).startsWith(u"1,61805555"_s));
         QCOMPARE(celda(u"FlexCocientes"_s, 11, 4), u"+2,16 · 10⁻⁵"_s);
         QCOMPARE(celda(u"FlexCocientes"_s, 0, 4), u"−6,18 · 10⁻¹"_s);
-        auto *grafica = control<Grafica>(m_ventana.get(), u"PicError"_s);
+        auto *grafica = el<Grafica>(u"PicError"_s);
         QCOMPARE(grafica->encuadre().visible(), QRectF(0, -5, 12, 5));
         for (int i = 0; i < 12; ++i)
             QTest::keyClick(grafica, Qt::Key_Right);
@@ -185,12 +170,12 @@ private Q_SLOTS:
         pulsa(u"cmdProbar"_s);
         QCOMPARE(columna(u"FlexIdentidades"_s, 3), u"1|8|832.040|6.764|10.803.704"_s);
         QCOMPARE(columna(u"FlexIdentidades"_s, 2), u"✓ Sí|✓ Sí|✓ Sí|✓ Sí|✓ Sí"_s);
-        control<QTableView>(m_ventana.get(), u"FlexIdentidades"_s)->selectRow(2);
+        el<QTableView>(u"FlexIdentidades"_s)->selectRow(2);
         QCOMPARE(largo(u"txtIzquierda"_s), u"832040"_s);
         QCOMPARE(largo(u"txtDerecha"_s), u"832040"_s);
         escribe(u"TxtIndiceN"_s, u"0"_s);
         pulsa(u"cmdProbar"_s);
-        QCOMPARE(m_ventana->focusWidget(), control<QLineEdit>(m_ventana.get(), u"TxtIndiceN"_s));
+        QCOMPARE(m_ventana->focusWidget(), campo(u"TxtIndiceN"_s));
     }
 
     void cuestiones()
@@ -201,14 +186,13 @@ private Q_SLOTS:
         for (const PasoZeckendorf &paso : representacionZeckendorf(n))
             sumandos << paso.sumando;
         pulsa(u"cmdComprobar_0"_s);
-        QCOMPARE(texto(u"lblVeredicto_0"_s), QString());
+        QCOMPARE(texto(u"lblVeredicto_0"_s), u"Escriba una respuesta."_s);
         escribe(u"txtRespuesta_0"_s, sumandos.join(u" + "_s));
         pulsa(u"cmdComprobar_0"_s);
         QVERIFY(texto(u"lblVeredicto_0"_s).startsWith(u"✓"_s));
-        QCOMPARE(control<ReproductorAVI>(m_ventana.get(), u"ccrpAniEureka"_s)->estado(),
-                 ReproductorAVI::Reproduciendo);
+        QCOMPARE(el<ReproductorAVI>(u"ccrpAniEureka"_s)->estado(), ReproductorAVI::Reproduciendo);
         escribe(u"txtRespuesta_1"_s, u"1"_s);
-        QTest::keyClick(control<QLineEdit>(m_ventana.get(), u"txtRespuesta_1"_s), Qt::Key_Return);
+        QTest::keyClick(campo(u"txtRespuesta_1"_s), Qt::Key_Return);
         QVERIFY(texto(u"lblVeredicto_1"_s).startsWith(u"✗"_s));
         QVERIFY(texto(u"lblVeredicto_0"_s).startsWith(u"✓"_s));
         bool esOtra = false;
@@ -218,21 +202,10 @@ private Q_SLOTS:
         }
         QVERIFY(esOtra);
         QCOMPARE(texto(u"lblVeredicto_0"_s), QString());
-        QCOMPARE(control<QLineEdit>(m_ventana.get(), u"txtRespuesta_0"_s)->text(), QString());
+        QCOMPARE(campo(u"txtRespuesta_0"_s)->text(), QString());
     }
 
 private:
-    QPushButton *boton(const QString &nombre)
-    {
-        return control<QPushButton>(m_ventana.get(), nombre);
-    }
-
-    void pulsa(const QString &nombre) { boton(nombre)->click(); }
-    void escribe(const QString &campo, const QString &texto)
-    {
-        control<QLineEdit>(m_ventana.get(), campo)->setText(texto);
-    }
-
     void calcula(const QString &n)
     {
         escribe(u"TxtN"_s, n);
@@ -240,18 +213,7 @@ private:
         QTRY_COMPARE(boton(u"cmdCalcular"_s)->toolTip(), u"Calcular"_s);
     }
 
-    QString texto(const QString &rotulo) const
-    {
-        return control<QLabel>(m_ventana.get(), rotulo)->text();
-    }
-    QString largo(const QString &campo) const
-    {
-        return control<CampoLargo>(m_ventana.get(), campo)->text();
-    }
-    const QAbstractItemModel *modelo(const QString &rejilla) const
-    {
-        return control<QTableView>(m_ventana.get(), rejilla)->model();
-    }
+    QString largo(const QString &campo) const { return el<CampoLargo>(campo)->text(); }
     int filas(const QString &rejilla) const { return modelo(rejilla)->rowCount(); }
     QString celda(const QString &rejilla, int fila, int col) const
     {
@@ -264,8 +226,6 @@ private:
             textos << celda(rejilla, i, col);
         return textos.join(u'|');
     }
-
-    std::unique_ptr<FormFibonacci> m_ventana;
 };
 
 NUMORA_TEST_MAIN(TestFormFibonacci)

@@ -3,13 +3,11 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/primes/DivisionTentativa.h"
 #include "lessons/primes/TablaDeFactores.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 
 #include <QLocale>
 #include <QRegularExpression>
 #include <random>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -2,18 +2,10 @@
 #include "lessons/primes/windows/FormPrimos.h"
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/grid/Rejilla.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
 #include <utility>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The topic "Criba de Eratóstenes", by its controls.
 class TestFormPrimosCriba : public QObject

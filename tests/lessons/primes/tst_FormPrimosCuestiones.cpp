@@ -1,32 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/primes/CuestionDosPrimos.h"
 #include "lessons/primes/windows/FormPrimos.h"
-#include "shell/controls/CampoLargo.h"
 #include "shell/controls/ReproductorAVI.h"
-#include "tests/lessons/Tabla.h"
-#include "tests/shell/support/Entorno.h"
+#include "tests/Tabla.h"
+#include "tests/lessons/VentanaDeLeccion.h"
 
-#include <QLabel>
-#include <QPushButton>
-#include <QRegularExpression>
 #include <set>
 
-using namespace Qt::Literals::StringLiterals;
-
 /// The exercise of the lesson: its logic, and its window by the controls.
-class TestFormPrimosCuestiones : public QObject
+class TestFormPrimosCuestiones : public QObject, private VentanaDeLeccion<FormPrimos>
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        Entorno::limpia();
-        m_ventana = std::make_unique<FormPrimos>();
-        m_primos = {control<CampoLargo>(m_ventana.get(), u"txtPrimo_0"_s),
-                    control<CampoLargo>(m_ventana.get(), u"txtPrimo_1"_s)};
-        m_producto = control<CampoLargo>(m_ventana.get(), u"txtProducto"_s);
-        m_veredicto = control<QLabel>(m_ventana.get(), u"lblVeredicto"_s);
+        abre();
+        m_primos = {el<CampoLargo>(u"txtPrimo_0"_s), el<CampoLargo>(u"txtPrimo_1"_s)};
+        m_producto = el<CampoLargo>(u"txtProducto"_s);
+        m_veredicto = el<QLabel>(u"lblVeredicto"_s);
     }
     void cleanup() { m_ventana.reset(); }
 
@@ -53,11 +45,11 @@ private Q_SLOTS:
 
     void enunciado()
     {
-        const QString texto = control<QLabel>(m_ventana.get(), u"LabelEnunciado1"_s)->text();
+        const QString enunciado = texto(u"LabelEnunciado1"_s);
         const QRegularExpression forma(
             u"^Busca dos primos lo mas cercanos posible, de modo que la expresión binaria de su "
             "producto tenga (1\\d\\d|200) dígitos\\.$"_s);
-        QVERIFY2(forma.match(texto).hasMatch(), qPrintable(texto));
+        QVERIFY2(forma.match(enunciado).hasMatch(), qPrintable(enunciado));
         QVERIFY(m_producto->isReadOnly());
     }
 
@@ -70,10 +62,9 @@ private Q_SLOTS:
         responde(u"sigprimo(2^%1)"_s.arg(mitad), u"sigprimo(2^%1)"_s.arg(pedidos - 1 - mitad));
         QCOMPARE(m_producto->text().size(), pedidos);
         QVERIFY(m_veredicto->text().startsWith(u"✓"_s));
-        QCOMPARE(control<QLabel>(m_ventana.get(), u"LabelProducto"_s)->text(),
+        QCOMPARE(texto(u"LabelProducto"_s),
                  u"Expresión binaria del producto: %1 dígitos"_s.arg(pedidos));
-        QCOMPARE(control<ReproductorAVI>(m_ventana.get(), u"ccrpAniEureka"_s)->estado(),
-                 ReproductorAVI::Reproduciendo);
+        QCOMPARE(el<ReproductorAVI>(u"ccrpAniEureka"_s)->estado(), ReproductorAVI::Reproduciendo);
         m_primos[0]->setText(u"3"_s);
         QVERIFY(m_veredicto->text().isEmpty());
     }
@@ -111,18 +102,17 @@ private Q_SLOTS:
 private:
     int digitosDelEnunciado() const
     {
-        const QString texto = control<QLabel>(m_ventana.get(), u"LabelEnunciado1"_s)->text();
-        return QRegularExpression(u"\\d+"_s).match(texto).captured().toInt();
+        const QString enunciado = texto(u"LabelEnunciado1"_s);
+        return QRegularExpression(u"\\d+"_s).match(enunciado).captured().toInt();
     }
 
     void responde(const QString &primo1, const QString &primo2)
     {
         m_primos[0]->setText(primo1);
         m_primos[1]->setText(primo2);
-        control<QPushButton>(m_ventana.get(), u"cmdProblema"_s)->click();
+        pulsa(u"cmdProblema"_s);
     }
 
-    std::unique_ptr<FormPrimos> m_ventana;
     std::array<CampoLargo *, 2> m_primos{};
     CampoLargo *m_producto = nullptr;
     QLabel *m_veredicto = nullptr;

@@ -4,18 +4,8 @@
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/core/clsSesion.h"
 #include "shell/grid/Rejilla.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabBar>
-#include <QTimer>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The topic "Factorización", by its controls, idle and in the middle of its runs.
 class TestFormPrimosFactorizacion : public QObject

@@ -1,16 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/primes/windows/FormPrimos.h"
-#include "shell/controls/CampoLargo.h"
 #include "shell/controls/Dibujo.h"
-#include "tests/lessons/Tabla.h"
-#include "tests/shell/support/Entorno.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTabBar>
-
-using namespace Qt::Literals::StringLiterals;
+#include "tests/Tabla.h"
+#include "tests/lessons/VentanaDeLeccion.h"
 
 namespace {
 
@@ -41,22 +33,21 @@ private:
 } // namespace
 
 /// The topic "Test de primos", by its controls.
-class TestFormPrimosTest : public QObject
+class TestFormPrimosTest : public QObject, private VentanaDeLeccion<FormPrimos>
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        Entorno::limpia();
-        m_ventana = std::make_unique<FormPrimos>();
-        m_numero = control<CampoLargo>(m_ventana.get(), u"txtNúmero"_s);
-        m_bits = control<QLineEdit>(m_ventana.get(), u"txtNumBits"_s);
-        m_esPrimo = control<QPushButton>(m_ventana.get(), u"cmdEsPrimo"_s);
-        m_siguiente = control<QPushButton>(m_ventana.get(), u"cmdSigPrimo"_s);
-        m_busca = control<QPushButton>(m_ventana.get(), u"cmdNumBits"_s);
-        m_rotulo = control<QLabel>(m_ventana.get(), u"LabelPrimo"_s);
-        m_luz = control<Dibujo>(m_ventana.get(), u"imgTestPrimo"_s);
+        abre();
+        m_numero = el<CampoLargo>(u"txtNúmero"_s);
+        m_bits = campo(u"txtNumBits"_s);
+        m_esPrimo = boton(u"cmdEsPrimo"_s);
+        m_siguiente = boton(u"cmdSigPrimo"_s);
+        m_busca = boton(u"cmdNumBits"_s);
+        m_rotulo = el<QLabel>(u"LabelPrimo"_s);
+        m_luz = el<Dibujo>(u"imgTestPrimo"_s);
     }
     void cleanup() { m_ventana.reset(); }
 
@@ -171,15 +162,15 @@ private Q_SLOTS:
     }
     void loQueTardaSeDiceAntes()
     {
-        const auto [boton, cifras, veces, dicho] = estaFila<QString, QString, int, bool>();
+        const auto [orden, cifras, veces, dicho] = estaFila<QString, QString, int, bool>();
         const QString numero = cifras.repeated(veces);
-        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(2);
+        abreTema(2);
         m_ventana->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_ventana.get()));
-        (boton == u"cmdNumBits"_s ? m_bits->setText(numero) : m_numero->setText(numero));
-        auto *linea = control<QLabel>(m_ventana.get(), u"lblEspera"_s);
+        (orden == u"cmdNumBits"_s ? m_bits->setText(numero) : m_numero->setText(numero));
+        auto *linea = el<QLabel>(u"lblEspera"_s);
         Testigo testigo(m_ventana.get(), linea);
-        control<QPushButton>(m_ventana.get(), boton)->click();
+        pulsa(orden);
         QCOMPARE(testigo.pintada, dicho);
         QVERIFY(testigo.conReloj);
         QVERIFY(linea->text().isEmpty());
@@ -204,7 +195,7 @@ private Q_SLOTS:
 
     void elCampoCreceConElNumero()
     {
-        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(2);
+        abreTema(2);
         m_ventana->resize(900, 600);
         m_ventana->show();
         QCOMPARE(m_numero->lineas(), 6);
@@ -233,7 +224,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<FormPrimos> m_ventana;
     CampoLargo *m_numero = nullptr;
     QLineEdit *m_bits = nullptr;
     QPushButton *m_esPrimo = nullptr, *m_siguiente = nullptr, *m_busca = nullptr;

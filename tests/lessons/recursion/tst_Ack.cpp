@@ -2,7 +2,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/recursion/functions/Ack.h"
 #include "lessons/recursion/functions/windows/ModeloAck.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/lessons/recursion/Detenida.h"
 #include "tests/shell/support/Entorno.h"
 

@@ -2,37 +2,24 @@
 #include "lessons/recursion/modular/windows/FormRecursion2.h"
 #include "shell/controls/Dibujo.h"
 #include "shell/plot/Grafica.h"
-#include "tests/lessons/Tabla.h"
-#include "tests/shell/support/Entorno.h"
-
-#include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMdiArea>
-#include <QPointer>
-#include <QPushButton>
-#include <QTabBar>
-#include <QTableView>
-#include <QTimer>
-
-using namespace Qt::Literals::StringLiterals;
+#include "tests/Tabla.h"
+#include "tests/lessons/VentanaDeLeccion.h"
 
 /// The lesson on modular recurrences, by its controls.
-class TestFormRecursion2 : public QObject
+class TestFormRecursion2 : public QObject, private VentanaDeLeccion<FormRecursión2>
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        Entorno::limpia();
-        m_ventana = std::make_unique<FormRecursión2>();
-        m_modulo = control<QLineEdit>(m_ventana.get(), u"TxtMódulo"_s);
-        m_calcula = control<QPushButton>(m_ventana.get(), u"cmdCalcular"_s);
-        m_inicio = control<QLineEdit>(m_ventana.get(), u"txtInicioPeriodo"_s);
-        m_periodo = control<QLineEdit>(m_ventana.get(), u"TxtPeriodo"_s);
-        m_valores = control<QTableView>(m_ventana.get(), u"FlexValores"_s);
-        m_grafica = control<Grafica>(m_ventana.get(), u"PicFunción"_s);
+        abre();
+        m_modulo = campo(u"TxtMódulo"_s);
+        m_calcula = boton(u"cmdCalcular"_s);
+        m_inicio = campo(u"txtInicioPeriodo"_s);
+        m_periodo = campo(u"TxtPeriodo"_s);
+        m_valores = el<QTableView>(u"FlexValores"_s);
+        m_grafica = el<Grafica>(u"PicFunción"_s);
     }
     void cleanup() { m_ventana.reset(); }
 
@@ -98,7 +85,7 @@ private Q_SLOTS:
     /// Nothing that is shown changes but for the word about it, which lasts until the field does.
     void unModuloQueNoLoEs()
     {
-        const auto *aviso = control<QLabel>(m_ventana.get(), u"lblAvisoDeModulo"_s);
+        const auto *aviso = el<QLabel>(u"lblAvisoDeModulo"_s);
         const QString cero = u"✗ El menor número permitido es 1."_s;
         calcula(u"0"_s);
         QCOMPARE(aviso->text(), cero);
@@ -135,7 +122,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
         calcula(u"10"_s);
         acepta(u"2"_s, u"1/2"_s, u"mod"_s, u"1"_s);
-        QCOMPARE(m_ventana->focusWidget(), control<QLineEdit>(m_ventana.get(), u"TxtBeta"_s));
+        QCOMPARE(m_ventana->focusWidget(), campo(u"TxtBeta"_s));
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
         QCOMPARE(avisoDeFuncion(), u"✗ β: El valor escrito no es un número entero."_s);
         QCOMPARE(m_periodo->text(), u"60"_s);
@@ -148,7 +135,7 @@ private Q_SLOTS:
 
     void alSalirDelCampoUnaSolaVez()
     {
-        auto *temas = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
+        auto *temas = el<QTabBar>(u"tsTema"_s);
         temas->setCurrentIndex(1);
         m_ventana->show();
         QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
@@ -196,10 +183,10 @@ private Q_SLOTS:
 
     void eureka()
     {
-        auto *temas = control<QTabBar>(m_ventana.get(), u"tsTema"_s);
+        auto *temas = el<QTabBar>(u"tsTema"_s);
         temas->setCurrentIndex(1);
         m_ventana->show();
-        const auto *luz = control<Dibujo>(m_ventana.get(), u"ImgEureka"_s);
+        const auto *luz = el<Dibujo>(u"ImgEureka"_s);
         QVERIFY(!luz->isVisible());
         calcula(u"10"_s);
         QVERIFY(luz->isVisible());
@@ -216,7 +203,7 @@ private Q_SLOTS:
         Entorno::grabadora().mensajes.clear();
         for (int i = 0; i < 20; ++i)
             QTest::keyClick(m_grafica, Qt::Key_Right);
-        QCOMPARE(control<QLabel>(m_ventana.get(), u"lblPunto"_s)->text(), u"f(20) = 6.765"_s);
+        QCOMPARE(texto(u"lblPunto"_s), u"f(20) = 6.765"_s);
     }
 
 private:
@@ -228,21 +215,17 @@ private:
 
     void acepta(const QString &alfa, const QString &beta, const QString &f1, const QString &f2)
     {
-        control<QLineEdit>(m_ventana.get(), u"txtAlfa"_s)->setText(alfa);
-        control<QLineEdit>(m_ventana.get(), u"TxtBeta"_s)->setText(beta);
-        control<QLineEdit>(m_ventana.get(), u"TxtF1"_s)->setText(f1);
-        control<QLineEdit>(m_ventana.get(), u"txtF2"_s)->setText(f2);
-        control<QPushButton>(m_ventana.get(), u"cmdFunción"_s)->click();
+        campo(u"txtAlfa"_s)->setText(alfa);
+        campo(u"TxtBeta"_s)->setText(beta);
+        campo(u"TxtF1"_s)->setText(f1);
+        campo(u"txtF2"_s)->setText(f2);
+        pulsa(u"cmdFunción"_s);
     }
 
-    QString avisoDeFuncion() const
-    {
-        return control<QLabel>(m_ventana.get(), u"lblAviso"_s)->text();
-    }
+    QString avisoDeFuncion() const { return texto(u"lblAviso"_s); }
 
     QString valor(int n) const { return m_valores->model()->index(n - 1, 1).data().toString(); }
 
-    std::unique_ptr<FormRecursión2> m_ventana;
     QLineEdit *m_modulo = nullptr, *m_inicio = nullptr, *m_periodo = nullptr;
     QPushButton *m_calcula = nullptr;
     QTableView *m_valores = nullptr;

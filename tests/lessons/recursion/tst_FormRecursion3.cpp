@@ -4,20 +4,8 @@
 #include "shell/controls/Dibujo.h"
 #include "shell/grid/Rejilla.h"
 #include "shell/plot/Grafica.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
-
-#include <QBrush>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTableView>
-#include <QTimer>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The lesson on recursive functions, by its controls.
 class TestFormRecursion3 : public QObject

@@ -3,12 +3,10 @@
 #include "lessons/recursion/modular/ModeloValores.h"
 #include "lessons/recursion/modular/SucesionModular.h"
 #include "lessons/recursion/modular/TextoDeDefinicion.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "lessons/recursion/functions/Capicua.h"
 #include "lessons/recursion/functions/Granizo.h"
 #include "lessons/recursion/functions/ModeloGranizo.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/lessons/recursion/Detenida.h"
 #include "tests/shell/support/Entorno.h"
 

@@ -5,8 +5,6 @@
 #include "shell/core/system/ArchivoProvisional.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
-#include <QProcess>
-#include <QSet>
 #include <csignal>
 #include <memory>
 #include <sys/resource.h>
@@ -14,8 +12,6 @@
 #include <thread>
 #include <unistd.h>
 #include <vector>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

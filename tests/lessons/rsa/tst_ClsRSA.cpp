@@ -4,10 +4,8 @@
 #include "lessons/rsa/key/ClsRSA.h"
 #include "lessons/rsa/key/TextoEnBloques.h"
 #include "shell/core/run/Tareas.h"
+#include "tests/Tabla.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
-#include "tests/shell/support/Tabla.h"
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The key: validation, files, blocks.
 class TestClsRSA : public QObject
@@ -31,8 +29,7 @@ private Q_SLOTS:
     void valida_data()
     {
         // Of the numbers: q(1), q(2), s, r, bits demanded. Of the result: q(0), Fi(Q), t.
-        tabla(uR"(
-    numeros | aviso | resultado
+        filasDeTexto<QString, QString, QString>(uR"(
     good | 257 263 5 1 0 | +Clave OK | 67591 67072 26829
     good, of the size demanded | 257 263 5 1 17 | +Clave OK | 67591 67072 26829
     size | 257 263 5 1 16 | -Se requiere una clave de 16 bits, y la actual tiene 17 | 67591 67072 26829
@@ -50,9 +47,7 @@ private Q_SLOTS:
     }
     void valida()
     {
-        QFETCH(QString, numeros);
-        QFETCH(QString, aviso);
-        QFETCH(QString, resultado);
+        const auto [numeros, aviso, resultado] = estaFila<QString, QString, QString>();
         m_clave->ponNBitsRequeridos(pon(numeros).toShort());
         const QString objecion = m_clave->Objecion();
         m_clave->Valida();
@@ -179,21 +174,19 @@ private Q_SLOTS:
 
     void codificaConocidos_data()
     {
-        tabla(uR"(
-            clave | texto | bloques
+        filasDeTexto<QString, QString, QString>(uR"(
             r = 1 | 257 263 5 1 | HOLA | 57666 43715 51784 23519
             r = 2 | 255259 255313 5 2 | HOLA | 55662054903 20841377323
             empty | 255259 255313 5 2 | | || small power | 5003 5009 3 1 | A | 274625)"_s);
     }
     void codificaConocidos()
     {
-        QFETCH(QString, clave);
+        const auto [clave, texto, cifrado] = estaFila<QString, QString, QString>();
         ponYValida(clave);
         QVERIFY(m_clave->ClaveOK());
-        QFETCH(QString, texto);
         const QStringList bloques = m_clave->Codifica(texto, {}).completa();
-        QTEST(bloques.join(u' '), "bloques");
-        QTEST(m_clave->DesCodifica(bloques, {}).completa(), "texto");
+        QCOMPARE(bloques.join(u' '), cifrado);
+        QCOMPARE(m_clave->DesCodifica(bloques, {}).completa(), texto);
     }
 
     void idaYVuelta_data()

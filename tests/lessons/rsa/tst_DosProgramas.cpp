@@ -2,10 +2,6 @@
 #include "shell/core/ModGlobal.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
-#include <QProcess>
-
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 const QString Texto = u"Nos vemos a las 5 en la puerta. El examen es el 3."_s;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/rsa/windows/FormRSAComun.h"
+#include "tests/Tabla.h"
 #include "tests/lessons/rsa/support/VentanaRSA.h"
-#include "tests/shell/support/Tabla.h"
 
 /// The own key, and texts encrypted with it.
 class TestFormRSA : public QObject, private VentanaRSA
@@ -48,18 +48,14 @@ private Q_SLOTS:
 
     void clavesMalas_data()
     {
-        tabla(uR"(
-            q1 | q2 | s | texto
+        filasDeTexto<QString, QString, QString, QString>(uR"(
             composite | 259 | 263 | 5 | q(1) debe ser primo.
             small | 257 | 251 | 5 | q(2) debe ser mayor que 255.
             exponent | 257 | 263 | 131 | El número s debe ser primo con 67072)"_s);
     }
     void clavesMalas()
     {
-        QFETCH(QString, q1);
-        QFETCH(QString, q2);
-        QFETCH(QString, s);
-        QFETCH(QString, texto);
+        const auto [q1, q2, s, texto] = estaFila<QString, QString, QString, QString>();
         abreConClave();
         ponClave(q1, q2, s);
         const auto caja = Entorno::grabadora().unico();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/Tabla.h"
 #include "tests/lessons/rsa/support/VentanaRSA.h"
-#include "tests/shell/support/Tabla.h"
 
 /// The mailbox: publishing, sending, receiving.
 class TestFormRSAMensajes : public QObject, private VentanaRSA
@@ -222,28 +222,27 @@ private Q_SLOTS:
     void loQueNoSePuedeEnviar_data()
     {
         const QString largo(1'000'001, u'a');
-        tabla(u"usuario | asunto | texto | titulo | sale\n"
-              "text beyond Windows-1252 | ana | x | día α | Carácter no admitido | no\n"
-              "subject beyond Windows-1252 | ana | α | x | Carácter no admitido | no\n"
-              "text without end | ana | x | "_s +
-              largo +
-              u" | Texto demasiado largo | no\n"
-              "out of the mailbox | ../ana | x | x | Error en tiempo de ejecución | no\n"
-              "unfit text and subject | ana | \u0001 | \u0001 | Error en el mensaje | RSA1.msg"_s);
+        filasDeTexto<QString, QString, QString, QString, QString>(
+            u"text beyond Windows-1252 | ana | x | día α | Carácter no admitido | no\n"
+            "subject beyond Windows-1252 | ana | α | x | Carácter no admitido | no\n"
+            "text without end | ana | x | "_s +
+            largo +
+            u" | Texto demasiado largo | no\n"
+            "out of the mailbox | ../ana | x | x | Error en tiempo de ejecución | no\n"
+            "unfit text and subject | ana | \u0001 | \u0001 | Error en el mensaje | RSA1.msg"_s);
     }
     void loQueNoSePuedeEnviar()
     {
-        QFETCH(QString, usuario);
-        QFETCH(QString, asunto);
-        QFETCH(QString, texto);
+        const auto [usuario, asunto, texto, titulo, sale] =
+            estaFila<QString, QString, QString, QString, QString>();
         preparaBuzon();
         Entorno::grabadora().respondeSi = true;
         eligeUsuario(usuario);
         escribeMensaje(asunto, texto);
         pulsa(u"enviar"_s);
-        QTEST(Entorno::grabadora().unico().titulo, "titulo");
-        const bool sale = QFile::exists(m_yo->enBuzon(usuario + u"/RSA1.msg"_s));
-        QTEST(sale ? u"RSA1.msg"_s : u"no"_s, "sale");
+        QCOMPARE(Entorno::grabadora().unico().titulo, titulo);
+        const bool esta = QFile::exists(m_yo->enBuzon(usuario + u"/RSA1.msg"_s));
+        QCOMPARE(esta ? u"RSA1.msg"_s : u"no"_s, sale);
     }
 
     void unBuzonQueDesaparece()
@@ -271,15 +270,13 @@ private Q_SLOTS:
 
     void unaClaveQueSePublicaMasTarde_data()
     {
-        tabla(uR"(
-            antes | boton
+        filasDeTexto<QString, QString>(uR"(
             none before, seen on sending | | enviar || another before | 323 | enviar
             seen on scanning | | revisar)"_s);
     }
     void unaClaveQueSePublicaMasTarde()
     {
-        QFETCH(QString, antes);
-        QFETCH(QString, boton);
+        const auto [antes, boton] = estaFila<QString, QString>();
         if (!antes.isEmpty())
             m_yo->escribe(u"ana/Clave.RSA"_s, "[RSA]\r\nq=" + antes.toLatin1() + "\r\ns=5\r\n");
         preparaBuzon();

@@ -6,8 +6,6 @@
 #include "lessons/rsa/mailbox/clsMensaje.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 /// Messages, their files, their collection, and the scan of a mailbox of good will.
 class TestMensajes : public QObject
 {

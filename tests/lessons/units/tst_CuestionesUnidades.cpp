@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/units/CuestionesUnidades.h"
 #include "lessons/units/GrupoUnidades.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QRegularExpression>
-#include <QSet>
 #include <numeric>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The questions: their judgement and what is said of a wrong answer.
 class TestCuestionesUnidades : public QObject
@@ -28,8 +24,8 @@ private Q_SLOTS:
             inverse, wrong | I11 | 7 · 11 = 77, que es 25 módulo 26, y tendría que ser 1.
             inverse, long and wrong | I10^500 | \
               7 · 22 = 154, que es 24 módulo 26, y tendría que ser 1.
-            no whole number | I1/7 | La respuesta es un número entero.
-            words | Iquince | La respuesta es un número entero.
+            no whole number | I1/7 | No se ha juzgado: no entiendo «1/7».
+            words | Iquince | No se ha juzgado: no entiendo «quince».
             order | O3 | ¡Correcto!
             order, a multiple | O12 | \
               3^12 sí da 1, pero hay un exponente menor que también lo da.
@@ -49,8 +45,8 @@ private Q_SLOTS:
               φ(n) = n − 1 solo si n es primo, y 360 = 2^3 · 3^2 · 5.
             phi without exponents | P8 | Ha tomado cada primo una sola vez, pero \
               360 = 2^3 · 3^2 · 5 y φ(p^k) = p^(k−1)·(p − 1).
-            phi, too small | P95 | Es mayor que 95. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
-            phi, too large | P97 | Es menor que 97. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
+            phi, too small | P95 | No es 95. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
+            phi, too large | P97 | No es 97. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
             P0 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
             P-10^30 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
             P360 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.

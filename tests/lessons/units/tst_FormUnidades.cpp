@@ -1,38 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/units/windows/FormUnidades.h"
-#include "shell/controls/CampoLargo.h"
 #include "shell/controls/ReproductorAVI.h"
-#include "shell/grid/Rejilla.h"
-#include "tests/lessons/Tabla.h"
-#include "tests/shell/support/Entorno.h"
+#include "tests/Tabla.h"
+#include "tests/lessons/VentanaDeLeccion.h"
 
 #include <QAbstractItemModelTester>
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QRegularExpression>
-#include <QTabBar>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The window of the units, by its controls.
-class TestFormUnidades : public QObject
+class TestFormUnidades : public QObject, private VentanaDeLeccion<FormUnidades>
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        Entorno::limpia();
-        m_ventana = std::make_unique<FormUnidades>();
-        m_ventana->resize(960, 640);
-        m_ventana->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
+        abre({960, 640});
         for (const QString &nombre : {u"FlexUnidades"_s, u"FlexPotencias"_s, u"FlexCayley"_s})
             new QAbstractItemModelTester(rejilla(nombre)->model(), m_ventana.get());
     }
@@ -138,7 +121,7 @@ private Q_SLOTS:
         QTest::keyClick(tabla, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text().trimmed(),
                  u"1\t3\t5\t7\n1\t1\t3\t5\t7\n3\t3\t1\t7\t5\n5\t5\t7\t1\t3\n7\t7\t5\t3\t1"_s);
-        control<QRadioButton>(m_ventana.get(), u"OptOperacion_2"_s)->click();
+        el<QRadioButton>(u"OptOperacion_2"_s)->click();
         QCOMPARE(tabla->model()->rowCount(), 8);
         campo(u"txtNCayley"_s)->setText(u"61"_s);
         pulsa(u"cmdCayley"_s);
@@ -169,7 +152,7 @@ private Q_SLOTS:
         const QString inverso = largo(u"txtInverso"_s)->text();
         QCOMPARE(Evalua(u"100!*%1 mod (2^521-1)"_s.arg(inverso)), u"1"_s);
         pulsa(u"cmdFi"_s);
-        const auto *pasos = control<QPlainTextEdit>(m_ventana.get(), u"txtFi"_s);
+        const auto *pasos = el<QPlainTextEdit>(u"txtFi"_s);
         QVERIFY(pasos->toPlainText().endsWith(Evalua(u"2^521-2"_s)));
         QVERIFY(texto(u"lblFi"_s).endsWith(u"a^φ(n) da 1 módulo n."_s));
         // Results belong to the numbers that stood there.
@@ -185,7 +168,7 @@ private Q_SLOTS:
         QCOMPARE(largo(u"txtInverso"_s)->text(), u"6"_s);
         pulsa(u"cmdFactores"_s);
         QCOMPARE(texto(u"lblFi"_s), u"φ(n), por factores."_s);
-        const auto *pasos = control<QPlainTextEdit>(m_ventana.get(), u"txtFi"_s);
+        const auto *pasos = el<QPlainTextEdit>(u"txtFi"_s);
         QVERIFY(pasos->toPlainText().contains(u"n = 2 · 3 · 5\n"_s));
         pulsa(u"cmdFi"_s);
         QCOMPARE(pasos->toPlainText(), u"φ(n) = 8"_s);
@@ -226,17 +209,17 @@ private Q_SLOTS:
 
     void cuestiones()
     {
-        const auto *animacion = control<ReproductorAVI>(m_ventana.get(), u"ccrpAniEureka"_s);
+        const auto *animacion = el<ReproductorAVI>(u"ccrpAniEureka"_s);
         for (const QString &i : {u"0"_s, u"1"_s}) {
             responde(i, u"2/3"_s);
-            QCOMPARE(texto(u"lblVeredicto_"_s + i), u"✗ La respuesta es un número entero."_s);
+            QCOMPARE(texto(u"lblVeredicto_"_s + i), u"No se ha juzgado: no entiendo «2/3»."_s);
             responde(i, u"-1"_s);
             QVERIFY(texto(u"lblVeredicto_"_s + i).startsWith(u"✗ "_s));
             QCOMPARE(animacion->estado(), ReproductorAVI::Reproduciendo);
         }
     }
 
-    /// A power is a question that the expression of its own text answers.
+    /// A power is no answer by the expression of its own text, but by its value.
     void aciertoDeUnaPotencia()
     {
         const QRegularExpression potencia(u"(\\d+\\^\\d+) al dividirlo entre (\\d+)"_s);
@@ -246,42 +229,14 @@ private Q_SLOTS:
             hallada = potencia.match(texto(u"lblEnunciado_1"_s));
         }
         QVERIFY(hallada.hasMatch());
-        responde(u"1"_s, hallada.captured(1) + u" mod "_s + hallada.captured(2));
+        const QString potenciaPedida = hallada.captured(1) + u" mod "_s + hallada.captured(2);
+        responde(u"1"_s, potenciaPedida);
+        QCOMPARE(texto(u"lblVeredicto_1"_s), u"No se ha juzgado: eso es la pregunta."_s);
+        responde(u"1"_s, Evalua(QString(potenciaPedida)));
         QCOMPARE(texto(u"lblVeredicto_1"_s), u"✓ ¡Correcto!"_s);
     }
 
 private:
-    Rejilla *rejilla(const QString &nombre) const
-    {
-        return control<Rejilla>(m_ventana.get(), nombre);
-    }
-    QLineEdit *campo(const QString &nombre) const
-    {
-        return control<QLineEdit>(m_ventana.get(), nombre);
-    }
-    CampoLargo *largo(const QString &nombre) const
-    {
-        return control<CampoLargo>(m_ventana.get(), nombre);
-    }
-    QString texto(const QString &rotulo) const
-    {
-        return control<QLabel>(m_ventana.get(), rotulo)->text();
-    }
-
-    void pulsa(const QString &boton) const
-    {
-        control<QPushButton>(m_ventana.get(), boton)->click();
-    }
-    QModelIndex celda(const QString &nombre, int fila, int columna) const
-    {
-        return rejilla(nombre)->model()->index(fila, columna);
-    }
-
-    void abreTema(int indice) const
-    {
-        control<QTabBar>(m_ventana.get(), u"tsTema"_s)->setCurrentIndex(indice);
-    }
-
     void muestra(const QString &modulo) const
     {
         campo(u"txtN"_s)->setText(modulo);
@@ -313,8 +268,6 @@ private:
         }
         return lineas.join(u'/');
     }
-
-    std::unique_ptr<FormUnidades> m_ventana;
 };
 
 NUMORA_TEST_MAIN(TestFormUnidades)

@@ -2,12 +2,10 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/InversoGrande.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <numeric>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// Euler's function and inverses of numbers of any size.
 class TestFuncionEuler : public QObject

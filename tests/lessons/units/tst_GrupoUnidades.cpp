@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "lessons/units/GrupoUnidades.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 
 #include <algorithm>
 #include <numeric>
-
-using namespace Qt::Literals::StringLiterals;
 
 /// The units of Z_n against multiplication by hand, and their powers.
 class TestGrupoUnidades : public QObject

@@ -5,14 +5,8 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/start/Main.h"
 
-#include <QDir>
-#include <QLocale>
 #include <QPrinter>
-#include <QSettings>
-#include <QTabBar>
 #include <memory>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -3,11 +3,12 @@
 
 #include "shell/frame/Interlocutor.h"
 
-#include <QApplication>
-#include <QStringList>
-#include <QTemporaryDir>
 #include <QTest>
+#include <QtWidgets>
 #include <functional>
+
+// Tests write their texts as u"…"_s, and their windows have controls of every kind.
+using namespace Qt::Literals::StringLiterals;
 
 /// What the program said to the user or the desktop, instead of saying it. A box that no test
 /// expects fails it.

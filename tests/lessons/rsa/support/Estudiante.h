@@ -5,9 +5,6 @@
 #include "shell/core/system/Archivos.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-
 /// A student at the program: a working folder and a mailbox of their own, both empty.
 class Estudiante
 {

@@ -8,17 +8,6 @@
 #include "shell/grid/Rejilla.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTabBar>
-#include <QToolButton>
-
-using namespace Qt::Literals::StringLiterals;
-
 /// A window of the lesson with a student before it; its controls by name.
 class VentanaRSA
 {
