@@ -52,9 +52,9 @@ BarraDeBusqueda::BarraDeBusqueda(NavegadorPagina *pagina, QWidget *padre)
         ->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     conecta(m_texto, &QLineEdit::textChanged, this, &BarraDeBusqueda::txtBuscar_Change);
     conecta(m_texto, &QLineEdit::returnPressed, this, [this] { avanza(1); });
-    // Places are those of the page that was searched.
-    connect(m_pagina, &NavegadorPagina::sourceChanged, this, [this] {
-        if (isVisible())
+    // Places are those of the page that was searched; one that is folded anew has the same.
+    connect(m_pagina, &NavegadorPagina::sourceChanged, this, [this](const QUrl &direccion) {
+        if (isVisible() && std::exchange(m_buscada, direccion.path()) != direccion.path())
             txtBuscar_Change();
     });
     hide();
@@ -63,6 +63,7 @@ BarraDeBusqueda::BarraDeBusqueda(NavegadorPagina *pagina, QWidget *padre)
 void BarraDeBusqueda::abre()
 {
     show();
+    m_buscada = m_pagina->source().path();
     const QString elegido = m_pagina->textCursor().selectedText();
     constexpr qsizetype palabras = 60; // more than that was not selected to be looked for
     if (!elegido.isEmpty() && elegido.size() < palabras)

@@ -30,6 +30,7 @@ private:
     NavegadorPagina *m_pagina;
     QLineEdit *m_texto;
     QLabel *m_cuenta;
+    QString m_buscada; ///< the page that was searched
     int m_hallazgos = 0;
     int m_actual = 0;
 };

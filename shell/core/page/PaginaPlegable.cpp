@@ -245,7 +245,7 @@ QString PaginaPlegable::muestra(const QSet<int> &abiertos) const
         else if (pieza.tipo == Pieza::Titulo)
             html +=
                 u"<p class=\"pliegue\"><a href=\"pliegue:%1\">%2 %3</a></p>"_s.arg(pieza.pliegue)
-                    .arg(abierto ? u'▾' : u'▸')
+                    .arg(QChar(abierto ? u'▾' : u'▸'))
                     .arg(pieza.html);
         else if (pieza.tipo == Pieza::Cierra)
             html += u"</div>"_s;

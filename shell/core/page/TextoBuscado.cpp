@@ -24,9 +24,15 @@ QList<qsizetype> halla(const QString &buscado, const QString &texto)
 {
     const QString aguja = paraBuscar(buscado), pajar = paraBuscar(texto);
     QList<qsizetype> lugares;
-    if (aguja.isEmpty())
-        return lugares;
-    for (qsizetype i = pajar.indexOf(aguja); i >= 0; i = pajar.indexOf(aguja, i + aguja.size()))
+    // Blanks at the ends are there or not as the tags of a page happen to stand.
+    qsizetype i = 0, fin = pajar.size();
+    while (i < fin && pajar[i] == u' ')
+        ++i;
+    while (fin > i && pajar[fin - 1] == u' ')
+        --fin;
+    while (!aguja.isEmpty() && (i = pajar.indexOf(aguja, i)) >= 0 && i + aguja.size() <= fin) {
         lugares << i;
+        i += aguja.size();
+    }
     return lugares;
 }

@@ -8,5 +8,6 @@
 QString paraBuscar(const QString &texto);
 
 /// Where the searched text begins in a text, each place behind the end of the one before. Letter
-/// case and accents do not count. Nowhere for an empty one.
+/// case and accents do not count, and the blanks at the ends of the text are no part of it. Nowhere
+/// for an empty one.
 QList<qsizetype> halla(const QString &buscado, const QString &texto);

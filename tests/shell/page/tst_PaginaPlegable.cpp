@@ -140,7 +140,7 @@ sí | Si | 1 || sí | yes | 1 || sí | NO | 0 || no | n | 1 || yes | s | 1 || no
             "stroke=\"#000000\"/></svg>";
         QCOMPARE(figuraOscura(clara),
                  QByteArray("<svg><rect fill=\"#171c20\" stroke=\"#5bb3d0\"/><text "
-                            "fill=\"#171c20\">#1f6f8b</text><path fill=\"#223641\" "
+                            "fill=\"#171c20\">#1f6f8b</text><path fill=\"#22333c\" "
                             "stroke=\"#e4eaed\"/></svg>"));
     }
 };
