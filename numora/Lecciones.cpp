@@ -21,6 +21,7 @@
 #include "lessons/units/windows/FormUnidades.h"
 #include "minical/windows/EscenasMiniCal.h"
 #include "minical/windows/FormCalc.h"
+#include "numora/TemasDePaginas.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -62,5 +63,6 @@ Contenido contenidoDelPrograma()
          u"La función de Ackermann, los números del granizo y los capicúas."_s, escenasRecursion3}};
     contenido.hojaDeCalculo = {
         u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>, {}, escenasMiniCal};
+    ponTemasDePaginas(contenido);
     return contenido;
 }

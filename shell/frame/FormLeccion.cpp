@@ -3,10 +3,7 @@
 
 #include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/core/Traduccion.h"
 #include "shell/frame/BotonDeCorrida.h"
-#include "shell/frame/Interlocutor.h"
-#include "shell/frame/NavegadorPagina.h"
 #include "shell/look/Aspecto.h"
 #include "shell/steps/PanelDePasos.h"
 #include "shell/steps/SeparadorDePasos.h"
@@ -37,7 +34,8 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
       m_pagina(pagina),
       m_tsTema(new QTabBar(this)),
       m_cmdPasos(new QToolButton(this)),
-      m_paneles(new QStackedWidget(this))
+      m_paneles(new QStackedWidget(this)),
+      m_cmdVolver(new QToolButton(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     m_tsTema->setObjectName(u"tsTema"_s);
@@ -51,9 +49,11 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     tira->setContentsMargins(0, 0, Aspecto::Espacio / 2, 0);
     tira->addWidget(m_tsTema, 1);
     tira->addWidget(m_cmdPasos);
+    tira->addWidget(m_cmdVolver);
     columna->addLayout(tira);
     columna->addWidget(m_paneles);
     preparaPasos();
+    preparaVuelta();
     conecta(m_tsTema, &QTabBar::currentChanged, this, &FormLeccion::tsTema_Click);
     qApp->installEventFilter(this);
 }
@@ -73,11 +73,6 @@ void FormLeccion::preparaPasos()
 QString FormLeccion::URL() const
 {
     return Sesión().carpeta() + u"\\Doc\\"_s + m_pagina;
-}
-
-void FormLeccion::muestraAyuda() const
-{
-    interlocutor().abre(PaginaTraducida(URL(), Idioma()));
 }
 
 void FormLeccion::cierra()
@@ -142,19 +137,6 @@ int FormLeccion::indiceDeTema(const QString &clave) const
             return i;
     }
     return -1;
-}
-
-void FormLeccion::agregaIntroduccion(const QString &rotulo)
-{
-    auto *panel = new QWidget(this);
-    auto *marco = new QVBoxLayout(panel);
-    marco->setContentsMargins(0, 0, 0, 0);
-    auto *pagina = new NavegadorPagina(panel);
-    pagina->setObjectName(u"wbIntro"_s);
-    pagina->setAccessibleName(Traduce(u"Introducción"_s));
-    pagina->navega(PaginaTraducida(URL(), Idioma()));
-    marco->addWidget(pagina);
-    agregaTema(rotulo, u"intro"_s, panel);
 }
 
 void FormLeccion::tsTema_Click(int indice)
@@ -252,6 +234,11 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         return QWidget::eventFilter(objeto, suceso);
     if (suceso->type() == QEvent::KeyRelease && pulsacion->key() == Qt::Key_F1) {
         evento(this, [this] { muestraAyuda(); });
+        return true;
+    }
+    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Left &&
+        pulsacion->modifiers() & Qt::AltModifier && !introduccionAlFrente()) {
+        evento(this, [this] { cmdVolver_Click(); });
         return true;
     }
     if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_F8) {

@@ -8,9 +8,11 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 class FormLeccion;
+struct EnlaceDeLeccion;
 class MenuLecciones;
 class MenuVentana;
 class PanelBienvenida;
@@ -36,6 +38,17 @@ public:
     /// Opens the window of a row of the menu, or brings the existing one to the front; null for a
     /// row that does not exist or has no lesson yet.
     FormLeccion *abreLeccion(int fila);
+
+    /// Practises a kind of exercise at a level; a sentence for the reader where that cannot be
+    /// done.
+    using Practicas = std::function<QString(const QString &clase, int nivel)>;
+    /// What links to the practice window do.
+    void ponPracticas(const Practicas &practicas) { m_practicas = practicas; }
+
+    /// Follows a link ("numora:…") of a page that is open in the lesson of row `desde`: opens
+    /// lesson and topic, fills the fields, starts nothing. A link that names what the table of
+    /// lessons does not does nothing. A sentence where something could not be done, else empty.
+    QString sigueEnlace(const QUrl &direccion, int desde);
 
     /// The lesson in the active child window, or null.
     FormLeccion *leccionActiva() const;
@@ -63,6 +76,10 @@ private:
     void recuperaTamano();
     void anotaTamanos();
     void colocaVentana(FormLeccion *leccion);
+    const Leccion &leccionDe(int fila) const;
+    void preparaEnlaces(FormLeccion *leccion, int fila);
+    QString sigueEnlace(const EnlaceDeLeccion &enlace, int desde);
+    void vuelve(int fila, const QUrl &pagina, int altura);
     QList<QPointer<FormLeccion>> abiertas() const;
     Tarea<> pideCierre();
 
@@ -85,6 +102,7 @@ private:
     PanelBienvenida *m_bienvenida;
     QList<Leccion> m_lecciones;
     Leccion m_hojaDeCalculo;
+    Practicas m_practicas;
     QHash<int, QPointer<FormLeccion>> m_abiertas;
     QTimer *m_timerPresentacion;
     QTimer *m_timerLogo;

@@ -25,17 +25,22 @@ QString claveDeTamano(const QWidget &leccion)
 
 } // namespace
 
+const Leccion &FormPrincipal::leccionDe(int fila) const
+{
+    return fila == FilaHojaDeCalculo ? m_hojaDeCalculo : m_lecciones[fila];
+}
+
 FormLeccion *FormPrincipal::abreLeccion(int fila)
 {
-    const bool esHoja = fila == FilaHojaDeCalculo;
-    if (!esHoja && (fila < 0 || fila >= m_lecciones.size()))
+    if (fila < FilaHojaDeCalculo || fila >= m_lecciones.size())
         return nullptr;
-    const Leccion &leccion = esHoja ? m_hojaDeCalculo : m_lecciones[fila];
+    const Leccion &leccion = leccionDe(fila);
     if (!leccion.crea)
         return nullptr;
     QPointer<FormLeccion> &abierta = m_abiertas[fila];
     if (!abierta) {
         abierta = leccion.crea(nullptr);
+        preparaEnlaces(abierta, fila);
         connect(abierta, &FormLeccion::descargada, this, [this, fila] {
             m_abiertas.remove(fila);
             marcaLecciones();

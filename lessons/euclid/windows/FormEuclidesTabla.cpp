@@ -70,6 +70,7 @@ void FormEuclidesTabla::preparaStatusBar()
         Traduce(u"Decide si usa o no el método de los restos reducidos"_s));
     m_panelAlgoritmo->setToolButtonStyle(Qt::ToolButtonTextOnly);
     m_panelAlgoritmo->setFocusPolicy(Qt::StrongFocus);
+    m_panelAlgoritmo->setCheckable(true);
     ui->StatusBar->setSizeGripEnabled(false);
     ui->StatusBar->addWidget(m_panelAlgoritmo);
     ponRestosReducidos(false);
@@ -78,6 +79,7 @@ void FormEuclidesTabla::preparaStatusBar()
 void FormEuclidesTabla::ponRestosReducidos(bool reducidos)
 {
     m_restosReducidos = reducidos;
+    m_panelAlgoritmo->setChecked(reducidos);
     m_panelAlgoritmo->setProperty(PropiedadTag, reducidos ? u"1"_s : QString());
     m_panelAlgoritmo->setText(
         Traduce(reducidos ? u"Algoritmo de los restos reducidos"_s : u"Algoritmo estándard"_s));
