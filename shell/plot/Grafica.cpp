@@ -69,6 +69,7 @@ void Grafica::ponPuntos(const QList<QPointF> &puntos, const QRectF &limites)
     m_series.clear();
     m_tramoDesde = m_tramoHasta = 0;
     m_rectaDesde = m_rectaHasta = {};
+    m_trazo.periodo = 0;
     m_encuadre.ponLimites(limites);
     m_ejeX->setVisible(!puntos.isEmpty());
     m_ejeY->setVisible(!puntos.isEmpty());
@@ -98,6 +99,19 @@ void Grafica::ponRecta(QPointF desde, QPointF hasta)
 {
     m_rectaDesde = desde;
     m_rectaHasta = hasta;
+    update();
+}
+
+void Grafica::ponPeriodo(qreal inicio, qreal longitud)
+{
+    m_trazo.inicio = inicio;
+    m_trazo.periodo = longitud;
+    update();
+}
+
+void Grafica::ponUnida(bool unida)
+{
+    m_trazo.unido = unida;
     update();
 }
 
@@ -248,7 +262,7 @@ void Grafica::pintaSeries(PintorDeGrafica &dibujo) const
     QList<std::pair<QString, QColor>> leyenda;
     for (const SerieDeGrafica &serie : m_series) {
         const QColor color = tintas.de(Tono::serie(static_cast<int>(leyenda.size())));
-        dibujo.funcion(serie.puntos, color);
+        dibujo.funcion(serie.puntos, color, m_trazo);
         dibujo.recta(serie.rectaDesde, serie.rectaHasta, color);
         leyenda.append({serie.nombre, color});
     }
@@ -261,7 +275,7 @@ void Grafica::pintaFuncion(PintorDeGrafica &dibujo) const
     const QRectF &visible = m_encuadre.visible();
     const int desde = std::max(0, puntoCercano(visible.left()) - 1);
     const int hasta = puntoCercano(visible.right()) + 2;
-    dibujo.funcion(m_puntos.mid(desde, hasta - desde), Aspecto::acento());
+    dibujo.funcion(m_puntos.mid(desde, hasta - desde), Aspecto::acento(), m_trazo);
     dibujo.recta(m_rectaDesde, m_rectaHasta, Aspecto::error());
 }
 

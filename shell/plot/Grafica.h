@@ -3,6 +3,7 @@
 
 #include "shell/plot/Encuadre.h"
 #include "shell/plot/ReglasDeGrafica.h"
+#include "shell/plot/TrazoDeGrafica.h"
 
 #include <QList>
 #include <QWidget>
@@ -19,8 +20,8 @@ struct SerieDeGrafica
     QPointF rectaHasta = {};
 };
 
-/// A plot of a function of whole numbers: axes (`EjeX`, `EjeY`), points joined by thin lines, and
-/// under the mouse two rulers (`ReglaHorizontal`, `ReglaVertical`) with their coordinates
+/// A plot of a function of whole numbers: axes (`EjeX`, `EjeY`), points joined by thin lines or
+/// not, and under the mouse two rulers (`ReglaHorizontal`, `ReglaVertical`) with their coordinates
 /// (`LabelX`, `LabelY`). The point nearest to the pointer, or chosen with the arrow keys, is marked
 /// (`PuntoFunción`). The wheel and the keys + and - zoom, dragging pans, a double click or the key
 /// Home shows everything again.
@@ -41,6 +42,11 @@ public:
     /// A straight line to compare the points with, dashed; none when its ends are equal. Like the
     /// stretch, it goes when other points come.
     void ponRecta(QPointF desde, QPointF hasta);
+    /// From `inicio` on the points repeat themselves every `longitud`: each turn takes the other of
+    /// two colours, and those before stand pale. All alike again when other points come.
+    void ponPeriodo(qreal inicio, qreal longitud);
+    /// Whether lines join the points; true at first.
+    void ponUnida(bool unida);
     void borra();
 
     /// What is shown while there are no points.
@@ -91,6 +97,7 @@ private:
     qreal m_tramoDesde = 0;
     qreal m_tramoHasta = 0;
     QPointF m_rectaDesde, m_rectaHasta;
+    TrazoDeGrafica m_trazo;
     QPointF m_agarre;
     int m_senalado = -1;
 

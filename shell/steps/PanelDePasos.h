@@ -77,6 +77,7 @@ private:
     std::unique_ptr<Ui::PanelDePasos> ui; ///< null until it is first seen
     ModeloDePasos *m_modelo = nullptr;
     DelegadoDePasos *m_delegado = nullptr;
+    bool m_porMostrar = true; ///< other steps came while it was out of sight
     QTimer m_reloj;
     TareasDeVentana m_tareas{this};
 };
