@@ -184,6 +184,7 @@ void FormPrimosTest::cmdNumBits_Click()
 
 void FormPrimosTest::preparaPasos()
 {
+    m_historial.ponColumnasDeTexto({2});
     ui->FlexHistorial->setModel(&m_historial);
     ui->FlexHistorial->ponTextoVacio(Traduce(
         u"Aquí se anotan los números que se prueban. Con Entrar, el elegido vuelve al campo."_s));
@@ -203,8 +204,10 @@ void FormPrimosTest::anota(const QString &numero, bool primo, int bits)
 {
     m_probado = numero;
     m_esPrimo = primo;
-    m_historial.agrega({numero.trimmed(), QString::number(bits),
-                        Traduce(primo ? u"Es primo"_s : u"No es primo"_s)});
+    // As a whole, so that the columns are measured anew.
+    m_historial.ponFilas(m_historial.filas()
+                         << QStringList{numero.trimmed(), QString::number(bits),
+                                        Traduce(primo ? u"Es primo"_s : u"No es primo"_s)});
     ui->FlexHistorial->scrollToBottom();
     muestraPasos();
 }
@@ -215,9 +218,14 @@ void FormPrimosTest::muestraPasos()
     const bool impar = !n.isEmpty() && (n.back().unicode() - u'0') % 2 == 1 && EsMayor(u"3"_s, n);
     ui->cmdCarmichael->setEnabled(impar && !m_esPrimo && NumeroDeBits(n) <= MasBitsDePasos);
     ui->lblAvisoBase->clear();
-    m_pasos->pon(m_probado.isEmpty()
-                     ? Pasos()
-                     : pasosDeTest(m_probado, m_esPrimo, impar ? baseElegida() : QString()));
+    if (m_probado.isEmpty()) {
+        m_pasos->pon({});
+        return;
+    }
+    const QString base = impar ? baseElegida() : QString();
+    m_pasos->pon(Pasos::aplazados([numero = m_probado, primo = m_esPrimo, base] {
+        return pasosDeTest(numero, primo, base);
+    }));
 }
 
 /// The base in the field; empty where there is none that serves, which is told beside it.
