@@ -98,7 +98,7 @@ private Q_SLOTS:
         el<QRadioButton>(u"OptAlgoritmo_0"_s)->click();
         pulsa(u"BtnFactoriza"_s);
         QTRY_VERIFY(texto(u"lblResultado"_s).endsWith(u"Factores hallados: 2 · 2 · 3."_s));
-        QCOMPARE(factorizacion->pasos()->pasos().cuantos(), 4);
+        QCOMPARE(factorizacion->pasos()->pasos().cuantos(), 3);
         pulsa(u"BtnFactoriza"_s);
         QTRY_VERIFY(texto(u"lblResultado"_s).startsWith(u"Detenida. De"_s));
         QCOMPARE(factorizacion->pasos()->pasos().cuantos(), 4);
