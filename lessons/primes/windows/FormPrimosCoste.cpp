@@ -113,7 +113,7 @@ void FormPrimosCoste::agrega(const MedidaDeCoste &medida)
             m_puntos.append({m_medidas.size(), algoritmo});
     }
     m_medidas << medida;
-    m_modelo.ponFilas(m_modelo.filas() << fila); // and the columns are measured anew
+    m_modelo.ponFilas(QList(m_modelo.filas()) << fila); // and the columns are measured anew
     ui->FlexCoste->scrollToBottom();
 }
 

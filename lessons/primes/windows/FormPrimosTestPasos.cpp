@@ -41,9 +41,9 @@ void FormPrimosTest::anota(const QString &numero, bool primo, int bits)
     m_probado = numero;
     m_esPrimo = primo;
     // As a whole, so that the columns are measured anew.
-    m_historial.ponFilas(m_historial.filas()
-                         << QStringList{numero.trimmed(), QString::number(bits),
-                                        Traduce(primo ? u"Es primo"_s : u"No es primo"_s)});
+    const QString veredicto = Traduce(primo ? u"Es primo"_s : u"No es primo"_s);
+    m_historial.ponFilas(QList(m_historial.filas())
+                         << QStringList{numero.trimmed(), QString::number(bits), veredicto});
     ui->FlexHistorial->scrollToBottom();
     muestraPasos();
 }
