@@ -6,6 +6,7 @@
 #include "lessons/primes/steps/CadenaDeCuadrados.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/steps/EscrituraDeFormula.h"
 
 #include <algorithm>
 
@@ -102,34 +103,40 @@ Paso CertificadoPratt::paso(qsizetype nodo) const
 
 Lamina CertificadoPratt::arbol(qsizetype actual) const
 {
-    constexpr qreal Ancho = 100, Alto = 30, Separacion = 14, Salto = 62;
+    constexpr qreal Ancho = 100, Alto = 30, Separacion = 12, Salto = 58;
     Lamina lamina(Traduce(u"Árbol del certificado: bajo cada primo p, los primos de p − 1. Van "
                           "comprobados %1 de %2."_s)
                       .arg(actual + 1)
                       .arg(m_nodos.size()));
     qreal derecha = 0;
-    // The place of a prime is in the middle above those of its p − 1, which are drawn before.
-    const auto dibuja = [&](const auto &aquiMismo, const QString &p, int nivel) -> qreal {
-        const auto lugar = std::ranges::find(m_nodos, p, &NodoDePratt::p);
-        QList<qreal> centros;
-        if (lugar != m_nodos.end()) {
-            for (const auto &factor : lugar->factores)
-                centros << aquiMismo(aquiMismo, factor.primo, nivel + 1);
-        } else {
-            derecha += Ancho + Separacion;
+    const auto caja = [](qreal x, int nivel) {
+        return QRectF(x - Ancho / 2, nivel * Salto, Ancho, Alto);
+    };
+    // The primes that need no proof share a leaf.
+    const auto hoja = [&](const QList<NodoDePratt::Factor> &evidentes, int nivel) {
+        const qreal x = derecha + Ancho / 2;
+        derecha += Ancho + Separacion;
+        const QString texto = comoTexto(Formula(producto(evidentes)).raiz());
+        lamina.elipse(caja(x, nivel), {Tono::Acierto}, false, texto);
+        return x;
+    };
+    const auto dibuja = [&](const auto &misma, const QString &p, int nivel) -> qreal {
+        const auto nodo = std::ranges::find(m_nodos, p, &NodoDePratt::p) - m_nodos.begin();
+        QList<NodoDePratt::Factor> evidentes;
+        for (const auto &factor : m_nodos[nodo].factores) {
+            if (esEvidente(factor.primo))
+                evidentes << factor;
         }
-        const qreal x = centros.isEmpty() ? derecha - Ancho / 2 - Separacion
-                                          : (centros.first() + centros.last()) / 2;
-        const qreal y = nivel * Salto;
+        QList<qreal> centros{hoja(evidentes, nivel + 1)};
+        for (const auto &factor : m_nodos[nodo].factores) {
+            if (!esEvidente(factor.primo))
+                centros << misma(misma, factor.primo, nivel + 1);
+        }
+        const qreal x = (centros.first() + centros.last()) / 2;
         for (const qreal centro : std::as_const(centros))
-            lamina.linea({x, y + Alto}, {centro, y + Salto}, {Tono::Suave});
-        const QRectF caja(x - Ancho / 2, y, Ancho, Alto);
-        const qsizetype nodo = lugar - m_nodos.begin();
-        if (lugar == m_nodos.end())
-            lamina.elipse(caja, {Tono::Acierto}, false, p);
-        else
-            lamina.rectangulo(caja, {nodo == actual ? Tono::Acento : Tono::Acierto}, nodo <= actual,
-                              p);
+            lamina.linea({x, nivel * Salto + Alto}, {centro, (nivel + 1) * Salto}, {Tono::Suave});
+        lamina.rectangulo(caja(x, nivel), {nodo == actual ? Tono::Acento : Tono::Acierto},
+                          nodo <= actual, p);
         return x;
     };
     dibuja(dibuja, m_nodos.first().p, 0);
