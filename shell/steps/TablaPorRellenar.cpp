@@ -68,8 +68,7 @@ void TablaPorRellenar::oculta(Cambio cambio)
     m_modelo->cambia(cambio);
     const qsizetype faltan = m_modelo->tabla().pendientes();
     muestraNeutro(ui->lblVeredictoDeCasilla,
-                  faltan == 0 ? QString()
-                              : Traduce(u"Casillas por rellenar: %1."_s).arg(faltan));
+                  faltan == 0 ? QString() : Traduce(u"Casillas por rellenar: %1."_s).arg(faltan));
     const QModelIndex primera = m_modelo->primeraPendiente();
     if (!primera.isValid())
         return;

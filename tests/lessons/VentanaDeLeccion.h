@@ -3,6 +3,7 @@
 
 #include "shell/controls/CampoLargo.h"
 #include "shell/grid/Rejilla.h"
+#include "shell/steps/PanelDePasos.h"
 #include "tests/shell/support/Entorno.h"
 
 /// A lesson's window for each test to stand before, and its controls by their names.
@@ -37,6 +38,11 @@ protected:
     void escribe(const QString &nombre, const QString &escrito) const
     {
         campo(nombre)->setText(escrito);
+    }
+    /// Of the tools that have them, in the order of the topics.
+    Pasos pasos(int herramienta = 0) const
+    {
+        return m_ventana->template findChildren<PanelDePasos *>().at(herramienta)->pasos();
     }
     const QAbstractItemModel *modelo(const QString &nombre) const
     {

@@ -129,8 +129,8 @@ void FormEuclidesTabla::cmdRellenar_Click(bool rellenar)
     if (rellenar)
         m_huecos->pon(huecosDeEuclides(m_modelo->tabla()));
     m_huecos->setVisible(rellenar);
-    for (QWidget *suyo : {static_cast<QWidget *>(ui->FlexEuclides),
-                          static_cast<QWidget *>(ui->lblExtEuclides),
-                          static_cast<QWidget *>(ui->lblAviso)})
+    for (QWidget *suyo :
+         {static_cast<QWidget *>(ui->FlexEuclides), static_cast<QWidget *>(ui->lblExtEuclides),
+          static_cast<QWidget *>(ui->lblAviso)})
         suyo->setVisible(!rellenar);
 }

@@ -105,8 +105,8 @@ TablaConHuecos::Estado TablaConHuecos::responde(qsizetype fila, qsizetype column
         celda.veredicto = Traduce(u"Correcto: ahí va %1."_s).arg(celda.numero);
     } else {
         celda.estado = Estado::Fallada;
-        celda.veredicto = leida ? Traduce(u"Ahí no va %1."_s).arg(celda.respuesta)
-                                : leida.razon().frase();
+        celda.veredicto =
+            leida ? Traduce(u"Ahí no va %1."_s).arg(celda.respuesta) : leida.razon().frase();
     }
     return celda.estado;
 }

@@ -42,7 +42,8 @@ private Q_SLOTS:
         pulsa(u"cmdMostrarTodas"_s);
         QCOMPARE(m_tabla->tabla().pendientes(), 0);
         // Two can be hidden: one was given, and one is empty.
-        for (const QString &boton : {u"cmdOcultarDos"_s, u"cmdOcultarUna"_s, u"cmdOcultarTodas"_s}) {
+        for (const QString &boton :
+             {u"cmdOcultarDos"_s, u"cmdOcultarUna"_s, u"cmdOcultarTodas"_s}) {
             pulsa(boton);
             QCOMPARE(m_tabla->tabla().pendientes(), 2);
         }
