@@ -48,6 +48,13 @@ void PanelDePasos::pon(const Pasos &pasos)
         muestra();
 }
 
+void PanelDePasos::continua(const Pasos &pasos)
+{
+    pon(pasos);
+    if (!m_porMostrar && !pasos.vacios())
+        vaA(static_cast<int>(pasos.cuantos()) - 1);
+}
+
 void PanelDePasos::enfoca()
 {
     if (ui)
