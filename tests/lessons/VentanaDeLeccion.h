@@ -39,10 +39,11 @@ protected:
     {
         campo(nombre)->setText(escrito);
     }
-    /// Of the tools that have them, in the order of the topics.
-    Pasos pasos(int herramienta = 0) const
+    /// Of the tool of a topic.
+    Pasos pasos(int tema) const
     {
-        return m_ventana->template findChildren<PanelDePasos *>().at(herramienta)->pasos();
+        const QWidget *panel = el<QWidget>(u"PanelFicha_%1"_s.arg(tema));
+        return panel->parentWidget()->findChild<PanelDePasos *>()->pasos();
     }
     const QAbstractItemModel *modelo(const QString &nombre) const
     {
