@@ -131,6 +131,8 @@ private:
 
     void retrata(const Escena &escena, int fila)
     {
+        // One scene that shows all steps must not decide for the next.
+        Sesión().anota(u"Pasos/Todos"_s, false);
         FormLeccion *leccion = m_principal.abreLeccion(fila);
         if (!leccion)
             return;
