@@ -130,6 +130,16 @@ void FormPrincipal::preparaAspecto()
         });
     }
     ui->AreaDeTrabajo->setBackground(palette().alternateBase());
+    ui->mnuSinMovimiento->setChecked(Aspecto::movimientoReducido());
+    conecta(ui->mnuSinMovimiento, &QAction::toggled, this, &FormPrincipal::mnuSinMovimiento_Click);
+}
+
+void FormPrincipal::mnuSinMovimiento_Click(bool reducido)
+{
+    Aspecto::ponMovimientoReducido(reducido);
+    Sesión().anota(u"Ventana/MovimientoReducido"_s, reducido);
+    if (reducido)
+        ui->AniLogo->para();
 }
 
 void FormPrincipal::recuperaTamano()

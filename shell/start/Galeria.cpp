@@ -131,7 +131,7 @@ private:
 
     void retrata(const Escena &escena, int fila)
     {
-        // One scene that shows all steps must not decide for the next.
+        // What a scene before has left pressed is not what this one finds.
         Sesión().anota(u"Pasos/Todos"_s, false);
         FormLeccion *leccion = m_principal.abreLeccion(fila);
         if (!leccion)
