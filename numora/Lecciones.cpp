@@ -21,6 +21,8 @@
 #include "lessons/units/windows/FormUnidades.h"
 #include "minical/windows/EscenasMiniCal.h"
 #include "minical/windows/FormCalc.h"
+#include "practice/windows/EscenasPracticas.h"
+#include "practice/windows/FormPracticas.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,6 +32,27 @@ template <typename Ventana>
 FormLeccion *crea(QWidget *padre)
 {
     return new Ventana(padre);
+}
+
+/// The words of the lessons, in the order of the menu.
+void ponPalabras(QList<Leccion> &lecciones)
+{
+    const QStringList palabras{u"fibonacci"_s,   u"euclides"_s, u"primos"_s,
+                               u"unidades"_s,    u"rsa"_s,      u"congruencias"_s,
+                               u"complejidad"_s, u"modular"_s,  u"funciones"_s};
+    for (qsizetype i = 0; i < lecciones.size(); ++i)
+        lecciones[i].palabra = palabras[i];
+}
+
+VentanaDePracticas practicas()
+{
+    return {{u"COMPROBAR"_s, u"Prácticas"_s, crea<FormPracticas>,
+             u"Ejercicios de todas las lecciones, con pistas, soluciones y repasos."_s,
+             escenasPracticas},
+            [](FormLeccion &ventana, const QString &clave, int nivel) {
+                return static_cast<FormPracticas &>(ventana).practica(clave, nivel);
+            },
+            &FormPracticas::invitacion};
 }
 
 } // namespace
@@ -62,5 +85,8 @@ Contenido contenidoDelPrograma()
          u"La función de Ackermann, los números del granizo y los capicúas."_s, escenasRecursion3}};
     contenido.hojaDeCalculo = {
         u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>, {}, escenasMiniCal};
+    contenido.hojaDeCalculo.palabra = u"minical"_s;
+    contenido.practicas = practicas();
+    ponPalabras(contenido.lecciones);
     return contenido;
 }

@@ -29,6 +29,7 @@ namespace {
 
 /// Whether the user wants to see steps, in whatever lesson.
 const QString ClaveDePasos = u"Pasos/Visibles"_s;
+const QString TemaDeCuestiones = u"cuestiones"_s;
 
 } // namespace
 
@@ -37,6 +38,7 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
       m_pagina(pagina),
       m_tsTema(new QTabBar(this)),
       m_cmdPasos(new QToolButton(this)),
+      m_cmdPracticas(new QToolButton(this)),
       m_paneles(new QStackedWidget(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -51,9 +53,11 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     tira->setContentsMargins(0, 0, Aspecto::Espacio / 2, 0);
     tira->addWidget(m_tsTema, 1);
     tira->addWidget(m_cmdPasos);
+    tira->addWidget(m_cmdPracticas);
     columna->addLayout(tira);
     columna->addWidget(m_paneles);
     preparaPasos();
+    preparaPracticas();
     conecta(m_tsTema, &QTabBar::currentChanged, this, &FormLeccion::tsTema_Click);
     qApp->installEventFilter(this);
 }
@@ -68,6 +72,22 @@ void FormLeccion::preparaPasos()
     m_cmdPasos->setChecked(Sesión().recuerda(ClaveDePasos, true).toBool());
     m_cmdPasos->hide();
     conecta(m_cmdPasos, &QToolButton::clicked, this, &FormLeccion::cmdPasos_Click);
+}
+
+void FormLeccion::preparaPracticas()
+{
+    m_cmdPracticas->setObjectName(u"cmdPracticas"_s);
+    m_cmdPracticas->setText(Traduce(u"Practicar más"_s));
+    m_cmdPracticas->setToolTip(
+        Traduce(u"Más ejercicios de esta lección, con pistas y soluciones"_s));
+    m_cmdPracticas->setFocusPolicy(Qt::StrongFocus);
+    m_cmdPracticas->hide();
+}
+
+void FormLeccion::ofrecePracticas(const std::function<void()> &practica)
+{
+    m_hayPracticas = true;
+    conecta(m_cmdPracticas, &QToolButton::clicked, this, practica);
 }
 
 QString FormLeccion::URL() const
@@ -155,6 +175,8 @@ void FormLeccion::agregaIntroduccion(const QString &rotulo)
 void FormLeccion::tsTema_Click(int indice)
 {
     m_paneles->setCurrentIndex(indice);
+    m_cmdPracticas->setVisible(m_hayPracticas &&
+                               m_tsTema->tabData(indice).toString() == TemaDeCuestiones);
     muestraPasos();
 }
 

@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QWidget>
+#include <functional>
 
 class NavegadorPagina;
 class PanelDePasos;
@@ -30,6 +31,9 @@ public:
     /// Opens the help page in the system's browser, in the language of the interface where it has
     /// been translated.
     void muestraAyuda() const;
+
+    /// Gives the topic of questions a button that goes on to more exercises.
+    void ofrecePracticas(const std::function<void()> &practica);
 
     /// Closes the window as its close button would.
     void cierra();
@@ -80,6 +84,7 @@ private:
     void teclaDePasos();
     PanelDePasos *pasosALaVista() const;
     void preparaPasos();
+    void preparaPracticas();
     void muestraPasos();
     Tarea<> pideCierre();
     QAbstractButton *botonEnMarcha() const;
@@ -88,6 +93,8 @@ private:
     QString m_pagina;
     QTabBar *m_tsTema;
     QToolButton *m_cmdPasos;
+    QToolButton *m_cmdPracticas;
+    bool m_hayPracticas = false;
     QStackedWidget *m_paneles;
     std::shared_ptr<Parada> m_parada = std::make_shared<Parada>();
     bool m_cierrePermitido = false;

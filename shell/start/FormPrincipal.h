@@ -30,12 +30,18 @@ public:
     /// Shuts the big-number service down.
     ~FormPrincipal() override;
 
-    /// Row of the spreadsheet in `abreLeccion`.
+    /// Rows of the spreadsheet and of the practice window in `abreLeccion`.
     static constexpr int FilaHojaDeCalculo = -1;
+    static constexpr int FilaPracticas = -2;
 
     /// Opens the window of a row of the menu, or brings the existing one to the front; null for a
     /// row that does not exist or has no lesson yet.
     FormLeccion *abreLeccion(int fila);
+
+    /// Opens the practice window on a lesson, a kind of exercise at a level (0: the one that is
+    /// next), or with no key on what is due (VentanaDePracticas). A sentence for the student where
+    /// there is no such thing.
+    QString practica(const QString &clave = {}, int nivel = 0);
 
     /// The lesson in the active child window, or null.
     FormLeccion *leccionActiva() const;
@@ -61,6 +67,7 @@ private:
     void preparaAspecto();
     void recuperaTamano();
     void anotaTamanos();
+    const Leccion *ventanaDe(int fila) const;
     void colocaVentana(FormLeccion *leccion);
     QList<QPointer<FormLeccion>> abiertas() const;
     Tarea<> pideCierre();
@@ -75,6 +82,8 @@ private:
     void mnuCerrar_Click();
     void mnuOtroPanel_Click();
     void mnuDepartamento_Click();
+    void mnuPracticas_Click();
+    void invitaAPracticar();
     void cambiaLetra(int pasos);
 
     std::unique_ptr<Ui::FormPrincipal> ui;
@@ -83,6 +92,7 @@ private:
     PanelBienvenida *m_bienvenida;
     QList<Leccion> m_lecciones;
     Leccion m_hojaDeCalculo;
+    VentanaDePracticas m_practicas;
     QHash<int, QPointer<FormLeccion>> m_abiertas;
     QTimer *m_timerPresentacion;
     QTimer *m_timerLogo;

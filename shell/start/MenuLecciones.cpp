@@ -54,6 +54,12 @@ void MenuLecciones::ponResaltado(int fila, bool resaltado)
     Q_EMIT dataChanged(index(fila), index(fila), {PapelResaltado});
 }
 
+void MenuLecciones::ponDescripcion(int fila, const QString &descripcion)
+{
+    m_lecciones[fila].descripcion = descripcion;
+    Q_EMIT dataChanged(index(fila), index(fila), {PapelDescripcion, Qt::ToolTipRole});
+}
+
 void PintorDeMenu::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
                          const QModelIndex &indice) const
 {

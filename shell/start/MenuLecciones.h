@@ -22,6 +22,8 @@ public:
     Qt::ItemFlags flags(const QModelIndex &indice) const override;
 
     void ponResaltado(int fila, bool resaltado);
+    /// Another description, in the interface's language.
+    void ponDescripcion(int fila, const QString &descripcion);
 
 private:
     QList<Leccion> m_lecciones;
