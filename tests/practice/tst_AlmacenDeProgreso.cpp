@@ -38,7 +38,8 @@ private Q_SLOTS:
         QCOMPARE(hechos[0].notas, (QStringList{u"mcm"_s, u"no-divide"_s}));
         QCOMPARE(hechos[0].estado, EstadoDeEjercicio::Acertado);
         QCOMPARE(hechos[0].hoja, u"MD7-4K2Q"_s);
-        QCOMPARE(std::tuple(hechos[0].intentos, hechos[0].pistas, hechos[0].dia), std::tuple(3, 1, 2460000));
+        QCOMPARE(std::tuple(hechos[0].intentos, hechos[0].pistas, hechos[0].dia),
+                 std::tuple(3, 1, 2460000));
         QCOMPARE(hechos[1].clave, u"primos.factores"_s);
     }
 
@@ -87,8 +88,7 @@ private Q_SLOTS:
             another file | texto
             cut off | corte
             bytes turned | bytes
-            other tables | tablas
-        )"_s);
+            other tables | tablas)"_s);
     }
     void loDanadoSeAparta()
     {
@@ -171,8 +171,7 @@ private:
 
     static Hecho hechoDe(const QString &clave)
     {
-        return {clave,      2,    EstadoDeEjercicio::Fallado, 1,
-                1,          {u"mcm"_s}, 4200,
+        return {clave,         2,      EstadoDeEjercicio::Fallado, 1, 1, {u"mcm"_s}, 4200,
                 u"MD7-4K2Q"_s, 2460000};
     }
 

@@ -33,8 +33,7 @@ private Q_SLOTS:
             a failed review begins again | 90++ 91++ 92+ 100x | 1 | 2 | 0 | mañana
             all four reviews | 1++ 2++ 3+ 6+ 13+ 34+ | 1 | 2 | 0 | —
             before its day a review changes nothing | 90++ 100++++ | 1 | 2 | 0 | mañana
-            the clock has been set back | 500++ 501++ | 1 | 2 | 0 | hoy
-        )"_s);
+            the clock has been set back | 500++ 501++ | 1 | 2 | 0 | hoy)"_s);
     }
     void elDominio()
     {
@@ -61,8 +60,7 @@ private Q_SLOTS:
             on with what was begun last | b 99+, c 100x | c | 1
             the review first | c 100+, b 90++ 91++ | b | 1
             something new after a level | a 99++ 100++ | b | 1
-            the next level when all was tried | a 99++ 100++, b 99++ 100++, c 98++ 99++ 100+ | a | 2
-        )"_s);
+            the next level when all was tried | a 99++ 100++, b 99++ 100++, c 98++ 99++ 100+ | a | 2)"_s);
     }
     void loQueToca()
     {
@@ -89,8 +87,7 @@ private Q_SLOTS:
             right, then a hint | 12 ? | 3 | 1 | 0 | yes
             three hints are two | ? ? ? 12 | 3 | 1 | 2 | no
             solution, then right | ! 12 | 2 | 0 | 0 | no
-            right, then the solution | 12 ! | 3 | 1 | 0 | yes
-        )"_s);
+            right, then the solution | 12 ! | 3 | 1 | 0 | yes)"_s);
     }
     void unEjercicio()
     {

@@ -92,8 +92,7 @@ private Q_SLOTS:
 
         tema(u"historia"_s);
         control<QLineEdit>(m_ventana.get(), u"txtAlumno"_s)->setText(u"Ana"_s);
-        Entorno::grabadora().archivos
-            << Interlocutor::Archivo{carpeta.filePath(u"ana.csv"_s), 0};
+        Entorno::grabadora().archivos << Interlocutor::Archivo{carpeta.filePath(u"ana.csv"_s), 0};
         pulsa(u"cmdExportar"_s);
         tema(u"clase"_s);
         Entorno::grabadora().respuestas << carpeta.path();

@@ -33,9 +33,11 @@ private Q_SLOTS:
                         sorteo.de(banco()).clave, static_cast<int>(sorteo.entre(1, Niveles))};
             }
             const QString codigo = codigoDeHoja(encargo);
-            for (const QString &escrito :
-                 {codigo, codigo.toLower(), QString(codigo).remove(u'-'),
-                  u' ' + QString(codigo).replace(u'-', u' ').replace(u'0', u'O').replace(u'1', u'l')}) {
+            for (const QString &escrito : {codigo, codigo.toLower(), QString(codigo).remove(u'-'),
+                                           u' ' + QString(codigo)
+                                                      .replace(u'-', u' ')
+                                                      .replace(u'0', u'O')
+                                                      .replace(u'1', u'l')}) {
                 const auto leido = leeCodigoDeHoja(escrito);
                 QVERIFY2(std::holds_alternative<EncargoDeHoja>(leido), qPrintable(escrito));
                 QCOMPARE(std::get<EncargoDeHoja>(leido), encargo);
@@ -128,16 +130,14 @@ private Q_SLOTS:
             a negative one | euclides.mcd;1;acertado;-1;0;1;2026-01-01;
             a day | euclides.mcd;1;acertado;1;0;1;ayer;
             a note | euclides.mcd;1;acertado;1;0;1;2026-01-01;<b>mal</b>
-            columns | euclides.mcd;1
-        )"_s);
+            columns | euclides.mcd;1)"_s);
     }
     void losArchivosHostilesSeRechazan()
     {
         const auto fila = estaFila<QByteArray>();
         const QByteArray cabecera = resultadosEnCsv({u"Ana"_s, {}});
-        const QByteArray archivo = fila.count(';') > 0 && !fila.startsWith("numora")
-                                       ? cabecera + ';' + fila + "\n"
-                                       : fila;
+        const QByteArray archivo =
+            fila.count(';') > 0 && !fila.startsWith("numora") ? cabecera + ';' + fila + "\n" : fila;
         const auto leido = leeResultados(archivo);
         QVERIFY(std::holds_alternative<QString>(leido));
         QVERIFY(!std::get<QString>(leido).isEmpty());
