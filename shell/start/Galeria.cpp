@@ -93,6 +93,7 @@ public:
         for (int fila = 0; fila < m_contenido.lecciones.size(); ++fila)
             retrataEscenas(m_contenido.lecciones[fila], fila);
         retrataEscenas(m_contenido.hojaDeCalculo, FormPrincipal::FilaHojaDeCalculo);
+        retrataEscenas(m_contenido.practicas.ventana, FormPrincipal::FilaPracticas);
         return m_bien;
     }
 
@@ -224,6 +225,7 @@ int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
     const QString copia = deUsarYTirar.filePath(u"Numora"_s);
     copiaCarpetaDeTrabajo(rutaExistente(Sesión().carpeta()), copia);
     Sesión().ponCarpeta(copia);
+    Sesión().ponCarpetaDeDatos(deUsarYTirar.filePath(u"Datos"_s));
     QDir::setCurrent(copia);
     ImgSiguiente() = Icono(u"SIGUIENTE"_s);
     ImgStop() = Icono(u"STOP"_s);

@@ -115,6 +115,8 @@ void Entorno::limpia()
     const QStringList copias = ajustesPropios.entryList({u"*.copia"_s}, QDir::Files);
     for (const QString &copia : copias)
         ajustesPropios.remove(copia);
+    Sesión().ponCarpetaDeDatos(ajustes->filePath(u"datos"_s));
+    QDir(Sesión().carpetaDeDatos()).removeRecursively();
     ponInterlocutor(std::make_unique<Grabadora>());
     IniciaBignum(100);
 }
