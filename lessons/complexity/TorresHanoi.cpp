@@ -5,8 +5,6 @@ TorresHanoi::TorresHanoi(int discos) : m_discos(discos)
 {
     for (int disco = discos; disco >= 1; --disco)
         m_palos[0] << disco;
-    m_movimientos.reserve((1 << discos) - 1);
-    traslada(discos, 0, 2);
 }
 
 const QList<int> &TorresHanoi::palo(int indice) const
@@ -14,36 +12,70 @@ const QList<int> &TorresHanoi::palo(int indice) const
     return m_palos.at(static_cast<std::size_t>(indice));
 }
 
-/// Writes down the moves that take so many discs from a pole to another.
-void TorresHanoi::traslada(int discos, int desde, int hasta)
+int TorresHanoi::paloDe(int disco) const
 {
-    if (discos == 0)
+    return m_palos[0].contains(disco) ? 0 : m_palos[1].contains(disco) ? 1 : 2;
+}
+
+int TorresHanoi::destino(int disco) const
+{
+    int destino = 2;
+    for (int mayor = m_discos; mayor > disco; --mayor) {
+        const int suyo = paloDe(mayor);
+        if (suyo != destino)
+            destino = NumPalos - suyo - destino;
+    }
+    return destino;
+}
+
+int TorresHanoi::faltan() const
+{
+    int faltan = 0;
+    for (int disco = 1; disco <= m_discos; ++disco)
+        faltan += paloDe(disco) == destino(disco) ? 0 : 1 << (disco - 1);
+    return faltan;
+}
+
+std::optional<MovimientoHanoi> TorresHanoi::siguiente() const
+{
+    for (int disco = 1; disco <= m_discos; ++disco) {
+        if (paloDe(disco) != destino(disco))
+            return MovimientoHanoi{disco, paloDe(disco), destino(disco)};
+    }
+    return {};
+}
+
+ReparoHanoi TorresHanoi::reparo(int desde, int hasta) const
+{
+    if (palo(desde).isEmpty())
+        return ReparoHanoi::PaloVacio;
+    const bool sobreMenor = !palo(hasta).isEmpty() && palo(hasta).last() < palo(desde).last();
+    return sobreMenor ? ReparoHanoi::DiscoMenor : ReparoHanoi::Ninguno;
+}
+
+void TorresHanoi::mueve(int desde, int hasta)
+{
+    if (desde == hasta || reparo(desde, hasta) != ReparoHanoi::Ninguno)
         return;
-    const int otro = NumPalos - desde - hasta;
-    traslada(discos - 1, desde, otro);
-    m_movimientos << MovimientoHanoi{discos, desde, hasta};
-    traslada(discos - 1, otro, hasta);
+    m_movimientos << MovimientoHanoi{palo(desde).last(), desde, hasta};
+    traslada(desde, hasta);
 }
 
 void TorresHanoi::avanza()
 {
-    if (terminado())
-        return;
-    const MovimientoHanoi &siguiente = m_movimientos.at(m_hechos);
-    mueve(siguiente.desde, siguiente.hasta);
-    ++m_hechos;
+    if (const auto movimiento = siguiente())
+        mueve(movimiento->desde, movimiento->hasta);
 }
 
 void TorresHanoi::retrocede()
 {
-    if (m_hechos == 0)
+    if (m_movimientos.isEmpty())
         return;
-    --m_hechos;
-    const MovimientoHanoi &ultimo = m_movimientos.at(m_hechos);
-    mueve(ultimo.hasta, ultimo.desde);
+    const MovimientoHanoi ultimo = m_movimientos.takeLast();
+    traslada(ultimo.hasta, ultimo.desde);
 }
 
-void TorresHanoi::mueve(int desde, int hasta)
+void TorresHanoi::traslada(int desde, int hasta)
 {
     m_palos.at(static_cast<std::size_t>(hasta))
         << m_palos.at(static_cast<std::size_t>(desde)).takeLast();

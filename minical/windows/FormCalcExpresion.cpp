@@ -17,7 +17,7 @@ FormCalcExpresion::FormCalcExpresion(QWidget *padre)
     : QWidget(padre), m_lblCelda(new QLabel(this)), m_txtExpresion(new FormCalcCampo(this))
 {
     m_lblCelda->setObjectName(u"lblCelda"_s);
-    m_lblCelda->setAccessibleName(Traduce(u"Celda actual"_s));
+    m_lblCelda->setAccessibleDescription(Traduce(u"Celda actual"_s));
     m_lblCelda->setAlignment(Qt::AlignCenter);
     m_lblCelda->setFont(letraDeHoja());
     m_lblCelda->setMinimumWidth(m_lblCelda->fontMetrics().horizontalAdvance(u"  Y99  "_s));

@@ -113,6 +113,11 @@ void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidge
 {
     const int indice =
         m_paneles->addWidget(pasos ? new SeparadorDePasos(panel, pasos, m_paneles) : panel);
+    if (pasos)
+        conecta(pasos, &PanelDePasos::pedido, this, [this] {
+            m_cmdPasos->setChecked(true);
+            cmdPasos_Click(true);
+        });
     panel->setObjectName(u"PanelFicha_%1"_s.arg(indice));
     m_tsTema->addTab(Traduce(rotulo));
     m_tsTema->setTabData(indice, clave);

@@ -3,14 +3,25 @@
 
 #include "shell/plot/Encuadre.h"
 #include "shell/plot/ReglasDeGrafica.h"
+#include "shell/plot/TrazoDeGrafica.h"
 
 #include <QList>
 #include <QWidget>
 
 class EjeDeGrafica;
+class PintorDeGrafica;
 
-/// A plot of a function of whole numbers: axes (`EjeX`, `EjeY`), points joined by thin lines, and
-/// under the mouse two rulers (`ReglaHorizontal`, `ReglaVertical`) with their coordinates
+/// Points of one kind among others, with a line to compare them with; none when its ends are equal.
+struct SerieDeGrafica
+{
+    QString nombre;
+    QList<QPointF> puntos; ///< by rising x
+    QPointF rectaDesde = {};
+    QPointF rectaHasta = {};
+};
+
+/// A plot of a function of whole numbers: axes (`EjeX`, `EjeY`), points joined by thin lines or
+/// not, and under the mouse two rulers (`ReglaHorizontal`, `ReglaVertical`) with their coordinates
 /// (`LabelX`, `LabelY`). The point nearest to the pointer, or chosen with the arrow keys, is marked
 /// (`PuntoFunción`). The wheel and the keys + and - zoom, dragging pans, a double click or the key
 /// Home shows everything again.
@@ -23,11 +34,19 @@ public:
 
     /// The points, by rising x, and the part of the plane that holds them, which is shown whole.
     void ponPuntos(const QList<QPointF> &puntos, const QRectF &limites);
+    /// Several kinds of points in one plot, each in a colour of its own that a legend tells. Among
+    /// the points that can be marked they stand by rising x, at one x in the order of the series.
+    void ponSeries(const QList<SerieDeGrafica> &series, const QRectF &limites);
     /// A stretch of x that stands out; nothing when its ends are equal.
     void ponTramo(qreal desde, qreal hasta);
     /// A straight line to compare the points with, dashed; none when its ends are equal. Like the
     /// stretch, it goes when other points come.
     void ponRecta(QPointF desde, QPointF hasta);
+    /// From `inicio` on the points repeat themselves every `longitud`: each turn takes the other of
+    /// two colours, and those before stand pale. All alike again when other points come.
+    void ponPeriodo(qreal inicio, qreal longitud);
+    /// Whether lines join the points; true at first.
+    void ponUnida(bool unida);
     void borra();
 
     /// What is shown while there are no points.
@@ -68,13 +87,17 @@ private:
     void colocaPunto();
     void eligePunto(int indice);
     int puntoCercano(qreal x) const;
+    void pintaSeries(PintorDeGrafica &dibujo) const;
+    void pintaFuncion(PintorDeGrafica &dibujo) const;
 
     Encuadre m_encuadre;
     QList<QPointF> m_puntos;
+    QList<SerieDeGrafica> m_series; ///< where there are several: the points of all are m_puntos
     QString m_textoVacio;
     qreal m_tramoDesde = 0;
     qreal m_tramoHasta = 0;
     QPointF m_rectaDesde, m_rectaHasta;
+    TrazoDeGrafica m_trazo;
     QPointF m_agarre;
     int m_senalado = -1;
 

@@ -72,6 +72,7 @@ void FormPrincipal::preparaMenu(const Contenido &contenido)
     menu->installEventFilter(this);
     m_bienvenida = new PanelBienvenida(m_menu, this);
     ui->AreaDeTrabajo->ponBienvenida(m_bienvenida);
+    connect(ui->AreaDeTrabajo, &QMdiArea::subWindowActivated, this, &FormPrincipal::marcaLecciones);
     conecta(m_bienvenida, &PanelBienvenida::elegida, this, &FormPrincipal::abreLeccion);
     conecta(menu, &QListView::clicked, this, &FormPrincipal::FlexMenu_Click);
     conecta(menu->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -129,6 +130,16 @@ void FormPrincipal::preparaAspecto()
         });
     }
     ui->AreaDeTrabajo->setBackground(palette().alternateBase());
+    ui->mnuSinMovimiento->setChecked(Aspecto::movimientoReducido());
+    conecta(ui->mnuSinMovimiento, &QAction::toggled, this, &FormPrincipal::mnuSinMovimiento_Click);
+}
+
+void FormPrincipal::mnuSinMovimiento_Click(bool reducido)
+{
+    Aspecto::ponMovimientoReducido(reducido);
+    Sesión().anota(u"Ventana/MovimientoReducido"_s, reducido);
+    if (reducido)
+        ui->AniLogo->para();
 }
 
 void FormPrincipal::recuperaTamano()

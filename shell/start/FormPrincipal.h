@@ -59,6 +59,7 @@ private:
     void preparaMenu(const Contenido &contenido);
     void preparaOrdenes();
     void preparaAspecto();
+    void marcaLecciones();
     void recuperaTamano();
     void anotaTamanos();
     void colocaVentana(FormLeccion *leccion);
@@ -73,6 +74,7 @@ private:
     void calc_Click();
     void Algoritmos_Click();
     void mnuCerrar_Click();
+    void mnuSinMovimiento_Click(bool reducido);
     void mnuOtroPanel_Click();
     void mnuDepartamento_Click();
     void cambiaLetra(int pasos);

@@ -3,6 +3,7 @@
 
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/FormLeccion.h"
+#include "shell/start/MenuLecciones.h"
 #include "ui_FormPrincipal.h"
 
 #include <QCloseEvent>
@@ -35,7 +36,10 @@ FormLeccion *FormPrincipal::abreLeccion(int fila)
     QPointer<FormLeccion> &abierta = m_abiertas[fila];
     if (!abierta) {
         abierta = leccion.crea(nullptr);
-        connect(abierta, &FormLeccion::descargada, this, [this, fila] { m_abiertas.remove(fila); });
+        connect(abierta, &FormLeccion::descargada, this, [this, fila] {
+            m_abiertas.remove(fila);
+            marcaLecciones();
+        });
         colocaVentana(abierta);
     }
     auto *ventana = qobject_cast<QMdiSubWindow *>(abierta->parentWidget());
@@ -72,6 +76,18 @@ FormLeccion *FormPrincipal::leccionActiva() const
     const QMdiSubWindow *ventana = ui->AreaDeTrabajo->currentSubWindow();
     return ventana && ventana->isVisible() ? qobject_cast<FormLeccion *>(ventana->widget())
                                            : nullptr;
+}
+
+/// The rows of the menu tell which lessons are open, and which one is in front.
+void FormPrincipal::marcaLecciones()
+{
+    const FormLeccion *activa = leccionActiva();
+    for (int fila = 0; fila < m_lecciones.size(); ++fila) {
+        const QPointer<FormLeccion> leccion = m_abiertas.value(fila);
+        m_menu->ponMarca(fila, !leccion            ? MenuLecciones::Cerrada
+                               : leccion == activa ? MenuLecciones::Activa
+                                                   : MenuLecciones::Abierta);
+    }
 }
 
 /// Sizes are noted a moment after they have changed, so that the end of the program writes nothing.

@@ -131,6 +131,8 @@ private:
 
     void retrata(const Escena &escena, int fila)
     {
+        // What a scene before has left pressed is not what this one finds.
+        Sesión().anota(u"Pasos/Todos"_s, false);
         FormLeccion *leccion = m_principal.abreLeccion(fila);
         if (!leccion)
             return;

@@ -8,8 +8,13 @@
 #include <QApplication>
 #include <QPainter>
 
+using namespace Qt::Literals::StringLiterals;
+
 MenuLecciones::MenuLecciones(const QList<Leccion> &lecciones, QObject *padre)
-    : QAbstractListModel(padre), m_lecciones(lecciones), m_resaltadas(lecciones.size(), false)
+    : QAbstractListModel(padre),
+      m_lecciones(lecciones),
+      m_resaltadas(lecciones.size(), false),
+      m_marcas(lecciones.size(), Cerrada)
 {
 }
 
@@ -25,8 +30,13 @@ QVariant MenuLecciones::data(const QModelIndex &indice, int papel) const
     const Leccion &leccion = m_lecciones[indice.row()];
     switch (papel) {
     case Qt::DisplayRole:
-    case Qt::AccessibleTextRole:
         return Traduce(leccion.rotulo);
+    case Qt::AccessibleTextRole:
+        return m_marcas[indice.row()] == Cerrada
+                   ? Traduce(leccion.rotulo)
+                   : Traduce(m_marcas[indice.row()] == Activa ? u"%1, en primer plano"_s
+                                                              : u"%1, abierta"_s)
+                         .arg(Traduce(leccion.rotulo));
     case Qt::DecorationRole:
         return Icono(leccion.icono);
     case Qt::ToolTipRole:
@@ -35,6 +45,8 @@ QVariant MenuLecciones::data(const QModelIndex &indice, int papel) const
         return Traduce(leccion.descripcion);
     case PapelResaltado:
         return m_resaltadas[indice.row()];
+    case PapelMarca:
+        return m_marcas[indice.row()];
     default:
         return {};
     }
@@ -54,6 +66,27 @@ void MenuLecciones::ponResaltado(int fila, bool resaltado)
     Q_EMIT dataChanged(index(fila), index(fila), {PapelResaltado});
 }
 
+void MenuLecciones::ponMarca(int fila, Marca marca)
+{
+    if (fila < 0 || fila >= rowCount() || m_marcas[fila] == marca)
+        return;
+    m_marcas[fila] = marca;
+    Q_EMIT dataChanged(index(fila), index(fila), {PapelMarca, Qt::AccessibleTextRole});
+}
+
+void PintorDeMenu::pintaMarca(QPainter &pintor, const QRect &cuadro, MenuLecciones::Marca marca)
+{
+    if (marca == MenuLecciones::Cerrada)
+        return;
+    pintor.setPen(Qt::NoPen);
+    pintor.setBrush(Aspecto::acento());
+    if (marca == MenuLecciones::Activa)
+        pintor.drawRoundedRect(QRect(cuadro.left(), cuadro.top() + 6, 4, cuadro.height() - 12), 2,
+                               2);
+    else
+        pintor.drawEllipse(QPoint(cuadro.right() - 8, cuadro.center().y()), 3, 3);
+}
+
 void PintorDeMenu::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
                          const QModelIndex &indice) const
 {
@@ -70,12 +103,8 @@ void PintorDeMenu::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
     pintor->setPen(enfocado ? QPen(Aspecto::acento(), 1.5) : QPen(Qt::NoPen));
     pintor->setBrush(velo);
     pintor->drawRoundedRect(cuadro, 6, 6);
-    if (resaltado) {
-        pintor->setPen(Qt::NoPen);
-        pintor->setBrush(Aspecto::acento());
-        pintor->drawRoundedRect(QRect(cuadro.left(), cuadro.top() + 6, 4, cuadro.height() - 12), 2,
-                                2);
-    }
+    pintaMarca(*pintor, cuadro,
+               static_cast<MenuLecciones::Marca>(indice.data(MenuLecciones::PapelMarca).toInt()));
 
     const int lado = opcion.decorationSize.height();
     const QRect icono(cuadro.left() + 8, cuadro.center().y() - lado / 2 + 1, lado, lado);
@@ -85,7 +114,7 @@ void PintorDeMenu::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
 
     const auto grupo = activo ? QPalette::Normal : QPalette::Disabled;
     pintor->setPen(opcion.palette.color(grupo, QPalette::Text));
-    const QRect letrero = cuadro.adjusted(lado + 18, 0, -6, 0);
+    const QRect letrero = cuadro.adjusted(lado + 18, 0, -16, 0);
     const QString texto =
         opcion.fontMetrics.elidedText(indice.data().toString(), Qt::ElideRight, letrero.width());
     pintor->drawText(letrero, Qt::AlignVCenter | Qt::AlignLeft, texto);
@@ -96,5 +125,5 @@ QSize PintorDeMenu::sizeHint(const QStyleOptionViewItem &opcion, const QModelInd
 {
     const int alto = std::max(opcion.decorationSize.height(), opcion.fontMetrics.height()) + 16;
     const int ancho = opcion.fontMetrics.horizontalAdvance(indice.data().toString());
-    return {ancho + opcion.decorationSize.width() + 40, alto};
+    return {ancho + opcion.decorationSize.width() + 50, alto};
 }

@@ -7,13 +7,16 @@
 #include <QStyledItemDelegate>
 
 /// The lessons, as the rows of the menu and as the cards of the welcome. Each row has its highlight
-/// style, switched on and off by the window.
+/// style, switched on and off by the window, and the mark of a window that is open or in front.
 class MenuLecciones : public QAbstractListModel
 {
 public:
     static constexpr int PapelResaltado = Qt::UserRole;
     /// What the lesson teaches, in a line.
     static constexpr int PapelDescripcion = Qt::AccessibleDescriptionRole;
+
+    enum Marca { Cerrada, Abierta, Activa };
+    static constexpr int PapelMarca = Qt::UserRole + 1;
 
     explicit MenuLecciones(const QList<Leccion> &lecciones, QObject *padre = nullptr);
 
@@ -22,13 +25,16 @@ public:
     Qt::ItemFlags flags(const QModelIndex &indice) const override;
 
     void ponResaltado(int fila, bool resaltado);
+    void ponMarca(int fila, Marca marca);
 
 private:
     QList<Leccion> m_lecciones;
     QList<bool> m_resaltadas;
+    QList<Marca> m_marcas;
 };
 
-/// Paints a row of the menu: picture, caption, and a rounded ground where it is highlighted.
+/// Paints a row of the menu: picture, caption, a rounded ground where it is highlighted; a bar for
+/// the lesson in front, a dot for one that is open.
 class PintorDeMenu : public QStyledItemDelegate
 {
 public:
@@ -36,4 +42,7 @@ public:
     void paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
                const QModelIndex &indice) const override;
     QSize sizeHint(const QStyleOptionViewItem &opcion, const QModelIndex &indice) const override;
+
+private:
+    static void pintaMarca(QPainter &pintor, const QRect &cuadro, MenuLecciones::Marca marca);
 };

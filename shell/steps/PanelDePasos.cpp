@@ -43,8 +43,16 @@ PanelDePasos::~PanelDePasos() = default;
 void PanelDePasos::pon(const Pasos &pasos)
 {
     m_pasos = pasos;
-    if (ui)
+    m_porMostrar = true;
+    if (ui && isVisible())
         muestra();
+}
+
+void PanelDePasos::continua(const Pasos &pasos)
+{
+    pon(pasos);
+    if (ui && !pasos.vacios())
+        vaA(static_cast<int>(pasos.cuantos()) - 1);
 }
 
 void PanelDePasos::enfoca()
@@ -55,10 +63,10 @@ void PanelDePasos::enfoca()
 
 void PanelDePasos::showEvent(QShowEvent *suceso)
 {
-    if (!ui) {
+    if (!ui)
         construye();
+    if (m_porMostrar)
         muestra();
-    }
     QWidget::showEvent(suceso);
 }
 
@@ -122,6 +130,7 @@ void PanelDePasos::conectaBotones()
 
 void PanelDePasos::muestra()
 {
+    m_porMostrar = false;
     rueda(false);
     m_delegado->olvida();
     m_modelo->pon(m_pasos, ui->cmdTodosLosPasos->isChecked() ? m_pasos.cuantos() : 1);

@@ -9,6 +9,7 @@ QList<Escena> escenasRecursion1()
     const Gesto mueve{u"cmdMover"_s, {}};
     const Gesto disco{u"cmdSiguienteMovimiento"_s, {}};
     const Gesto llamada{u"cmdSiguienteLlamada"_s, {}};
+    const Gesto pasos{u"cmdTodosLosPasos"_s, {}};
     return {{u"recursion1-introduccion"_s, u"intro"_s},
             {u"recursion1-fibonacci-vacia"_s, u"fibonacci"_s},
             {u"recursion1-fibonacci"_s, u"fibonacci"_s, {mide}},
@@ -19,13 +20,16 @@ QList<Escena> escenasRecursion1()
              u"fibonacci"_s,
              {{u"TxtHasta"_s, u"45"_s}, mide},
              true},
+            {u"recursion1-fibonacci-pasos"_s, u"fibonacci"_s, {mide, pasos}},
             {u"recursion1-arbol"_s, u"arbol"_s},
             {u"recursion1-arbol-paso"_s,
              u"arbol"_s,
              {llamada, llamada, llamada, llamada, llamada, llamada, llamada, llamada}},
             {u"recursion1-arbol-memoria"_s, u"arbol"_s, {{u"chkMemoria"_s, {}}}},
+            {u"recursion1-arbol-pasos"_s, u"arbol"_s, {pasos}},
             {u"recursion1-hanoi"_s, u"hanoi"_s},
             {u"recursion1-hanoi-paso"_s, u"hanoi"_s, {disco, disco, disco, disco, disco}},
+            {u"recursion1-hanoi-pasos"_s, u"hanoi"_s, {disco, disco, disco, disco, disco, pasos}},
             {u"recursion1-hanoi-en-marcha"_s, u"hanoi"_s, {mueve}},
             {u"recursion1-cuestiones"_s, u"cuestiones"_s},
             {u"recursion1-cuestiones-juzgada"_s,

@@ -17,9 +17,12 @@ FormRecursión1::FormRecursión1(QWidget *padre) : FormLeccion(u"Recursión1.htm
     setWindowTitle(Traduce(u"Recursión y complejidad"_s));
     setWindowIcon(Icono(u"RECURSION"_s));
     agregaIntroduccion(u"Introducción"_s);
-    agregaTema(u"Fibonacci"_s, u"fibonacci"_s, new FormRecursion1Fibonacci(this));
-    agregaTema(u"Árbol de llamadas"_s, u"arbol"_s, new FormRecursion1Arbol(this));
-    agregaTema(u"Torres de Hanói"_s, u"hanoi"_s, new FormRecursion1Hanoi(this));
+    auto *fibonacci = new FormRecursion1Fibonacci(this);
+    auto *arbol = new FormRecursion1Arbol(this);
+    auto *hanoi = new FormRecursion1Hanoi(this);
+    agregaTema(u"Fibonacci"_s, u"fibonacci"_s, fibonacci, fibonacci->pasos());
+    agregaTema(u"Árbol de llamadas"_s, u"arbol"_s, arbol, arbol->pasos());
+    agregaTema(u"Torres de Hanói"_s, u"hanoi"_s, hanoi, hanoi->pasos());
     agregaTema(u"Cuestiones"_s, u"cuestiones"_s,
                new PanelCuestiones(sorteaLlamadas, sorteaHanoi, this));
 }

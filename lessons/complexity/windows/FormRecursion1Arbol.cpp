@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/complexity/windows/FormRecursion1Arbol.h"
 
+#include "lessons/complexity/PasosDeLlamadas.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormRecursion1Arbol.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -30,7 +32,9 @@ QString leyenda(int llamadas, int repetidas)
 } // namespace
 
 FormRecursion1Arbol::FormRecursion1Arbol(QWidget *padre)
-    : QWidget(padre), ui(std::make_unique<Ui::FormRecursion1Arbol>())
+    : QWidget(padre),
+      ui(std::make_unique<Ui::FormRecursion1Arbol>()),
+      m_pasos(new PanelDePasos(u"Árbol de llamadas"_s, this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -58,6 +62,7 @@ void FormRecursion1Arbol::SpinN_Change()
     ui->sldLlamadas->setRange(0, total);
     ui->sldLlamadas->setValue(total);
     sldLlamadas_Change(total);
+    m_pasos->pon(pasosDeLlamadas(ui->SpinN->value(), ui->chkMemoria->isChecked()));
 }
 
 /// From the last call it starts again.

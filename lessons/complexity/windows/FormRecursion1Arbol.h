@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <memory>
 
+class PanelDePasos;
+
 namespace Ui {
 class FormRecursion1Arbol;
 }
@@ -20,11 +22,14 @@ public:
     explicit FormRecursion1Arbol(QWidget *padre);
     ~FormRecursion1Arbol() override;
 
+    PanelDePasos *pasos() const { return m_pasos; }
+
 private:
     void SpinN_Change();
     void sldLlamadas_Change(int hechas);
     void cmdSiguienteLlamada_Click();
 
     std::unique_ptr<Ui::FormRecursion1Arbol> ui;
+    PanelDePasos *m_pasos;
     ArbolDeLlamadas m_arbol{1, false};
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/complexity/windows/FormRecursion1Fibonacci.h"
 
+#include "lessons/complexity/PasosDeLlamadas.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -8,6 +9,7 @@
 #include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormRecursion1Fibonacci.h"
 
 #include <algorithm>
@@ -31,6 +33,7 @@ FormRecursion1Fibonacci::FormRecursion1Fibonacci(FormLeccion *leccion)
       m_modelo({u"n"_s, u"F(n)"_s, Traduce(u"Recursiva: llamadas"_s), Traduce(u"tiempo"_s),
                 Traduce(u"Con memoria: llamadas"_s), Traduce(u"tiempo"_s),
                 Traduce(u"Iterativa: sumas"_s), Traduce(u"tiempo"_s)}),
+      m_pasos(new PanelDePasos(u"Fibonacci"_s, this)),
       m_tareas(this, leccion->parada())
 {
     ui->setupUi(this);
@@ -92,6 +95,7 @@ void FormRecursion1Fibonacci::limpia()
     ui->PicCrecimiento->borra();
     ui->lblAjuste->clear();
     ui->lblPunto->clear();
+    m_pasos->pon({});
 }
 
 Tarea<> FormRecursion1Fibonacci::mide(int hasta)
@@ -112,6 +116,7 @@ Tarea<> FormRecursion1Fibonacci::mide(int hasta)
         representa();
     }
     ui->lblAvance->clear();
+    m_pasos->pon(pasosDeLlamadas(hasta, false));
 }
 
 void FormRecursion1Fibonacci::agrega(int n, const MedidasDeFibonacci &medidas)

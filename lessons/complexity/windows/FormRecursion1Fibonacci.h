@@ -11,6 +11,7 @@
 #include <memory>
 
 class FormLeccion;
+class PanelDePasos;
 
 namespace Ui {
 class FormRecursion1Fibonacci;
@@ -27,6 +28,7 @@ public:
     ~FormRecursion1Fibonacci() override;
 
     Tareas &tareas() { return m_tareas; }
+    PanelDePasos *pasos() const { return m_pasos; }
 
 private:
     Tarea<> cmdMedir_Click();
@@ -45,6 +47,7 @@ private:
 
     std::unique_ptr<Ui::FormRecursion1Fibonacci> ui;
     ModeloFilas m_modelo;
+    PanelDePasos *m_pasos;
     QList<Medida> m_recursivas; ///< from n = 1 on
     std::optional<AjusteExponencial> m_ajuste;
     BotonDeCorrida *m_boton;

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/complexity/windows/FormRecursion1Hanoi.h"
 
+#include "lessons/complexity/PasosDeHanoi.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/frame/Anuncio.h"
 #include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormRecursion1Hanoi.h"
 
 #include <QHeaderView>
@@ -19,17 +23,26 @@ namespace {
 
 constexpr double PasoMasLento = 1500;
 
-QString nombreDe(int palo)
-{
-    return QChar(u'A' + palo);
-}
-
 QString cuantosHacenFalta(const TorresHanoi &torres)
 {
     if (torres.discos() == 1)
         return Traduce(u"Con un disco basta un movimiento."_s);
     return Traduce(u"Con %1 discos hacen falta 2^%1 − 1 = %2 movimientos."_s)
-        .arg(QString::number(torres.discos()), formatoEntero(qint64{torres.movimientos().size()}));
+        .arg(QString::number(torres.discos()), formatoEntero(qint64{torres.minimo()}));
+}
+
+/// How the moves made stand against the fewest; nothing to say before the first.
+QString cuenta(const TorresHanoi &torres)
+{
+    const qint64 hechos = torres.hechos();
+    const qint64 faltan = torres.faltan();
+    if (hechos == 0)
+        return {};
+    if (faltan > 0)
+        return u' ' + Traduce(u"Por hacer, como poco: %1."_s).arg(formatoEntero(faltan));
+    return u' ' + (hechos == torres.minimo() ? Traduce(u"Conseguido, y con los menos posibles."_s)
+                                             : Traduce(u"Conseguido, con %1 de más."_s)
+                                                   .arg(formatoEntero(hechos - torres.minimo())));
 }
 
 } // namespace
@@ -37,7 +50,8 @@ QString cuantosHacenFalta(const TorresHanoi &torres)
 FormRecursion1Hanoi::FormRecursion1Hanoi(QWidget *padre)
     : QWidget(padre),
       ui(std::make_unique<Ui::FormRecursion1Hanoi>()),
-      m_modelo({Traduce(u"N.º"_s), Traduce(u"Disco"_s), Traduce(u"De"_s), Traduce(u"A"_s)})
+      m_modelo({Traduce(u"N.º"_s), Traduce(u"Disco"_s), Traduce(u"De"_s), Traduce(u"A"_s)}),
+      m_pasos(new PanelDePasos(u"Torres de Hanói"_s, this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -59,6 +73,8 @@ FormRecursion1Hanoi::FormRecursion1Hanoi(QWidget *padre)
     conecta(ui->SpinDiscos, &QSpinBox::valueChanged, this, &FormRecursion1Hanoi::cmdEmpezar_Click);
     conecta(ui->sldVelocidad, &QSlider::valueChanged, this,
             &FormRecursion1Hanoi::sldVelocidad_Change);
+    conecta(ui->PicHanoi, &FormRecursion1DibujoHanoi::paloElegido, this,
+            &FormRecursion1Hanoi::PicHanoi_PaloElegido);
     auto *escape = new QShortcut(Qt::Key_Escape, this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     conecta(escape, &QShortcut::activated, this, &FormRecursion1Hanoi::para);
@@ -99,7 +115,45 @@ void FormRecursion1Hanoi::TimerHanoi_Timer()
 void FormRecursion1Hanoi::para()
 {
     m_timerHanoi.stop();
+    ui->PicHanoi->suelta();
+    ui->lblAvisoHanoi->clear();
     muestra();
+    m_pasos->pon(pasosDeHanoi(m_torres));
+}
+
+/// The first pole gives its highest disc, the second takes it.
+void FormRecursion1Hanoi::PicHanoi_PaloElegido(int palo)
+{
+    if (m_timerHanoi.isActive())
+        para();
+    ui->lblAvisoHanoi->clear();
+    const int desde = ui->PicHanoi->levantado();
+    if (desde >= 0) {
+        intenta(desde, palo);
+    } else if (m_torres.palo(palo).isEmpty()) {
+        muestraVeredicto(ui->lblAvisoHanoi, false,
+                         Traduce(u"En el palo %1 no hay ningún disco."_s).arg(nombreDePalo(palo)));
+        anuncia(ui->lblAvisoHanoi);
+    } else {
+        ui->PicHanoi->levanta(palo);
+    }
+}
+
+void FormRecursion1Hanoi::intenta(int desde, int hasta)
+{
+    if (m_torres.reparo(desde, hasta) == ReparoHanoi::DiscoMenor && desde != hasta) {
+        muestraVeredicto(
+            ui->lblAvisoHanoi, false,
+            Traduce(u"El disco %1 no puede ir al palo %2: quedaría sobre el %3, que es menor."_s)
+                .arg(m_torres.palo(desde).last())
+                .arg(nombreDePalo(hasta))
+                .arg(m_torres.palo(hasta).last()));
+        anuncia(ui->lblAvisoHanoi);
+        return;
+    }
+    m_torres.mueve(desde, hasta);
+    para();
+    anuncia(ui->lblMovimiento);
 }
 
 void FormRecursion1Hanoi::cmdSiguienteMovimiento_Click()
@@ -131,24 +185,30 @@ void FormRecursion1Hanoi::muestra()
     ui->cmdSiguienteMovimiento->setEnabled(!m_torres.terminado());
     ui->cmdAnterior->setEnabled(m_torres.hechos() > 0);
     ui->PicHanoi->muestra(&m_torres);
-    const QList<MovimientoHanoi> hechos = m_torres.movimientos().first(m_torres.hechos());
+    muestraMovimientos();
+    ui->lblMovimiento->setText(ultimoMovimiento() + cuantosHacenFalta(m_torres) + cuenta(m_torres));
+}
+
+void FormRecursion1Hanoi::muestraMovimientos()
+{
+    const QList<MovimientoHanoi> &hechos = m_torres.movimientos();
     if (m_modelo.rowCount() > hechos.size())
         m_modelo.ponFilas(m_modelo.filas().first(hechos.size()));
     for (qsizetype i = m_modelo.rowCount(); i < hechos.size(); ++i) {
         const MovimientoHanoi &movimiento = hechos.at(i);
         m_modelo.agrega({formatoEntero(qint64{i + 1}), QString::number(movimiento.disco),
-                         nombreDe(movimiento.desde), nombreDe(movimiento.hasta)});
+                         nombreDePalo(movimiento.desde), nombreDePalo(movimiento.hasta)});
     }
     ui->FlexMovimientos->scrollToBottom();
-    const QString total = cuantosHacenFalta(m_torres);
-    if (hechos.isEmpty()) {
-        ui->lblMovimiento->setText(total);
-        return;
-    }
-    const MovimientoHanoi &ultimo = hechos.last();
-    ui->lblMovimiento->setText(Traduce(u"Movimiento %1: el disco %2 pasa de %3 a %4. "_s)
-                                   .arg(formatoEntero(qint64{hechos.size()}))
-                                   .arg(ultimo.disco)
-                                   .arg(nombreDe(ultimo.desde), nombreDe(ultimo.hasta)) +
-                               total);
+}
+
+QString FormRecursion1Hanoi::ultimoMovimiento() const
+{
+    if (m_torres.hechos() == 0)
+        return {};
+    const MovimientoHanoi &ultimo = m_torres.movimientos().last();
+    return Traduce(u"Movimiento %1: el disco %2 pasa de %3 a %4. "_s)
+        .arg(formatoEntero(qint64{m_torres.hechos()}))
+        .arg(ultimo.disco)
+        .arg(nombreDePalo(ultimo.desde), nombreDePalo(ultimo.hasta));
 }

@@ -15,7 +15,8 @@ FormTCR::FormTCR(QWidget *padre) : FormLeccion(u"TCR.html"_s, padre)
     setWindowTitle(Traduce(u"Teorema chino del resto"_s));
     setWindowIcon(Icono(u"TCR"_s));
     agregaIntroduccion(u"Introducción"_s);
-    agregaTema(u"Sistemas de congruencias"_s, u"sistemas"_s, new FormTCRSistema(this));
+    auto *sistema = new FormTCRSistema(this);
+    agregaTema(u"Sistemas de congruencias"_s, u"sistemas"_s, sistema, sistema->pasos());
 
     // The window's timer has nothing to do on its ticks.
     auto *timer = new QTimer(this);

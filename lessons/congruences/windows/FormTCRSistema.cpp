@@ -3,6 +3,7 @@
 
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/congruences/ModeloCongruencias.h"
+#include "lessons/congruences/PasosDelTCR.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
@@ -11,6 +12,7 @@
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormTCRSistema.h"
 
 #include <QClipboard>
@@ -46,7 +48,8 @@ protected:
 FormTCRSistema::FormTCRSistema(QWidget *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormTCRSistema>()),
-      m_modelo(new ModeloCongruencias(this))
+      m_modelo(new ModeloCongruencias(this)),
+      m_pasos(new PanelDePasos(u"Teorema chino del resto"_s, this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -140,6 +143,7 @@ void FormTCRSistema::abreRespuesta()
     ui->txtSol1->setText({});
     ui->txtSol1->viewport()->setBackgroundRole(QPalette::Base);
     ui->lblAviso->clear();
+    m_pasos->pon({});
 }
 
 /// Where there is no solution the field says so as the service does, and the reason stands below.
@@ -151,6 +155,8 @@ void FormTCRSistema::cierraRespuesta(const Resolucion &resolucion)
     ui->cmdSol1->setEnabled(false);
     ui->txtSol1->setReadOnly(true);
     ui->txtSol1->viewport()->setBackgroundRole(QPalette::Button);
+    if (resolucion.desenlace != Resolucion::FueraDeAlcance)
+        m_pasos->pon(pasosDelTCR(m_modelo->sistema()));
 }
 
 /// A solution that was shown is none of the rows as they are now.

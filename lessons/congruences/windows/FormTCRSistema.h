@@ -7,6 +7,7 @@
 #include <memory>
 
 class ModeloCongruencias;
+class PanelDePasos;
 
 namespace Ui {
 class FormTCRSistema;
@@ -21,6 +22,8 @@ class FormTCRSistema : public QWidget
 public:
     explicit FormTCRSistema(QWidget *leccion);
     ~FormTCRSistema() override;
+
+    PanelDePasos *pasos() const { return m_pasos; }
 
 private:
     void preparaRejilla();
@@ -37,4 +40,5 @@ private:
 
     std::unique_ptr<Ui::FormTCRSistema> ui;
     ModeloCongruencias *m_modelo;
+    PanelDePasos *m_pasos;
 };

@@ -17,7 +17,8 @@ FormEuclides::FormEuclides(QWidget *padre)
     setWindowIcon(Icono(u"EUCLIDES"_s));
     agregaIntroduccion(u"Introducción"_s);
     agregaTema(u"Algoritmo de Euclides"_s, u"euclides"_s, m_tabla, m_tabla->pasos());
-    agregaTema(u"Ecuación diofántica"_s, u"diofantica"_s, new FormEuclidesDiofantica(this));
+    auto *ecuacion = new FormEuclidesDiofantica(this);
+    agregaTema(u"Ecuación diofántica"_s, u"diofantica"_s, ecuacion, ecuacion->pasos());
     agregaTema(u"Cuestiones"_s, u"cuestiones"_s, new FormEuclidesCuestiones(this));
 }
 

@@ -2,12 +2,14 @@
 #include "lessons/euclid/windows/FormEuclidesDiofantica.h"
 
 #include "lessons/euclid/ModeloSoluciones.h"
+#include "lessons/euclid/PasosDeEcuacion.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormEuclidesDiofantica.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,7 +17,8 @@ using namespace Qt::Literals::StringLiterals;
 FormEuclidesDiofantica::FormEuclidesDiofantica(QWidget *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormEuclidesDiofantica>()),
-      m_modelo(new ModeloSoluciones(this))
+      m_modelo(new ModeloSoluciones(this)),
+      m_pasos(new PanelDePasos(u"Ecuación diofántica"_s, this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -44,12 +47,15 @@ void FormEuclidesDiofantica::ResuelveEcuacion()
 {
     // An error on the way must not leave the solutions of other numbers in sight.
     muestra({{}, Traduce(u"Soluciones"_s), {}});
+    m_pasos->pon({});
     const auto valor = [this](int indice) {
         const Moneda mayor = Moneda::deEntero(Moneda::MaximoEntero);
         const auto leido = leeEntero(m_txtN[indice]->text(), -mayor, mayor);
         return leido ? *leido : Moneda();
     };
     const Moneda a = valor(0), b = valor(1), c = valor(2);
+    // Before the solver, which can overflow where the steps do not.
+    m_pasos->pon(pasosDeEcuacion(a, b, c));
     muestra(m_ecuacion.resuelve(a, b, c));
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 
 class ModeloSoluciones;
+class PanelDePasos;
 class QLineEdit;
 
 namespace Ui {
@@ -23,6 +24,8 @@ public:
     explicit FormEuclidesDiofantica(QWidget *leccion);
     ~FormEuclidesDiofantica() override;
 
+    PanelDePasos *pasos() const { return m_pasos; }
+
 private:
     void muestra(const SolucionesDiofanticas &soluciones);
     void ResuelveEcuacion();
@@ -31,5 +34,6 @@ private:
     std::unique_ptr<Ui::FormEuclidesDiofantica> ui;
     QList<QLineEdit *> m_txtN; ///< a, b, c
     ModeloSoluciones *m_modelo;
+    PanelDePasos *m_pasos;
     EcuacionDiofantica m_ecuacion;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/euclid/windows/FormEuclidesTabla.h"
 
+#include "lessons/euclid/HuecosDeEuclides.h"
 #include "lessons/euclid/PasosDeEuclides.h"
 #include "lessons/euclid/windows/ModeloEuclides.h"
 #include "shell/core/Lectura.h"
@@ -11,6 +12,7 @@
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "shell/steps/PanelDePasos.h"
+#include "shell/steps/TablaPorRellenar.h"
 #include "ui_FormEuclidesTabla.h"
 
 #include <QToolButton>
@@ -54,6 +56,7 @@ FormEuclidesTabla::FormEuclidesTabla(QWidget *leccion)
         Qt::QueuedConnection);
     conecta(m_panelAlgoritmo, &QToolButton::clicked, this,
             &FormEuclidesTabla::StatusBar_PanelClick);
+    conecta(ui->cmdRellenar, &QToolButton::clicked, this, &FormEuclidesTabla::cmdRellenar_Click);
     rehazTabla(DividendoInicial, DivisorInicial);
     ui->FlexEuclides->setCurrentIndex(m_modelo->index(0, ModeloEuclides::Dividendo));
 }
@@ -113,4 +116,21 @@ void FormEuclidesTabla::FlexEuclides_AfterEdit(int columna, const QString &texto
 void FormEuclidesTabla::StatusBar_PanelClick()
 {
     ponRestosReducidos(m_panelAlgoritmo->property(PropiedadTag).toString().isEmpty());
+}
+
+/// In place of the table and its result, which would tell what is to be filled in.
+void FormEuclidesTabla::cmdRellenar_Click(bool rellenar)
+{
+    if (!m_huecos) {
+        m_huecos = new TablaPorRellenar(this);
+        ui->columna->insertWidget(ui->columna->indexOf(ui->FlexEuclides) + 1, m_huecos);
+        setTabOrder(ui->cmdRellenar, m_huecos);
+    }
+    if (rellenar)
+        m_huecos->pon(huecosDeEuclides(m_modelo->tabla()));
+    m_huecos->setVisible(rellenar);
+    for (QWidget *suyo :
+         {static_cast<QWidget *>(ui->FlexEuclides), static_cast<QWidget *>(ui->lblExtEuclides),
+          static_cast<QWidget *>(ui->lblAviso)})
+        suyo->setVisible(!rellenar);
 }

@@ -9,6 +9,7 @@
 class ModeloEuclides;
 class PanelDePasos;
 class QToolButton;
+class TablaPorRellenar;
 
 namespace Ui {
 class FormEuclidesTabla;
@@ -35,10 +36,12 @@ private:
 
     void FlexEuclides_AfterEdit(int columna, const QString &texto);
     void StatusBar_PanelClick();
+    void cmdRellenar_Click(bool rellenar);
 
     std::unique_ptr<Ui::FormEuclidesTabla> ui;
     ModeloEuclides *m_modelo;
     PanelDePasos *m_pasos;
+    TablaPorRellenar *m_huecos = nullptr; ///< made when it is first asked for
     QToolButton *m_panelAlgoritmo;
     bool m_restosReducidos = false;
 };

@@ -17,11 +17,15 @@ FormFibonacci::FormFibonacci(QWidget *padre) : FormLeccion(u"Fibonacci.html"_s, 
     setObjectName(u"FormFibonacci"_s);
     setWindowTitle(Traduce(u"Fibonacci"_s));
     setWindowIcon(Icono(u"FIBONACCI"_s));
+    auto *valores = new FormFibonacciValores(this);
+    auto *aureo = new FormFibonacciAureo(this);
+    auto *zeckendorf = new FormFibonacciZeckendorf(this);
+    auto *identidades = new FormFibonacciIdentidades(this);
     agregaIntroduccion(u"Introducción"_s);
-    agregaTema(u"Valores"_s, u"valores"_s, new FormFibonacciValores(this));
-    agregaTema(u"Número áureo"_s, u"aureo"_s, new FormFibonacciAureo(this));
-    agregaTema(u"Zeckendorf"_s, u"zeckendorf"_s, new FormFibonacciZeckendorf(this));
-    agregaTema(u"Identidades"_s, u"identidades"_s, new FormFibonacciIdentidades(this));
+    agregaTema(u"Valores"_s, u"valores"_s, valores, valores->pasos());
+    agregaTema(u"Número áureo"_s, u"aureo"_s, aureo, aureo->pasos());
+    agregaTema(u"Zeckendorf"_s, u"zeckendorf"_s, zeckendorf, zeckendorf->pasos());
+    agregaTema(u"Identidades"_s, u"identidades"_s, identidades, identidades->pasos());
     agregaTema(u"Cuestiones"_s, u"cuestiones"_s,
                new PanelCuestiones(sorteaZeckendorf, sorteaMcd, this));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/fibonacci/windows/FormFibonacciAureo.h"
 
+#include "lessons/fibonacci/PasosDeFibonacci.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -10,6 +11,7 @@
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormFibonacciAureo.h"
 
 #include <cmath>
@@ -30,6 +32,7 @@ QString textoDelError(const CocienteFibonacci &cociente)
 FormFibonacciAureo::FormFibonacciAureo(QWidget *padre)
     : QWidget(padre),
       ui(std::make_unique<Ui::FormFibonacciAureo>()),
+      m_panelDePasos(new PanelDePasos(u"Número áureo"_s, this)),
       m_modelo({u"n"_s, u"F(n)"_s, u"F(n+1)"_s, u"F(n+1) / F(n)"_s, Traduce(u"Error"_s)})
 {
     ui->setupUi(this);
@@ -98,6 +101,7 @@ void FormFibonacciAureo::muestra()
                              textoDelError(cociente)};
     }
     m_modelo.ponFilas(filas);
+    m_panelDePasos->pon(pasosDeCocientes(static_cast<int>(m_cocientes.size())));
 }
 
 void FormFibonacciAureo::representa()

@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <memory>
 
+class PanelDePasos;
+
 namespace Ui {
 class FormFibonacciAureo;
 }
@@ -20,6 +22,8 @@ public:
     explicit FormFibonacciAureo(QWidget *padre);
     ~FormFibonacciAureo() override;
 
+    PanelDePasos *pasos() const { return m_panelDePasos; }
+
 protected:
     void resizeEvent(QResizeEvent *suceso) override;
 
@@ -32,6 +36,7 @@ private:
     void senalaPunto(int indice);
 
     std::unique_ptr<Ui::FormFibonacciAureo> ui;
+    PanelDePasos *m_panelDePasos;
     ModeloFilas m_modelo;
     QList<CocienteFibonacci> m_cocientes;
 };

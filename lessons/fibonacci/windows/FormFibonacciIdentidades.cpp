@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/fibonacci/windows/FormFibonacciIdentidades.h"
 
+#include "lessons/fibonacci/PasosDeIdentidad.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -9,6 +10,7 @@
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormFibonacciIdentidades.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,6 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 FormFibonacciIdentidades::FormFibonacciIdentidades(QWidget *padre)
     : QWidget(padre),
       ui(std::make_unique<Ui::FormFibonacciIdentidades>()),
+      m_panelDePasos(new PanelDePasos(u"Identidades"_s, this)),
       m_modelo({Traduce(u"Identidad"_s), Traduce(u"Fórmula"_s), Traduce(u"¿Se cumple?"_s),
                 Traduce(u"Miembro izquierdo"_s), Traduce(u"Miembro derecho"_s)})
 {
@@ -56,6 +59,7 @@ void FormFibonacciIdentidades::cmdProbar_Click()
         muestra({});
         return;
     }
+    m_probados = {*m, *n};
     muestra(pruebaIdentidades(*m, *n));
     ui->FlexIdentidades->selectRow(0);
 }
@@ -85,10 +89,13 @@ std::optional<int> FormFibonacciIdentidades::lee(QLineEdit *campo)
     return valor ? std::optional(*valor) : std::nullopt;
 }
 
-/// The sides of the chosen identity, whole.
+/// The sides of the chosen identity, whole, and why it holds.
 void FormFibonacciIdentidades::FlexIdentidades_RowColChange(int fila)
 {
     const IdentidadProbada identidad = m_identidades.value(fila);
     ui->txtIzquierda->setText(identidad.izquierda);
     ui->txtDerecha->setText(identidad.derecha);
+    const bool elegida = fila >= 0 && fila < m_identidades.size();
+    m_panelDePasos->pon(elegida ? pasosDeIdentidad(fila, m_probados.first, m_probados.second)
+                                : Pasos());
 }

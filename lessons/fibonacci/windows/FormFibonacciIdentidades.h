@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 
+class PanelDePasos;
 class QLineEdit;
 
 namespace Ui {
@@ -23,6 +24,8 @@ public:
     explicit FormFibonacciIdentidades(QWidget *padre);
     ~FormFibonacciIdentidades() override;
 
+    PanelDePasos *pasos() const { return m_panelDePasos; }
+
 private:
     void TxtIndice_Change();
     void cmdProbar_Click();
@@ -32,6 +35,8 @@ private:
     void muestra(const QList<IdentidadProbada> &identidades);
 
     std::unique_ptr<Ui::FormFibonacciIdentidades> ui;
+    PanelDePasos *m_panelDePasos;
     ModeloFilas m_modelo;
     QList<IdentidadProbada> m_identidades;
+    std::pair<int, int> m_probados; ///< m and n of them
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/fibonacci/windows/FormFibonacciValores.h"
 
+#include "lessons/fibonacci/PasosDeFibonacci.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -9,6 +10,7 @@
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormFibonacciValores.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -50,6 +52,7 @@ QString reglaDe(MetodoFibonacci metodo)
 FormFibonacciValores::FormFibonacciValores(FormLeccion *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormFibonacciValores>()),
+      m_panelDePasos(new PanelDePasos(u"Valores"_s, this)),
       m_comparacion({u"n"_s, Traduce(u"Método"_s), Traduce(u"Llamadas"_s), Traduce(u"Sumas"_s),
                      Traduce(u"Productos"_s), Traduce(u"Tiempo"_s)}),
       m_tareas(this, leccion->parada())
@@ -107,6 +110,7 @@ void FormFibonacciValores::TxtN_Change()
         return;
     ui->txtValor->setText({});
     ui->lblCifras->clear();
+    m_panelDePasos->pon({});
 }
 
 Tarea<> FormFibonacciValores::cmdCalcular_Click()
@@ -171,4 +175,5 @@ void FormFibonacciValores::muestra(MetodoFibonacci metodo, int n, const Fibonacc
          siAcabo(formatoEntero(esfuerzo.sumas)), siAcabo(formatoEntero(esfuerzo.productos)),
          detenido ? Traduce(u"detenido"_s) : textoDeDuracion(medido.nanosegundos)});
     ui->FlexComparacion->scrollToBottom();
+    m_panelDePasos->pon(detenido ? Pasos() : pasosDeFibonacci(metodo, n));
 }

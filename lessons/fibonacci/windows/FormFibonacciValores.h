@@ -11,6 +11,7 @@
 #include <memory>
 
 class FormLeccion;
+class PanelDePasos;
 
 namespace Ui {
 class FormFibonacciValores;
@@ -24,6 +25,8 @@ class FormFibonacciValores : public QWidget
 public:
     explicit FormFibonacciValores(FormLeccion *leccion);
     ~FormFibonacciValores() override;
+
+    PanelDePasos *pasos() const { return m_panelDePasos; }
 
     Tareas &tareas() { return m_tareas; }
 
@@ -40,6 +43,7 @@ private:
     void muestra(MetodoFibonacci metodo, int n, const FibonacciMedido &medido);
 
     std::unique_ptr<Ui::FormFibonacciValores> ui;
+    PanelDePasos *m_panelDePasos;
     ModeloFilas m_comparacion;
     BotonDeCorrida *m_boton;
     std::shared_ptr<CalculoFibonacci> m_calculo; ///< the last one begun

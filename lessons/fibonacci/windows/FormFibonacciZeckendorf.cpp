@@ -2,6 +2,7 @@
 #include "lessons/fibonacci/windows/FormFibonacciZeckendorf.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "lessons/fibonacci/PasosDeZeckendorf.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -10,6 +11,7 @@
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormFibonacciZeckendorf.h"
 
 #include <QTextOption>
@@ -34,6 +36,7 @@ QString positivoDe(const QString &expresion)
 FormFibonacciZeckendorf::FormFibonacciZeckendorf(QWidget *padre)
     : QWidget(padre),
       ui(std::make_unique<Ui::FormFibonacciZeckendorf>()),
+      m_panelDePasos(new PanelDePasos(u"Zeckendorf"_s, this)),
       m_modelo(
           {Traduce(u"Resto"_s), u"k"_s, Traduce(u"El mayor F(k) que cabe"_s), Traduce(u"Queda"_s)})
 {
@@ -119,6 +122,7 @@ void FormFibonacciZeckendorf::muestraSuma()
     if (m_dados == 0) {
         ui->txtSuma->setText({});
         ui->txtCodigo->setText({});
+        m_panelDePasos->pon({});
         return;
     }
     QStringList sumandos;
@@ -137,4 +141,6 @@ void FormFibonacciZeckendorf::muestraSuma()
     if (completa)
         muestraVeredicto(ui->lblAvisoZeckendorf, true, resumen());
     ui->txtCodigo->setText(completa ? codigoZeckendorf(m_pasos) : QString());
+    // Not before: the student may want to find the next summand.
+    m_panelDePasos->pon(completa ? pasosDeZeckendorf(m_pasos) : Pasos());
 }

@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <memory>
 
+class PanelDePasos;
+
 namespace Ui {
 class FormFibonacciZeckendorf;
 }
@@ -20,6 +22,8 @@ public:
     explicit FormFibonacciZeckendorf(QWidget *padre);
     ~FormFibonacciZeckendorf() override;
 
+    PanelDePasos *pasos() const { return m_panelDePasos; }
+
 private:
     void cmdSiguiente_Click();
     void cmdTodo_Click();
@@ -32,6 +36,7 @@ private:
     QString resumen() const;
 
     std::unique_ptr<Ui::FormFibonacciZeckendorf> ui;
+    PanelDePasos *m_panelDePasos;
     ModeloFilas m_modelo;
     QString m_numero;
     QList<PasoZeckendorf> m_pasos;

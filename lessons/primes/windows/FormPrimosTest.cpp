@@ -2,15 +2,21 @@
 #include "lessons/primes/windows/FormPrimosTest.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "lessons/primes/steps/CadenaDeCuadrados.h"
+#include "lessons/primes/steps/PasosDeCarmichael.h"
+#include "lessons/primes/steps/PasosDeTest.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormPrimosTest.h"
 
+#include <QHeaderView>
 #include <QLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -54,7 +60,11 @@ private:
 };
 
 FormPrimosTest::FormPrimosTest(QWidget *leccion)
-    : QWidget(leccion), ui(std::make_unique<Ui::FormPrimosTest>()), m_leccion(leccion)
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormPrimosTest>()),
+      m_leccion(leccion),
+      m_pasos(new PanelDePasos(u"Test de primos"_s, this)),
+      m_historial({Traduce(u"Número"_s), Traduce(u"bits"_s), Traduce(u"Veredicto"_s)})
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -73,6 +83,7 @@ FormPrimosTest::FormPrimosTest(QWidget *leccion)
     conecta(ui->txtNumBits, &QLineEdit::returnPressed, this,
             [this] { ui->cmdNumBits->animateClick(); });
     conecta(ui->cmdNumBits, &QPushButton::clicked, this, &FormPrimosTest::cmdNumBits_Click);
+    preparaPasos();
 }
 
 FormPrimosTest::~FormPrimosTest() = default;
@@ -110,6 +121,8 @@ void FormPrimosTest::txtNumero_Change()
 {
     const QString texto = ui->txtNúmero->text();
     const bool hayNumero = !texto.trimmed().isEmpty();
+    m_probado.clear();
+    muestraPasos();
     ui->cmdEsPrimo->setEnabled(hayNumero);
     ui->cmdSigPrimo->setEnabled(hayNumero);
     ui->cmdEsPrimo->setText(Traduce(u"¿Es primo?"_s));
@@ -128,6 +141,7 @@ void FormPrimosTest::cmdEsPrimo_Click()
         espera.quitaElReloj();
     }
     ui->txtNumBits->setText(QString::number(bits));
+    anota(numero, ui->imgTestPrimo->imagen() == u"SEMAFOROVERDE"_s, bits);
 }
 
 void FormPrimosTest::cmdSigPrimo_Click()
@@ -135,8 +149,11 @@ void FormPrimosTest::cmdSigPrimo_Click()
     const QString numero = ui->txtNúmero->text();
     Espera espera(this, NumeroDeBits(numero) >= BitsDelSiguiente);
     const QString primo = PrimoSiguiente(numero);
-    if (muestraPrimo(primo))
-        ui->txtNumBits->setText(QString::number(NumeroDeBits(primo)));
+    if (muestraPrimo(primo)) {
+        const std::int32_t bits = NumeroDeBits(primo);
+        ui->txtNumBits->setText(QString::number(bits));
+        anota(primo, true, bits);
+    }
     espera.quitaElReloj();
 }
 
@@ -159,6 +176,75 @@ void FormPrimosTest::cmdNumBits_Click()
         ui->txtNumBits->setFocus();
         return;
     }
-    muestraPrimo(PrimoAleatorio(bits));
+    const QString primo = PrimoAleatorio(bits);
+    if (muestraPrimo(primo))
+        anota(primo, true, bits);
     espera.quitaElReloj();
+}
+
+void FormPrimosTest::preparaPasos()
+{
+    ui->FlexHistorial->setModel(&m_historial);
+    ui->FlexHistorial->ponTextoVacio(Traduce(
+        u"Aquí se anotan los números que se prueban. Con Entrar, el elegido vuelve al campo."_s));
+    ui->FlexHistorial->setTextElideMode(Qt::ElideMiddle);
+    ui->FlexHistorial->setSelectionBehavior(QAbstractItemView::SelectRows);
+    QHeaderView *cabecera = ui->FlexHistorial->horizontalHeader();
+    cabecera->setSectionResizeMode(QHeaderView::ResizeToContents);
+    cabecera->setSectionResizeMode(0, QHeaderView::Stretch);
+    conecta(ui->txtBase, &QLineEdit::textChanged, this, &FormPrimosTest::muestraPasos);
+    conecta(ui->cmdCarmichael, &QPushButton::clicked, this, &FormPrimosTest::cmdCarmichael_Click);
+    conecta(ui->FlexHistorial, &QAbstractItemView::activated, this,
+            &FormPrimosTest::FlexHistorial_Activated);
+}
+
+/// Steps and history of a verdict.
+void FormPrimosTest::anota(const QString &numero, bool primo, int bits)
+{
+    m_probado = numero;
+    m_esPrimo = primo;
+    m_historial.agrega({numero.trimmed(), QString::number(bits),
+                        Traduce(primo ? u"Es primo"_s : u"No es primo"_s)});
+    ui->FlexHistorial->scrollToBottom();
+    muestraPasos();
+}
+
+void FormPrimosTest::muestraPasos()
+{
+    const QString n = naturalEscrito(m_probado);
+    const bool impar = !n.isEmpty() && (n.back().unicode() - u'0') % 2 == 1 && EsMayor(u"3"_s, n);
+    ui->cmdCarmichael->setEnabled(impar && !m_esPrimo && NumeroDeBits(n) <= MasBitsDePasos);
+    ui->lblAvisoBase->clear();
+    m_pasos->pon(m_probado.isEmpty()
+                     ? Pasos()
+                     : pasosDeTest(m_probado, m_esPrimo, impar ? baseElegida() : QString()));
+}
+
+/// The base in the field; empty where there is none that serves, which is told beside it.
+QString FormPrimosTest::baseElegida()
+{
+    const QString n = naturalEscrito(m_probado);
+    const auto leida = leeEntero(ui->txtBase->text());
+    if (leida && EsMayor(u"1"_s, *leida) && EsMayor(*leida, anterior(n)))
+        return *leida;
+    if (!ui->txtBase->text().trimmed().isEmpty())
+        muestraVeredicto(ui->lblAvisoBase, false,
+                         leida
+                             ? Traduce(u"La base va de 2 a n − 2. Se toma la automática."_s)
+                             : leida.razon().frase() + u' ' + Traduce(u"Se toma la automática."_s));
+    return {};
+}
+
+void FormPrimosTest::cmdCarmichael_Click()
+{
+    Espera espera(this, false);
+    m_pasos->pon(pasosDeCarmichael(naturalEscrito(m_probado)));
+    m_pasos->pideVerse();
+    espera.quitaElReloj();
+}
+
+void FormPrimosTest::FlexHistorial_Activated(const QModelIndex &celda)
+{
+    ui->txtNúmero->setText(m_historial.filas().at(celda.row()).first());
+    ui->txtNúmero->setFocus();
 }

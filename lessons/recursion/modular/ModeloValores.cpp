@@ -2,6 +2,7 @@
 #include "lessons/recursion/modular/ModeloValores.h"
 
 #include "shell/core/Formatos.h"
+#include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,6 +30,10 @@ QVariant ModeloValores::data(const QModelIndex &indice, int papel) const
     const int n = indice.row() + 1;
     if (papel == Qt::TextAlignmentRole)
         return alineacion(indice.column());
+    if (papel == PapelDeMarca)
+        return marcada(n);
+    if (papel == Qt::AccessibleDescriptionRole)
+        return marcada(n) ? Traduce(u"De la pareja que se repite"_s) : QString();
     if (papel != Qt::DisplayRole)
         return {};
     return formatoEntero(qint64{indice.column() == N ? n : m_sucesion->valor(n)});
@@ -45,5 +50,15 @@ void ModeloValores::pon(const std::optional<SucesionModular> &sucesion)
 {
     beginResetModel();
     m_sucesion = sucesion;
+    m_periodo = sucesion && sucesion->modulo() > 0 ? sucesion->periodo() : std::nullopt;
     endResetModel();
+}
+
+bool ModeloValores::marcada(int n) const
+{
+    if (!m_periodo)
+        return false;
+    const int desde = n - m_periodo->inicio;
+    return desde == 0 || desde == 1 || desde == m_periodo->longitud ||
+           desde == m_periodo->longitud + 1;
 }

@@ -21,11 +21,15 @@ QList<Escena> escenasUnidades()
                             {u"cmdFi"_s, {}},
                             {u"cmdFactores"_s, {}}};
     };
+    const Gesto pasos{u"cmdTodosLosPasos"_s, {}};
     return {{u"unidades-introduccion"_s, u"intro"_s},
             {u"unidades-grupo"_s, unidades},
             {u"unidades-grupo-vacio"_s, unidades, grupo(QString(), QString())},
             {u"unidades-grupo-ciclico"_s, unidades, grupo(u"2*3^6"_s, u"5"_s)},
             {u"unidades-grupo-no-unidad"_s, unidades, grupo(u"360"_s, u"14"_s)},
+            {u"unidades-grupo-pasos"_s, unidades, {pasos}},
+            {u"unidades-elemento-pasos"_s, unidades,
+             grupo(u"14"_s, u"3"_s) + QList<Gesto>{pasos, {u"listaDePasos"_s, u"4,0"_s}}},
             {u"unidades-cayley"_s, cayley},
             {u"unidades-cayley-grande"_s, cayley, tabla(u"59"_s, u"OptOperacion_0"_s)},
             {u"unidades-cayley-producto"_s, cayley, tabla(u"12"_s, u"OptOperacion_1"_s)},
@@ -33,6 +37,12 @@ QList<Escena> escenasUnidades()
             {u"unidades-grandes-vacio"_s, grandes},
             {u"unidades-grandes"_s, grandes, grande(u"100!"_s, u"2^521-1"_s)},
             {u"unidades-grandes-sin-inverso"_s, grandes, grande(u"10^60-1"_s, u"10^30-1"_s)},
+            {u"unidades-grandes-pasos"_s,
+             grandes,
+             {{u"txtNGrande"_s, u"2^89-1"_s},
+              {u"txtAGrande"_s, u"10^20"_s},
+              {u"cmdInverso"_s, {}},
+              pasos}},
             {u"unidades-cuestiones"_s, cuestiones},
             {u"unidades-cuestiones-fallo"_s,
              cuestiones,

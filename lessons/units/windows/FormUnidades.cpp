@@ -17,9 +17,11 @@ FormUnidades::FormUnidades(QWidget *padre) : FormLeccion(u"Unidades.html"_s, pad
     setWindowTitle(Traduce(u"Unidades"_s));
     setWindowIcon(Icono(u"UNIDADES"_s));
     agregaIntroduccion(u"Introducción"_s);
-    agregaTema(u"Unidades"_s, u"unidades"_s, new FormUnidadesGrupo(this));
+    auto *grupo = new FormUnidadesGrupo(this);
+    agregaTema(u"Unidades"_s, u"unidades"_s, grupo, grupo->pasos());
     agregaTema(u"Tabla de Cayley"_s, u"cayley"_s, new FormUnidadesCayley(this));
-    agregaTema(u"Números grandes"_s, u"grandes"_s, new FormUnidadesGrandes(this));
+    auto *grandes = new FormUnidadesGrandes(this);
+    agregaTema(u"Números grandes"_s, u"grandes"_s, grandes, grandes->pasos());
     agregaTema(u"Cuestiones"_s, u"cuestiones"_s,
                new PanelCuestiones(sorteaDelGrupo, sorteaDeEuler, this));
 }

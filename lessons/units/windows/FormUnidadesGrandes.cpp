@@ -5,13 +5,17 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/units/FuncionEuler.h"
 #include "lessons/units/InversoGrande.h"
+#include "lessons/units/PasosDeUnidades.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/steps/PasosDeInverso.h"
+#include "shell/core/steps/PasosDePotencia.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormUnidadesGrandes.h"
 
 #include <QScopeGuard>
@@ -28,7 +32,10 @@ constexpr int CifrasDelEjemplo = 200;
 } // namespace
 
 FormUnidadesGrandes::FormUnidadesGrandes(QWidget *leccion)
-    : QWidget(leccion), ui(std::make_unique<Ui::FormUnidadesGrandes>()), m_leccion(leccion)
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormUnidadesGrandes>()),
+      m_leccion(leccion),
+      m_pasos(new PanelDePasos(u"Números grandes"_s, this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -58,6 +65,7 @@ void FormUnidadesGrandes::txtGrande_Change()
     ui->txtInverso->setText({});
     ui->txtFi->clear();
     m_fi.clear();
+    m_pasos->pon({});
 }
 
 /// The modulus that its field stands for; without one, the label tells what it has to be.
@@ -96,6 +104,7 @@ void FormUnidadesGrandes::cmdInverso_Click()
         return;
     }
     const InversoGrande resultado = invierte(*a, *n);
+    m_pasos->pon(pasosDeInverso(*a, *n));
     if (resultado.inverso.isEmpty()) {
         muestraNeutro(ui->lblMcd,
                       Traduce(u"a no es una unidad, porque mcd(a, n) no es 1. Es este:"_s));
@@ -128,6 +137,7 @@ void FormUnidadesGrandes::cmdFi_Click()
         return;
     }
     m_fi = *fi;
+    m_pasos->pon(pasosDeEuler(*n, *fi));
     ui->txtFi->setPlainText(u"φ(n) = "_s + *fi);
     muestraFi(*n, *fi, Traduce(u"φ(n), según la biblioteca."_s));
 }
@@ -141,6 +151,7 @@ void FormUnidadesGrandes::cmdFactores_Click()
     anunciaEspera();
     const auto cursor = qScopeGuard([this] { m_leccion->unsetCursor(); });
     const FuncionEuler euler(*n);
+    m_pasos->pon(Pasos::seguidos({pasosDeFi(euler, *n), pasosDeEuler(*n, euler.valor())}));
     ui->txtFi->setPlainText(euler.pasos());
     if (euler.valor().isEmpty()) {
         muestraNeutro(ui->lblFi, Traduce(u"No se conocen todos los factores de n."_s));
@@ -150,6 +161,13 @@ void FormUnidadesGrandes::cmdFactores_Click()
               euler.valor() == m_fi
                   ? Traduce(u"φ(n), por factores: la misma que da la biblioteca."_s)
                   : Traduce(u"φ(n), por factores."_s));
+}
+
+/// Euler's theorem on the element, where it is a unit and φ(n) is known.
+Pasos FormUnidadesGrandes::pasosDeEuler(const QString &n, const QString &fi)
+{
+    const auto a = elemento();
+    return a && !fi.isEmpty() && Mcd(*a, n) == u"1"_s ? pasosDePotencia(*a, fi, n) : Pasos();
 }
 
 /// Adds to the label what Euler's theorem says of the element, where it says something.

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/steps/Pasos.h"
+
 #include <QString>
 #include <QWidget>
 #include <memory>
 #include <optional>
 
+class PanelDePasos;
 class QLabel;
 
 namespace Ui {
@@ -22,10 +25,13 @@ public:
     explicit FormUnidadesGrandes(QWidget *leccion);
     ~FormUnidadesGrandes() override;
 
+    PanelDePasos *pasos() const { return m_pasos; }
+
 private:
     std::optional<QString> modulo(QLabel *rotulo);
     std::optional<QString> elemento();
     void anunciaEspera();
+    Pasos pasosDeEuler(const QString &n, const QString &fi);
     void muestraFi(const QString &n, const QString &fi, const QString &rotulo);
 
     void txtGrande_Change();
@@ -36,5 +42,6 @@ private:
 
     std::unique_ptr<Ui::FormUnidadesGrandes> ui;
     QWidget *m_leccion;
+    PanelDePasos *m_pasos;
     QString m_fi; ///< the library's value for the number in the field; empty when it was not asked
 };

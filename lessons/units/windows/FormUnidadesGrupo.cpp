@@ -4,6 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/units/ModeloPotencias.h"
 #include "lessons/units/ModeloUnidades.h"
+#include "lessons/units/PasosDeUnidades.h"
 #include "lessons/units/ResumenUnidades.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -13,6 +14,7 @@
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormUnidadesGrupo.h"
 
 #include <QHeaderView>
@@ -25,7 +27,8 @@ FormUnidadesGrupo::FormUnidadesGrupo(QWidget *leccion)
       ui(std::make_unique<Ui::FormUnidadesGrupo>()),
       m_unidades(new ModeloUnidades(this)),
       m_ordenadas(new QSortFilterProxyModel(this)),
-      m_potencias(new ModeloPotencias(this))
+      m_potencias(new ModeloPotencias(this)),
+      m_pasos(new PanelDePasos(u"Unidades"_s, this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -66,6 +69,7 @@ void FormUnidadesGrupo::preparaRejillas()
 void FormUnidadesGrupo::cmdUnidades_Click()
 {
     m_unidades->pon({});
+    m_pasos->pon({});
     borraPotencias();
     const auto n = leeEntero(ui->txtN->text(), 1, GrupoUnidades::MayorModulo);
     if (!n) {
@@ -75,6 +79,7 @@ void FormUnidadesGrupo::cmdUnidades_Click()
     }
     m_unidades->pon(GrupoUnidades(*n));
     muestraNeutro(ui->lblResumen, resumenDelGrupo(*m_unidades->grupo()));
+    m_pasos->pon(pasosDelGrupo(*m_unidades->grupo()));
     ui->FlexUnidades->scrollToTop();
 }
 
@@ -83,6 +88,7 @@ void FormUnidadesGrupo::cmdPotencias_Click()
     borraPotencias();
     if (!m_unidades->grupo())
         return;
+    m_pasos->pon(pasosDelGrupo(*m_unidades->grupo()));
     const auto a = leeEntero(ui->txtElemento->text());
     if (!a) {
         rechaza(ui->txtElemento, ui->lblPotencias, Traduce(u"El elemento es un número entero."_s));
@@ -106,6 +112,7 @@ void FormUnidadesGrupo::muestraPotencias(std::int32_t a)
     m_potencias->pon(m_unidades->grupo()->potencias(a));
     ui->FlexPotencias->scrollToTop();
     muestraNeutro(ui->lblPotencias, resumenDePotencias(*m_unidades->grupo(), a));
+    m_pasos->pon(pasosDeElemento(*m_unidades->grupo(), a));
 }
 
 void FormUnidadesGrupo::borraPotencias()

@@ -6,6 +6,7 @@
 
 class ModeloPotencias;
 class ModeloUnidades;
+class PanelDePasos;
 class QSortFilterProxyModel;
 
 namespace Ui {
@@ -21,6 +22,8 @@ public:
     explicit FormUnidadesGrupo(QWidget *leccion);
     ~FormUnidadesGrupo() override;
 
+    PanelDePasos *pasos() const { return m_pasos; }
+
 private:
     void preparaRejillas();
     void muestraPotencias(std::int32_t a);
@@ -34,4 +37,5 @@ private:
     ModeloUnidades *m_unidades;
     QSortFilterProxyModel *m_ordenadas;
     ModeloPotencias *m_potencias;
+    PanelDePasos *m_pasos;
 };

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <memory>
 
 /// A small table within a step. Cells are plain texts; digits stand ungrouped and whole.
 struct TablaDePaso
@@ -43,17 +44,27 @@ public:
     /// needs it holds by value.
     Pasos(qsizetype cuantos, Hace hace);
 
-    qsizetype cuantos() const { return m_cuantos; }
-    bool vacios() const { return m_cuantos == 0; }
+    /// Even how many they are costs something: `hace` is asked once, when they are first looked at.
+    /// What it needs it holds by value; it must not throw.
+    static Pasos aplazados(std::function<Pasos()> hace);
+    /// One after the other.
+    static Pasos seguidos(const QList<Pasos> &partes);
+
+    qsizetype cuantos() const { return hechos().m_cuantos; }
+    bool vacios() const { return cuantos() == 0; }
     /// Step i, from 0 on.
-    Paso paso(qsizetype i) const { return m_hace(i); }
+    Paso paso(qsizetype i) const { return hechos().m_hace(i); }
 
     /// Whether they make a film: their drawings change a little from one to the next.
-    bool animables() const { return m_animables; }
+    bool animables() const { return m_animables || hechos().m_animables; }
     Pasos &&comoPelicula() &&;
 
 private:
+    struct Aplazados;
+    const Pasos &hechos() const;
+
     qsizetype m_cuantos = 0;
     Hace m_hace;
     bool m_animables = false;
+    std::shared_ptr<Aplazados> m_aplazados; ///< null unless they are still to be made, or were
 };

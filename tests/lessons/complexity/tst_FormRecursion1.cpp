@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/complexity/windows/FormRecursion1.h"
 #include "lessons/complexity/windows/FormRecursion1DibujoArbol.h"
+#include "lessons/complexity/windows/FormRecursion1DibujoHanoi.h"
 #include "shell/plot/Grafica.h"
+#include "shell/steps/PanelDePasos.h"
 #include "tests/Tabla.h"
 #include "tests/lessons/VentanaDeLeccion.h"
 
@@ -176,6 +178,49 @@ private Q_SLOTS:
         QTest::qWait(60);
         QCOMPARE(filas(u"FlexMovimientos"_s), 0);
         QVERIFY(texto(u"lblMovimiento"_s).contains(u"4.095"_s));
+    }
+
+    /// With keys and with the mouse; what is refused says why and changes nothing.
+    void torresConLaMano()
+    {
+        abre({1000, 700});
+        abreTema(3);
+        el<QSpinBox>(u"SpinDiscos"_s)->setValue(3);
+        auto *dibujo = el<FormRecursion1DibujoHanoi>(u"PicHanoi"_s);
+        const auto pasos = [dibujo] {
+            return dibujo->window()->findChildren<PanelDePasos *>().constLast()->pasos().cuantos();
+        };
+        QTRY_VERIFY(dibujo->width() > 100);
+        QCOMPARE(pasos(), 3);
+        const auto palo = [dibujo](int indice) {
+            return QPoint(dibujo->width() * (2 * indice + 1) / 6, dibujo->height() / 2);
+        };
+        QTest::keyClicks(dibujo, u"b"_s);
+        QCOMPARE(texto(u"lblAvisoHanoi"_s), u"✗ En el palo B no hay ningún disco."_s);
+        QTest::keyClicks(dibujo, u"a3"_s);
+        QVERIFY(texto(u"lblMovimiento"_s).startsWith(u"Movimiento 1: el disco 1 pasa de A a C."_s));
+        QVERIFY(texto(u"lblMovimiento"_s).endsWith(u"Por hacer, como poco: 6."_s));
+        QCOMPARE(pasos(), 4);
+        QTest::keyClicks(dibujo, u"ac"_s);
+        QVERIFY(texto(u"lblAvisoHanoi"_s).contains(u"quedaría sobre el 1"_s));
+        QCOMPARE(filas(u"FlexMovimientos"_s), 1);
+        QVERIFY(dibujo->accessibleDescription().contains(u"Disco levantado: 2"_s));
+        // By a click, by dragging, and by a drag to where the disc cannot lie.
+        QTest::mouseClick(dibujo, Qt::LeftButton, {}, palo(1));
+        QCOMPARE(filas(u"FlexMovimientos"_s), 2);
+        QTest::mousePress(dibujo, Qt::LeftButton, {}, palo(2));
+        QTest::mouseMove(dibujo, palo(0));
+        QTest::mouseRelease(dibujo, Qt::LeftButton, {}, palo(0));
+        QCOMPARE(filas(u"FlexMovimientos"_s), 3);
+        QTest::mousePress(dibujo, Qt::LeftButton, {}, palo(1));
+        QTest::mouseRelease(dibujo, Qt::LeftButton, {}, palo(0));
+        QCOMPARE(filas(u"FlexMovimientos"_s), 3);
+        QCOMPARE(dibujo->levantado(), -1);
+        QVERIFY(texto(u"lblMovimiento"_s).endsWith(u"Por hacer, como poco: 6."_s));
+        // The program goes on from here.
+        for (int i = 0; i < 6; ++i)
+            pulsa(u"cmdSiguienteMovimiento"_s);
+        QVERIFY(texto(u"lblMovimiento"_s).endsWith(u"Conseguido, con 2 de más."_s));
     }
 
     void cuestionDeHanoi()

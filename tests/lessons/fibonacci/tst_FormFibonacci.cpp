@@ -4,6 +4,7 @@
 #include "lessons/fibonacci/windows/FormFibonacci.h"
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/plot/Grafica.h"
+#include "shell/steps/PanelDePasos.h"
 #include "tests/Tabla.h"
 #include "tests/lessons/VentanaDeLeccion.h"
 
@@ -115,6 +116,32 @@ private Q_SLOTS:
         QVERIFY(!hayAlgo());
         // Nothing is left to point at.
         QTest::keyClick(el<Grafica>(u"PicError"_s), Qt::Key_Right);
+    }
+
+    /// Each tool's panel has steps once there is a result, of the method or the identity chosen.
+    void pasos()
+    {
+        const auto pasos = [this](int tema) {
+            return m_ventana->findChildren<PanelDePasos *>().at(tema)->pasos().cuantos();
+        };
+        escribe(u"TxtN"_s, u"12"_s);
+        el<QRadioButton>(u"optMetodo_2"_s)->click();
+        pulsa(u"cmdCalcular"_s);
+        QTRY_COMPARE(pasos(0), 6);
+        escribe(u"TxtN"_s, u"13"_s);
+        QCOMPARE(pasos(0), 0);
+        QCOMPARE(pasos(1), 30);
+        escribe(u"TxtNumero"_s, u"100"_s);
+        pulsa(u"cmdSiguiente"_s);
+        QCOMPARE(pasos(2), 0);
+        pulsa(u"cmdTodo"_s);
+        QCOMPARE(pasos(2), 4);
+        escribe(u"TxtIndiceM"_s, u"4"_s);
+        escribe(u"TxtIndiceN"_s, u"6"_s);
+        pulsa(u"cmdProbar"_s);
+        QCOMPARE(pasos(3), 6);
+        rejilla(u"FlexIdentidades"_s)->selectRow(2);
+        QCOMPARE(pasos(3), 4);
     }
 
     void numeroAureo()

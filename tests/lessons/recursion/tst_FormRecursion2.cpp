@@ -2,6 +2,7 @@
 #include "lessons/recursion/modular/windows/FormRecursion2.h"
 #include "shell/controls/Dibujo.h"
 #include "shell/plot/Grafica.h"
+#include "shell/steps/PanelDePasos.h"
 #include "tests/Tabla.h"
 #include "tests/lessons/VentanaDeLeccion.h"
 
@@ -55,6 +56,20 @@ private Q_SLOTS:
         const auto [texto, consejo] = estaFila<QString, QString>();
         calcula(texto);
         QCOMPARE(m_modulo->toolTip(), consejo);
+    }
+
+    /// Beside the plot and beside the values; gone with another function.
+    void pasos()
+    {
+        const auto paneles = m_ventana->findChildren<PanelDePasos *>();
+        QCOMPARE(paneles.size(), 2);
+        calcula(u"10"_s);
+        for (const PanelDePasos *panel : paneles)
+            QCOMPARE(panel->pasos().cuantos(), 62);
+        QVERIFY(texto(u"lblPareja"_s).contains(u"61 y 62"_s));
+        acepta(u"2"_s, u"1"_s, u"1"_s, u"1"_s);
+        for (const PanelDePasos *panel : paneles)
+            QVERIFY(panel->pasos().vacios());
     }
 
     void periodoGrande()

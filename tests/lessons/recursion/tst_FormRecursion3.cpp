@@ -4,6 +4,7 @@
 #include "shell/controls/Dibujo.h"
 #include "shell/grid/Rejilla.h"
 #include "shell/plot/Grafica.h"
+#include "shell/steps/PanelDePasos.h"
 #include "tests/Tabla.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -289,6 +290,31 @@ private Q_SLOTS:
         QTRY_VERIFY(!rueda->isVisible());
         // The last tick, when the run has returned.
         QCOMPARE(rueda->imagen(), u"TRABAJANDO2"_s);
+    }
+
+    /// The panel shows the steps of the tab in front, and each tab keeps its own.
+    void pasosDeLaFichaDelante()
+    {
+        auto *fichas = control<QTabWidget>(m_ventana, u"SSTab1"_s);
+        const auto pasos = [this] {
+            return m_ventana->findChild<PanelDePasos *>()->pasos().cuantos();
+        };
+        calculaAck(u"1"_s, u"0"_s);
+        QCOMPARE(pasos(), 3);
+        largo(u"TxtInicial"_s)->setText(u" 07"_s);
+        corre(u"cmdHail"_s);
+        QCOMPARE(pasos(), 3);
+        fichas->setCurrentIndex(1);
+        QCOMPARE(pasos(), 18);
+        largo(u"TxtInicial"_s)->setText(u"siete"_s);
+        corre(u"cmdHail"_s);
+        QCOMPARE(pasos(), 0);
+        fichas->setCurrentIndex(2);
+        largo(u"TxtCapInicial"_s)->setText(u"89"_s);
+        corre(u"cmdCap"_s);
+        QCOMPARE(pasos(), 25);
+        fichas->setCurrentIndex(0);
+        QCOMPARE(pasos(), 3);
     }
 
     /// What is copied of the memory bears n in front and m above.

@@ -5,15 +5,6 @@
 #include "shell/steps/SeparadorDePasos.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QListView>
-#include <QMenu>
-#include <QToolButton>
-
-using namespace Qt::Literals::StringLiterals;
-
 /// The panel of steps as a student uses it.
 class tst_PanelDePasos : public QObject
 {
@@ -61,6 +52,16 @@ void tst_PanelDePasos::nadaSeHaceAntesDeVerlo()
     QVERIFY(panel.findChildren<QWidget *>().isEmpty());
     panel.show();
     QVERIFY(hechos > 0);
+    panel.hide();
+    int aplazados = 0;
+    panel.pon(Pasos::aplazados([&aplazados] {
+        ++aplazados;
+        return cuantos(3);
+    }));
+    QCOMPARE(aplazados, 0);
+    panel.show();
+    QCOMPARE(panel.vistos(), 1);
+    QCOMPARE(aplazados, 1);
 }
 
 void tst_PanelDePasos::unoAUnoPorBotonesYTeclas()

@@ -154,6 +154,15 @@ void tst_Pasos::losPasosSeHacenAlPedirlos()
     QCOMPARE(hechos, 0);
     QCOMPARE(pasos.paso(999999).frase, u"999999"_s);
     QCOMPARE(hechos, 1);
+    const Pasos seguidos = Pasos::seguidos({Pasos(), Pasos::aplazados([&] {
+                                                hechos += 10;
+                                                return Pasos(QList<Paso>{{u"solo"_s}});
+                                            }),
+                                            pasos});
+    QCOMPARE(hechos, 1);
+    QCOMPARE(seguidos.cuantos(), 1000001);
+    QCOMPARE(seguidos.paso(0).frase + seguidos.paso(7).frase, u"solo6"_s);
+    QCOMPARE(hechos, 12);
 }
 
 QTEST_GUILESS_MAIN(tst_Pasos)

@@ -21,6 +21,7 @@ QList<Escena> escenasRecursion3()
     const Gesto ack{u"cmdAck"_s, {}};
     const Gesto hail{u"cmdHail"_s, {}};
     const Gesto cap{u"cmdCap"_s, {}};
+    const Gesto pasos{u"cmdTodosLosPasos"_s, {}};
     const QString largo = u"27182818284590452353602874713526624977572470936999"_s.repeated(200);
     return {
         {u"recursion3-introduccion"_s, u"intro"_s},
@@ -33,12 +34,17 @@ QList<Escena> escenasRecursion3()
          {EnAckermann, ack},
          true,
          std::chrono::milliseconds(0)},
+        funciones(u"recursion3-ackermann-pasos"_s, {EnAckermann, ack, pasos}),
         funciones(u"recursion3-hailstone"_s, {EnHailstone}),
         funciones(u"recursion3-hailstone-27"_s, {EnHailstone, {u"TxtInicial"_s, u"27"_s}, hail}),
         funciones(u"recursion3-hailstone-calculando"_s,
                   {EnHailstone, {u"TxtInicial"_s, largo}, hail}, true),
+        funciones(u"recursion3-hailstone-pasos"_s,
+                  {EnHailstone, {u"TxtInicial"_s, u"7"_s}, hail, pasos}),
         funciones(u"recursion3-capicuas"_s, {EnCapicuas}),
         funciones(u"recursion3-capicuas-89"_s, {EnCapicuas, {u"TxtCapInicial"_s, u"89"_s}, cap}),
+        funciones(u"recursion3-capicuas-pasos"_s,
+                  {EnCapicuas, {u"TxtCapInicial"_s, u"190"_s}, cap, pasos}),
         funciones(u"recursion3-capicuas-calculando"_s,
                   {EnCapicuas, {u"TxtCapInicial"_s, u"196"_s}, cap}, true)};
 }

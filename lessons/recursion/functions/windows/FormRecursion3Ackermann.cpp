@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/recursion/functions/windows/FormRecursion3Ackermann.h"
 
+#include "lessons/recursion/functions/PasosDeAck.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -104,6 +105,7 @@ Tarea<> FormRecursion3Ackermann::corre(Ack::Llamada llamada, std::int32_t corte)
     m_memoria = std::make_shared<MemoriaAck>(m_memoria->filas(), m_memoria->columnas());
     m_modelo.pon(m_memoria);
     ui->lblResultado->clear();
+    Q_EMIT hayPasos({});
     const BotonDeCorrida::Marcha marcha = m_corrida->empieza(m_tareas.billete());
     co_await marcha.billete().cederYa();
     // The timer is what makes a click a stop, and does not run yet: one that came now has begun
@@ -116,8 +118,10 @@ Tarea<> FormRecursion3Ackermann::corre(Ack::Llamada llamada, std::int32_t corte)
     ponEnMarcha();
     co_await billete.cederYa();
     const std::int32_t valor = co_await ack->calcula(llamada.m, llamada.n);
-    if (marcha.vigente())
-        muestraFin(llamada, valor);
+    if (!marcha.vigente())
+        co_return;
+    muestraFin(llamada, valor);
+    Q_EMIT hayPasos(pasosDeAck(llamada, corte));
 }
 
 void FormRecursion3Ackermann::ponEnMarcha()

@@ -4,6 +4,7 @@
 #include "lessons/recursion/functions/Ack.h"
 #include "lessons/recursion/functions/windows/ModeloAck.h"
 
+#include "shell/core/steps/Pasos.h"
 #include "shell/frame/Evento.h"
 
 #include <QElapsedTimer>
@@ -26,6 +27,10 @@ public:
     /// Runs stop by the stop line that the tabs share.
     FormRecursion3Ackermann(std::shared_ptr<Parada> parada, QWidget *padre);
     ~FormRecursion3Ackermann() override;
+
+Q_SIGNALS:
+    /// Why the last result holds; none while there is no result.
+    void hayPasos(const Pasos &pasos);
 
 private:
     void preparaRejilla();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/recursion/functions/windows/FormRecursion3Capicuas.h"
 
+#include "lessons/recursion/functions/PasosDeCapicua.h"
 #include "lessons/recursion/functions/windows/FormRecursion3PintorDeNumeros.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
@@ -97,12 +98,17 @@ Tarea<> FormRecursion3Capicuas::corre()
     // An emptied field would disable the button that stops the run.
     ui->TxtCapInicial->setReadOnly(true);
     m_sumas.ponFilas({});
+    Q_EMIT hayPasos({});
     const auto capicua = std::make_shared<Capicua>();
     m_capicua = capicua;
     m_pantalla.start();
     const Capicua::Fin fin = co_await capicua->busca(ui->TxtCapInicial->text(), marcha.billete());
-    if (marcha.vigente())
-        muestraFin(fin);
+    if (!marcha.vigente())
+        co_return;
+    muestraFin(fin);
+    Q_EMIT hayPasos(pasosDeCapicua(m_capicua->numeros(),
+                                   fin == Capicua::Fin::Hallado &&
+                                       m_capicua->numSumas() == m_capicua->numeros().size() - 1));
 }
 
 void FormRecursion3Capicuas::termina()

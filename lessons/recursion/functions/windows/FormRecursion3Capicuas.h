@@ -3,6 +3,7 @@
 
 #include "lessons/recursion/functions/Capicua.h"
 #include "shell/core/ModeloFilas.h"
+#include "shell/core/steps/Pasos.h"
 #include "shell/frame/Evento.h"
 
 #include <QTimer>
@@ -24,6 +25,10 @@ public:
     /// Runs stop by the stop line that the tabs share.
     FormRecursion3Capicuas(std::shared_ptr<Parada> parada, QWidget *padre);
     ~FormRecursion3Capicuas() override;
+
+Q_SIGNALS:
+    /// Why the last result holds; none while there is no result.
+    void hayPasos(const Pasos &pasos);
 
 private:
     void preparaRejilla();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/recursion/functions/windows/FormRecursion3Hailstone.h"
 
+#include "bignum/gateway/ModBignum.h"
+#include "lessons/recursion/functions/PasosDeGranizo.h"
 #include "lessons/recursion/functions/windows/FormRecursion3PintorDeNumeros.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
@@ -87,12 +89,24 @@ Tarea<> FormRecursion3Hailstone::corre()
     m_historia = std::make_shared<HistoriaGranizo>();
     m_modelo.pon(m_historia);
     ui->PicHail->borra();
+    Q_EMIT hayPasos({});
     m_pantalla.start();
     m_pantallaDeCurva.start();
     const QString inicio = ui->TxtInicial->text().trimmed();
     const FinDeGranizo fin = co_await correGranizo(inicio, m_historia, marcha.billete());
-    if (marcha.vigente())
-        muestraFin(inicio, fin);
+    if (!marcha.vigente())
+        co_return;
+    muestraFin(inicio, fin);
+    Q_EMIT hayPasos(pasosDe(inicio, fin));
+}
+
+/// None of a start that is no number, or has no step.
+Pasos FormRecursion3Hailstone::pasosDe(QString inicio, FinDeGranizo fin) const
+{
+    const qint64 hechos = m_historia->ultimo() - (fin == FinDeGranizo::DemasiadasCifras ? 1 : 0);
+    if (fin == FinDeGranizo::SinEntero || hechos < 1)
+        return {};
+    return pasosDeGranizo(Evalua(inicio), hechos);
 }
 
 void FormRecursion3Hailstone::termina()

@@ -3,6 +3,7 @@
 
 #include "lessons/recursion/functions/Granizo.h"
 #include "lessons/recursion/functions/ModeloGranizo.h"
+#include "shell/core/steps/Pasos.h"
 #include "shell/frame/Evento.h"
 
 #include <QTimer>
@@ -25,6 +26,10 @@ public:
     FormRecursion3Hailstone(std::shared_ptr<Parada> parada, QWidget *padre);
     ~FormRecursion3Hailstone() override;
 
+Q_SIGNALS:
+    /// Why the last result holds; none while there is no result.
+    void hayPasos(const Pasos &pasos);
+
 private:
     void preparaRejilla();
     void empieza();
@@ -33,6 +38,7 @@ private:
     void muestraAvance();
     void muestraCurva();
     void muestraFin(const QString &inicio, FinDeGranizo fin);
+    Pasos pasosDe(QString inicio, FinDeGranizo fin) const;
 
     void cmdHail_Click();
     void PicHail_Senalado(int indice);

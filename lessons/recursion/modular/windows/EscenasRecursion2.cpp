@@ -15,6 +15,7 @@ QList<Gesto> conModulo(const QString &modulo)
 QList<Escena> escenasRecursion2()
 {
     const QString representacion = u"representacion"_s;
+    const Gesto pasos{u"cmdTodosLosPasos"_s, {}};
     return {{u"recursion2-funcion"_s, u"funcion"_s},
             {u"recursion2-funcion-aceptada"_s,
              u"funcion"_s,
@@ -28,6 +29,8 @@ QList<Escena> escenasRecursion2()
             {u"recursion2-representacion-31999"_s, representacion, conModulo(u"31999"_s)},
             {u"recursion2-representacion-rechazada"_s, representacion,
              conModulo(u"10"_s) + conModulo(u"1/2"_s)},
+            {u"recursion2-representacion-pasos"_s, representacion, conModulo(u"10"_s) << pasos},
+            {u"recursion2-valores-pasos"_s, u"valores"_s, conModulo(u"6"_s) << pasos},
             {u"recursion2-valores-vacia"_s, u"valores"_s},
             {u"recursion2-valores"_s, u"valores"_s, conModulo(u"1000"_s)},
             {u"recursion2-cuestiones"_s, u"cuestiones"_s}};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/recursion/modular/windows/FormRecursion2.h"
 
+#include "lessons/recursion/modular/PasosModulares.h"
 #include "lessons/recursion/modular/windows/FormRecursion2Cuestiones.h"
 #include "lessons/recursion/modular/windows/FormRecursion2Funcion.h"
 #include "lessons/recursion/modular/windows/FormRecursion2Representacion.h"
@@ -8,6 +9,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Imagenes.h"
+#include "shell/steps/PanelDePasos.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,8 +23,9 @@ FormRecursión2::FormRecursión2(QWidget *padre)
     setWindowIcon(Icono(u"RECURMOD"_s));
     auto *funcion = new FormRecursion2Funcion(this);
     agregaTema(u"Función"_s, u"funcion"_s, funcion);
-    agregaTema(u"Representación"_s, u"representacion"_s, m_representacion);
-    agregaTema(u"Valores"_s, u"valores"_s, m_valores);
+    agregaTema(u"Representación"_s, u"representacion"_s, m_representacion,
+               m_representacion->pasos());
+    agregaTema(u"Valores"_s, u"valores"_s, m_valores, m_valores->pasos());
     agregaTema(u"Cuestiones"_s, u"cuestiones"_s, new FormRecursion2Cuestiones(this));
     conecta(funcion, &FormRecursion2Funcion::aceptada, this, &FormRecursión2::funcionAceptada);
     conecta(m_representacion, &FormRecursion2Representacion::sucesionCambiada, this,
@@ -39,5 +42,10 @@ void FormRecursión2::funcionAceptada(const DefinicionRecurrente &definicion)
 
 void FormRecursión2::moduloCambiado()
 {
-    m_valores->pon(m_representacion->definicion(), m_representacion->sucesion());
+    const auto &sucesion = m_representacion->sucesion();
+    m_valores->pon(m_representacion->definicion(), sucesion);
+    const Pasos pasos =
+        sucesion ? pasosDeSucesion(m_representacion->definicion(), *sucesion) : Pasos();
+    m_representacion->pasos()->pon(pasos);
+    m_valores->pasos()->pon(pasos);
 }

@@ -11,6 +11,7 @@
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormRecursion2Representacion.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -26,11 +27,15 @@ constexpr int FotogramasDeEureka = 3 * NumFotogramas;
 } // namespace
 
 FormRecursion2Representacion::FormRecursion2Representacion(QWidget *leccion)
-    : QWidget(leccion), ui(std::make_unique<Ui::FormRecursion2Representacion>())
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormRecursion2Representacion>()),
+      m_pasos(new PanelDePasos(u"Recursión modular"_s, this))
 {
     ui->setupUi(this);
     traduceVentana(this);
     ui->cmdCalcular->setIcon(Icono(u"CALCULAR"_s));
+    // Lines between values that jump about would hide that they come back.
+    ui->PicFunción->ponUnida(false);
     ui->PicFunción->ponTextoVacio(
         Traduce(u"Elija un módulo y pulse «Calcular» para ver los 250 primeros valores"_s));
     ui->TxtMódulo->setMinimumWidth(fontMetrics().horizontalAdvance(u"000000000"_s));
@@ -164,6 +169,7 @@ void FormRecursion2Representacion::muestraPeriodo()
     ui->txtInicioPeriodo->setText(QString::number(periodo->inicio));
     ui->TxtPeriodo->setText(QString::number(periodo->longitud));
     ui->PicFunción->ponTramo(periodo->inicio, periodo->inicio + periodo->longitud);
+    ui->PicFunción->ponPeriodo(periodo->inicio, periodo->longitud);
     m_fotograma = 0;
     ui->ImgEureka->setImagen(u"EUREKA0"_s);
     ui->ImgEureka->show();

@@ -8,6 +8,8 @@
 #include <memory>
 #include <optional>
 
+class PanelDePasos;
+
 namespace Ui {
 class FormRecursion2Representacion;
 }
@@ -27,6 +29,8 @@ public:
 
     /// The window closes: a modulus that was being edited is not wanted any more.
     void olvidaEdicion();
+
+    PanelDePasos *pasos() const { return m_pasos; }
 
     const DefinicionRecurrente &definicion() const { return m_definicion; }
     /// Nothing until a modulus is accepted.
@@ -55,6 +59,7 @@ private:
     std::unique_ptr<Ui::FormRecursion2Representacion> ui;
     DefinicionRecurrente m_definicion;
     std::optional<SucesionModular> m_sucesion;
+    PanelDePasos *m_pasos;
     QTimer m_timerEureka{this};
     int m_fotograma = 0;
 };

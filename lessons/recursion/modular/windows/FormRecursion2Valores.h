@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <memory>
 
+class PanelDePasos;
+
 namespace Ui {
 class FormRecursion2Valores;
 }
@@ -19,12 +21,17 @@ public:
     explicit FormRecursion2Valores(QWidget *leccion);
     ~FormRecursion2Valores() override;
 
+    PanelDePasos *pasos() const { return m_pasos; }
+
     void pon(const DefinicionRecurrente &definicion,
              const std::optional<SucesionModular> &sucesion);
 
 private:
+    QString textoDePareja(const std::optional<SucesionModular> &sucesion) const;
+
     void FlexValores_Click(const QModelIndex &celda);
 
     std::unique_ptr<Ui::FormRecursion2Valores> ui;
     ModeloValores m_valores;
+    PanelDePasos *m_pasos;
 };

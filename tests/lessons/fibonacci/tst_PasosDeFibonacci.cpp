@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "lessons/fibonacci/Embaldosados.h"
+#include "lessons/fibonacci/PasosDeFibonacci.h"
+#include "lessons/fibonacci/PasosDeIdentidad.h"
+#include "lessons/fibonacci/PasosDeZeckendorf.h"
+#include "tests/shell/support/RevisorDePasos.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+mpz_class fibonacci(const mpq_class &n)
+{
+    mpz_class f;
+    mpz_fib_ui(f.get_mpz_t(), static_cast<unsigned>(n.get_num().get_ui()));
+    return f;
+}
+
+/// Knows F, the calls L of its definition, and the coverings T of a strip, which it counts.
+RevisorDeFormulas revisorDeFibonacci()
+{
+    RevisorDeFormulas revisor;
+    revisor.agrega(u"F"_s, [](const auto &n) { return mpq_class(fibonacci(n.front())); });
+    revisor.agrega(u"L"_s, [](const auto &n) {
+        mpz_class antes = 1;
+        mpz_class ahora = 1;
+        for (mpz_class k = 1; k < n.front(); ++k) {
+            antes = ahora + antes + 1;
+            swap(antes, ahora);
+        }
+        return mpq_class(ahora);
+    });
+    revisor.agrega(u"T"_s, [](const auto &n) {
+        const auto largo = n.front().get_num().get_si();
+        return mpq_class(largo <= 10 ? mpz_class(static_cast<unsigned>(
+                                           embaldosados(static_cast<int>(largo)).size()))
+                                     : fibonacci(n.front() + 1));
+    });
+    return revisor;
+}
+
+int cuantasDestacadas(const Lamina &lamina, int largo)
+{
+    double area = 0;
+    for (const Figura &figura : lamina.figuras())
+        area += figura.rellena ? figura.lugar.width() + 0.12 : 0;
+    return qRound(area / largo);
+}
+
+} // namespace
+
+/// The steps of the lesson on Fibonacci numbers.
+class tst_PasosDeFibonacci : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void metodos_data();
+    void metodos();
+    void bordes_data();
+    void bordes();
+    void cocientes();
+    void zeckendorf();
+    void identidades_data();
+    void identidades();
+    void tirasDibujadas_data();
+    void tirasDibujadas();
+};
+
+void tst_PasosDeFibonacci::metodos_data()
+{
+    QTest::addColumn<MetodoFibonacci>("metodo");
+    QTest::addColumn<int>("mayor");
+    QTest::newRow("definition") << MetodoFibonacci::Definicion << 50;
+    QTest::newRow("iteration") << MetodoFibonacci::Iteracion << 1000;
+    QTest::newRow("doubling") << MetodoFibonacci::Duplicacion << 1500;
+}
+
+void tst_PasosDeFibonacci::metodos()
+{
+    QFETCH(MetodoFibonacci, metodo);
+    QFETCH(int, mayor);
+    RevisorDeFormulas revisor = revisorDeFibonacci();
+    revisaAlAzar(
+        revisor,
+        [&](QRandomGenerator &azar) {
+            return pasosDeFibonacci(metodo, azar.bounded(2, mayor + 1));
+        },
+        10000, 1);
+}
+
+void tst_PasosDeFibonacci::bordes_data()
+{
+    QTest::addColumn<MetodoFibonacci>("metodo");
+    QTest::addColumn<int>("n");
+    QTest::addColumn<int>("pasos");
+    QTest::newRow("0") << MetodoFibonacci::Duplicacion << 0 << 1;
+    QTest::newRow("1") << MetodoFibonacci::Definicion << 1 << 1;
+    QTest::newRow("2 doubled") << MetodoFibonacci::Duplicacion << 2 << 4;
+    QTest::newRow("a power of 2") << MetodoFibonacci::Duplicacion << 1024 << 13;
+    QTest::newRow("the largest") << MetodoFibonacci::Duplicacion
+                                 << cotaDe(MetodoFibonacci::Duplicacion) << 19;
+    QTest::newRow("13 added") << MetodoFibonacci::Iteracion << 13 << 12;
+}
+
+/// The last step gives F(n), whole.
+void tst_PasosDeFibonacci::bordes()
+{
+    QFETCH(MetodoFibonacci, metodo);
+    QFETCH(int, n);
+    const Pasos pasos = pasosDeFibonacci(metodo, n);
+    QTEST(int(pasos.cuantos()), "pasos");
+    const QString valor = QString::fromStdString(fibonacci(n).get_str());
+    const Paso ultimo = pasos.paso(pasos.cuantos() - 1);
+    QVERIFY(ultimo.formulas.first().escrita().endsWith(u"= "_s + valor));
+    QCOMPARE(RevisorDeFormulas(revisorDeFibonacci()).revisa(ultimo.formulas.first()), QString());
+}
+
+void tst_PasosDeFibonacci::cocientes()
+{
+    RevisorDeFormulas revisor = revisorDeFibonacci();
+    revisaAlAzar(revisor,
+                 [](QRandomGenerator &azar) { return pasosDeCocientes(azar.bounded(2, 200)); });
+}
+
+void tst_PasosDeFibonacci::zeckendorf()
+{
+    RevisorDeFormulas revisor = revisorDeFibonacci();
+    revisaAlAzar(
+        revisor,
+        [](QRandomGenerator &azar) {
+            QString n = QString::number(azar.bounded(1, azar.bounded(2) == 0 ? 200 : 2000000000));
+            return pasosDeZeckendorf(
+                representacionZeckendorf(azar.bounded(20) == 0 ? n.repeated(3) : n));
+        },
+        10000, 1);
+}
+
+void tst_PasosDeFibonacci::identidades_data()
+{
+    QTest::addColumn<int>("fila");
+    for (int fila = 0; fila < 5; ++fila)
+        QTest::newRow(qPrintable(QString::number(fila))) << fila;
+}
+
+void tst_PasosDeFibonacci::identidades()
+{
+    QFETCH(int, fila);
+    RevisorDeFormulas revisor = revisorDeFibonacci();
+    revisaAlAzar(
+        revisor,
+        [fila](QRandomGenerator &azar) {
+            const int mayor = azar.bounded(4) == 0 ? 300 : 12;
+            return pasosDeIdentidad(fila, azar.bounded(1, mayor), azar.bounded(1, mayor));
+        },
+        2000, 1);
+}
+
+void tst_PasosDeFibonacci::tirasDibujadas_data()
+{
+    QTest::addColumn<int>("fila");
+    QTest::addColumn<int>("m");
+    QTest::addColumn<int>("n");
+    QTest::addColumn<QList<int>>("destacadas"); // strips in full colours, step by step
+    QTest::newRow("F(3+4) = 2*5 + 1*3") << 2 << 3 << 4 << QList<int>{13, 10, 3, 0};
+    QTest::newRow("F(1+4) = 1*5 + 0*3") << 2 << 1 << 4 << QList<int>{5, 5, 0, 0};
+    QTest::newRow("F(4+1) = 3*1 + 2*1") << 2 << 4 << 1 << QList<int>{5, 3, 2, 0};
+    QTest::newRow("1 + 1 + 2 + 3 = 8 - 1") << 3 << 1 << 4 << QList<int>{8, 1, 1, 2, 3, 1};
+    QTest::newRow("too long to draw") << 2 << 4 << 5 << QList<int>{0, 0, 0, 0};
+}
+
+/// As many strips stand out as the step counts.
+void tst_PasosDeFibonacci::tirasDibujadas()
+{
+    QFETCH(int, fila);
+    QFETCH(int, m);
+    QFETCH(int, n);
+    const Pasos pasos = pasosDeIdentidad(fila, m, n);
+    QList<int> destacadas;
+    for (int i = 0; i < pasos.cuantos(); ++i)
+        destacadas << cuantasDestacadas(pasos.paso(i).lamina, fila == 2 ? m + n - 1 : n + 1);
+    QTEST(destacadas, "destacadas");
+}
+
+QTEST_GUILESS_MAIN(tst_PasosDeFibonacci)
+#include "tst_PasosDeFibonacci.moc"
