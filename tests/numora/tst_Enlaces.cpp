@@ -167,7 +167,8 @@ private:
     void abre()
     {
         Contenido contenido = m_contenido;
-        contenido.practicas.practica = [this](FormLeccion &ventana, const QString &clase, int nivel) {
+        contenido.practicas.practica = [this](FormLeccion &ventana, const QString &clase,
+                                              int nivel) {
             const QString falta = m_contenido.practicas.practica(ventana, clase, nivel);
             if (falta.isEmpty())
                 m_practicadas << clase + u' ' + QString::number(nivel);

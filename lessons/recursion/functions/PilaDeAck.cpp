@@ -14,10 +14,7 @@ public:
 
     bool acabada() const { return m_acabada; }
 
-    PilaDeAck::Suceso suceso()
-    {
-        return m_valor > 0 ? recibe(std::exchange(m_valor, 0)) : llama();
-    }
+    PilaDeAck::Suceso suceso() { return m_valor > 0 ? recibe(std::exchange(m_valor, 0)) : llama(); }
 
 private:
     PilaDeAck::Suceso llama()
