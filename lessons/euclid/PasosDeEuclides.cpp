@@ -133,7 +133,7 @@ Paso sustitucion(const TablaEuclides &tabla, const QList<Combinacion> &lineas, q
     const Combinacion &sabida = lineas[i + 1];
     const QString resto = cifras(absoluto(d.resto));
     return {Traduce(u"Se sustituye %1 por %2 y se agrupa."_s)
-                .arg(resto, QString(despejado(d)).replace(u"*"_s, u" · "_s)),
+                .arg(resto, despejado(d).replace(u"*"_s, u" · "_s).replace(u" - "_s, u" − "_s)),
             {Formula(u"%1 = %2*%3 + %4*(%5) = %6"_s.arg(cifras(tabla.mcd()), cifras(sabida.x),
                                                         trasSigno(d.divisor), trasSigno(sabida.y),
                                                         despejado(d), escrita(lineas[i], d)))}};

@@ -26,7 +26,7 @@ std::size_t cuantosComoMucho(std::int64_t limite)
 {
     const auto x = static_cast<double>(std::max<std::int64_t>(limite, 2));
     return static_cast<std::size_t>(1.25506 * x / std::log(x)) +
-           2 * CribaSegmentada::ValoresPorBloque + 3;
+           std::size_t{2} * CribaSegmentada::ValoresPorBloque + 3;
 }
 
 /// How many values of k, or primes that strike, go between two yields: one that awaits costs as
@@ -83,7 +83,7 @@ void CribaSegmentada::generaTramo(int desde)
 {
     m_candidatos = desde == 0 ? 0 : m_candidatos;
     for (int j = desde; j < std::min(desde + Tramo, ValoresPorBloque); ++j) {
-        const auto lugar = static_cast<std::size_t>(2 * j);
+        const auto lugar = 2 * static_cast<std::size_t>(j);
         const auto centro = static_cast<std::int64_t>(6 * (m_k + static_cast<std::uint64_t>(j)));
         m_vivo[lugar] = centro - 1 <= m_limite;
         m_vivo[lugar + 1] = centro + 1 <= m_limite;

@@ -52,7 +52,7 @@ void PanelDePasos::pon(const Pasos &pasos)
 void PanelDePasos::continua(const Pasos &pasos)
 {
     pon(pasos);
-    if (ui && !pasos.vacios())
+    if (!m_porMostrar && !pasos.vacios())
         vaA(static_cast<int>(pasos.cuantos()) - 1);
 }
 
