@@ -108,6 +108,7 @@ private:
     /// Until the runs of a lesson are over, or have clearly gone astray.
     static void esperaCorridas(const FormLeccion &leccion)
     {
+        espera(20ms); // some begin with the next turn of the queue
         const QDeadlineTimer fin(60s);
         const auto corridas = leccion.findChildren<BotonDeCorrida *>();
         const auto enMarcha = [](const BotonDeCorrida *corrida) { return corrida->enMarcha(); };

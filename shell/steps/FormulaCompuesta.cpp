@@ -15,9 +15,11 @@ namespace {
 using Nodo = NodoDeFormula;
 using Caja = FormulaCompuesta::Caja;
 
-constexpr qreal CuerpoMenor = 0.72;  ///< of exponents and subscripts, to what they stand on
-constexpr qreal MasReduccion = 0.65; ///< of a formula that is too wide
-constexpr qreal MenorLetra = 6;      ///< points; nothing is set smaller
+constexpr qreal CuerpoMenor = 0.72;   ///< of exponents and subscripts, to what they stand on
+constexpr qreal MasReduccion = 0.8;   ///< of a formula that is too wide
+constexpr qsizetype Cifras = 40;      ///< of the longest number that is written whole
+constexpr qsizetype PocasCifras = 20; ///< where there is no room for it
+constexpr qreal MenorLetra = 6;       ///< points; nothing is set smaller
 
 QFont reducida(QFont fuente, qreal factor)
 {
@@ -49,13 +51,16 @@ void sigue(Caja &caja, const Caja &otra)
 class Compositor
 {
 public:
-    explicit Compositor(const QFont &fuente) : m_fuente(fuente), m_medidas(fuente) {}
+    Compositor(const QFont &fuente, qsizetype masCifras)
+        : m_fuente(fuente), m_medidas(fuente), m_masCifras(masCifras)
+    {
+    }
 
     Caja nodo(const Nodo &n) const
     {
         switch (n.clase) {
         case Nodo::Numero:
-            return texto(numeroEnPantalla(n.texto));
+            return texto(numeroEnPantalla(n.texto, m_masCifras));
         case Nodo::Palabra:
             return texto(n.texto);
         case Nodo::Nombre:
@@ -225,10 +230,11 @@ private:
         return caja;
     }
 
-    Compositor menor() const { return Compositor(reducida(m_fuente, CuerpoMenor)); }
+    Compositor menor() const { return {reducida(m_fuente, CuerpoMenor), m_masCifras}; }
 
     QFont m_fuente;
     QFontMetricsF m_medidas;
+    qsizetype m_masCifras;
 };
 
 } // namespace
@@ -238,13 +244,13 @@ FormulaCompuesta::FormulaCompuesta(const Formula &formula, const QFont &fuente, 
     if (formula.vacia())
         return;
     const qreal sangria = 1.5 * QFontMetricsF(fuente).height();
-    reparte(Compositor(fuente).trozos(formula.raiz()), ancho, sangria);
-    // A long number is never broken: it is set smaller instead, as far as it can be read.
-    if (m_tamano.width() > ancho)
-        reparte(
-            Compositor(reducida(fuente, std::max(MasReduccion, 0.98 * ancho / m_tamano.width())))
-                .trozos(formula.raiz()),
-            ancho, sangria);
+    reparte(Compositor(fuente, Cifras).trozos(formula.raiz()), ancho, sangria);
+    // A long number is never broken: it is set somewhat smaller, or shortened.
+    if (m_tamano.width() > ancho) {
+        const bool cabe = m_tamano.width() * MasReduccion <= ancho;
+        const Compositor menor(reducida(fuente, MasReduccion), cabe ? Cifras : PocasCifras);
+        reparte(menor.trozos(formula.raiz()), ancho, sangria);
+    }
 }
 
 void FormulaCompuesta::reparte(const std::vector<Caja> &trozos, qreal ancho, qreal sangria)
