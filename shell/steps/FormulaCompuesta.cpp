@@ -17,6 +17,16 @@ using Caja = FormulaCompuesta::Caja;
 
 constexpr qreal CuerpoMenor = 0.72; ///< of exponents and subscripts, to what they stand on
 constexpr qreal MenorLetra = 6;     ///< points; nothing is set smaller
+constexpr qreal MenorParte = 0.6;   ///< of the size, where a piece is too wide for the line
+
+QFont reducida(QFont fuente, qreal factor)
+{
+    if (fuente.pointSizeF() > 0)
+        fuente.setPointSizeF(std::max(MenorLetra, fuente.pointSizeF() * factor));
+    else
+        fuente.setPixelSize(std::max(8, qRound(fuente.pixelSize() * factor)));
+    return fuente;
+}
 
 /// Puts a box beside (`dx`) and under (`dy`) the base line of another one.
 void junta(Caja &caja, const Caja &otra, qreal dx, qreal dy)
@@ -215,15 +225,7 @@ private:
         return caja;
     }
 
-    Compositor menor() const
-    {
-        QFont fuente = m_fuente;
-        if (fuente.pointSizeF() > 0)
-            fuente.setPointSizeF(std::max(MenorLetra, fuente.pointSizeF() * CuerpoMenor));
-        else
-            fuente.setPixelSize(std::max(8, qRound(fuente.pixelSize() * CuerpoMenor)));
-        return Compositor(fuente);
-    }
+    Compositor menor() const { return Compositor(reducida(m_fuente, CuerpoMenor)); }
 
     QFont m_fuente;
     QFontMetricsF m_medidas;
@@ -233,9 +235,19 @@ private:
 
 FormulaCompuesta::FormulaCompuesta(const Formula &formula, const QFont &fuente, qreal ancho)
 {
-    if (!formula.vacia())
-        reparte(Compositor(fuente).trozos(formula.raiz()), ancho,
-                1.5 * QFontMetricsF(fuente).height());
+    if (formula.vacia())
+        return;
+    const qreal sangria = 1.5 * QFontMetricsF(fuente).height();
+    std::vector<Caja> trozos = Compositor(fuente).trozos(formula.raiz());
+    const qreal mayor =
+        std::max_element(trozos.begin(), trozos.end(), [](const Caja &a, const Caja &b) {
+            return a.ancho < b.ancho;
+        })->ancho;
+    // What cannot be broken is set smaller, all of the formula alike.
+    if (mayor > ancho - sangria)
+        trozos = Compositor(reducida(fuente, std::max(MenorParte, (ancho - sangria) / mayor)))
+                     .trozos(formula.raiz());
+    reparte(trozos, ancho, sangria);
 }
 
 void FormulaCompuesta::reparte(const std::vector<Caja> &trozos, qreal ancho, qreal sangria)
