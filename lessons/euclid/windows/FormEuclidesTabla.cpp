@@ -72,6 +72,8 @@ void FormEuclidesTabla::preparaStatusBar()
     m_panelAlgoritmo->setFocusPolicy(Qt::StrongFocus);
     ui->StatusBar->setSizeGripEnabled(false);
     ui->StatusBar->addWidget(m_panelAlgoritmo);
+    setTabOrder(ui->cmdRellenar, ui->FlexEuclides);
+    setTabOrder(ui->FlexEuclides, m_panelAlgoritmo);
     ponRestosReducidos(false);
 }
 
