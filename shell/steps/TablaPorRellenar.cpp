@@ -55,13 +55,6 @@ const TablaConHuecos &TablaPorRellenar::tabla() const
     return m_modelo->tabla();
 }
 
-void TablaPorRellenar::ponBotonesDeOcultar(bool con)
-{
-    for (QToolButton *boton :
-         {ui->cmdOcultarUna, ui->cmdOcultarDos, ui->cmdOcultarTodas, ui->cmdMostrarTodas})
-        boton->setVisible(con);
-}
-
 /// The keyboard goes to the first cell that is to be filled in.
 template <typename Cambio>
 void TablaPorRellenar::oculta(Cambio cambio)

@@ -73,6 +73,8 @@ void FormEuclidesTabla::preparaStatusBar()
     m_panelAlgoritmo->setCheckable(true);
     ui->StatusBar->setSizeGripEnabled(false);
     ui->StatusBar->addWidget(m_panelAlgoritmo);
+    setTabOrder(ui->cmdRellenar, ui->FlexEuclides);
+    setTabOrder(ui->FlexEuclides, m_panelAlgoritmo);
     ponRestosReducidos(false);
 }
 
