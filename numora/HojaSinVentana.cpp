@@ -35,8 +35,8 @@ int hojaSinVentana(const QString &codigo, const QString &archivo, bool conSoluci
     try {
         escribeArchivo(archivo, hojaEnPdf(std::get<EncargoDeHoja>(leido), conSoluciones));
     } catch (const ErrorEjecucion &error) {
-        salida = falla(Traduce(ErrorEjecucion::nombre(error.numero()) + u'.') + u' ' +
-                       error.detalle());
+        salida =
+            falla(Traduce(ErrorEjecucion::nombre(error.numero()) + u'.') + u' ' + error.detalle());
     }
     TerminaBignum();
     return salida;
