@@ -32,14 +32,15 @@ void Cuaderno::ponGuarda(bool guarda)
     } else if (!m_almacen) {
         m_almacen = std::make_unique<AlmacenDeProgreso>(m_carpeta);
         m_hechos = m_almacen->hechos();
+        ++m_lectura;
     }
 }
 
 QString Cuaderno::anota(Hecho hecho, Lugar &lugar)
 {
     hecho.dia = hoy();
-    if (lugar.enMemoria < 0 || lugar.enMemoria >= m_hechos.size()) {
-        lugar.enMemoria = m_hechos.size();
+    if (lugar.enMemoria < 0 || lugar.lectura != m_lectura) {
+        lugar = {m_hechos.size(), 0, m_lectura};
         m_hechos << hecho;
     } else {
         m_hechos[lugar.enMemoria] = hecho;
@@ -50,8 +51,10 @@ QString Cuaderno::anota(Hecho hecho, Lugar &lugar)
 QString Cuaderno::borraTodo()
 {
     const QString motivo = m_almacen ? m_almacen->borraTodo() : QString();
-    if (motivo.isEmpty())
+    if (motivo.isEmpty()) {
         m_hechos.clear();
+        ++m_lectura;
+    }
     return motivo;
 }
 

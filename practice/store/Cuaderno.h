@@ -30,6 +30,7 @@ public:
     {
         qsizetype enMemoria = -1;
         qint64 enBase = 0;
+        int lectura = 0; ///< of what was read then; another one has other places
     };
     /// Puts down an exercise or what has become of it, dated today. Gives a sentence where it could
     /// not be kept.
@@ -48,4 +49,5 @@ private:
     QString m_carpeta;
     std::unique_ptr<AlmacenDeProgreso> m_almacen;
     QList<Hecho> m_hechos;
+    int m_lectura = 0;
 };

@@ -6,6 +6,7 @@
 #include "practice/windows/FormPracticasHojas.h"
 #include "practice/windows/FormPracticasMapa.h"
 #include "practice/windows/FormPracticasPracticar.h"
+#include "shell/core/CarpetaDeDatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Imagenes.h"
 
@@ -24,7 +25,7 @@ const QString ClaveRepasos = u"Practicas/Repasos"_s;
 
 FormPracticas::FormPracticas(QWidget *padre)
     : FormLeccion(u"Curso.html"_s, padre),
-      m_cuaderno(Sesión().carpetaDeDatos(), Sesión().recuerda(ClaveGuardar, true).toBool())
+      m_cuaderno(carpetaDeDatos(), Sesión().recuerda(ClaveGuardar, true).toBool())
 {
     setObjectName(u"FormPracticas"_s);
     setWindowTitle(Traduce(u"Prácticas"_s));

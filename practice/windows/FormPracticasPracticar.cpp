@@ -6,6 +6,7 @@
 #include "practice/progress/LaminaDelCurso.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/steps/NumerosEnPantalla.h"
+#include "shell/frame/Anuncio.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
@@ -231,6 +232,7 @@ void FormPracticasPracticar::cmdComprobar_Click()
         return;
     }
     muestraVeredicto(ui->lblVeredicto, respuesta.fallo->acertada, respuesta.fallo->palabra);
+    anuncia(ui->lblVeredicto);
     if (respuesta.cuenta)
         anota();
     if (respuesta.fallo->acertada)
@@ -247,6 +249,7 @@ void FormPracticasPracticar::cmdPista_Click()
     const QString antes = ui->lblPistas->text();
     ui->lblPistas->setText((antes.isEmpty() ? antes : antes + u'\n') +
                            Traduce(u"Pista: %1"_s).arg(pista));
+    anuncia(ui->lblPistas);
     muestraAyudas();
     if (m_lugar.enMemoria >= 0 && !m_curso->terminado())
         anota();

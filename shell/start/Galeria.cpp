@@ -2,6 +2,7 @@
 #include "shell/start/Galeria.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/CarpetaDeDatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
 #include "shell/frame/BotonDeCorrida.h"
@@ -226,7 +227,7 @@ int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
     const QString copia = deUsarYTirar.filePath(u"Numora"_s);
     copiaCarpetaDeTrabajo(rutaExistente(Sesión().carpeta()), copia);
     Sesión().ponCarpeta(copia);
-    Sesión().ponCarpetaDeDatos(deUsarYTirar.filePath(u"Datos"_s));
+    ponCarpetaDeDatos(deUsarYTirar.filePath(u"Datos"_s));
     QDir::setCurrent(copia);
     ImgSiguiente() = Icono(u"SIGUIENTE"_s);
     ImgStop() = Icono(u"STOP"_s);

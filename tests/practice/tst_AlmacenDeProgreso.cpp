@@ -95,7 +95,7 @@ private Q_SLOTS:
         const auto como = estaFila<QString>();
         {
             AlmacenDeProgreso almacen(datos());
-            for (int i = 0; i < 200; ++i) {
+            for (int i = 0; i < 60; ++i) {
                 qint64 id = 0;
                 almacen.anota(hechoDe(u"a.b"_s), id);
             }

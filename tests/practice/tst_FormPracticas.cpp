@@ -3,6 +3,7 @@
 #include "practice/sheets/CodigoDeHoja.h"
 #include "practice/store/AlmacenDeProgreso.h"
 #include "practice/windows/FormPracticas.h"
+#include "shell/core/CarpetaDeDatos.h"
 #include "shell/grid/Rejilla.h"
 #include "shell/steps/PanelDePasos.h"
 #include "tests/shell/support/Entorno.h"
@@ -43,7 +44,7 @@ private Q_SLOTS:
         const QString enunciado = texto(u"lblEnunciado"_s);
         pulsa(u"cmdSiguiente"_s);
         QVERIFY(!pasos->isVisible() && texto(u"lblEnunciado"_s) != enunciado);
-        const auto hechos = AlmacenDeProgreso(Sesión().carpetaDeDatos()).hechos();
+        const auto hechos = AlmacenDeProgreso(carpetaDeDatos()).hechos();
         QCOMPARE(hechos.size(), 1);
         QCOMPARE(hechos[0].estado, EstadoDeEjercicio::SolucionVista);
         QCOMPARE(std::tuple(hechos[0].pistas, hechos[0].intentos, hechos[0].nivel),
@@ -121,7 +122,7 @@ private Q_SLOTS:
         abre();
         m_ventana->practica(u"euclides.mcd"_s, 1);
         pulsa(u"cmdSolucion"_s);
-        QVERIFY(AlmacenDeProgreso(Sesión().carpetaDeDatos()).hechos().isEmpty());
+        QVERIFY(AlmacenDeProgreso(carpetaDeDatos()).hechos().isEmpty());
     }
 
 private:
