@@ -24,5 +24,5 @@ struct Sistema
 /// least solution is larger than all moduli, so that none of the remainders gives it away.
 Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo);
 
-/// Congruence after congruence is put into the form x = r + m·k of those before.
+/// Why it has its solution, or none.
 Pasos pasosDeSistema(const Sistema &sistema);
