@@ -89,7 +89,7 @@ Dudosa dudosaDe(Sorteo &sorteo)
          Traduce(u"Desde n > 0 se va cada vez más lejos de 0."_s), u"no-baja"_s},
         {u"f(0) = %1, f(n) = f(n − %2) + %3"_s.arg(f0, k, c), false,
          Traduce(u"Bajando así, algunos números saltan por encima del 0."_s), u"salta-el-caso"_s},
-        {u"f(0) = %1, f(n) = %2 · f(n) − %3"_s.arg(f0, k, c), false,
+        {u"f(0) = %1, f(n) = f(n) + %2"_s.arg(f0, c), false,
          Traduce(u"f(n) se pide a sí mismo: no se baja nunca."_s), u"no-baja"_s},
         {u"f(0) = %1, f(n) = f(%2n − %2) + %3"_s.arg(f0, k, c), false,
          Traduce(u"El argumento no baja desde el 2: o se queda igual o crece."_s), u"no-baja"_s}};

@@ -278,9 +278,9 @@ RespuestaLeida leeFraccion(const QString &expresion, const QString &texto)
     if (hallada.hasMatch() && arriba && abajo != u"0"_s)
         return leida({*arriba, abajo.value_or(u"1"_s)}, expresion);
     // What has a value but is not written as one is left to be computed: the question itself.
-    return entero(expresion) ? RespuestaLeida{RespuestaLeida::EsLaPregunta, {}, {},
-                                              Traduce(u"eso es la pregunta"_s)}
-                             : noEntendida(texto.trimmed());
+    if (falloDeExpresion(expresion).clase == FalloDeExpresion::Clase::Ninguno)
+        return {RespuestaLeida::EsLaPregunta, {}, {}, Traduce(u"eso es la pregunta"_s)};
+    return noEntendida(texto.trimmed());
 }
 
 RespuestaLeida leeFormulaDeCelda(const QString &expresion, const QString &texto)
