@@ -162,15 +162,15 @@ void escribe(QWidget *campo, const QString &texto)
         throw std::runtime_error("no field to write into");
 }
 
-/// The control of that name on the topic in front.
+/// The control of that name, on the topic in front where there are several.
 template <typename Control>
 Control *visible(const FormLeccion &leccion, const QString &nombre)
 {
-    for (Control *control : leccion.findChildren<Control *>(nombre)) {
-        if (control->isVisible())
-            return control;
-    }
-    throw std::runtime_error(nombre.toStdString());
+    const auto todos = leccion.findChildren<Control *>(nombre);
+    if (todos.isEmpty())
+        throw std::runtime_error(nombre.toStdString());
+    const auto delante = std::ranges::find_if(todos, &QWidget::isVisible);
+    return delante == todos.end() ? todos.first() : *delante;
 }
 
 bool algunaEnMarcha(const FormLeccion &leccion)

@@ -37,7 +37,8 @@ SumaDelTCR sumaDelTCR(const QList<FilaDelTCR> &filas);
 bool sonCoprimos(const QList<FilaDelTCR> &filas);
 
 /// Two congruences on the way to one: x ≡ r (mod m), which stands for the rows before, and the next
-/// row. With d = mcd(m, modulus of the row), x = r + m·k and (m/d)·k ≡ (resto − r)/d (mod modulo/d).
+/// row. With d = mcd(m, modulus of the row), x = r + m·k and (m/d)·k ≡ (resto − r)/d (mod
+/// modulo/d).
 struct UnionDelTCR
 {
     EnteroLargo r, m;

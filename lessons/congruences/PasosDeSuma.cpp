@@ -43,13 +43,14 @@ public:
 private:
     Paso coprimos() const
     {
-        Paso paso{Traduce(u"Los módulos no tienen factores comunes, ni siquiera de dos en dos."_s),
-                  {},
-                  Traduce(u"Teorema chino: el sistema tiene entonces una solución, y una sola módulo "
-                          "su producto."_s)};
+        Paso paso{
+            Traduce(u"Los módulos no tienen factores comunes, ni siquiera de dos en dos."_s),
+            {},
+            Traduce(u"Teorema chino: el sistema tiene entonces una solución, y una sola módulo "
+                    "su producto."_s)};
         if (m_filas.size() > 1 && m_filas.size() <= MasEnFormula)
-            paso.formulas << Formula(u"%1(%2) = %3"_s.arg(Traduce(u"mcm"_s), unidos(m_filas, u"; "_s),
-                                                          unidos(m_filas, u"*"_s)));
+            paso.formulas << Formula(u"%1(%2) = %3"_s.arg(
+                Traduce(u"mcm"_s), unidos(m_filas, u"; "_s), unidos(m_filas, u"*"_s)));
         return paso;
     }
 
@@ -68,19 +69,21 @@ private:
         const SumandoDelTCR &s = m_s.sumandos[i];
         const QString n = QString::number(f.numero);
         const QString m = f.modulo.texto();
-        Paso paso{Traduce(u"Fila %1: el producto de los demás módulos, su inverso módulo %2 y el "
-                          "sumando."_s)
-                      .arg(n, m),
-                  {Formula(u"M_%1 = %2/%3 = %4"_s.arg(n, m_s.producto.texto(), m, s.cociente.texto())),
-                   congruencia(s.cociente.texto(), s.reducido.texto(), f.modulo),
-                   Formula(u"y_%1 = %2"_s.arg(n, s.inverso.texto())),
-                   congruencia(u"%1*%2"_s.arg(s.reducido.texto(), s.inverso.texto()), u"1"_s, f.modulo),
-                   Formula(u"%1*%2*%3 = %4"_s.arg(f.resto.texto(), s.cociente.texto(),
-                                                  s.inverso.texto(), s.sumando.texto()))}};
+        Paso paso{
+            Traduce(u"Fila %1: el producto de los demás módulos, su inverso módulo %2 y el "
+                    "sumando."_s)
+                .arg(n, m),
+            {Formula(u"M_%1 = %2/%3 = %4"_s.arg(n, m_s.producto.texto(), m, s.cociente.texto())),
+             congruencia(s.cociente.texto(), s.reducido.texto(), f.modulo),
+             Formula(u"y_%1 = %2"_s.arg(n, s.inverso.texto())),
+             congruencia(u"%1*%2"_s.arg(s.reducido.texto(), s.inverso.texto()), u"1"_s, f.modulo),
+             Formula(u"%1*%2*%3 = %4"_s.arg(f.resto.texto(), s.cociente.texto(), s.inverso.texto(),
+                                            s.sumando.texto()))}};
         if (i == 0)
-            paso.regla = Traduce(u"El sumando deja el resto pedido en su fila y 0 en las demás, porque "
-                                 "lleva todos los otros módulos como factores. El inverso sale de "
-                                 "estas divisiones."_s);
+            paso.regla =
+                Traduce(u"El sumando deja el resto pedido en su fila y 0 en las demás, porque "
+                        "lleva todos los otros módulos como factores. El inverso sale de "
+                        "estas divisiones."_s);
         paso.tabla = EuclidesLargo(f.modulo, s.reducido).tabla();
         return paso;
     }
@@ -94,9 +97,12 @@ private:
         for (qsizetype i = 0; i < m_filas.size(); ++i) {
             const SumandoDelTCR &s = m_s.sumandos[i];
             sumandos << s.sumando.trasSigno();
-            tabla.filas << QStringList{QString::number(m_filas[i].numero), m_filas[i].resto.texto(),
-                                       m_filas[i].modulo.texto(),          s.cociente.texto(),
-                                       s.inverso.texto(),                  s.sumando.texto()};
+            tabla.filas << QStringList{QString::number(m_filas[i].numero),
+                                       m_filas[i].resto.texto(),
+                                       m_filas[i].modulo.texto(),
+                                       s.cociente.texto(),
+                                       s.inverso.texto(),
+                                       s.sumando.texto()};
         }
         Paso paso{Traduce(u"Se suman y se toma el resto módulo M: %1."_s).arg(m_s.solucion.texto()),
                   {},

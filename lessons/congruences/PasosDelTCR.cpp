@@ -17,8 +17,9 @@ Paso comprobacionDelTCR(const QList<FilaDelTCR> &filas, const EnteroLargo &soluc
     Paso paso{Traduce(u"La solución %1 cumple todas las filas."_s).arg(solucion.texto())};
     for (const FilaDelTCR &fila : filas)
         paso.formulas << congruencia(solucion.texto(), fila.resto.texto(), fila.modulo);
-    paso.regla = Traduce(u"Las demás soluciones son las que se diferencian de ella en un múltiplo del "
-                         "mínimo común múltiplo de los módulos."_s);
+    paso.regla =
+        Traduce(u"Las demás soluciones son las que se diferencian de ella en un múltiplo del "
+                "mínimo común múltiplo de los módulos."_s);
     return paso;
 }
 

@@ -56,14 +56,16 @@ Formula coeficientes(const TablaEuclides &tabla, qsizetype i)
 QString reglaDeDivision(const TablaEuclides &tabla, qsizetype i)
 {
     if (tabla.divisiones()[i].resto < Moneda())
-        return Traduce(u"El cociente se toma uno mayor: así el resto es negativo, pero menor en valor "
-                       "absoluto, y con ese se sigue."_s);
+        return Traduce(
+            u"El cociente se toma uno mayor: así el resto es negativo, pero menor en valor "
+            "absoluto, y con ese se sigue."_s);
     if (i == 0)
         return Traduce(u"Lo que divide al dividendo y al divisor divide también al resto, y lo que "
                        "divide al divisor y al resto, al dividendo: el mcd no cambia."_s);
     if (i == 1)
-        return Traduce(u"Los coeficientes son los de dos filas antes menos el cociente por los de la "
-                       "fila anterior; se empieza por 1 y 0, y por 0 y 1."_s);
+        return Traduce(
+            u"Los coeficientes son los de dos filas antes menos el cociente por los de la "
+            "fila anterior; se empieza por 1 y 0, y por 0 y 1."_s);
     return {};
 }
 
@@ -114,13 +116,14 @@ QString escrita(const Combinacion &c, const DivisionEuclides &d)
 Paso despeje(const TablaEuclides &tabla, const Combinacion &c)
 {
     const DivisionEuclides &d = tabla.divisiones()[*tabla.filaDelMcd()];
-    return {Traduce(u"Hacia atrás: se despeja %1 de la división que lo dejó como resto."_s)
-                .arg(cifras(tabla.mcd())),
-            {Formula(u"%1 = %2 = %3"_s.arg(cifras(tabla.mcd()), despejado(d), escrita(c, d)))},
-            tabla.algoritmo() == AlgoritmoEuclides::Estandar
-                ? QString()
-                : Traduce(u"Aquí se cuenta con los signos de los restos; los coeficientes de la tabla "
-                          "no lo hacen, y por eso no dan la identidad de Bezout."_s)};
+    return {
+        Traduce(u"Hacia atrás: se despeja %1 de la división que lo dejó como resto."_s)
+            .arg(cifras(tabla.mcd())),
+        {Formula(u"%1 = %2 = %3"_s.arg(cifras(tabla.mcd()), despejado(d), escrita(c, d)))},
+        tabla.algoritmo() == AlgoritmoEuclides::Estandar
+            ? QString()
+            : Traduce(u"Aquí se cuenta con los signos de los restos; los coeficientes de la tabla "
+                      "no lo hacen, y por eso no dan la identidad de Bezout."_s)};
 }
 
 /// Row i + 1 is known; its divisor is put in as the remainder of row i.
@@ -130,10 +133,10 @@ Paso sustitucion(const TablaEuclides &tabla, const QList<Combinacion> &lineas, q
     const Combinacion &sabida = lineas[i + 1];
     const QString resto = cifras(absoluto(d.resto));
     return {Traduce(u"Se sustituye %1 por %2 y se agrupa."_s)
-                .arg(resto, QString(despejado(d)).replace(u"*"_s, u" · "_s)),
-            {Formula(u"%1 = %2*%3 + %4*(%5) = %6"_s.arg(
-                cifras(tabla.mcd()), cifras(sabida.x), trasSigno(d.divisor), trasSigno(sabida.y),
-                despejado(d), escrita(lineas[i], d)))}};
+                .arg(resto, despejado(d).replace(u"*"_s, u" · "_s).replace(u" - "_s, u" − "_s)),
+            {Formula(u"%1 = %2*%3 + %4*(%5) = %6"_s.arg(cifras(tabla.mcd()), cifras(sabida.x),
+                                                        trasSigno(d.divisor), trasSigno(sabida.y),
+                                                        despejado(d), escrita(lineas[i], d)))}};
 }
 
 Paso bezout(const TablaEuclides &tabla, const QList<Combinacion> &lineas)

@@ -25,7 +25,9 @@ qreal real(const EnteroLargo &n)
 class Plano
 {
 public:
-    Plano(const QRectF &vista, const QString &descripcion) : m_vista(vista), m_lamina(descripcion) {}
+    Plano(const QRectF &vista, const QString &descripcion) : m_vista(vista), m_lamina(descripcion)
+    {
+    }
 
     QPointF lugar(qreal x, qreal y) const
     {
@@ -53,8 +55,8 @@ public:
     {
         const qreal izquierda = std::max(m_vista.left(), (c - b * m_vista.bottom()) / a);
         const qreal derecha = std::min(m_vista.right(), (c - b * m_vista.top()) / a);
-        m_lamina.linea(lugar(izquierda, (c - a * izquierda) / b), lugar(derecha, (c - a * derecha) / b),
-                       {Tono::Acento});
+        m_lamina.linea(lugar(izquierda, (c - a * izquierda) / b),
+                       lugar(derecha, (c - a * derecha) / b), {Tono::Acento});
     }
     void punto(qreal x, qreal y, const QString &rotulo)
     {
@@ -79,7 +81,8 @@ private:
 QRectF vistaDe(const RectaDeSoluciones &r)
 {
     qreal desdeX = 0, desdeY = 0;
-    qreal hastaX = std::max(1.0, real(r.c) / real(r.a)), hastaY = std::max(1.0, real(r.c) / real(r.b));
+    qreal hastaX = std::max(1.0, real(r.c) / real(r.a)),
+          hastaY = std::max(1.0, real(r.c) / real(r.b));
     if (r.haySoluciones() && r.cuantas() < MasPuntos) {
         desdeX = real(r.x(r.kmin - 1));
         hastaX = std::max(hastaX, real(r.x(r.kmax + 1)));
@@ -93,8 +96,8 @@ QRectF vistaDe(const RectaDeSoluciones &r)
 
 QString descripcion(const RectaDeSoluciones &r)
 {
-    const QString recta = Traduce(u"La recta %1·x + %2·y = %3"_s)
-                              .arg(r.a.texto(), r.b.texto(), r.c.texto());
+    const QString recta =
+        Traduce(u"La recta %1·x + %2·y = %3"_s).arg(r.a.texto(), r.b.texto(), r.c.texto());
     if (!r.haySoluciones())
         return recta + Traduce(u", que no pasa por ningún punto de coordenadas enteras."_s);
     return recta + Traduce(u" y sus puntos de coordenadas enteras: %1 sin números negativos."_s)

@@ -5,8 +5,8 @@
 #include "shell/core/steps/Lamina.h"
 
 /// The whole solutions of a·x + b·y = c, for a, b > 0 and c ≥ 0, exact whatever the size of the
-/// numbers: x = x0 + k·pasoX, y = y0 − k·pasoY, those without negative numbers for k in [kmin, kmax].
-/// (Source: K. H. Rosen, Elementary Number Theory and Its Applications, 2011, section 3.7.)
+/// numbers: x = x0 + k·pasoX, y = y0 − k·pasoY, those without negative numbers for k in [kmin,
+/// kmax]. (Source: K. H. Rosen, Elementary Number Theory and Its Applications, 2011, section 3.7.)
 struct RectaDeSoluciones
 {
     EnteroLargo a, b, c;

@@ -9,7 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qint64 MasCuadrados = 40; ///< more of them are a hatching
+constexpr qint64 MasCuadrados = 40;    ///< more of them are a hatching
 constexpr qreal MenorConRotulo = 0.04; ///< of the longer side
 constexpr qreal MenorVisible = 0.0005;
 
@@ -67,7 +67,8 @@ private:
     /// What is left beyond the squares, or what they stand out by.
     void quita(qreal cubierto)
     {
-        m_hueco = m_alLargo ? m_hueco.adjusted(cubierto, 0, 0, 0) : m_hueco.adjusted(0, cubierto, 0, 0);
+        m_hueco =
+            m_alLargo ? m_hueco.adjusted(cubierto, 0, 0, 0) : m_hueco.adjusted(0, cubierto, 0, 0);
         m_hueco = m_hueco.normalized();
     }
 
@@ -85,11 +86,12 @@ Lamina rectanguloDeEuclides(const TablaEuclides &tabla, qsizetype hasta)
     const auto b = static_cast<qreal>(tabla.divisor().entero());
     if (a <= 0 || b <= 0)
         return {};
-    Corte corte(a, b,
-                Traduce(u"Un rectángulo de %1 por %2, cubierto con los cuadrados de las primeras %3 "
-                        "divisiones."_s)
-                    .arg(tabla.dividendo().texto(), tabla.divisor().texto())
-                    .arg(hasta + 1));
+    Corte corte(
+        a, b,
+        Traduce(u"Un rectángulo de %1 por %2, cubierto con los cuadrados de las primeras %3 "
+                "divisiones."_s)
+            .arg(tabla.dividendo().texto(), tabla.divisor().texto())
+            .arg(hasta + 1));
     for (qsizetype i = 0; i <= hasta; ++i)
         corte.divide(tabla.divisiones()[i], static_cast<int>(i));
     return corte.lamina({0, 0, a, b});

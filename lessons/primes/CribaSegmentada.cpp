@@ -2,6 +2,7 @@
 #include "lessons/primes/CribaSegmentada.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -16,6 +17,16 @@ std::uint64_t candidato(std::uint64_t lugar)
 std::uint64_t lugarDe(std::uint64_t candidato)
 {
     return 2 * ((candidato + 1) / 6 - 1) + (candidato % 6 == 1 ? 1 : 0);
+}
+
+/// Room for the primes up to a limit and for a block behind them. (J. Barkley Rosser and Lowell
+/// Schoenfeld, "Approximate formulas for some functions of prime numbers", 1962: fewer than
+/// 1.25506 x / ln x.)
+std::size_t cuantosComoMucho(std::int64_t limite)
+{
+    const auto x = static_cast<double>(std::max<std::int64_t>(limite, 2));
+    return static_cast<std::size_t>(1.25506 * x / std::log(x)) +
+           std::size_t{2} * CribaSegmentada::ValoresPorBloque + 3;
 }
 
 /// How many values of k, or primes that strike, go between two yields: one that awaits costs as
@@ -50,6 +61,9 @@ Tarea<> CribaSegmentada::criba(std::int64_t limite, Billete billete, Avance avan
 void CribaSegmentada::empieza(std::int64_t limite)
 {
     m_limite = limite;
+    m_numeros.clear();
+    // Growing would copy millions at one go, with a click waiting meanwhile.
+    m_numeros.reserve(cuantosComoMucho(limite));
     m_numeros = {2, 3};
     m_tachadores.clear();
     m_seguros = m_numeros.size();
@@ -69,7 +83,7 @@ void CribaSegmentada::generaTramo(int desde)
 {
     m_candidatos = desde == 0 ? 0 : m_candidatos;
     for (int j = desde; j < std::min(desde + Tramo, ValoresPorBloque); ++j) {
-        const auto lugar = static_cast<std::size_t>(2 * j);
+        const auto lugar = 2 * static_cast<std::size_t>(j);
         const auto centro = static_cast<std::int64_t>(6 * (m_k + static_cast<std::uint64_t>(j)));
         m_vivo[lugar] = centro - 1 <= m_limite;
         m_vivo[lugar + 1] = centro + 1 <= m_limite;

@@ -43,7 +43,7 @@ public:
     std::vector<std::uint32_t> entregaPrimos();
 
 private:
-    static constexpr std::size_t CandidatosPorBloque = 2 * ValoresPorBloque;
+    static constexpr std::size_t CandidatosPorBloque = std::size_t{2} * ValoresPorBloque;
     static constexpr std::size_t DosYTres = 2; ///< listed, but they strike nothing
 
     /// A prime that strikes, and where it goes on: the places, counted over all blocks, of its next

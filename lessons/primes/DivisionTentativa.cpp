@@ -4,6 +4,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/core/ModGlobal.h"
 
+#include <chrono>
 #include <cmath>
 #include <limits>
 
@@ -13,10 +14,45 @@ namespace {
 
 const Moneda Cero, Uno = Moneda::deEntero(1), Dos = Moneda::deEntero(2), Tres = Moneda::deEntero(3);
 
-void extrae(Moneda &n, Moneda primo, ColFactores &factores)
+/// Keeps the trace of a run, where somebody wants it.
+class Rastreador
 {
+public:
+    Rastreador(RastroDeDivision *rastro, const Billete &billete)
+        : m_rastro(rastro), m_billete(billete)
+    {
+    }
+
+    void alcanza(Moneda divisor)
+    {
+        if (m_rastro)
+            m_rastro->alcanzado = divisor;
+    }
+
+    void anota(Moneda factor, bool esElResto = false)
+    {
+        if (!m_rastro)
+            return;
+        const auto tiempo = Reloj::now() - m_inicio - (m_billete.tiempoCedido() - m_cedidoAntes);
+        m_rastro->divisiones.append({factor, std::chrono::duration<double>(tiempo).count(),
+                                     esElResto, m_rastro->alcanzado});
+    }
+
+private:
+    using Reloj = std::chrono::steady_clock;
+
+    RastroDeDivision *m_rastro;
+    const Billete &m_billete;
+    Reloj::time_point m_inicio = Reloj::now();
+    std::chrono::nanoseconds m_cedidoAntes = m_billete.tiempoCedido();
+};
+
+void extrae(Moneda &n, Moneda primo, ColFactores &factores, Rastreador &rastreador)
+{
+    rastreador.alcanza(primo);
     while (ModCy(n, primo) == Cero) {
         factores.Add(primo, 1);
+        rastreador.anota(primo);
         n = cociente(n, primo);
     }
 }
@@ -71,39 +107,47 @@ Hallazgo pruebaSeises(Moneda n, Moneda &d, std::int16_t &k)
 
 } // namespace
 
-Tarea<ColFactores> FactorizaIngenuo(Moneda &n, Billete billete)
+Tarea<ColFactores> FactorizaIngenuo(Moneda &n, Billete billete, RastroDeDivision *rastro)
 {
     ColFactores factores;
+    Rastreador rastreador(rastro, billete);
     Moneda d = Dos;
     while (n > Uno && !billete.detenida()) {
         co_await billete.ceder();
-        if (divideAlguno(n, d)) {
+        const bool divide = divideAlguno(n, d);
+        rastreador.alcanza(d);
+        if (divide) {
             factores.Add(d, 1);
+            rastreador.anota(d);
             n = cociente(n, d);
         }
     }
     co_return factores;
 }
 
-Tarea<ColFactores> FactorizaMejorado(Moneda n, Billete billete)
+Tarea<ColFactores> FactorizaMejorado(Moneda n, Billete billete, RastroDeDivision *rastro)
 {
     ColFactores factores;
+    Rastreador rastreador(rastro, billete);
     // Every prime divides 0 for ever.
     if (n == Cero)
         co_return factores;
-    extrae(n, Dos, factores);
-    extrae(n, Tres, factores);
+    extrae(n, Dos, factores, rastreador);
+    extrae(n, Tres, factores, rastreador);
     Moneda d = Moneda::deEntero(5);
     std::int16_t k = 0;
     while (n > Uno) {
         co_await billete.ceder();
         const Hallazgo hallazgo = pruebaSeises(n, d, k);
+        rastreador.alcanza(d);
         if (hallazgo == Hallazgo::Raiz) {
             factores.Add(n, 1);
+            rastreador.anota(n, true);
             break;
         }
         if (hallazgo == Hallazgo::Divisor) {
             factores.Add(d, 1);
+            rastreador.anota(d);
             n = cociente(n, d);
         }
     }

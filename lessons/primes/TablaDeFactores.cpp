@@ -3,6 +3,7 @@
 
 #include "bignum/gateway/FactoresHallados.h"
 #include "lessons/primes/ColFactores.h"
+#include "lessons/primes/DivisionTentativa.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
@@ -149,11 +150,28 @@ TablaDeFactores tablaDe(const QString &numero, const ColFactores &factores)
     return tabla;
 }
 
+QList<Corte> cortesDe(const RastroDeDivision &rastro)
+{
+    QList<Corte> cortes;
+    for (const RastroDeDivision::Division &division : rastro.divisiones) {
+        const QString tiempo = textoDeDuracion(division.segundos * 1e9);
+        const QString como = division.esElResto
+                                 ? Traduce(u"Queda cuando se ha pasado de la raíz cuadrada: %1."_s)
+                                 : Traduce(u"Hallado por división: %1."_s);
+        cortes << Corte{division.divisor.texto(),  1, true, division.esElResto, como.arg(tiempo),
+                        division.alcanzado.texto()};
+    }
+    return cortes;
+}
+
 TablaDeFactores factorizaGrande(const QString &n)
 {
     TablaDeFactores tabla{n};
     const FinDeFactores fin = BuscaFactores(n, [&](const FactorHallado &factor) {
         tabla.filas << filaDe(factor);
+        tabla.cortes << Corte{factor.base, factor.exponente, factor.primo,
+                              factor.metodo == MetodoDeFactor::Ninguno,
+                              tabla.filas.last().hallazgo};
         return true;
     });
     std::ranges::sort(tabla.filas, vaAntes);

@@ -22,7 +22,8 @@ public:
     explicit Rueda(const Potencias &potencias)
         : m_cola(potencias.vuelta),
           m_vuelta(potencias.valores.size() - potencias.vuelta),
-          m_punto(std::clamp(std::numbers::pi * Radio / static_cast<qreal>(m_vuelta) * 0.75, 0.7, 7.0))
+          m_punto(
+              std::clamp(std::numbers::pi * Radio / static_cast<qreal>(m_vuelta) * 0.75, 0.7, 7.0))
     {
     }
 
@@ -33,7 +34,8 @@ public:
         const auto desdeLaEntrada = static_cast<qreal>(exponente - m_cola);
         if (desdeLaEntrada < 0)
             return {-Radio + 2.8 * m_punto * desdeLaEntrada, 0};
-        // 1 stands at the top where it is part of the circle, else the circle is entered from the left.
+        // 1 stands at the top where it is part of the circle, else the circle is entered from the
+        // left.
         const qreal inicio = m_cola > 0 ? std::numbers::pi : std::numbers::pi * 1.5;
         const qreal angulo =
             inicio + 2 * std::numbers::pi * desdeLaEntrada / static_cast<qreal>(m_vuelta);
@@ -79,7 +81,11 @@ Lamina orbitaDeElemento(const Potencias &potencias, qsizetype hasta)
     for (qsizetype k = 0; k < todas; ++k) {
         const QRectF sitio(rueda.lugar(k) - QPointF(lado, lado) / 2, QSizeF(lado, lado));
         const bool actual = k == hasta || (hasta == todas && k == potencias.vuelta);
-        lamina.elipse(sitio, {actual ? Tono::Acento : k < hasta ? Tono::Tinta : Tono::Suave}, actual,
+        lamina.elipse(sitio,
+                      {actual      ? Tono::Acento
+                       : k < hasta ? Tono::Tinta
+                                   : Tono::Suave},
+                      actual,
                       todas <= MasRotulos ? QString::number(potencias.valores[k]) : QString());
     }
     return lamina;

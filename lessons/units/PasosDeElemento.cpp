@@ -13,8 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int MasClases = 48;        ///< units whose shares are written out
-constexpr qsizetype MasPasos = 100;  ///< powers that are steps of their own
+constexpr int MasClases = 48;       ///< units whose shares are written out
+constexpr qsizetype MasPasos = 100; ///< powers that are steps of their own
 
 QString cifras(qint64 n)
 {
@@ -28,14 +28,15 @@ Paso potencia(const GrupoUnidades &grupo, const Potencias &potencias, std::int32
     const bool ultima = k == todas;
     const std::int32_t valor = potencias.valores[ultima ? potencias.vuelta : k];
     const QString n = cifras(grupo.modulo());
-    Paso paso{ultima ? Traduce(u"La potencia de exponente %1 es otra vez la de exponente %2: desde ahí "
-                               "se repiten."_s)
-                           .arg(k)
-                           .arg(potencias.vuelta)
-                     : Traduce(u"Potencia de exponente %1."_s).arg(k)};
+    Paso paso{
+        ultima ? Traduce(u"La potencia de exponente %1 es otra vez la de exponente %2: desde ahí "
+                         "se repiten."_s)
+                     .arg(k)
+                     .arg(potencias.vuelta)
+               : Traduce(u"Potencia de exponente %1."_s).arg(k)};
     if (k > 0)
-        paso.formulas << Formula(
-            u"%1*%2 == %3 (mod %4)"_s.arg(cifras(potencias.valores[k - 1]), cifras(a), cifras(valor), n));
+        paso.formulas << Formula(u"%1*%2 == %3 (mod %4)"_s.arg(cifras(potencias.valores[k - 1]),
+                                                               cifras(a), cifras(valor), n));
     paso.formulas << Formula(u"%1^%2 == %3 (mod %4)"_s.arg(cifras(a), cifras(k), cifras(valor), n));
     paso.lamina = orbitaDeElemento(potencias, k);
     return paso;
@@ -74,11 +75,12 @@ TablaDePaso clases(const GrupoUnidades &grupo, std::int32_t a)
 Paso lagrange(const GrupoUnidades &grupo, const Unidad &unidad)
 {
     const QString orden = cifras(unidad.orden), fi = cifras(grupo.fi());
-    Paso paso{Traduce(u"El orden de %1 es %2, y divide a las %3 unidades: multiplicando sus potencias "
-                      "por cada unidad salen %4 clases iguales de grandes."_s)
-                  .arg(cifras(unidad.valor), orden, fi, cifras(grupo.fi() / unidad.orden)),
-              {Formula(u"%1 | %2, %2 = %1*%3"_s.arg(orden, fi, cifras(grupo.fi() / unidad.orden)))},
-              Traduce(u"Teorema de Lagrange. Por eso toda unidad elevada a φ(n) da 1."_s)};
+    Paso paso{
+        Traduce(u"El orden de %1 es %2, y divide a las %3 unidades: multiplicando sus potencias "
+                "por cada unidad salen %4 clases iguales de grandes."_s)
+            .arg(cifras(unidad.valor), orden, fi, cifras(grupo.fi() / unidad.orden)),
+        {Formula(u"%1 | %2, %2 = %1*%3"_s.arg(orden, fi, cifras(grupo.fi() / unidad.orden)))},
+        Traduce(u"Teorema de Lagrange. Por eso toda unidad elevada a φ(n) da 1."_s)};
     paso.formulas << Formula(
         u"%1^%2 == 1 (mod %3)"_s.arg(cifras(unidad.valor), fi, cifras(grupo.modulo())));
     if (grupo.fi() <= MasClases)

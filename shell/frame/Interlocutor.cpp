@@ -136,10 +136,22 @@ private:
     int m_resultado = QDialog::Rejected;
 };
 
+/// The window over which a box for `padre` stands. The window that is active may be a tool which
+/// has just been hidden: then it is the one in sight to which that belongs.
+QWidget *ventanaALaVista(QWidget *padre)
+{
+    for (QWidget *ventana = padre; ventana; ventana = ventana->parentWidget()) {
+        ventana = ventana->window();
+        if (ventana->isVisible())
+            return padre->window() == ventana ? padre : ventana;
+    }
+    return padre;
+}
+
 QMessageBox *creaCaja(QWidget *padre, QMessageBox::Icon icono, const QString &texto,
                       const QString &titulo, QMessageBox::StandardButtons botones)
 {
-    auto *caja = new QMessageBox(icono, titulo, paraLaCaja(texto), botones, padre);
+    auto *caja = new QMessageBox(icono, titulo, paraLaCaja(texto), botones, ventanaALaVista(padre));
     caja->setTextFormat(Qt::PlainText);
     // A short text would leave no room for the title.
     if (auto *rejilla = qobject_cast<QGridLayout *>(caja->layout())) {
@@ -161,7 +173,7 @@ QMessageBox *creaAviso(QWidget *padre, Interlocutor::Icono icono, const QString 
 
 QFileDialog *creaDialogo(QWidget *padre, const QString &titulo)
 {
-    auto *dialogo = new QFileDialog(padre, titulo);
+    auto *dialogo = new QFileDialog(ventanaALaVista(padre), titulo);
     // The provider must outlive the dialog, which asks it until the end.
     static TiposDeArchivo tipos;
     dialogo->setIconProvider(&tipos);
@@ -189,7 +201,7 @@ Tarea<> Interlocutor::avisaYEspera(QWidget *padre, Icono icono, QString texto, Q
 
 Tarea<QString> Interlocutor::preguntaTexto(QWidget *padre, QString pregunta, QString titulo)
 {
-    QPointer<QInputDialog> dialogo = new QInputDialog(padre);
+    QPointer<QInputDialog> dialogo = new QInputDialog(ventanaALaVista(padre));
     dialogo->setWindowTitle(titulo);
     dialogo->setLabelText(pregunta);
     Abierto abierto(dialogo);
@@ -260,7 +272,7 @@ Tarea<Interlocutor::Archivo> Interlocutor::eligeArchivoParaGuardar(QWidget *padr
 Tarea<bool> Interlocutor::eligeImpresora(QWidget *padre, std::shared_ptr<QPrinter> impresora,
                                          QString titulo)
 {
-    auto *dialogo = new QPrintDialog(impresora.get(), padre);
+    auto *dialogo = new QPrintDialog(impresora.get(), ventanaALaVista(padre));
     dialogo->setWindowTitle(titulo);
     Abierto abierto(dialogo);
     co_await abierto.respondido();
@@ -292,10 +304,19 @@ Tarea<QString> Interlocutor::eligeCarpeta(QWidget *padre, QString pregunta, QStr
 
 void Interlocutor::abre(const QString &direccion)
 {
-    const QFileInfo archivo(rutaExistente(direccion));
-    const bool local = archivo.isAbsolute() || archivo.exists();
-    QDesktopServices::openUrl(local ? QUrl::fromLocalFile(archivo.absoluteFilePath())
-                                    : QUrl(direccion));
+    const QFileInfo entero(rutaExistente(direccion));
+    // A name may hold a "#" of its own.
+    const QString lugar =
+        entero.exists() ? QString() : direccion.section(u'#', 1).section(u'#', -1);
+    const QFileInfo archivo(
+        lugar.isEmpty() ? entero : QFileInfo(rutaExistente(direccion.chopped(lugar.size() + 1))));
+    if (!archivo.isAbsolute() && !archivo.exists()) {
+        QDesktopServices::openUrl(QUrl(direccion));
+        return;
+    }
+    QUrl local = QUrl::fromLocalFile(archivo.absoluteFilePath());
+    local.setFragment(lugar.isEmpty() ? QString() : lugar);
+    QDesktopServices::openUrl(local);
 }
 
 bool Interlocutor::lanzaAlguno(const QList<QStringList> &ordenes)

@@ -7,6 +7,7 @@
 #include "shell/look/Aspecto.h"
 #include "shell/plot/EjeDeGrafica.h"
 #include "shell/plot/PintorDeGrafica.h"
+#include "shell/steps/TintasDePaso.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -65,6 +66,7 @@ Grafica::Grafica(QWidget *padre)
 void Grafica::ponPuntos(const QList<QPointF> &puntos, const QRectF &limites)
 {
     m_puntos = puntos;
+    m_series.clear();
     m_tramoDesde = m_tramoHasta = 0;
     m_rectaDesde = m_rectaHasta = {};
     m_trazo.periodo = 0;
@@ -73,6 +75,17 @@ void Grafica::ponPuntos(const QList<QPointF> &puntos, const QRectF &limites)
     m_ejeY->setVisible(!puntos.isEmpty());
     quitaReglas();
     coloca();
+}
+
+void Grafica::ponSeries(const QList<SerieDeGrafica> &series, const QRectF &limites)
+{
+    QList<QPointF> todos;
+    for (const SerieDeGrafica &serie : series)
+        todos << serie.puntos;
+    std::stable_sort(todos.begin(), todos.end(),
+                     [](QPointF a, QPointF b) { return a.x() < b.x(); });
+    ponPuntos(todos, limites);
+    m_series = series;
 }
 
 void Grafica::ponTramo(qreal desde, qreal hasta)
@@ -235,14 +248,35 @@ void Grafica::paintEvent(QPaintEvent *)
     dibujo.fondo();
     dibujo.tramo(m_tramoDesde, m_tramoHasta);
     dibujo.rejilla(m_ejeX->marcas(), m_ejeY->marcas());
+    if (!m_series.isEmpty())
+        pintaSeries(dibujo);
+    else
+        pintaFuncion(dibujo);
+    if (hasFocus())
+        dibujo.marcoDelFoco();
+}
+
+void Grafica::pintaSeries(PintorDeGrafica &dibujo) const
+{
+    const TintasDePaso tintas = TintasDePaso::dePantalla();
+    QList<std::pair<QString, QColor>> leyenda;
+    for (const SerieDeGrafica &serie : m_series) {
+        const QColor color = tintas.de(Tono::serie(static_cast<int>(leyenda.size())));
+        dibujo.funcion(serie.puntos, color, m_trazo);
+        dibujo.recta(serie.rectaDesde, serie.rectaHasta, color);
+        leyenda.append({serie.nombre, color});
+    }
+    dibujo.leyenda(leyenda);
+}
+
+void Grafica::pintaFuncion(PintorDeGrafica &dibujo) const
+{
     // One point beyond either edge, so that the lines that lead out of the picture are drawn.
     const QRectF &visible = m_encuadre.visible();
     const int desde = std::max(0, puntoCercano(visible.left()) - 1);
     const int hasta = puntoCercano(visible.right()) + 2;
-    dibujo.funcion(m_puntos.mid(desde, hasta - desde), m_trazo);
-    dibujo.recta(m_rectaDesde, m_rectaHasta);
-    if (hasFocus())
-        dibujo.marcoDelFoco();
+    dibujo.funcion(m_puntos.mid(desde, hasta - desde), Aspecto::acento(), m_trazo);
+    dibujo.recta(m_rectaDesde, m_rectaHasta, Aspecto::error());
 }
 
 void Grafica::resizeEvent(QResizeEvent *)

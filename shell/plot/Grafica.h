@@ -9,6 +9,16 @@
 #include <QWidget>
 
 class EjeDeGrafica;
+class PintorDeGrafica;
+
+/// Points of one kind among others, with a line to compare them with; none when its ends are equal.
+struct SerieDeGrafica
+{
+    QString nombre;
+    QList<QPointF> puntos; ///< by rising x
+    QPointF rectaDesde = {};
+    QPointF rectaHasta = {};
+};
 
 /// A plot of a function of whole numbers: axes (`EjeX`, `EjeY`), points joined by thin lines or
 /// not, and under the mouse two rulers (`ReglaHorizontal`, `ReglaVertical`) with their coordinates
@@ -24,6 +34,9 @@ public:
 
     /// The points, by rising x, and the part of the plane that holds them, which is shown whole.
     void ponPuntos(const QList<QPointF> &puntos, const QRectF &limites);
+    /// Several kinds of points in one plot, each in a colour of its own that a legend tells. Among
+    /// the points that can be marked they stand by rising x, at one x in the order of the series.
+    void ponSeries(const QList<SerieDeGrafica> &series, const QRectF &limites);
     /// A stretch of x that stands out; nothing when its ends are equal.
     void ponTramo(qreal desde, qreal hasta);
     /// A straight line to compare the points with, dashed; none when its ends are equal. Like the
@@ -74,9 +87,12 @@ private:
     void colocaPunto();
     void eligePunto(int indice);
     int puntoCercano(qreal x) const;
+    void pintaSeries(PintorDeGrafica &dibujo) const;
+    void pintaFuncion(PintorDeGrafica &dibujo) const;
 
     Encuadre m_encuadre;
     QList<QPointF> m_puntos;
+    QList<SerieDeGrafica> m_series; ///< where there are several: the points of all are m_puntos
     QString m_textoVacio;
     qreal m_tramoDesde = 0;
     qreal m_tramoHasta = 0;

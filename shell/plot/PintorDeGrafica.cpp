@@ -14,12 +14,12 @@ QColor translucido(QColor color, int opacidad)
     return color;
 }
 
-QColor colorDeVuelta(int vuelta)
+QColor colorDeVuelta(const QColor &color, int vuelta)
 {
     if (vuelta < 0)
         return Aspecto::atenuado();
     constexpr float Naranja = 0.08F;
-    return vuelta % 2 == 0 ? Aspecto::acento()
+    return vuelta % 2 == 0 ? color
                            : QColor::fromHslF(Naranja, 0.85F, Aspecto::esOscuro() ? 0.62F : 0.42F);
 }
 
@@ -64,12 +64,13 @@ void PintorDeGrafica::rejilla(const QList<qint64> &enX, const QList<qint64> &enY
     }
 }
 
-void PintorDeGrafica::funcion(const QList<QPointF> &puntos, const TrazoDeGrafica &trazo)
+void PintorDeGrafica::funcion(const QList<QPointF> &puntos, const QColor &color,
+                              const TrazoDeGrafica &trazo)
 {
     QPolygonF linea;
     for (const QPointF &punto : puntos)
         linea << m_encuadre.aPixel(punto);
-    m_pintor.setPen(QPen(translucido(Aspecto::acento(), 110), 1));
+    m_pintor.setPen(QPen(translucido(color, 110), 1));
     m_pintor.setBrush(Qt::NoBrush);
     if (trazo.unido)
         m_pintor.drawPolyline(linea);
@@ -85,17 +86,35 @@ void PintorDeGrafica::funcion(const QList<QPointF> &puntos, const TrazoDeGrafica
     }
     m_pintor.setPen(Qt::NoPen);
     for (qsizetype i = 0; i < linea.size(); ++i) {
-        m_pintor.setBrush(colorDeVuelta(trazo.vuelta(puntos.at(i).x())));
+        m_pintor.setBrush(colorDeVuelta(color, trazo.vuelta(puntos.at(i).x())));
         m_pintor.drawEllipse(linea.at(i), radio, radio);
     }
 }
 
-void PintorDeGrafica::recta(QPointF desde, QPointF hasta)
+void PintorDeGrafica::recta(QPointF desde, QPointF hasta, const QColor &color)
 {
     if (desde == hasta)
         return;
-    m_pintor.setPen(QPen(Aspecto::error(), 2, Qt::DashLine));
+    m_pintor.setPen(QPen(color, 2, Qt::DashLine));
     m_pintor.drawLine(m_encuadre.aPixel(desde), m_encuadre.aPixel(hasta));
+}
+
+void PintorDeGrafica::leyenda(const QList<std::pair<QString, QColor>> &nombres)
+{
+    const QFontMetricsF medidas(m_pintor.font());
+    QPointF esquina = m_encuadre.lienzo().topLeft() + QPointF(10, 8);
+    for (const auto &[nombre, color] : nombres) {
+        const QRectF sitio(esquina,
+                           QSizeF(medidas.horizontalAdvance(nombre) + 18, medidas.height()));
+        m_pintor.fillRect(sitio.adjusted(-2, 0, 2, 0),
+                          translucido(m_colores.color(QPalette::Base), 200));
+        m_pintor.setPen(Qt::NoPen);
+        m_pintor.setBrush(color);
+        m_pintor.drawEllipse(QPointF(sitio.left() + 5, sitio.center().y()), 4, 4);
+        m_pintor.setPen(m_colores.color(QPalette::Text));
+        m_pintor.drawText(sitio.adjusted(16, 0, 2, 0), Qt::AlignLeft | Qt::AlignVCenter, nombre);
+        esquina.ry() += medidas.height();
+    }
 }
 
 void PintorDeGrafica::marcoDelFoco()

@@ -5,6 +5,8 @@
 #include "shell/plot/TrazoDeGrafica.h"
 
 #include <QPalette>
+#include <QString>
+#include <utility>
 
 class QPainter;
 
@@ -18,10 +20,13 @@ public:
     /// Shades what lies between two x; nothing when they are equal.
     void tramo(qreal desde, qreal hasta);
     void rejilla(const QList<qint64> &enX, const QList<qint64> &enY);
-    /// The points, and the lines between them where they are joined.
-    void funcion(const QList<QPointF> &puntos, const TrazoDeGrafica &trazo);
+    /// The points, and the lines between them where they are joined; every other turn of a period
+    /// in a second colour.
+    void funcion(const QList<QPointF> &puntos, const QColor &color, const TrazoDeGrafica &trazo);
     /// A dashed straight line over the points; nothing when its ends are equal.
-    void recta(QPointF desde, QPointF hasta);
+    void recta(QPointF desde, QPointF hasta, const QColor &color);
+    /// Names beside their colours, in the upper left corner.
+    void leyenda(const QList<std::pair<QString, QColor>> &nombres);
     void marcoDelFoco();
 
 private:

@@ -15,8 +15,18 @@ namespace {
 using Nodo = NodoDeFormula;
 using Caja = FormulaCompuesta::Caja;
 
-constexpr qreal CuerpoMenor = 0.72; ///< of exponents and subscripts, to what they stand on
-constexpr qreal MenorLetra = 6;     ///< points; nothing is set smaller
+constexpr qreal CuerpoMenor = 0.72;  ///< of exponents and subscripts, to what they stand on
+constexpr qreal MasReduccion = 0.65; ///< of a formula that is too wide
+constexpr qreal MenorLetra = 6;      ///< points; nothing is set smaller
+
+QFont reducida(QFont fuente, qreal factor)
+{
+    if (fuente.pointSizeF() > 0)
+        fuente.setPointSizeF(std::max(MenorLetra, fuente.pointSizeF() * factor));
+    else
+        fuente.setPixelSize(std::max(8, static_cast<int>(fuente.pixelSize() * factor)));
+    return fuente;
+}
 
 /// Puts a box beside (`dx`) and under (`dy`) the base line of another one.
 void junta(Caja &caja, const Caja &otra, qreal dx, qreal dy)
@@ -215,15 +225,7 @@ private:
         return caja;
     }
 
-    Compositor menor() const
-    {
-        QFont fuente = m_fuente;
-        if (fuente.pointSizeF() > 0)
-            fuente.setPointSizeF(std::max(MenorLetra, fuente.pointSizeF() * CuerpoMenor));
-        else
-            fuente.setPixelSize(std::max(8, qRound(fuente.pixelSize() * CuerpoMenor)));
-        return Compositor(fuente);
-    }
+    Compositor menor() const { return Compositor(reducida(m_fuente, CuerpoMenor)); }
 
     QFont m_fuente;
     QFontMetricsF m_medidas;
@@ -233,9 +235,16 @@ private:
 
 FormulaCompuesta::FormulaCompuesta(const Formula &formula, const QFont &fuente, qreal ancho)
 {
-    if (!formula.vacia())
-        reparte(Compositor(fuente).trozos(formula.raiz()), ancho,
-                1.5 * QFontMetricsF(fuente).height());
+    if (formula.vacia())
+        return;
+    const qreal sangria = 1.5 * QFontMetricsF(fuente).height();
+    reparte(Compositor(fuente).trozos(formula.raiz()), ancho, sangria);
+    // A long number is never broken: it is set smaller instead, as far as it can be read.
+    if (m_tamano.width() > ancho)
+        reparte(
+            Compositor(reducida(fuente, std::max(MasReduccion, 0.98 * ancho / m_tamano.width())))
+                .trozos(formula.raiz()),
+            ancho, sangria);
 }
 
 void FormulaCompuesta::reparte(const std::vector<Caja> &trozos, qreal ancho, qreal sangria)
@@ -247,6 +256,7 @@ void FormulaCompuesta::reparte(const std::vector<Caja> &trozos, qreal ancho, qre
             lineas.emplace_back();
         sigue(lineas.back(), trozo);
     }
+    m_caja = {};
     qreal y = 0;
     for (std::size_t i = 0; i < lineas.size(); ++i) {
         const qreal x = i > 0 ? sangria : 0;

@@ -54,10 +54,14 @@ QString ModeloDeHuecos::rotulo(const QModelIndex &indice) const
 {
     const QString texto = m_tabla.texto(indice.row(), indice.column());
     switch (estado(indice)) {
-    case Estado::ALaVista: return formatoEntero(texto);
-    case Estado::Acertada: return u"✓ "_s + formatoEntero(texto);
-    case Estado::Fallada: return u"✗ "_s + texto;
-    case Estado::Oculta: return u"?"_s;
+    case Estado::ALaVista:
+        return formatoEntero(texto);
+    case Estado::Acertada:
+        return u"✓ "_s + formatoEntero(texto);
+    case Estado::Fallada:
+        return u"✗ "_s + texto;
+    case Estado::Oculta:
+        return texto + u'?';
     }
     return {};
 }
@@ -78,14 +82,19 @@ QVariant ModeloDeHuecos::data(const QModelIndex &indice, int papel) const
     if (!indice.isValid())
         return {};
     switch (papel) {
-    case Qt::DisplayRole: return rotulo(indice);
-    case Qt::EditRole: return m_tabla.texto(indice.row(), indice.column());
-    case Qt::TextAlignmentRole: return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-    case Qt::BackgroundRole: return fondo(indice);
+    case Qt::DisplayRole:
+        return rotulo(indice);
+    case Qt::EditRole:
+        return m_tabla.texto(indice.row(), indice.column());
+    case Qt::TextAlignmentRole:
+        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    case Qt::BackgroundRole:
+        return fondo(indice);
     case Qt::AccessibleTextRole:
         return estado(indice) == Estado::Oculta ? Traduce(u"casilla por rellenar"_s)
                                                 : rotulo(indice);
-    default: return {};
+    default:
+        return {};
     }
 }
 

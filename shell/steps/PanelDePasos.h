@@ -32,6 +32,10 @@ public:
     /// Shows these in place of those before; the first one is current.
     void pon(const Pasos &pasos);
     const Pasos &pasos() const { return m_pasos; }
+    /// Shows these, of which those before were the beginning; the last one is current.
+    void continua(const Pasos &pasos);
+    /// Has the lesson show the panel where it is hidden: what the user asked for stands in it.
+    void pideVerse() { Q_EMIT pedido(); }
 
     /// Puts the keyboard into the list of steps.
     void enfoca();
@@ -41,6 +45,7 @@ public:
 Q_SIGNALS:
     /// Another step is current; −1 when there is none.
     void pasoActual(int paso);
+    void pedido();
 
 protected:
     void showEvent(QShowEvent *suceso) override;

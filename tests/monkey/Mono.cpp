@@ -70,6 +70,11 @@ Mono::Mono(const Contenido &contenido, unsigned semilla)
 {
     m_principal->resize(1366, 768);
     m_principal->show();
+    QObject::connect(&m_menus, &QTimer::timeout, &m_menus, [] {
+        if (QWidget *menu = QApplication::activePopupWidget())
+            menu->close();
+    });
+    m_menus.start(500);
 }
 
 Mono::~Mono() = default;

@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <QPointer>
 #include <QStringList>
+#include <QTimer>
 #include <memory>
 #include <random>
 
@@ -59,6 +60,7 @@ private:
     std::unique_ptr<FormPrincipal> m_principal;
     int m_filas;
     std::mt19937 m_azar;
+    QTimer m_menus; ///< closes the menu of a button, in whose press Qt waits for an answer
     QStringList m_diario;
     Cuenta m_cuenta;
     QList<QPointer<FormLeccion>> m_abiertas, m_cerradas;

@@ -203,6 +203,16 @@ private Q_SLOTS:
         QVERIFY(!aviso);
     }
 
+    /// A tool that is active may just have been hidden: the box stands over what it belongs to.
+    void laCajaEstaSobreLoQueSeVe()
+    {
+        QWidget ventana;
+        QWidget herramienta(&ventana, Qt::Tool);
+        ventana.show();
+        m_real.avisa(&herramienta, Interlocutor::Icono::Informacion, u"x"_s, u"y"_s);
+        QCOMPARE(abierto<QMessageBox>()->parentWidget(), &ventana);
+    }
+
     /// Whoever asks may be gone before the answer.
     void laCajaSeVaConSuTarea()
     {

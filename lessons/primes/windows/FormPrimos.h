@@ -10,4 +10,7 @@ class FormPrimos : public FormLeccion
 
 public:
     explicit FormPrimos(QWidget *padre = nullptr);
+
+private:
+    QWidget *conExperimento(QWidget *factorizacion);
 };

@@ -4,11 +4,13 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/primes/CribaSegmentada.h"
 #include "lessons/primes/ModeloPrimos.h"
+#include "lessons/primes/steps/PasosDeCriba.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormPrimosCriba.h"
 
 #include <QHeaderView>
@@ -39,6 +41,7 @@ FormPrimosCriba::FormPrimosCriba(FormLeccion *leccion)
       ui(std::make_unique<Ui::FormPrimosCriba>()),
       m_leccion(leccion),
       m_modelo(new ModeloPrimos(this)),
+      m_pasos(new PanelDePasos(u"Criba de Eratóstenes"_s, this)),
       m_tareas(this, leccion->parada())
 {
     ui->setupUi(this);
@@ -99,11 +102,13 @@ Tarea<> FormPrimosCriba::BtnCriba_Click()
         co_return;
     marcha.termina();
     muestraPrimos(std::move(lista), billete.detenida());
+    m_pasos->pon(pasosDeCriba(limite));
 }
 
 void FormPrimosCriba::ponEnMarcha()
 {
     m_modelo->pon({});
+    m_pasos->pon({});
     ui->FlexPrimos->ponTextoVacio(Traduce(u"Cribando…"_s));
     ui->ProgressBar->setFormat(u"%p %"_s);
     ui->ProgressBar->setValue(0);

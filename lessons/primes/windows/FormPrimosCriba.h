@@ -10,6 +10,7 @@
 
 class FormLeccion;
 class ModeloPrimos;
+class PanelDePasos;
 namespace Ui {
 class FormPrimosCriba;
 }
@@ -25,6 +26,7 @@ public:
     ~FormPrimosCriba() override;
 
     Tareas &tareas() { return m_tareas; }
+    PanelDePasos *pasos() const { return m_pasos; }
 
     /// Writes a time into the label of the panel.
     void muestraTiempo(const QString &tiempo);
@@ -39,6 +41,7 @@ private:
     std::unique_ptr<Ui::FormPrimosCriba> ui;
     FormLeccion *m_leccion;
     ModeloPrimos *m_modelo;
+    PanelDePasos *m_pasos;
     BotonDeCorrida *m_boton;
     TareasDeVentana m_tareas;
 };

@@ -4,6 +4,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/primes/DivisionTentativa.h"
+#include "lessons/primes/steps/PasosDeFactorizacion.h"
 #include "lessons/primes/windows/ModeloFactores.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/core/Formatos.h"
@@ -13,6 +14,7 @@
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormPrimosFactorizacion.h"
 
 #include <QHeaderView>
@@ -24,6 +26,7 @@ FormPrimosFactorizacion::FormPrimosFactorizacion(FormLeccion *leccion)
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormPrimosFactorizacion>()),
       m_modelo(new ModeloFactores(this)),
+      m_pasos(new PanelDePasos(u"Factorización"_s, this)),
       m_tareas(this, leccion->parada())
 {
     ui->setupUi(this);
@@ -48,6 +51,8 @@ FormPrimosFactorizacion::FormPrimosFactorizacion(FormLeccion *leccion)
     m_boton->ponEspera(leccion);
     m_boton->ponAnimacion(ui->ccrpAniFactorizando);
 
+    conecta(&m_boton->timer(), &QTimer::timeout, this,
+            &FormPrimosFactorizacion::TimerFactorizando_Timer);
     conecta(ui->BtnFactoriza, &QPushButton::clicked, this,
             &FormPrimosFactorizacion::BtnFactoriza_Click);
     conecta(ui->TxtN, &CampoLargo::returnPressed, this,
@@ -118,6 +123,8 @@ bool FormPrimosFactorizacion::excedeElLimite(const QString &numero)
 void FormPrimosFactorizacion::ponEnMarcha(Algoritmo elegido, const QString &numero)
 {
     m_boton->anuncia();
+    m_pasos->pon({});
+    m_rastro.reset();
     ui->FlexFactores->ponTextoVacio(Traduce(u"Factorizando…"_s));
     m_modelo->pon({});
     FlexFactores_EnterCell(-1);
@@ -165,18 +172,44 @@ Tarea<TablaDeFactores> FormPrimosFactorizacion::halla(Algoritmo elegido, QString
         ui->lblResultado->repaint();
         co_return factorizaGrande(numero);
     }
+    co_return co_await divide(elegido, numero, moneda, billete);
+}
+
+Tarea<TablaDeFactores> FormPrimosFactorizacion::divide(Algoritmo elegido, QString numero,
+                                                       Moneda moneda, Billete billete)
+{
+    const auto rastro = m_rastro = std::make_shared<RastroDeDivision>();
+    m_numero = numero;
+    m_divisionesVistas = 0;
     ColFactores factores;
     if (elegido == Ingenuo)
-        factores = co_await FactorizaIngenuo(moneda, billete);
+        factores = co_await FactorizaIngenuo(moneda, billete, rastro.get());
     else
-        factores = co_await FactorizaMejorado(moneda, billete);
-    const TablaDeFactores tabla = tablaDe(numero, factores);
+        factores = co_await FactorizaMejorado(moneda, billete, rastro.get());
+    TablaDeFactores tabla = tablaDe(numero, factores);
+    tabla.cortes = cortesDe(*rastro);
     m_factores = std::make_unique<ColFactores>(std::move(factores));
     co_return tabla;
 }
 
+/// The divisor reached and the factors found so far, and the tree when it has grown.
+void FormPrimosFactorizacion::TimerFactorizando_Timer()
+{
+    if (!m_rastro || !m_boton->enMarcha())
+        return;
+    ui->lblResultado->setText(fraseDelAvance(*m_rastro));
+    if (m_rastro->divisiones.size() == m_divisionesVistas)
+        return;
+    m_divisionesVistas = m_rastro->divisiones.size();
+    TablaDeFactores hastaAqui{m_numero};
+    hastaAqui.cortes = cortesDe(*m_rastro);
+    m_pasos->continua(pasosDeFactorizacion(hastaAqui, true));
+}
+
 void FormPrimosFactorizacion::muestra(const TablaDeFactores &tabla)
 {
+    m_rastro.reset();
+    m_pasos->pon(pasosDeFactorizacion(tabla));
     m_modelo->pon(tabla);
     ui->txtProductoDeFactores->setText(tabla.producto());
     ui->lblResultado->setText(tabla.frase());

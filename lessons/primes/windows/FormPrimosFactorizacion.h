@@ -12,6 +12,8 @@
 class ColFactores;
 class FormLeccion;
 class ModeloFactores;
+class PanelDePasos;
+struct RastroDeDivision;
 namespace Ui {
 class FormPrimosFactorizacion;
 }
@@ -27,6 +29,7 @@ public:
     ~FormPrimosFactorizacion() override;
 
     Tareas &tareas() { return m_tareas; }
+    PanelDePasos *pasos() const { return m_pasos; }
 
 Q_SIGNALS:
     /// How long the factorization that has ended took, as "hh:nn:ss".
@@ -36,6 +39,7 @@ private:
     enum Algoritmo { Ingenuo, Mejorado, Avanzado };
 
     Tarea<> BtnFactoriza_Click();
+    void TimerFactorizando_Timer();
     void FlexFactores_EnterCell(int fila);
 
     void detiene();
@@ -43,12 +47,18 @@ private:
     bool excedeElLimite(const QString &numero);
     void ponEnMarcha(Algoritmo elegido, const QString &numero);
     Tarea<> factoriza(Algoritmo elegido, QString numero, Moneda moneda);
+    Tarea<TablaDeFactores> divide(Algoritmo elegido, QString numero, Moneda moneda,
+                                  Billete billete);
     Tarea<TablaDeFactores> halla(Algoritmo elegido, QString numero, Moneda moneda, Billete billete);
     void muestra(const TablaDeFactores &tabla);
 
     std::unique_ptr<Ui::FormPrimosFactorizacion> ui;
     ModeloFactores *m_modelo;
+    PanelDePasos *m_pasos;
     BotonDeCorrida *m_boton;
-    std::unique_ptr<ColFactores> m_factores; ///< those found by trial division
+    std::unique_ptr<ColFactores> m_factores;    ///< those found by trial division
+    std::shared_ptr<RastroDeDivision> m_rastro; ///< of the trial division that runs, or null
+    QString m_numero;
+    qsizetype m_divisionesVistas = 0;
     TareasDeVentana m_tareas;
 };

@@ -9,6 +9,7 @@
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormPrimosTest.h"
 
 #include <QLayout>
@@ -54,7 +55,11 @@ private:
 };
 
 FormPrimosTest::FormPrimosTest(QWidget *leccion)
-    : QWidget(leccion), ui(std::make_unique<Ui::FormPrimosTest>()), m_leccion(leccion)
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormPrimosTest>()),
+      m_leccion(leccion),
+      m_pasos(new PanelDePasos(u"Test de primos"_s, this)),
+      m_historial({Traduce(u"Número"_s), Traduce(u"bits"_s), Traduce(u"Veredicto"_s)})
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -73,6 +78,7 @@ FormPrimosTest::FormPrimosTest(QWidget *leccion)
     conecta(ui->txtNumBits, &QLineEdit::returnPressed, this,
             [this] { ui->cmdNumBits->animateClick(); });
     conecta(ui->cmdNumBits, &QPushButton::clicked, this, &FormPrimosTest::cmdNumBits_Click);
+    preparaPasos();
 }
 
 FormPrimosTest::~FormPrimosTest() = default;
@@ -110,6 +116,8 @@ void FormPrimosTest::txtNumero_Change()
 {
     const QString texto = ui->txtNúmero->text();
     const bool hayNumero = !texto.trimmed().isEmpty();
+    m_probado.clear();
+    muestraPasos();
     ui->cmdEsPrimo->setEnabled(hayNumero);
     ui->cmdSigPrimo->setEnabled(hayNumero);
     ui->cmdEsPrimo->setText(Traduce(u"¿Es primo?"_s));
@@ -128,6 +136,7 @@ void FormPrimosTest::cmdEsPrimo_Click()
         espera.quitaElReloj();
     }
     ui->txtNumBits->setText(QString::number(bits));
+    anota(numero, ui->imgTestPrimo->imagen() == u"SEMAFOROVERDE"_s, bits);
 }
 
 void FormPrimosTest::cmdSigPrimo_Click()
@@ -135,8 +144,11 @@ void FormPrimosTest::cmdSigPrimo_Click()
     const QString numero = ui->txtNúmero->text();
     Espera espera(this, NumeroDeBits(numero) >= BitsDelSiguiente);
     const QString primo = PrimoSiguiente(numero);
-    if (muestraPrimo(primo))
-        ui->txtNumBits->setText(QString::number(NumeroDeBits(primo)));
+    if (muestraPrimo(primo)) {
+        const std::int32_t bits = NumeroDeBits(primo);
+        ui->txtNumBits->setText(QString::number(bits));
+        anota(primo, true, bits);
+    }
     espera.quitaElReloj();
 }
 
@@ -159,6 +171,8 @@ void FormPrimosTest::cmdNumBits_Click()
         ui->txtNumBits->setFocus();
         return;
     }
-    muestraPrimo(PrimoAleatorio(bits));
+    const QString primo = PrimoAleatorio(bits);
+    if (muestraPrimo(primo))
+        anota(primo, true, bits);
     espera.quitaElReloj();
 }

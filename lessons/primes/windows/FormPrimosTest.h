@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/ModeloFilas.h"
+
 #include <QWidget>
 #include <memory>
+
+class PanelDePasos;
 
 namespace Ui {
 class FormPrimosTest;
@@ -19,6 +23,8 @@ public:
     explicit FormPrimosTest(QWidget *leccion);
     ~FormPrimosTest() override;
 
+    PanelDePasos *pasos() const { return m_pasos; }
+
 private:
     class Espera;
 
@@ -32,6 +38,17 @@ private:
     void txtNumBits_Change();
     void cmdNumBits_Click();
 
+    void preparaPasos();
+    void anota(const QString &numero, bool primo, int bits);
+    void muestraPasos();
+    QString baseElegida();
+    void cmdCarmichael_Click();
+    void FlexHistorial_Activated(const QModelIndex &celda);
+
     std::unique_ptr<Ui::FormPrimosTest> ui;
     QWidget *m_leccion;
+    PanelDePasos *m_pasos;
+    ModeloFilas m_historial;
+    QString m_probado; ///< the number of the verdict in sight; empty once the field has changed
+    bool m_esPrimo = false;
 };

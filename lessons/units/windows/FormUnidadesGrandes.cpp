@@ -32,7 +32,9 @@ constexpr int CifrasDelEjemplo = 200;
 } // namespace
 
 FormUnidadesGrandes::FormUnidadesGrandes(QWidget *leccion)
-    : QWidget(leccion), ui(std::make_unique<Ui::FormUnidadesGrandes>()), m_leccion(leccion),
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormUnidadesGrandes>()),
+      m_leccion(leccion),
       m_pasos(new PanelDePasos(u"Números grandes"_s, this))
 {
     ui->setupUi(this);

@@ -96,8 +96,8 @@ std::strong_ordering operator<=>(const EnteroLargo &a, const EnteroLargo &b)
     if (signo(a) != signo(b))
         return signo(a) <=> signo(b);
     const QString uno = a.texto(), otro = b.texto();
-    const int orden = uno.size() != otro.size() ? (uno.size() < otro.size() ? -1 : 1)
-                                                : uno.compare(otro);
+    const int orden =
+        uno.size() != otro.size() ? (uno.size() < otro.size() ? -1 : 1) : uno.compare(otro);
     return orden * signo(a) <=> 0;
 }
 

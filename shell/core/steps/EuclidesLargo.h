@@ -28,7 +28,8 @@ public:
     /// Times b it is congruent to the greatest common divisor, modulo a.
     const EnteroLargo &coeficiente() const { return m_coeficiente; }
 
-    /// The divisions as a small table, of which those in the middle are left out when there are many.
+    /// The divisions as a small table, of which those in the middle are left out when there are
+    /// many.
     TablaDePaso tabla() const;
 
 private:

@@ -36,9 +36,10 @@ Paso reduccion(const Busqueda &b)
 QString reglaDelCoeficiente(qsizetype i)
 {
     return i > 0 ? QString()
-                 : Traduce(u"Cada coeficiente es el de dos filas antes menos el cociente por el de la "
-                           "fila anterior; se empieza por 0 y 1. Así cada resto es congruente con su "
-                           "coeficiente por a."_s);
+                 : Traduce(
+                       u"Cada coeficiente es el de dos filas antes menos el cociente por el de la "
+                       "fila anterior; se empieza por 0 y 1. Así cada resto es congruente con su "
+                       "coeficiente por a."_s);
 }
 
 Paso division(const Busqueda &b, qsizetype i)
@@ -50,9 +51,9 @@ Paso division(const Busqueda &b, qsizetype i)
     return {Traduce(u"Se divide %1 entre %2."_s).arg(d.dividendo.texto(), d.divisor.texto()),
             {Formula(u"%1 = %2*%3 + %4"_s.arg(d.dividendo.texto(), d.cociente.texto(),
                                               d.divisor.texto(), d.resto.texto())),
-             Formula(u"\"%1\" = %2 - %3*%4 = %5"_s.arg(
-                 Traduce(u"Coeficiente"_s), antes.texto(), d.cociente.texto(), ultimo.trasSigno(),
-                 d.coeficiente.texto())),
+             Formula(u"\"%1\" = %2 - %3*%4 = %5"_s.arg(Traduce(u"Coeficiente"_s), antes.texto(),
+                                                       d.cociente.texto(), ultimo.trasSigno(),
+                                                       d.coeficiente.texto())),
              Formula(u"%1 == %2*%3 (mod %4)"_s.arg(d.resto.texto(), d.coeficiente.trasSigno(),
                                                    b.reducido.texto(), b.n.texto()))},
             reglaDelCoeficiente(i)};
@@ -61,12 +62,13 @@ Paso division(const Busqueda &b, qsizetype i)
 Paso sinInverso(const Busqueda &b)
 {
     const QString d = b.euclides.mcd().texto();
-    return {Traduce(u"El último resto que no es 0 es %1: no hay inverso."_s).arg(d),
-            {Formula(u"%1(%2; %3) = %4"_s.arg(Traduce(u"mcd"_s), b.n.texto(), b.reducido.texto(), d)),
-             Formula(u"%1 | %2, %1 | %3, %1 !| 1"_s.arg(d, b.reducido.texto(), b.n.texto()))},
-            Traduce(u"Lo que divide a los dos números divide también a cualquier resto de a·x al "
-                    "dividirlo entre n, y al 1 no lo divide."_s),
-            b.euclides.tabla()};
+    return {
+        Traduce(u"El último resto que no es 0 es %1: no hay inverso."_s).arg(d),
+        {Formula(u"%1(%2; %3) = %4"_s.arg(Traduce(u"mcd"_s), b.n.texto(), b.reducido.texto(), d)),
+         Formula(u"%1 | %2, %1 | %3, %1 !| 1"_s.arg(d, b.reducido.texto(), b.n.texto()))},
+        Traduce(u"Lo que divide a los dos números divide también a cualquier resto de a·x al "
+                "dividirlo entre n, y al 1 no lo divide."_s),
+        b.euclides.tabla()};
 }
 
 Paso inverso(const Busqueda &b)

@@ -67,13 +67,14 @@ Formula sumaDePotencias(const Potenciacion &p)
 
 Paso preparacion(const Potenciacion &p)
 {
-    Paso paso{Traduce(u"El exponente %1 se escribe en base 2, con %2 bits: %3"_s)
-                  .arg(p.exponente.texto())
-                  .arg(p.bits.size())
-                  .arg(p.bits),
-              {},
-              Traduce(u"Cada bit cuesta un cuadrado y, si es 1, un producto más: se multiplica muchas "
-                      "menos veces que el exponente dice."_s)};
+    Paso paso{
+        Traduce(u"El exponente %1 se escribe en base 2, con %2 bits: %3"_s)
+            .arg(p.exponente.texto())
+            .arg(p.bits.size())
+            .arg(p.bits),
+        {},
+        Traduce(u"Cada bit cuesta un cuadrado y, si es 1, un producto más: se multiplica muchas "
+                "menos veces que el exponente dice."_s)};
     if (p.exponente > 0)
         paso.formulas << sumaDePotencias(p);
     if (p.reduce())
@@ -99,8 +100,10 @@ Paso otroBit(const Potenciacion &p, qsizetype i)
               {congruencia(valor.texto() + u"^2"_s, cuadrado, p.modulo)}};
     const EnteroLargo resultado = uno ? cuadrado * p.reducida % p.modulo : cuadrado;
     if (uno)
-        paso.formulas << congruencia(cuadrado.texto() + u'*' + p.reducida.texto(), resultado, p.modulo);
-    paso.formulas << congruencia(p.reducida.texto() + u"^%1"_s.arg(ahora.texto()), resultado, p.modulo);
+        paso.formulas << congruencia(cuadrado.texto() + u'*' + p.reducida.texto(), resultado,
+                                     p.modulo);
+    paso.formulas << congruencia(p.reducida.texto() + u"^%1"_s.arg(ahora.texto()), resultado,
+                                 p.modulo);
     if (i == 1)
         paso.regla = Traduce(u"Un bit más dobla el exponente y le suma el bit: "
                              "a^(2e) = (a^e)² y a^(2e+1) = (a^e)²·a."_s);
@@ -127,8 +130,9 @@ TablaDePaso tablaDeBits(const Potenciacion &p)
 Paso conclusion(const Potenciacion &p)
 {
     const EnteroLargo resultado = p.potencia(p.exponente);
-    Paso paso{Traduce(u"El resultado es %1."_s).arg(resultado.texto()),
-              {congruencia(p.base.trasSigno() + u"^%1"_s.arg(p.exponente.texto()), resultado, p.modulo)}};
+    Paso paso{
+        Traduce(u"El resultado es %1."_s).arg(resultado.texto()),
+        {congruencia(p.base.trasSigno() + u"^%1"_s.arg(p.exponente.texto()), resultado, p.modulo)}};
     if (p.exponente > 0 && p.bits.size() <= MasFilas)
         paso.tabla = tablaDeBits(p);
     else if (p.exponente == 0)

@@ -50,15 +50,18 @@ private Q_SLOTS:
             const FuncionEuler euler(n);
             const Pasos pasos = pasosDeFi(euler, n);
             revisa(pasos);
-            QVERIFY(pasos.paso(pasos.cuantos() - 1).formulas.constLast().escrita().endsWith(
-                u"= "_s + euler.valor()));
+            QVERIFY(pasos.paso(pasos.cuantos() - 1)
+                        .formulas.constLast()
+                        .escrita()
+                        .endsWith(u"= "_s + euler.valor()));
         }
     }
 
     /// One point a power, and an arrow from each that has been left.
     void laOrbita()
     {
-        const Potencias vuelve = GrupoUnidades(14).potencias(3), cola = GrupoUnidades(12).potencias(2);
+        const Potencias vuelve = GrupoUnidades(14).potencias(3),
+                        cola = GrupoUnidades(12).potencias(2);
         QCOMPARE(dibujo(orbitaDeElemento(vuelve, 6)), u"6 points, 6 arrows, 1 here"_s);
         QCOMPARE(dibujo(orbitaDeElemento(vuelve, 2)), u"6 points, 2 arrows, 1 here"_s);
         QCOMPARE(dibujo(orbitaDeElemento(cola, 4)), u"4 points, 4 arrows, 1 here"_s);

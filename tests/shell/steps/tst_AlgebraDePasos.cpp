@@ -65,8 +65,12 @@ void tst_AlgebraDePasos::losEnterosSonExactos()
         const EnteroLargo x(cifras(a)), y(cifras(b)), n(cifras(m));
         mpz_class q, r;
         mpz_fdiv_qr(q.get_mpz_t(), r.get_mpz_t(), a.get_mpz_t(), m.get_mpz_t());
-        for (const auto &[hallado, debido] : {std::pair(x + y, mpz_class(a + b)), {x - y, a - b},
-                                              {x * y, a * b}, {x / n, q}, {x % n, r}, {-x, -a}}) {
+        for (const auto &[hallado, debido] : {std::pair(x + y, mpz_class(a + b)),
+                                              {x - y, a - b},
+                                              {x * y, a * b},
+                                              {x / n, q},
+                                              {x % n, r},
+                                              {-x, -a}}) {
             QCOMPARE(hallado.texto(), cifras(debido));
             QVERIFY(hallado == EnteroLargo(cifras(debido)));
         }
@@ -98,7 +102,8 @@ void tst_AlgebraDePasos::laPotenciaPasoAPaso()
 {
     for (int vez = 0; vez < 10000; ++vez) {
         const int largo = vez % 500 == 0 ? 30 : 8;
-        const mpz_class a = alAzar(largo, true), e = alAzar(vez % 100 == 0 ? 12 : 3), m = alAzar(largo) + 1;
+        const mpz_class a = alAzar(largo, true), e = alAzar(vez % 100 == 0 ? 12 : 3),
+                        m = alAzar(largo) + 1;
         const Pasos pasos = pasosDePotencia(cifras(a), cifras(e), cifras(m));
         revisa(pasos, 1);
         const Paso ultimo = pasos.paso(pasos.cuantos() - 1);

@@ -5,15 +5,6 @@
 #include "shell/steps/SeparadorDePasos.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QListView>
-#include <QMenu>
-#include <QToolButton>
-
-using namespace Qt::Literals::StringLiterals;
-
 /// The panel of steps as a student uses it.
 class tst_PanelDePasos : public QObject
 {
