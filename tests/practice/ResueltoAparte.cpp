@@ -250,7 +250,9 @@ QList<Resuelto> resueltosDeCifrado()
                  {u"F(%1)"_s.arg(Mcd(texto(e.n[0]), texto(e.n[1])).toLongLong() + 1), {}}};
          }},
         {u"fibonacci.doblado"_s,
-         [](const auto &e, const auto &) { return lista({fib(e.n[4]), fib(e.n[5])}); },
+         [](const auto &e, const auto &) {
+             return lista({fib(e.n[4]), fib(e.n[5])});
+         },
          [](const auto &e, const auto &) {
              return QList<Equivocada>{{lista({2 * e.n[1], 2 * e.n[3]}), u"dobla-valor"_s},
                                       {lista({e.n[1] * e.n[1], e.n[3] * e.n[3]}), u"cuadrados"_s},
@@ -264,8 +266,7 @@ QList<Resuelto> resueltosDeCifrado()
                                       {texto(fibModulo(e.n[0] % e.n[1], e.n[1])), {}},
                                       {texto(fibModulo(e.n[0], e.n[1]) - e.n[1]), {}}};
          }},
-        {u"fibonacci.sumas"_s, sumaDeFib,
-         [](const auto &e, const QString &esperada) {
+        {u"fibonacci.sumas"_s, sumaDeFib, [](const auto &e, const QString &esperada) {
              const qint64 suma = esperada.toLongLong();
              return QList<Equivocada>{{texto(suma + 1), u"falta-1"_s},
                                       {texto(suma - 1), u"falta-1"_s},

@@ -142,8 +142,7 @@ QString masCercano(double x1, double f1, double x2, double f2)
     double menor = 1e300;
     for (const QString &orden : {u"log n"_s, u"n"_s, u"n log n"_s, u"n²"_s, u"n² log n"_s, u"n³"_s,
                                  u"φⁿ"_s, u"2ⁿ"_s, u"3ⁿ"_s, u"n!"_s}) {
-        const double cambio =
-            std::fabs((f2 - logaritmo(orden, x2)) - (f1 - logaritmo(orden, x1)));
+        const double cambio = std::fabs((f2 - logaritmo(orden, x2)) - (f1 - logaritmo(orden, x1)));
         if (cambio < menor) {
             menor = cambio;
             mejor = orden;
@@ -179,13 +178,13 @@ double logBajando(const QString &regla, double c, int hasta)
     double t = 0;
     double anterior = 0;
     for (int n = 2; n <= hasta; ++n) {
-        double siguiente = t + (regla.contains(u"nT("_s)    ? std::log(n)
+        double siguiente = t + (regla.contains(u"nT("_s)   ? std::log(n)
                                 : regla.contains(u"2T("_s) ? std::log(2)
                                 : regla.contains(u"3T("_s) ? std::log(3)
                                                            : 0);
         if (regla.contains(u"T(n − 2)"_s))
             siguiente = sumaDeLogaritmos(siguiente, anterior);
-        const double gasto = c + (regla.contains(u"+ n +"_s)   ? n
+        const double gasto = c + (regla.contains(u"+ n +"_s)    ? n
                                   : regla.contains(u"+ n² +"_s) ? double(n) * n
                                                                 : 0);
         anterior = t;
@@ -198,8 +197,7 @@ QString orden(const Enunciado &e, const QString &)
 {
     if (e.nivel == 1)
         return masCercano(200, logDeSuma(e, 200), 300, logDeSuma(e, 300));
-    static const QRegularExpression regla(
-        u"= (\\d*)T\\(n/(\\d+)\\) \\+ ([^?]+)\\?"_s);
+    static const QRegularExpression regla(u"= (\\d*)T\\(n/(\\d+)\\) \\+ ([^?]+)\\?"_s);
     const auto hallada = regla.match(e.texto);
     if (hallada.hasMatch()) {
         const double a = hallada.captured(1).isEmpty() ? 1 : hallada.captured(1).toDouble();
@@ -219,44 +217,41 @@ QString orden(const Enunciado &e, const QString &)
 
 QList<Resuelto> resueltosDeComplejidad()
 {
-    return {
-        {u"complejidad.llamadas"_s,
-         [](const auto &e, const auto &) {
-             const Funcion f(e);
-             return texto(f.llama(f.n));
-         },
-         [](const auto &e, const QString &esperada) {
-             const Funcion f(e);
-             std::set<qint64> memoria;
-             return QList<Equivocada>{{texto(esperada.toLongLong() - 1), u"sin-la-primera"_s},
-                                      {texto(f.llamaUnaVez(f.n, memoria)), {}},
-                                      {texto(f.llama(f.n - 1)), {}}};
-         }},
-        {u"complejidad.memoria"_s,
-         [](const auto &e, const auto &) {
-             const Funcion f(e);
-             std::set<qint64> memoria;
-             const qint64 con = f.llamaUnaVez(f.n, memoria);
-             return u"%1, %2"_s.arg(f.llama(f.n)).arg(con);
-         },
-         [](const auto &e, const QString &esperada) {
-             const QStringList dos = esperada.split(u", "_s);
-             return QList<Equivocada>{{dos[1] + u", "_s + dos[0], u"orden"_s},
-                                      {dos[0] + u", "_s + dos[0], u"sin-ahorro"_s},
-                                      {dos[0] + u", "_s + texto(e.n.back() + 1), {}},
-                                      {dos[0], {}}};
-         }},
-        {u"complejidad.movimientos"_s, movimientos, movimientosMal},
-        {u"complejidad.recurrencia"_s,
-         [](const auto &e, const auto &) { return texto(recurrencia(e, 0)); },
-         [](const auto &e, const auto &) {
-             return QList<Equivocada>{{texto(recurrencia(e, 1)), u"un-lugar"_s}, {u"1"_s, {}}};
-         }},
-        {u"complejidad.orden"_s, orden,
-         [](const auto &, const QString &esperada) {
-             const bool conLog = esperada.endsWith(u"log n"_s);
-             return QList<Equivocada>{
-                 {conLog ? u"n!"_s : u"log n"_s, {}},
-                 {esperada == u"n³"_s ? u"n"_s : u"n³"_s, {}}};
-         }}};
+    return {{u"complejidad.llamadas"_s,
+             [](const auto &e, const auto &) {
+                 const Funcion f(e);
+                 return texto(f.llama(f.n));
+             },
+             [](const auto &e, const QString &esperada) {
+                 const Funcion f(e);
+                 std::set<qint64> memoria;
+                 return QList<Equivocada>{{texto(esperada.toLongLong() - 1), u"sin-la-primera"_s},
+                                          {texto(f.llamaUnaVez(f.n, memoria)), {}},
+                                          {texto(f.llama(f.n - 1)), {}}};
+             }},
+            {u"complejidad.memoria"_s,
+             [](const auto &e, const auto &) {
+                 const Funcion f(e);
+                 std::set<qint64> memoria;
+                 const qint64 con = f.llamaUnaVez(f.n, memoria);
+                 return u"%1, %2"_s.arg(f.llama(f.n)).arg(con);
+             },
+             [](const auto &e, const QString &esperada) {
+                 const QStringList dos = esperada.split(u", "_s);
+                 return QList<Equivocada>{{dos[1] + u", "_s + dos[0], u"orden"_s},
+                                          {dos[0] + u", "_s + dos[0], u"sin-ahorro"_s},
+                                          {dos[0] + u", "_s + texto(e.n.back() + 1), {}},
+                                          {dos[0], {}}};
+             }},
+            {u"complejidad.movimientos"_s, movimientos, movimientosMal},
+            {u"complejidad.recurrencia"_s,
+             [](const auto &e, const auto &) { return texto(recurrencia(e, 0)); },
+             [](const auto &e, const auto &) {
+                 return QList<Equivocada>{{texto(recurrencia(e, 1)), u"un-lugar"_s}, {u"1"_s, {}}};
+             }},
+            {u"complejidad.orden"_s, orden, [](const auto &, const QString &esperada) {
+                 const bool conLog = esperada.endsWith(u"log n"_s);
+                 return QList<Equivocada>{{conLog ? u"n!"_s : u"log n"_s, {}},
+                                          {esperada == u"n³"_s ? u"n"_s : u"n³"_s, {}}};
+             }}};
 }

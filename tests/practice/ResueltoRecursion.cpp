@@ -31,8 +31,11 @@ struct Sucesion
     qint64 a, b, f1, f2, m;
 
     Sucesion(const Enunciado &e, int i)
-        : a(e.n[i]), b(e.texto.contains(u"(n − 1) − "_s) ? -e.n[i + 2] : e.n[i + 2]),
-          f1(e.n[i + 5]), f2(e.n[i + 7]), m(e.n[i + 8])
+        : a(e.n[i]),
+          b(e.texto.contains(u"(n − 1) − "_s) ? -e.n[i + 2] : e.n[i + 2]),
+          f1(e.n[i + 5]),
+          f2(e.n[i + 7]),
+          m(e.n[i + 8])
     {
     }
     Sucesion(qint64 alfa, qint64 beta, qint64 uno, qint64 dos, qint64 modulo)
@@ -148,8 +151,8 @@ QString granizo(const Enunciado &e, const QString &)
     while (valores.back() != 1)
         valores << (valores.back() % 2 == 1 ? 3 * valores.back() + 1 : valores.back() / 2);
     const qint64 mayor = *std::max_element(valores.begin(), valores.end());
-    const auto menor = std::find_if(valores.begin(), valores.end(),
-                                    [&](qint64 v) { return v < valores.front(); });
+    const auto menor =
+        std::find_if(valores.begin(), valores.end(), [&](qint64 v) { return v < valores.front(); });
     if (e.nivel == 1)
         return texto(valores.size() - 1);
     return lista({e.nivel == 2 ? valores.size() - 1 : menor - valores.begin(), mayor});
@@ -182,12 +185,12 @@ bool acaba(const QStringList &argumentos, qint64 n, qint64 base, int hondo)
     static const QRegularExpression numeros(u"\\d+"_s);
     for (const QString &argumento : argumentos) {
         const qint64 k = numeros.match(argumento).captured().toLongLong();
-        const qint64 siguiente = argumento.contains(u'⌊')        ? n / k
+        const qint64 siguiente = argumento.contains(u'⌊') ? n / k
                                  : argumento.contains(u"n − "_s) && argumento.front() != u'n'
                                      ? k * n - k
-                                 : argumento.contains(u'−')      ? n - k
-                                 : argumento.contains(u'+')      ? n + k
-                                                                 : n;
+                                 : argumento.contains(u'−') ? n - k
+                                 : argumento.contains(u'+') ? n + k
+                                                            : n;
         if (!acaba(argumentos, siguiente, base, hondo + 1))
             return false;
     }
@@ -227,8 +230,7 @@ QString definicion(const Enunciado &e, const QString &)
 QString exacto(const QString &expresion)
 {
     const RevisorDeFormulas revisor;
-    const auto valor =
-        revisor.valor(Formula(QString(expresion).replace(u";"_s, u"; "_s)).raiz());
+    const auto valor = revisor.valor(Formula(QString(expresion).replace(u";"_s, u"; "_s)).raiz());
     return valor ? QString::fromStdString(valor->get_str()) : QString();
 }
 
@@ -263,7 +265,6 @@ QString formula(const Enunciado &e, const QString &esperada)
         valores << exacto(QString(esperada).replace(u"A1"_s, u"(%1)"_s.arg(n)));
     return columna.match(e.texto).captured(1) == valores.join(u"; "_s) ? esperada : QString();
 }
-
 
 } // namespace
 
@@ -334,10 +335,10 @@ QList<Resuelto> resueltosDeRecursion()
         {u"minical.celda"_s, celda,
          [](const auto &, const QString &esperada) {
              const QStringList partes = (esperada + u"/1"_s).split(u'/');
-             return QList<Equivocada>{{u"Error"_s, u"error"_s},
-                                      {texto(3 * partes[0].toLongLong()) + u'/' +
-                                           texto(3 * partes[1].toLongLong()),
-                                       u"sin-reducir"_s}};
+             return QList<Equivocada>{
+                 {u"Error"_s, u"error"_s},
+                 {texto(3 * partes[0].toLongLong()) + u'/' + texto(3 * partes[1].toLongLong()),
+                  u"sin-reducir"_s}};
          }},
         {u"minical.formula"_s, formula, [](const auto &, const QString &esperada) {
              return QList<Equivocada>{{u"7"_s, u"sin-la-celda"_s},

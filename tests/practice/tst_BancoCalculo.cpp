@@ -109,9 +109,8 @@ void tst_BancoCalculo::cadaTipo()
                 ejercicio.enunciado, ejercicio.esperada, resultado)));
         if (i >= Equivocados * Niveles)
             continue;
-        const QString falta =
-            faltaAlRechazar(ejercicio, resuelto.equivocadas(enunciado, ejercicio.esperada),
-                            rechazadas, notas);
+        const QString falta = faltaAlRechazar(
+            ejercicio, resuelto.equivocadas(enunciado, ejercicio.esperada), rechazadas, notas);
         QVERIFY2(falta.isEmpty(), qPrintable(ejercicio.enunciado + u' ' + falta));
     }
     qInfo("%s: %lld statements, %lld answers refused, notes: %s", qPrintable(tipo->clave),
