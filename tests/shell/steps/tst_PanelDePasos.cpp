@@ -195,9 +195,7 @@ void tst_PanelDePasos::unaFormulaAnchaSeParte()
 void tst_PanelDePasos::otroAnchoOtrasLineas()
 {
     Panel panel;
-    panel.pon(Pasos(2, [](qsizetype) {
-        return Paso{u"palabras "_s.repeated(30)};
-    }));
+    panel.pon(Pasos(2, [](qsizetype) { return Paso{u"palabras "_s.repeated(30)}; }));
     panel.resize(900, 500);
     panel.show();
     panel.pulsa(u"cmdTodosLosPasos"_s);
