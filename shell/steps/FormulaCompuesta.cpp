@@ -243,9 +243,10 @@ FormulaCompuesta::FormulaCompuesta(const Formula &formula, const QFont &fuente, 
         std::max_element(trozos.begin(), trozos.end(), [](const Caja &a, const Caja &b) {
             return a.ancho < b.ancho;
         })->ancho;
-    // What cannot be broken is set smaller, all of the formula alike.
-    if (mayor > ancho - sangria)
-        trozos = Compositor(reducida(fuente, std::max(MenorParte, (ancho - sangria) / mayor)))
+    // What cannot be broken is set smaller, all of the formula alike, and a little more than in
+    // proportion: type comes in whole pixels.
+    if (const qreal factor = (ancho - sangria) / mayor; factor < 1)
+        trozos = Compositor(reducida(fuente, std::max(MenorParte, factor * 0.93)))
                      .trozos(formula.raiz());
     reparte(trozos, ancho, sangria);
 }
