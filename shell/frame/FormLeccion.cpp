@@ -3,10 +3,7 @@
 
 #include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/core/Traduccion.h"
 #include "shell/frame/BotonDeCorrida.h"
-#include "shell/frame/Interlocutor.h"
-#include "shell/frame/NavegadorPagina.h"
 #include "shell/look/Aspecto.h"
 #include "shell/steps/PanelDePasos.h"
 #include "shell/steps/SeparadorDePasos.h"
@@ -29,6 +26,7 @@ namespace {
 
 /// Whether the user wants to see steps, in whatever lesson.
 const QString ClaveDePasos = u"Pasos/Visibles"_s;
+const QString TemaDeCuestiones = u"cuestiones"_s;
 
 } // namespace
 
@@ -37,7 +35,9 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
       m_pagina(pagina),
       m_tsTema(new QTabBar(this)),
       m_cmdPasos(new QToolButton(this)),
-      m_paneles(new QStackedWidget(this))
+      m_cmdPracticas(new QToolButton(this)),
+      m_paneles(new QStackedWidget(this)),
+      m_cmdVolver(new QToolButton(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     m_tsTema->setObjectName(u"tsTema"_s);
@@ -51,9 +51,13 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     tira->setContentsMargins(0, 0, Aspecto::Espacio / 2, 0);
     tira->addWidget(m_tsTema, 1);
     tira->addWidget(m_cmdPasos);
+    tira->addWidget(m_cmdPracticas);
+    tira->addWidget(m_cmdVolver);
     columna->addLayout(tira);
     columna->addWidget(m_paneles);
     preparaPasos();
+    preparaPracticas();
+    preparaVuelta();
     conecta(m_tsTema, &QTabBar::currentChanged, this, &FormLeccion::tsTema_Click);
     qApp->installEventFilter(this);
 }
@@ -70,14 +74,25 @@ void FormLeccion::preparaPasos()
     conecta(m_cmdPasos, &QToolButton::clicked, this, &FormLeccion::cmdPasos_Click);
 }
 
+void FormLeccion::preparaPracticas()
+{
+    m_cmdPracticas->setObjectName(u"cmdPracticas"_s);
+    m_cmdPracticas->setText(Traduce(u"Practicar más"_s));
+    m_cmdPracticas->setToolTip(
+        Traduce(u"Más ejercicios de esta lección, con pistas y soluciones"_s));
+    m_cmdPracticas->setFocusPolicy(Qt::StrongFocus);
+    m_cmdPracticas->hide();
+}
+
+void FormLeccion::ofrecePracticas(const std::function<void()> &practica)
+{
+    m_hayPracticas = true;
+    conecta(m_cmdPracticas, &QToolButton::clicked, this, practica);
+}
+
 QString FormLeccion::URL() const
 {
     return Sesión().carpeta() + u"\\Doc\\"_s + m_pagina;
-}
-
-void FormLeccion::muestraAyuda() const
-{
-    interlocutor().abre(PaginaTraducida(URL(), Idioma()));
 }
 
 void FormLeccion::cierra()
@@ -144,22 +159,11 @@ int FormLeccion::indiceDeTema(const QString &clave) const
     return -1;
 }
 
-void FormLeccion::agregaIntroduccion(const QString &rotulo)
-{
-    auto *panel = new QWidget(this);
-    auto *marco = new QVBoxLayout(panel);
-    marco->setContentsMargins(0, 0, 0, 0);
-    auto *pagina = new NavegadorPagina(panel);
-    pagina->setObjectName(u"wbIntro"_s);
-    pagina->setAccessibleName(Traduce(u"Introducción"_s));
-    pagina->navega(PaginaTraducida(URL(), Idioma()));
-    marco->addWidget(pagina);
-    agregaTema(rotulo, u"intro"_s, panel);
-}
-
 void FormLeccion::tsTema_Click(int indice)
 {
     m_paneles->setCurrentIndex(indice);
+    m_cmdPracticas->setVisible(m_hayPracticas &&
+                               m_tsTema->tabData(indice).toString() == TemaDeCuestiones);
     muestraPasos();
 }
 
@@ -252,6 +256,11 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         return QWidget::eventFilter(objeto, suceso);
     if (suceso->type() == QEvent::KeyRelease && pulsacion->key() == Qt::Key_F1) {
         evento(this, [this] { muestraAyuda(); });
+        return true;
+    }
+    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Left &&
+        pulsacion->modifiers() & Qt::AltModifier && !introduccionAlFrente()) {
+        evento(this, [this] { cmdVolver_Click(); });
         return true;
     }
     if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_F8) {

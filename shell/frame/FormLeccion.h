@@ -2,11 +2,13 @@
 #pragma once
 
 #include "shell/frame/Evento.h"
+#include "shell/frame/Leccion.h"
 
 #include <QString>
 #include <QWidget>
+#include <functional>
 
-class NavegadorPagina;
+class PaginaDeLeccion;
 class PanelDePasos;
 class QAbstractButton;
 class QStackedWidget;
@@ -28,8 +30,27 @@ public:
     QString URL() const;
 
     /// Opens the help page in the system's browser, in the language of the interface where it has
-    /// been translated.
+    /// been translated, at the section of the topic in front.
     void muestraAyuda() const;
+
+    /// The topics as the page knows them: which sections tell about them.
+    void ponTemasDePagina(const QList<TemaDePagina> &temas) { m_temasDePagina = temas; }
+
+    /// The introduction; null for a lesson that has none.
+    PaginaDeLeccion *pagina() const { return m_introduccion; }
+
+    /// Brings a topic to the front; false for a key that no topic has.
+    bool abreTema(const QString &clave);
+
+    /// Writes into a control of the lesson (Relleno), and brings the tab to the front that holds
+    /// it. False where there is no such control and where it does not take the text.
+    bool rellenaCampo(const QString &campo, const QString &valor);
+
+    /// Shows a way back to the page that led here, by a button and by Alt+Left, until it is taken.
+    void ofreceVuelta(const std::function<void()> &vuelve);
+
+    /// Gives the topic of questions a button that goes on to more exercises.
+    void ofrecePracticas(const std::function<void()> &practica);
 
     /// Closes the window as its close button would.
     void cierra();
@@ -75,11 +96,16 @@ protected:
 
 private:
     int indiceDeTema(const QString &clave) const;
+    QString seccionAlFrente() const;
+    bool introduccionAlFrente() const;
     void tsTema_Click(int indice);
+    void preparaVuelta();
+    void cmdVolver_Click();
     void cmdPasos_Click(bool visibles);
     void teclaDePasos();
     PanelDePasos *pasosALaVista() const;
     void preparaPasos();
+    void preparaPracticas();
     void muestraPasos();
     Tarea<> pideCierre();
     QAbstractButton *botonEnMarcha() const;
@@ -88,7 +114,13 @@ private:
     QString m_pagina;
     QTabBar *m_tsTema;
     QToolButton *m_cmdPasos;
+    QToolButton *m_cmdPracticas;
+    bool m_hayPracticas = false;
     QStackedWidget *m_paneles;
+    QToolButton *m_cmdVolver;
+    PaginaDeLeccion *m_introduccion = nullptr;
+    QList<TemaDePagina> m_temasDePagina;
+    std::function<void()> m_vuelve;
     std::shared_ptr<Parada> m_parada = std::make_shared<Parada>();
     bool m_cierrePermitido = false;
     bool m_enCierre = false;

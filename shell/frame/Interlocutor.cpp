@@ -304,10 +304,19 @@ Tarea<QString> Interlocutor::eligeCarpeta(QWidget *padre, QString pregunta, QStr
 
 void Interlocutor::abre(const QString &direccion)
 {
-    const QFileInfo archivo(rutaExistente(direccion));
-    const bool local = archivo.isAbsolute() || archivo.exists();
-    QDesktopServices::openUrl(local ? QUrl::fromLocalFile(archivo.absoluteFilePath())
-                                    : QUrl(direccion));
+    const QFileInfo entero(rutaExistente(direccion));
+    // A name may hold a "#" of its own.
+    const QString lugar =
+        entero.exists() ? QString() : direccion.section(u'#', 1).section(u'#', -1);
+    const QFileInfo archivo(
+        lugar.isEmpty() ? entero : QFileInfo(rutaExistente(direccion.chopped(lugar.size() + 1))));
+    if (!archivo.isAbsolute() && !archivo.exists()) {
+        QDesktopServices::openUrl(QUrl(direccion));
+        return;
+    }
+    QUrl local = QUrl::fromLocalFile(archivo.absoluteFilePath());
+    local.setFragment(lugar.isEmpty() ? QString() : lugar);
+    QDesktopServices::openUrl(local);
 }
 
 bool Interlocutor::lanzaAlguno(const QList<QStringList> &ordenes)

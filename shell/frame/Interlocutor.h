@@ -66,7 +66,7 @@ public:
     virtual Tarea<QString> eligeCarpeta(QWidget *padre, QString pregunta, QString inicial);
 
     /// Asks the desktop to open a web address or a local file (the path of a file may have
-    /// back-slashes). Failures are the desktop's to report.
+    /// back-slashes, and "#" with a place in it at its end). Failures are the desktop's to report.
     virtual void abre(const QString &direccion);
 
     /// Starts the first of these programs that is installed; false when none is. Each is a command

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QList>
-#include <QString>
+#include <QStringList>
 #include <chrono>
 #include <functional>
 
@@ -31,6 +31,17 @@ struct Escena
     std::chrono::milliseconds tras{1500};
 };
 
+/// A topic as the pages know it: how links name it, and all that they may fill there.
+struct TemaDePagina
+{
+    QString nombre;            ///< in a link, behind the lesson's
+    QString clave;             ///< of the strip
+    QString seccion = {};      ///< of the lesson's page, which tells about the topic
+    QStringList campos = {};   ///< objectNames; of another topic too where the two belong together
+    QString celdas = {};       ///< grid whose cells links name as its headers do ("C12")
+    QStringList pestanas = {}; ///< sections for the tabs within the topic, where it has some
+};
+
 /// A window that the main window can open.
 struct Leccion
 {
@@ -42,6 +53,21 @@ struct Leccion
     /// Gives its pictures for the gallery, which asks for them once it stands on settings of its
     /// own: some scenes name the user.
     std::function<QList<Escena>()> escenas = {};
+    QString palabra = {};           ///< how links name it
+    QList<TemaDePagina> temas = {}; ///< the topics that links may open
+};
+
+/// The window in which the exercises of all lessons are done.
+struct VentanaDePracticas
+{
+    Leccion ventana;
+    /// Shows in that window what is to be practised: a lesson by its word ("euclides"), a kind of
+    /// exercise by its key ("euclides.mcd") at a level, 0 for the one that is next, or with no key
+    /// what is due. A sentence for the student where there is no such thing, else nothing.
+    std::function<QString(FormLeccion &ventana, const QString &clave, int nivel)> practica = {};
+    /// What a student who has practised before is invited to go on with; empty when there is
+    /// nothing of the kind.
+    std::function<QString()> invitacion = {};
 };
 
 /// What the program is made of. `main.cpp` writes it down; the shell knows no lesson by name.
@@ -49,4 +75,5 @@ struct Contenido
 {
     QList<Leccion> lecciones; ///< the rows of the menu, top to bottom
     Leccion hojaDeCalculo;
+    VentanaDePracticas practicas = {};
 };

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/look/Imagenes.h"
 
+#include "shell/core/page/FiguraOscura.h"
+
+#include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPixmapCache>
@@ -43,15 +46,17 @@ QPixmap Imagen(const QString &nombre, int alto, qreal escala)
     return QPixmap::fromImage(pintada(dibujo, natural * (alto / natural.height()), escala));
 }
 
-QPixmap ImagenDeArchivo(const QString &ruta, qreal escala)
+QPixmap ImagenDeArchivo(const QString &ruta, qreal escala, bool oscura)
 {
     // Drawing the figures is the better part of opening a page.
-    const QString clave = u"%1@%2"_s.arg(ruta).arg(escala);
+    const QString clave = u"%1@%2%3"_s.arg(ruta).arg(escala).arg(oscura ? u" oscura"_s : QString());
     QPixmap imagen;
     if (QPixmapCache::find(clave, &imagen))
         return imagen;
-    QSvgRenderer dibujo(ruta);
-    if (dibujo.isValid())
+    QFile archivo(ruta);
+    const QByteArray svg = archivo.open(QIODevice::ReadOnly) ? archivo.readAll() : QByteArray();
+    QSvgRenderer dibujo;
+    if (!svg.isEmpty() && dibujo.load(oscura ? figuraOscura(svg) : svg))
         imagen = QPixmap::fromImage(pintada(dibujo, dibujo.defaultSize(), escala));
     QPixmapCache::insert(clave, imagen);
     return imagen;

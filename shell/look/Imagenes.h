@@ -13,9 +13,9 @@ QIcon Icono(const QString &nombre);
 /// A picture `lado` device-independent pixels high, for a screen of the given scale.
 QPixmap Imagen(const QString &nombre, int alto, qreal escala);
 
-/// The picture in an SVG file in its own size, for a screen of the given scale; null when there is
-/// none.
-QPixmap ImagenDeArchivo(const QString &ruta, qreal escala);
+/// The picture in an SVG file in its own size, for a screen of the given scale; in the colours of a
+/// dark page when so asked (figuraOscura). Null when there is none.
+QPixmap ImagenDeArchivo(const QString &ruta, qreal escala, bool oscura = false);
 
 /// A mouse pointer, with its hot spot in device-independent pixels.
 QCursor Cursor(const QString &nombre, QPoint puntoActivo);

@@ -2,25 +2,23 @@
 #include "shell/start/Galeria.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/CarpetaDeDatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
+#include "shell/frame/Relleno.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/start/FormPrincipal.h"
 #include "shell/start/Main.h"
 
 #include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QSettings>
 #include <QTabBar>
 #include <QTabWidget>
@@ -96,6 +94,7 @@ public:
         for (int fila = 0; fila < m_contenido.lecciones.size(); ++fila)
             retrataEscenas(m_contenido.lecciones[fila], fila);
         retrataEscenas(m_contenido.hojaDeCalculo, FormPrincipal::FilaHojaDeCalculo);
+        retrataEscenas(m_contenido.practicas.ventana, FormPrincipal::FilaPracticas);
         return m_bien;
     }
 
@@ -110,6 +109,7 @@ private:
     /// Until the runs of a lesson are over, or have clearly gone astray.
     static void esperaCorridas(const FormLeccion &leccion)
     {
+        espera(20ms); // some begin with the next turn of the queue
         const QDeadlineTimer fin(60s);
         const auto corridas = leccion.findChildren<BotonDeCorrida *>();
         const auto enMarcha = [](const BotonDeCorrida *corrida) { return corrida->enMarcha(); };
@@ -168,32 +168,12 @@ private:
             QCoreApplication::sendEvent(control, &intro);
         } else if (auto *tira = qobject_cast<QTabBar *>(control))
             abreTema(*tira, gesto.valor);
-        else if (auto *lista = qobject_cast<QComboBox *>(control))
-            lista->setCurrentText(gesto.valor);
-        else if (auto *campo = qobject_cast<QLineEdit *>(control))
-            campo->setText(gesto.valor);
-        else if (auto *texto = qobject_cast<QPlainTextEdit *>(control))
-            texto->setPlainText(gesto.valor);
         else if (auto *boton = qobject_cast<QAbstractButton *>(control))
             boton->click();
-        else if (auto *rejilla = qobject_cast<QAbstractItemView *>(control))
-            escribe(*rejilla, gesto.valor);
         else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
             pestanas->setCurrentIndex(gesto.valor.toInt());
-        else
+        else if (!control || !rellena(*control, gesto.valor))
             qWarning("no such control in the scene: %s", qPrintable(gesto.control));
-    }
-
-    /// "row,column:text", or "row,column" for the cell to become current; both counted from 0.
-    static void escribe(QAbstractItemView &rejilla, const QString &valor)
-    {
-        const QString casilla = valor.section(u':', 0, 0);
-        const QModelIndex indice = rejilla.model()->index(casilla.section(u',', 0, 0).toInt(),
-                                                          casilla.section(u',', 1).toInt());
-        if (casilla == valor)
-            rejilla.setCurrentIndex(indice);
-        else
-            rejilla.model()->setData(indice, valor.section(u':', 1), Qt::EditRole);
     }
 
     const Contenido &m_contenido;
@@ -247,6 +227,7 @@ int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
     const QString copia = deUsarYTirar.filePath(u"Numora"_s);
     copiaCarpetaDeTrabajo(rutaExistente(Sesión().carpeta()), copia);
     Sesión().ponCarpeta(copia);
+    ponCarpetaDeDatos(deUsarYTirar.filePath(u"Datos"_s));
     QDir::setCurrent(copia);
     ImgSiguiente() = Icono(u"SIGUIENTE"_s);
     ImgStop() = Icono(u"STOP"_s);

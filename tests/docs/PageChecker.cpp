@@ -86,6 +86,8 @@ private:
             fault(u"lang is not \"%1\""_s.arg(m_checker.m_language));
         else if (name == u"link")
             checkStyleSheet(attributes);
+        else if (name == u"script" && attributes.value(u"src"_s) != script())
+            fault(u"a script other than "_s + script());
         else if (name == u"a")
             checkLink(attributes);
         else if (name == u"img")
@@ -97,6 +99,12 @@ private:
             m_titled = !m_xml.readElementText().trimmed().isEmpty();
             m_open.removeLast();
         }
+    }
+
+    /// The only one: it stands beside the style sheet.
+    QString script() const
+    {
+        return QString(m_checker.m_sheet).replace(u"estilo.css"_s, u"pagina.js"_s);
     }
 
     void checkCommon(const QXmlStreamAttributes &attributes)

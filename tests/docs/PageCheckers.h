@@ -66,6 +66,26 @@ QStringList translationFaults(const QString &original, const QString &translatio
 QStringList nameFaults(const QString &spanish, const QString &translation, const QString &texts,
                        const QString &section);
 
+/// Folded text of a page that is of no kind, without a summary, or within another one.
+QStringList foldFaults(const QString &page);
+
+/// What a page lacks as a page of the course: aims, exercises with their solutions, questions with
+/// hints and answers, others to be answered on the spot, contents that list all sections.
+QStringList courseFaults(const QString &page);
+
+/// Where two pages differ in what a translation keeps: sections, folds, links that act, numbers and
+/// answers, in their order.
+QStringList parityFaults(const QString &original, const QString &translation);
+
+/// A number that a page asks to be computed again.
+struct NumberOfPage
+{
+    QString expression;
+    QString shown; ///< without blanks, with the keyboard's minus
+    qint64 line = 0;
+};
+QList<NumberOfPage> numbersOf(const QString &page);
+
 /// The ISO 639 code of the language that a folder of translated pages is named after in English
 /// ("en" for "English"), empty where there is no such language.
 QString languageOfFolder(const QString &name);

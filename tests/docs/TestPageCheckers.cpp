@@ -79,6 +79,8 @@ private Q_SLOTS:
         body("skipped heading", u"<h3>x</h3>"_s, u"h3 after h1"_s);
         body("two titles", u"<h1>x</h1>"_s, u"more than one h1"_s);
         body("nested exponents", u"<p>2<sup>2<sup>n</sup></sup></p>"_s, u"nested"_s);
+        body("script", u"<script src=\"pagina.js\"></script>"_s, QString());
+        body("another script", u"<script src=\"otra.js\"></script>"_s, u"pagina.js"_s);
         body("element unknown to the program", u"<figure>x</figure>"_s, u"<figure>"_s);
         body("class without a rule", u"<p class=\"caja nada\">x</p>"_s, u"class \"nada\""_s);
         body("inline style", u"<p style=\"color: black\">x</p>"_s, u"style="_s);
@@ -135,6 +137,98 @@ private Q_SLOTS:
         PageChecker checker(folder.filePath(u"English"_s), u"en"_s, u"../estilo.css"_s);
         QCOMPARE(checker.faults(u"hecha.html"_s), QStringList());
         QCOMPARE(checker.faults(u"copiada.html"_s).size(), 2); // the language and the style sheet
+    }
+
+    /// A page of the course, and what is wrong with it once a part of it is written otherwise.
+    void courseFaultsAreFound_data()
+    {
+        QTest::addColumn<QString>("part");
+        QTest::addColumn<QString>("instead");
+        QTest::addColumn<QString>("fault");  // empty for none
+        QTest::addColumn<QString>("parity"); // where the other way round is the translation
+        const auto row = [](const QString &part, const QString &instead, const QString &fault,
+                            const QString &parity = {}) {
+            QTest::newRow(qPrintable(part + u" → "_s + instead))
+                << part << instead << fault << parity;
+        };
+        row(u"Pista"_s, u"Hint"_s, {});
+        row(u">e0<"_s,
+            u"><details class=\"prueba\"><summary>P</summary><details class=\"paso\">"
+            "<summary>1</summary></details></details><"_s,
+            {}, u"details prueba"_s);
+        row(u"class=\"pista\""_s, u"class=\"otra\""_s, u"fold of no kind"_s, u"details otra"_s);
+        row(u"class=\"pista\""_s, u"class=\"paso\""_s, u"paso within"_s, u"details paso"_s);
+        row(u"<summary>Pista</summary>"_s, {}, u"without a summary"_s);
+        row(u">e0<"_s,
+            u"><details class=\"pista\"><summary>P</summary><details class=\"pista\">"
+            "<summary>1</summary></details></details><"_s,
+            u"pista within pista"_s, u"details pista"_s);
+        row(u"objetivos"_s, u"otros"_s, u"box of aims"_s);
+        row(u"Curso.html"_s, u"Otra.html"_s, u"map of the course"_s);
+        row(u"<a href=\"#pensar\">x</a>"_s, {}, u"contents do not list"_s);
+        row(u"<li>e0<details class=\"solucion\"><summary>S</summary>"_s,
+            u"<li>e0<details class=\"pista\"><summary>S</summary>"_s, u"without a solucion"_s,
+            u"details pista"_s);
+        row(u"<li>e0"_s, u"</ol><p/><ol class=\"o\"><li>e0"_s, {});
+        row(u"<li>p0"_s, u"<li>y</li><li>p0"_s, u"without a pista"_s);
+        row(u"pregunta/r1"_s, u"pregunta/r2"_s, u"no link asks: r1"_s, u"numora:pregunta/r2"_s);
+        row(u"id=\"r1\" data-respuesta=\"sí\""_s, u"id=\"r1\" data-respuesta=\"yes\""_s, {});
+        row(u"id=\"r1\" data-respuesta=\"sí\""_s, u"id=\"r1\" data-respuesta=\"no\""_s, {},
+            u"data-respuesta no"_s);
+        row(u"id=\"r1\" data-respuesta=\"sí\""_s, u"id=\"r1\""_s, u"without its answer"_s,
+            u"nothing"_s);
+        row(u"numora:practicas/"_s, u"https://"_s, u"too few exercises"_s,
+            u"numora:practicas/rsa.t where"_s);
+        row(u"data-calcula=\"1+1\""_s, u"data-calcula=\"2\""_s, {}, u"data-calcula 2"_s);
+        row(u"data-calcula"_s, u"data-otra"_s, u"too few numbers"_s, u"nothing"_s);
+        row(u"<section id=\"leer\">"_s, u"<section id=\"otra\">"_s, u"last sections"_s,
+            u"section #leer"_s);
+    }
+    void courseFaultsAreFound()
+    {
+        QFETCH(QString, part);
+        QFETCH(QString, instead);
+        QFETCH(QString, fault);
+        QFETCH(QString, parity);
+        const auto items = [](int count, const QString &item) {
+            QString all;
+            for (int i = 0; i < count; ++i)
+                all += QString(item).replace(u'~', QString::number(i));
+            return all;
+        };
+        const auto fold = [](const QString &kind, const QString &summary) {
+            return u"<details class=\"%1\"><summary>%2</summary><p>a</p></details>"_s.arg(kind,
+                                                                                          summary);
+        };
+        QString sections, contents;
+        for (const QString &id : u"pruebalo ejercicios pensar recuerdas leer"_s.split(u' ')) {
+            contents += u"<a href=\"#%1\">x</a>"_s.arg(id);
+            sections += u"<section id=\"%1\"><ol>%2</ol></section>"_s.arg(
+                id,
+                id == u"ejercicios"
+                    ? items(10, u"<li>e~"_s + fold(u"solucion"_s, u"S"_s) +
+                                    u"<a href=\"numora:practicas/rsa.t\">p</a></li>"_s)
+                : id == u"pensar" ? items(3, u"<li>p~"_s + fold(u"pista"_s, u"Pista"_s) +
+                                                 fold(u"respuesta"_s, u"R"_s) + u"</li>"_s)
+                : id == u"recuerdas"
+                    ? items(3,
+                            u"<li id=\"r~\" data-respuesta=\"sí\"><a href=\"numora:pregunta/r~\">"
+                            "x</a>"_s +
+                                fold(u"respuesta"_s, u"R"_s) + u"</li>"_s)
+                    : items(10, u"<span data-calcula=\"1+1\">2</span>"_s));
+        }
+        const QString fit =
+            u"<body><table class=\"caja objetivos\"><tr><td><ul>%1</ul><p class=\"antes\">"
+            "<a href=\"Curso.html\">x</a></p></td></tr></table><nav>%2</nav>%3</body>"_s.arg(
+                items(3, u"<li>a</li>"_s), contents, sections);
+        QVERIFY(fit.contains(part));
+        const QString other = QString(fit).replace(part, instead);
+        const QStringList faults = foldFaults(other) + courseFaults(other);
+        QVERIFY2(faults.isEmpty() == fault.isEmpty() && faults.join(u' ').contains(fault),
+                 qPrintable(faults.join(u'\n')));
+        const QString differs = parityFaults(fit, other).join(u' ');
+        QVERIFY2(differs.isEmpty() == parity.isEmpty() && differs.contains(parity),
+                 qPrintable(differs));
     }
 
     void translationFaultsAreFound_data()

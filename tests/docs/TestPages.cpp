@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PageCheckers.h"
+#include "bignum/gateway/ModBignum.h"
 
 #include <QDir>
 #include <QtTest>
@@ -53,12 +54,37 @@ private Q_SLOTS:
         PageChecker checker = checkerOf(folder);
         QVERIFY(!checker.pages().isEmpty() && !checker.figures().isEmpty());
         QStringList faults;
-        for (const QString &page : checker.pages())
-            faults += in(page, checker.faults(page));
+        for (const QString &page : checker.pages()) {
+            const QString text = readAll(kFolder + u'/' + folder + u'/' + page);
+            faults += in(page, checker.faults(page) + foldFaults(text));
+            // The map of the course is no lesson of it.
+            if (page != u"Curso.html")
+                faults += in(page, courseFaults(text));
+            if (!text.contains(u"pagina.js\"></script>"_s))
+                faults << page + u": without pagina.js"_s;
+        }
         for (const QString &figure : checker.figures()) {
             faults += in(figure, checkFigure(kFolder + u'/' + folder + u'/' + figure).faults);
             if (!checker.picturesShown().contains(figure))
                 faults << figure + u": shown on no page"_s;
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    void numbersAreRight_data() { addRows(QStringList{u"."_s} + translations()); }
+    void numbersAreRight()
+    {
+        QFETCH(QString, folder);
+        QStringList faults;
+        for (const QString &page : checkerOf(folder).pages()) {
+            for (const auto &[expression, shown, line] :
+                 numbersOf(readAll(kFolder + u'/' + folder + u'/' + page))) {
+                QString difference =
+                    u"(%1)-(%2)"_s.arg(QString(shown).replace(u',', u'.'), expression);
+                if (Evalua(difference) != u"0")
+                    faults << u"%1, line %2: %3 is not %4"_s.arg(page).arg(line).arg(expression,
+                                                                                     shown);
+            }
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
@@ -71,10 +97,12 @@ private Q_SLOTS:
         const QString texts = kFolder + u"/../Numora.txt"_s;
         QVERIFY(QFile::exists(texts));
         QStringList faults = translationFaults(kFolder, kFolder + u'/' + folder);
-        for (const QString &page : checkerOf(folder).pages())
-            faults +=
-                in(page, nameFaults(readAll(kFolder + u'/' + page),
-                                    readAll(kFolder + u'/' + folder + u'/' + page), texts, folder));
+        for (const QString &page : checkerOf(folder).pages()) {
+            const QString original = readAll(kFolder + u'/' + page);
+            const QString translated = readAll(kFolder + u'/' + folder + u'/' + page);
+            faults += in(page, nameFaults(original, translated, texts, folder) +
+                                   parityFaults(original, translated));
+        }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
 };

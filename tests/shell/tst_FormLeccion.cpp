@@ -2,7 +2,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
-#include "shell/frame/NavegadorPagina.h"
+#include "shell/page/NavegadorPagina.h"
 #include "shell/start/FormPrincipal.h"
 #include "tests/shell/support/Entorno.h"
 

@@ -3,7 +3,7 @@
 #include "shell/core/Traduccion.h"
 #include "shell/core/system/Archivos.h"
 #include "shell/frame/FormLeccion.h"
-#include "shell/frame/NavegadorPagina.h"
+#include "shell/page/NavegadorPagina.h"
 #include "tests/shell/support/Entorno.h"
 
 namespace {

@@ -2,6 +2,7 @@
 #include "tests/shell/support/Entorno.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/CarpetaDeDatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 #include "shell/start/Main.h"
@@ -115,6 +116,8 @@ void Entorno::limpia()
     const QStringList copias = ajustesPropios.entryList({u"*.copia"_s}, QDir::Files);
     for (const QString &copia : copias)
         ajustesPropios.remove(copia);
+    ponCarpetaDeDatos(ajustes->filePath(u"datos"_s));
+    QDir(carpetaDeDatos()).removeRecursively();
     ponInterlocutor(std::make_unique<Grabadora>());
     IniciaBignum(100);
 }
