@@ -149,7 +149,7 @@ Ejercicio factores(int nivel, Sorteo &sorteo)
             .esperada = enFormula(deN),
             .juzga = [deN](const RespuestaLeida &r) { return juzgaFactores(r, deN); },
             .pistas = {Traduce(u"Divida entre 2 mientras se pueda, luego entre 3, entre 5…"_s),
-                       Traduce(u"Su menor factor primo es %1, y aparece %2 veces."_s)
+                       Traduce(u"Su menor factor primo es %1, con exponente %2."_s)
                            .arg(deN[0].primo)
                            .arg(deN[0].exponente)},
             .solucion = [n] { return pasosDeFactores(n); }};

@@ -121,11 +121,9 @@ Historia historia(qint64 cual)
                 Traduce(u"en filas de %1 la última fila es de solo %2"_s),
                 Traduce(u"Son menos de %1. ¿Cuántos músicos hay?"_s)};
     case 2:
-        return {
-            Traduce(
-                u"Unos piratas reparten monedas a partes iguales, pero alguno siempre falta."_s),
-            Traduce(u"si son %1 piratas quedan %2 monedas sin repartir"_s),
-            Traduce(u"Son menos de %1. ¿Cuántas monedas hay?"_s)};
+        return {Traduce(u"Unos piratas reparten un cofre de monedas a partes iguales."_s),
+                Traduce(u"si son %1 piratas quedan %2 monedas sin repartir"_s),
+                Traduce(u"Son menos de %1. ¿Cuántas monedas hay?"_s)};
     case 3:
         return {Traduce(u"En una granja ponen los huevos del día en cajas."_s),
                 Traduce(u"en cajas de %1 quedan %2 huevos fuera"_s),
@@ -164,12 +162,13 @@ Fallo juzgaProblema(const RespuestaLeida &r, const Sistema &s)
                       s.cuantasCumple(r.numeros[0]) > 0 ? u"no-todas"_s : u"ninguna"_s);
 }
 
+/// Remainders from 2 on: the stories speak of several sheep.
 Sistema sistemaDelProblema(int nivel, Sorteo &sorteo)
 {
-    if (nivel == 1)
-        return sistemaDe({4, 5, 7, 9}, 2, sorteo);
-    return nivel == 2 ? sistemaDe({4, 5, 7, 9, 11}, 3, sorteo)
-                      : sistemaDe({8, 9, 11, 13, 17, 25}, 3, sorteo);
+    const QList<qint64> modulos = nivel == 1   ? QList<qint64>{4, 5, 7, 9}
+                                  : nivel == 2 ? QList<qint64>{4, 5, 7, 9, 11}
+                                               : QList<qint64>{8, 9, 11, 13, 17, 25};
+    return sistemaDe(modulos, nivel == 1 ? 2 : 3, sorteo, 2);
 }
 
 Ejercicio problema(int nivel, Sorteo &sorteo)

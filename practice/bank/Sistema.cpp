@@ -68,7 +68,7 @@ QString Sistema::texto() const
     return congruencias.join(u", "_s);
 }
 
-Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo)
+Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo, qint64 menorResto)
 {
     Sistema s{{}, sorteo.barajada(modulos).first(cuantos)};
     Sistema otros = s;
@@ -76,11 +76,11 @@ Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo)
     const qint64 n = *mayor;
     otros.modulos.erase(mayor);
     for (const qint64 m : otros.modulos)
-        otros.restos << sorteo.entre(1, m - 1);
+        otros.restos << sorteo.entre(menorResto, m - 1);
     const qint64 menor = *otros.solucion(), periodo = otros.periodo();
     const qint64 vuelta = sorteo.de(losQue(0, n - 1, [&](qint64 k) {
         const qint64 x = menor + k * periodo;
-        return x > n && x % n != 0;
+        return x > n && x % n >= menorResto;
     }));
     for (const qint64 m : s.modulos)
         s.restos << (menor + vuelta * periodo) % m;

@@ -146,8 +146,9 @@ Ejercicio orden(int nivel, Sorteo &sorteo)
 {
     const std::array<std::pair<qint64, qint64>, 3> tramos{{{7, 25}, {26, 60}, {61, 120}}};
     const auto [desde, hasta] = tramos[static_cast<std::size_t>(nivel - 1)];
-    const qint64 n = sorteo.entre(desde, hasta);
-    const Unidad a = *grupoDe(n).unidad(static_cast<std::int32_t>(unidadDe(n, sorteo)));
+    const qint64 n =
+        sorteo.de(losQue(desde, hasta, [](qint64 m) { return grupoDe(m).exponente() > 2; }));
+    const Unidad a = *grupoDe(n).unidad(static_cast<std::int32_t>(unidadDe(n, sorteo, 3)));
     return {
         .enunciado = Traduce(u"¿Cuál es el orden de %1 en el grupo de las unidades módulo %2?"_s)
                          .arg(a.valor)

@@ -60,11 +60,6 @@ const Numeros &ordenes(qint64 n)
     return hechos[n];
 }
 
-Dada una(qint64 n)
-{
-    return {{n}};
-}
-
 bool es(const Dada &r, const Numeros &n)
 {
     return r.palabra.isEmpty() && r.n == n;
@@ -118,7 +113,7 @@ bool general(const Leido &e, const Dada &r)
 bool elegidas(const Leido &e, const Dada &r)
 {
     Numeros buenas;
-    for (const qint64 c : e.n.sliced(2)) {
+    for (const qint64 c : e.n.mid(2)) {
         if (alcanza(e.n[0], e.n[1], c))
             buenas << c;
     }

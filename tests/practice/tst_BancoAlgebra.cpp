@@ -159,7 +159,7 @@ Numeros especial(const QString &nombre, const Leido &e, const Numeros &r)
         {u"@otra-columna"_s, [&] { return restos(e.n[0], e.n[1], e.nivel == 2); }},
         {u"@ordinarios"_s, [&] { return restos(e.n[1], e.n[2]); }},
         {u"@sin-ultimo"_s, [&] { return r.first(std::max<qsizetype>(0, r.size() - 1)); }},
-        {u"@sin-dos"_s, [&] { return r.sliced(2); }},
+        {u"@sin-dos"_s, [&] { return r.mid(2); }},
         {u"@y-un-uno"_s, [&] { return r + Numeros{1}; }},
         {u"@uno-y"_s,
          [&] {
@@ -170,7 +170,7 @@ Numeros especial(const QString &nombre, const Leido &e, const Numeros &r)
         {u"@absolutos"_s, [&] { return cada([&](qsizetype i) { return std::abs(r[i]); }); }},
         {u"@sin-exponentes"_s,
          [&] { return cada([&](qsizetype i) { return i % 2 == 0 ? r[i] : 1; }); }},
-        {u"@desde-el-tercero"_s, [&] { return e.n.sliced(2); }},
+        {u"@desde-el-tercero"_s, [&] { return e.n.mid(2); }},
         {u"@mitad"_s, [&] { return Numeros{(e.n[0] + 1) / 2}; }},
         {u"@y-la-cota"_s, [&] { return Numeros{r[0] + e.n.constLast()}; }},
         {u"@producto-de-exponentes"_s,
