@@ -81,7 +81,8 @@ void checkQuestions(const Element &page, Faults &faults)
                                return a->attribute(u"href"_s) == u"numora:pregunta/"_s + id;
                            }),
                *item, u"question that no link asks: "_s + id);
-        faults(!item->attribute(u"data-respuesta"_s).isEmpty(), *item, u"question without its answer"_s);
+        faults(!item->attribute(u"data-respuesta"_s).isEmpty(), *item,
+               u"question without its answer"_s);
     }
 }
 
@@ -197,7 +198,8 @@ QList<NumberOfPage> numbersOf(const QString &page)
         const QString expression = span->attribute(u"data-calcula"_s).trimmed();
         QString shown = span->text;
         if (!expression.isEmpty())
-            numbers << NumberOfPage{expression, shown.remove(blanks).replace(u'−', u'-'), span->line};
+            numbers << NumberOfPage{expression, shown.remove(blanks).replace(u'−', u'-'),
+                                    span->line};
     }
     return numbers;
 }

@@ -29,8 +29,10 @@ QString muestraDe(const FormLeccion &leccion, const QString &control)
     if (const auto *rejilla = qobject_cast<QAbstractItemView *>(widget)) {
         const QAbstractItemModel &modelo = *rejilla->model();
         if (nombre.hasMatch())
-            return modelo.index(nombre.captured(2).toInt() - 1,
-                                nombre.captured(1).front().unicode() - u'A').data().toString();
+            return modelo
+                .index(nombre.captured(2).toInt() - 1, nombre.captured(1).front().unicode() - u'A')
+                .data()
+                .toString();
         QStringList textos;
         for (int f = 0; f < modelo.rowCount(); ++f) {
             for (int c = 0; c < modelo.columnCount(); ++c)
@@ -82,7 +84,8 @@ private Q_SLOTS:
         const auto [carpeta, pagina] = estaFila<QString, QString>();
         Idioma() = carpeta == u"." ? IdiomaPropio.toString() : carpeta;
         abre();
-        const QString ruta = QDir(Entorno::carpetaDeTrabajo()).filePath(u"Doc/"_s + carpeta + u'/' + pagina);
+        const QString ruta =
+            QDir(Entorno::carpetaDeTrabajo()).filePath(u"Doc/"_s + carpeta + u'/' + pagina);
         NavegadorPagina *navegador = m_lectura->pagina()->navegador();
         navegador->setSource(QUrl::fromLocalFile(ruta));
         const auto arbol = pageTree(QString::fromUtf8(leeArchivo(ruta, 1 << 20)));
@@ -98,26 +101,49 @@ private Q_SLOTS:
         QVERIFY2(faltas.isEmpty(), qPrintable(u'\n' + faltas.join(u'\n')));
     }
 
-    void F1AbreLaSeccionDelTema_data()
-    {
-        filasDeTexto<QString>(uR"(. || English)"_s);
-    }
+    void F1AbreLaSeccionDelTema_data() { filasDeTexto<QString>(uR"(. || English)"_s); }
     void F1AbreLaSeccionDelTema()
     {
         const QString carpeta = estaFila<QString>();
-        for (const Leccion &leccion : m_contenido.lecciones + QList<Leccion>{m_contenido.hojaDeCalculo}) {
+        for (const Leccion &leccion :
+             m_contenido.lecciones + QList<Leccion>{m_contenido.hojaDeCalculo}) {
             const std::unique_ptr<FormLeccion> ventana(leccion.crea(nullptr));
             ventana->ponTemasDePagina(leccion.temas);
             ventana->show();
-            const auto pagina = pageTree(QString::fromUtf8(
-                leeArchivo(Entorno::carpetaDeTrabajo() + u"/Doc/"_s + carpeta + u'/' +
-                               ventana->URL().section(u'\\', -1), 1 << 20)));
+            const auto pagina = pageTree(
+                QString::fromUtf8(leeArchivo(Entorno::carpetaDeTrabajo() + u"/Doc/"_s + carpeta +
+                                                 u'/' + ventana->URL().section(u'\\', -1),
+                                             1 << 20)));
             for (const TemaDePagina &tema : leccion.temas) {
                 QVERIFY2(ventana->abreTema(tema.clave), qPrintable(tema.nombre));
                 for (const QString &seccion : tema.pestanas + QStringList{tema.seccion})
                     QVERIFY2(pagina->place(seccion), qPrintable(leccion.palabra + u' ' + seccion));
                 ventana->muestraAyuda();
                 QVERIFY(Entorno::grabadora().abiertas.takeLast().endsWith(u'#' + tema.seccion));
+            }
+        }
+    }
+
+    void enElNavegadorSeLlamanIgual()
+    {
+        static const QRegularExpression fila(u"\"([a-z/-]+)\": \\[\"([^\"]*)\", \"([^\"]*)\"\\]"_s);
+        const QString guion = QString::fromUtf8(
+            leeArchivo(Entorno::carpetaDeTrabajo() + u"/Doc/pagina.js"_s, 1 << 20));
+        QHash<QString, QStringList> nombres;
+        for (const auto &hallada : fila.globalMatch(guion))
+            nombres[hallada.captured(1)] = {hallada.captured(2), hallada.captured(3)};
+        for (int i = 0; i < 2; ++i) {
+            Idioma() = i == 0 ? IdiomaPropio.toString() : u"English"_s;
+            for (const Leccion &leccion :
+                 m_contenido.lecciones + QList<Leccion>{m_contenido.hojaDeCalculo}) {
+                QCOMPARE(nombres[leccion.palabra].value(i), Traduce(leccion.rotulo));
+                const std::unique_ptr<FormLeccion> ventana(leccion.crea(nullptr));
+                auto *tira = control<QTabBar>(ventana.get(), u"tsTema"_s);
+                for (const TemaDePagina &tema : leccion.temas) {
+                    QVERIFY(ventana->abreTema(tema.clave));
+                    QCOMPARE(nombres[leccion.palabra + u'/' + tema.nombre].value(i),
+                             tira->tabText(tira->currentIndex()));
+                }
             }
         }
     }
@@ -157,7 +183,8 @@ numora:minical/hoja?txtPrecisión=3)"_s);
         QCOMPARE(m_principal->leccionActiva(), m_lectura);
         QCOMPARE(navegador->source().fileName(), u"Euclides.html"_s);
         QCOMPARE(navegador->verticalScrollBar()->value(), 700);
-        QVERIFY(navegador->hasFocus() && !control<QToolButton>(primos, u"cmdVolver"_s)->isVisible());
+        QVERIFY(navegador->hasFocus() &&
+                !control<QToolButton>(primos, u"cmdVolver"_s)->isVisible());
     }
 
 private:
@@ -186,8 +213,10 @@ private:
     {
         const EnlaceDePagina leido = leeEnlace(direccion);
         if (const auto *practicas = std::get_if<EnlaceDePracticas>(&leido))
-            return m_practicadas.contains(practicas->clase + u' ' + QString::number(practicas->nivel))
-                       ? QString() : u"not practised"_s;
+            return m_practicadas.contains(practicas->clase + u' ' +
+                                          QString::number(practicas->nivel))
+                       ? QString()
+                       : u"not practised"_s;
         if (const auto *leccion = std::get_if<EnlaceDeLeccion>(&leido))
             return compara(enlace, *leccion);
         const bool preguntada = control<QWidget>(m_lectura, u"txtPregunta"_s)->isVisible();
@@ -205,19 +234,22 @@ private:
             if (!escrito)
                 faltas << campo + u" holds "_s + valorDe(control);
         }
-        const Element &promesa = enlace.attributes.hasAttribute(u"data-muestra"_s) ? enlace : *enlace.parent;
+        const Element &promesa =
+            enlace.attributes.hasAttribute(u"data-muestra"_s) ? enlace : *enlace.parent;
         const QString muestra = promesa.attribute(u"data-muestra"_s);
         // Of several links in an item, what the item promises is shown after the last.
         if (muestra.isEmpty() || (&promesa != &enlace && promesa.all(u"a"_s).last() != &enlace))
             return faltas.join(u"; "_s);
         QCoreApplication::processEvents();
-        for (const QString &boton : promesa.attribute(u"data-pulsa"_s).split(u' ', Qt::SkipEmptyParts)) {
+        for (const QString &boton :
+             promesa.attribute(u"data-pulsa"_s).split(u' ', Qt::SkipEmptyParts)) {
             control<QAbstractButton>(leccion, boton)->click();
             QCoreApplication::processEvents();
         }
         const QString control = muestra.section(u'=', 0, 0);
         const QString texto = comparable(muestra.section(u'=', 1));
-        if (!QTest::qWaitFor([&] { return comparable(muestraDe(*leccion, control)).contains(texto); }, 20'000))
+        if (!QTest::qWaitFor(
+                [&] { return comparable(muestraDe(*leccion, control)).contains(texto); }, 20'000))
             faltas << control + u" shows "_s + muestraDe(*leccion, control).left(200);
         leccion->detenCorrida();
         return faltas.join(u"; "_s);

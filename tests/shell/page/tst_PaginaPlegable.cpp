@@ -11,8 +11,10 @@
 namespace {
 
 const QString Pagina =
-    u"<nav><ol><li><a href=\"#a\">Uno &amp; <b>dos</b></a></li><li><a href=\"P.html\">Otra</a></li></ol></nav>"
-    "<p id=\"a\">Primo</p><details class=\"prueba\"><summary>Prueba <i>a</i></summary><p id=\"b\">primo</p>"
+    u"<nav><ol><li><a href=\"#a\">Uno &amp; <b>dos</b></a></li><li><a "
+    u"href=\"P.html\">Otra</a></li></ol></nav>"
+    "<p id=\"a\">Primo</p><details class=\"prueba\"><summary>Prueba <i>a</i></summary><p "
+    "id=\"b\">primo</p>"
     "<details class=\"paso\"><summary>Paso</summary><p>PRIMÓ&#160;x</p></details></details>"
     "<p><img alt=\"Un primo &lt; 7\"/></p><p class=\"pie\">Pie</p>"
     "<ol><li id=\"q\" data-respuesta=\"2^3\"><p>¿8 o <i>9</i>?</p><p>x</p></li></ol>"
@@ -45,10 +47,10 @@ private Q_SLOTS:
     {
         filasDeTexto<QString, QString>(uR"(
 closed | | ▸ Prueba <i>a</i></a></p><p><img
-a fold | 0 | ▾ Prueba <i>a</i></a></p><div class="plegado prueba"><p id="b">primo</p><p class="pliegue"><a href="pliegue:1">▸ Paso</a></p></div><p><img
+a fold | 0 | ▾ Prueba <i>a</i></a></p><div class="plegado prueba"><p id="b">primo</p><p class="pliegue paso"><a href="pliegue:1">▸ Paso</a></p></div><p><img
 a fold in it | 0 1 | ▾ Paso</a></p><div class="plegado paso"><p>PRIMÓ&#160;x</p></div></div><p>
 an inner one alone | 1 | ▸ Prueba <i>a</i></a></p><p><img
-an alternative text | 2 | Pie</p><p class="pliegue"><a href="pliegue:2">▾ Qué muestra la figura</a></p><div class="plegado descripcion"><p>Un primo &lt; 7</p></div><ol>
+an alternative text | 2 | Pie</p><p class="pliegue descripcion"><a href="pliegue:2">▾ Qué muestra la figura</a></p><div class="plegado descripcion"><p>Un primo &lt; 7</p></div><ol>
 no script | | </ol><p>fin)"_s);
     }
     void loPlegadoSeDeja()
@@ -135,7 +137,8 @@ sí | Si | 1 || sí | yes | 1 || sí | NO | 0 || no | n | 1 || yes | s | 1 || no
     void figuras()
     {
         const QByteArray clara =
-            "<svg><rect x=\"0\" y=\"0\" width=\"9\" rx=\"14\" fill=\"#f4f6fb\"/><rect fill=\"#F4F6FB\" "
+            "<svg><rect x=\"0\" y=\"0\" width=\"9\" rx=\"14\" fill=\"#f4f6fb\"/><rect "
+            "fill=\"#F4F6FB\" "
             "stroke=\"#1f6f8b\"/><text fill=\"#ffffff\">#1f6f8b</text><path fill=\"#dbeaf1\" "
             "stroke=\"#000000\"/></svg>";
         QCOMPARE(figuraOscura(clara),
