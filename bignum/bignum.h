@@ -197,6 +197,11 @@ enum {
  * zeros after other failures. */
 BIGNUM_API int32_t Fibonacci(int32_t method, int32_t n, int32_t turns, char *out, BignumCost *cost);
 
+/* F(n) by additions upwards from F(from) and F(from+1), which are not counted: a stretch of
+ * BIGNUM_ITERATION, for callers that have something else to do in between. Failure unless
+ * 0 <= from < n <= 117592, and as above. */
+BIGNUM_API int32_t FibonacciFrom(int32_t from, int32_t n, char *out, BignumCost *cost);
+
 /* ---- Notations and expressions ----------------------------------------------------------- */
 
 /* n in base 2 to 36, with the digits 0-9 and a-z and "-" before a negative n. Failure for any

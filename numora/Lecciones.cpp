@@ -22,6 +22,8 @@
 #include "minical/windows/EscenasMiniCal.h"
 #include "minical/windows/FormCalc.h"
 #include "numora/TemasDePaginas.h"
+#include "practice/windows/EscenasPracticas.h"
+#include "practice/windows/FormPracticas.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,6 +33,17 @@ template <typename Ventana>
 FormLeccion *crea(QWidget *padre)
 {
     return new Ventana(padre);
+}
+
+VentanaDePracticas practicas()
+{
+    return {{u"COMPROBAR"_s, u"Prácticas"_s, crea<FormPracticas>,
+             u"Ejercicios de todas las lecciones, con pistas, soluciones y repasos."_s,
+             escenasPracticas},
+            [](FormLeccion &ventana, const QString &clave, int nivel) {
+                return static_cast<FormPracticas &>(ventana).practica(clave, nivel);
+            },
+            &FormPracticas::invitacion};
 }
 
 } // namespace
@@ -63,6 +76,7 @@ Contenido contenidoDelPrograma()
          u"La función de Ackermann, los números del granizo y los capicúas."_s, escenasRecursion3}};
     contenido.hojaDeCalculo = {
         u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>, {}, escenasMiniCal};
+    contenido.practicas = practicas();
     ponTemasDePaginas(contenido);
     return contenido;
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/start/Main.h"
+#include "numora/HojaSinVentana.h"
 #include "numora/Lecciones.h"
 #include "shell/look/TextosDeQt.h"
 #include "shell/start/Galeria.h"
@@ -24,6 +25,10 @@ void describe(QCommandLineParser &opciones)
     opciones.addOption({u"escala"_s, u"Escala de la galería en tanto por ciento, como 150."_s,
                         u"PORCIENTO"_s, u"100"_s});
     opciones.addOption({u"oscuro"_s, u"Colores oscuros en la galería."_s});
+    opciones.addOption(
+        {u"hoja"_s, u"Escribe la hoja de ejercicios de ese código, sin ventanas."_s, u"CÓDIGO"_s});
+    opciones.addOption({u"pdf"_s, u"El archivo en el que se escribe la hoja."_s, u"ARCHIVO"_s});
+    opciones.addOption({u"soluciones"_s, u"Con las respuestas y soluciones detrás."_s});
 }
 
 QSize tamano(const QString &texto)
@@ -52,6 +57,15 @@ void contestaSinVentanas(int argc, char *argv[])
     opciones.showVersion();
 }
 
+/// What writes a file and ends needs no display.
+void ponSinPantalla(int argc, char *argv[])
+{
+    for (int i = 1; i < argc; ++i) {
+        if (qstrcmp(argv[i], "--hoja") == 0 || qstrncmp(argv[i], "--hoja=", 7) == 0)
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
 /// The scale of the gallery has to stand before Qt looks for it.
 void ponEscala(int argc, char *argv[])
 {
@@ -71,6 +85,7 @@ int main(int argc, char *argv[])
     presentaPrograma(QStringLiteral(NUMORA_VERSION));
     contestaSinVentanas(argc, argv);
     ponEscala(argc, argv);
+    ponSinPantalla(argc, argv);
     const QApplication aplicacion(argc, argv);
 
     QCommandLineParser opciones;
@@ -82,6 +97,10 @@ int main(int argc, char *argv[])
                                                 .tamano = tamano(opciones.value(u"tamano"_s)),
                                                 .oscuro = opciones.isSet(u"oscuro"_s),
                                                 .idioma = idiomaDeLinea(linea)});
+
+    if (opciones.isSet(u"hoja"_s))
+        return hojaSinVentana(opciones.value(u"hoja"_s), opciones.value(u"pdf"_s),
+                              opciones.isSet(u"soluciones"_s), idiomaDeLinea(linea));
 
     const Programa programa(linea, contenidoDelPrograma());
     return QApplication::exec();

@@ -11,12 +11,17 @@ mpz_class fibonacciByIteration(unsigned n, Work &work)
         return 0;
     mpz_class previous = 0;
     mpz_class current = 1;
-    for (unsigned i = 2; i <= n; ++i) {
-        previous += current;
-        swap(previous, current);
+    iterateFibonacci(0, n, previous, current, work);
+    return current;
+}
+
+void iterateFibonacci(unsigned k, unsigned n, mpz_class &current, mpz_class &next, Work &work)
+{
+    for (unsigned i = k + 2; i <= n; ++i) {
+        current += next;
+        swap(current, next);
         ++work.additions;
     }
-    return current;
 }
 
 mpz_class fibonacciByDoubling(unsigned n, Work &work)

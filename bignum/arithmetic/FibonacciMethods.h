@@ -20,6 +20,10 @@ struct Work
 /// F(n), F(0) = 0, F(1) = 1, by n - 1 additions upwards from F(0) and F(1).
 mpz_class fibonacciByIteration(unsigned n, Work &work);
 
+/// The part of that from F(k) and F(k + 1) on, which the caller has: n - k - 1 additions; none for
+/// n ≤ k + 1. Leaves F(n) in `next`, for n > k.
+void iterateFibonacci(unsigned k, unsigned n, mpz_class &current, mpz_class &next, Work &work);
+
 /// F(n) by F(2k) = F(k) (2 F(k+1) - F(k)) and F(2k+1) = F(k)² + F(k+1)², a step for each binary
 /// digit of n: Edsger W. Dijkstra, "In honour of Fibonacci" (EWD 654), 1978.
 mpz_class fibonacciByDoubling(unsigned n, Work &work);

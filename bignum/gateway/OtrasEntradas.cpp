@@ -22,13 +22,31 @@ void AgregaPrimos(std::int64_t desde, std::int32_t hasta, std::vector<std::uint3
     PrimesBetween(desde, hasta, recoge, &lista);
 }
 
-FibonacciCalculado CalculaFibonacci(ViaDeFibonacci via, int n, std::int32_t veces)
+namespace {
+
+/// What an entry of the library writes into its buffer and its cost.
+template <typename Entrada>
+FibonacciCalculado recibe(const Entrada &entrada)
 {
     constexpr int bufer = 24576;
     QByteArray texto(bufer, '\0');
     BignumCost coste{};
-    ::Fibonacci(via == ViaDeFibonacci::Iteracion ? BIGNUM_ITERATION : BIGNUM_DOUBLING, n, veces,
-                texto.data(), &coste);
+    entrada(texto.data(), &coste);
     return {QString::fromLatin1(texto.constData()), coste.additions, coste.products,
             std::chrono::nanoseconds(coste.nanoseconds)};
+}
+
+} // namespace
+
+FibonacciCalculado CalculaFibonacci(ViaDeFibonacci via, int n, std::int32_t veces)
+{
+    const std::int32_t metodo =
+        via == ViaDeFibonacci::Iteracion ? BIGNUM_ITERATION : BIGNUM_DOUBLING;
+    return recibe(
+        [&](char *texto, BignumCost *coste) { ::Fibonacci(metodo, n, veces, texto, coste); });
+}
+
+FibonacciCalculado SigueFibonacci(int desde, int n)
+{
+    return recibe([&](char *texto, BignumCost *coste) { ::FibonacciFrom(desde, n, texto, coste); });
 }

@@ -33,3 +33,7 @@ struct FibonacciCalculado
 
 /// F(n), 0 ≤ n ≤ MaximoDeFibonacci, computed so many times over (at least once).
 FibonacciCalculado CalculaFibonacci(ViaDeFibonacci via, int n, std::int32_t veces);
+
+/// F(n) by the additions that lead from F(desde) and F(desde + 1), which are not counted, up to it;
+/// 0 ≤ desde < n ≤ MaximoDeFibonacci.
+FibonacciCalculado SigueFibonacci(int desde, int n);

@@ -28,6 +28,20 @@ mpz_class timedFibonacci(mpz_class (*method)(unsigned, Work &), unsigned n, int3
     return result;
 }
 
+mpz_class timedIteration(unsigned from, unsigned n, BignumCost &cost)
+{
+    using Clock = std::chrono::steady_clock;
+    Work untimed;
+    mpz_class current = fibonacciByDoubling(from, untimed);
+    mpz_class next = fibonacciByDoubling(from + 1, untimed);
+    Work work;
+    const auto begin = Clock::now();
+    iterateFibonacci(from, n, current, next, work);
+    const std::chrono::nanoseconds spent = Clock::now() - begin;
+    cost = {work.additions, work.products, spent.count()};
+    return next;
+}
+
 } // namespace
 
 int32_t BMcd(const char *a, const char *b, char *out)
@@ -105,5 +119,17 @@ int32_t Fibonacci(int32_t method, int32_t n, int32_t turns, char *out, BignumCos
         return timedFibonacci(method == BIGNUM_ITERATION ? fibonacciByIteration
                                                          : fibonacciByDoubling,
                               static_cast<unsigned>(n), turns, *cost);
+    });
+}
+
+int32_t FibonacciFrom(int32_t from, int32_t n, char *out, BignumCost *cost)
+{
+    return writeResult(out, kExpressionBuffer, [&]() -> std::optional<mpz_class> {
+        if (cost == nullptr)
+            return std::nullopt;
+        *cost = {};
+        if (from < 0 || n <= from || n > static_cast<int32_t>(kMaxFibonacci))
+            return std::nullopt;
+        return timedIteration(static_cast<unsigned>(from), static_cast<unsigned>(n), *cost);
     });
 }

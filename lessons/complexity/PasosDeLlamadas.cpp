@@ -78,20 +78,28 @@ Paso pasoDeLlamadas(int k, bool conMemoria)
             .arg(1 + una + otra),
         conMemoria ? u"L(%1) = 2*%1 - 1"_s.arg(k)
                    : u"L(%1) = 2*F(%2) - 1 = 2*%3 - 1"_s.arg(k).arg(k + 1).arg(fibonacci(k + 1))};
-    paso.regla = conMemoria ? Traduce(u"Cada valor nuevo cuesta dos llamadas: crecen como n."_s)
-                            : Traduce(u"Las llamadas crecen como los propios números de Fibonacci, "
-                                      "que se multiplican por casi 1,618 cada vez."_s);
     constexpr int MayorDibujado = 8;
     if (k <= (conMemoria ? ArbolDeLlamadas::MaximoN : MayorDibujado))
         paso.lamina = lamina(k, conMemoria);
     return paso;
 }
 
+QString comoCrecen(bool conMemoria)
+{
+    return conMemoria
+               ? Traduce(u"Cada valor nuevo cuesta dos llamadas: crecen como n."_s)
+               : Traduce(u"Las llamadas crecen como los propios números de Fibonacci, que se "
+                         "multiplican por casi 1,618 cada vez."_s);
+}
+
 } // namespace
 
 Pasos pasosDeLlamadas(int n, bool conMemoria)
 {
-    return Pasos(n + 1, [conMemoria](qsizetype i) {
-        return pasoDeLlamadas(static_cast<int>(i), conMemoria);
+    return Pasos(n + 1, [n, conMemoria](qsizetype i) {
+        Paso paso = pasoDeLlamadas(static_cast<int>(i), conMemoria);
+        if (i == n && n > 1)
+            paso.regla = comoCrecen(conMemoria);
+        return paso;
     });
 }

@@ -38,18 +38,18 @@ Moneda absoluto(Moneda n)
 }
 
 /// How the two coefficients of a row come from those of the two rows above.
-Formula coeficientes(const TablaEuclides &tabla, qsizetype i)
+QList<Formula> coeficientes(const TablaEuclides &tabla, qsizetype i)
 {
     const auto &filas = tabla.divisiones();
     const auto uno = [&](const QString &rotulo, std::int64_t DivisionEuclides::*coef,
                          std::int64_t antes, std::int64_t ultimo) {
         const std::int64_t dosAntes = i > 1 ? filas[i - 2].*coef : i == 1 ? ultimo : antes;
         const std::int64_t unoAntes = i > 0 ? filas[i - 1].*coef : ultimo;
-        return u"\"%1\" = %2 - %3*%4 = %5"_s.arg(rotulo, cifras(dosAntes),
-                                                 cifras(filas[i].cociente), trasSigno(unoAntes),
-                                                 cifras(filas[i].*coef));
+        return Formula(
+            u"\"%1\" = %2 - %3*%4 = %5"_s.arg(rotulo, cifras(dosAntes), cifras(filas[i].cociente),
+                                              trasSigno(unoAntes), cifras(filas[i].*coef)));
     };
-    return {uno(Traduce(u"Coef. 1"_s), &DivisionEuclides::coef1, 1, 0) + u", "_s +
+    return {uno(Traduce(u"Coef. 1"_s), &DivisionEuclides::coef1, 1, 0),
             uno(Traduce(u"Coef. 2"_s), &DivisionEuclides::coef2, 0, 1)};
 }
 
@@ -76,9 +76,9 @@ Paso division(const TablaEuclides &tabla, qsizetype i)
                   .arg(cifras(d.dividendo), cifras(d.divisor), cifras(d.cociente), cifras(d.resto)),
               {Formula(u"%1 = %2*%3 + %4"_s.arg(cifras(d.dividendo), cifras(d.cociente),
                                                 trasSigno(d.divisor), trasSigno(d.resto))),
-               mismoMcd(d.dividendo, d.divisor, d.divisor, absoluto(d.resto)),
-               coeficientes(tabla, i)},
+               mismoMcd(d.dividendo, d.divisor, d.divisor, absoluto(d.resto))},
               reglaDeDivision(tabla, i)};
+    paso.formulas += coeficientes(tabla, i);
     if (tabla.algoritmo() == AlgoritmoEuclides::Estandar)
         paso.formulas << Formula(u"%1 = %2*%3 + %4*%5"_s.arg(
             cifras(d.resto), cifras(d.coef1), trasSigno(tabla.dividendo()), trasSigno(d.coef2),
@@ -133,7 +133,7 @@ Paso sustitucion(const TablaEuclides &tabla, const QList<Combinacion> &lineas, q
     const Combinacion &sabida = lineas[i + 1];
     const QString resto = cifras(absoluto(d.resto));
     return {Traduce(u"Se sustituye %1 por %2 y se agrupa."_s)
-                .arg(resto, QString(despejado(d)).replace(u"*"_s, u" · "_s)),
+                .arg(resto, despejado(d).replace(u"*"_s, u" · "_s).replace(u" - "_s, u" − "_s)),
             {Formula(u"%1 = %2*%3 + %4*(%5) = %6"_s.arg(cifras(tabla.mcd()), cifras(sabida.x),
                                                         trasSigno(d.divisor), trasSigno(sabida.y),
                                                         despejado(d), escrita(lineas[i], d)))}};

@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr qreal Ancho = 120, Alto = 80; ///< of the drawing, in units of its own
-constexpr qreal MasRayas = 30;          ///< of its grid, in each direction
+constexpr qreal MasRayas = 15;          ///< of its grid, in each direction
 constexpr int MasPuntos = 40;
 constexpr int MasRotulos = 7;
 

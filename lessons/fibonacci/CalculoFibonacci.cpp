@@ -4,7 +4,27 @@
 #include "bignum/gateway/OtrasEntradas.h"
 #include "shell/core/MejorDeVarias.h"
 
+#include <algorithm>
+
 namespace {
+
+/// Additions between two yields, some milliseconds of the longest numbers.
+constexpr int TramoDeSumas = 10'000;
+
+/// F(n) by additions, stretch by stretch, so that a click need not wait for all of them. Only the
+/// additions count.
+Tarea<FibonacciCalculado> sumaPorTramos(int n, Billete billete)
+{
+    FibonacciCalculado total;
+    for (int desde = 0; desde < n && !billete.detenida(); desde += TramoDeSumas) {
+        const FibonacciCalculado tramo = SigueFibonacci(desde, std::min(desde + TramoDeSumas, n));
+        total.valor = tramo.valor;
+        total.sumas += tramo.sumas + (desde > 0 ? 1 : 0); // the one to F(desde + 1)
+        total.tiempo += tramo.tiempo;
+        co_await billete.ceder();
+    }
+    co_return total;
+}
 
 /// The two methods that work on numbers of any size.
 Tarea<FibonacciMedido> midePorNumeros(ViaDeFibonacci via, int n, Billete billete)
@@ -15,7 +35,13 @@ Tarea<FibonacciMedido> midePorNumeros(ViaDeFibonacci via, int n, Billete billete
         co_await billete.ceder();
         if (billete.detenida())
             co_return FibonacciMedido{};
-        const FibonacciCalculado turno = CalculaFibonacci(via, n, medida.veces());
+        FibonacciCalculado turno;
+        if (via == ViaDeFibonacci::Iteracion && n > TramoDeSumas)
+            turno = co_await sumaPorTramos(n, billete);
+        else
+            turno = CalculaFibonacci(via, n, medida.veces());
+        if (billete.detenida())
+            co_return FibonacciMedido{};
         medida.anota(turno.tiempo);
         resultado = {turno.valor, {0, turno.sumas, turno.productos}, medida.nanosegundos()};
     }

@@ -33,7 +33,7 @@ public:
     {
         if (!m_rastro)
             return;
-        const auto tiempo = Reloj::now() - m_inicio - m_billete.tiempoCedido();
+        const auto tiempo = Reloj::now() - m_inicio - (m_billete.tiempoCedido() - m_cedidoAntes);
         m_rastro->divisiones.append({factor, std::chrono::duration<double>(tiempo).count(),
                                      esElResto, m_rastro->alcanzado});
     }
@@ -44,6 +44,7 @@ private:
     RastroDeDivision *m_rastro;
     const Billete &m_billete;
     Reloj::time_point m_inicio = Reloj::now();
+    std::chrono::nanoseconds m_cedidoAntes = m_billete.tiempoCedido();
 };
 
 void extrae(Moneda &n, Moneda primo, ColFactores &factores, Rastreador &rastreador)

@@ -40,6 +40,7 @@ ReproductorAVI::ReproductorAVI(QWidget *padre) : QWidget(padre)
 void ReproductorAVI::carga(const QString &ruta, const QString &imagenFija)
 {
     para();
+    m_motor = nullptr;
     m_ruta = ruta;
     m_imagenFija = imagenFija;
     m_fotograma = {};
@@ -58,15 +59,17 @@ void ReproductorAVI::reproduce(Modo modo)
 
 void ReproductorAVI::arranca()
 {
-    if (!hayConQueReproducir()) {
+    if (Aspecto::movimientoReducido() || !hayConQueReproducir()) {
         if (m_modo == Modo::UnaVez)
             QTimer::singleShot(0, this, &ReproductorAVI::fin);
         return;
     }
-    preparaMotor();
+    m_motor = motorDe(QDir::current().absoluteFilePath(rutaExistente(m_ruta)));
     m_motor->setLoops(m_modo == Modo::Continuo ? QMediaPlayer::Infinite : QMediaPlayer::Once);
-    const QString archivo = QDir::current().absoluteFilePath(rutaExistente(m_ruta));
-    m_motor->setSource(QUrl::fromLocalFile(archivo));
+    if (m_motor->mediaStatus() == QMediaPlayer::InvalidMedia && m_modo == Modo::UnaVez)
+        QTimer::singleShot(0, this,
+                           &ReproductorAVI::fin); // it has said so once, and will not again
+    m_motor->setPosition(0);
     m_motor->play();
 }
 
@@ -78,25 +81,34 @@ void ReproductorAVI::para()
         m_motor->stop();
 }
 
-void ReproductorAVI::preparaMotor()
+/// A player for each file: handed another one, or the same one again, that of Qt 6.4 may wait for
+/// ever for the thread that delivers its pictures.
+QMediaPlayer *ReproductorAVI::motorDe(const QString &archivo)
 {
-    if (m_motor)
-        return;
-    m_motor = new QMediaPlayer(this);
-    m_salida = new QVideoSink(this);
-    m_motor->setVideoSink(m_salida);
-    connect(m_salida, &QVideoSink::videoFrameChanged, this, [this](const QVideoFrame &fotograma) {
-        // The player hands over an empty frame when it stops; the last picture stays instead.
-        if (const QImage imagen = fotograma.toImage(); !imagen.isNull())
-            m_fotograma = imagen;
-        update();
-    });
-    connect(m_motor, &QMediaPlayer::mediaStatusChanged, this, [this](auto estadoDelMedio) {
-        const bool acabada = estadoDelMedio == QMediaPlayer::EndOfMedia ||
-                             estadoDelMedio == QMediaPlayer::InvalidMedia;
-        if (acabada && m_estado == Reproduciendo && m_modo == Modo::UnaVez)
-            fin();
-    });
+    QMediaPlayer *&motor = m_motores[archivo];
+    if (motor)
+        return motor;
+    motor = new QMediaPlayer(this);
+    auto *salida = new QVideoSink(motor);
+    motor->setVideoSink(salida);
+    connect(salida, &QVideoSink::videoFrameChanged, this,
+            [this, este = motor](const QVideoFrame &fotograma) {
+                if (este != m_motor)
+                    return;
+                // The player hands over an empty frame when it stops; the last picture stays.
+                if (const QImage imagen = fotograma.toImage(); !imagen.isNull())
+                    m_fotograma = imagen;
+                update();
+            });
+    connect(
+        motor, &QMediaPlayer::mediaStatusChanged, this, [this, este = motor](auto estadoDelMedio) {
+            const bool acabada = estadoDelMedio == QMediaPlayer::EndOfMedia ||
+                                 estadoDelMedio == QMediaPlayer::InvalidMedia;
+            if (este == m_motor && acabada && m_estado == Reproduciendo && m_modo == Modo::UnaVez)
+                fin();
+        });
+    motor->setSource(QUrl::fromLocalFile(archivo));
+    return motor;
 }
 
 void ReproductorAVI::fin()

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QHash>
 #include <QImage>
 #include <QString>
 #include <QTimer>
 #include <QWidget>
 
 class QMediaPlayer;
-class QVideoSink;
 
 /// Plays a short AVI animation without sound, scaled to fit on a rounded ground. Until the first
-/// frame comes, and for good where a codec or the file is missing, it shows a still picture.
+/// frame comes, and for good where a codec or the file is missing or the user wants nothing to
+/// move, it shows a still picture.
 class ReproductorAVI : public QWidget
 {
     Q_OBJECT
@@ -48,14 +49,14 @@ protected:
 
 private:
     void arranca();
-    void preparaMotor();
+    QMediaPlayer *motorDe(const QString &archivo);
     void fin();
 
     QString m_ruta;
     QString m_imagenFija;
     QImage m_fotograma;
-    QMediaPlayer *m_motor = nullptr;
-    QVideoSink *m_salida = nullptr;
+    QMediaPlayer *m_motor = nullptr; ///< the player in use; null before the first
+    QHash<QString, QMediaPlayer *> m_motores;
     QTimer m_arranque;
     Modo m_modo = Modo::UnaVez;
     int m_estado = Parado;

@@ -26,6 +26,7 @@ namespace {
 
 /// Whether the user wants to see steps, in whatever lesson.
 const QString ClaveDePasos = u"Pasos/Visibles"_s;
+const QString TemaDeCuestiones = u"cuestiones"_s;
 
 } // namespace
 
@@ -34,6 +35,7 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
       m_pagina(pagina),
       m_tsTema(new QTabBar(this)),
       m_cmdPasos(new QToolButton(this)),
+      m_cmdPracticas(new QToolButton(this)),
       m_paneles(new QStackedWidget(this)),
       m_cmdVolver(new QToolButton(this))
 {
@@ -49,10 +51,12 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     tira->setContentsMargins(0, 0, Aspecto::Espacio / 2, 0);
     tira->addWidget(m_tsTema, 1);
     tira->addWidget(m_cmdPasos);
+    tira->addWidget(m_cmdPracticas);
     tira->addWidget(m_cmdVolver);
     columna->addLayout(tira);
     columna->addWidget(m_paneles);
     preparaPasos();
+    preparaPracticas();
     preparaVuelta();
     conecta(m_tsTema, &QTabBar::currentChanged, this, &FormLeccion::tsTema_Click);
     qApp->installEventFilter(this);
@@ -68,6 +72,22 @@ void FormLeccion::preparaPasos()
     m_cmdPasos->setChecked(Sesión().recuerda(ClaveDePasos, true).toBool());
     m_cmdPasos->hide();
     conecta(m_cmdPasos, &QToolButton::clicked, this, &FormLeccion::cmdPasos_Click);
+}
+
+void FormLeccion::preparaPracticas()
+{
+    m_cmdPracticas->setObjectName(u"cmdPracticas"_s);
+    m_cmdPracticas->setText(Traduce(u"Practicar más"_s));
+    m_cmdPracticas->setToolTip(
+        Traduce(u"Más ejercicios de esta lección, con pistas y soluciones"_s));
+    m_cmdPracticas->setFocusPolicy(Qt::StrongFocus);
+    m_cmdPracticas->hide();
+}
+
+void FormLeccion::ofrecePracticas(const std::function<void()> &practica)
+{
+    m_hayPracticas = true;
+    conecta(m_cmdPracticas, &QToolButton::clicked, this, practica);
 }
 
 QString FormLeccion::URL() const
@@ -142,6 +162,8 @@ int FormLeccion::indiceDeTema(const QString &clave) const
 void FormLeccion::tsTema_Click(int indice)
 {
     m_paneles->setCurrentIndex(indice);
+    m_cmdPracticas->setVisible(m_hayPracticas &&
+                               m_tsTema->tabData(indice).toString() == TemaDeCuestiones);
     muestraPasos();
 }
 

@@ -49,6 +49,9 @@ public:
     /// Shows a way back to the page that led here, by a button and by Alt+Left, until it is taken.
     void ofreceVuelta(const std::function<void()> &vuelve);
 
+    /// Gives the topic of questions a button that goes on to more exercises.
+    void ofrecePracticas(const std::function<void()> &practica);
+
     /// Closes the window as its close button would.
     void cierra();
 
@@ -102,6 +105,7 @@ private:
     void teclaDePasos();
     PanelDePasos *pasosALaVista() const;
     void preparaPasos();
+    void preparaPracticas();
     void muestraPasos();
     Tarea<> pideCierre();
     QAbstractButton *botonEnMarcha() const;
@@ -110,6 +114,8 @@ private:
     QString m_pagina;
     QTabBar *m_tsTema;
     QToolButton *m_cmdPasos;
+    QToolButton *m_cmdPracticas;
+    bool m_hayPracticas = false;
     QStackedWidget *m_paneles;
     QToolButton *m_cmdVolver;
     PaginaDeLeccion *m_introduccion = nullptr;

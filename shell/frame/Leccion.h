@@ -57,9 +57,23 @@ struct Leccion
     QList<TemaDePagina> temas = {}; ///< the topics that links may open
 };
 
+/// The window in which the exercises of all lessons are done.
+struct VentanaDePracticas
+{
+    Leccion ventana;
+    /// Shows in that window what is to be practised: a lesson by its word ("euclides"), a kind of
+    /// exercise by its key ("euclides.mcd") at a level, 0 for the one that is next, or with no key
+    /// what is due. A sentence for the student where there is no such thing, else nothing.
+    std::function<QString(FormLeccion &ventana, const QString &clave, int nivel)> practica = {};
+    /// What a student who has practised before is invited to go on with; empty when there is
+    /// nothing of the kind.
+    std::function<QString()> invitacion = {};
+};
+
 /// What the program is made of. `main.cpp` writes it down; the shell knows no lesson by name.
 struct Contenido
 {
     QList<Leccion> lecciones; ///< the rows of the menu, top to bottom
     Leccion hojaDeCalculo;
+    VentanaDePracticas practicas = {};
 };

@@ -80,6 +80,7 @@ struct Estado
     bool sistemaOscuro = qApp->palette().window().color().lightness() < 128;
     qreal puntos = qApp->font().pointSizeF();
     int pasos = 0;
+    bool movimientoReducido = false;
 };
 
 Estado &estado()
@@ -185,6 +186,16 @@ void Aspecto::ponPasosDeLetra(int pasos)
 int Aspecto::pasosDeLetra()
 {
     return estado().pasos;
+}
+
+void Aspecto::ponMovimientoReducido(bool reducido)
+{
+    estado().movimientoReducido = reducido;
+}
+
+bool Aspecto::movimientoReducido()
+{
+    return estado().movimientoReducido;
 }
 
 void Aspecto::destaca(QLabel *rotulo, qreal factor)

@@ -21,6 +21,11 @@ bool esOscuro();
 void ponPasosDeLetra(int pasos);
 int pasosDeLetra();
 
+/// Whether animations that nobody has asked for stay still pictures: the logo, verdicts, the wheels
+/// of a run. Not so at first.
+void ponMovimientoReducido(bool reducido);
+bool movimientoReducido();
+
 /// Margin around the contents of a panel, and space between groups, in pixels at 100 %.
 inline constexpr int Margen = 12;
 inline constexpr int Espacio = 8;

@@ -29,6 +29,7 @@ FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
       ui(std::make_unique<Ui::FormPrincipal>()),
       m_lecciones(contenido.lecciones),
       m_hojaDeCalculo(contenido.hojaDeCalculo),
+      m_practicas(contenido.practicas),
       m_timerPresentacion(new QTimer(this)),
       m_timerLogo(new QTimer(this)),
       m_timerTamano(new QTimer(this))
@@ -70,10 +71,14 @@ void FormPrincipal::preparaMenu(const Contenido &contenido)
     menu->viewport()->setCursor(Cursor(u"MANO"_s, {10, 3}));
     menu->viewport()->installEventFilter(this);
     menu->installEventFilter(this);
-    m_bienvenida = new PanelBienvenida(m_menu, this);
+    m_bienvenida = new PanelBienvenida(contenido, this);
+    invitaAPracticar();
     ui->AreaDeTrabajo->ponBienvenida(m_bienvenida);
     connect(ui->AreaDeTrabajo, &QMdiArea::subWindowActivated, this, &FormPrincipal::marcaLecciones);
+    connect(ui->AreaDeTrabajo, &AreaLecciones::hayVentanas, this, &FormPrincipal::invitaAPracticar);
     conecta(m_bienvenida, &PanelBienvenida::elegida, this, &FormPrincipal::abreLeccion);
+    conecta(m_bienvenida, &PanelBienvenida::practicas, this, &FormPrincipal::mnuPracticas_Click);
+    conecta(m_bienvenida, &PanelBienvenida::sigue, this, [this] { practica(); });
     conecta(menu, &QListView::clicked, this, &FormPrincipal::FlexMenu_Click);
     conecta(menu->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &actual) { FlexMenu_MouseMove(actual.row()); });
@@ -105,6 +110,8 @@ void FormPrincipal::preparaOrdenes()
     orden(ui->mnuCerrar, &FormPrincipal::mnuCerrar_Click);
     orden(ui->mnuSalir, [this] { close(); });
     orden(ui->mnuOtroPanel, &FormPrincipal::mnuOtroPanel_Click);
+    ui->mnuPracticas->setVisible(static_cast<bool>(m_practicas.ventana.crea));
+    orden(ui->mnuPracticas, &FormPrincipal::mnuPracticas_Click);
     orden(ui->mnuDepartamento, &FormPrincipal::mnuDepartamento_Click);
     orden(ui->mnuAcercaDe, [this] { muestraAcercaDe(false); });
     orden(ui->mnuLetraMayor, [this] { cambiaLetra(Aspecto::pasosDeLetra() + 1); });
@@ -130,6 +137,16 @@ void FormPrincipal::preparaAspecto()
         });
     }
     ui->AreaDeTrabajo->setBackground(palette().alternateBase());
+    ui->mnuSinMovimiento->setChecked(Aspecto::movimientoReducido());
+    conecta(ui->mnuSinMovimiento, &QAction::toggled, this, &FormPrincipal::mnuSinMovimiento_Click);
+}
+
+void FormPrincipal::mnuSinMovimiento_Click(bool reducido)
+{
+    Aspecto::ponMovimientoReducido(reducido);
+    Sesión().anota(u"Ventana/MovimientoReducido"_s, reducido);
+    if (reducido)
+        ui->AniLogo->para();
 }
 
 void FormPrincipal::recuperaTamano()
@@ -243,6 +260,16 @@ void FormPrincipal::mnuOtroPanel_Click()
     else if (ui->FlexMenu->hasFocus())
         destino = leccion->focusWidget() ? leccion->focusWidget() : leccion;
     destino->setFocus(Qt::ShortcutFocusReason);
+}
+
+void FormPrincipal::mnuPracticas_Click()
+{
+    abreLeccion(FilaPracticas);
+}
+
+void FormPrincipal::invitaAPracticar()
+{
+    m_bienvenida->invita(m_practicas.invitacion ? m_practicas.invitacion() : QString());
 }
 
 void FormPrincipal::mnuDepartamento_Click()

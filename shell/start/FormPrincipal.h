@@ -32,23 +32,23 @@ public:
     /// Shuts the big-number service down.
     ~FormPrincipal() override;
 
-    /// Row of the spreadsheet in `abreLeccion`.
+    /// Rows of the spreadsheet and of the practice window in `abreLeccion`.
     static constexpr int FilaHojaDeCalculo = -1;
+    static constexpr int FilaPracticas = -2;
 
     /// Opens the window of a row of the menu, or brings the existing one to the front; null for a
     /// row that does not exist or has no lesson yet.
     FormLeccion *abreLeccion(int fila);
 
-    /// Practises a kind of exercise at a level; a sentence for the reader where that cannot be
-    /// done.
-    using Practicas = std::function<QString(const QString &clase, int nivel)>;
-    /// What links to the practice window do.
-    void ponPracticas(const Practicas &practicas) { m_practicas = practicas; }
-
     /// Follows a link ("numora:…") of a page that is open in the lesson of row `desde`: opens
     /// lesson and topic, fills the fields, starts nothing. A link that names what the table of
     /// lessons does not does nothing. A sentence where something could not be done, else empty.
     QString sigueEnlace(const QUrl &direccion, int desde);
+
+    /// Opens the practice window on a lesson, a kind of exercise at a level (0: the one that is
+    /// next), or with no key on what is due (VentanaDePracticas). A sentence for the student where
+    /// there is no such thing.
+    QString practica(const QString &clave = {}, int nivel = 0);
 
     /// The lesson in the active child window, or null.
     FormLeccion *leccionActiva() const;
@@ -75,8 +75,8 @@ private:
     void marcaLecciones();
     void recuperaTamano();
     void anotaTamanos();
+    const Leccion *ventanaDe(int fila) const;
     void colocaVentana(FormLeccion *leccion);
-    const Leccion &leccionDe(int fila) const;
     void preparaEnlaces(FormLeccion *leccion, int fila);
     QString sigueEnlace(const EnlaceDeLeccion &enlace, int desde);
     void vuelve(int fila, const QUrl &pagina, int altura);
@@ -91,8 +91,11 @@ private:
     void calc_Click();
     void Algoritmos_Click();
     void mnuCerrar_Click();
+    void mnuSinMovimiento_Click(bool reducido);
     void mnuOtroPanel_Click();
     void mnuDepartamento_Click();
+    void mnuPracticas_Click();
+    void invitaAPracticar();
     void cambiaLetra(int pasos);
 
     std::unique_ptr<Ui::FormPrincipal> ui;
@@ -101,7 +104,7 @@ private:
     PanelBienvenida *m_bienvenida;
     QList<Leccion> m_lecciones;
     Leccion m_hojaDeCalculo;
-    Practicas m_practicas;
+    VentanaDePracticas m_practicas;
     QHash<int, QPointer<FormLeccion>> m_abiertas;
     QTimer *m_timerPresentacion;
     QTimer *m_timerLogo;

@@ -95,7 +95,7 @@ QString rellena(FormLeccion &leccion, const TemaDePagina &tema, const EnlaceDeLe
 
 void FormPrincipal::preparaEnlaces(FormLeccion *leccion, int fila)
 {
-    leccion->ponTemasDePagina(leccionDe(fila).temas);
+    leccion->ponTemasDePagina(ventanaDe(fila)->temas);
     if (PaginaDeLeccion *pagina = leccion->pagina())
         pagina->ponGuia([this, fila](const QUrl &enlace) { return sigueEnlace(enlace, fila); });
 }
@@ -104,8 +104,7 @@ QString FormPrincipal::sigueEnlace(const QUrl &direccion, int desde)
 {
     const EnlaceDePagina leido = leeEnlace(direccion);
     if (const auto *practicas = std::get_if<EnlaceDePracticas>(&leido))
-        return m_practicas ? m_practicas(practicas->clase, practicas->nivel)
-                           : Traduce(u"La ventana de práctica no está en esta versión."_s);
+        return practica(practicas->clase, practicas->nivel);
     if (const auto *leccion = std::get_if<EnlaceDeLeccion>(&leido))
         return sigueEnlace(*leccion, desde);
     const auto *roto = std::get_if<EnlaceRoto>(&leido);
@@ -115,11 +114,14 @@ QString FormPrincipal::sigueEnlace(const QUrl &direccion, int desde)
 QString FormPrincipal::sigueEnlace(const EnlaceDeLeccion &enlace, int desde)
 {
     int fila = FilaHojaDeCalculo;
-    while (fila < m_lecciones.size() && leccionDe(fila).palabra != enlace.leccion)
+    const auto esOtra = [&](const Leccion *leccion) {
+        return !leccion || leccion->palabra != enlace.leccion;
+    };
+    while (fila < m_lecciones.size() && esOtra(ventanaDe(fila)))
         ++fila;
     if (fila == m_lecciones.size())
         return Traduce(u"El enlace nombra una lección que no existe: %1."_s).arg(enlace.leccion);
-    const QList<TemaDePagina> &temas = leccionDe(fila).temas;
+    const QList<TemaDePagina> &temas = ventanaDe(fila)->temas;
     const auto tema = std::find_if(temas.begin(), temas.end(),
                                    [&](const TemaDePagina &t) { return t.nombre == enlace.tema; });
     if (tema == temas.end())

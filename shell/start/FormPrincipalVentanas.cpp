@@ -25,21 +25,29 @@ QString claveDeTamano(const QWidget &leccion)
 
 } // namespace
 
-const Leccion &FormPrincipal::leccionDe(int fila) const
+/// What a row opens; null where it opens nothing.
+const Leccion *FormPrincipal::ventanaDe(int fila) const
 {
-    return fila == FilaHojaDeCalculo ? m_hojaDeCalculo : m_lecciones[fila];
+    const Leccion *leccion = nullptr;
+    if (fila == FilaHojaDeCalculo)
+        leccion = &m_hojaDeCalculo;
+    else if (fila == FilaPracticas)
+        leccion = &m_practicas.ventana;
+    else if (fila >= 0 && fila < m_lecciones.size())
+        leccion = &m_lecciones[fila];
+    return leccion && leccion->crea ? leccion : nullptr;
 }
 
 FormLeccion *FormPrincipal::abreLeccion(int fila)
 {
-    if (fila < FilaHojaDeCalculo || fila >= m_lecciones.size())
-        return nullptr;
-    const Leccion &leccion = leccionDe(fila);
-    if (!leccion.crea)
+    const Leccion *leccion = ventanaDe(fila);
+    if (!leccion)
         return nullptr;
     QPointer<FormLeccion> &abierta = m_abiertas[fila];
     if (!abierta) {
-        abierta = leccion.crea(nullptr);
+        abierta = leccion->crea(nullptr);
+        if (m_practicas.practica && !leccion->palabra.isEmpty())
+            abierta->ofrecePracticas([this, clave = leccion->palabra] { practica(clave); });
         preparaEnlaces(abierta, fila);
         connect(abierta, &FormLeccion::descargada, this, [this, fila] {
             m_abiertas.remove(fila);
@@ -52,6 +60,13 @@ FormLeccion *FormPrincipal::abreLeccion(int fila)
         ventana->showNormal();
     ui->AreaDeTrabajo->setActiveSubWindow(ventana);
     return abierta;
+}
+
+QString FormPrincipal::practica(const QString &clave, int nivel)
+{
+    FormLeccion *ventana = abreLeccion(FilaPracticas);
+    return ventana && m_practicas.practica ? m_practicas.practica(*ventana, clave, nivel)
+                                           : Traduce(u"No hay ejercicios de «%1»."_s).arg(clave);
 }
 
 void FormPrincipal::colocaVentana(FormLeccion *leccion)

@@ -2,6 +2,7 @@
 #include "shell/start/Galeria.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/CarpetaDeDatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
 #include "shell/frame/BotonDeCorrida.h"
@@ -93,6 +94,7 @@ public:
         for (int fila = 0; fila < m_contenido.lecciones.size(); ++fila)
             retrataEscenas(m_contenido.lecciones[fila], fila);
         retrataEscenas(m_contenido.hojaDeCalculo, FormPrincipal::FilaHojaDeCalculo);
+        retrataEscenas(m_contenido.practicas.ventana, FormPrincipal::FilaPracticas);
         return m_bien;
     }
 
@@ -107,6 +109,7 @@ private:
     /// Until the runs of a lesson are over, or have clearly gone astray.
     static void esperaCorridas(const FormLeccion &leccion)
     {
+        espera(20ms); // some begin with the next turn of the queue
         const QDeadlineTimer fin(60s);
         const auto corridas = leccion.findChildren<BotonDeCorrida *>();
         const auto enMarcha = [](const BotonDeCorrida *corrida) { return corrida->enMarcha(); };
@@ -224,6 +227,7 @@ int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
     const QString copia = deUsarYTirar.filePath(u"Numora"_s);
     copiaCarpetaDeTrabajo(rutaExistente(Sesión().carpeta()), copia);
     Sesión().ponCarpeta(copia);
+    ponCarpetaDeDatos(deUsarYTirar.filePath(u"Datos"_s));
     QDir::setCurrent(copia);
     ImgSiguiente() = Icono(u"SIGUIENTE"_s);
     ImgStop() = Icono(u"STOP"_s);

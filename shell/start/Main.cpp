@@ -65,6 +65,7 @@ void preparaAplicacion()
 {
     InstalaAvisoDeCota(avisaDeCota);
     Aspecto::aplica(static_cast<Aspecto::Tema>(Sesión().recuerda(u"Ventana/Tema"_s, 0).toInt()));
+    Aspecto::ponMovimientoReducido(Sesión().recuerda(u"Ventana/MovimientoReducido"_s).toBool());
     Aspecto::ponPasosDeLetra(Sesión().recuerda(u"Ventana/Letra"_s, 0).toInt());
     QApplication::setWindowIcon(Icono(u"NUMORA"_s));
     instalaTextosDeQt();

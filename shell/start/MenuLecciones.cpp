@@ -87,6 +87,12 @@ void PintorDeMenu::pintaMarca(QPainter &pintor, const QRect &cuadro, MenuLeccion
         pintor.drawEllipse(QPoint(cuadro.right() - 8, cuadro.center().y()), 3, 3);
 }
 
+void MenuLecciones::ponDescripcion(int fila, const QString &descripcion)
+{
+    m_lecciones[fila].descripcion = descripcion;
+    Q_EMIT dataChanged(index(fila), index(fila), {PapelDescripcion, Qt::ToolTipRole});
+}
+
 void PintorDeMenu::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
                          const QModelIndex &indice) const
 {

@@ -26,6 +26,8 @@ public:
 
     void ponResaltado(int fila, bool resaltado);
     void ponMarca(int fila, Marca marca);
+    /// Another description, in the interface's language.
+    void ponDescripcion(int fila, const QString &descripcion);
 
 private:
     QList<Leccion> m_lecciones;

@@ -2,6 +2,7 @@
 #include "shell/start/PanelBienvenida.h"
 
 #include "shell/core/ModGlobal.h"
+#include "shell/frame/Leccion.h"
 #include "shell/look/Aspecto.h"
 #include "shell/start/MenuLecciones.h"
 #include "shell/start/TarjetasDeLecciones.h"
@@ -13,8 +14,29 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-PanelBienvenida::PanelBienvenida(MenuLecciones *lecciones, QWidget *padre)
-    : QWidget(padre), m_contenido(new QWidget(this)), m_tarjetas(new TarjetasDeLecciones)
+namespace {
+
+/// The lessons, and behind them the practice window and its invitation.
+QList<Leccion> tarjetasDe(const Contenido &contenido)
+{
+    QList<Leccion> tarjetas = contenido.lecciones;
+    Leccion practicas = contenido.practicas.ventana;
+    if (!practicas.crea)
+        return tarjetas;
+    tarjetas << practicas;
+    practicas.icono = u"SIGUIENTE"_s;
+    practicas.rotulo = u"Seguir practicando"_s;
+    return tarjetas << practicas;
+}
+
+} // namespace
+
+PanelBienvenida::PanelBienvenida(const Contenido &contenido, QWidget *padre)
+    : QWidget(padre),
+      m_lecciones(static_cast<int>(contenido.lecciones.size())),
+      m_modelo(new MenuLecciones(tarjetasDe(contenido), this)),
+      m_contenido(new QWidget(this)),
+      m_tarjetas(new TarjetasDeLecciones)
 {
     auto *titulo = new QLabel(Traduce(u"Matemática discreta, paso a paso"_s), m_contenido);
     titulo->setObjectName(u"lblBienvenida"_s);
@@ -30,9 +52,9 @@ PanelBienvenida::PanelBienvenida(MenuLecciones *lecciones, QWidget *padre)
 
     m_tarjetas->setObjectName(u"TarjetasDeLecciones"_s);
     m_tarjetas->setAccessibleName(Traduce(u"Lecciones"_s));
-    m_tarjetas->setModel(lecciones);
+    m_tarjetas->setModel(m_modelo);
     setFocusProxy(m_tarjetas);
-    connect(m_tarjetas, &TarjetasDeLecciones::elegida, this, &PanelBienvenida::elegida);
+    connect(m_tarjetas, &TarjetasDeLecciones::elegida, this, &PanelBienvenida::tarjeta_Click);
 
     auto *columna = new QVBoxLayout(m_contenido);
     columna->setContentsMargins(0, 0, 0, 0);
@@ -51,6 +73,25 @@ PanelBienvenida::PanelBienvenida(MenuLecciones *lecciones, QWidget *padre)
     fila->addWidget(m_contenido, 100);
     fila->addStretch(1);
     ajustaAncho();
+}
+
+void PanelBienvenida::tarjeta_Click(int fila)
+{
+    if (fila < m_lecciones)
+        Q_EMIT elegida(fila);
+    else if (fila == m_lecciones)
+        Q_EMIT practicas();
+    else
+        Q_EMIT sigue();
+}
+
+void PanelBienvenida::invita(const QString &invitacion)
+{
+    const int fila = m_lecciones + 1;
+    if (fila >= m_modelo->rowCount())
+        return;
+    m_modelo->ponDescripcion(fila, invitacion);
+    m_tarjetas->setRowHidden(fila, invitacion.isEmpty());
 }
 
 void PanelBienvenida::changeEvent(QEvent *suceso)

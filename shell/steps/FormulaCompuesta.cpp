@@ -15,8 +15,20 @@ namespace {
 using Nodo = NodoDeFormula;
 using Caja = FormulaCompuesta::Caja;
 
-constexpr qreal CuerpoMenor = 0.72; ///< of exponents and subscripts, to what they stand on
-constexpr qreal MenorLetra = 6;     ///< points; nothing is set smaller
+constexpr qreal CuerpoMenor = 0.72;   ///< of exponents and subscripts, to what they stand on
+constexpr qreal MasReduccion = 0.8;   ///< of a formula that is too wide
+constexpr qsizetype Cifras = 40;      ///< of the longest number that is written whole
+constexpr qsizetype PocasCifras = 20; ///< where there is no room for it
+constexpr qreal MenorLetra = 6;       ///< points; nothing is set smaller
+
+QFont reducida(QFont fuente, qreal factor)
+{
+    if (fuente.pointSizeF() > 0)
+        fuente.setPointSizeF(std::max(MenorLetra, fuente.pointSizeF() * factor));
+    else
+        fuente.setPixelSize(std::max(8, static_cast<int>(fuente.pixelSize() * factor)));
+    return fuente;
+}
 
 /// Puts a box beside (`dx`) and under (`dy`) the base line of another one.
 void junta(Caja &caja, const Caja &otra, qreal dx, qreal dy)
@@ -39,13 +51,16 @@ void sigue(Caja &caja, const Caja &otra)
 class Compositor
 {
 public:
-    explicit Compositor(const QFont &fuente) : m_fuente(fuente), m_medidas(fuente) {}
+    Compositor(const QFont &fuente, qsizetype masCifras)
+        : m_fuente(fuente), m_medidas(fuente), m_masCifras(masCifras)
+    {
+    }
 
     Caja nodo(const Nodo &n) const
     {
         switch (n.clase) {
         case Nodo::Numero:
-            return texto(numeroEnPantalla(n.texto));
+            return texto(numeroEnPantalla(n.texto, m_masCifras));
         case Nodo::Palabra:
             return texto(n.texto);
         case Nodo::Nombre:
@@ -215,27 +230,27 @@ private:
         return caja;
     }
 
-    Compositor menor() const
-    {
-        QFont fuente = m_fuente;
-        if (fuente.pointSizeF() > 0)
-            fuente.setPointSizeF(std::max(MenorLetra, fuente.pointSizeF() * CuerpoMenor));
-        else
-            fuente.setPixelSize(std::max(8, qRound(fuente.pixelSize() * CuerpoMenor)));
-        return Compositor(fuente);
-    }
+    Compositor menor() const { return {reducida(m_fuente, CuerpoMenor), m_masCifras}; }
 
     QFont m_fuente;
     QFontMetricsF m_medidas;
+    qsizetype m_masCifras;
 };
 
 } // namespace
 
 FormulaCompuesta::FormulaCompuesta(const Formula &formula, const QFont &fuente, qreal ancho)
 {
-    if (!formula.vacia())
-        reparte(Compositor(fuente).trozos(formula.raiz()), ancho,
-                1.5 * QFontMetricsF(fuente).height());
+    if (formula.vacia())
+        return;
+    const qreal sangria = 1.5 * QFontMetricsF(fuente).height();
+    reparte(Compositor(fuente, Cifras).trozos(formula.raiz()), ancho, sangria);
+    // A long number is never broken: it is set somewhat smaller, or shortened.
+    if (m_tamano.width() > ancho) {
+        const bool cabe = m_tamano.width() * MasReduccion <= ancho;
+        const Compositor menor(reducida(fuente, MasReduccion), cabe ? Cifras : PocasCifras);
+        reparte(menor.trozos(formula.raiz()), ancho, sangria);
+    }
 }
 
 void FormulaCompuesta::reparte(const std::vector<Caja> &trozos, qreal ancho, qreal sangria)
@@ -247,6 +262,7 @@ void FormulaCompuesta::reparte(const std::vector<Caja> &trozos, qreal ancho, qre
             lineas.emplace_back();
         sigue(lineas.back(), trozo);
     }
+    m_caja = {};
     qreal y = 0;
     for (std::size_t i = 0; i < lineas.size(); ++i) {
         const qreal x = i > 0 ? sangria : 0;

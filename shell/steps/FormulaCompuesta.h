@@ -12,7 +12,8 @@
 class QPainter;
 
 /// A formula set for the screen or paper: powers raised, fractions over a bar, unknowns in italics,
-/// long numbers shortened; broken before a sign where it is wider than there is room.
+/// long numbers shortened; broken before a sign where it is wider than there is room, and
+/// set smaller, with its numbers shortened, where that does not help.
 class FormulaCompuesta
 {
 public:

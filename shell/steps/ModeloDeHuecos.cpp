@@ -61,7 +61,7 @@ QString ModeloDeHuecos::rotulo(const QModelIndex &indice) const
     case Estado::Fallada:
         return u"✗ "_s + texto;
     case Estado::Oculta:
-        return u"?"_s;
+        return texto + u'?';
     }
     return {};
 }

@@ -16,6 +16,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPrinter>
+#include <QScrollBar>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -51,7 +52,7 @@ void PanelDePasos::pon(const Pasos &pasos)
 void PanelDePasos::continua(const Pasos &pasos)
 {
     pon(pasos);
-    if (ui && !pasos.vacios())
+    if (!m_porMostrar && !pasos.vacios())
         vaA(static_cast<int>(pasos.cuantos()) - 1);
 }
 
@@ -124,6 +125,12 @@ void PanelDePasos::conectaBotones()
     conecta(ui->cmdReproducirPasos, &QToolButton::clicked, this,
             &PanelDePasos::cmdReproducir_Click);
     conecta(ui->cmdImprimirPasos, &QToolButton::clicked, this, &PanelDePasos::cmdImprimir_Click);
+    // Long lists are laid out piece by piece: the current step may get its place after it was
+    // chosen.
+    connect(
+        ui->listaDePasos->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+        [this] { ui->listaDePasos->scrollTo(ui->listaDePasos->currentIndex()); },
+        Qt::QueuedConnection);
     conecta(ui->listaDePasos->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &PanelDePasos::actualiza);
 }

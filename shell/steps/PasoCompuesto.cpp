@@ -24,25 +24,28 @@ QFont escalada(QFont fuente, qreal factor)
     return fuente;
 }
 
-/// The width of each column: what its widest cell needs, less where all together are too wide.
-QList<qreal> anchosDe(const TablaDePaso &tabla, const QFontMetricsF &medidas, qreal hueco)
+/// What each column needs: its widest cell, the header in bold, and a margin.
+QList<qreal> anchosDe(const TablaDePaso &tabla, const QFont &fuente)
 {
+    QFont negrita = fuente;
+    negrita.setBold(true);
+    const QFontMetricsF medidas(fuente), deCabecera(negrita);
     QList<qreal> anchos(tabla.cabecera.size(), 0);
-    const auto mide = [&](const QStringList &fila) {
+    const auto mide = [&](const QStringList &fila, const QFontMetricsF &metrica) {
         for (qsizetype i = 0; i < std::min(fila.size(), anchos.size()); ++i)
             anchos[i] =
-                std::max(anchos[i], medidas.horizontalAdvance(conNumerosEnPantalla(fila[i])) +
-                                        medidas.height());
+                std::max(anchos[i], metrica.horizontalAdvance(conNumerosEnPantalla(fila[i])) +
+                                        std::max(12.0, medidas.height()));
     };
-    mide(tabla.cabecera);
+    mide(tabla.cabecera, deCabecera);
     for (const QStringList &fila : tabla.filas)
-        mide(fila);
-    const qreal suma = std::accumulate(anchos.begin(), anchos.end(), 0.0);
-    if (suma > hueco) {
-        for (qreal &ancho : anchos)
-            ancho *= hueco / suma;
-    }
+        mide(fila, medidas);
     return anchos;
+}
+
+qreal suma(const QList<qreal> &anchos)
+{
+    return std::accumulate(anchos.begin(), anchos.end(), 0.0);
 }
 
 } // namespace
@@ -105,9 +108,21 @@ void PasoCompuesto::agregaFormula(const Formula &formula)
 
 void PasoCompuesto::agregaTabla(const TablaDePaso &tabla)
 {
-    const QFontMetricsF medidas(m_fuente);
+    // A wide table is set smaller, and its columns made narrower when that does not help.
+    const qreal hueco = m_ancho - m_sangria;
+    m_fuenteDeTabla = m_fuente;
+    QList<qreal> anchos = anchosDe(tabla, m_fuenteDeTabla);
+    for (const qreal cuerpo : {0.9, 0.8, 0.7}) {
+        if (suma(anchos) <= hueco)
+            break;
+        m_fuenteDeTabla = escalada(m_fuente, cuerpo);
+        anchos = anchosDe(tabla, m_fuenteDeTabla);
+    }
+    const qreal apretado = std::min(1.0, hueco / suma(anchos));
+    for (qreal &ancho : anchos)
+        ancho *= apretado;
+    const QFontMetricsF medidas(m_fuenteDeTabla);
     const qreal alto = medidas.height() * 1.4;
-    const QList<qreal> anchos = anchosDe(tabla, medidas, m_ancho - m_sangria);
     m_alto += medidas.height() * 0.3;
     const auto agrega = [&](const QStringList &fila, bool cabecera, bool marcada) {
         qreal x = m_sangria;
@@ -134,7 +149,7 @@ void PasoCompuesto::pintaCelda(QPainter &pintor, const Celda &celda,
     }
     pintor.setPen(tintas.atenuado);
     pintor.drawLine(celda.lugar.bottomLeft(), celda.lugar.bottomRight());
-    QFont fuente = m_fuente;
+    QFont fuente = m_fuenteDeTabla;
     fuente.setBold(celda.cabecera);
     pintor.setFont(fuente);
     pintor.setPen(tintas.texto);

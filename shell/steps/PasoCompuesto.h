@@ -39,6 +39,7 @@ private:
     void pintaCelda(QPainter &pintor, const Celda &celda, const TintasDePaso &tintas) const;
 
     QFont m_fuente;
+    QFont m_fuenteDeTabla;
     qreal m_ancho;
     qreal m_sangria; ///< where everything but the number begins
     qreal m_alto = 0;

@@ -23,6 +23,7 @@ TablaPorRellenar::TablaPorRellenar(QWidget *padre)
     ui->FlexHuecos->setEditTriggers(QAbstractItemView::DoubleClicked |
                                     QAbstractItemView::EditKeyPressed |
                                     QAbstractItemView::AnyKeyPressed);
+    ui->FlexHuecos->ponTextoVacio(Traduce(u"No hay nada que rellenar."_s));
     new ColumnasRepartidas(ui->FlexHuecos);
     conecta(ui->cmdOcultarUna, &QToolButton::clicked, this,
             [this] { oculta([](TablaConHuecos &tabla) { tabla.ocultaAlAzar(1); }); });
@@ -54,13 +55,6 @@ const TablaConHuecos &TablaPorRellenar::tabla() const
     return m_modelo->tabla();
 }
 
-void TablaPorRellenar::ponBotonesDeOcultar(bool con)
-{
-    for (QToolButton *boton :
-         {ui->cmdOcultarUna, ui->cmdOcultarDos, ui->cmdOcultarTodas, ui->cmdMostrarTodas})
-        boton->setVisible(con);
-}
-
 /// The keyboard goes to the first cell that is to be filled in.
 template <typename Cambio>
 void TablaPorRellenar::oculta(Cambio cambio)
@@ -81,20 +75,19 @@ void TablaPorRellenar::juzga(const QModelIndex &celda)
     if (!celda.isValid())
         return;
     const TablaConHuecos &tabla = m_modelo->tabla();
-    const auto estado = tabla.estado(celda.row(), celda.column());
-    const qsizetype faltan = tabla.pendientes();
-    const bool bien = estado == TablaConHuecos::Estado::Acertada;
     const QString dicho = tabla.veredicto(celda.row(), celda.column());
-    if (dicho.isEmpty()) {
-        ui->lblVeredictoDeCasilla->clear();
-        return;
-    }
-    muestraVeredicto(ui->lblVeredictoDeCasilla, bien,
-                     bien && faltan == 0 ? dicho + u' ' + Traduce(u"La tabla está completa."_s)
-                                         : dicho);
+    const auto estado = tabla.estado(celda.row(), celda.column());
+    const bool bien = estado == TablaConHuecos::Estado::Acertada;
+    const bool llena = bien && tabla.pendientes() == 0;
+    if (estado == TablaConHuecos::Estado::Oculta)
+        muestraNeutro(ui->lblVeredictoDeCasilla, dicho);
+    else
+        muestraVeredicto(ui->lblVeredictoDeCasilla, bien,
+                         llena ? dicho + u' ' + Traduce(u"La tabla está completa."_s) : dicho);
     anuncia(ui->lblVeredictoDeCasilla);
-    Q_EMIT respondida(celda.row(), celda.column(), bien);
-    if (bien && faltan == 0)
+    if (estado != TablaConHuecos::Estado::Oculta)
+        Q_EMIT respondida(celda.row(), celda.column(), bien);
+    if (llena)
         Q_EMIT completa();
 }
 

@@ -27,9 +27,6 @@ public:
     void pon(const TablaConHuecos &tabla);
     const TablaConHuecos &tabla() const;
 
-    /// Whether cells are hidden by buttons of its own; without them whoever made the table has.
-    void ponBotonesDeOcultar(bool con);
-
 Q_SIGNALS:
     /// An answer was judged.
     void respondida(int fila, int columna, bool bien);

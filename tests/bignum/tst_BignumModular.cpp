@@ -231,6 +231,17 @@ no numbers: || 5 3 a 4 | failure ||  | failure)"_s);
         }
         QCOMPARE(Fibonacci(0, 5, 1, out.data(), nullptr), 0);
         QCOMPARE(Fibonacci(0, 5, 1, nullptr, &cost), 0);
+        // A stretch of the additions ends where the whole of them does; what came before is not
+        // counted.
+        for (const auto &[from, n] :
+             {std::pair{0, 1}, {0, 20}, {19, 20}, {10, 20}, {100'000, 117'592}}) {
+            QCOMPARE(Fibonacci(BIGNUM_DOUBLING, n, 1, expected.data(), &cost), 1);
+            QCOMPARE(FibonacciFrom(from, n, out.data(), &cost), 1);
+            QCOMPARE(out.text(), expected.text());
+            QCOMPARE(cost.additions, int64_t{n - from - 1});
+        }
+        for (const auto &[from, n] : {std::pair{-1, 20}, {20, 20}, {21, 20}, {0, 117'593}})
+            QCOMPARE(FibonacciFrom(from, n, out.data(), &cost), 0);
     }
 
     void comparisons_data()

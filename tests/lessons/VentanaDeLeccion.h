@@ -3,6 +3,7 @@
 
 #include "shell/controls/CampoLargo.h"
 #include "shell/grid/Rejilla.h"
+#include "shell/steps/PanelDePasos.h"
 #include "tests/shell/support/Entorno.h"
 
 /// A lesson's window for each test to stand before, and its controls by their names.
@@ -37,6 +38,12 @@ protected:
     void escribe(const QString &nombre, const QString &escrito) const
     {
         campo(nombre)->setText(escrito);
+    }
+    /// Of the tool of a topic.
+    Pasos pasos(int tema) const
+    {
+        const QWidget *panel = el<QWidget>(u"PanelFicha_%1"_s.arg(tema));
+        return panel->parentWidget()->findChild<PanelDePasos *>()->pasos();
     }
     const QAbstractItemModel *modelo(const QString &nombre) const
     {

@@ -190,11 +190,15 @@ numora:minical/hoja?txtPrecisión=3)"_s);
 private:
     void abre()
     {
-        m_principal = std::make_unique<FormPrincipal>(m_contenido);
-        m_principal->ponPracticas([this](const QString &clase, int nivel) {
-            m_practicadas << clase + u' ' + QString::number(nivel);
-            return QString();
-        });
+        Contenido contenido = m_contenido;
+        contenido.practicas.practica = [this](FormLeccion &ventana, const QString &clase,
+                                              int nivel) {
+            const QString falta = m_contenido.practicas.practica(ventana, clase, nivel);
+            if (falta.isEmpty())
+                m_practicadas << clase + u' ' + QString::number(nivel);
+            return falta;
+        };
+        m_principal = std::make_unique<FormPrincipal>(contenido);
         m_principal->resize(1366, 768);
         m_principal->show();
         QVERIFY(QTest::qWaitForWindowActive(m_principal.get()));

@@ -15,7 +15,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         for (const QString &carpeta :
-             {u"bignum"_s, u"shell"_s, u"lessons"_s, u"minical"_s, u"numora"_s}) {
+             {u"bignum"_s, u"shell"_s, u"lessons"_s, u"minical"_s, u"practice"_s, u"numora"_s}) {
             QDirIterator busca(raiz() + carpeta, {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
                                QDirIterator::Subdirectories);
             while (busca.hasNext())
@@ -42,18 +42,27 @@ private Q_SLOTS:
               u"(information|warning|critical|question|get\\w+)\\("_s},
              {u"coroutines hide from the meta-object compiler"_s, todos, u"#include <coroutine>"_s,
               u"^shell/core/run/Corrutina\\.h$"_s},
-             {u"the failure text is compared in one place"_s, u"^(shell|lessons|minical)/"_s,
+             {u"the failure text is compared in one place"_s,
+              u"^(shell|lessons|minical|practice)/"_s,
               u"(==|!=) *(TextoError|u\"Error\")|(startsWith|contains)\\((TextoError|u\"Error\")"_s,
               u"^shell/core/Lectura\\.cpp$"_s},
-             {u"the library is called through its gateway"_s, u"^(shell|lessons|minical|numora)/"_s,
-              u"#include \"bignum/(?!gateway/)"_s},
+             {u"the library is called through its gateway"_s,
+              u"^(shell|lessons|minical|practice|numora)/"_s, u"#include \"bignum/(?!gateway/)"_s},
              {u"the system is asked in one folder"_s, u"^shell/"_s,
               u"#include <(unistd|pwd|fcntl|csignal|sys/\\w+|windows)(\\.h)?>"_s,
               u"^shell/core/system/.*\\.cpp$"_s},
              {u"the shell knows no lesson"_s, u"^(bignum|shell)/"_s,
-              u"#include \"(lessons|minical|numora)/"_s},
+              u"#include \"(lessons|minical|practice|numora)/"_s},
+             {u"no lesson knows the exercises"_s, u"^(lessons|minical)/"_s,
+              u"#include \"practice/"_s},
+             {u"exercises know no window of a lesson"_s, u"^practice/"_s,
+              u"#include \"(lessons|minical)/.*windows/"_s},
+             {u"what is practised knows neither store nor window"_s,
+              u"^practice/(engine|bank|progress|sheets)/"_s,
+              u"#include (\"practice/(store|windows)/|<QSql)"_s},
              {u"the number service knows no shell"_s, u"^bignum/"_s, u"#include \"shell/"_s},
-             {u"logic knows no window"_s, u"^(shell/core|lessons|minical)/(?!.*windows/)"_s,
+             {u"logic knows no window"_s,
+              u"^(shell/core|lessons|minical|practice)/(?!.*windows/)"_s,
               u"#include \"(shell/(start|frame|grid|page|plot|controls|look)/|[^\"]*windows/)"_s}}) {
             const QRegularExpression ambito(donde), prohibido(que), permitido(excepcion);
             for (const QString &fuente : m_fuentes)

@@ -62,8 +62,7 @@ private Q_SLOTS:
 private:
     void temas(const QString &idioma)
     {
-        for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < m_contenido.lecciones.size();
-             ++fila) {
+        for (int fila = FormPrincipal::FilaPracticas; fila < m_contenido.lecciones.size(); ++fila) {
             const Leccion &leccion = leccionDe(fila);
             if (!leccion.crea)
                 continue;
@@ -93,6 +92,8 @@ private:
 
     const Leccion &leccionDe(int fila) const
     {
+        if (fila == FormPrincipal::FilaPracticas)
+            return m_contenido.practicas.ventana;
         return fila < 0 ? m_contenido.hojaDeCalculo : m_contenido.lecciones[fila];
     }
 

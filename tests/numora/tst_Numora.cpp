@@ -28,6 +28,24 @@ private Q_SLOTS:
         }
     }
 
+    /// A sheet by its code, with neither display nor window; a wrong code is told.
+    void escribeUnaHoja()
+    {
+        for (const QString &variable : {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s})
+            m_entorno.remove(variable);
+        const QTemporaryDir carpeta;
+        const QString pdf = carpeta.filePath(u"hoja.pdf"_s);
+        for (const auto &[codigo, salida] : {std::pair{u"CODIGO"_s, 0}, {u"MD7-4K2Q"_s, 1}}) {
+            arranca({u"--hoja"_s, codigo, u"--pdf"_s, pdf, u"--soluciones"_s});
+            QVERIFY(m_programa.waitForFinished());
+            QCOMPARE(m_programa.exitCode(), salida);
+            QCOMPARE(m_programa.readAllStandardError().isEmpty(), salida == 0);
+        }
+        QFile archivo(pdf);
+        QVERIFY(archivo.open(QIODevice::ReadOnly));
+        QVERIFY(archivo.readAll().startsWith("%PDF"));
+    }
+
     void arrancaConAjustesDanados()
     {
         const QTemporaryDir ajustes;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numora/Lecciones.h"
+#include "practice/engine/Banco.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Perfil.h"
 #include "shell/core/system/Archivos.h"
@@ -143,6 +144,8 @@ private Q_SLOTS:
             apuntaSiFalta(leccion.rotulo);
             apuntaSiFalta(leccion.descripcion);
         }
+        for (const TipoDeEjercicio &tipo : banco())
+            apuntaSiFalta(tipo.titulo);
     }
 
     /// Every text in sight of a window that was opened in English, against the same in Spanish.
@@ -151,7 +154,8 @@ private Q_SLOTS:
         const Contenido contenido = contenidoDelPrograma();
         comparaVentanas([&] { return std::make_unique<FormPrincipal>(contenido); });
         for (const Leccion &leccion :
-             contenido.lecciones + QList<Leccion>{contenido.hojaDeCalculo}) {
+             contenido.lecciones +
+                 QList<Leccion>{contenido.hojaDeCalculo, contenido.practicas.ventana}) {
             if (leccion.crea)
                 comparaVentanas([&] { return std::unique_ptr<QWidget>(leccion.crea(nullptr)); });
         }
@@ -161,7 +165,8 @@ private:
     static QStringList archivosDelPrograma()
     {
         QStringList archivos;
-        for (const QString &carpeta : {u"shell"_s, u"lessons"_s, u"minical"_s, u"numora"_s}) {
+        for (const QString &carpeta :
+             {u"shell"_s, u"lessons"_s, u"minical"_s, u"practice"_s, u"numora"_s}) {
             QDirIterator lugar(QStringLiteral(FUENTES) + u'/' + carpeta, {u"*.cpp"_s, u"*.ui"_s},
                                QDir::Files, QDirIterator::Subdirectories);
             while (lugar.hasNext())

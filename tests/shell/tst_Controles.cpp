@@ -187,6 +187,7 @@ private Q_SLOTS:
 
     void animaciones()
     {
+        Aspecto::ponMovimientoReducido(false);
         ReproductorAVI animacion;
         animacion.resize(100, 100);
         animacion.carga(u"ClipArt\\NO_ESTA.AVI"_s, u"RUEDAS"_s);
@@ -196,10 +197,20 @@ private Q_SLOTS:
         QCOMPARE(animacion.estado(), ReproductorAVI::Reproduciendo);
         animacion.para();
         QCOMPARE(animacion.estado(), ReproductorAVI::Parado);
-        animacion.carga(u"clipart\\error02.avi"_s, u"ERROR"_s);
+        // Another file, and one that has been played before.
+        for (const QString &archivo :
+             {u"error02"_s, u"error01"_s, u"error02"_s, u"NO_ESTA"_s, u"NO_ESTA"_s}) {
+            animacion.carga(u"clipart\\%1.avi"_s.arg(archivo), u"ERROR"_s);
+            QSignalSpy fin(&animacion, &ReproductorAVI::terminada);
+            animacion.reproduce(ReproductorAVI::Modo::UnaVez);
+            QVERIFY2(fin.wait(15000), qPrintable(archivo));
+            QCOMPARE(animacion.estado(), ReproductorAVI::Parado);
+        }
+        // Nothing moves for whoever does not want it, and what waits for its end goes on.
+        Aspecto::ponMovimientoReducido(true);
+        QSignalSpy fin(&animacion, &ReproductorAVI::terminada);
         animacion.reproduce(ReproductorAVI::Modo::UnaVez);
-        QVERIFY(QSignalSpy(&animacion, &ReproductorAVI::terminada).wait(15000));
-        QCOMPARE(animacion.estado(), ReproductorAVI::Parado);
+        QVERIFY(fin.wait(1000));
     }
 
     void losTextosSeLeen()

@@ -26,7 +26,7 @@ QList<Escena> escenasRecursion1()
              u"arbol"_s,
              {llamada, llamada, llamada, llamada, llamada, llamada, llamada, llamada}},
             {u"recursion1-arbol-memoria"_s, u"arbol"_s, {{u"chkMemoria"_s, {}}}},
-            {u"recursion1-arbol-pasos"_s, u"arbol"_s, {pasos}},
+            {u"recursion1-arbol-pasos"_s, u"arbol"_s, {pasos, {u"listaDePasos"_s, u"6,0"_s}}},
             {u"recursion1-hanoi"_s, u"hanoi"_s},
             {u"recursion1-hanoi-paso"_s, u"hanoi"_s, {disco, disco, disco, disco, disco}},
             {u"recursion1-hanoi-pasos"_s, u"hanoi"_s, {disco, disco, disco, disco, disco, pasos}},

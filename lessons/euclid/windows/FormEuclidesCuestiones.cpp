@@ -2,6 +2,7 @@
 #include "lessons/euclid/windows/FormEuclidesCuestiones.h"
 
 #include "shell/core/ModGlobal.h"
+#include "shell/core/answers/LectorDeRespuestas.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
@@ -25,12 +26,26 @@ FormEuclidesCuestiones::FormEuclidesCuestiones(QWidget *leccion)
     for (const QLineEdit *campo : {ui->txtP1_0, ui->txtP1_1, ui->TxtN}) {
         conecta(campo, &QLineEdit::returnPressed, this,
                 [this] { ui->cmdProblema->animateClick(); });
-        // A verdict belongs to the numbers that were judged.
-        conecta(campo, &QLineEdit::textChanged, ui->lblVeredicto, &QLabel::clear);
+        conecta(campo, &QLineEdit::textChanged, this, &FormEuclidesCuestiones::campo_Change);
     }
 }
 
 FormEuclidesCuestiones::~FormEuclidesCuestiones() = default;
+
+/// What is read of each field stands there at each key, judged by nobody; a verdict belongs to the
+/// numbers that were judged.
+void FormEuclidesCuestiones::campo_Change()
+{
+    QStringList leidos;
+    for (const auto &[nombre, campo] :
+         {std::pair(u"a"_s, ui->txtP1_0), {u"b"_s, ui->txtP1_1}, {u"n"_s, ui->TxtN}}) {
+        const QString leo = leeRespuesta(campo->text(), {FormaDeRespuesta::Entero}).leo;
+        if (!leo.isEmpty())
+            leidos << nombre + u": "_s + leo;
+    }
+    ui->lblLeido->setText(leidos.join(u" · "_s));
+    ui->lblVeredicto->clear();
+}
 
 void FormEuclidesCuestiones::cmdProblema_Click()
 {

@@ -20,6 +20,7 @@ public:
     ~FormEuclidesCuestiones() override;
 
 private:
+    void campo_Change();
     void cmdProblema_Click();
 
     std::unique_ptr<Ui::FormEuclidesCuestiones> ui;

@@ -73,6 +73,8 @@ void FormEuclidesTabla::preparaStatusBar()
     m_panelAlgoritmo->setCheckable(true);
     ui->StatusBar->setSizeGripEnabled(false);
     ui->StatusBar->addWidget(m_panelAlgoritmo);
+    setTabOrder(ui->cmdRellenar, ui->FlexEuclides);
+    setTabOrder(ui->FlexEuclides, m_panelAlgoritmo);
     ponRestosReducidos(false);
 }
 
@@ -120,14 +122,24 @@ void FormEuclidesTabla::StatusBar_PanelClick()
     ponRestosReducidos(m_panelAlgoritmo->property(PropiedadTag).toString().isEmpty());
 }
 
+void FormEuclidesTabla::creaHuecos()
+{
+    m_huecos = new TablaPorRellenar(this);
+    ui->columna->insertWidget(ui->columna->indexOf(ui->FlexEuclides) + 1, m_huecos);
+    QWidget *antes = ui->cmdRellenar;
+    for (QWidget *control : m_huecos->findChildren<QWidget *>()) {
+        if (control->focusPolicy() == Qt::NoFocus)
+            continue;
+        setTabOrder(antes, control);
+        antes = control;
+    }
+}
+
 /// In place of the table and its result, which would tell what is to be filled in.
 void FormEuclidesTabla::cmdRellenar_Click(bool rellenar)
 {
-    if (!m_huecos) {
-        m_huecos = new TablaPorRellenar(this);
-        ui->columna->insertWidget(ui->columna->indexOf(ui->FlexEuclides) + 1, m_huecos);
-        setTabOrder(ui->cmdRellenar, m_huecos);
-    }
+    if (!m_huecos)
+        creaHuecos();
     if (rellenar)
         m_huecos->pon(huecosDeEuclides(m_modelo->tabla()));
     m_huecos->setVisible(rellenar);

@@ -32,6 +32,7 @@ public:
 
 private:
     void preparaStatusBar();
+    void creaHuecos();
     void rehazTabla(Moneda dividendo, Moneda divisor);
 
     void FlexEuclides_AfterEdit(int columna, const QString &texto);

@@ -6,6 +6,7 @@
 #include "lessons/primes/steps/CadenaDeCuadrados.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/steps/EscrituraDeFormula.h"
 
 #include <algorithm>
 
@@ -49,6 +50,24 @@ QString producto(const QList<NodoDePratt::Factor> &factores)
 bool esEvidente(const QString &p)
 {
     return p.toULongLong() < CertificadoPratt::Evidentes;
+}
+
+constexpr qreal Alto = 30, Separacion = 12, Salto = 58; // of the tree
+
+qreal anchoDeCaja(const QString &texto)
+{
+    return 24 + 9 * static_cast<qreal>(texto.size());
+}
+
+/// The primes that need no proof share a leaf.
+QString hojaDe(const NodoDePratt &nodo)
+{
+    QList<NodoDePratt::Factor> evidentes;
+    for (const auto &factor : nodo.factores) {
+        if (esEvidente(factor.primo))
+            evidentes << factor;
+    }
+    return comoTexto(Formula(producto(evidentes)).raiz());
 }
 
 } // namespace
@@ -102,36 +121,58 @@ Paso CertificadoPratt::paso(qsizetype nodo) const
 
 Lamina CertificadoPratt::arbol(qsizetype actual) const
 {
-    constexpr qreal Ancho = 100, Alto = 30, Separacion = 14, Salto = 62;
     Lamina lamina(Traduce(u"Árbol del certificado: bajo cada primo p, los primos de p − 1. Van "
                           "comprobados %1 de %2."_s)
                       .arg(actual + 1)
                       .arg(m_nodos.size()));
-    qreal derecha = 0;
-    // The place of a prime is in the middle above those of its p − 1, which are drawn before.
-    const auto dibuja = [&](const auto &aquiMismo, const QString &p, int nivel) -> qreal {
-        const auto lugar = std::ranges::find(m_nodos, p, &NodoDePratt::p);
-        QList<qreal> centros;
-        if (lugar != m_nodos.end()) {
-            for (const auto &factor : lugar->factores)
-                centros << aquiMismo(aquiMismo, factor.primo, nivel + 1);
-        } else {
-            derecha += Ancho + Separacion;
-        }
-        const qreal x = centros.isEmpty() ? derecha - Ancho / 2 - Separacion
-                                          : (centros.first() + centros.last()) / 2;
-        const qreal y = nivel * Salto;
-        for (const qreal centro : std::as_const(centros))
-            lamina.linea({x, y + Alto}, {centro, y + Salto}, {Tono::Suave});
-        const QRectF caja(x - Ancho / 2, y, Ancho, Alto);
-        const qsizetype nodo = lugar - m_nodos.begin();
-        if (lugar == m_nodos.end())
-            lamina.elipse(caja, {Tono::Acierto}, false, p);
-        else
-            lamina.rectangulo(caja, {nodo == actual ? Tono::Acento : Tono::Acierto}, nodo <= actual,
-                              p);
-        return x;
-    };
-    dibuja(dibuja, m_nodos.first().p, 0);
+    dibuja(lamina, 0, actual, {0, 0});
     return lamina;
+}
+
+qsizetype CertificadoPratt::nodoDe(const QString &p) const
+{
+    return std::ranges::find(m_nodos, p, &NodoDePratt::p) - m_nodos.begin();
+}
+
+/// The width of a node with all that hangs from it.
+qreal CertificadoPratt::ancho(qsizetype nodo) const
+{
+    qreal suma = anchoDeCaja(hojaDe(m_nodos[nodo]));
+    for (const auto &factor : m_nodos[nodo].factores) {
+        if (!esEvidente(factor.primo))
+            suma += Separacion + ancho(nodoDe(factor.primo));
+    }
+    return std::max(suma, anchoDeCaja(m_nodos[nodo].p));
+}
+
+/// Draws a node within its width, which begins at that corner; gives the middle of its box.
+qreal CertificadoPratt::dibuja(Lamina &lamina, qsizetype nodo, qsizetype actual,
+                               QPointF esquina) const
+{
+    const NodoDePratt &este = m_nodos[nodo];
+    const QPointF abajo = esquina + QPointF(0, Salto);
+    const QString hoja = hojaDe(este);
+    const QRectF cajaDeHoja(abajo, QSizeF(anchoDeCaja(hoja), Alto));
+    QList<qreal> centros;
+    qreal x = abajo.x() + cajaDeHoja.width() + Separacion;
+    for (const auto &factor : este.factores) {
+        if (esEvidente(factor.primo))
+            continue;
+        const qsizetype rama = nodoDe(factor.primo);
+        centros << dibuja(lamina, rama, actual, {x, abajo.y()});
+        x += ancho(rama) + Separacion;
+    }
+    // A leaf of its own stands below the middle of its box.
+    const qreal solo = esquina.x() + ancho(nodo) / 2;
+    const QRectF lugarDeHoja =
+        centros.isEmpty() ? cajaDeHoja.translated(solo - cajaDeHoja.center().x(), 0) : cajaDeHoja;
+    centros.prepend(lugarDeHoja.center().x());
+    lamina.elipse(lugarDeHoja, {Tono::Acierto}, false, hoja);
+    const qreal centro =
+        std::max((centros.first() + centros.last()) / 2, esquina.x() + anchoDeCaja(este.p) / 2);
+    for (const qreal otro : std::as_const(centros))
+        lamina.linea({centro, esquina.y() + Alto}, {otro, abajo.y()}, {Tono::Suave});
+    lamina.rectangulo({centro - anchoDeCaja(este.p) / 2, esquina.y(), anchoDeCaja(este.p), Alto},
+                      {nodo == actual ? Tono::Acento : Tono::Acierto}, nodo <= actual, este.p);
+    return centro;
 }

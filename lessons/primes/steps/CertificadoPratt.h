@@ -42,6 +42,9 @@ public:
 private:
     void agrega(const QString &p);
     Lamina arbol(qsizetype actual) const;
+    qsizetype nodoDe(const QString &p) const;
+    qreal ancho(qsizetype nodo) const;
+    qreal dibuja(Lamina &lamina, qsizetype nodo, qsizetype actual, QPointF esquina) const;
 
     QList<NodoDePratt> m_nodos;
 };

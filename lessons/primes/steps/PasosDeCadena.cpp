@@ -14,11 +14,16 @@ Formula congruencia(const QString &potencia, const QString &resto, const QString
     return Formula(u"%1 == %2 (mod %3)"_s.arg(potencia, resto, n));
 }
 
+/// 2^i as a factor before another one.
+QString doses(qsizetype i)
+{
+    return i == 0 ? QString() : i == 1 ? u"2*"_s : u"2^%1*"_s.arg(i);
+}
+
 /// base^(2^i · d) as it is written.
 QString potencia(const CadenaDeCuadrados &cadena, qsizetype i)
 {
-    const QString doses = i == 0 ? QString() : i == 1 ? u"2*"_s : u"2^%1*"_s.arg(i);
-    return u"%1^{%2%3}"_s.arg(cadena.base, doses, cadena.exponente.d);
+    return u"%1^{%2%3}"_s.arg(cadena.base, doses(i), cadena.exponente.d);
 }
 
 Paso pasoDelExponente(const CadenaDeCuadrados &cadena)
@@ -26,8 +31,7 @@ Paso pasoDelExponente(const CadenaDeCuadrados &cadena)
     return {
         Traduce(u"De %1 − 1 se separan los doses: queda un exponente impar. La base es %2."_s)
             .arg(cadena.n, cadena.base),
-        {Formula(
-            u"%1 - 1 = 2^%2*%3"_s.arg(cadena.n).arg(cadena.exponente.s).arg(cadena.exponente.d))},
+        {Formula(u"%1 - 1 = %2%3"_s.arg(cadena.n, doses(cadena.exponente.s), cadena.exponente.d))},
         Traduce(u"Si n es primo, la base elevada a n − 1 da 1 módulo n (Fermat), y 1 no tiene más "
                 u"raíces "
                 "cuadradas que 1 y −1: al elevar al cuadrado se llega a 1 desde 1 o desde −1."_s)};
@@ -62,7 +66,7 @@ Paso pasoDelValor(const CadenaDeCuadrados &cadena, qsizetype i)
 TablaDePaso tablaDe(const CadenaDeCuadrados &cadena)
 {
     constexpr qsizetype MasFilas = 24;
-    TablaDePaso tabla{{u"i"_s, Traduce(u"Base elevada a 2ⁱ·d"_s)}, {}};
+    TablaDePaso tabla{{u"i"_s, Traduce(u"Valor"_s)}, {}};
     const qsizetype ultima = cadena.valores.size() - 1;
     for (qsizetype i = std::max<qsizetype>(0, ultima - MasFilas); i <= ultima; ++i)
         tabla.filas << QStringList{QString::number(i), cadena.valores[i]};

@@ -101,24 +101,26 @@ Paso pasoDelProducto(const Historia &historia)
         potencias << escrito({factor.key().second, factor.value()});
     if (historia.restos.last() != u"1"_s)
         potencias << historia.restos.last();
-    return {
+    Paso paso{
         historia.tabla.desenlace == TablaDeFactores::Detenida
             ? Traduce(u"Detenida: lo último falta por descomponer."_s)
             : Traduce(u"El producto de los factores es el número."_s),
         {Formula(u"%1 = %2"_s.arg(historia.restos.first(), potencias.join(u'*')))},
         Traduce(
             u"Cada número mayor que 1 es producto de primos de una sola manera, salvo el orden."_s)};
+    paso.lamina = arbolHasta(historia, historia.tabla.cortes.size() - 1);
+    return paso;
 }
 
 } // namespace
 
-Pasos pasosDeFactorizacion(const TablaDeFactores &tabla)
+Pasos pasosDeFactorizacion(const TablaDeFactores &tabla, bool enMarcha)
 {
     if (tabla.cortes.isEmpty())
         return {};
     // What was left is divided out when the first step is looked at.
     const auto historia = std::make_shared<std::optional<Historia>>();
-    return Pasos(tabla.cortes.size() + 1, [historia, tabla](qsizetype i) {
+    return Pasos(tabla.cortes.size() + (enMarcha ? 0 : 1), [historia, tabla](qsizetype i) {
         if (!*historia)
             *historia = historiaDe(tabla);
         return i < tabla.cortes.size() ? pasoDelCorte(**historia, i) : pasoDelProducto(**historia);

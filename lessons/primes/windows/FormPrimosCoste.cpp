@@ -5,10 +5,10 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Veredicto.h"
-#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Textos.h"
 #include "ui_FormPrimosCoste.h"
 
+#include <QHeaderView>
 #include <algorithm>
 #include <cmath>
 
@@ -37,7 +37,9 @@ FormPrimosCoste::FormPrimosCoste(FormLeccion *leccion)
     ui->FlexCoste->setModel(&m_modelo);
     ui->FlexCoste->ponTextoVacio(Traduce(
         u"Pulse «Calcular» para medir lo que tarda cada algoritmo con números cada vez mayores"_s));
-    new ColumnasRepartidas(ui->FlexCoste);
+    ui->FlexCoste->setTextElideMode(Qt::ElideMiddle);
+    ui->FlexCoste->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    ui->FlexCoste->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     ui->PicCoste->ponTextoVacio(Traduce(u"Aquí aparecerá el tiempo de cada algoritmo"_s));
     conecta(ui->cmdCoste, &QPushButton::clicked, this, &FormPrimosCoste::cmdCoste_Click);
     conecta(ui->PicCoste, &Grafica::senalado, this, &FormPrimosCoste::PicCoste_Senalado);
@@ -111,7 +113,7 @@ void FormPrimosCoste::agrega(const MedidaDeCoste &medida)
             m_puntos.append({m_medidas.size(), algoritmo});
     }
     m_medidas << medida;
-    m_modelo.agrega(fila);
+    m_modelo.ponFilas(QList(m_modelo.filas()) << fila); // and the columns are measured anew
     ui->FlexCoste->scrollToBottom();
 }
 

@@ -5,6 +5,7 @@
 #include "shell/controls/CampoLargo.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/answers/LectorDeRespuestas.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/Veredicto.h"
@@ -41,9 +42,14 @@ FormPrimosCuestiones::FormPrimosCuestiones(QWidget *padre)
 
 FormPrimosCuestiones::~FormPrimosCuestiones() = default;
 
-/// A verdict belongs to the primes that were judged.
+/// What is read stands there at each key, judged by nobody; a verdict belongs to the primes that
+/// were judged.
 void FormPrimosCuestiones::txtPrimo_Change()
 {
+    const std::array rotulos{ui->lblLeido_0, ui->lblLeido_1};
+    for (std::size_t i = 0; i < rotulos.size(); ++i)
+        rotulos.at(i)->setText(
+            leeRespuesta(m_txtPrimo.at(i)->text(), {FormaDeRespuesta::Entero}).leo);
     ui->lblVeredicto->clear();
 }
 
@@ -65,6 +71,8 @@ void FormPrimosCuestiones::cmdProblema_Click()
 /// The prime that a field stands for; without one, the focus is back in the field.
 std::optional<QString> FormPrimosCuestiones::primoDe(CampoLargo *campo)
 {
+    if (campo->text().trimmed().isEmpty())
+        muestraNeutro(ui->lblVeredicto, Traduce(u"Escriba una respuesta."_s));
     const QString numero = Evalua(campo->text());
     const bool evaluado = !numero.isEmpty() && !esError(numero);
     if (evaluado && EsPrimo(numero))

@@ -201,9 +201,9 @@ void FormPrimosFactorizacion::TimerFactorizando_Timer()
     if (m_rastro->divisiones.size() == m_divisionesVistas)
         return;
     m_divisionesVistas = m_rastro->divisiones.size();
-    TablaDeFactores hastaAqui{m_numero, {}, TablaDeFactores::Detenida};
+    TablaDeFactores hastaAqui{m_numero};
     hastaAqui.cortes = cortesDe(*m_rastro);
-    m_pasos->continua(pasosDeFactorizacion(hastaAqui));
+    m_pasos->continua(pasosDeFactorizacion(hastaAqui, true));
 }
 
 void FormPrimosFactorizacion::muestra(const TablaDeFactores &tabla)

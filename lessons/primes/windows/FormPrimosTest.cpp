@@ -2,21 +2,16 @@
 #include "lessons/primes/windows/FormPrimosTest.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "lessons/primes/steps/CadenaDeCuadrados.h"
-#include "lessons/primes/steps/PasosDeCarmichael.h"
-#include "lessons/primes/steps/PasosDeTest.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
-#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
 #include "shell/steps/PanelDePasos.h"
 #include "ui_FormPrimosTest.h"
 
-#include <QHeaderView>
 #include <QLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -180,71 +175,4 @@ void FormPrimosTest::cmdNumBits_Click()
     if (muestraPrimo(primo))
         anota(primo, true, bits);
     espera.quitaElReloj();
-}
-
-void FormPrimosTest::preparaPasos()
-{
-    ui->FlexHistorial->setModel(&m_historial);
-    ui->FlexHistorial->ponTextoVacio(Traduce(
-        u"Aquí se anotan los números que se prueban. Con Entrar, el elegido vuelve al campo."_s));
-    ui->FlexHistorial->setTextElideMode(Qt::ElideMiddle);
-    ui->FlexHistorial->setSelectionBehavior(QAbstractItemView::SelectRows);
-    QHeaderView *cabecera = ui->FlexHistorial->horizontalHeader();
-    cabecera->setSectionResizeMode(QHeaderView::ResizeToContents);
-    cabecera->setSectionResizeMode(0, QHeaderView::Stretch);
-    conecta(ui->txtBase, &QLineEdit::textChanged, this, &FormPrimosTest::muestraPasos);
-    conecta(ui->cmdCarmichael, &QPushButton::clicked, this, &FormPrimosTest::cmdCarmichael_Click);
-    conecta(ui->FlexHistorial, &QAbstractItemView::activated, this,
-            &FormPrimosTest::FlexHistorial_Activated);
-}
-
-/// Steps and history of a verdict.
-void FormPrimosTest::anota(const QString &numero, bool primo, int bits)
-{
-    m_probado = numero;
-    m_esPrimo = primo;
-    m_historial.agrega({numero.trimmed(), QString::number(bits),
-                        Traduce(primo ? u"Es primo"_s : u"No es primo"_s)});
-    ui->FlexHistorial->scrollToBottom();
-    muestraPasos();
-}
-
-void FormPrimosTest::muestraPasos()
-{
-    const QString n = naturalEscrito(m_probado);
-    const bool impar = !n.isEmpty() && (n.back().unicode() - u'0') % 2 == 1 && EsMayor(u"3"_s, n);
-    ui->cmdCarmichael->setEnabled(impar && !m_esPrimo && NumeroDeBits(n) <= MasBitsDePasos);
-    ui->lblAvisoBase->clear();
-    m_pasos->pon(m_probado.isEmpty()
-                     ? Pasos()
-                     : pasosDeTest(m_probado, m_esPrimo, impar ? baseElegida() : QString()));
-}
-
-/// The base in the field; empty where there is none that serves, which is told beside it.
-QString FormPrimosTest::baseElegida()
-{
-    const QString n = naturalEscrito(m_probado);
-    const auto leida = leeEntero(ui->txtBase->text());
-    if (leida && EsMayor(u"1"_s, *leida) && EsMayor(*leida, anterior(n)))
-        return *leida;
-    if (!ui->txtBase->text().trimmed().isEmpty())
-        muestraVeredicto(ui->lblAvisoBase, false,
-                         leida
-                             ? Traduce(u"La base va de 2 a n − 2. Se toma la automática."_s)
-                             : leida.razon().frase() + u' ' + Traduce(u"Se toma la automática."_s));
-    return {};
-}
-
-void FormPrimosTest::cmdCarmichael_Click()
-{
-    Espera espera(this, false);
-    m_pasos->pon(pasosDeCarmichael(naturalEscrito(m_probado)));
-    m_pasos->pideVerse();
-    espera.quitaElReloj();
-}
-
-void FormPrimosTest::FlexHistorial_Activated(const QModelIndex &celda)
-{
-    ui->txtNúmero->setText(m_historial.filas().at(celda.row()).first());
-    ui->txtNúmero->setFocus();
 }

@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qreal AnchoDeCaja = 5;
+constexpr qreal AnchoDeCaja = 11;
 constexpr int MasCajas = 12;
 
 QString formulaDe(Ack::Llamada llamada)

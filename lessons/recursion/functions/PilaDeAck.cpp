@@ -2,7 +2,6 @@
 #include "lessons/recursion/functions/PilaDeAck.h"
 
 #include <QHash>
-#include <optional>
 #include <utility>
 
 namespace {
@@ -15,10 +14,7 @@ public:
 
     bool acabada() const { return m_acabada; }
 
-    PilaDeAck::Suceso suceso()
-    {
-        return m_valor ? recibe(*std::exchange(m_valor, std::nullopt)) : llama();
-    }
+    PilaDeAck::Suceso suceso() { return m_valor > 0 ? recibe(std::exchange(m_valor, 0)) : llama(); }
 
 private:
     PilaDeAck::Suceso llama()
@@ -64,7 +60,7 @@ private:
     std::int32_t m_corte;
     std::vector<PilaDeAck::Pendiente> m_pila;
     QHash<std::pair<std::int32_t, std::int32_t>, std::int32_t> m_memoria;
-    std::optional<std::int32_t> m_valor;
+    std::int32_t m_valor = 0; ///< to be handed over; 0, which no call gives, while there is none
     bool m_acabada = false;
 };
 

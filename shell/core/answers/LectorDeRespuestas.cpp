@@ -267,12 +267,43 @@ RespuestaLeida leeSolucion(const QString &expresion)
                                                                   numeros[2], numeros[3]));
 }
 
-/// Small letters without accents: "Si" for "sí".
+RespuestaLeida leeFraccion(const QString &expresion, const QString &texto)
+{
+    static const QRegularExpression fraccion(u"^([+-]?\\d+)(?:\\s*/\\s*(\\d+)|[.,](\\d+))?$"_s);
+    const auto hallada = fraccion.match(expresion);
+    const QString decimales = hallada.captured(3);
+    const auto arriba = entero(hallada.captured(1) + decimales);
+    const auto abajo = decimales.isEmpty() ? entero(hallada.captured(2))
+                                           : u'1' + QString(decimales.size(), u'0');
+    if (hallada.hasMatch() && arriba && abajo != u"0"_s)
+        return leida({*arriba, abajo.value_or(u"1"_s)}, expresion);
+    // What has a value but is not written as one is left to be computed: the question itself.
+    return entero(expresion) ? RespuestaLeida{RespuestaLeida::EsLaPregunta, {}, {},
+                                              Traduce(u"eso es la pregunta"_s)}
+                             : noEntendida(texto.trimmed());
+}
+
+RespuestaLeida leeFormulaDeCelda(const QString &expresion, const QString &texto)
+{
+    static const QRegularExpression celda(u"(?<!\\p{L})[A-Ya-y][1-9]\\d?"_s);
+    const auto fallo = falloDeExpresion(QString(expresion).replace(celda, u"(1)"_s));
+    if (fallo.clase != FalloDeExpresion::Clase::Ninguno &&
+        fallo.clase < FalloDeExpresion::Clase::DivisionPorCero)
+        return noEntendida(fallo.donde.isEmpty() ? texto.trimmed() : fallo.donde);
+    QString formula = expresion;
+    for (auto i = celda.globalMatch(expresion); i.hasNext();) {
+        const auto hallada = i.next();
+        formula.replace(hallada.capturedStart(), 1, hallada.captured().at(0).toUpper());
+    }
+    return leida({formula}, formula);
+}
+
+/// Small letters without accents, and raised ones lowered: "Si" for "sí", "n^2" for "n²".
 QString llana(const QString &palabra)
 {
     QString letras;
-    for (const QChar c : palabra.trimmed().toLower().normalized(QString::NormalizationForm_D)) {
-        if (c.isLetterOrNumber() || c.isSpace())
+    for (const QChar c : palabra.toLower().normalized(QString::NormalizationForm_KD)) {
+        if (c.isLetterOrNumber() || c == u'!')
             letras += c;
     }
     return letras;
@@ -294,6 +325,10 @@ RespuestaLeida leeSegun(const FormaDeRespuesta &forma, const QString &texto)
         return leeProducto(expresion);
     case FormaDeRespuesta::Solucion:
         return leeSolucion(expresion);
+    case FormaDeRespuesta::Fraccion:
+        return leeFraccion(expresion, texto);
+    case FormaDeRespuesta::FormulaDeCelda:
+        return leeFormulaDeCelda(expresion, texto);
     case FormaDeRespuesta::Palabra:
         break;
     }

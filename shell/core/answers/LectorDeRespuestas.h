@@ -14,7 +14,9 @@ struct FormaDeRespuesta
         Producto, ///< prime powers: "2^3·5", "2³ x 5", "2, 2, 2, 5"
         Solucion, ///< "x = 3 + 5k, y = 2 − 4k": where it begins and how far it goes, of each
                   ///< unknown
-        Palabra   ///< one of the words alone
+        Palabra,  ///< one of the words alone
+        Fraccion, ///< a whole number, a fraction or a decimal as it is written, not computed
+        FormulaDeCelda ///< an expression with names of cells
     };
     Clase clase = Entero;
     /// Words that are answers of their own: "sí", "no", "ninguna". Spanish; their translations are
@@ -32,7 +34,8 @@ struct RespuestaLeida
     Estado estado = Vacia;
     /// Whole numbers in digits with their sign, in the order in which they stand. Of a Producto
     /// prime, exponent, prime, exponent …, in order of the primes and joined; of a Solucion the
-    /// beginning and the step of x, then of y.
+    /// beginning and the step of x, then of y. Of a Fraccion numerator and denominator as they were
+    /// written, 1 where there is none. Of a FormulaDeCelda the expression.
     QStringList numeros = {};
     QString palabra = {}; ///< the word that was answered, in Spanish
     /// What the student is told: "leo 5167"; of one that is not understood, which part is not.

@@ -24,7 +24,7 @@ TablaDePaso EuclidesLargo::tabla() const
 {
     constexpr qsizetype MasFilas = 24, AlPrincipio = 16, AlFinal = 6;
     TablaDePaso tabla{{Traduce(u"Dividendo"_s), Traduce(u"Divisor"_s), Traduce(u"Cociente"_s),
-                       Traduce(u"Resto"_s), Traduce(u"Coeficiente"_s)},
+                       Traduce(u"Resto"_s), Traduce(u"Coef."_s)},
                       {}};
     const bool cortada = m_divisiones.size() > MasFilas;
     for (qsizetype i = 0; i < m_divisiones.size(); ++i) {

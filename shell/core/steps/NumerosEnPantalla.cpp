@@ -7,8 +7,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype MasCifras = 40;
-constexpr qsizetype Extremo = 12;
 constexpr qsizetype SinGrupos = 4;
 constexpr QChar BlancoFino = u'\u202f';
 
@@ -19,10 +17,11 @@ bool esCifra(QChar c)
 
 } // namespace
 
-QString numeroEnPantalla(QStringView digitos)
+QString numeroEnPantalla(QStringView digitos, qsizetype masCifras)
 {
-    if (digitos.size() > MasCifras)
-        return digitos.first(Extremo).toString() + u'…' + digitos.last(Extremo).toString() +
+    const qsizetype extremo = masCifras * 3 / 10;
+    if (digitos.size() > masCifras)
+        return digitos.first(extremo).toString() + u'…' + digitos.last(extremo).toString() +
                Traduce(u" (%1 cifras)"_s).arg(digitos.size());
     QString numero;
     for (qsizetype i = 0; i < digitos.size(); ++i) {

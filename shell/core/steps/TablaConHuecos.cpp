@@ -2,8 +2,8 @@
 #include "shell/core/steps/TablaConHuecos.h"
 
 #include "bignum/gateway/Azar.h"
-#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/answers/LectorDeRespuestas.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -96,17 +96,16 @@ TablaConHuecos::Estado TablaConHuecos::responde(qsizetype fila, qsizetype column
     if (celda.estado == Estado::ALaVista)
         return celda.estado;
     celda.respuesta = respuesta.trimmed();
-    const auto leida = leeEntero(celda.respuesta);
-    if (celda.respuesta.isEmpty()) {
+    const RespuestaLeida leida = leeRespuesta(celda.respuesta, {});
+    if (leida.estado != RespuestaLeida::Leida) {
         celda.estado = Estado::Oculta;
-        celda.veredicto.clear();
-    } else if (leida && *leida == celda.numero) {
+        celda.veredicto = leida.leo;
+    } else if (leida.numeros.constFirst() == celda.numero) {
         celda.estado = Estado::Acertada;
         celda.veredicto = Traduce(u"Correcto: ahí va %1."_s).arg(celda.numero);
     } else {
         celda.estado = Estado::Fallada;
-        celda.veredicto =
-            leida ? Traduce(u"Ahí no va %1."_s).arg(celda.respuesta) : leida.razon().frase();
+        celda.veredicto = Traduce(u"Ahí no va %1."_s).arg(celda.respuesta);
     }
     return celda.estado;
 }

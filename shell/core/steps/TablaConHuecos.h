@@ -46,7 +46,8 @@ public:
     qsizetype pendientes() const;
 
     /// Takes an answer for a cell that is hidden or was answered, and gives its new state. A blank
-    /// one takes the answer back.
+    /// one takes the answer back; one that cannot be read is kept, and judged neither right nor
+    /// wrong.
     Estado responde(qsizetype fila, qsizetype columna, const QString &respuesta);
     /// What the answer was found to be, for the student; empty without one.
     QString veredicto(qsizetype fila, qsizetype columna) const;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "lessons/complexity/ArbolDeLlamadas.h"
 #include "lessons/complexity/PasosDeHanoi.h"
 #include "lessons/complexity/PasosDeLlamadas.h"
 #include "tests/shell/support/RevisorDePasos.h"
@@ -42,6 +43,8 @@ void tst_PasosComplejidad::llamadas()
                 cuentas[k] = 1 + cuentas[k - 1] + (conMemoria ? 1 : cuentas[k - 2]);
             return cuentas[n];
         };
+        for (int n = 0; n <= ArbolDeLlamadas::MaximoN; ++n)
+            QCOMPARE(cuenta(n), ArbolDeLlamadas(n, conMemoria).llamadas().size());
         revisor.agrega(u"L"_s, [&](const auto &n) {
             return mpq_class(
                 std::to_string(cuenta(static_cast<int>(n.front().get_num().get_si()))));

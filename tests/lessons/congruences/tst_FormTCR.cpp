@@ -129,6 +129,12 @@ private Q_SLOTS:
             QVERIFY(m_comprueba->isEnabled());
         }
         QVERIFY(Entorno::grabadora().mensajes.isEmpty());
+        QVERIFY(pasos(1).vacios());
+        // They come with the solution and go with it.
+        m_resuelve->click();
+        QVERIFY(!pasos(1).vacios());
+        escribe({u"1"_s}, 0);
+        QVERIFY(pasos(1).vacios());
     }
 
     void copiarPegarBorrar()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/congruences/PasosDelTCR.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/RevisorDeFormulas.h"
 
 #include <QRandomGenerator>

@@ -162,10 +162,11 @@ private Q_SLOTS:
     }
 
     /// The widest table that there can be, at the width of the window when it opens on a small
-    /// screen.
+    /// screen, once the steps beside it are put away.
     void columnasEnterasALaVista()
     {
         abreTema(1);
+        el<QToolButton>(u"cmdPasos"_s)->click();
         edita(1, u"922337203685477"_s);
         edita(2, u"570035741062561"_s);
         const QAbstractItemModel *modelo = m_rejilla->model();
@@ -224,6 +225,49 @@ private Q_SLOTS:
                  qPrintable(mensaje.texto));
         QCOMPARE(m_soluciones->model()->rowCount(), 0);
         QCOMPARE(texto(u"lblSoluciones"_s), u"Soluciones"_s);
+        // The steps are exact.
+        QCOMPARE(pasos(2).paso(5).formulas.constFirst().escrita(),
+                 u"k >= ceil({-200000000000000}/5) = -40000000000000"_s);
+        campo(u"txtNº_2"_s)->clear();
+        QCOMPARE(pasos(2).cuantos(), 7);
+        campo(u"txtNº_0"_s)->clear();
+        QVERIFY(pasos(2).vacios());
+    }
+
+    void pasosDeLaTabla()
+    {
+        abreTema(1);
+        const auto ultimo = [this] {
+            return pasos(1).paso(pasos(1).cuantos() - 1).formulas.constFirst().escrita();
+        };
+        QCOMPARE(ultimo(), u"-9*240 + 47*46 = 2"_s);
+        m_algoritmo->click();
+        QCOMPARE(pasos(1).cuantos(), 5 + 1 + 4 + 1);
+        edita(1, u"46"_s);
+        edita(2, u"240"_s);
+        QCOMPARE(ultimo(), u"47*46 + (-9)*240 = 2"_s);
+        edita(2, u"0"_s);
+        QVERIFY(pasos(1).vacios());
+    }
+
+    /// In place of the table, without touching it; with other numbers again from the start.
+    void casillasPorRellenar()
+    {
+        abreTema(1);
+        auto *rellena = el<QToolButton>(u"cmdRellenar"_s);
+        rellena->click();
+        QVERIFY(m_rejilla->isHidden() && m_resultado->isHidden());
+        auto *huecos = rejilla(u"FlexHuecos"_s)->model();
+        QCOMPARE(fila(huecos, 4), fila(m_rejilla->model(), 4));
+        el<QToolButton>(u"cmdOcultarTodas"_s)->click();
+        QCOMPARE(fila(huecos, 0), u"1 240 46 ? ? ? ?"_s);
+        QVERIFY(huecos->setData(huecos->index(0, 3), u"5"_s));
+        QCOMPARE(fila(huecos, 0), u"1 240 46 ✓ 5 ? ? ?"_s);
+        rellena->click();
+        QVERIFY(m_rejilla->isVisible() && m_resultado->isVisible());
+        edita(1, u"92"_s);
+        rellena->click();
+        QCOMPARE(fila(huecos, 0), u"1 92 46 2 0 1 -2"_s);
     }
 
     void cuestiones_data()

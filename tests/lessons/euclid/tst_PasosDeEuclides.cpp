@@ -27,8 +27,10 @@ private Q_SLOTS:
         RevisorDeFormulas revisor;
         for (int vez = 0; vez < 10000; ++vez) {
             const auto algoritmo = vez % 2 ? Reducidos : Estandar;
-            const std::int64_t mayor = mayorNumero(algoritmo).entero();
-            std::int64_t a = vez % 50 == 0 ? muestras.extremo(mayor) : muestras.natural(mayor);
+            const std::int64_t mayor = vez % 8 == 0 || vez % 51 == 0 || vez % 70 == 0
+                                           ? mayorNumero(algoritmo).entero()
+                                           : 1'000'000;
+            std::int64_t a = vez % 51 == 0 ? muestras.extremo(mayor) : muestras.natural(mayor);
             const std::int64_t b =
                 vez % 70 == 0 ? muestras.extremo(mayor) : muestras.natural(mayor);
             a = vez % 10 == 3 ? -a : a;

@@ -121,27 +121,29 @@ private Q_SLOTS:
     /// Each tool's panel has steps once there is a result, of the method or the identity chosen.
     void pasos()
     {
+        // The page in front is the last one of the stack.
         const auto pasos = [this](int tema) {
-            return m_ventana->findChildren<PanelDePasos *>().at(tema)->pasos().cuantos();
+            abreTema(tema);
+            return m_ventana->findChildren<PanelDePasos *>().constLast()->pasos().cuantos();
         };
         escribe(u"TxtN"_s, u"12"_s);
         el<QRadioButton>(u"optMetodo_2"_s)->click();
         pulsa(u"cmdCalcular"_s);
-        QTRY_COMPARE(pasos(0), 6);
+        QTRY_COMPARE(pasos(1), 6);
         escribe(u"TxtN"_s, u"13"_s);
-        QCOMPARE(pasos(0), 0);
-        QCOMPARE(pasos(1), 30);
+        QCOMPARE(pasos(1), 0);
+        QCOMPARE(pasos(2), 30);
         escribe(u"TxtNumero"_s, u"100"_s);
         pulsa(u"cmdSiguiente"_s);
-        QCOMPARE(pasos(2), 0);
+        QCOMPARE(pasos(3), 0);
         pulsa(u"cmdTodo"_s);
-        QCOMPARE(pasos(2), 4);
+        QCOMPARE(pasos(3), 4);
         escribe(u"TxtIndiceM"_s, u"4"_s);
         escribe(u"TxtIndiceN"_s, u"6"_s);
         pulsa(u"cmdProbar"_s);
-        QCOMPARE(pasos(3), 6);
+        QCOMPARE(pasos(4), 6);
         rejilla(u"FlexIdentidades"_s)->selectRow(2);
-        QCOMPARE(pasos(3), 4);
+        QCOMPARE(pasos(4), 4);
     }
 
     void numeroAureo()

@@ -3,6 +3,7 @@
 #include "lessons/fibonacci/PasosDeFibonacci.h"
 #include "lessons/fibonacci/PasosDeIdentidad.h"
 #include "lessons/fibonacci/PasosDeZeckendorf.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/RevisorDePasos.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -69,47 +70,41 @@ private Q_SLOTS:
 
 void tst_PasosDeFibonacci::metodos_data()
 {
-    QTest::addColumn<MetodoFibonacci>("metodo");
-    QTest::addColumn<int>("mayor");
-    QTest::newRow("definition") << MetodoFibonacci::Definicion << 50;
-    QTest::newRow("iteration") << MetodoFibonacci::Iteracion << 1000;
-    QTest::newRow("doubling") << MetodoFibonacci::Duplicacion << 1500;
+    filasDeTexto<int, int>(u"definition | 0 | 50 || iteration | 1 | 1000 || doubling | 2 | 1500"_s);
 }
 
 void tst_PasosDeFibonacci::metodos()
 {
-    QFETCH(MetodoFibonacci, metodo);
-    QFETCH(int, mayor);
+    const auto [cual, mayor] = estaFila<int, int>();
+    const auto metodo = static_cast<MetodoFibonacci>(cual);
+    const int hasta = mayor; // a structured binding cannot be captured
     RevisorDeFormulas revisor = revisorDeFibonacci();
     revisaAlAzar(
         revisor,
         [&](QRandomGenerator &azar) {
-            return pasosDeFibonacci(metodo, azar.bounded(2, mayor + 1));
+            return pasosDeFibonacci(metodo, azar.bounded(2, hasta + 1));
         },
         10000, 1);
 }
 
 void tst_PasosDeFibonacci::bordes_data()
 {
-    QTest::addColumn<MetodoFibonacci>("metodo");
-    QTest::addColumn<int>("n");
-    QTest::addColumn<int>("pasos");
-    QTest::newRow("0") << MetodoFibonacci::Duplicacion << 0 << 1;
-    QTest::newRow("1") << MetodoFibonacci::Definicion << 1 << 1;
-    QTest::newRow("2 doubled") << MetodoFibonacci::Duplicacion << 2 << 4;
-    QTest::newRow("a power of 2") << MetodoFibonacci::Duplicacion << 1024 << 13;
-    QTest::newRow("the largest") << MetodoFibonacci::Duplicacion
-                                 << cotaDe(MetodoFibonacci::Duplicacion) << 19;
-    QTest::newRow("13 added") << MetodoFibonacci::Iteracion << 13 << 12;
+    filasDeTexto<int, int, int>(uR"(
+        0            | 2 | 0      | 1
+        1            | 0 | 1      | 1
+        2 doubled    | 2 | 2      | 4
+        a power of 2 | 2 | 1024   | 13
+        the largest  | 2 | 117592 | 19
+        13 added     | 1 | 13     | 12)"_s);
 }
 
 /// The last step gives F(n), whole.
 void tst_PasosDeFibonacci::bordes()
 {
-    QFETCH(MetodoFibonacci, metodo);
-    QFETCH(int, n);
+    const auto [cual, n, cuantos] = estaFila<int, int, int>();
+    const auto metodo = static_cast<MetodoFibonacci>(cual);
     const Pasos pasos = pasosDeFibonacci(metodo, n);
-    QTEST(int(pasos.cuantos()), "pasos");
+    QCOMPARE(pasos.cuantos(), cuantos);
     const QString valor = QString::fromStdString(fibonacci(n).get_str());
     const Paso ultimo = pasos.paso(pasos.cuantos() - 1);
     QVERIFY(ultimo.formulas.first().escrita().endsWith(u"= "_s + valor));
@@ -138,14 +133,12 @@ void tst_PasosDeFibonacci::zeckendorf()
 
 void tst_PasosDeFibonacci::identidades_data()
 {
-    QTest::addColumn<int>("fila");
-    for (int fila = 0; fila < 5; ++fila)
-        QTest::newRow(qPrintable(QString::number(fila))) << fila;
+    filasDeTexto<int>(u"Cassini | 0 || gcd | 1 || indices | 2 || sum | 3 || squares | 4"_s);
 }
 
 void tst_PasosDeFibonacci::identidades()
 {
-    QFETCH(int, fila);
+    const int fila = estaFila<int>();
     RevisorDeFormulas revisor = revisorDeFibonacci();
     revisaAlAzar(
         revisor,
@@ -158,28 +151,25 @@ void tst_PasosDeFibonacci::identidades()
 
 void tst_PasosDeFibonacci::tirasDibujadas_data()
 {
-    QTest::addColumn<int>("fila");
-    QTest::addColumn<int>("m");
-    QTest::addColumn<int>("n");
-    QTest::addColumn<QList<int>>("destacadas"); // strips in full colours, step by step
-    QTest::newRow("F(3+4) = 2*5 + 1*3") << 2 << 3 << 4 << QList<int>{13, 10, 3, 0};
-    QTest::newRow("F(1+4) = 1*5 + 0*3") << 2 << 1 << 4 << QList<int>{5, 5, 0, 0};
-    QTest::newRow("F(4+1) = 3*1 + 2*1") << 2 << 4 << 1 << QList<int>{5, 3, 2, 0};
-    QTest::newRow("1 + 1 + 2 + 3 = 8 - 1") << 3 << 1 << 4 << QList<int>{8, 1, 1, 2, 3, 1};
-    QTest::newRow("too long to draw") << 2 << 4 << 5 << QList<int>{0, 0, 0, 0};
+    // row of the table, m, n, strips in full colours at each step
+    filasDeTexto<int, int, int, QString>(uR"(
+        F(3+4) = 2*5 + 1*3    | 2 | 3 | 4 | 13 10 3 0
+        F(1+4) = 1*5 + 0*3    | 2 | 1 | 4 | 5 5 0 0
+        F(4+1) = 3*1 + 2*1    | 2 | 4 | 1 | 5 3 2 0
+        1 + 1 + 2 + 3 = 8 - 1 | 3 | 1 | 4 | 8 1 1 2 3 1
+        too long to draw      | 2 | 4 | 5 | 0 0 0 0)"_s);
 }
 
 /// As many strips stand out as the step counts.
 void tst_PasosDeFibonacci::tirasDibujadas()
 {
-    QFETCH(int, fila);
-    QFETCH(int, m);
-    QFETCH(int, n);
+    const auto [fila, m, n, esperadas] = estaFila<int, int, int, QString>();
     const Pasos pasos = pasosDeIdentidad(fila, m, n);
-    QList<int> destacadas;
+    QStringList destacadas;
     for (int i = 0; i < pasos.cuantos(); ++i)
-        destacadas << cuantasDestacadas(pasos.paso(i).lamina, fila == 2 ? m + n - 1 : n + 1);
-    QTEST(destacadas, "destacadas");
+        destacadas << QString::number(
+            cuantasDestacadas(pasos.paso(i).lamina, fila == 2 ? m + n - 1 : n + 1));
+    QCOMPARE(destacadas.join(u' '), esperadas);
 }
 
 QTEST_GUILESS_MAIN(tst_PasosDeFibonacci)

@@ -6,12 +6,10 @@
 #include "lessons/primes/steps/PasosDeCriba.h"
 #include "lessons/primes/steps/PasosDeFactorizacion.h"
 #include "lessons/primes/steps/PasosDeTest.h"
-#include "tests/lessons/Tabla.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/RevisorDeFormulas.h"
 
 #include <random>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

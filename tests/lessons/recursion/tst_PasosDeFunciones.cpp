@@ -5,6 +5,7 @@
 #include "lessons/recursion/functions/PasosDeCapicua.h"
 #include "lessons/recursion/functions/PasosDeGranizo.h"
 #include "lessons/recursion/functions/PilaDeAck.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/RevisorDePasos.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -33,8 +34,10 @@ void tst_PasosDeFunciones::ackermann()
     revisor.agrega(u"Ack"_s, [](const auto &a) {
         const mpz_class n = a[1].get_num();
         const auto m = a[0].get_num().get_si();
-        if (m < 3)
-            return mpq_class(m == 0 ? n + 1 : m == 1 ? n + 2 : 2 * n + 3);
+        if (m < 2)
+            return mpq_class(n + m + 1);
+        if (m == 2)
+            return mpq_class(2 * n + 3);
         mpz_class potencia;
         mpz_ui_pow_ui(potencia.get_mpz_t(), 2, static_cast<unsigned>(n.get_ui()) + 3);
         return mpq_class(potencia - 3);
@@ -47,26 +50,24 @@ void tst_PasosDeFunciones::ackermann()
 
 void tst_PasosDeFunciones::laPilaHaceLasLlamadasDeLaHerramienta_data()
 {
-    QTest::addColumn<int>("m");
-    QTest::addColumn<int>("n");
-    QTest::addColumn<int>("corte");
-    QTest::addColumn<int>("fin");
-    QTest::newRow("2, 3") << 2 << 3 << 5000 << int(PilaDeAck::Devuelve);
-    QTest::newRow("a base case") << 0 << 4 << 5000 << int(PilaDeAck::Base);
-    QTest::newRow("3, 4") << 3 << 4 << 5000 << int(PilaDeAck::Devuelve);
-    QTest::newRow("beyond the cut-off") << 3 << 4 << 60 << int(PilaDeAck::Abandonada);
-    QTest::newRow("beyond at once") << 2 << 9 << 8 << int(PilaDeAck::Abandonada);
-    QTest::newRow("too long to show") << 3 << 9 << 5000 << int(PilaDeAck::Cortada);
+    filasDeTexto<int, int, int, int>(uR"(
+        2, 3               | 2 | 3 | 5000 | %1
+        a base case        | 0 | 4 | 5000 | %2
+        3, 4               | 3 | 4 | 5000 | %1
+        beyond the cut-off | 3 | 4 | 60   | %3
+        beyond at once     | 2 | 9 | 8    | %3
+        too long to show   | 3 | 9 | 5000 | %4)"_s.arg(PilaDeAck::Devuelve)
+                                         .arg(PilaDeAck::Base)
+                                         .arg(PilaDeAck::Abandonada)
+                                         .arg(PilaDeAck::Cortada));
 }
 
 void tst_PasosDeFunciones::laPilaHaceLasLlamadasDeLaHerramienta()
 {
-    QFETCH(int, m);
-    QFETCH(int, n);
-    QFETCH(int, corte);
+    const auto [m, n, corte, fin] = estaFila<int, int, int, int>();
     const PilaDeAck pila({m, n}, corte);
     const auto &sucesos = pila.sucesos();
-    QTEST(int(sucesos.back().clase), "fin");
+    QCOMPARE(int(sucesos.back().clase), fin);
     const bool acabada =
         sucesos.back().clase == PilaDeAck::Devuelve || sucesos.back().clase == PilaDeAck::Base;
     QCOMPARE(pila.pila(sucesos.size() - 1).empty(), acabada || sucesos.size() == 1);
@@ -98,22 +99,18 @@ void tst_PasosDeFunciones::granizo()
 
 void tst_PasosDeFunciones::planeos_data()
 {
-    QTest::addColumn<QString>("inicio");
-    QTest::addColumn<int>("pasos");
-    QTest::addColumn<QString>("frase");
-    QTest::newRow("27") << u"27"_s << 111 << u"es el del paso 96:"_s;
-    QTest::newRow("even") << u"6"_s << 8 << u"es el del paso 1:"_s;
-    QTest::newRow("7") << u"7"_s << 16 << u"es el del paso 11:"_s;
-    QTest::newRow("1 never falls") << u"1"_s << 3 << u"Hasta el paso 3 ningún"_s;
-    QTest::newRow("stopped before") << u"27"_s << 95 << u"Hasta el paso 95 ningún"_s;
-    QTest::newRow("one step") << u"27"_s << 1 << u"Hasta el paso 1 ningún"_s;
+    filasDeTexto<QString, int, QString>(uR"(
+        even           | 6  | 8   | es el del paso 1:
+        7              | 7  | 16  | es el del paso 11:
+        27             | 27 | 111 | es el del paso 96:
+        1 never falls  | 1  | 3   | Hasta el paso 3 ningún
+        stopped before | 27 | 95  | Hasta el paso 95 ningún
+        one step       | 27 | 1   | Hasta el paso 1 ningún)"_s);
 }
 
 void tst_PasosDeFunciones::planeos()
 {
-    QFETCH(QString, inicio);
-    QFETCH(int, pasos);
-    QFETCH(QString, frase);
+    const auto [inicio, pasos, frase] = estaFila<QString, int, QString>();
     const Pasos hechos = pasosDeGranizo(inicio, pasos);
     QCOMPARE(hechos.cuantos(), pasos + 2);
     QVERIFY2(hechos.paso(1).frase.contains(frase), qPrintable(hechos.paso(1).frase));
@@ -140,20 +137,16 @@ void tst_PasosDeFunciones::capicuas()
 
 void tst_PasosDeFunciones::loQueHaceUnAcarreo_data()
 {
-    QTest::addColumn<QString>("numero");
-    QTest::addColumn<QString>("suma");
-    QTest::addColumn<QString>("regla");
-    QTest::newRow("none") << u"12"_s << u"33"_s << u"Sin acarreos"_s;
-    QTest::newRow("one side only") << u"190"_s << u"281"_s << u"Las columnas 1 y 3"_s;
-    QTest::newRow("a digit in front") << u"56"_s << u"121"_s << u"Las columnas 1 y 2"_s;
-    QTest::newRow("of the middle alone") << u"5"_s << u"10"_s << u"A columnas opuestas"_s;
+    filasDeTexto<QString, QString, QString>(uR"(
+        none            | 12  | 33  | Sin acarreos
+        one side only   | 190 | 281 | Las columnas 1 y 3
+        a digit more    | 56  | 121 | Las columnas 1 y 2
+        a single column | 5   | 10  | A columnas opuestas)"_s);
 }
 
 void tst_PasosDeFunciones::loQueHaceUnAcarreo()
 {
-    QFETCH(QString, numero);
-    QFETCH(QString, suma);
-    QFETCH(QString, regla);
+    const auto [numero, suma, regla] = estaFila<QString, QString, QString>();
     const Paso paso = pasosDeCapicua({numero, suma}, false).paso(0);
     QVERIFY2(paso.regla.startsWith(regla), qPrintable(paso.regla));
     QVERIFY(!paso.lamina.vacia());

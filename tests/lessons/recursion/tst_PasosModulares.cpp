@@ -2,6 +2,7 @@
 #include "lessons/recursion/modular/DibujoDeEstados.h"
 #include "lessons/recursion/modular/ModeloValores.h"
 #include "lessons/recursion/modular/PasosModulares.h"
+#include "tests/Tabla.h"
 #include "tests/shell/support/RevisorDePasos.h"
 
 #include <QSet>
@@ -55,26 +56,20 @@ void tst_PasosModulares::sucesiones()
 
 void tst_PasosModulares::elDibujo_data()
 {
-    QTest::addColumn<int>("alfa");
-    QTest::addColumn<int>("beta");
-    QTest::addColumn<int>("modulo");
-    QTest::addColumn<int>("pasos");
-    QTest::addColumn<int>("estados"); // that are drawn
-    QTest::newRow("a circle of 60") << 1 << 1 << 10 << 62 << 60;
-    QTest::newRow("a circle of 24 ") << 1 << 1 << 6 << 26 << 24;
-    QTest::newRow("a tail of 6 and a circle of 1") << 2 << 0 << 32 << 9 << 7;
-    QTest::newRow("one state") << 1 << 1 << 1 << 3 << 1;
-    QTest::newRow("more than 60") << 1 << 1 << 30 << 122 << 0;
-    QTest::newRow("no pair comes back") << 1 << 1 << 1000 << 250 << 0;
+    // α, β, m, steps, states that are drawn
+    filasDeTexto<int, int, int, int, int>(uR"(
+        a circle of 60                | 1 | 1 | 10   | 62  | 60
+        a circle of 24                | 1 | 1 | 6    | 26  | 24
+        a tail of 6 and a circle of 1 | 2 | 0 | 32   | 9   | 7
+        one state                     | 1 | 1 | 1    | 3   | 1
+        more than 60                  | 1 | 1 | 30   | 122 | 0
+        no pair comes back            | 1 | 1 | 1000 | 250 | 0)"_s);
 }
 
 /// Each state is an ellipse of its own; and the pair that comes back is marked in the values.
 void tst_PasosModulares::elDibujo()
 {
-    QFETCH(int, alfa);
-    QFETCH(int, beta);
-    QFETCH(int, modulo);
-    QFETCH(int, pasos);
+    const auto [alfa, beta, modulo, pasos, estados] = estaFila<int, int, int, int, int>();
     const DefinicionRecurrente d = definicion(alfa, beta, 1, 1);
     const SucesionModular sucesion(d, modulo);
     const Pasos hechos = pasosDeSucesion(d, sucesion);
@@ -85,7 +80,7 @@ void tst_PasosModulares::elDibujo()
         if (figura.clase == Figura::Elipse)
             lugares.insert({qRound(figura.lugar.x() * 100), qRound(figura.lugar.y() * 100)});
     }
-    QTEST(int(lugares.size()), "estados");
+    QCOMPARE(lugares.size(), estados);
     ModeloValores modelo;
     modelo.pon(sucesion);
     int marcadas = 0;

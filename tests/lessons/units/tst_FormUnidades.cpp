@@ -145,20 +145,38 @@ private Q_SLOTS:
         QVERIFY(lado() > tabla->fontMetrics().horizontalAdvance(u"58"_s));
     }
 
+    void pasosDelGrupoYDeUnElemento()
+    {
+        abreTema(1);
+        QCOMPARE(pasos(1).cuantos(), 3);
+        campo(u"txtElemento"_s)->setText(u"17"_s);
+        pulsa(u"cmdPotencias"_s);
+        QVERIFY(pasos(1).animables());
+        QCOMPARE(pasos(1).paso(6).formulas.constLast().escrita(), u"3^6 == 1 (mod 14)"_s);
+        campo(u"txtElemento"_s)->setText(u"x"_s);
+        pulsa(u"cmdPotencias"_s);
+        QCOMPARE(pasos(1).cuantos(), 3);
+        muestra(u"0"_s);
+        QVERIFY(pasos(1).vacios());
+    }
+
     void numerosGrandes()
     {
         escribeGrandes(u"2^521-1"_s, u"100!"_s);
         pulsa(u"cmdInverso"_s);
+        QVERIFY(this->pasos(3).cuantos() > 200);
         const QString inverso = largo(u"txtInverso"_s)->text();
         QCOMPARE(Evalua(u"100!*%1 mod (2^521-1)"_s.arg(inverso)), u"1"_s);
         pulsa(u"cmdFi"_s);
         const auto *pasos = el<QPlainTextEdit>(u"txtFi"_s);
         QVERIFY(pasos->toPlainText().endsWith(Evalua(u"2^521-2"_s)));
         QVERIFY(texto(u"lblFi"_s).endsWith(u"a^φ(n) da 1 módulo n."_s));
+        QCOMPARE(this->pasos(3).cuantos(), 521 + 2);
         // Results belong to the numbers that stood there.
         largo(u"txtNGrande"_s)->setText(u"2^521-1 "_s);
         QVERIFY(pasos->toPlainText().isEmpty());
         QVERIFY(largo(u"txtInverso"_s)->text().isEmpty());
+        QVERIFY(this->pasos(3).vacios());
     }
 
     void sinInverso()
@@ -170,6 +188,7 @@ private Q_SLOTS:
         QCOMPARE(texto(u"lblFi"_s), u"φ(n), por factores."_s);
         const auto *pasos = el<QPlainTextEdit>(u"txtFi"_s);
         QVERIFY(pasos->toPlainText().contains(u"n = 2 · 3 · 5\n"_s));
+        QCOMPARE(this->pasos(3).cuantos(), 5);
         pulsa(u"cmdFi"_s);
         QCOMPARE(pasos->toPlainText(), u"φ(n) = 8"_s);
         QCOMPARE(texto(u"lblFi"_s), u"φ(n), según la biblioteca."_s);

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void otrosPasosEmpiezanPorElPrimero();
     void alLadoODebajo();
     void unaFormulaAnchaSeParte();
+    void otroAnchoOtrasLineas();
 
 private:
     struct Panel : PanelDePasos
@@ -184,6 +185,29 @@ void tst_PanelDePasos::unaFormulaAnchaSeParte()
     QVERIFY(entera.tamano().width() > 1000);
     QVERIFY(partida.tamano().width() <= 300);
     QVERIFY(partida.tamano().height() > 3 * entera.tamano().height());
+    // A modulus stands in one line, however long it is.
+    const Formula modulo(u"2 == 3 (mod %1)"_s.arg(QString(26, u'8')));
+    const qreal ancho = FormulaCompuesta(modulo, QFont(), 1e6).tamano().width();
+    QVERIFY(FormulaCompuesta(modulo, QFont(), ancho * 0.8).tamano().width() <= ancho * 0.8);
+}
+
+/// Sentences break anew in a narrower column, and the steps below make room for them.
+void tst_PanelDePasos::otroAnchoOtrasLineas()
+{
+    Panel panel;
+    panel.pon(Pasos(2, [](qsizetype) {
+        return Paso{u"palabras "_s.repeated(30)};
+    }));
+    panel.resize(900, 500);
+    panel.show();
+    panel.pulsa(u"cmdTodosLosPasos"_s);
+    const auto alto = [&] {
+        return panel.lista()->visualRect(panel.lista()->model()->index(0, 0)).height();
+    };
+    QTRY_VERIFY(alto() > 0);
+    const int antes = alto();
+    panel.resize(300, 500);
+    QTRY_VERIFY(alto() > 2 * antes);
 }
 
 NUMORA_TEST_MAIN(tst_PanelDePasos)

@@ -2,7 +2,9 @@
 #include "tests/shell/support/Entorno.h"
 
 #include "bignum/gateway/ModBignum.h"
+#include "shell/core/CarpetaDeDatos.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/look/Aspecto.h"
 #include "shell/start/Main.h"
 
 #include <QPrinter>
@@ -105,6 +107,8 @@ void Entorno::limpia()
     if (const auto puesto = qInstallMessageHandler(vigila); puesto != vigila)
         anterior = puesto;
     Idioma() = u"Español"_s;
+    // Films say nothing that a test asks for, and their machinery is slow to start.
+    Aspecto::ponMovimientoReducido(true);
     QSettings(QSettings::IniFormat, QSettings::UserScope, u"Numora"_s, u"Numora"_s).clear();
     Sesión().ponCarpeta(carpetaDeTrabajo());
     // A window that went without being closed has left a copy of its work.
@@ -112,6 +116,8 @@ void Entorno::limpia()
     const QStringList copias = ajustesPropios.entryList({u"*.copia"_s}, QDir::Files);
     for (const QString &copia : copias)
         ajustesPropios.remove(copia);
+    ponCarpetaDeDatos(ajustes->filePath(u"datos"_s));
+    QDir(carpetaDeDatos()).removeRecursively();
     ponInterlocutor(std::make_unique<Grabadora>());
     IniciaBignum(100);
 }

@@ -117,7 +117,7 @@ std::optional<mpq_class> RevisorDeFormulas::valor(const NodoDeFormula &nodo) con
     }
     switch (nodo.clase) {
     case Nodo::Numero:
-        return mpq_class(nodo.texto.toStdString());
+        return mpq_class(nodo.texto.toStdString(), 10);
     case Nodo::Nombre: {
         const auto dado = m_valores.constFind(comoTexto(nodo));
         return dado == m_valores.constEnd() ? std::optional<mpq_class>() : *dado;

@@ -29,8 +29,10 @@ QList<Escena> escenasRecursion2()
             {u"recursion2-representacion-31999"_s, representacion, conModulo(u"31999"_s)},
             {u"recursion2-representacion-rechazada"_s, representacion,
              conModulo(u"10"_s) + conModulo(u"1/2"_s)},
-            {u"recursion2-representacion-pasos"_s, representacion, conModulo(u"10"_s) << pasos},
-            {u"recursion2-valores-pasos"_s, u"valores"_s, conModulo(u"6"_s) << pasos},
+            {u"recursion2-representacion-pasos"_s, representacion,
+             conModulo(u"10"_s) << pasos << Gesto{u"listaDePasos"_s, u"61,0"_s}},
+            {u"recursion2-valores-pasos"_s, u"valores"_s,
+             conModulo(u"6"_s) << pasos << Gesto{u"listaDePasos"_s, u"13,0"_s}},
             {u"recursion2-valores-vacia"_s, u"valores"_s},
             {u"recursion2-valores"_s, u"valores"_s, conModulo(u"1000"_s)},
             {u"recursion2-cuestiones"_s, u"cuestiones"_s}};
