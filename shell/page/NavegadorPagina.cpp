@@ -78,6 +78,8 @@ NavegadorPagina::NavegadorPagina(QWidget *padre) : QTextBrowser(padre)
     ponLetra();
     connect(this, &QTextBrowser::anchorClicked, this, &NavegadorPagina::sigueEnlace);
     connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl &direccion) {
+        m_cargando = false;
+        m_apartados.clear();
         ajustaFiguras();
         // What stands above the place has become lower.
         if (direccion.hasFragment())
@@ -86,7 +88,8 @@ NavegadorPagina::NavegadorPagina(QWidget *padre) : QTextBrowser(padre)
     connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
             [this](const QSizeF &tamano) {
                 const int pide = static_cast<int>(std::ceil(tamano.width()));
-                if (pide <= std::max(m_anchoQuePide, viewport()->width()))
+                // Figures take what there is, once all is read.
+                if (m_cargando || pide <= std::max(m_anchoQuePide, viewport()->width()))
                     return;
                 m_anchoQuePide = pide;
                 ajustaColumna();
@@ -143,7 +146,8 @@ void NavegadorPagina::ponPasosDeLetra(int pasos)
 int NavegadorPagina::anchoDeColumna() const
 {
     static const QString muestra =
-        u"Dividir, quedarse con el resto y volver a dividir: con eso basta para hallar el mcd"_s;
+        u"El algoritmo más antiguo que sigue en uso: con dividir y quedarse con el resto "
+        "basta para hallar el máximo común divisor de dos números de mil cifras"_s;
     const qreal texto = QFontMetricsF(font()).horizontalAdvance(muestra) *
                         (qreal(CaracteresPorLinea) / qreal(muestra.size()));
     return static_cast<int>(std::ceil(texto + 2 * document()->documentMargin()));
@@ -192,8 +196,10 @@ QVariant NavegadorPagina::loadResource(int tipo, const QUrl &nombre)
         return leido;
     m_pagina = PaginaPlegable(QString::fromUtf8(leido.toByteArray()));
     m_buscado.clear();
-    m_apartados.clear();
+    m_cargando = true;
     const QUrl pagina = nombre.adjusted(QUrl::RemoveFragment);
+    if (std::exchange(m_leida, pagina.path()) != pagina.path())
+        m_anchoQuePide = 0;
     QSet<int> &abiertos = m_abiertos[pagina.path()];
     // A link to a place leads there even where it is folded.
     for (const int pliegue : m_pagina.alrededor(m_pagina.pliegueDe(nombre.fragment())))
@@ -271,10 +277,15 @@ int NavegadorPagina::apartadoALaVista() const
 {
     if (m_apartados.isEmpty()) {
         QHash<QString, int> lugares;
+        const auto anota = [&](const QTextCharFormat &formato, int lugar) {
+            for (const QString &nombre : formato.anchorNames())
+                lugares.insert(nombre, lugar);
+        };
         paraCadaTrozo(*document(), [&](const QTextFragment &trozo) {
-            for (const QString &nombre : trozo.charFormat().anchorNames())
-                lugares.insert(nombre, trozo.position());
+            anota(trozo.charFormat(), trozo.position());
         });
+        for (QTextBlock bloque = document()->begin(); bloque.isValid(); bloque = bloque.next())
+            anota(bloque.charFormat(), bloque.position());
         for (const PaginaPlegable::Apartado &apartado : m_pagina.contenido())
             m_apartados << lugares.value(apartado.lugar, m_apartados.value(m_apartados.size() - 1));
     }

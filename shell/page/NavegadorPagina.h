@@ -85,9 +85,11 @@ private:
     QString m_ruta;
     bool m_pendiente = false;
     PaginaPlegable m_pagina;
+    QString m_leida;                      ///< the path of that page
     QHash<QString, QSet<int>> m_abiertos; ///< the open folds of each page
     mutable QList<int> m_apartados;       ///< where the sections of the contents begin in the text
     QString m_buscado;
+    bool m_cargando = false; ///< the figures have not been fitted yet
     int m_pasosDeLetra = 0;
     int m_anchoQuePide = 0; ///< of what is broken into no lines: wide tables
 };

@@ -42,6 +42,7 @@ PaginaDeLeccion::PaginaDeLeccion(QWidget *padre)
     m_contenido->setAccessibleName(Traduce(u"Contenido de la página"_s));
     m_contenido->setFrameShape(QFrame::NoFrame);
     m_contenido->setWordWrap(true);
+    m_contenido->setSpacing(Aspecto::Espacio / 4);
     m_contenido->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_contenido->viewport()->setBackgroundRole(QPalette::Window);
     m_contenido->hide();

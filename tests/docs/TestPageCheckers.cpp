@@ -176,7 +176,7 @@ private Q_SLOTS:
         row(u"id=\"r1\" data-respuesta=\"sí\""_s, u"id=\"r1\" data-respuesta=\"no\""_s, {},
             u"data-respuesta no"_s);
         row(u"id=\"r1\" data-respuesta=\"sí\""_s, u"id=\"r1\""_s, u"without its answer"_s,
-            u"nothing"_s);
+            u"the other has numora:pregunta/r1"_s);
         row(u"numora:practicas/"_s, u"https://"_s, u"too few exercises"_s,
             u"numora:practicas/rsa.t where"_s);
         row(u"data-calcula=\"1+1\""_s, u"data-calcula=\"2\""_s, {}, u"data-calcula 2"_s);

@@ -124,6 +124,30 @@ private Q_SLOTS:
         }
     }
 
+    void enElNavegadorSeLlamanIgual()
+    {
+        static const QRegularExpression fila(u"\"([a-z/-]+)\": \\[\"([^\"]*)\", \"([^\"]*)\"\\]"_s);
+        const QString guion = QString::fromUtf8(
+            leeArchivo(Entorno::carpetaDeTrabajo() + u"/Doc/pagina.js"_s, 1 << 20));
+        QHash<QString, QStringList> nombres;
+        for (const auto &hallada : fila.globalMatch(guion))
+            nombres[hallada.captured(1)] = {hallada.captured(2), hallada.captured(3)};
+        for (int i = 0; i < 2; ++i) {
+            Idioma() = i == 0 ? IdiomaPropio.toString() : u"English"_s;
+            for (const Leccion &leccion :
+                 m_contenido.lecciones + QList<Leccion>{m_contenido.hojaDeCalculo}) {
+                QCOMPARE(nombres[leccion.palabra].value(i), Traduce(leccion.rotulo));
+                const std::unique_ptr<FormLeccion> ventana(leccion.crea(nullptr));
+                auto *tira = control<QTabBar>(ventana.get(), u"tsTema"_s);
+                for (const TemaDePagina &tema : leccion.temas) {
+                    QVERIFY(ventana->abreTema(tema.clave));
+                    QCOMPARE(nombres[leccion.palabra + u'/' + tema.nombre].value(i),
+                             tira->tabText(tira->currentIndex()));
+                }
+            }
+        }
+    }
+
     /// What no table names cannot be reached, and nothing is opened on the way.
     void nadaMas_data()
     {

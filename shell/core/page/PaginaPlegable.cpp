@@ -56,9 +56,13 @@ private:
             return;
         const QString texto = trozo.texto();
         for (const QChar letra : texto) {
+            if (m_enPre && letra == u'\n') {
+                terminaBloque();
+                continue;
+            }
             // Blanks count once, but for those that do not break.
             const bool blanco = letra.isSpace() && letra != QChar::Nbsp;
-            if (!blanco)
+            if (!blanco || m_enPre)
                 m_bloque += letra;
             else if (!m_bloque.isEmpty() && m_bloque.back() != u' ')
                 m_bloque += u' ';
@@ -69,6 +73,8 @@ private:
     {
         const bool abre = trozo.tipo == TrozoDePagina::Abre;
         m_enCuerpo = m_enCuerpo || trozo.nombre == u"body";
+        if (trozo.nombre == u"pre")
+            m_enPre = abre;
         if (!esDeLinea(trozo.nombre))
             terminaBloque();
         else if (trozo.nombre == u"br")
@@ -219,6 +225,7 @@ private:
     const QList<TrozoDePagina> m_trozos;
     qsizetype m_i = 0;
     bool m_enCuerpo = false;
+    bool m_enPre = false; ///< where blanks and ends of lines count
     QString m_html, m_bloque;
     QString m_descripcion; ///< of the figure whose caption may still follow
     QList<int> m_abiertos;
@@ -243,10 +250,9 @@ QString PaginaPlegable::muestra(const QSet<int> &abiertos) const
         if (pieza.tipo == Pieza::Html)
             html += pieza.html;
         else if (pieza.tipo == Pieza::Titulo)
-            html +=
-                u"<p class=\"pliegue\"><a href=\"pliegue:%1\">%2 %3</a></p>"_s.arg(pieza.pliegue)
-                    .arg(QChar(abierto ? u'▾' : u'▸'))
-                    .arg(pieza.html);
+            html += u"<p class=\"pliegue %1\"><a href=\"pliegue:%2\">%3 %4</a></p>"_s.arg(
+                m_clases[pieza.pliegue], QString::number(pieza.pliegue), abierto ? u"▾"_s : u"▸"_s,
+                pieza.html);
         else if (pieza.tipo == Pieza::Cierra)
             html += u"</div>"_s;
         else if (abierto)

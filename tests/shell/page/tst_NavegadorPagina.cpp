@@ -128,6 +128,9 @@ private Q_SLOTS:
         auto *contenido = control<QListWidget>(&entera, u"lstContenido"_s);
         QVERIFY(contenido->isVisible());
         pagina.verticalScrollBar()->setValue(0);
+        QCOMPARE(contenido->currentRow(), -1); // the contents themselves
+        pagina.verticalScrollBar()->setValue(altura / 2);
+        QCOMPARE(contenido->currentRow(), 0);
         QCOMPARE(contenido->item(1)->text(), u"Dos"_s);
         contenido->setCurrentRow(1);
         Q_EMIT contenido->itemActivated(contenido->item(1));

@@ -47,10 +47,10 @@ private Q_SLOTS:
     {
         filasDeTexto<QString, QString>(uR"(
 closed | | ▸ Prueba <i>a</i></a></p><p><img
-a fold | 0 | ▾ Prueba <i>a</i></a></p><div class="plegado prueba"><p id="b">primo</p><p class="pliegue"><a href="pliegue:1">▸ Paso</a></p></div><p><img
+a fold | 0 | ▾ Prueba <i>a</i></a></p><div class="plegado prueba"><p id="b">primo</p><p class="pliegue paso"><a href="pliegue:1">▸ Paso</a></p></div><p><img
 a fold in it | 0 1 | ▾ Paso</a></p><div class="plegado paso"><p>PRIMÓ&#160;x</p></div></div><p>
 an inner one alone | 1 | ▸ Prueba <i>a</i></a></p><p><img
-an alternative text | 2 | Pie</p><p class="pliegue"><a href="pliegue:2">▾ Qué muestra la figura</a></p><div class="plegado descripcion"><p>Un primo &lt; 7</p></div><ol>
+an alternative text | 2 | Pie</p><p class="pliegue descripcion"><a href="pliegue:2">▾ Qué muestra la figura</a></p><div class="plegado descripcion"><p>Un primo &lt; 7</p></div><ol>
 no script | | </ol><p>fin)"_s);
     }
     void loPlegadoSeDeja()
