@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/bank/Fibonacci.h"
 
+#include "lessons/fibonacci/NumeroDeFibonacci.h"
 #include "lessons/fibonacci/PasosDeIdentidad.h"
 #include "lessons/fibonacci/PasosDeZeckendorf.h"
 #include "practice/bank/JuicioDeNumeros.h"
@@ -16,7 +17,7 @@ namespace {
 
 QString F(int n)
 {
-    return QString::number(fibonacciDe(n));
+    return numeroDeFibonacci(n);
 }
 
 Fallo juzgaSuma(const RespuestaLeida &respuesta, int n)

@@ -110,7 +110,7 @@ Recurrencia deSegundoOrden(Sorteo &sorteo)
     const qint64 r = raices.first;
     const qint64 s = raices.second;
     const qint64 A = sorteo.entre(1, 4);
-    const qint64 B = sorteo.entre(1, 3);
+    const qint64 B = sorteo.entre(1, A); // so that both first values are positive
     const int n = static_cast<int>(sorteo.entre(5, 8));
     const qint64 x0 = r == s ? A : A + B;
     const qint64 x1 = r == s ? (A + B) * r : A * r + B * s;

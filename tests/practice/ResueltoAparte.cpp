@@ -9,7 +9,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-Enunciado::Enunciado(const QString &t, int n) : texto(t), nivel(n)
+Enunciado::Enunciado(const QString &t, int elNivel) : texto(t), nivel(elNivel)
 {
     qint64 numero = -1;
     for (const QChar c : texto + u' ') {
@@ -17,7 +17,7 @@ Enunciado::Enunciado(const QString &t, int n) : texto(t), nivel(n)
         if (cifra >= 0)
             numero = (numero < 0 ? 0 : numero * 10) + cifra;
         else if (numero >= 0) {
-            this->n << numero;
+            n << numero;
             numero = -1;
         }
     }
