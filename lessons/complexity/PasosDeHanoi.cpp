@@ -10,18 +10,22 @@ namespace {
 
 constexpr QSizeF Cuadro(300, 150);
 
-/// The towers within a frame, disc `destacado` in full colour.
+/// The towers within a frame, of the discs only `destacado` in full colour.
 void agregaTorres(Lamina &lamina, const TorresHanoi &torres, QPointF esquina, int destacado)
 {
     const GeometriaHanoi geometria(Cuadro, torres.discos());
     lamina.rectangulo(geometria.base().translated(esquina), {Tono::Suave}, true);
     for (int palo = 0; palo < TorresHanoi::NumPalos; ++palo) {
-        lamina.rectangulo(geometria.palo(palo).translated(esquina), {Tono::Suave}, true);
+        // Discs that are not filled would not hide it.
+        QRectF vara = geometria.palo(palo);
+        vara.setBottom(
+            geometria.disco(1, palo, static_cast<int>(torres.palo(palo).size())).bottom());
+        lamina.rectangulo(vara.translated(esquina), {Tono::Suave}, true);
         for (int altura = 0; altura < torres.palo(palo).size(); ++altura) {
             const int disco = torres.palo(palo).at(altura);
+            const bool suyo = disco == destacado;
             lamina.rectangulo(geometria.disco(disco, palo, altura).translated(esquina),
-                              disco == destacado ? Tono{Tono::Acento} : Tono::serie(disco), true,
-                              QString::number(disco));
+                              suyo ? Tono{Tono::Acento} : Tono{}, suyo, QString::number(disco));
         }
     }
 }

@@ -3,6 +3,7 @@
 
 #include "practice/bank/Aritmetica.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/steps/PasosDeInverso.h"
 
 #include <algorithm>
 #include <array>
@@ -146,9 +147,9 @@ Pasos pasosDeLambda(const Factores &factores)
 Factores factoresParaLambda(int nivel, Sorteo &sorteo)
 {
     if (nivel == 1)
-        return factoresConPotencia({3, 5, 7, 11}, 2, 1, sorteo);
-    const Factores dos{{2, static_cast<int>(sorteo.entre(3, 2 + nivel))}};
-    return dos + factoresConPotencia({3, 5, 7}, nivel - 1, 1, sorteo);
+        return factoresConPotencia({3, 5, 7, 11, 13}, 2, 1, sorteo);
+    const Factores dos{{2, static_cast<int>(sorteo.entre(3, 5))}};
+    return dos + factoresConPotencia({3, 5, 7, 11, 13}, nivel - 1, 1, sorteo);
 }
 
 Ejercicio lambda(int nivel, Sorteo &sorteo)
@@ -202,7 +203,7 @@ Pasos pasosDeUnidad(qint64 a, qint64 n)
 {
     const qint64 d = std::gcd(a, n);
     if (d == 1)
-        return pasosDeInversoModular(a, n);
+        return pasosDeInverso(QString::number(a), QString::number(n));
     return Pasos(
         {pasoCon(Traduce(u"Tienen un divisor común: no es una unidad."_s),
                  {u"mcd(%1; %2) = %3"_s.arg(a).arg(n).arg(d)}),

@@ -2,7 +2,6 @@
 #include "practice/bank/Aritmetica.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "lessons/euclid/PasosDeEuclides.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
@@ -209,53 +208,5 @@ Paso pasoCon(const QString &frase, const QStringList &formulas)
 
 Pasos seguidos(const Pasos &antes, const QList<Paso> &despues)
 {
-    return Pasos(antes.cuantos() + despues.size(), [antes, despues](qsizetype i) {
-        return i < antes.cuantos() ? antes.paso(i) : despues[i - antes.cuantos()];
-    });
-}
-
-Pasos pasosDePotenciaModular(qint64 base, qint64 exponente, qint64 n)
-{
-    const auto m = static_cast<std::int32_t>(n);
-    QList<Paso> pasos;
-    const QString cifras = QString::number(exponente, 2);
-    for (qsizetype i = 0; i < cifras.size(); ++i) {
-        const qint64 hasta = cifras.first(i + 1).toLongLong(nullptr, 2);
-        const qint64 anterior = potenciaMod(base, hasta / 2, m);
-        const QString factor = cifras[i] == u'1' ? u'*' + trasSigno(base) : QString();
-        if (i == 0)
-            continue;
-        pasos << pasoCon(factor.isEmpty()
-                             ? Traduce(u"La cifra binaria es 0: se eleva al cuadrado."_s)
-                             : Traduce(u"La cifra binaria es 1: se eleva al cuadrado y se "
-                                       "multiplica por la base."_s),
-                         {u"%1^{%2} == %3^2%4 == %5 (mod %6)"_s.arg(trasSigno(base))
-                              .arg(hasta)
-                              .arg(anterior)
-                              .arg(factor)
-                              .arg(potenciaMod(base, hasta, m))
-                              .arg(n)});
-    }
-    if (exponente < 2)
-        pasos << pasoCon(Traduce(u"No hay nada que elevar."_s),
-                         {u"%1^%2 == %3 (mod %4)"_s.arg(trasSigno(base))
-                              .arg(exponente)
-                              .arg(potenciaMod(base, exponente, m))
-                              .arg(n)});
-    return Pasos(pasos);
-}
-
-Pasos pasosDeInversoModular(qint64 a, qint64 n)
-{
-    const TablaEuclides tabla(Moneda::deEntero(n), Moneda::deEntero(a),
-                              AlgoritmoEuclides::Estandar);
-    const qint64 inverso = grupoDe(n).unidad(static_cast<std::int32_t>(a))->inverso;
-    return seguidos(
-        pasosDeEuclides(tabla),
-        {pasoCon(Traduce(u"Sustituyendo los restos de abajo arriba, 1 queda como combinación "
-                         "de los dos números, y el coeficiente de %1 es su inverso."_s)
-                     .arg(a),
-                 {u"%1*%2 + %3*%4 = 1"_s.arg(a).arg(inverso).arg(n).arg(
-                      trasSigno((1 - a * inverso) / n)),
-                  u"%1*%2 == 1 (mod %3)"_s.arg(a).arg(inverso).arg(n)})});
+    return Pasos::seguidos({antes, Pasos(despues)});
 }

@@ -76,7 +76,3 @@ QString trasSigno(qint64 n);
 Paso pasoCon(const QString &frase, const QStringList &formulas);
 /// Steps behind steps.
 Pasos seguidos(const Pasos &antes, const QList<Paso> &despues);
-/// A power by repeated squaring.
-Pasos pasosDePotenciaModular(qint64 base, qint64 exponente, qint64 n);
-/// The inverse of a unit by Euclid's algorithm.
-Pasos pasosDeInversoModular(qint64 a, qint64 n);

@@ -21,32 +21,33 @@ Ejercicio cuantosBloques(Sorteo &sorteo)
     const qint64 llenos = sorteo.entre(3, 20);
     const qint64 sobran = sorteo.entre(1, r);
     const qint64 n = llenos * r + sobran;
-    return {.enunciado = Traduce(u"¿En cuántos bloques se cifra un texto de %1 caracteres, si la "
-                                 "clave tiene r = %2?"_s)
-                             .arg(n)
-                             .arg(r),
-            .forma = {FormaDeRespuesta::Entero},
-            .ejemplo = Traduce(u"Un número"_s),
-            .esperada = QString::number(llenos + 1),
-            .juzga = juicioDe(
-                QString::number(llenos + 1),
-                {{QString::number(llenos),
-                  Traduce(u"El último bloque también cuenta, aunque no se llene."_s),
-                  u"ultimo-bloque"_s},
-                 {QString::number(n * r), Traduce(u"Hay que repartir los caracteres, no repetirlos."_s),
-                  u"producto"_s},
-                 {QString::number(3 * n), Traduce(u"Esas son las cifras, tres por carácter."_s),
-                  u"cifras"_s}},
-                Traduce(u"Cuente cuántas veces se toman r caracteres hasta acabar el texto."_s)),
-            .pistas = {Traduce(u"Cada bloque lleva r caracteres; el último se completa con "
-                               "espacios."_s),
-                       Traduce(u"Divida %1 entre %2, y redondee por exceso."_s).arg(n).arg(r)},
-            .solucion = [=] {
-                return Pasos(QList<Paso>{
-                    {Traduce(u"Se reparten los caracteres de r en r; si sobran, hay un bloque más."_s),
-                     {u"%1 = %2*%3 + %4"_s.arg(n).arg(llenos).arg(r).arg(sobran),
-                      u"ceil(%1/%2) = %3"_s.arg(n).arg(r).arg(llenos + 1)}}});
-            }};
+    return {
+        .enunciado = Traduce(u"¿En cuántos bloques se cifra un texto de %1 caracteres, si la "
+                             "clave tiene r = %2?"_s)
+                         .arg(n)
+                         .arg(r),
+        .forma = {FormaDeRespuesta::Entero},
+        .ejemplo = Traduce(u"Un número"_s),
+        .esperada = QString::number(llenos + 1),
+        .juzga = juicioDe(
+            QString::number(llenos + 1),
+            {{QString::number(llenos),
+              Traduce(u"El último bloque también cuenta, aunque no se llene."_s),
+              u"ultimo-bloque"_s},
+             {QString::number(n * r), Traduce(u"Hay que repartir los caracteres, no repetirlos."_s),
+              u"producto"_s},
+             {QString::number(3 * n), Traduce(u"Esas son las cifras, tres por carácter."_s),
+              u"cifras"_s}},
+            Traduce(u"Cuente cuántas veces se toman r caracteres hasta acabar el texto."_s)),
+        .pistas = {Traduce(u"Cada bloque lleva r caracteres; el último se completa con "
+                           "espacios."_s),
+                   Traduce(u"Divida %1 entre %2, y redondee por exceso."_s).arg(n).arg(r)},
+        .solucion = [=] {
+            return Pasos(QList<Paso>{
+                {Traduce(u"Se reparten los caracteres de r en r; si sobran, hay un bloque más."_s),
+                 {u"%1 = %2*%3 + %4"_s.arg(n).arg(llenos).arg(r).arg(sobran),
+                  u"ceil(%1/%2) = %3"_s.arg(n).arg(r).arg(llenos + 1)}}});
+        }};
 }
 
 QStringList codigosDe(const QString &palabra, int r)
@@ -60,10 +61,10 @@ QStringList codigosDe(const QString &palabra, int r)
 
 Ejercicio primerBloque(Sorteo &sorteo)
 {
-    static const QStringList palabras = {
-        u"CRIPTOGRAFIA"_s, u"EUCLIDES"_s,  u"FIBONACCI"_s, u"CONGRUENCIA"_s,  u"RECURSION"_s,
-        u"ALGORITMO"_s,    u"PRIMOS"_s,    u"UNIDADES"_s,  u"DIVISIBILIDAD"_s, u"PERIODO"_s,
-        u"TEOREMA"_s,      u"MATEMATICA"_s};
+    static const QStringList palabras = {u"CRIPTOGRAFIA"_s, u"EUCLIDES"_s,  u"FIBONACCI"_s,
+                                         u"CONGRUENCIA"_s,  u"RECURSION"_s, u"ALGORITMO"_s,
+                                         u"PRIMOS"_s,       u"UNIDADES"_s,  u"DIVISIBILIDAD"_s,
+                                         u"PERIODO"_s,      u"TEOREMA"_s,   u"MATEMATICA"_s};
     const QString palabra = sorteo.de(palabras);
     const int r = static_cast<int>(sorteo.entre(2, 4));
     PaquetesDeTexto paquetes(palabra, r);
@@ -131,44 +132,45 @@ Ejercicio bitsYBloque(Sorteo &sorteo)
     const qint64 otro = primoDesde(p + sorteo.entre(1, p / 2));
     const int bits = bitsDe(p * otro);
     const auto par = [](int a, int b) { return u"%1 %2"_s.arg(a).arg(b); };
-    return {.enunciado = Traduce(u"Los primos de una clave son %1 y %2. ¿Cuántos bits tiene q, y "
-                                 "cuál es el mayor r con el que cada primo pasa del mayor bloque?"_s)
-                             .arg(p)
-                             .arg(otro),
-            .forma = {FormaDeRespuesta::Lista},
-            .ejemplo = Traduce(u"Bits y r: 12, 1"_s),
-            .esperada = u"%1, %2"_s.arg(bits).arg(r),
-            .juzga = juicioDe(
-                par(bits, r),
-                {{par(r, bits), Traduce(u"Están en el otro orden."_s), u"orden"_s},
-                 {par(bits - 1, r),
-                  Traduce(u"Ese es el exponente de la mayor potencia de 2 que cabe: falta la cifra "
-                          "de las unidades."_s),
-                  u"un-bit"_s},
-                 {par(bitsDe(p) + bitsDe(otro), r),
-                  Traduce(u"Los bits de un producto pueden ser uno menos que los de sus factores "
-                          "juntos."_s),
-                  u"suma-de-bits"_s},
-                 {par(bits, r + 1),
-                  Traduce(u"Con ese r, el mayor bloque, 255 escrito r veces, pasa de un primo."_s),
-                  u"r-grande"_s}},
-                Traduce(u"Se piden dos números: las cifras binarias de q, y cuántas veces seguidas se "
-                        "puede escribir 255 sin llegar al menor de los primos."_s)),
-            .pistas = {Traduce(u"El mayor bloque es 255 escrito r veces. Los bits son las cifras de q "
-                               "en base 2."_s),
-                       Traduce(u"q = %1: busque entre qué potencias de 2 está, y compare %2 con 255, "
-                               "255255…"_s)
-                           .arg(p * otro)
-                           .arg(p)},
-            .solucion = [=] {
-                return Pasos(QList<Paso>{
-                    {Traduce(u"q tiene tantos bits como el exponente de la primera potencia de 2 que "
-                             "pasa de él."_s),
-                     {u"%1*%2 = %3"_s.arg(p).arg(otro).arg(p * otro),
-                      u"2^%1 <= %2 < 2^%3"_s.arg(bits - 1).arg(p * otro).arg(bits)}},
-                    {Traduce(u"El menor de los primos está entre dos de los mayores bloques."_s),
-                     {u"%1 < %2 < %3"_s.arg(topeDe(r)).arg(p).arg(topeDe(r + 1))}}});
-            }};
+    return {
+        .enunciado = Traduce(u"Los primos de una clave son %1 y %2. ¿Cuántos bits tiene q, y "
+                             "cuál es el mayor r con el que cada primo pasa del mayor bloque?"_s)
+                         .arg(p)
+                         .arg(otro),
+        .forma = {FormaDeRespuesta::Lista},
+        .ejemplo = Traduce(u"Bits y r: 12, 1"_s),
+        .esperada = u"%1, %2"_s.arg(bits).arg(r),
+        .juzga = juicioDe(
+            par(bits, r),
+            {{par(r, bits), Traduce(u"Están en el otro orden."_s), u"orden"_s},
+             {par(bits - 1, r),
+              Traduce(u"Ese es el exponente de la mayor potencia de 2 que cabe: falta la cifra "
+                      "de las unidades."_s),
+              u"un-bit"_s},
+             {par(bitsDe(p) + bitsDe(otro), r),
+              Traduce(u"Los bits de un producto pueden ser uno menos que los de sus factores "
+                      "juntos."_s),
+              u"suma-de-bits"_s},
+             {par(bits, r + 1),
+              Traduce(u"Con ese r, el mayor bloque, 255 escrito r veces, pasa de un primo."_s),
+              u"r-grande"_s}},
+            Traduce(u"Se piden dos números: las cifras binarias de q, y cuántas veces seguidas se "
+                    "puede escribir 255 sin llegar al menor de los primos."_s)),
+        .pistas = {Traduce(u"El mayor bloque es 255 escrito r veces. Los bits son las cifras de q "
+                           "en base 2."_s),
+                   Traduce(u"q = %1: busque entre qué potencias de 2 está, y compare %2 con 255, "
+                           "255255…"_s)
+                       .arg(p * otro)
+                       .arg(p)},
+        .solucion = [=] {
+            return Pasos(QList<Paso>{
+                {Traduce(u"q tiene tantos bits como el exponente de la primera potencia de 2 que "
+                         "pasa de él."_s),
+                 {u"%1*%2 = %3"_s.arg(p).arg(otro).arg(p * otro),
+                  u"2^%1 <= %2 < 2^%3"_s.arg(bits - 1).arg(p * otro).arg(bits)}},
+                {Traduce(u"El menor de los primos está entre dos de los mayores bloques."_s),
+                 {u"%1 < %2 < %3"_s.arg(topeDe(r)).arg(p).arg(topeDe(r + 1))}}});
+        }};
 }
 
 } // namespace

@@ -14,9 +14,8 @@ namespace {
 /// From the slowest to the fastest.
 const QStringList &ordenes()
 {
-    static const QStringList todos = {u"log n"_s,    u"n"_s,  u"n log n"_s, u"n²"_s,
-                                      u"n² log n"_s, u"n³"_s, u"φⁿ"_s,      u"2ⁿ"_s,
-                                      u"3ⁿ"_s,       u"n!"_s};
+    static const QStringList todos = {u"log n"_s, u"n"_s,  u"n log n"_s, u"n²"_s, u"n² log n"_s,
+                                      u"n³"_s,    u"φⁿ"_s, u"2ⁿ"_s,      u"3ⁿ"_s, u"n!"_s};
     return todos;
 }
 
@@ -68,11 +67,9 @@ Funcion suma(Sorteo &sorteo)
         nombres << ordenes()[i];
     return {u"f(n) = "_s + terminos.join(u" + "_s),
             nombres[2],
-            {{nombres[0],
-              Traduce(u"Una constante, por grande que sea, no cambia el orden."_s),
+            {{nombres[0], Traduce(u"Una constante, por grande que sea, no cambia el orden."_s),
               u"constante"_s},
-             {nombres[1],
-              Traduce(u"Ese sumando está, pero con n grande hay otro que manda."_s),
+             {nombres[1], Traduce(u"Ese sumando está, pero con n grande hay otro que manda."_s),
               u"otro-sumando"_s}},
             {Traduce(u"Una constante, por grande que sea, no cambia el orden."_s),
              Traduce(u"De menos a más: %1. Manda el último que aparece."_s)
@@ -112,32 +109,32 @@ Funcion partiendo(Sorteo &sorteo)
          igual ? u"sin-log"_s : u"con-log"_s},
         {orden(std::min(caso.hojas, caso.d), false),
          Traduce(u"Compare lo que pesa la raíz con lo que pesan las hojas."_s), u"la-otra"_s}};
-    return {
-        u"T(n) = %1T(n/%2) + %3"_s.arg(a == 1 ? QString() : QString::number(a)).arg(b).arg(
-            gastos[caso.d]),
-        orden(manda, igual),
-        errores,
-        {Traduce(u"Teorema maestro: compare a con b elevado a d."_s),
-         Traduce(u"a = %1, b = %2, d = %3: b elevado a d es %4."_s)
-             .arg(a)
-             .arg(b)
-             .arg(caso.d)
-             .arg(potencia(b, caso.d))},
-        {{Traduce(u"a = %1, b = %2, d = %3: se compara a con la potencia de b."_s)
-              .arg(a)
-              .arg(b)
-              .arg(caso.d),
-          {u"%1^%2 = %3"_s.arg(b).arg(caso.d).arg(potencia(b, caso.d)),
-           u"%1 %2 %3^%4"_s.arg(a)
-               .arg(igual                   ? u"="_s
-                    : caso.hojas > caso.d ? u">"_s
-                                          : u"<"_s)
-               .arg(b)
-               .arg(caso.d)}},
-         {(igual                 ? Traduce(u"Todas las filas pesan igual: el orden es %1."_s)
-           : caso.hojas > caso.d ? Traduce(u"Mandan las hojas: el orden es %1."_s)
-                                 : Traduce(u"Manda la raíz: el orden es %1."_s))
-              .arg(orden(manda, igual))}}};
+    return {u"T(n) = %1T(n/%2) + %3"_s.arg(a == 1 ? QString() : QString::number(a))
+                .arg(b)
+                .arg(gastos[caso.d]),
+            orden(manda, igual),
+            errores,
+            {Traduce(u"Teorema maestro: compare a con b elevado a d."_s),
+             Traduce(u"a = %1, b = %2, d = %3: b elevado a d es %4."_s)
+                 .arg(a)
+                 .arg(b)
+                 .arg(caso.d)
+                 .arg(potencia(b, caso.d))},
+            {{Traduce(u"a = %1, b = %2, d = %3: se compara a con la potencia de b."_s)
+                  .arg(a)
+                  .arg(b)
+                  .arg(caso.d),
+              {u"%1^%2 = %3"_s.arg(b).arg(caso.d).arg(potencia(b, caso.d)),
+               u"%1 %2 %3^%4"_s.arg(a)
+                   .arg(igual                 ? u"="_s
+                        : caso.hojas > caso.d ? u">"_s
+                                              : u"<"_s)
+                   .arg(b)
+                   .arg(caso.d)}},
+             {(igual                 ? Traduce(u"Todas las filas pesan igual: el orden es %1."_s)
+               : caso.hojas > caso.d ? Traduce(u"Mandan las hojas: el orden es %1."_s)
+                                     : Traduce(u"Manda la raíz: el orden es %1."_s))
+                  .arg(orden(manda, igual))}}};
 }
 
 /// What goes down by one, two or the half, with its order and why.
@@ -149,8 +146,7 @@ Funcion bajando(Sorteo &sorteo)
     };
     const QString c = QString::number(sorteo.entre(2, 60));
     const QList<Caso> casos = {
-        {u"T(n) = T(n − 1) + %1"_s, u"n"_s, u"log n"_s,
-         Traduce(u"Se suma lo mismo n veces."_s)},
+        {u"T(n) = T(n − 1) + %1"_s, u"n"_s, u"log n"_s, Traduce(u"Se suma lo mismo n veces."_s)},
         {u"T(n) = T(n − 1) + n + %1"_s, u"n²"_s, u"n"_s,
          Traduce(u"Es la suma de los n primeros números, y algo más."_s)},
         {u"T(n) = T(n − 1) + n² + %1"_s, u"n³"_s, u"n²"_s,

@@ -35,27 +35,28 @@ Ejercicio valorSeguido(Sorteo &sorteo)
     const QString cola = (c < 0 ? u"− "_s : u"+ "_s) + numero(qAbs(c));
     QList<Paso> pasos;
     for (int n = 1; n <= k; ++n)
-        pasos << Paso{Traduce(u"De f(%1) sale f(%2)."_s).arg(n - 1).arg(n),
-                      {u"f(%1) = %2*(%3) + (%4) = %5"_s.arg(n).arg(b).arg(f[n - 1]).arg(c).arg(f[n])}};
-    return {.enunciado = Traduce(u"Sea f(0) = %1 y f(n) = %2f(n − 1) %3. ¿Cuánto vale f(%4)?"_s)
-                             .arg(numero(inicio), numero(b), cola, numero(k)),
-            .forma = {FormaDeRespuesta::Entero},
-            .ejemplo = Traduce(u"Un número"_s),
-            .esperada = numero(f[k]),
-            .juzga = juicioDe(
-                numero(f[k]),
-                {{numero(f[k - 1]), Traduce(u"Ese es el valor anterior."_s), u"un-lugar"_s},
-                 {numero(f[k + 1]), Traduce(u"Ese es el valor siguiente."_s), u"un-lugar"_s},
-                 {numero(inicio * potencia(b, k)),
-                  Traduce(u"Ha olvidado la constante que se suma."_s), u"sin-constante"_s},
-                 {numero(valores(inicio, b, -c, k)[k]),
-                  Traduce(u"La constante lleva otro signo."_s), u"signo"_s},
-                 {numero(b * k + c), Traduce(u"La regla se aplica a f(n − 1), no a n."_s),
-                  u"con-n"_s}},
-                Traduce(u"No es ese valor: empiece en f(0) y suba."_s)),
-            .pistas = {Traduce(u"Empiece en f(0) y suba de uno en uno."_s),
-                       u"f(1) = %1, f(2) = %2."_s.arg(f[1]).arg(f[2])},
-            .solucion = [pasos] { return Pasos(pasos); }};
+        pasos << Paso{
+            Traduce(u"De f(%1) sale f(%2)."_s).arg(n - 1).arg(n),
+            {u"f(%1) = %2*(%3) + (%4) = %5"_s.arg(n).arg(b).arg(f[n - 1]).arg(c).arg(f[n])}};
+    return {
+        .enunciado = Traduce(u"Sea f(0) = %1 y f(n) = %2f(n − 1) %3. ¿Cuánto vale f(%4)?"_s)
+                         .arg(numero(inicio), numero(b), cola, numero(k)),
+        .forma = {FormaDeRespuesta::Entero},
+        .ejemplo = Traduce(u"Un número"_s),
+        .esperada = numero(f[k]),
+        .juzga = juicioDe(
+            numero(f[k]),
+            {{numero(f[k - 1]), Traduce(u"Ese es el valor anterior."_s), u"un-lugar"_s},
+             {numero(f[k + 1]), Traduce(u"Ese es el valor siguiente."_s), u"un-lugar"_s},
+             {numero(inicio * potencia(b, k)), Traduce(u"Ha olvidado la constante que se suma."_s),
+              u"sin-constante"_s},
+             {numero(valores(inicio, b, -c, k)[k]), Traduce(u"La constante lleva otro signo."_s),
+              u"signo"_s},
+             {numero(b * k + c), Traduce(u"La regla se aplica a f(n − 1), no a n."_s), u"con-n"_s}},
+            Traduce(u"No es ese valor: empiece en f(0) y suba."_s)),
+        .pistas = {Traduce(u"Empiece en f(0) y suba de uno en uno."_s),
+                   u"f(1) = %1, f(2) = %2."_s.arg(f[1]).arg(f[2])},
+        .solucion = [pasos] { return Pasos(pasos); }};
 }
 
 /// A definition and whether each natural number gets down to a value.
@@ -89,7 +90,7 @@ Dudosa dudosaDe(Sorteo &sorteo)
          Traduce(u"Desde n > 0 se va cada vez más lejos de 0."_s), u"no-baja"_s},
         {u"f(0) = %1, f(n) = f(n − %2) + %3"_s.arg(f0, k, c), false,
          Traduce(u"Bajando así, algunos números saltan por encima del 0."_s), u"salta-el-caso"_s},
-        {u"f(0) = %1, f(n) = %2 · f(n) − %3"_s.arg(f0, k, c), false,
+        {u"f(0) = %1, f(n) = f(n) + %2"_s.arg(f0, c), false,
          Traduce(u"f(n) se pide a sí mismo: no se baja nunca."_s), u"no-baja"_s},
         {u"f(0) = %1, f(n) = f(%2n − %2) + %3"_s.arg(f0, k, c), false,
          Traduce(u"El argumento no baja desde el 2: o se queda igual o crece."_s), u"no-baja"_s}};
@@ -111,19 +112,21 @@ Ejercicio estaDefinida(Sorteo &sorteo)
                     if ((r.palabra == siONo[0]) == d.vale)
                         return acierto();
                     return Fallo::mal(
-                        d.vale ? Traduce(u"Pruebe con unos cuantos n: ¿se acaba llegando a un valor "
-                                         "dado?"_s)
-                               : Traduce(u"Pruebe con n = 1, 2, 3…: alguno no llega a ningún valor "
-                                         "dado."_s),
+                        d.vale
+                            ? Traduce(u"Pruebe con unos cuantos n: ¿se acaba llegando a un valor "
+                                      "dado?"_s)
+                            : Traduce(u"Pruebe con n = 1, 2, 3…: alguno no llega a ningún valor "
+                                      "dado."_s),
                         d.nota);
                 },
             .pistas = {Traduce(u"Cada argumento tiene que ser un natural menor que n, y la bajada, "
                                "acabar en un valor dado."_s),
                        Traduce(u"Calcule, si puede, f(1), f(2) y f(3)."_s)},
-            .solucion = [d] {
-                return Pasos(QList<Paso>{{(d.vale ? Traduce(u"Sí."_s) : Traduce(u"No."_s)) + u' ' +
-                                          d.razon}});
-            }};
+            .solucion =
+                [d] {
+                    return Pasos(QList<Paso>{
+                        {(d.vale ? Traduce(u"Sí."_s) : Traduce(u"No."_s)) + u' ' + d.razon}});
+                }};
 }
 
 /// The digits of n in base b, the last one first.
@@ -158,45 +161,44 @@ Ejercicio cifras(Sorteo &sorteo)
     QStringList sumandos;
     for (const qint64 cifra : lista)
         sumandos << numero(restos ? cifra : c);
-    return {.enunciado = Traduce(u"Sea f(0) = 0 y, si n > 0, f(n) = f(⌊n/%1⌋) + %2. ¿Cuánto vale "
-                                 "f(%3)?"_s)
-                             .arg(numero(b), cola, numero(n)),
-            .forma = {FormaDeRespuesta::Entero},
-            .ejemplo = Traduce(u"Un número"_s),
-            .esperada = numero(valor),
-            .juzga = juicioDe(
-                numero(valor),
-                {{numero(restos ? lista.size() : suma),
-                  restos ? Traduce(u"Se suman los restos, no las veces que se divide."_s)
-                         : Traduce(u"Se suma lo mismo en cada paso, no los restos."_s),
-                  u"otra-cuenta"_s},
-                 {numero(restos ? suma - lista.back() : porPasos - c),
-                  Traduce(u"También cuenta el último paso, el que llega a 0."_s), u"sin-el-ultimo"_s},
-                 {numero(porPasos + c), Traduce(u"f(0) vale 0: no suma nada."_s), u"cuenta-el-cero"_s},
-                 {numero(n % b), Traduce(u"Ese es solo el primer resto."_s), u"un-paso"_s},
-                 {numero(sumaDe(cifrasDe(n, 10))),
-                  Traduce(u"Esas son las cifras en base 10."_s), u"base-10"_s}},
-                Traduce(u"No es ese valor: escriba las llamadas hasta f(0)."_s)),
-            .pistas = {Traduce(u"Divida una y otra vez: ¿qué tiene que ver con escribir n en otra "
-                               "base?"_s),
-                       Traduce(u"En base %1 las cifras de %2, desde la última, son %3."_s)
-                           .arg(numero(b), numero(n), textoDe(lista, u", "_s))},
-            .solucion = [=] {
-                return Pasos(QList<Paso>{
-                    {Traduce(u"Cada división quita una cifra de n en base %1; desde la última, son "
-                             "%2."_s)
-                         .arg(numero(b), textoDe(lista, u", "_s))},
-                    {restos ? Traduce(u"Se suman las cifras."_s)
-                            : Traduce(u"Se suma %1 por cada cifra."_s).arg(c),
-                     {u"f(%1) = %2 = %3"_s.arg(n).arg(sumandos.join(u" + "_s)).arg(valor)}}});
-            }};
+    return {
+        .enunciado = Traduce(u"Sea f(0) = 0 y, si n > 0, f(n) = f(⌊n/%1⌋) + %2. ¿Cuánto vale "
+                             "f(%3)?"_s)
+                         .arg(numero(b), cola, numero(n)),
+        .forma = {FormaDeRespuesta::Entero},
+        .ejemplo = Traduce(u"Un número"_s),
+        .esperada = numero(valor),
+        .juzga = juicioDe(
+            numero(valor),
+            {{numero(restos ? lista.size() : suma),
+              restos ? Traduce(u"Se suman los restos, no las veces que se divide."_s)
+                     : Traduce(u"Se suma lo mismo en cada paso, no los restos."_s),
+              u"otra-cuenta"_s},
+             {numero(restos ? suma - lista.back() : porPasos - c),
+              Traduce(u"También cuenta el último paso, el que llega a 0."_s), u"sin-el-ultimo"_s},
+             {numero(porPasos + c), Traduce(u"f(0) vale 0: no suma nada."_s), u"cuenta-el-cero"_s},
+             {numero(n % b), Traduce(u"Ese es solo el primer resto."_s), u"un-paso"_s},
+             {numero(sumaDe(cifrasDe(n, 10))), Traduce(u"Esas son las cifras en base 10."_s),
+              u"base-10"_s}},
+            Traduce(u"No es ese valor: escriba las llamadas hasta f(0)."_s)),
+        .pistas = {Traduce(u"Divida una y otra vez: ¿qué tiene que ver con escribir n en otra "
+                           "base?"_s),
+                   Traduce(u"En base %1 las cifras de %2, desde la última, son %3."_s)
+                       .arg(numero(b), numero(n), textoDe(lista, u", "_s))},
+        .solucion = [=] {
+            return Pasos(QList<Paso>{
+                {Traduce(u"Cada división quita una cifra de n en base %1; desde la última, son "
+                         "%2."_s)
+                     .arg(numero(b), textoDe(lista, u", "_s))},
+                {restos ? Traduce(u"Se suman las cifras."_s)
+                        : Traduce(u"Se suma %1 por cada cifra."_s).arg(c),
+                 {u"f(%1) = %2 = %3"_s.arg(n).arg(sumandos.join(u" + "_s)).arg(valor)}}});
+        }};
 }
 
 } // namespace
 
 Ejercicio definicionRecursiva(int nivel, Sorteo &sorteo)
 {
-    return nivel == 1   ? valorSeguido(sorteo)
-           : nivel == 2 ? estaDefinida(sorteo)
-                        : cifras(sorteo);
+    return nivel == 1 ? valorSeguido(sorteo) : nivel == 2 ? estaDefinida(sorteo) : cifras(sorteo);
 }

@@ -151,7 +151,7 @@ Pasos pasosDeDivisores(const Factores &factores)
 Ejercicio divisores(int nivel, Sorteo &sorteo)
 {
     const Factores deN = nivel == 1   ? factoresConPotencia({2, 3, 5, 7}, 2, 2, sorteo)
-                         : nivel == 2 ? factoresConPotencia({2, 3, 5, 7}, 3, 1, sorteo)
+                         : nivel == 2 ? factoresConPotencia({2, 3, 5, 7, 11}, 3, 1, sorteo)
                                       : factoresConPotencia({2, 3, 5, 7, 11}, 3, 2, sorteo);
     const auto [cuantos, suma] = divisoresDe(deN);
     return {.enunciado = Traduce(u"¿Cuántos divisores positivos tiene %1, y cuánto suman?"_s)

@@ -166,13 +166,10 @@ QString recta(qint64 inicio, qint64 paso)
 
 Pasos pasosDeGeneral(const Ecuacion &e)
 {
-    const auto [s, t] = unaSolucion({e.a, e.b, e.mcd()});
     const auto [x, y] = unaSolucion(e);
     return seguidos(
         divisionesDe(e.a, std::abs(e.b)),
-        {pasoCon(Traduce(u"El máximo común divisor como combinación de los dos números."_s),
-                 {u"%1 = %2"_s.arg(e.combinada(s, t)).arg(e.mcd())}),
-         pasoCon(Traduce(u"Multiplicada por %1 da una solución."_s).arg(e.c / e.mcd()),
+        {pasoCon(Traduce(u"Multiplicada por %1 da una solución."_s).arg(e.c / e.mcd()),
                  {u"%1 = %2"_s.arg(e.combinada(x, y)).arg(e.c)}),
          pasoCon(Traduce(u"Las demás se separan de ella en lo que cada coeficiente tiene de más "
                          "sobre el máximo común divisor."_s),

@@ -138,18 +138,6 @@ Fallo juzgaBezout(const RespuestaLeida &r, qint64 a, qint64 b)
     return Fallo::mal(Traduce(u"Con esos números sale %1."_s).arg(valor), u"otro-valor"_s);
 }
 
-Pasos pasosDeBezout(qint64 a, qint64 b)
-{
-    const auto [s, t] = coeficientesDe(a, b);
-    return seguidos(pasosDeEuclides(tablaDe(a, b)),
-                    {pasoCon(Traduce(u"Se despeja cada resto y se sustituye, de abajo arriba."_s),
-                             {u"%1*%2 + %3*%4 = %5"_s.arg(a)
-                                  .arg(trasSigno(s))
-                                  .arg(b)
-                                  .arg(trasSigno(t))
-                                  .arg(std::gcd(a, b))})});
-}
-
 Ejercicio bezout(int nivel, Sorteo &sorteo)
 {
     const auto coprimos = coprimosDe(static_cast<int>(sorteo.entre(2, 3)) + nivel - 1, sorteo);
@@ -169,7 +157,7 @@ Ejercicio bezout(int nivel, Sorteo &sorteo)
             .pistas =
                 {Traduce(u"Haga el algoritmo de Euclides y despeje los restos de abajo arriba."_s),
                  Traduce(u"El máximo común divisor es %1, el último resto que no es 0."_s).arg(d)},
-            .solucion = [a, b] { return pasosDeBezout(a, b); }};
+            .solucion = [a, b] { return pasosDeEuclides(tablaDe(a, b)); }};
 }
 
 /// Two numbers for whose divisions with least absolute remainders so many are needed, one at least

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/bank/Fibonacci.h"
 
+#include "lessons/fibonacci/NumeroDeFibonacci.h"
 #include "lessons/fibonacci/PasosDeIdentidad.h"
 #include "lessons/fibonacci/PasosDeZeckendorf.h"
 #include "practice/bank/JuicioDeNumeros.h"
@@ -16,7 +17,7 @@ namespace {
 
 QString F(int n)
 {
-    return QString::number(fibonacciDe(n));
+    return numeroDeFibonacci(n);
 }
 
 Fallo juzgaSuma(const RespuestaLeida &respuesta, int n)
@@ -32,7 +33,8 @@ Fallo juzgaSuma(const RespuestaLeida &respuesta, int n)
         return Fallo::mal(Traduce(u"Algún sumando no es un número de Fibonacci."_s),
                           u"no-fibonacci"_s);
     case FalloZeckendorf::Consecutivos:
-        return Fallo::mal(Traduce(u"Hay dos sumandos iguales o consecutivos."_s), u"consecutivos"_s);
+        return Fallo::mal(Traduce(u"Hay dos sumandos iguales o consecutivos."_s),
+                          u"consecutivos"_s);
     case FalloZeckendorf::OtraSuma:
         return Fallo::mal(Traduce(u"Esos números no suman %1."_s).arg(n), u"otra-suma"_s);
     }
@@ -101,9 +103,10 @@ Ejercicio mcdDeFibonacci(int nivel, Sorteo &sorteo)
              {F(qAbs(a - b)), Traduce(u"Ha restado los índices una sola vez."_s), u"una-resta"_s},
              {F(qMin(a, b)), Traduce(u"El menor de los dos no divide al otro."_s), u"el-menor"_s}},
             Traduce(u"No es ese: el mcd de dos números de Fibonacci también es uno de ellos."_s)),
-        .pistas = {Traduce(u"El mcd de dos números de Fibonacci es el de otro índice, que sale de "
-                           "los dos."_s),
-                   Traduce(u"mcd(%1, %2) = %3. ¿Qué número de Fibonacci es?"_s).arg(a).arg(b).arg(d)},
+        .pistas =
+            {Traduce(u"El mcd de dos números de Fibonacci es el de otro índice, que sale de "
+                     "los dos."_s),
+             Traduce(u"mcd(%1, %2) = %3. ¿Qué número de Fibonacci es?"_s).arg(a).arg(b).arg(d)},
         .solucion = [a, b] { return pasosDeIdentidad(FilaDelMcd, a, b); }};
 }
 
@@ -118,7 +121,8 @@ Pasos pasosDeDoblado(int n, int desde)
     if (desde == 2 * n)
         return Pasos(QList<Paso>{par, impar});
     return Pasos(QList<Paso>{
-        par, impar,
+        par,
+        impar,
         {Traduce(u"El siguiente es la suma de los dos."_s),
          {u"F(%1) = %2 + %3 = %4"_s.arg(2 * n + 2).arg(F(2 * n), F(2 * n + 1), F(2 * n + 2))}}});
 }
@@ -152,7 +156,8 @@ Ejercicio doblado(int nivel, Sorteo &sorteo)
              {par(fibonacciDe(desde - 1), fibonacciDe(desde)),
               Traduce(u"Esos son los de los índices anteriores."_s), u"un-lugar"_s}},
             Traduce(u"No son esos dos. Repase las fórmulas de doblar."_s)),
-        .pistas = {Traduce(u"F(2n) = F(n) · (2 · F(n + 1) − F(n)), F(2n + 1) = F(n)² + F(n + 1)²."_s),
+        .pistas = {Traduce(
+                       u"F(2n) = F(n) · (2 · F(n + 1) − F(n)), F(2n + 1) = F(n)² + F(n + 1)²."_s),
                    Traduce(u"Con n = %1 las fórmulas dan F(%2) y F(%3); cada uno es la suma de los "
                            "dos anteriores."_s)
                        .arg(n)
@@ -179,9 +184,9 @@ Fallo juzgaResto(const RespuestaLeida &respuesta, qint64 n, qint64 m)
     if (dado == resto)
         return acierto();
     if (dado >= 0 && dado % m == resto)
-        return Fallo::mal(Traduce(u"Es congruente con F(n), pero el resto está entre 0 y %1."_s)
-                              .arg(m - 1),
-                          u"sin-reducir"_s);
+        return Fallo::mal(
+            Traduce(u"Es congruente con F(n), pero el resto está entre 0 y %1."_s).arg(m - 1),
+            u"sin-reducir"_s);
     if (dado == n % m)
         return Fallo::mal(Traduce(u"Ese es el resto del índice, no el de F(n)."_s),
                           u"resto-del-indice"_s);
@@ -209,23 +214,22 @@ Pasos pasosDeVuelta(qint64 n, qint64 m)
 
 Ejercicio restoDeFibonacci(int nivel, Sorteo &sorteo)
 {
-    static const QList<QList<qint64>> modulos = {{3, 4, 5, 7, 8},
-                                                 {6, 9, 11, 12, 13, 16, 18, 21},
-                                                 {10, 14, 15, 17, 19, 22, 23, 28, 29, 34}};
+    static const QList<QList<qint64>> modulos = {
+        {3, 4, 5, 7, 8}, {6, 9, 11, 12, 13, 16, 18, 21}, {10, 14, 15, 17, 19, 22, 23, 28, 29, 34}};
     const qint64 m = sorteo.de(modulos[nivel - 1]);
     const qint64 n = sorteo.entre(100, potencia(10, nivel + 2));
     const qint64 periodo = vueltaDe(m).size();
-    return {.enunciado =
-                Traduce(u"¿Qué resto deja F(%1) al dividirlo entre %2?"_s).arg(n).arg(m),
-            .forma = {FormaDeRespuesta::Entero, {}, {u"fib mod"_s}},
-            .ejemplo = Traduce(u"Un número"_s),
-            .esperada = QString::number(vueltaDe(m)[n % periodo]),
-            .juzga = [n, m](const RespuestaLeida &r) { return juzgaResto(r, n, m); },
-            .pistas = {Traduce(u"Escriba los restos de F(0), F(1)… hasta que vuelvan a salir un 0 y "
-                               "un 1 seguidos."_s),
-                       Traduce(u"Los restos se repiten de %1 en %1: divida el índice entre %1."_s)
-                           .arg(periodo)},
-            .solucion = [n, m] { return pasosDeVuelta(n, m); }};
+    return {
+        .enunciado = Traduce(u"¿Qué resto deja F(%1) al dividirlo entre %2?"_s).arg(n).arg(m),
+        .forma = {FormaDeRespuesta::Entero, {}, {u"fib mod"_s}},
+        .ejemplo = Traduce(u"Un número"_s),
+        .esperada = QString::number(vueltaDe(m)[n % periodo]),
+        .juzga = [n, m](const RespuestaLeida &r) { return juzgaResto(r, n, m); },
+        .pistas = {Traduce(u"Escriba los restos de F(0), F(1)… hasta que vuelvan a salir un 0 y "
+                           "un 1 seguidos."_s),
+                   Traduce(u"Los restos se repiten de %1 en %1: divida el índice entre %1."_s)
+                       .arg(periodo)},
+        .solucion = [n, m] { return pasosDeVuelta(n, m); }};
 }
 
 } // namespace

@@ -124,7 +124,8 @@ Fallo juzgaFormula(const RespuestaLeida &respuesta, const Columna &columna)
         return Fallo::mal(Traduce(u"Da esos valores, pero una fila más arriba o más abajo."_s),
                           u"corrida"_s);
     if (dados[0] == valores[0])
-        return Fallo::mal(Traduce(u"Da el primero, pero no todos los demás."_s), u"solo-el-primero"_s);
+        return Fallo::mal(Traduce(u"Da el primero, pero no todos los demás."_s),
+                          u"solo-el-primero"_s);
     return Fallo::mal(Traduce(u"No da esos valores."_s));
 }
 
@@ -147,9 +148,10 @@ Pasos pasosDeColumna(const Columna &columna)
 Ejercicio formulaDeColumna(int nivel, Sorteo &sorteo)
 {
     const Columna columna = columnaDeNivel(nivel, sorteo);
-    return {.enunciado = Traduce(u"La columna A tiene los números 1, 2, 3… y la columna B, %1. ¿Qué "
-                                 "fórmula, con A1, se escribe en B1?"_s)
-                             .arg(columnaDe(columna.formula).join(u"; "_s)),
+    return {.enunciado =
+                Traduce(u"La columna A tiene los números 1, 2, 3… y la columna B, %1. ¿Qué "
+                        "fórmula, con A1, se escribe en B1?"_s)
+                    .arg(columnaDe(columna.formula).join(u"; "_s)),
             .forma = {FormaDeRespuesta::FormulaDeCelda},
             .ejemplo = Traduce(u"Una fórmula: 3*A1+1"_s),
             .esperada = columna.formula,

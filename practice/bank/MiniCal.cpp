@@ -39,8 +39,9 @@ Fallo juzgaCelda(const RespuestaLeida &respuesta, const Celda &celda)
         return acierto();
     const QString reducida = Evalua(u"(%1)/(%2)"_s.arg(respuesta.numeros[0], respuesta.numeros[1]));
     if (reducida == celda.muestra)
-        return Fallo::mal(Traduce(u"Vale lo mismo, pero la celda muestra la fracción irreducible."_s),
-                          u"sin-reducir"_s);
+        return Fallo::mal(
+            Traduce(u"Vale lo mismo, pero la celda muestra la fracción irreducible."_s),
+            u"sin-reducir"_s);
     for (const ErrorTipico &error : celda.errores) {
         if (partesDe(error.numeros) == dada || error.numeros == reducida)
             return Fallo::mal(error.palabra, error.nota);
@@ -113,7 +114,8 @@ Celda fracciones(Sorteo &sorteo)
           Traduce(u"Ha confundido la suma con la resta."_s), u"signo"_s},
          {valorDe(u"%1/%2*%3/%4"_s.arg(a).arg(b).arg(c).arg(d)), Traduce(u"Las ha multiplicado."_s),
           u"producto"_s}},
-        Traduce(u"Con el mismo denominador, y dividiendo al final entre el máximo común divisor."_s),
+        Traduce(
+            u"Con el mismo denominador, y dividiendo al final entre el máximo común divisor."_s),
         u"%1/%2 %3 %4/%2"_s.arg(a * comun / b).arg(comun).arg(signo).arg(c * comun / d));
 }
 
@@ -164,20 +166,18 @@ Celda funciones(Sorteo &sorteo)
     const qint64 v = sorteo.de(coprimosCon(u, u + 1, 16));
     const bool mcm = sorteo.moneda();
     const QString par = u"(%1;%2)"_s.arg(d * u).arg(d * v);
-    return celdaCon((mcm ? u"mcm"_s : u"mcd"_s) + par,
-                    {Traduce(u"mcd es el máximo común divisor, y mcm, el mínimo común múltiplo."_s),
-                     Traduce(u"El producto de los dos números es %1, que es también mcd por mcm."_s)
-                         .arg(d * u * d * v)},
-                    {{valorDe((mcm ? u"mcd"_s : u"mcm"_s) + par),
-                      Traduce(u"Ha confundido mcd y mcm."_s), u"otra-funcion"_s},
-                     {QString::number(d * u * d * v), Traduce(u"Ese es el producto."_s),
-                      u"producto"_s},
-                     {QString::number(d * (v - u)), Traduce(u"Esa es la diferencia."_s),
-                      u"diferencia"_s}},
-                    mcm ? Traduce(u"El producto entre el máximo común divisor."_s)
-                        : Traduce(u"El mayor que divide a los dos."_s),
-                    mcm ? u"%1*%2/%3"_s.arg(d * u).arg(d * v).arg(d)
-                        : u"mcd(%1; %2)"_s.arg(d * u).arg(d * v));
+    return celdaCon(
+        (mcm ? u"mcm"_s : u"mcd"_s) + par,
+        {Traduce(u"mcd es el máximo común divisor, y mcm, el mínimo común múltiplo."_s),
+         Traduce(u"El producto de los dos números es %1, que es también mcd por mcm."_s)
+             .arg(d * u * d * v)},
+        {{valorDe((mcm ? u"mcd"_s : u"mcm"_s) + par), Traduce(u"Ha confundido mcd y mcm."_s),
+          u"otra-funcion"_s},
+         {QString::number(d * u * d * v), Traduce(u"Ese es el producto."_s), u"producto"_s},
+         {QString::number(d * (v - u)), Traduce(u"Esa es la diferencia."_s), u"diferencia"_s}},
+        mcm ? Traduce(u"El producto entre el máximo común divisor."_s)
+            : Traduce(u"El mayor que divide a los dos."_s),
+        mcm ? u"%1*%2/%3"_s.arg(d * u).arg(d * v).arg(d) : u"mcd(%1; %2)"_s.arg(d * u).arg(d * v));
 }
 
 /// A3 from A1 and A2, of which A2 stays as it was when A1 is changed.
@@ -190,25 +190,26 @@ Celda enCadena(Sorteo &sorteo)
     const qint64 d = sorteo.entre(2, 5);
     const qint64 a2 = a * b + c;
     const auto fraccion = [d](qint64 n) { return valorDe(u"%1/%2"_s.arg(n).arg(d)); };
-    return {Traduce(u"En A1 se escribe %1; en A2, A1*%2+%3. Después se cambia A1 por %4, y en A3 se "
-                    "escribe (A1+A2)/%5, sin recalcular A2. ¿Qué muestra A3?"_s)
-                .arg(a)
-                .arg(b)
-                .arg(c)
-                .arg(nuevo)
-                .arg(d),
-            fraccion(nuevo + a2),
-            {{fraccion(nuevo + nuevo * b + c),
-              Traduce(u"A2 no cambia sola: sigue como estaba hasta que se recalcula."_s),
-              u"en-cadena"_s},
-             {fraccion(a + a2), Traduce(u"A1 ya tiene el número nuevo."_s), u"sin-cambio"_s},
-             {QString::number(nuevo + a2), Traduce(u"Falta dividir."_s), u"sin-dividir"_s}},
-            {Traduce(u"No hay cálculo en cadena: ¿con qué valor de A1 se calculó A2?"_s),
-             Traduce(u"Al escribir A3, A1 vale %1 y A2, %2."_s).arg(nuevo).arg(a2)},
-            {{Traduce(u"A2 se calculó con el primer A1, y no ha cambiado."_s),
-              {u"%1*%2 + %3 = %4"_s.arg(a).arg(b).arg(c).arg(a2)}},
-             {Traduce(u"A3 usa el A1 de ahora y ese A2."_s),
-              {u"(%1 + %2)/%3 = %4"_s.arg(nuevo).arg(a2).arg(d).arg(fraccion(nuevo + a2))}}}};
+    return {
+        Traduce(u"En A1 se escribe %1; en A2, A1*%2+%3. Después se cambia A1 por %4, y en A3 se "
+                "escribe (A1+A2)/%5, sin recalcular A2. ¿Qué muestra A3?"_s)
+            .arg(a)
+            .arg(b)
+            .arg(c)
+            .arg(nuevo)
+            .arg(d),
+        fraccion(nuevo + a2),
+        {{fraccion(nuevo + nuevo * b + c),
+          Traduce(u"A2 no cambia sola: sigue como estaba hasta que se recalcula."_s),
+          u"en-cadena"_s},
+         {fraccion(a + a2), Traduce(u"A1 ya tiene el número nuevo."_s), u"sin-cambio"_s},
+         {QString::number(nuevo + a2), Traduce(u"Falta dividir."_s), u"sin-dividir"_s}},
+        {Traduce(u"No hay cálculo en cadena: ¿con qué valor de A1 se calculó A2?"_s),
+         Traduce(u"Al escribir A3, A1 vale %1 y A2, %2."_s).arg(nuevo).arg(a2)},
+        {{Traduce(u"A2 se calculó con el primer A1, y no ha cambiado."_s),
+          {u"%1*%2 + %3 = %4"_s.arg(a).arg(b).arg(c).arg(a2)}},
+         {Traduce(u"A3 usa el A1 de ahora y ese A2."_s),
+          {u"(%1 + %2)/%3 = %4"_s.arg(nuevo).arg(a2).arg(d).arg(fraccion(nuevo + a2))}}}};
 }
 
 /// "A1" followed by a digit is read as its value times that digit.
@@ -218,25 +219,27 @@ Celda comoTexto(Sorteo &sorteo)
     const qint64 cifra = sorteo.entre(2, 9);
     const qint64 c = sorteo.entre(2, 20);
     const QString nombre = u"A1%1"_s.arg(cifra);
-    return {Traduce(u"En A1 hay un %1, y en %2 no hay nada. ¿Qué muestra una celda en la que se "
-                    "escribe «%2+%3»?"_s)
-                .arg(QString::number(a), nombre, QString::number(c)),
-            QString::number(a * cifra + c),
-            {{QString::number(c), Traduce(u"Antes de calcular se sustituye A1 por su valor, también "
-                                          "dentro de otro nombre."_s),
-              u"celda-vacia"_s},
-             {QString::number(a + c), Traduce(u"La cifra que sigue a A1 también cuenta."_s),
-              u"sin-la-cifra"_s},
-             {QString::number(10 * a + cifra + c),
-              Traduce(u"El valor se pone entre paréntesis: no se pegan las cifras, se multiplican."_s),
-              u"cifras-pegadas"_s},
-             {QString::number(a * (cifra + c)), Traduce(u"El producto va antes que la suma."_s),
-              u"orden"_s}},
-            {Traduce(u"Los nombres se sustituyen como texto, antes de calcular."_s),
-             Traduce(u"Queda (%1)%2+%3."_s).arg(a).arg(cifra).arg(c)},
-            {{Traduce(u"A1 se sustituye por su valor entre paréntesis, y la cifra que queda detrás "
-                      "multiplica."_s),
-              {u"(%1)*%2 + %3 = %4"_s.arg(a).arg(cifra).arg(c).arg(a * cifra + c)}}}};
+    return {
+        Traduce(u"En A1 hay un %1, y en %2 no hay nada. ¿Qué muestra una celda en la que se "
+                "escribe «%2+%3»?"_s)
+            .arg(QString::number(a), nombre, QString::number(c)),
+        QString::number(a * cifra + c),
+        {{QString::number(c),
+          Traduce(u"Antes de calcular se sustituye A1 por su valor, también "
+                  "dentro de otro nombre."_s),
+          u"celda-vacia"_s},
+         {QString::number(a + c), Traduce(u"La cifra que sigue a A1 también cuenta."_s),
+          u"sin-la-cifra"_s},
+         {QString::number(10 * a + cifra + c),
+          Traduce(u"El valor se pone entre paréntesis: no se pegan las cifras, se multiplican."_s),
+          u"cifras-pegadas"_s},
+         {QString::number(a * (cifra + c)), Traduce(u"El producto va antes que la suma."_s),
+          u"orden"_s}},
+        {Traduce(u"Los nombres se sustituyen como texto, antes de calcular."_s),
+         Traduce(u"Queda (%1)%2+%3."_s).arg(a).arg(cifra).arg(c)},
+        {{Traduce(u"A1 se sustituye por su valor entre paréntesis, y la cifra que queda detrás "
+                  "multiplica."_s),
+          {u"(%1)*%2 + %3 = %4"_s.arg(a).arg(cifra).arg(c).arg(a * cifra + c)}}}};
 }
 
 Celda celdaDeNivel(int nivel, Sorteo &sorteo)

@@ -44,9 +44,10 @@ Juicio juicioDelModulo(const Indicios &indicios)
         if (dado == m)
             return acierto();
         if (dado > 0 && dado <= indicios.mayorResto)
-            return Fallo::mal(Traduce(u"Un resto es siempre menor que el módulo, y hay alguno que no "
-                                      "lo sería."_s),
-                              u"resto-mayor"_s);
+            return Fallo::mal(
+                Traduce(u"Un resto es siempre menor que el módulo, y hay alguno que no "
+                        "lo sería."_s),
+                u"resto-mayor"_s);
         if (dado > 0 && m % dado == 0)
             return Fallo::mal(Traduce(u"Cuadra, pero hay otro mayor."_s), u"divisor"_s);
         if (dado > 0 && indicios.diferencias[0] % dado == 0)
@@ -110,22 +111,24 @@ Ejercicio deFibonacci(Sorteo &sorteo)
     const QList<qint64> valores = r.valores();
     for (int i = 0; i < 3; ++i) {
         datos << u"F(%1) = %2 → %3"_s.arg(r.lugar + i).arg(valores[i]).arg(valores[i] % r.m);
-        restas << u"%1 - %2 = %3"_s.arg(valores[i]).arg(valores[i] % r.m).arg(
-            valores[i] - valores[i] % r.m);
+        restas << u"%1 - %2 = %3"_s.arg(valores[i])
+                      .arg(valores[i] % r.m)
+                      .arg(valores[i] - valores[i] % r.m);
     }
-    return {.enunciado = Traduce(u"Los restos de tres números de Fibonacci módulo m son: %1. ¿Cuánto "
-                                 "vale m?"_s)
-                             .arg(datos.join(u", "_s)),
-            .forma = {FormaDeRespuesta::Entero},
-            .ejemplo = Traduce(u"Un número"_s),
-            .esperada = QString::number(r.m),
-            .juzga = juicioDelModulo(r.indicios()),
-            .pistas = {Traduce(u"El módulo divide a cada valor menos su resto, y es mayor que todos "
-                               "los restos."_s),
-                       Traduce(u"Divide a %1 y a %2."_s)
-                           .arg(r.indicios().diferencias[0])
-                           .arg(r.indicios().diferencias[1])},
-            .solucion = [=] { return Pasos(pasosDelModulo(restas, r.indicios())); }};
+    return {
+        .enunciado = Traduce(u"Los restos de tres números de Fibonacci módulo m son: %1. ¿Cuánto "
+                             "vale m?"_s)
+                         .arg(datos.join(u", "_s)),
+        .forma = {FormaDeRespuesta::Entero},
+        .ejemplo = Traduce(u"Un número"_s),
+        .esperada = QString::number(r.m),
+        .juzga = juicioDelModulo(r.indicios()),
+        .pistas = {Traduce(u"El módulo divide a cada valor menos su resto, y es mayor que todos "
+                           "los restos."_s),
+                   Traduce(u"Divide a %1 y a %2."_s)
+                       .arg(r.indicios().diferencias[0])
+                       .arg(r.indicios().diferencias[1])},
+        .solucion = [=] { return Pasos(pasosDelModulo(restas, r.indicios())); }};
 }
 
 /// A sequence whose first four values determine its coefficients: f(2)² − f(1)·f(3) is a unit.
@@ -174,10 +177,18 @@ Pasos pasosDeCoeficientes(const SucesionDePractica &s)
     const qint64 inverso = inversoModular(det, p);
     return Pasos(QList<Paso>{
         {Traduce(u"El tercer término y el cuarto son dos ecuaciones."_s),
-         {u"%1*%2 + %3*%4 == %5 (mod %6)"_s.arg(s.alfa).arg(f[1]).arg(s.beta).arg(f[0]).arg(f[2]).arg(
-              p),
-          u"%1*%2 + %3*%4 == %5 (mod %6)"_s.arg(s.alfa).arg(f[2]).arg(s.beta).arg(f[1]).arg(f[3]).arg(
-              p)}},
+         {u"%1*%2 + %3*%4 == %5 (mod %6)"_s.arg(s.alfa)
+              .arg(f[1])
+              .arg(s.beta)
+              .arg(f[0])
+              .arg(f[2])
+              .arg(p),
+          u"%1*%2 + %3*%4 == %5 (mod %6)"_s.arg(s.alfa)
+              .arg(f[2])
+              .arg(s.beta)
+              .arg(f[1])
+              .arg(f[3])
+              .arg(p)}},
         {Traduce(u"Se eliminan α o β; el número por el que quedan multiplicadas tiene inverso."_s),
          {u"%1^2 - %2*%3 == %4 (mod %5)"_s.arg(f[1]).arg(f[0]).arg(f[2]).arg(det).arg(p),
           u"%1*%2 == 1 (mod %3)"_s.arg(det).arg(inverso).arg(p)}},
@@ -201,9 +212,10 @@ Ejercicio coeficientes(Sorteo &sorteo)
 {
     const SucesionDePractica s = sucesionDeterminada(sorteo);
     const QList<qint64> f = s.valores(4);
-    return {.enunciado = Traduce(u"Módulo %1, una sucesión f(n) = α · f(n − 1) + β · f(n − 2) empieza "
-                                 "por %2. Halle α y β, por este orden."_s)
-                             .arg(QString::number(s.m), textoDe(f, u", "_s)),
+    return {.enunciado =
+                Traduce(u"Módulo %1, una sucesión f(n) = α · f(n − 1) + β · f(n − 2) empieza "
+                        "por %2. Halle α y β, por este orden."_s)
+                    .arg(QString::number(s.m), textoDe(f, u", "_s)),
             .forma = {FormaDeRespuesta::Lista},
             .ejemplo = Traduce(u"Dos números: 3, 5"_s),
             .esperada = u"%1, %2"_s.arg(s.alfa).arg(s.beta),
@@ -235,10 +247,10 @@ Ejercicio mayorModulo(Sorteo &sorteo)
                       .arg(f[i])
                       .arg(indicios.diferencias.back());
     }
-    return {.enunciado = Traduce(u"f(n) = %1 · f(n − 1) + %2 · f(n − 2), módulo m, empieza por %3. "
-                                 "¿Cuál es el mayor m con el que cuadra?"_s)
-                             .arg(QString::number(s.alfa), QString::number(s.beta),
-                                  textoDe(f, u", "_s)),
+    return {.enunciado =
+                Traduce(u"f(n) = %1 · f(n − 1) + %2 · f(n − 2), módulo m, empieza por %3. "
+                        "¿Cuál es el mayor m con el que cuadra?"_s)
+                    .arg(QString::number(s.alfa), QString::number(s.beta), textoDe(f, u", "_s)),
             .forma = {FormaDeRespuesta::Entero},
             .ejemplo = Traduce(u"Un número"_s),
             .esperada = QString::number(indicios.mcd()),

@@ -62,7 +62,7 @@ Ejercicio esPrimo(int nivel, Sorteo &sorteo)
     return {.enunciado = Traduce(u"¿Es primo %1? Si lo es, responda «primo»; si no, un divisor "
                                  "distinto de 1 y de %1."_s)
                              .arg(n),
-            .forma = {FormaDeRespuesta::Entero, {u"primo"_s, u"compuesto"_s}},
+            .forma = {FormaDeRespuesta::Entero, {u"primo"_s, u"compuesto"_s}, {u"primo"_s}},
             .ejemplo = Traduce(u"Una palabra o un número"_s),
             .esperada = primo ? u"primo"_s : QString::number(p),
             .juzga = [n](const RespuestaLeida &r) { return juzgaPrimo(r, n); },
@@ -149,7 +149,7 @@ Ejercicio factores(int nivel, Sorteo &sorteo)
             .esperada = enFormula(deN),
             .juzga = [deN](const RespuestaLeida &r) { return juzgaFactores(r, deN); },
             .pistas = {Traduce(u"Divida entre 2 mientras se pueda, luego entre 3, entre 5…"_s),
-                       Traduce(u"Su menor factor primo es %1, y aparece %2 veces."_s)
+                       Traduce(u"Su menor factor primo es %1, con exponente %2."_s)
                            .arg(deN[0].primo)
                            .arg(deN[0].exponente)},
             .solucion = [n] { return pasosDeFactores(n); }};
@@ -203,7 +203,7 @@ Ejercicio siguiente(int nivel, Sorteo &sorteo)
     const auto raiz = static_cast<qint64>(std::sqrt(primo));
     return {
         .enunciado = Traduce(u"¿Cuál es el menor primo mayor que %1?"_s).arg(n),
-        .forma = {FormaDeRespuesta::Entero},
+        .forma = {FormaDeRespuesta::Entero, {}, {u"sigprimo"_s}},
         .ejemplo = Traduce(u"Un número"_s),
         .esperada = QString::number(primo),
         .juzga = [n, primo](const RespuestaLeida &r) { return juzgaSiguiente(r, n, primo); },

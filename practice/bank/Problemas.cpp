@@ -64,14 +64,10 @@ Pasos pasosDePotencia(const PotenciaPorPartes &p)
                                             .arg(p.modulo(q))
                                             .arg(q)});
     }
-    const Pasos sistema = pasosDeSistema(s);
-    QList<Paso> resto;
-    for (qsizetype i = 0; i < sistema.cuantos(); ++i)
-        resto << sistema.paso(i);
-    return seguidos(Pasos(pasos), resto);
+    return Pasos::seguidos({Pasos(pasos), pasosDeSistema(s)});
 }
 
-/// A base that is neither 0, 1 nor −1 modulo the product, nor is its power.
+/// A base that is neither 0, 1 nor −1 modulo the product.
 PotenciaPorPartes potenciaDelNivel(int nivel, Sorteo &sorteo)
 {
     const QList<qint64> primos =
@@ -113,30 +109,38 @@ struct Historia
     QString principio, dato, pregunta;
 };
 
-QList<Historia> historias()
+Historia historia(qint64 cual)
 {
-    return {
-        {Traduce(u"Una pastora cuenta sus ovejas."_s),
-         Traduce(u"si las agrupa de %1 en %1 le sobran %2"_s),
-         Traduce(u"Son menos de %1. ¿Cuántas ovejas tiene?"_s)},
-        {Traduce(u"Una banda desfila en filas iguales."_s),
-         Traduce(u"en filas de %1 la última fila es de solo %2"_s),
-         Traduce(u"Son menos de %1. ¿Cuántos músicos hay?"_s)},
-        {Traduce(u"Unos piratas reparten monedas a partes iguales, pero alguno siempre falta."_s),
-         Traduce(u"si son %1 piratas quedan %2 monedas sin repartir"_s),
-         Traduce(u"Son menos de %1. ¿Cuántas monedas hay?"_s)},
-        {Traduce(u"En una granja ponen los huevos del día en cajas."_s),
-         Traduce(u"en cajas de %1 quedan %2 huevos fuera"_s),
-         Traduce(u"Son menos de %1. ¿Cuántos huevos hay?"_s)},
-        {Traduce(u"Varios faros dan un destello de vez en cuando."_s),
-         Traduce(u"uno lo da cada %1 segundos, y faltan %2 para el siguiente"_s),
-         Traduce(u"Coinciden antes de %1 segundos. ¿Dentro de cuántos?"_s)},
-        {Traduce(u"Un álbum de sellos se puede ordenar de varias maneras."_s),
-         Traduce(u"con %1 sellos en cada página la última tiene %2"_s),
-         Traduce(u"Son menos de %1. ¿Cuántos sellos hay?"_s)},
-        {Traduce(u"Una cinta da vueltas a varias ruedas dentadas con una marca arriba."_s),
-         Traduce(u"la marca de la rueda de %1 dientes está a %2 dientes de volver arriba"_s),
-         Traduce(u"Las marcas coinciden arriba antes de %1 dientes. ¿Cuántos pasan?"_s)}};
+    switch (cual) {
+    case 0:
+        return {Traduce(u"Una pastora cuenta sus ovejas."_s),
+                Traduce(u"si las agrupa de %1 en %1 le sobran %2"_s),
+                Traduce(u"Son menos de %1. ¿Cuántas ovejas tiene?"_s)};
+    case 1:
+        return {Traduce(u"Una banda desfila en filas iguales."_s),
+                Traduce(u"en filas de %1 la última fila es de solo %2"_s),
+                Traduce(u"Son menos de %1. ¿Cuántos músicos hay?"_s)};
+    case 2:
+        return {Traduce(u"Unos piratas reparten un cofre de monedas a partes iguales."_s),
+                Traduce(u"si son %1 piratas quedan %2 monedas sin repartir"_s),
+                Traduce(u"Son menos de %1. ¿Cuántas monedas hay?"_s)};
+    case 3:
+        return {Traduce(u"En una granja ponen los huevos del día en cajas."_s),
+                Traduce(u"en cajas de %1 quedan %2 huevos fuera"_s),
+                Traduce(u"Son menos de %1. ¿Cuántos huevos hay?"_s)};
+    case 4:
+        return {Traduce(u"Varios faros dan un destello de vez en cuando."_s),
+                Traduce(u"uno lo da cada %1 segundos, y faltan %2 para el siguiente"_s),
+                Traduce(u"Coinciden antes de %1 segundos. ¿Dentro de cuántos?"_s)};
+    case 5:
+        return {Traduce(u"Un álbum de sellos se puede ordenar de varias maneras."_s),
+                Traduce(u"con %1 sellos en cada página la última tiene %2"_s),
+                Traduce(u"Son menos de %1. ¿Cuántos sellos hay?"_s)};
+    default:
+        return {Traduce(u"Una cinta da vueltas a varias ruedas dentadas con una marca arriba."_s),
+                Traduce(u"la marca de la rueda de %1 dientes está a %2 dientes de volver arriba"_s),
+                Traduce(u"Las marcas coinciden arriba antes de %1 dientes. ¿Cuántos pasan?"_s)};
+    }
 }
 
 Fallo juzgaProblema(const RespuestaLeida &r, const Sistema &s)
@@ -158,25 +162,25 @@ Fallo juzgaProblema(const RespuestaLeida &r, const Sistema &s)
                       s.cuantasCumple(r.numeros[0]) > 0 ? u"no-todas"_s : u"ninguna"_s);
 }
 
+/// Remainders from 2 on: the stories speak of several sheep.
 Sistema sistemaDelProblema(int nivel, Sorteo &sorteo)
 {
-    if (nivel == 1)
-        return sistemaDe({4, 5, 7, 9}, 2, sorteo);
-    return nivel == 2 ? sistemaDe({4, 5, 7, 9, 11}, 3, sorteo)
-                      : sistemaDe({8, 9, 11, 13, 17, 25}, 3, sorteo);
+    const QList<qint64> modulos = nivel == 1   ? QList<qint64>{4, 5, 7, 9}
+                                  : nivel == 2 ? QList<qint64>{4, 5, 7, 9, 11}
+                                               : QList<qint64>{8, 9, 11, 13, 17, 25};
+    return sistemaDe(modulos, nivel == 1 ? 2 : 3, sorteo, 2);
 }
 
 Ejercicio problema(int nivel, Sorteo &sorteo)
 {
-    const Historia historia = sorteo.de(historias());
+    const Historia h = historia(sorteo.entre(0, 6));
     const Sistema s = sistemaDelProblema(nivel, sorteo);
     QStringList datos;
     for (qsizetype i = 0; i < s.modulos.size(); ++i)
-        datos << historia.dato.arg(s.modulos[i]).arg(s.restos[i]);
+        datos << h.dato.arg(s.modulos[i]).arg(s.restos[i]);
     QString frase = datos.join(u"; "_s);
     frase[0] = frase[0].toUpper();
-    return {.enunciado =
-                historia.principio + u' ' + frase + u". "_s + historia.pregunta.arg(s.periodo()),
+    return {.enunciado = h.principio + u' ' + frase + u". "_s + h.pregunta.arg(s.periodo()),
             .forma = {FormaDeRespuesta::Entero},
             .ejemplo = Traduce(u"Un número"_s),
             .esperada = QString::number(*s.solucion()),

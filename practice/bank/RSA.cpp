@@ -51,9 +51,10 @@ Fallo juzgaT(const RespuestaLeida &respuesta, const ClaveDePractica &k)
         return Fallo::mal(Traduce(u"Es congruente con t, pero se pide entre 1 y φ(q)."_s),
                           u"sin-reducir"_s);
     if (producto % k.lambda() == 1)
-        return Fallo::mal(Traduce(u"También descifra, porque es inverso módulo el mcm de los primos "
-                                  "menos 1, pero se pide módulo φ(q)."_s),
-                          u"modulo-lambda"_s);
+        return Fallo::mal(
+            Traduce(u"También descifra, porque es inverso módulo el mcm de los primos "
+                    "menos 1, pero se pide módulo φ(q)."_s),
+            u"modulo-lambda"_s);
     if (producto % k.q() == 1)
         return Fallo::mal(Traduce(u"Ese es el inverso de s módulo q: hace falta módulo φ(q)."_s),
                           u"modulo-q"_s);
@@ -65,22 +66,23 @@ Ejercicio exponentePrivado(int nivel, Sorteo &sorteo)
     static const QList<QList<qint64>> primos = {primosEntre(7, 23), primosEntre(20, 60),
                                                 primosEntre(60, 200)};
     const auto k = claveCon(dosDe(primos[nivel - 1], sorteo), 30 * nivel, sorteo);
-    return {.enunciado = Traduce(u"Con los primos q(1) = %1 y q(2) = %2 y el exponente público "
-                                 "s = %3, ¿cuál es el exponente privado t, el inverso de s módulo "
-                                 "φ(q) que está entre 1 y φ(q)?"_s)
-                             .arg(k.p)
-                             .arg(k.r)
-                             .arg(k.s),
-            .forma = {FormaDeRespuesta::Entero},
-            .ejemplo = Traduce(u"Un número"_s),
-            .esperada = QString::number(k.t),
-            .juzga = [k](const RespuestaLeida &r) { return juzgaT(r, k); },
-            .pistas = {Traduce(u"Primero hace falta φ(q) = (q(1) − 1) · (q(2) − 1)."_s),
-                       Traduce(u"φ(q) = %1: divida %1 entre %2 como hace el algoritmo de Euclides, y "
-                               "despeje los restos."_s)
-                           .arg(k.fi())
-                           .arg(k.s)},
-            .solucion = [k] { return pasosDeT(k); }};
+    return {
+        .enunciado = Traduce(u"Con los primos q(1) = %1 y q(2) = %2 y el exponente público "
+                             "s = %3, ¿cuál es el exponente privado t, el inverso de s módulo "
+                             "φ(q) que está entre 1 y φ(q)?"_s)
+                         .arg(k.p)
+                         .arg(k.r)
+                         .arg(k.s),
+        .forma = {FormaDeRespuesta::Entero},
+        .ejemplo = Traduce(u"Un número"_s),
+        .esperada = QString::number(k.t),
+        .juzga = [k](const RespuestaLeida &r) { return juzgaT(r, k); },
+        .pistas = {Traduce(u"Primero hace falta φ(q) = (q(1) − 1) · (q(2) − 1)."_s),
+                   Traduce(u"φ(q) = %1: divida %1 entre %2 como hace el algoritmo de Euclides, y "
+                           "despeje los restos."_s)
+                       .arg(k.fi())
+                       .arg(k.s)},
+        .solucion = [k] { return pasosDeT(k); }};
 }
 
 /// The mistakes in raising a block to an exponent, where the other one undoes it.
@@ -88,7 +90,8 @@ QList<ErrorTipico> erroresAlElevar(qint64 base, qint64 exponente, qint64 otro,
                                    const ClaveDePractica &k)
 {
     return {{QString::number(base * exponente % k.q()),
-             Traduce(u"Ha multiplicado por el exponente en lugar de elevar a él."_s), u"producto"_s},
+             Traduce(u"Ha multiplicado por el exponente en lugar de elevar a él."_s),
+             u"producto"_s},
             {QString::number(potenciaModular(base, otro, k.q())),
              Traduce(u"Ha elevado al exponente de la otra clave."_s), u"otra-clave"_s},
             {QString::number(potenciaModular(base, exponente, k.fi())),
@@ -102,22 +105,23 @@ Ejercicio cifra(int nivel, Sorteo &sorteo)
     const auto k = claveDeNivel(nivel, sorteo);
     const qint64 m = bloqueDe(k, sorteo);
     const qint64 c = potenciaModular(m, k.s, k.q());
-    return {.enunciado = Traduce(u"Con la clave pública q = %1, s = %2, ¿qué número sale al cifrar "
-                                 "el bloque m = %3?"_s)
-                             .arg(k.q())
-                             .arg(k.s)
-                             .arg(m),
-            .forma = {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}},
-            .ejemplo = Traduce(u"Un número"_s),
-            .esperada = QString::number(c),
-            .juzga = juicioDe(QString::number(c), erroresAlElevar(m, k.s, k.t, k),
-                              Traduce(u"No es el resto de esa potencia al dividirla entre q."_s)),
-            .pistas = {Traduce(u"Cifrar es elevar a s y quedarse con el resto módulo q: escriba s "
-                               "en binario."_s),
-                       Traduce(u"%1 es %2 en binario: con cada cifra se eleva al cuadrado, y con un "
-                               "1 se multiplica además por %3."_s)
-                           .arg(QString::number(k.s), QString::number(k.s, 2), QString::number(m))},
-            .solucion = [k, m] { return pasosDeElevar(m, k.s, k.q()); }};
+    return {
+        .enunciado = Traduce(u"Con la clave pública q = %1, s = %2, ¿qué número sale al cifrar "
+                             "el bloque m = %3?"_s)
+                         .arg(k.q())
+                         .arg(k.s)
+                         .arg(m),
+        .forma = {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}},
+        .ejemplo = Traduce(u"Un número"_s),
+        .esperada = QString::number(c),
+        .juzga = juicioDe(QString::number(c), erroresAlElevar(m, k.s, k.t, k),
+                          Traduce(u"No es el resto de esa potencia al dividirla entre q."_s)),
+        .pistas = {Traduce(u"Cifrar es elevar a s y quedarse con el resto módulo q: escriba s "
+                           "en binario."_s),
+                   Traduce(u"%1 es %2 en binario: con cada cifra se eleva al cuadrado, y con un "
+                           "1 se multiplica además por %3."_s)
+                       .arg(QString::number(k.s), QString::number(k.s, 2), QString::number(m))},
+        .solucion = [k, m] { return pasosDeElevar(m, k.s, k.q()); }};
 }
 
 QString preguntaDeDescifrar(int nivel, const ClaveDePractica &k, qint64 c)
@@ -144,25 +148,25 @@ Ejercicio descifra(int nivel, Sorteo &sorteo)
     const auto k = claveDeNivel(nivel, sorteo);
     const qint64 m = bloqueDe(k, sorteo);
     const qint64 c = potenciaModular(m, k.s, k.q());
-    return {.enunciado = preguntaDeDescifrar(nivel, k, c),
-            .forma = {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}},
-            .ejemplo = Traduce(u"Un número"_s),
-            .esperada = QString::number(m),
-            .juzga = juicioDe(QString::number(m), erroresAlElevar(c, k.t, k.s, k),
-                              Traduce(u"Al cifrar ese número no sale el que se ve."_s)),
-            .pistas = {Traduce(u"Descifrar es elevar a t; se puede hacer módulo cada primo, y juntar "
-                               "los restos."_s),
-                       Traduce(u"Los exponentes se reducen módulo los primos menos 1: %1 módulo %2 y "
-                               "%3 módulo %4."_s)
-                           .arg(k.t % (k.p - 1))
-                           .arg(k.p)
-                           .arg(k.t % (k.r - 1))
-                           .arg(k.r)},
-            .solucion =
-                [k, c, nivel] {
-                    const Pasos elevar = pasosDeElevar(c, k.t, k.q());
-                    return nivel == 3 ? Pasos::seguidos({pasosDeT(k), elevar}) : elevar;
-                }};
+    return {
+        .enunciado = preguntaDeDescifrar(nivel, k, c),
+        .forma = {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}},
+        .ejemplo = Traduce(u"Un número"_s),
+        .esperada = QString::number(m),
+        .juzga = juicioDe(QString::number(m), erroresAlElevar(c, k.t, k.s, k),
+                          Traduce(u"Al cifrar ese número no sale el que se ve."_s)),
+        .pistas = {Traduce(u"Descifrar es elevar a t; se puede hacer módulo cada primo, y juntar "
+                           "los restos."_s),
+                   Traduce(u"Los exponentes se reducen módulo los primos menos 1: %1 módulo %2 y "
+                           "%3 módulo %4."_s)
+                       .arg(k.t % (k.p - 1))
+                       .arg(k.p)
+                       .arg(k.t % (k.r - 1))
+                       .arg(k.r)},
+        .solucion = [k, c, nivel] {
+            const Pasos elevar = pasosDeElevar(c, k.t, k.q());
+            return nivel == 3 ? Pasos::seguidos({pasosDeT(k), elevar}) : elevar;
+        }};
 }
 
 } // namespace

@@ -64,8 +64,8 @@ Recurrencia dePrimerOrden(Sorteo &sorteo)
                   x[n],
                   {lugarDeAntes(x[n - 1]),
                    lugarDeDespues(x[n + 1]),
-                   {numero(x0 * potencia(a, n)), Traduce(u"Ha olvidado la constante que se suma."_s),
-                    u"sin-constante"_s},
+                   {numero(x0 * potencia(a, n)),
+                    Traduce(u"Ha olvidado la constante que se suma."_s), u"sin-constante"_s},
                    {numero(x0 * potencia(a, n) + c),
                     Traduce(u"La constante se suma en cada paso, y después se multiplica con lo "
                             "demás."_s),
@@ -77,8 +77,9 @@ Recurrencia dePrimerOrden(Sorteo &sorteo)
                    Traduce(u"x(1) = %1 y x(2) = %2."_s).arg(x[1]).arg(x[2])},
                   {}};
     for (int k = 1; k <= n; ++k)
-        r.pasos << Paso{Traduce(u"De x(%1) sale x(%2)."_s).arg(k - 1).arg(k),
-                        {u"x(%1) = %2*%3 + %4 = %5"_s.arg(k).arg(a).arg(x[k - 1]).arg(c).arg(x[k])}};
+        r.pasos << Paso{
+            Traduce(u"De x(%1) sale x(%2)."_s).arg(k - 1).arg(k),
+            {u"x(%1) = %2*%3 + %4 = %5"_s.arg(k).arg(a).arg(x[k - 1]).arg(c).arg(x[k])}};
     return r;
 }
 
@@ -102,13 +103,14 @@ QString formulaConRaices(qint64 A, qint64 B, std::pair<qint64, qint64> raices, i
 Recurrencia deSegundoOrden(Sorteo &sorteo)
 {
     // Neither coefficient is 0, 1 or −1, so that all of them can be read.
-    static const QList<std::pair<qint64, qint64>> todas = {
-        {3, 2}, {3, -1}, {2, 2}, {3, 1}, {3, 3}, {4, 1}, {4, -1}, {4, 2}, {4, -2}, {5, -2}, {5, -3}};
+    static const QList<std::pair<qint64, qint64>> todas = {{3, 2},  {3, -1}, {2, 2},  {3, 1},
+                                                           {3, 3},  {4, 1},  {4, -1}, {4, 2},
+                                                           {4, -2}, {5, -2}, {5, -3}};
     const auto raices = sorteo.de(todas);
     const qint64 r = raices.first;
     const qint64 s = raices.second;
     const qint64 A = sorteo.entre(1, 4);
-    const qint64 B = sorteo.entre(1, 3);
+    const qint64 B = sorteo.entre(1, A); // so that both first values are positive
     const int n = static_cast<int>(sorteo.entre(5, 8));
     const qint64 x0 = r == s ? A : A + B;
     const qint64 x1 = r == s ? (A + B) * r : A * r + B * s;
@@ -159,30 +161,25 @@ Recurrencia partiendo(Sorteo &sorteo)
     const int k = static_cast<int>(sorteo.entre(3, b == 2 ? 5 : 4));
     const qint64 n = potencia(b, k);
     const QList<qint64> t = valoresPartiendo(a, b, d, k);
-    Recurrencia r{Traduce(u"T(n) = %1T(n/%2) + %3, con T(1) = 1. ¿Cuánto vale T(%4)?"_s)
-                      .arg(numero(a), numero(b), d == 1 ? u"n"_s : u"n²"_s, numero(n)),
-                  t[k],
-                  {lugarDeAntes(t[k - 1]),
-                   lugarDeDespues(t[k + 1]),
-                   {numero(potencia(a, k)), Traduce(u"Esas son solo las hojas del árbol."_s),
-                    u"solo-hojas"_s},
-                   {numero(t[k] - potencia(n, d)),
-                    Traduce(u"Falta lo que se gasta en partir y juntar al principio."_s),
-                    u"sin-la-raiz"_s},
-                   {numero(t[k] - potencia(a, k)), Traduce(u"T(1) vale 1, no 0."_s),
-                    u"caso-base"_s}},
-                  {Traduce(u"Empiece en T(1) y suba multiplicando n por %1."_s).arg(b),
-                   Traduce(u"T(%1) = %2 y T(%3) = %4."_s)
-                       .arg(b)
-                       .arg(t[1])
-                       .arg(b * b)
-                       .arg(t[2])},
-                  {}};
+    Recurrencia r{
+        Traduce(u"T(n) = %1T(n/%2) + %3, con T(1) = 1. ¿Cuánto vale T(%4)?"_s)
+            .arg(numero(a), numero(b), d == 1 ? u"n"_s : u"n²"_s, numero(n)),
+        t[k],
+        {lugarDeAntes(t[k - 1]),
+         lugarDeDespues(t[k + 1]),
+         {numero(potencia(a, k)), Traduce(u"Esas son solo las hojas del árbol."_s),
+          u"solo-hojas"_s},
+         {numero(t[k] - potencia(n, d)),
+          Traduce(u"Falta lo que se gasta en partir y juntar al principio."_s), u"sin-la-raiz"_s},
+         {numero(t[k] - potencia(a, k)), Traduce(u"T(1) vale 1, no 0."_s), u"caso-base"_s}},
+        {Traduce(u"Empiece en T(1) y suba multiplicando n por %1."_s).arg(b),
+         Traduce(u"T(%1) = %2 y T(%3) = %4."_s).arg(b).arg(t[1]).arg(b * b).arg(t[2])},
+        {}};
     for (int i = 1; i <= k; ++i) {
         const qint64 m = potencia(b, i);
-        r.pasos << Paso{Traduce(u"De T(%1) sale T(%2)."_s).arg(m / b).arg(m),
-                        {u"T(%1) = %2*%3 + %1^%4 = %5"_s.arg(m).arg(a).arg(t[i - 1]).arg(d).arg(
-                            t[i])}};
+        r.pasos << Paso{
+            Traduce(u"De T(%1) sale T(%2)."_s).arg(m / b).arg(m),
+            {u"T(%1) = %2*%3 + %1^%4 = %5"_s.arg(m).arg(a).arg(t[i - 1]).arg(d).arg(t[i])}};
     }
     return r;
 }

@@ -49,8 +49,9 @@ Fallo juzgaRotura(const RespuestaLeida &respuesta, const ClaveDePractica &k)
     const qint64 b = numeroDe(respuesta, 1);
     const qint64 t = numeroDe(respuesta, 2);
     if (qMin(a, b) != k.p || qMax(a, b) != k.r)
-        return Fallo::mal(Traduce(u"El producto de los dos primeros tiene que ser q, y ninguno, 1."_s),
-                          u"primos"_s);
+        return Fallo::mal(
+            Traduce(u"El producto de los dos primeros tiene que ser q, y ninguno, 1."_s),
+            u"primos"_s);
     // Whatever undoes s is a private exponent.
     if (t > 0 && t < 100'000'000 && t * k.s % k.lambda() == 1)
         return acierto();
@@ -69,8 +70,9 @@ Pasos pasosDeRotura(const ClaveDePractica &k)
     const qint64 media = (k.p + k.r) / 2;
     const qint64 mitad = (k.r - k.p) / 2;
     const Paso factores{
-        Traduce(u"Se busca un cuadrado que pase de q en otro cuadrado: entonces q es la suma por la "
-                "diferencia."_s),
+        Traduce(
+            u"Se busca un cuadrado que pase de q en otro cuadrado: entonces q es la suma por la "
+            "diferencia."_s),
         {u"%1^2 - %2 = %3 = %4^2"_s.arg(media).arg(k.q()).arg(mitad * mitad).arg(mitad),
          u"%1 = (%2 - %3)*(%2 + %3) = %4*%5"_s.arg(k.q()).arg(media).arg(mitad).arg(k.p).arg(k.r)}};
     return Pasos::seguidos({Pasos(QList<Paso>{factores}), pasosDeT(k)});
@@ -92,18 +94,19 @@ Ejercicio primosDeFi(int nivel, Sorteo &sorteo)
     const auto dos = dosDe(primos[nivel - 1], sorteo);
     const qint64 p = dos.first;
     const qint64 r = dos.second;
-    return {.enunciado = Traduce(u"De una clave se sabe que q = %1 y φ(q) = %2. ¿Cuáles son los dos "
-                                 "primos?"_s)
-                             .arg(p * r)
-                             .arg((p - 1) * (r - 1)),
-            .forma = {FormaDeRespuesta::Lista},
-            .ejemplo = Traduce(u"Dos números: 3, 5"_s),
-            .esperada = u"%1, %2"_s.arg(p).arg(r),
-            .juzga = [p, r](const RespuestaLeida &resp) { return juzgaPrimos(resp, p, r); },
-            .pistas = {Traduce(u"¿Cuánto vale la suma de los dos primos?"_s),
-                       Traduce(u"Los primos suman %1, y el cuadrado de su diferencia es %1² − 4q."_s)
-                           .arg(p + r)},
-            .solucion = [p, r] { return pasosDePrimosDeFi(p, r); }};
+    return {
+        .enunciado = Traduce(u"De una clave se sabe que q = %1 y φ(q) = %2. ¿Cuáles son los dos "
+                             "primos?"_s)
+                         .arg(p * r)
+                         .arg((p - 1) * (r - 1)),
+        .forma = {FormaDeRespuesta::Lista},
+        .ejemplo = Traduce(u"Dos números: 3, 5"_s),
+        .esperada = u"%1, %2"_s.arg(p).arg(r),
+        .juzga = [p, r](const RespuestaLeida &resp) { return juzgaPrimos(resp, p, r); },
+        .pistas = {Traduce(u"¿Cuánto vale la suma de los dos primos?"_s),
+                   Traduce(u"Los primos suman %1, y el cuadrado de su diferencia es %1² − 4q."_s)
+                       .arg(p + r)},
+        .solucion = [p, r] { return pasosDePrimosDeFi(p, r); }};
 }
 
 Ejercicio rompeRSA(int nivel, Sorteo &sorteo)
@@ -112,17 +115,18 @@ Ejercicio rompeRSA(int nivel, Sorteo &sorteo)
                                                 primosEntre(80, 250)};
     const auto k = claveCon(vecinosDe(primos[nivel - 1], 2 * nivel, sorteo), 20 * nivel, sorteo);
     const QString pares = u"%1 · %2"_s.arg(k.p).arg(k.r);
-    return {.enunciado = Traduce(u"Rompa la clave pública q = %1, s = %2. Escriba los dos primos y "
-                                 "detrás el exponente privado t."_s)
-                             .arg(k.q())
-                             .arg(k.s),
-            .forma = {FormaDeRespuesta::Lista},
-            .ejemplo = Traduce(u"Tres números: 3, 5, 3"_s),
-            .esperada = u"%1, %2, %3"_s.arg(k.p).arg(k.r).arg(k.t),
-            .juzga = [k](const RespuestaLeida &r) { return juzgaRotura(r, k); },
-            .pistas = {Traduce(u"Los primos están cerca: busque un cuadrado por encima de q."_s),
-                       Traduce(u"q = %1. Queda invertir %2 módulo el producto de los primos menos 1."_s)
-                           .arg(pares)
-                           .arg(k.s)},
-            .solucion = [k] { return pasosDeRotura(k); }};
+    return {
+        .enunciado = Traduce(u"Rompa la clave pública q = %1, s = %2. Escriba los dos primos y "
+                             "detrás el exponente privado t."_s)
+                         .arg(k.q())
+                         .arg(k.s),
+        .forma = {FormaDeRespuesta::Lista},
+        .ejemplo = Traduce(u"Tres números: 3, 5, 3"_s),
+        .esperada = u"%1, %2, %3"_s.arg(k.p).arg(k.r).arg(k.t),
+        .juzga = [k](const RespuestaLeida &r) { return juzgaRotura(r, k); },
+        .pistas = {Traduce(u"Los primos están cerca: busque un cuadrado por encima de q."_s),
+                   Traduce(u"q = %1. Queda invertir %2 módulo el producto de los primos menos 1."_s)
+                       .arg(pares)
+                       .arg(k.s)},
+        .solucion = [k] { return pasosDeRotura(k); }};
 }

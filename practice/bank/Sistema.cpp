@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/bank/Sistema.h"
 
+#include "lessons/congruences/PasosDelTCR.h"
 #include "practice/bank/Aritmetica.h"
-#include "shell/core/ModGlobal.h"
 
 #include <algorithm>
 #include <numeric>
@@ -68,7 +68,7 @@ QString Sistema::texto() const
     return congruencias.join(u", "_s);
 }
 
-Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo)
+Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo, qint64 menorResto)
 {
     Sistema s{{}, sorteo.barajada(modulos).first(cuantos)};
     Sistema otros = s;
@@ -76,11 +76,11 @@ Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo)
     const qint64 n = *mayor;
     otros.modulos.erase(mayor);
     for (const qint64 m : otros.modulos)
-        otros.restos << sorteo.entre(1, m - 1);
+        otros.restos << sorteo.entre(menorResto, m - 1);
     const qint64 menor = *otros.solucion(), periodo = otros.periodo();
     const qint64 vuelta = sorteo.de(losQue(0, n - 1, [&](qint64 k) {
         const qint64 x = menor + k * periodo;
-        return x > n && x % n != 0;
+        return x > n && x % n >= menorResto;
     }));
     for (const qint64 m : s.modulos)
         s.restos << (menor + vuelta * periodo) % m;
@@ -89,29 +89,8 @@ Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo)
 
 Pasos pasosDeSistema(const Sistema &s)
 {
-    QList<Paso> pasos{pasoCon(Traduce(u"Los números que cumplen la primera."_s),
-                              {u"x = %1 + %2*k"_s.arg(s.restos[0]).arg(s.modulos[0])})};
-    qint64 x = s.restos[0], m = s.modulos[0];
-    for (qsizetype i = 1; i < s.modulos.size(); ++i) {
-        const qint64 n = s.modulos[i];
-        const auto k = vueltas(s, i, x, m);
-        if (!k)
-            return seguidos(
-                Pasos(pasos),
-                {pasoCon(
-                    Traduce(u"Ninguno de ellos cumple la siguiente: módulo %1, que divide "
-                            "a los dos módulos, piden restos distintos."_s)
-                        .arg(std::gcd(m, n)),
-                    {u"%1 != %2"_s.arg(x % std::gcd(m, n)).arg(s.restos[i] % std::gcd(m, n))})});
-        const QString entra =
-            u"%1 + %2*%3 == %4 (mod %5)"_s.arg(x).arg(m).arg(*k).arg(s.restos[i]).arg(n);
-        x += m * *k;
-        m = std::lcm(m, n);
-        pasos << pasoCon(Traduce(u"De esos, los que cumplen además la siguiente."_s),
-                         {entra, u"x = %1 + %2*k"_s.arg(x).arg(m)});
-    }
-    pasos << pasoCon(
-        Traduce(u"La menor solución no negativa es %1, y se repiten cada %2."_s).arg(x).arg(m),
-        {u"0 <= %1 < %2"_s.arg(x).arg(m)});
-    return Pasos(pasos);
+    SistemaCongruencias filas;
+    for (qsizetype i = 0; i < s.modulos.size(); ++i)
+        filas << Congruencia{QString::number(s.restos[i]), QString::number(s.modulos[i])};
+    return pasosDelTCR(filas);
 }

@@ -20,9 +20,10 @@ struct Sistema
     QString texto() const; ///< "x ≡ 2 (mod 5), x ≡ 3 (mod 7)"
 };
 
-/// So many of the moduli, of which every two are coprime, in some order. No remainder is 0, and the
-/// least solution is larger than all moduli, so that none of the remainders gives it away.
-Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo);
+/// So many of the moduli, of which every two are coprime, in some order. No remainder is below
+/// menorResto, and the least solution is larger than all moduli, so that none of the remainders
+/// gives it away.
+Sistema sistemaDe(const QList<qint64> &modulos, int cuantos, Sorteo &sorteo, qint64 menorResto = 1);
 
-/// Congruence after congruence is put into the form x = r + m·k of those before.
+/// Why it has its solution, or none.
 Pasos pasosDeSistema(const Sistema &sistema);

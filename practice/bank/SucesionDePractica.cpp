@@ -9,9 +9,8 @@ using namespace Qt::Literals::StringLiterals;
 QString SucesionDePractica::texto() const
 {
     return Traduce(u"f(n) = %1 · f(n − 1) %2 · f(n − 2), con f(1) = %3 y f(2) = %4, módulo %5"_s)
-        .arg(QString::number(alfa),
-             (beta < 0 ? u"− "_s : u"+ "_s) + QString::number(qAbs(beta)), QString::number(f1),
-             QString::number(f2), QString::number(m));
+        .arg(QString::number(alfa), (beta < 0 ? u"− "_s : u"+ "_s) + QString::number(qAbs(beta)),
+             QString::number(f1), QString::number(f2), QString::number(m));
 }
 
 QList<qint64> SucesionDePractica::valores(int n) const

@@ -24,3 +24,6 @@ struct SucesionDePractica
 
 /// The modulus or the coefficients, from the values.
 Ejercicio moduloOculto(int nivel, Sorteo &sorteo);
+
+/// Whether a sequence, or all with its coefficients, repeat from the first term on.
+Ejercicio puramentePeriodica(int nivel, Sorteo &sorteo);

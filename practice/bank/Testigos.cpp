@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/bank/Testigos.h"
 
+#include "lessons/primes/steps/PasosDeCadena.h"
 #include "practice/bank/Aritmetica.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/steps/PasosDePotencia.h"
 
 #include <array>
 
@@ -87,21 +89,20 @@ Fallo juzgaTestigo(const RespuestaLeida &r, qint64 b, qint64 n, bool fuerte)
 
 Pasos pasosDeTestigo(qint64 b, qint64 n, bool fuerte)
 {
-    const qint64 e = fuerte ? parteImpar(n) : n - 1;
-    QStringList cuadrados;
-    for (qint64 k = e; k < n; k *= 2)
-        cuadrados << u"%1^{%2} == %3 (mod %4)"_s.arg(b)
-                         .arg(k)
-                         .arg(potenciaMod(b, k, static_cast<std::int32_t>(n)))
-                         .arg(n);
-    if (fuerte)
-        cuadrados.removeLast(); // b^(n − 1) itself is not looked at
+    if (fuerte) {
+        const CadenaDeCuadrados cadena = cadenaDeCuadrados(QString::number(n), QString::number(b));
+        return Pasos(pasosDeCadena(cadena),
+                     [cadena](qsizetype i) { return pasoDeCadena(cadena, false, i); });
+    }
+    const qint64 resto = potenciaMod(b, n - 1, static_cast<std::int32_t>(n));
     const QString final =
-        esTestigo(b, n, fuerte)
+        resto != 1
             ? Traduce(u"Con un primo no podría salir eso: %1 es testigo de que %2 es compuesto."_s)
             : Traduce(
                   u"Lo mismo saldría con un primo: %1 no es testigo, aunque %2 sea compuesto."_s);
-    return seguidos(pasosDePotenciaModular(b, e, n), {pasoCon(final.arg(b).arg(n), cuadrados)});
+    return seguidos(pasosDePotencia(QString::number(b), QString::number(n - 1), QString::number(n)),
+                    {pasoCon(final.arg(b).arg(n),
+                             {u"%1^{%2} == %3 (mod %4)"_s.arg(b).arg(n - 1).arg(resto).arg(n)})});
 }
 
 QString preguntaDeTestigo(bool fuerte)

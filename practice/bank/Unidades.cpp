@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/bank/Unidades.h"
 
+#include "lessons/units/PasosDeUnidades.h"
 #include "practice/bank/Anillo.h"
 #include "practice/bank/Aritmetica.h"
 #include "practice/bank/Lineal.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/steps/PasosDeInverso.h"
+#include "shell/core/steps/PasosDePotencia.h"
 
 #include <array>
 #include <numeric>
@@ -36,32 +39,12 @@ Fallo juzgaFi(const RespuestaLeida &r, const Factores &factores)
                       u"otro"_s);
 }
 
-Pasos pasosDeFi(const Factores &factores)
-{
-    QList<Paso> pasos{pasoCon(Traduce(u"Se descompone el número."_s),
-                              {u"%1 = %2"_s.arg(productoDe(factores)).arg(enFormula(factores))})};
-    QStringList valores;
-    for (const PotenciaDePrimo &f : factores) {
-        valores << QString::number(fiDe({f}));
-        pasos << pasoCon(Traduce(u"De una potencia de un primo se quitan los múltiplos de él."_s),
-                         {u"φ(%1) = %2^%3*(%2 - 1) = %4"_s.arg(f.valor())
-                              .arg(f.primo)
-                              .arg(f.exponente - 1)
-                              .arg(fiDe({f}))});
-    }
-    pasos << pasoCon(Traduce(u"Como son primos entre sí, se multiplican."_s),
-                     {u"φ(%1) = %2 = %3"_s.arg(productoDe(factores))
-                          .arg(valores.join(u'*'))
-                          .arg(fiDe(factores))});
-    return Pasos(pasos);
-}
-
 Factores factoresDelNivel(int nivel, Sorteo &sorteo)
 {
     if (nivel == 1)
         return factoresConPotencia({2, 3, 5, 7, 11}, 2, 1, sorteo);
     if (nivel == 2)
-        return factoresConPotencia({2, 3, 5, 7}, 3, 1, sorteo);
+        return factoresConPotencia({2, 3, 5, 7, 11}, 3, 1, sorteo);
     return factoresConPotencia({2, 3, 5, 7}, 2, 2, sorteo) +
            Factores{{primoEntre(11, 31, sorteo), 1}};
 }
@@ -80,7 +63,8 @@ Ejercicio fi(int nivel, Sorteo &sorteo)
                        Traduce(u"El número tiene %1 factores primos distintos; el menor es %2."_s)
                            .arg(deN.size())
                            .arg(deN[0].primo)},
-            .solucion = [deN] { return pasosDeFi(deN); }};
+            .solucion =
+                [n] { return pasosDeFi(FuncionEuler(QString::number(n)), QString::number(n)); }};
 }
 
 Fallo juzgaInverso(const RespuestaLeida &r, qint64 n, const Unidad &a)
@@ -118,7 +102,8 @@ Ejercicio inverso(int nivel, Sorteo &sorteo)
                        .arg(n / a.valor)
                        .arg(a.valor)
                        .arg(n % a.valor)},
-        .solucion = [n, a] { return pasosDeInversoModular(a.valor, n); }};
+        .solucion = [n,
+                     a] { return pasosDeInverso(QString::number(a.valor), QString::number(n)); }};
 }
 
 Fallo juzgaOrden(const RespuestaLeida &r, qint64 n, const Unidad &a)
@@ -161,8 +146,9 @@ Ejercicio orden(int nivel, Sorteo &sorteo)
 {
     const std::array<std::pair<qint64, qint64>, 3> tramos{{{7, 25}, {26, 60}, {61, 120}}};
     const auto [desde, hasta] = tramos[static_cast<std::size_t>(nivel - 1)];
-    const qint64 n = sorteo.entre(desde, hasta);
-    const Unidad a = *grupoDe(n).unidad(static_cast<std::int32_t>(unidadDe(n, sorteo)));
+    const qint64 n =
+        sorteo.de(losQue(desde, hasta, [](qint64 m) { return grupoDe(m).exponente() > 2; }));
+    const Unidad a = *grupoDe(n).unidad(static_cast<std::int32_t>(unidadDe(n, sorteo, 3)));
     return {
         .enunciado = Traduce(u"¿Cuál es el orden de %1 en el grupo de las unidades módulo %2?"_s)
                          .arg(a.valor)
@@ -219,11 +205,9 @@ Pasos pasosDePotencia(const Potencia &p)
                 {u"φ(%1) = %2"_s.arg(p.n).arg(p.fi()),
                  u"%1 = %2*%3 + %4"_s.arg(p.k).arg(p.fi()).arg(p.k / p.fi()).arg(resto),
                  u"%1^{%2} == %1^{%3} (mod %4)"_s.arg(p.a).arg(p.k).arg(resto).arg(p.n)});
-    const Pasos potencia = pasosDePotenciaModular(p.a, resto, p.n);
-    QList<Paso> pasos;
-    for (qsizetype i = 0; i < potencia.cuantos(); ++i)
-        pasos << potencia.paso(i);
-    return seguidos(Pasos({reduccion}), pasos);
+    return Pasos::seguidos(
+        {Pasos({reduccion}),
+         pasosDePotencia(QString::number(p.a), QString::number(resto), QString::number(p.n))});
 }
 
 const QList<qint64> &modulosDePotencia(int nivel)

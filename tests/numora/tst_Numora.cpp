@@ -35,7 +35,7 @@ private Q_SLOTS:
             m_entorno.remove(variable);
         const QTemporaryDir carpeta;
         const QString pdf = carpeta.filePath(u"hoja.pdf"_s);
-        for (const auto &[codigo, salida] : {std::pair{u"CODIGO"_s, 0}, {u"MD7-4K2Q"_s, 1}}) {
+        for (const auto &[codigo, salida] : {std::pair{u"4D4-02D9"_s, 0}, {u"MD7-4K2Q"_s, 1}}) {
             arranca({u"--hoja"_s, codigo, u"--pdf"_s, pdf, u"--soluciones"_s});
             QVERIFY(m_programa.waitForFinished());
             QCOMPARE(m_programa.exitCode(), salida);

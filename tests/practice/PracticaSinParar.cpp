@@ -10,8 +10,8 @@
 #include <QTimer>
 #include <cstdio>
 
-// Answers exercises in the practice window without end, for scripts/practice_kill.sh: tells how many
-// answers were kept when it begins, and each one once it is kept.
+// Answers exercises in the practice window without end, for scripts/practice_kill.sh: tells how
+// many answers were kept when it begins, and each one once it is kept.
 
 using namespace Qt::Literals::StringLiterals;
 

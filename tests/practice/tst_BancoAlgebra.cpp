@@ -1,12 +1,62 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ModBignum.h"
-#include "practice/engine/Banco.h"
+#include "shell/core/Lectura.h"
+#include "shell/core/ModGlobal.h"
+#include "tests/Tabla.h"
+#include "tests/practice/DefinicionesDeAlgebra.h"
 
 #include <QHash>
-#include <QTest>
 #include <numeric>
 
-using namespace Qt::Literals::StringLiterals;
+namespace {
+
+// n0, n1 … are the numbers of the statement, r0, r1 … those of the right answer; the figures are
+// the levels at which the mistake can be made.
+const QString Errores = uR"(
+euclides.mcd: || mcm | 123 | mcm(n0;n1) || divisor-menor | 123 | 1 || no-divide | 123 | n1+1
+euclides.divisiones: || otra-columna | 12 | @otra-columna || incompleta | 123 | @sin-ultimo || sobran | 123 | @y-un-uno \
+  || division | 123 | @primero-mas-uno
+euclides.bezout: || signo | 123 | -r0, -r1 || cambiados | 123 | r1, r0 || otro-valor | 123 | r0+1, r1 || cuantos | 123 | r0
+euclides.restosminimos: || signos | 123 | @absolutos || ordinarios | 123 | @ordinarios
+euclides.mcm: || producto | 123 | n0*n1 || mcd | 123 | mcd(n0;n1) || multiplo | 123 | r0*(2*n0+1) || no-multiplo | 123 | r0+1
+euclides.soluble: || insoluble | 1 | «sí» || soluble | 1 | «no» || faltan | 23 | @sin-ultimo || sobra | 23 | @desde-el-tercero \
+  || fuera | 23 | 1
+euclides.general: || inicio | 123 | r0+1, r1, r2, r3 || paso | 123 | r0, r1, r2, -r3 || una-sola | 123 | r0, 0, r2, 0 \
+  || sin-dividir | 123 | r0, 2*r1, r2, 2*r3
+euclides.positivas: || enteras | 123 | «infinitas» || con-ceros | 123 | r0+2-min(1;n4 mod n2)-min(1;n4 mod n3) \
+  || otra-cuenta | 123 | r0+3
+primos.esprimo: || por-primo | 123 | «primo» || sin-divisor | 123 | «compuesto» || trivial | 123 | n0 || no-divide | 123 | n0-1
+primos.factores: || exponentes | 123 | @sin-exponentes || factor-compuesto | 123 | n0, 1 || uno | 123 | @uno-y \
+  || otro-producto | 123 | @sin-dos
+primos.siguiente: || no-mayor | 123 | n0 || lejos | 123 | 2*n0 || compuesto | 123 | n0+1 || salto | 123 | sigprimo(r0)
+primos.cuantos: || cuenta-el-uno | 12 | r0+1 || impares | 12 | @mitad || compuestos | 12 | n0-r0
+primos.divisores: || cuantos | 123 | r0 || exponentes-sin-uno | 123 | @producto-de-exponentes || sin-exponente | 123 | @suma-de-primos \
+  || sin-el-propio | 123 | r0, r1-n0 || suma | 123 | r0, r1+1 || numero | 123 | r0+1, r1 || ambos | 123 | r0+1, r1+1
+primos.ultimodivisor: || sin-raiz | 123 | n0-1 || raiz | 123 | raiz(n0) || compuesto | 123 | 2*raiz(n0) || otro | 123 | 2
+primos.testigo: || testigo-negado | 123 | «no» || sin-resto | 123 | «sí» || otro-resto | 123 | (n0^n3) mod n1 + 1 \
+  || pasa-la-prueba | 123 | (n0^n3) mod n1 || sin-reducir | 123 | r0+n1
+unidades.fi: || n-menos-uno | 123 | n0-1 || sin-exponente | 123 | @fi-de-primos || no-unidades | 123 | n0-r0
+unidades.inverso: || inverso-aditivo | 123 | -n0 || signo | 123 | -r0 || no-da-uno | 123 | 1
+unidades.orden: || fi | 123 | fi(n1) || multiplo | 123 | 5*r0 || no-da-uno | 123 | 1 || no-positivo | 123 | 0
+unidades.potencia: || sin-reducir | 123 | r0+n2 || exponente-modulo-n | 123 | (n0^(n1 mod n2)) mod n2 \
+  || n-menos-uno | 23 | (n0^(n1 mod (n2-1))) mod n2 || producto | 123 | (n0*n1) mod n2
+unidades.primitiva: || si-hay | 123 | «ninguna» || no-unidad | 123 | 0 || orden-menor | 123 | 1
+unidades.lambda: || fi | 123 | fi(n0) || potencia-de-dos | 23 | @mcm-de-fi || sin-exponente | 1 | @mcm-de-primos \
+  || multiplo | 123 | 7*r0 || no-todas | 123 | 1
+unidades.unidad: || unidad-negada | 1 | «divisor de cero» || divisor-negado | 1 | «unidad» || sin-prueba | 23 | «unidad» \
+  || cero | 23 | n1 || signo | 23 | @opuesto-del-inverso || ni-cero-ni-uno | 23 | 1
+unidades.lineal: || si-hay | 123 | «ninguna» || no-cumple | 123 | 0 || faltan | 23 | @sin-ultimo || sin-reducir | 1 | r0+n4
+congruencias.dosmodulos: || no-todas | 123 | n0 || ninguna | 123 | r0+1
+congruencias.tresmodulos: || no-todas | 123 | r0+n1*n3 || ninguna | 123 | r0+1
+congruencias.nocoprimos: || sin-porque | 123 | «no» || cuantos | 123 | 1, 2, 3 || no-divide | 123 | 4*n1*n3 || no-prueba | 123 | -1 \
+  || sin-periodo | 123 | 0*r1+r0 || no-cumple | 123 | n0, n1 || producto | 123 | r0, 0*r1+n1*n3 || periodo | 123 | r0, 0*r1+1
+congruencias.minimo: || no-cumple | 123 | r0+1 || no-mayor | 1 | n1 || no-menor | 123 | r0+n1*n2*n3*n4
+congruencias.potencia: || sin-reducir | 123 | r0+n2 || producto | 123 | (n0*n1) mod n2 || una-parte | 123 | (r0+n4) mod n2 \
+  || otro | 123 | (r0+1) mod n2
+congruencias.problema: || fuera | 123 | @y-la-cota || no-todas | 123 | r0+n0 || ninguna | 123 | r0+1
+)"_s;
+
+} // namespace
 
 /// The kinds on integers, primes, units and congruences, against what their statements say: each
 /// answer is checked by the definition, with the numbers as a student reads them.
@@ -15,11 +65,15 @@ class tst_BancoAlgebra : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { IniciaBignum(50); }
+    void initTestCase()
+    {
+        IniciaBignum(50);
+        Idioma().clear(); // a million texts need not be looked up
+    }
     void cleanupTestCase() { TerminaBignum(); }
     void elJuezSabeLoQueEsCierto_data();
     void elJuezSabeLoQueEsCierto();
-    void cadaErrorTieneSuPalabra_data();
+    void cadaErrorTieneSuPalabra_data() { filasDeTexto<QString, QString>(Errores); }
     void cadaErrorTieneSuPalabra();
     void unNumeroLarguisimo_data() { elJuezSabeLoQueEsCierto_data(); }
     void unNumeroLarguisimo();
@@ -30,430 +84,11 @@ namespace {
 
 constexpr int Sorteos = 10'000;
 
-using Numeros = QList<qint64>;
-
-/// An exercise as a student has it: its level, its words, the numbers among them.
-struct Leido
-{
-    int nivel;
-    QString texto;
-    Numeros n;
-};
-
-/// An answer without its text: numbers or a word.
-struct Dada
-{
-    Numeros n;
-    QString palabra = {};
-
-    RespuestaLeida leida() const
-    {
-        RespuestaLeida r{RespuestaLeida::Leida, {}, palabra, {}};
-        for (const qint64 x : n)
-            r.numeros << QString::number(x);
-        return r;
-    }
-};
-
-using EsBuena = std::function<bool(const Leido &, const Dada &)>;
-
-Numeros numerosDe(const QString &texto)
-{
-    Numeros numeros;
-    bool dentro = false;
-    for (const QChar c : texto) {
-        if (c.isDigit() && dentro)
-            numeros.back() = numeros.back() * 10 + c.digitValue();
-        else if (c.isDigit())
-            numeros << c.digitValue();
-        dentro = c.isDigit();
-    }
-    return numeros;
-}
-
-QString cifras(qint64 n)
-{
-    return QString::number(n);
-}
-
-bool esPrimo(qint64 n)
-{
-    for (qint64 d = 2; d * d <= n; ++d) {
-        if (n % d == 0)
-            return false;
-    }
-    return n > 1;
-}
-
-qint64 potencia(qint64 a, qint64 k, qint64 n)
-{
-    qint64 r = 1 % n;
-    for (; k > 0; --k)
-        r = r * a % n;
-    return r;
-}
-
-qint64 orden(qint64 a, qint64 n)
-{
-    qint64 k = 1;
-    for (qint64 x = a % n; x != 1; x = x * a % n)
-        ++k;
-    return k;
-}
-
-qint64 mod(qint64 a, qint64 n)
-{
-    return (a % n + n) % n;
-}
-
-/// The orders of all units modulo n.
-const Numeros &ordenes(qint64 n)
-{
-    static QHash<qint64, Numeros> hechos;
-    if (!hechos.contains(n)) {
-        Numeros &todas = hechos[n];
-        for (qint64 a = 1; a < n; ++a) {
-            if (std::gcd(a, n) == 1)
-                todas << orden(a, n);
-        }
-    }
-    return hechos[n];
-}
-
-Dada una(qint64 n)
-{
-    return {{n}};
-}
-
-bool es(const Dada &r, const Numeros &n)
-{
-    return r.palabra.isEmpty() && r.n == n;
-}
-
-Numeros divisiones(qint64 a, qint64 b, bool minimos, bool cocientes, bool restos)
-{
-    Numeros fila;
-    while (b != 0) {
-        qint64 q = a / b, r = a % b;
-        if (minimos && 2 * r > b) {
-            ++q;
-            r -= b;
-        }
-        if (cocientes)
-            fila << q;
-        if (restos)
-            fila << r;
-        a = std::exchange(b, std::abs(r));
-    }
-    return fila;
-}
-
-/// Whether a·x takes the value c modulo b.
-bool alcanza(qint64 a, qint64 b, qint64 c)
-{
-    qint64 x = 0;
-    do {
-        if (mod(c - x, b) == 0)
-            return true;
-        x = (x + a) % b;
-    } while (x != 0);
-    return false;
-}
-
-bool general(const Leido &e, const Dada &r)
-{
-    const qint64 a = e.n[0], b = e.texto.contains(u'−') ? -e.n[1] : e.n[1], c = e.n[2];
-    const auto [x, pasoX, y, pasoY] = std::tuple(r.n[0], r.n[1], r.n[2], r.n[3]);
-    for (qint64 k = -3; k <= 3; ++k) {
-        if (a * (x + k * pasoX) + b * (y + k * pasoY) != c)
-            return false;
-    }
-    for (qint64 otro = x + 1; otro < x + std::abs(pasoX); ++otro) {
-        if ((c - a * otro) % b == 0)
-            return false;
-    }
-    return pasoX != 0;
-}
-
-bool elegidas(const Leido &e, const Dada &r)
-{
-    Numeros buenas;
-    for (const qint64 c : e.n.sliced(2)) {
-        if (alcanza(e.n[0], e.n[1], c))
-            buenas << c;
-    }
-    if (e.nivel == 1)
-        return r.palabra == (buenas.isEmpty() ? u"no"_s : u"sí"_s);
-    return QSet(r.n.begin(), r.n.end()) == QSet(buenas.begin(), buenas.end()) &&
-           (r.palabra.isEmpty() || buenas.isEmpty());
-}
-
-qint64 positivas(const Leido &e)
-{
-    qint64 cuantas = 0;
-    for (qint64 x = 1; e.n[2] * x < e.n[4]; ++x)
-        cuantas += (e.n[4] - e.n[2] * x) % e.n[3] == 0 ? 1 : 0;
-    return cuantas;
-}
-
-bool factores(const Leido &e, const Dada &r)
-{
-    qint64 producto = 1;
-    for (qsizetype i = 0; i < r.n.size(); i += 2) {
-        for (qint64 k = 0; k < r.n[i + 1]; ++k)
-            producto *= r.n[i];
-        if (!esPrimo(r.n[i]))
-            return false;
-    }
-    return producto == e.n[0];
-}
-
-qint64 primosHasta(qint64 desde, qint64 hasta)
-{
-    qint64 cuantos = 0;
-    for (qint64 n = desde; n <= hasta; ++n)
-        cuantos += esPrimo(n) ? 1 : 0;
-    return cuantos;
-}
-
-bool divisores(const Leido &e, const Dada &r)
-{
-    qint64 cuantos = 0, suma = 0;
-    const qint64 n = e.n[0];
-    for (qint64 d = 1; d * d <= n; ++d) {
-        if (n % d == 0) {
-            cuantos += d * d == n ? 1 : 2;
-            suma += d * d == n ? d : d + n / d;
-        }
-    }
-    return es(r, {cuantos, suma}) || es(r, {suma, cuantos});
-}
-
-bool testigo(const Leido &e, const Dada &r)
-{
-    const qint64 b = e.n[0], n = e.n[1], d = e.n[3];
-    bool loEs = potencia(b, d, n) != 1;
-    for (qint64 k = d; e.nivel > 1 && k < n - 1; k *= 2)
-        loEs = loEs && potencia(b, k, n) != n - 1;
-    return loEs ? es(r, {potencia(b, d, n)}) : r.palabra == u"no"_s;
-}
-
-bool primitiva(const Leido &e, const Dada &r)
-{
-    const Numeros &todas = ordenes(e.n[0]);
-    if (!r.palabra.isEmpty())
-        return !todas.contains(todas.size());
-    return std::gcd(r.n[0], e.n[0]) == 1 && orden(mod(r.n[0], e.n[0]), e.n[0]) == todas.size();
-}
-
-qint64 lambda(const Leido &e)
-{
-    const Numeros &todas = ordenes(e.n[0]);
-    return std::accumulate(todas.begin(), todas.end(), qint64(1),
-                           [](qint64 a, qint64 b) { return std::lcm(a, b); });
-}
-
-bool unidad(const Leido &e, const Dada &r)
-{
-    const qint64 a = e.n[0], n = e.n[1];
-    if (e.nivel == 1)
-        return (r.palabra == u"unidad"_s) == alcanza(a, n, 1);
-    return r.palabra.isEmpty() &&
-           (mod(a * r.n[0], n) == 1 || (mod(r.n[0], n) != 0 && mod(a * r.n[0], n) == 0));
-}
-
-bool lineal(const Leido &e, const Dada &r)
-{
-    QSet<qint64> todas;
-    for (qint64 x = 0; x < e.n[4]; ++x) {
-        if (mod(e.n[2] * x - e.n[3], e.n[4]) == 0)
-            todas << x;
-    }
-    return r.palabra.isEmpty() ? !todas.isEmpty() && QSet(r.n.begin(), r.n.end()) == todas
-                               : todas.isEmpty();
-}
-
-/// "x ≡ r (mod m)", two numbers a congruence.
-bool cumple(const Numeros &sistema, qint64 x)
-{
-    for (qsizetype i = 0; i < sistema.size(); i += 2) {
-        if (mod(x - sistema[i], sistema[i + 1]) != 0)
-            return false;
-    }
-    return true;
-}
-
-bool noCoprimos(const Leido &e, const Dada &r)
-{
-    const qint64 m = e.n[1], n = e.n[3];
-    if (r.n.size() == 1) {
-        const qint64 d = r.n[0];
-        return d != 0 && m % d == 0 && n % d == 0 && (e.n[0] - e.n[2]) % d != 0;
-    }
-    qint64 periodo = m;
-    while (periodo % n != 0)
-        periodo += m;
-    return r.n.size() == 2 && cumple(e.n, r.n[0]) && std::abs(r.n[1]) == periodo;
-}
-
-/// The least number above the bound that fulfils the statement of a level.
-qint64 minimo(const Leido &e)
-{
-    Numeros sistema;
-    const qsizetype k = e.nivel == 1 ? 2 : 3;
-    for (qsizetype i = 0; i < k; ++i)
-        sistema << (e.nivel == 1 ? e.n[1] : e.n[1 + k + i])
-                << (e.nivel == 1 ? e.n[2 + i] : e.n[1 + i]);
-    qint64 x = e.n[0] + 1;
-    while (!cumple(sistema, x))
-        ++x;
-    return x;
-}
-
-/// The congruences of a story: modulus and remainder by turns, the bound last.
-Numeros sistemaDeLaHistoria(const Leido &e)
-{
-    const Numeros datos = e.n.first(e.n.size() - 1);
-    Numeros sistema;
-    const qsizetype porDato = e.texto.contains(u"ovejas") ? 3 : 2;
-    for (qsizetype i = 0; i < datos.size(); i += porDato)
-        sistema << datos[i + porDato - 1] << datos[i];
-    return sistema;
-}
-
-qint64 deLaHistoria(const Leido &e)
-{
-    qint64 x = 1;
-    while (!cumple(sistemaDeLaHistoria(e), x))
-        ++x;
-    return x < e.n.constLast() ? x : -1;
-}
-
-EsBuena unico(qint64 (*valor)(const Leido &))
-{
-    return [valor](const Leido &e, const Dada &r) { return es(r, {valor(e)}); };
-}
-
-/// What is right, by the definition or by an entry of the library that the judge does not use.
-const QList<std::pair<QString, EsBuena>> &definiciones()
-{
-    static const QList<std::pair<QString, EsBuena>> todas{
-        {u"euclides.mcd"_s,
-         unico([](const Leido &e) { return Mcd(cifras(e.n[0]), cifras(e.n[1])).toLongLong(); })},
-        {u"euclides.divisiones"_s,
-         [](const Leido &e, const Dada &r) {
-             return es(r, divisiones(e.n[0], e.n[1], false, e.nivel != 2, e.nivel != 1));
-         }},
-        {u"euclides.bezout"_s,
-         [](const Leido &e, const Dada &r) {
-             return r.n.size() == 2 && cifras(e.n[0] * r.n[0] + e.n[1] * r.n[1]) ==
-                                           Mcd(cifras(e.n[0]), cifras(e.n[1]));
-         }},
-        {u"euclides.restosminimos"_s,
-         [](const Leido &e, const Dada &r) {
-             return es(r, divisiones(e.n[1], e.n[2], true, false, true));
-         }},
-        {u"euclides.mcm"_s, unico([](const Leido &e) {
-             qint64 m = e.n[0];
-             while (m % e.n[1] != 0)
-                 m += e.n[0];
-             return m;
-         })},
-        {u"euclides.soluble"_s, elegidas},
-        {u"euclides.general"_s, general},
-        {u"euclides.positivas"_s,
-         [](const Leido &e, const Dada &r) {
-             return es(r, {positivas(e)}) || (r.palabra == u"ninguna"_s && positivas(e) == 0);
-         }},
-        {u"primos.esprimo"_s,
-         [](const Leido &e, const Dada &r) {
-             if (!r.palabra.isEmpty())
-                 return r.palabra == u"primo"_s && esPrimo(e.n[0]);
-             const qint64 d = std::abs(r.n[0]);
-             return d > 1 && d < e.n[0] && e.n[0] % d == 0;
-         }},
-        {u"primos.factores"_s, factores},
-        {u"primos.siguiente"_s, unico([](const Leido &e) {
-             qint64 p = e.n[0] + 1;
-             while (!esPrimo(p))
-                 ++p;
-             return p;
-         })},
-        {u"primos.cuantos"_s, unico([](const Leido &e) {
-             return primosHasta(e.nivel < 3 ? 1 : e.n[0], e.n[e.nivel < 3 ? 0 : 1]);
-         })},
-        {u"primos.divisores"_s, divisores},
-        {u"primos.ultimodivisor"_s, unico([](const Leido &e) {
-             qint64 ultimo = 0;
-             for (qint64 p = 2; p * p <= e.n[0]; ++p)
-                 ultimo = esPrimo(p) ? p : ultimo;
-             return ultimo;
-         })},
-        {u"primos.testigo"_s, testigo},
-        {u"unidades.fi"_s,
-         unico([](const Leido &e) { return FiEuler(cifras(e.n[0])).toLongLong(); })},
-        {u"unidades.inverso"_s,
-         [](const Leido &e, const Dada &r) { return mod(e.n[0] * r.n[0], e.n[1]) == 1; }},
-        {u"unidades.orden"_s, unico([](const Leido &e) { return orden(e.n[0], e.n[1]); })},
-        {u"unidades.potencia"_s, unico([](const Leido &e) {
-             return PotenciaMod(cifras(e.n[0]), cifras(e.n[1]), cifras(e.n[2])).toLongLong();
-         })},
-        {u"unidades.primitiva"_s, primitiva},
-        {u"unidades.lambda"_s, unico(lambda)},
-        {u"unidades.unidad"_s, unidad},
-        {u"unidades.lineal"_s, lineal},
-        {u"congruencias.dosmodulos"_s,
-         [](const Leido &e, const Dada &r) { return cumple(e.n, r.n[0]); }},
-        {u"congruencias.tresmodulos"_s,
-         [](const Leido &e, const Dada &r) { return cumple(e.n, r.n[0]); }},
-        {u"congruencias.nocoprimos"_s, noCoprimos},
-        {u"congruencias.minimo"_s, unico(minimo)},
-        {u"congruencias.potencia"_s, unico([](const Leido &e) {
-             return PotenciaMod(cifras(e.n[0]), cifras(e.n[1]), cifras(e.n[2])).toLongLong();
-         })},
-        {u"congruencias.problema"_s, unico(deLaHistoria)}};
-    return todas;
-}
-
 EsBuena definicion(const QString &clave)
 {
-    const auto &todas = definiciones();
+    const auto &todas = definicionesDeAlgebra();
     return std::find_if(todas.begin(), todas.end(), [&](const auto &d) { return d.first == clave; })
         ->second;
-}
-
-struct Sorteado
-{
-    Ejercicio ejercicio;
-    Leido leido;
-};
-
-Sorteado sortea(const TipoDeEjercicio &tipo, int nivel, int i)
-{
-    Sorteo sorteo(semillaDe(1, tipo.clave, nivel, i));
-    Ejercicio e = tipo.genera(nivel, sorteo);
-    const Leido leido{nivel, e.enunciado, numerosDe(e.enunciado)};
-    return {e, leido};
-}
-
-/// What is expected, without the reader of answers, for which there is a test of its own.
-Dada esperada(const Ejercicio &e)
-{
-    if (e.forma.palabras.contains(e.esperada))
-        return {{}, e.esperada};
-    Dada dada;
-    if (e.forma.clase == FormaDeRespuesta::Producto) {
-        for (const QString &potencia : e.esperada.split(u'*'))
-            dada.n << potencia.section(u'^', 0, 0).toLongLong()
-                   << std::max<qint64>(1, potencia.section(u'^', 1).toLongLong());
-    } else if (e.forma.clase == FormaDeRespuesta::Solucion) {
-        for (const QString &numero : leeRespuesta(e.esperada, e.forma).numeros)
-            dada.n << numero.toLongLong();
-    } else {
-        for (const QString &numero : e.esperada.split(u", "_s))
-            dada.n << numero.toLongLong();
-    }
-    return dada;
 }
 
 /// The same answer, wrong somewhere: another number, two exchanged, one too few, another word.
@@ -463,7 +98,7 @@ Dada alterada(Dada r, const Ejercicio &e, Sorteo &sorteo)
     if (r.n.isEmpty() || (como == 0 && !e.forma.palabras.isEmpty()))
         return e.forma.clase == FormaDeRespuesta::Palabra || sorteo.moneda()
                    ? Dada{{}, sorteo.de(e.forma.palabras)}
-                   : una(sorteo.entre(0, 40));
+                   : Dada{{sorteo.entre(0, 40)}};
     const bool fija =
         e.forma.clase == FormaDeRespuesta::Producto || e.forma.clase == FormaDeRespuesta::Solucion;
     const qsizetype i = sorteo.entre(0, r.n.size() - 1);
@@ -478,311 +113,113 @@ Dada alterada(Dada r, const Ejercicio &e, Sorteo &sorteo)
     return r;
 }
 
-struct ErrorTipico
+QString cifras(qint64 n)
 {
-    QString clave, nota;
-    /// What a student who makes it answers, in place of the right answer; nothing where it cannot
-    /// be made.
-    Dada (*error)(const Leido &e, const Dada &r);
-};
-
-Dada palabra(const QString &cual)
-{
-    return {{}, cual};
+    return QString::number(n);
 }
 
-/// All exponents forgotten: the product over the primes p of n of what f makes of p.
+/// All exponents forgotten: what f makes of the primes of n, joined.
 template <typename F>
-qint64 porPrimos(qint64 n, F f, qint64 (*junta)(qint64, qint64))
+qint64 porPrimos(qint64 n, F f, bool enMcm = false)
 {
     qint64 r = 1;
-    for (qint64 p = 2; p <= n; ++p) {
-        if (esPrimo(p) && n % p == 0)
-            r = junta(r, f(p));
-        while (n % p == 0)
-            n /= p;
+    for (qint64 p = 2; n > 1; ++p) {
+        qint64 k = 0;
+        for (; n % p == 0; n /= p)
+            ++k;
+        r = k == 0 ? r : enMcm ? std::lcm(r, f(p, k)) : r * f(p, k);
     }
     return r;
 }
 
-qint64 por(qint64 a, qint64 b)
+qint64 fiDe(qint64 p, qint64 k)
 {
-    return a * b;
+    return k == 1 ? p - 1 : p * fiDe(p, k - 1);
 }
 
-qint64 mcm(qint64 a, qint64 b)
+Numeros restos(qint64 a, qint64 b, bool cocientes = false)
 {
-    return std::lcm(a, b);
+    Numeros fila;
+    for (; b != 0; a = std::exchange(b, a % b))
+        fila << (cocientes ? a / b : a % b);
+    return fila;
 }
 
-qint64 menosUno(qint64 p)
+/// The mistakes that no formula tells.
+Numeros especial(const QString &nombre, const Leido &e, const Numeros &r)
 {
-    return p - 1;
+    const auto menosUno = [](qint64 p, qint64) { return p - 1; };
+    const auto cada = [&r](const std::function<qint64(qsizetype)> &f) {
+        Numeros otros;
+        for (qsizetype i = 0; i < r.size(); ++i)
+            otros << f(i);
+        return otros;
+    };
+    const QHash<QString, std::function<Numeros()>> todos{
+        {u"@otra-columna"_s, [&] { return restos(e.n[0], e.n[1], e.nivel == 2); }},
+        {u"@ordinarios"_s, [&] { return restos(e.n[1], e.n[2]); }},
+        {u"@sin-ultimo"_s, [&] { return r.first(std::max<qsizetype>(0, r.size() - 1)); }},
+        {u"@sin-dos"_s, [&] { return r.mid(2); }},
+        {u"@y-un-uno"_s, [&] { return r + Numeros{1}; }},
+        {u"@uno-y"_s,
+         [&] {
+             return Numeros{1, 1} + r;
+         }},
+        {u"@primero-mas-uno"_s,
+         [&] { return cada([&](qsizetype i) { return i == 0 ? r[i] + 1 : r[i]; }); }},
+        {u"@absolutos"_s, [&] { return cada([&](qsizetype i) { return std::abs(r[i]); }); }},
+        {u"@sin-exponentes"_s,
+         [&] { return cada([&](qsizetype i) { return i % 2 == 0 ? r[i] : 1; }); }},
+        {u"@desde-el-tercero"_s, [&] { return e.n.mid(2); }},
+        {u"@mitad"_s, [&] { return Numeros{(e.n[0] + 1) / 2}; }},
+        {u"@y-la-cota"_s, [&] { return Numeros{r[0] + e.n.constLast()}; }},
+        {u"@producto-de-exponentes"_s,
+         [&] {
+             return Numeros{porPrimos(e.n[0], [](qint64, qint64 k) { return k; }), r[1]};
+         }},
+        {u"@suma-de-primos"_s,
+         [&] {
+             return Numeros{r[0], porPrimos(e.n[0], [](qint64 p, qint64) { return p + 1; })};
+         }},
+        {u"@fi-de-primos"_s, [&] { return Numeros{porPrimos(e.n[0], menosUno)}; }},
+        {u"@mcm-de-primos"_s, [&] { return Numeros{porPrimos(e.n[0], menosUno, true)}; }},
+        {u"@mcm-de-fi"_s, [&] { return Numeros{porPrimos(e.n[0], fiDe, true)}; }},
+        {u"@opuesto-del-inverso"_s,
+         [&] { return std::gcd(e.n[0], e.n[1]) > 1 ? Numeros{} : Numeros{-r[0]}; }}};
+    return todos.value(nombre)();
 }
 
-qint64 raiz(qint64 n)
+/// An expression of the table with the numbers of an exercise; nothing where it has not so many.
+std::optional<qint64> valor(QString expresion, const Leido &e, const Numeros &r)
 {
-    qint64 r = 1;
-    while ((r + 1) * (r + 1) <= n)
-        ++r;
-    return r;
+    static const QRegularExpression nombre(u"\\b([nr])(\\d)\\b"_s);
+    for (auto hallado = nombre.match(expresion); hallado.hasMatch();
+         hallado = nombre.match(expresion)) {
+        const Numeros &lista = hallado.captured(1) == u"n"_s ? e.n : r;
+        const int i = hallado.captured(2).toInt();
+        if (i >= lista.size())
+            return {};
+        expresion.replace(hallado.capturedStart(), hallado.capturedLength(),
+                          u"(%1)"_s.arg(lista[i]));
+    }
+    return calculaEntero(expresion).value().toLongLong();
 }
 
-qint64 exponente(qint64 n, qint64 p)
+/// The mistaken answer; empty where it cannot be made.
+Dada errada(const QString &como, const Leido &e, const Dada &buena)
 {
-    qint64 k = 0;
-    for (; n % p == 0; n /= p)
-        ++k;
-    return k;
-}
-
-const QList<ErrorTipico> &errores()
-{
-    using L = const Leido &;
-    using D = const Dada &;
-    static const QList<ErrorTipico> todos{
-        {u"euclides.mcd"_s, u"mcm"_s, [](L e, D) { return una(std::lcm(e.n[0], e.n[1])); }},
-        {u"euclides.mcd"_s, u"divisor-menor"_s, [](L, D) { return una(1); }},
-        {u"euclides.mcd"_s, u"no-divide"_s, [](L e, D) { return una(e.n[1] + 1); }},
-        {u"euclides.divisiones"_s, u"otra-columna"_s,
-         [](L e, D) {
-             return e.nivel == 3
-                        ? Dada{}
-                        : Dada{divisiones(e.n[0], e.n[1], false, e.nivel == 2, e.nivel == 1)};
-         }},
-        {u"euclides.divisiones"_s, u"incompleta"_s,
-         [](L, D r) { return Dada{r.n.first(r.n.size() - 1)}; }},
-        {u"euclides.divisiones"_s, u"sobran"_s, [](L, D r) { return Dada{r.n + Numeros{1}}; }},
-        {u"euclides.divisiones"_s, u"division"_s,
-         [](L, D r) { return Dada{Numeros{r.n[0] + 1} + r.n.sliced(1)}; }},
-        {u"euclides.bezout"_s, u"signo"_s,
-         [](L, D r) {
-             return Dada{{-r.n[0], -r.n[1]}};
-         }},
-        {u"euclides.bezout"_s, u"cambiados"_s,
-         [](L, D r) {
-             return Dada{{r.n[1], r.n[0]}};
-         }},
-        {u"euclides.bezout"_s, u"otro-valor"_s,
-         [](L, D r) {
-             return Dada{{r.n[0] + 1, r.n[1]}};
-         }},
-        {u"euclides.bezout"_s, u"cuantos"_s, [](L, D r) { return una(r.n[0]); }},
-        {u"euclides.restosminimos"_s, u"signos"_s,
-         [](L, D r) {
-             Dada sin = r;
-             for (qint64 &n : sin.n)
-                 n = std::abs(n);
-             return sin;
-         }},
-        {u"euclides.restosminimos"_s, u"ordinarios"_s,
-         [](L e, D) { return Dada{divisiones(e.n[1], e.n[2], false, false, true)}; }},
-        {u"euclides.mcm"_s, u"producto"_s, [](L e, D) { return una(e.n[0] * e.n[1]); }},
-        {u"euclides.mcm"_s, u"mcd"_s, [](L e, D) { return una(std::gcd(e.n[0], e.n[1])); }},
-        {u"euclides.mcm"_s, u"multiplo"_s, [](L e, D r) { return una(r.n[0] * (2 * e.n[0] + 1)); }},
-        {u"euclides.mcm"_s, u"no-multiplo"_s, [](L, D r) { return una(r.n[0] + 1); }},
-        {u"euclides.soluble"_s, u"insoluble"_s,
-         [](L e, D) { return e.nivel == 1 ? palabra(u"sí"_s) : Dada{}; }},
-        {u"euclides.soluble"_s, u"soluble"_s,
-         [](L e, D) { return e.nivel == 1 ? palabra(u"no"_s) : Dada{}; }},
-        {u"euclides.soluble"_s, u"faltan"_s,
-         [](L, D r) { return r.n.size() < 2 ? Dada{} : Dada{r.n.first(r.n.size() - 1)}; }},
-        {u"euclides.soluble"_s, u"sobra"_s,
-         [](L e, D) { return e.nivel == 1 ? Dada{} : Dada{e.n.sliced(2)}; }},
-        {u"euclides.soluble"_s, u"fuera"_s, [](L e, D) { return e.nivel == 1 ? Dada{} : una(1); }},
-        {u"euclides.general"_s, u"inicio"_s,
-         [](L, D r) {
-             return Dada{{r.n[0] + 1, r.n[1], r.n[2], r.n[3]}};
-         }},
-        {u"euclides.general"_s, u"paso"_s,
-         [](L, D r) {
-             return Dada{{r.n[0], r.n[1], r.n[2], -r.n[3]}};
-         }},
-        {u"euclides.general"_s, u"una-sola"_s,
-         [](L, D r) {
-             return Dada{{r.n[0], 0, r.n[2], 0}};
-         }},
-        {u"euclides.general"_s, u"sin-dividir"_s,
-         [](L, D r) {
-             return Dada{{r.n[0], 2 * r.n[1], r.n[2], 2 * r.n[3]}};
-         }},
-        {u"euclides.positivas"_s, u"enteras"_s, [](L, D) { return palabra(u"infinitas"_s); }},
-        {u"euclides.positivas"_s, u"con-ceros"_s,
-         [](L e, D r) {
-             return una(r.n[0] + (e.n[4] % e.n[2] == 0 ? 1 : 0) + (e.n[4] % e.n[3] == 0 ? 1 : 0));
-         }},
-        {u"euclides.positivas"_s, u"otra-cuenta"_s, [](L, D r) { return una(r.n[0] + 3); }},
-        {u"primos.esprimo"_s, u"por-primo"_s, [](L, D) { return palabra(u"primo"_s); }},
-        {u"primos.esprimo"_s, u"sin-divisor"_s, [](L, D) { return palabra(u"compuesto"_s); }},
-        {u"primos.esprimo"_s, u"trivial"_s, [](L e, D) { return una(e.n[0]); }},
-        {u"primos.esprimo"_s, u"no-divide"_s, [](L e, D) { return una(e.n[0] - 1); }},
-        {u"primos.factores"_s, u"exponentes"_s,
-         [](L, D r) {
-             Dada sin = r;
-             for (qsizetype i = 1; i < sin.n.size(); i += 2)
-                 sin.n[i] = 1;
-             return sin;
-         }},
-        {u"primos.factores"_s, u"factor-compuesto"_s,
-         [](L e, D) {
-             return Dada{{e.n[0], 1}};
-         }},
-        {u"primos.factores"_s, u"uno"_s,
-         [](L, D r) {
-             return Dada{Numeros{1, 1} + r.n};
-         }},
-        {u"primos.factores"_s, u"otro-producto"_s, [](L, D r) { return Dada{r.n.sliced(2)}; }},
-        {u"primos.siguiente"_s, u"no-mayor"_s, [](L e, D) { return una(e.n[0]); }},
-        {u"primos.siguiente"_s, u"lejos"_s, [](L e, D) { return una(2 * e.n[0]); }},
-        {u"primos.siguiente"_s, u"compuesto"_s, [](L e, D) { return una(e.n[0] + 1); }},
-        {u"primos.siguiente"_s, u"salto"_s,
-         [](L, D r) {
-             qint64 p = r.n[0] + 1;
-             while (!esPrimo(p))
-                 ++p;
-             return una(p);
-         }},
-        {u"primos.cuantos"_s, u"cuenta-el-uno"_s,
-         [](L e, D r) { return e.nivel < 3 ? una(r.n[0] + 1) : Dada{}; }},
-        {u"primos.cuantos"_s, u"impares"_s,
-         [](L e, D) { return e.nivel < 3 ? una((e.n[0] + 1) / 2) : Dada{}; }},
-        {u"primos.cuantos"_s, u"compuestos"_s,
-         [](L e, D r) { return e.nivel < 3 ? una(e.n[0] - r.n[0]) : Dada{}; }},
-        {u"primos.divisores"_s, u"cuantos"_s, [](L, D r) { return una(r.n[0]); }},
-        {u"primos.divisores"_s, u"exponentes-sin-uno"_s,
-         [](L e, D r) {
-             const qint64 n = e.n[0];
-             return Dada{{porPrimos(
-                              n, [n](qint64 p) { return exponente(n, p); }, por),
-                          r.n[1]}};
-         }},
-        {u"primos.divisores"_s, u"sin-exponente"_s,
-         [](L e, D r) {
-             return Dada{{r.n[0], porPrimos(
-                                      e.n[0], [](qint64 p) { return p + 1; }, por)}};
-         }},
-        {u"primos.divisores"_s, u"sin-el-propio"_s,
-         [](L e, D r) {
-             return Dada{{r.n[0], r.n[1] - e.n[0]}};
-         }},
-        {u"primos.divisores"_s, u"suma"_s,
-         [](L, D r) {
-             return Dada{{r.n[0], r.n[1] + 1}};
-         }},
-        {u"primos.divisores"_s, u"numero"_s,
-         [](L, D r) {
-             return Dada{{r.n[0] + 1, r.n[1]}};
-         }},
-        {u"primos.divisores"_s, u"ambos"_s,
-         [](L, D r) {
-             return Dada{{r.n[0] + 1, r.n[1] + 1}};
-         }},
-        {u"primos.ultimodivisor"_s, u"sin-raiz"_s, [](L e, D) { return una(e.n[0] / 2); }},
-        {u"primos.ultimodivisor"_s, u"raiz"_s, [](L e, D) { return una(raiz(e.n[0])); }},
-        {u"primos.ultimodivisor"_s, u"compuesto"_s, [](L e, D) { return una(2 * raiz(e.n[0])); }},
-        {u"primos.ultimodivisor"_s, u"otro"_s, [](L, D) { return una(2); }},
-        {u"primos.testigo"_s, u"testigo-negado"_s, [](L, D) { return palabra(u"no"_s); }},
-        {u"primos.testigo"_s, u"sin-resto"_s, [](L, D) { return palabra(u"sí"_s); }},
-        {u"primos.testigo"_s, u"otro-resto"_s,
-         [](L e, D) { return una(potencia(e.n[0], e.n[3], e.n[1]) + 1); }},
-        {u"primos.testigo"_s, u"pasa-la-prueba"_s,
-         [](L e, D r) {
-             return r.palabra.isEmpty() ? Dada{} : una(potencia(e.n[0], e.n[3], e.n[1]));
-         }},
-        {u"primos.testigo"_s, u"sin-reducir"_s,
-         [](L e, D r) { return r.palabra.isEmpty() ? una(r.n[0] + e.n[1]) : Dada{}; }},
-        {u"unidades.fi"_s, u"n-menos-uno"_s, [](L e, D) { return una(e.n[0] - 1); }},
-        {u"unidades.fi"_s, u"sin-exponente"_s,
-         [](L e, D) { return una(porPrimos(e.n[0], menosUno, por)); }},
-        {u"unidades.fi"_s, u"no-unidades"_s, [](L e, D r) { return una(e.n[0] - r.n[0]); }},
-        {u"unidades.inverso"_s, u"inverso-aditivo"_s, [](L e, D) { return una(-e.n[0]); }},
-        {u"unidades.inverso"_s, u"signo"_s, [](L, D r) { return una(-r.n[0]); }},
-        {u"unidades.inverso"_s, u"no-da-uno"_s, [](L, D) { return una(1); }},
-        {u"unidades.orden"_s, u"fi"_s, [](L e, D) { return una(ordenes(e.n[1]).size()); }},
-        {u"unidades.orden"_s, u"multiplo"_s, [](L, D r) { return una(5 * r.n[0]); }},
-        {u"unidades.orden"_s, u"no-da-uno"_s, [](L, D) { return una(1); }},
-        {u"unidades.orden"_s, u"no-positivo"_s, [](L, D) { return una(0); }},
-        {u"unidades.potencia"_s, u"sin-reducir"_s, [](L e, D r) { return una(r.n[0] + e.n[2]); }},
-        {u"unidades.potencia"_s, u"exponente-modulo-n"_s,
-         [](L e, D) { return una(potencia(e.n[0], e.n[1] % e.n[2], e.n[2])); }},
-        {u"unidades.potencia"_s, u"n-menos-uno"_s,
-         [](L e, D) { return una(potencia(e.n[0], e.n[1] % (e.n[2] - 1), e.n[2])); }},
-        {u"unidades.potencia"_s, u"producto"_s,
-         [](L e, D) { return una(e.n[0] * e.n[1] % e.n[2]); }},
-        {u"unidades.primitiva"_s, u"si-hay"_s, [](L, D) { return palabra(u"ninguna"_s); }},
-        {u"unidades.primitiva"_s, u"no-unidad"_s, [](L, D) { return una(0); }},
-        {u"unidades.primitiva"_s, u"orden-menor"_s, [](L, D) { return una(1); }},
-        {u"unidades.lambda"_s, u"fi"_s, [](L e, D) { return una(ordenes(e.n[0]).size()); }},
-        {u"unidades.lambda"_s, u"sin-exponente"_s,
-         [](L e, D) { return una(porPrimos(e.n[0], menosUno, mcm)); }},
-        {u"unidades.lambda"_s, u"multiplo"_s, [](L, D r) { return una(7 * r.n[0]); }},
-        {u"unidades.lambda"_s, u"no-todas"_s, [](L, D) { return una(1); }},
-        {u"unidades.unidad"_s, u"unidad-negada"_s,
-         [](L e, D) { return e.nivel == 1 ? palabra(u"divisor de cero"_s) : Dada{}; }},
-        {u"unidades.unidad"_s, u"divisor-negado"_s,
-         [](L e, D) { return e.nivel == 1 ? palabra(u"unidad"_s) : Dada{}; }},
-        {u"unidades.unidad"_s, u"sin-prueba"_s,
-         [](L e, D) { return e.nivel == 1 ? Dada{} : palabra(u"unidad"_s); }},
-        {u"unidades.unidad"_s, u"cero"_s,
-         [](L e, D) { return e.nivel == 1 ? Dada{} : una(e.n[1]); }},
-        {u"unidades.unidad"_s, u"signo"_s,
-         [](L e, D r) {
-             return e.nivel == 1 || std::gcd(e.n[0], e.n[1]) > 1 ? Dada{} : una(-r.n[0]);
-         }},
-        {u"unidades.unidad"_s, u"ni-cero-ni-uno"_s,
-         [](L e, D) { return e.nivel == 1 ? Dada{} : una(1); }},
-        {u"unidades.lineal"_s, u"si-hay"_s, [](L, D) { return palabra(u"ninguna"_s); }},
-        {u"unidades.lineal"_s, u"no-cumple"_s, [](L, D) { return una(0); }},
-        {u"unidades.lineal"_s, u"faltan"_s,
-         [](L, D r) { return r.n.size() < 2 ? Dada{} : una(r.n[0]); }},
-        {u"congruencias.dosmodulos"_s, u"no-todas"_s, [](L e, D) { return una(e.n[0]); }},
-        {u"congruencias.dosmodulos"_s, u"ninguna"_s, [](L, D r) { return una(r.n[0] + 1); }},
-        {u"congruencias.tresmodulos"_s, u"no-todas"_s,
-         [](L e, D r) { return una(r.n[0] + e.n[1] * e.n[3]); }},
-        {u"congruencias.tresmodulos"_s, u"ninguna"_s, [](L, D r) { return una(r.n[0] + 1); }},
-        {u"congruencias.nocoprimos"_s, u"sin-porque"_s, [](L, D) { return palabra(u"no"_s); }},
-        {u"congruencias.nocoprimos"_s, u"cuantos"_s,
-         [](L, D) {
-             return Dada{{1, 2, 3}};
-         }},
-        {u"congruencias.nocoprimos"_s, u"no-divide"_s,
-         [](L e, D) { return una(e.n[1] * e.n[3] * 4); }},
-        {u"congruencias.nocoprimos"_s, u"no-prueba"_s, [](L, D) { return una(-1); }},
-        {u"congruencias.nocoprimos"_s, u"sin-periodo"_s,
-         [](L, D r) { return r.n.size() == 1 ? Dada{} : una(r.n[0]); }},
-        {u"congruencias.nocoprimos"_s, u"no-cumple"_s,
-         [](L e, D) {
-             return Dada{{e.n[0], e.n[1]}};
-         }},
-        {u"congruencias.nocoprimos"_s, u"producto"_s,
-         [](L e, D r) {
-             return r.n.size() == 1 ? Dada{} : Dada{{r.n[0], e.n[1] * e.n[3]}};
-         }},
-        {u"congruencias.nocoprimos"_s, u"periodo"_s,
-         [](L, D r) {
-             return r.n.size() == 1 ? Dada{} : Dada{{r.n[0], 1}};
-         }},
-        {u"congruencias.minimo"_s, u"no-cumple"_s, [](L, D r) { return una(r.n[0] + 1); }},
-        {u"congruencias.minimo"_s, u"no-mayor"_s,
-         [](L e, D) { return e.nivel == 1 ? una(e.n[1]) : Dada{}; }},
-        {u"congruencias.minimo"_s, u"no-menor"_s,
-         [](L e, D r) {
-             return e.nivel == 1 ? una(r.n[0] + e.n[2] * e.n[3])
-                                 : una(r.n[0] + e.n[1] * e.n[2] * e.n[3]);
-         }},
-        {u"congruencias.potencia"_s, u"sin-reducir"_s,
-         [](L e, D r) { return una(r.n[0] + e.n[2]); }},
-        {u"congruencias.potencia"_s, u"producto"_s,
-         [](L e, D) { return una(e.n[0] * e.n[1] % e.n[2]); }},
-        {u"congruencias.potencia"_s, u"una-parte"_s,
-         [](L e, D r) { return una(mod(r.n[0] + e.n[4], e.n[2])); }},
-        {u"congruencias.potencia"_s, u"otro"_s,
-         [](L e, D r) { return una(mod(r.n[0] + 1, e.n[2])); }},
-        {u"congruencias.problema"_s, u"fuera"_s,
-         [](L e, D r) { return una(r.n[0] + e.n.constLast()); }},
-        {u"congruencias.problema"_s, u"no-todas"_s, [](L e, D r) { return una(r.n[0] + e.n[0]); }},
-        {u"congruencias.problema"_s, u"ninguna"_s, [](L, D r) { return una(r.n[0] + 1); }}};
-    return todos;
+    if (como.startsWith(u'@'))
+        return buena.palabra.isEmpty() ? Dada{especial(como, e, buena.n)} : Dada{};
+    if (como.startsWith(u'«'))
+        return {{}, como.sliced(1, como.size() - 2)};
+    Dada dada;
+    for (const QString &expresion : como.split(u", "_s)) {
+        const auto n = valor(expresion, e, buena.n);
+        if (!n)
+            return {};
+        dada.n << *n;
+    }
+    return dada;
 }
 
 } // namespace
@@ -790,7 +227,7 @@ const QList<ErrorTipico> &errores()
 void tst_BancoAlgebra::elJuezSabeLoQueEsCierto_data()
 {
     QTest::addColumn<QString>("clave");
-    for (const auto &[clave, esBuena] : definiciones())
+    for (const auto &[clave, esBuena] : definicionesDeAlgebra())
         QTest::newRow(qPrintable(clave)) << clave;
 }
 
@@ -816,27 +253,23 @@ void tst_BancoAlgebra::elJuezSabeLoQueEsCierto()
     QVERIFY2(rechazadas >= 20, qPrintable(cifras(rechazadas)));
 }
 
-void tst_BancoAlgebra::cadaErrorTieneSuPalabra_data()
-{
-    QTest::addColumn<int>("indice");
-    for (int i = 0; i < errores().size(); ++i)
-        QTest::addRow("%s: %s", qPrintable(errores()[i].clave), qPrintable(errores()[i].nota)) << i;
-}
-
 void tst_BancoAlgebra::cadaErrorTieneSuPalabra()
 {
-    QFETCH(int, indice);
-    const ErrorTipico &tipico = errores()[indice];
+    const auto [niveles, como] = estaFila<QString, QString>();
+    const QString fila = QString::fromUtf8(QTest::currentDataTag());
+    const QString clave = fila.section(u": "_s, 0, 0), nota = fila.section(u": "_s, 1);
+    const EsBuena esBuena = definicion(clave);
     int cometidos = 0, nombrados = 0;
-    for (int i = 0; i < 300; ++i) {
-        const auto [ejercicio, leido] = sortea(*tipoDeEjercicio(tipico.clave), 1 + i % Niveles, i);
-        const Dada dada = tipico.error(leido, esperada(ejercicio));
-        if ((dada.n.isEmpty() && dada.palabra.isEmpty()) || definicion(tipico.clave)(leido, dada))
+    for (int i = 0; i < 200; ++i) {
+        const int nivel = niveles[i % niveles.size()].digitValue();
+        const auto [ejercicio, leido] = sortea(*tipoDeEjercicio(clave), nivel, i);
+        const Dada dada = errada(como, leido, esperada(ejercicio));
+        if ((dada.n.isEmpty() && dada.palabra.isEmpty()) || esBuena(leido, dada))
             continue;
         const Fallo fallo = ejercicio.juzga(dada.leida());
         QVERIFY2(!fallo.acertada, qPrintable(leido.texto));
         ++cometidos;
-        nombrados += fallo.nota == tipico.nota ? 1 : 0;
+        nombrados += fallo.nota == nota ? 1 : 0;
     }
     // Some are another mistake as well, whose word comes first.
     QVERIFY2(nombrados > 5 && nombrados * 3 > cometidos * 2,

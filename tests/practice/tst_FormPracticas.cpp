@@ -28,8 +28,8 @@ private Q_SLOTS:
         QTest::keyClick(campo, Qt::Key_Return);
         QCOMPARE(texto(u"lblVeredicto"_s), u"Escriba una respuesta."_s);
         QTest::keyClicks(campo, u"2³·"_s);
-        campo->setText(u"7 · 11 · 13"_s);
-        QCOMPARE(texto(u"lblLeido"_s), u"leo 1001"_s);
+        campo->setText(u"7 · 11"_s);
+        QCOMPARE(texto(u"lblLeido"_s), u"leo 77"_s);
         QVERIFY(texto(u"lblVeredicto"_s).isEmpty());
         QTest::keyClick(campo, Qt::Key_Return);
         QVERIFY(texto(u"lblVeredicto"_s).startsWith(u"✗"));
@@ -68,6 +68,10 @@ private Q_SLOTS:
     {
         tema(u"hojas"_s);
         control<QSpinBox>(m_ventana.get(), u"spnCuantos"_s)->setValue(2);
+        auto *de = control<QComboBox>(m_ventana.get(), u"cmbDe"_s);
+        de->setCurrentIndex(de->findData(u"euclides"_s));
+        auto *tipos = control<Rejilla>(m_ventana.get(), u"FlexTipos"_s)->model();
+        tipos->setData(tipos->index(0, 0), Qt::Checked, Qt::CheckStateRole);
         pulsa(u"cmdCodigo"_s);
         auto *campo = control<QLineEdit>(m_ventana.get(), u"txtCodigo"_s);
         const QString codigo = campo->text();

@@ -172,8 +172,8 @@ private Q_SLOTS:
     }
 
 private:
-    static inline const QString CodigoPrometido = u"?"_s;
-    static inline const QString RespuestasPrometidas = u"?"_s;
+    static inline const QString CodigoPrometido = u"4D4-02D9"_s;
+    static inline const QString RespuestasPrometidas = u"2 11 9"_s;
 
     static Hecho hecho(const QString &notas)
     {

@@ -81,7 +81,14 @@ void tst_LectorDeRespuestas::seLeen_data()
             {F::Solucion, "x=3+5·t; y=2−4·t", "3 5 2 -4"},
             {F::Solucion, "3+5k, 2-4k", "3 5 2 -4"},
             {F::Solucion, "x = 3 - k, y = k", "3 -1 0 1"},
-            {F::Solucion, "x = 5k+3, y = 2 - 4 n", "3 5 2 -4"}});
+            {F::Solucion, "x = 5k+3, y = 2 - 4 n", "3 5 2 -4"},
+            {F::Fraccion, "−7/12", "-7 12"},
+            {F::Fraccion, "14 / 24", "14 24"},
+            {F::Fraccion, "5", "5 1"},
+            {F::Fraccion, "0,5", "5 10"},
+            {F::FormulaDeCelda, "3·a1(A1+1)", "3*A1*(A1+1)"},
+            {F::FormulaDeCelda, "A1² − 2", "A1^2 - 2"},
+            {F::FormulaDeCelda, "mcd(A1;12)", "mcd(A1;12)"}});
 }
 
 void tst_LectorDeRespuestas::seLeen()
@@ -110,6 +117,10 @@ void tst_LectorDeRespuestas::nuncaSeJuzgaLoQueNoSeEntiende_data()
             {F::Producto, "2^a", "2^a"},
             {F::Solucion, "x = 3 + 5k", "x = 3 + 5k"},
             {F::Solucion, "x = y, y = x", "x = y"},
+            {F::Fraccion, "siete", "siete"},
+            {F::Fraccion, "7/0", "7/0"},
+            {F::FormulaDeCelda, "3*B", "B"},
+            {F::FormulaDeCelda, "A1+", "A1+"},
             {F::Palabra, "quizá", "quizá"}});
 }
 
@@ -157,6 +168,13 @@ void tst_LectorDeRespuestas::lasPalabras()
     const FormaDeRespuesta forma{FormaDeRespuesta::Entero, {u"sí"_s, u"ninguna"_s}};
     for (const QString &texto : {u"sí"_s, u" SI "_s, u"Sí."_s})
         QCOMPARE(leeRespuesta(texto, forma).palabra, u"sí"_s);
+    QCOMPARE(leeRespuesta(u"3/4-1/6"_s, {FormaDeRespuesta::Fraccion}).estado,
+             RespuestaLeida::EsLaPregunta);
+    const FormaDeRespuesta ordenes{FormaDeRespuesta::Palabra, {u"n"_s, u"n²"_s, u"2ⁿ"_s, u"n!"_s}};
+    for (const QString &texto : {u"n^2"_s, u"n²"_s})
+        QCOMPARE(leeRespuesta(texto, ordenes).palabra, u"n²"_s);
+    QCOMPARE(leeRespuesta(u"2^n"_s, ordenes).palabra, u"2ⁿ"_s);
+    QCOMPARE(leeRespuesta(u"n!"_s, ordenes).palabra, u"n!"_s);
     QCOMPARE(leeRespuesta(u"ninguna"_s, forma).palabra, u"ninguna"_s);
     QCOMPARE(leeRespuesta(u"7"_s, forma).numeros, QStringList{u"7"_s});
     QCOMPARE(leeRespuesta(u"  "_s, forma).estado, RespuestaLeida::Vacia);

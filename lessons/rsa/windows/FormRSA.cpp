@@ -30,8 +30,9 @@ FormRSA::FormRSA(QWidget *padre)
     setWindowTitle(Traduce(u"R.S.A."_s));
     setWindowIcon(Icono(u"RSA"_s));
     agregaIntroduccion(u"Introducción"_s);
-    agregaTema(u"Elección de clave"_s, {}, m_panelClave);
-    agregaTema(u"Codificación y descodificación"_s, u"cod-decod"_s, m_panelCodificacion);
+    agregaTema(u"Elección de clave"_s, {}, m_panelClave, m_panelClave->pasos());
+    agregaTema(u"Codificación y descodificación"_s, u"cod-decod"_s, m_panelCodificacion,
+               m_panelCodificacion->pasos());
     m_panelMensajes->hide();
 
     conecta(m_clave.get(), &ClsRSA::ValidaClave, this, &FormRSA::Clave_ValidaClave);

@@ -2,6 +2,8 @@
 #include "lessons/rsa/windows/FormRSAClave.h"
 
 #include "bignum/gateway/Azar.h"
+#include "lessons/rsa/steps/PasosDeClave.h"
+#include "lessons/rsa/windows/FormRSAAtaques.h"
 #include "lessons/rsa/windows/FormRSAComun.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -10,6 +12,7 @@
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormRSAClave.h"
 
 #include <QDir>
@@ -34,10 +37,15 @@ void soloLectura(CampoLargo *campo)
 } // namespace
 
 FormRSAClave::FormRSAClave(std::shared_ptr<ClsRSA> clave, QWidget *leccion)
-    : QWidget(leccion), ui(std::make_unique<Ui::FormRSAClave>()), m_clave(std::move(clave))
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormRSAClave>()),
+      m_clave(std::move(clave)),
+      m_pasos(new PanelDePasos(u"Clave RSA"_s, this))
 {
     ui->setupUi(this);
     traduceVentana(this);
+    m_ataques = new FormRSAAtaques(m_clave, m_pasos, this);
+    ui->columna->addWidget(m_ataques);
     ui->cmdBuzon->setIcon(Icono(u"BUZON"_s));
     ui->cmdPublicarClave->setIcon(Icono(u"PUBLICAR"_s));
     for (QLineEdit *campo : {ui->txtR, ui->TxtNumBits}) {
@@ -83,6 +91,29 @@ void FormRSAClave::muestraClave()
     // The key that was recovered may have another block length than the field begins with.
     const QSignalBlocker callado(ui->txtR);
     ui->txtR->setText(QString::number(m_clave->r()));
+    actualizaPasos();
+}
+
+/// Whether what stands in the fields is the key, and valid.
+bool FormRSAClave::muestraLaClave() const
+{
+    return m_clave->ClaveOK() && txtQ(1)->text() == m_clave->q(1) &&
+           txtQ(2)->text() == m_clave->q(2) && ui->txtS->text() == m_clave->s();
+}
+
+/// The steps of the key in the fields, unless they are there already; an attack that was shown goes
+/// with the key that stood there then.
+void FormRSAClave::actualizaPasos()
+{
+    const bool valida = muestraLaClave();
+    const QStringList numeros = valida ? QStringList{m_clave->q(1), m_clave->q(2), m_clave->s(),
+                                                     m_clave->t(), QString::number(m_clave->r())}
+                                       : QStringList();
+    if (numeros == m_explicada)
+        return;
+    m_explicada = numeros;
+    m_ataques->abandona();
+    m_pasos->pon(valida ? pasosDeClave(enCifras(*m_clave)) : Pasos());
 }
 
 void FormRSAClave::muestraCalculados()
@@ -140,8 +171,8 @@ void FormRSAClave::muestraEscrita()
 void FormRSAClave::muestraDerivados()
 {
     const bool mismosPrimos = txtQ(1)->text() == m_clave->q(1) && txtQ(2)->text() == m_clave->q(2);
-    const bool misma = mismosPrimos && ui->txtS->text() == m_clave->s();
-    if (misma && m_clave->ClaveOK()) {
+    actualizaPasos();
+    if (muestraLaClave()) {
         muestraCalculados();
         return;
     }

@@ -8,6 +8,8 @@
 #include <memory>
 
 class CampoLargo;
+class FormRSAAtaques;
+class PanelDePasos;
 
 namespace Ui {
 class FormRSAClave;
@@ -33,6 +35,8 @@ public:
     /// Shows the mailbox folder, and whether the key can be published in it.
     void muestraBuzon(bool sePuedePublicar);
 
+    PanelDePasos *pasos() const { return m_pasos; }
+
     Tareas &tareas() { return m_tareas; }
 
 Q_SIGNALS:
@@ -52,6 +56,8 @@ private:
     void muestraCalculados();
     void muestraEscrita();
     void muestraDerivados();
+    bool muestraLaClave() const;
+    void actualizaPasos();
     bool esLarga() const;
     void valida();
 
@@ -67,6 +73,9 @@ private:
 
     std::unique_ptr<Ui::FormRSAClave> ui;
     std::shared_ptr<ClsRSA> m_clave;
+    PanelDePasos *m_pasos;
+    FormRSAAtaques *m_ataques;
+    QStringList m_explicada; ///< the numbers of the key that the steps explain
     Estado m_estado = Estado::Neutro;
     QString m_textoDeEstado;
     bool m_publicada = false; ///< what is shown is that the key was published

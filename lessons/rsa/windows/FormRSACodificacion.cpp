@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/rsa/windows/FormRSACodificacion.h"
 
+#include "lessons/rsa/steps/PasosDeCifrado.h"
+#include "lessons/rsa/windows/FormRSAAtaques.h"
 #include "lessons/rsa/windows/FormRSABloques.h"
 #include "lessons/rsa/windows/FormRSAComun.h"
 #include "lessons/rsa/windows/FormRSATexto.h"
@@ -8,6 +10,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Textos.h"
+#include "shell/steps/PanelDePasos.h"
 #include "ui_FormRSACodificacion.h"
 
 #include <QHeaderView>
@@ -18,7 +21,8 @@ FormRSACodificacion::FormRSACodificacion(std::shared_ptr<ClsRSA> clave, QWidget 
     : QWidget(leccion),
       ui(std::make_unique<Ui::FormRSACodificacion>()),
       m_clave(std::move(clave)),
-      m_bloques(Traduce(u"^Texto codificado"_s))
+      m_bloques(Traduce(u"^Texto codificado"_s)),
+      m_pasos(new PanelDePasos(u"Codificación RSA"_s, this))
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -76,9 +80,11 @@ Tarea<> FormRSACodificacion::cmdCodificar_Click()
                              Traduce(u"Tamaño de la palabra"_s));
         co_return;
     }
+    const ClaveEnCifras clave = enCifras(*m_clave);
     const auto marcha = m_codificar->empieza(m_tareas.billete());
     const QStringList bloques = co_await m_clave->Codifica(texto, marcha.billete());
     muestra(bloques);
+    m_pasos->pon(bloques.isEmpty() ? Pasos() : pasosDeCifrado(clave, texto));
 }
 
 void FormRSACodificacion::muestra(const QStringList &bloques)

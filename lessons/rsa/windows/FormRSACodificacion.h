@@ -9,6 +9,8 @@
 #include <QWidget>
 #include <memory>
 
+class PanelDePasos;
+
 namespace Ui {
 class FormRSACodificacion;
 }
@@ -25,6 +27,8 @@ public:
 
     void permiteCodificar(bool permitido);
 
+    PanelDePasos *pasos() const { return m_pasos; }
+
     Tareas &tareas() { return m_tareas; }
 
 private:
@@ -37,6 +41,7 @@ private:
     std::unique_ptr<Ui::FormRSACodificacion> ui;
     std::shared_ptr<ClsRSA> m_clave;
     TablaDeTextos m_bloques;
+    PanelDePasos *m_pasos;
     BotonDeCorrida *m_codificar;
     BotonDeCorrida *m_descodificar;
     TareasDeVentana m_tareas{this};

@@ -273,14 +273,14 @@ RespuestaLeida leeFraccion(const QString &expresion, const QString &texto)
     const auto hallada = fraccion.match(expresion);
     const QString decimales = hallada.captured(3);
     const auto arriba = entero(hallada.captured(1) + decimales);
-    const auto abajo = decimales.isEmpty() ? entero(hallada.captured(2))
-                                           : u'1' + QString(decimales.size(), u'0');
+    const auto abajo =
+        decimales.isEmpty() ? entero(hallada.captured(2)) : u'1' + QString(decimales.size(), u'0');
     if (hallada.hasMatch() && arriba && abajo != u"0"_s)
         return leida({*arriba, abajo.value_or(u"1"_s)}, expresion);
     // What has a value but is not written as one is left to be computed: the question itself.
-    return entero(expresion) ? RespuestaLeida{RespuestaLeida::EsLaPregunta, {}, {},
-                                              Traduce(u"eso es la pregunta"_s)}
-                             : noEntendida(texto.trimmed());
+    if (falloDeExpresion(expresion).clase == FalloDeExpresion::Clase::Ninguno)
+        return {RespuestaLeida::EsLaPregunta, {}, {}, Traduce(u"eso es la pregunta"_s)};
+    return noEntendida(texto.trimmed());
 }
 
 RespuestaLeida leeFormulaDeCelda(const QString &expresion, const QString &texto)

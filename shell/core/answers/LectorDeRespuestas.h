@@ -11,11 +11,11 @@ struct FormaDeRespuesta
         Entero, ///< one whole number
         Lista,  ///< whole numbers between ",", ";", "y" or blanks, in brackets or not, in any order
         Suma,   ///< whole numbers joined by "+", each of which counts
-        Producto, ///< prime powers: "2^3·5", "2³ x 5", "2, 2, 2, 5"
-        Solucion, ///< "x = 3 + 5k, y = 2 − 4k": where it begins and how far it goes, of each
-                  ///< unknown
-        Palabra,  ///< one of the words alone
-        Fraccion, ///< a whole number, a fraction or a decimal as it is written, not computed
+        Producto,      ///< prime powers: "2^3·5", "2³ x 5", "2, 2, 2, 5"
+        Solucion,      ///< "x = 3 + 5k, y = 2 − 4k": where it begins and how far it goes, of each
+                       ///< unknown
+        Palabra,       ///< one of the words alone
+        Fraccion,      ///< a whole number, a fraction or a decimal as it is written, not computed
         FormulaDeCelda ///< an expression with names of cells
     };
     Clase clase = Entero;
