@@ -79,7 +79,8 @@ private:
     void colocaVentana(FormLeccion *leccion);
     void preparaEnlaces(FormLeccion *leccion, int fila);
     QString sigueEnlace(const EnlaceDeLeccion &enlace, int desde);
-    void vuelve(int fila, const QUrl &pagina, int altura);
+    /// The way back to the place where the page of a row's lesson is read now.
+    std::function<void()> vueltaA(int fila);
     QList<QPointer<FormLeccion>> abiertas() const;
     Tarea<> pideCierre();
 

@@ -103,8 +103,13 @@ void FormPrincipal::preparaEnlaces(FormLeccion *leccion, int fila)
 QString FormPrincipal::sigueEnlace(const QUrl &direccion, int desde)
 {
     const EnlaceDePagina leido = leeEnlace(direccion);
-    if (const auto *practicas = std::get_if<EnlaceDePracticas>(&leido))
-        return practica(practicas->clase, practicas->nivel);
+    if (const auto *practicas = std::get_if<EnlaceDePracticas>(&leido)) {
+        const auto vuelta = vueltaA(desde);
+        const QString frase = practica(practicas->clase, practicas->nivel);
+        if (const QPointer<FormLeccion> ventana = m_abiertas.value(FilaPracticas))
+            ventana->ofreceVuelta(vuelta);
+        return frase;
+    }
     if (const auto *leccion = std::get_if<EnlaceDeLeccion>(&leido))
         return sigueEnlace(*leccion, desde);
     const auto *roto = std::get_if<EnlaceRoto>(&leido);
@@ -130,22 +135,25 @@ QString FormPrincipal::sigueEnlace(const EnlaceDeLeccion &enlace, int desde)
         if (!puedeRellenarse(*tema, campo))
             return Traduce(u"El enlace nombra un campo que no se puede rellenar: %1."_s).arg(campo);
     }
-    const QPointer<FormLeccion> origen = m_abiertas.value(desde);
-    const auto lugar = origen && origen->pagina() ? origen->pagina()->navegador()->lugar()
-                                                  : NavegadorPagina::Lugar();
+    const auto vuelta = vueltaA(desde);
     FormLeccion *leccion = abreLeccion(fila);
     if (!leccion || !leccion->abreTema(tema->clave))
         return Traduce(u"Ese tema no está disponible ahora."_s);
-    leccion->ofreceVuelta([this, desde, lugar] { vuelve(desde, lugar.pagina, lugar.altura); });
+    leccion->ofreceVuelta(vuelta);
     return rellena(*leccion, *tema, enlace);
 }
 
-void FormPrincipal::vuelve(int fila, const QUrl &pagina, int altura)
+std::function<void()> FormPrincipal::vueltaA(int fila)
 {
-    FormLeccion *origen = abreLeccion(fila);
-    if (!origen || !origen->pagina())
-        return;
-    origen->abreTema(u"intro"_s);
-    origen->pagina()->navegador()->ve({pagina, altura});
-    origen->pagina()->navegador()->setFocus();
+    const QPointer<FormLeccion> leccion = m_abiertas.value(fila);
+    const auto lugar = leccion && leccion->pagina() ? leccion->pagina()->navegador()->lugar()
+                                                    : NavegadorPagina::Lugar();
+    return [this, fila, lugar] {
+        FormLeccion *origen = abreLeccion(fila);
+        if (!origen || !origen->pagina())
+            return;
+        origen->abreTema(u"intro"_s);
+        origen->pagina()->navegador()->ve(lugar);
+        origen->pagina()->navegador()->setFocus();
+    };
 }

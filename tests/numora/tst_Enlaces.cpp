@@ -185,6 +185,11 @@ numora:minical/hoja?txtPrecisión=3)"_s);
         QCOMPARE(navegador->verticalScrollBar()->value(), 700);
         QVERIFY(navegador->hasFocus() &&
                 !control<QToolButton>(primos, u"cmdVolver"_s)->isVisible());
+
+        QCOMPARE(sigue(*navegador, QUrl(u"numora:practicas/euclides.mcd?nivel=1"_s)), QString());
+        QVERIFY(m_principal->leccionActiva() != m_lectura);
+        QTest::keyClick(m_principal->leccionActiva(), Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(m_principal->leccionActiva(), m_lectura);
     }
 
 private:
