@@ -58,6 +58,8 @@ FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
 
 FormPrincipal::~FormPrincipal()
 {
+    // Its windows go after it, and would tell it so.
+    ui->AreaDeTrabajo->disconnect(this);
     TerminaBignum();
 }
 

@@ -94,7 +94,8 @@ private Q_SLOTS:
             const QUrl direccion(enlace->attribute(u"href"_s));
             if (!esEnlaceDelPrograma(direccion))
                 continue;
-            const QString falta = sigue(*navegador, direccion) + lleva(*enlace, direccion);
+            QString falta = sigue(*navegador, direccion);
+            falta += lleva(*enlace, direccion);
             if (!falta.isEmpty())
                 faltas << u"line %1: %2: %3"_s.arg(enlace->line).arg(direccion.toString(), falta);
         }
@@ -214,7 +215,10 @@ private:
     QString sigue(NavegadorPagina &navegador, const QUrl &direccion)
     {
         Q_EMIT navegador.anchorClicked(direccion);
-        return control<QLabel>(m_lectura, u"lblAvisoDePagina"_s)->text();
+        QString dicho = control<QLabel>(m_lectura, u"lblAvisoDePagina"_s)->text();
+        for (const auto &mensaje : std::exchange(Entorno::grabadora().mensajes, {}))
+            dicho += mensaje.texto;
+        return dicho;
     }
 
     /// What is not as a link promises.
