@@ -18,16 +18,20 @@ lost=0
 for i in $(seq "$times"); do
     "$program" "$work/data" >"$work/out" 2>&1 &
     pid=$!
-    sleep "$(awk -v s="$RANDOM" 'BEGIN { printf "%.3f", 0.6 + s / 32768 * 1.2 }')"
+    # Some answers are to be on their way: from the first one on it may be killed at any moment.
+    for _ in $(seq 200); do
+        grep -q '^kept' "$work/out" && break
+        sleep 0.05
+    done
+    sleep "$(awk -v s="$RANDOM" 'BEGIN { printf "%.3f", s / 32768 * 0.6 }')"
     kill -KILL "$pid"
     wait "$pid" 2>/dev/null || true
     found=$(awk '$1 == "found" { print $2 }' "$work/out")
-    if grep -q '^opening' "$work/out"; then
+    if grep -q '^told' "$work/out"; then
         cat "$work/out"
         exit 1
     fi
-    # Killed before it had opened its window: nothing to compare.
-    [ -n "$found" ] || continue
+    [ -n "$found" ] || { echo "kill $i: it had not begun" && continue; }
     if [ "$found" -lt "$confirmed" ]; then
         echo "kill $i: $confirmed answers were confirmed, $found are there"
         lost=$((lost + 1))
@@ -40,8 +44,10 @@ echo "$times kills: $confirmed answers, starts that missed one: $lost"
 mkdir "$work/small"
 if mount -t tmpfs -o size=160k tmpfs "$work/small" 2>/dev/null; then
     timeout 20 "$program" "$work/small/data" >"$work/out" 2>&1 || true
-    confirmed=$(awk '$1 == "kept" { n++ } END { print n + 0 }' "$work/out")
-    echo "full disk: goes on for $confirmed answers; then $(timeout 5 "$program" "$work/small/data" 2>&1 | head -n 1)"
+    confirmed=$(awk '$1 == "kept" { n = $2 } END { print n + 0 }' "$work/out")
+    word=$(grep -m 1 '^told' "$work/out" || echo "nothing was told")
+    timeout 10 "$program" "$work/small/data" >"$work/out" 2>&1 || true
+    echo "full disk: $confirmed answers, then \"$word\"; at the next start: $(grep -m 1 -E '^(found|told)' "$work/out")"
 else
     echo "full disk: not tried, nothing can be mounted here"
 fi

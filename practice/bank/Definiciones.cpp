@@ -149,7 +149,7 @@ qint64 sumaDe(const QList<qint64> &numeros)
 /// Divides until 0: with every step c is added, or the remainder.
 Ejercicio cifras(Sorteo &sorteo)
 {
-    const qint64 b = sorteo.entre(2, 9);
+    const qint64 b = sorteo.entre(2, 8);
     const qint64 n = sorteo.entre(b * b * b, 700);
     const bool restos = sorteo.moneda();
     const qint64 c = sorteo.entre(1, 3);

@@ -4,7 +4,10 @@
 #include "bignum/gateway/ModBignum.h"
 #include "practice/bank/JuicioDeNumeros.h"
 #include "practice/bank/NumerosPequenos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -118,7 +121,7 @@ Fallo juzgaFormula(const RespuestaLeida &respuesta, const Columna &columna)
         return Fallo::mal(Traduce(u"La fórmula tiene que usar A1."_s), u"sin-la-celda"_s);
     if (dados == valores)
         return acierto();
-    if (dados.contains(u"Error"_s))
+    if (std::any_of(dados.begin(), dados.end(), esError))
         return Fallo::mal(Traduce(u"Con algún valor de A1 esa fórmula da Error."_s), u"da-error"_s);
     if (dados == columnaDe(columna.formula, 2) || dados == columnaDe(columna.formula, 0))
         return Fallo::mal(Traduce(u"Da esos valores, pero una fila más arriba o más abajo."_s),

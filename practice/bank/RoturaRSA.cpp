@@ -103,9 +103,11 @@ Ejercicio primosDeFi(int nivel, Sorteo &sorteo)
         .ejemplo = Traduce(u"Dos números: 3, 5"_s),
         .esperada = u"%1, %2"_s.arg(p).arg(r),
         .juzga = [p, r](const RespuestaLeida &resp) { return juzgaPrimos(resp, p, r); },
-        .pistas = {Traduce(u"¿Cuánto vale la suma de los dos primos?"_s),
-                   Traduce(u"Los primos suman %1, y el cuadrado de su diferencia es %1² − 4q."_s)
-                       .arg(p + r)},
+        .pistas =
+            {Traduce(u"¿Cuánto vale la suma de los dos primos?"_s),
+             Traduce(
+                 u"Los primos suman %1, y el cuadrado de su diferencia es el de %1 menos 4 · q."_s)
+                 .arg(p + r)},
         .solucion = [p, r] { return pasosDePrimosDeFi(p, r); }};
 }
 

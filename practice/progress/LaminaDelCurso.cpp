@@ -93,9 +93,9 @@ Lamina laminaDelCurso(const QHash<QString, Dominio> &dominios, qint64 hoy)
         const Balance balance = balanceDe(leccion.clave, dominios, hoy);
         const Tono tono = tonoDe(balance);
         const QRectF caja = cajaDe(leccion);
-        lamina.rectangulo(caja, tono, tono.clase != Tono::Suave);
+        lamina.rectangulo(caja, tono); // not filled: the texts in it are in ink
         lamina.texto({caja.left(), caja.top() + 7, caja.width(), Letra}, Traduce(leccion.titulo));
-        lamina.texto({caja.left(), caja.top() + 28, caja.width(), Letra - 2}, enPalabras(balance));
+        lamina.texto({caja.left(), caja.top() + 28, caja.width(), Letra - 1}, enPalabras(balance));
     }
     return lamina;
 }

@@ -66,9 +66,12 @@ void ReproductorAVI::arranca()
     }
     m_motor = motorDe(QDir::current().absoluteFilePath(rutaExistente(m_ruta)));
     m_motor->setLoops(m_modo == Modo::Continuo ? QMediaPlayer::Infinite : QMediaPlayer::Once);
-    if (m_motor->mediaStatus() == QMediaPlayer::InvalidMedia && m_modo == Modo::UnaVez)
-        QTimer::singleShot(0, this,
-                           &ReproductorAVI::fin); // it has said so once, and will not again
+    if (m_motor->mediaStatus() == QMediaPlayer::InvalidMedia) {
+        // It has said so once, and will not again.
+        if (m_modo == Modo::UnaVez)
+            QTimer::singleShot(0, this, &ReproductorAVI::fin);
+        return;
+    }
     m_motor->setPosition(0);
     m_motor->play();
 }

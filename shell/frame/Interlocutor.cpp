@@ -310,6 +310,11 @@ void Interlocutor::abre(const QString &direccion)
         entero.exists() ? QString() : direccion.section(u'#', 1).section(u'#', -1);
     const QFileInfo archivo(
         lugar.isEmpty() ? entero : QFileInfo(rutaExistente(direccion.chopped(lugar.size() + 1))));
+    const bool sinArchivo = !lugar.isEmpty() && !archivo.exists(); // a name with a "#", gone by now
+    if (sinArchivo && entero.isAbsolute()) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(entero.absoluteFilePath()));
+        return;
+    }
     if (!archivo.isAbsolute() && !archivo.exists()) {
         QDesktopServices::openUrl(QUrl(direccion));
         return;

@@ -58,8 +58,10 @@ FormPrincipal::FormPrincipal(const Contenido &contenido, QWidget *padre)
 
 FormPrincipal::~FormPrincipal()
 {
-    // Its windows go after it, and would tell it so.
+    // The lessons still close as children of what is then no more than a widget.
     ui->AreaDeTrabajo->disconnect(this);
+    for (const QPointer<FormLeccion> &leccion : abiertas())
+        leccion->disconnect(this);
     TerminaBignum();
 }
 

@@ -16,7 +16,7 @@ using Nodo = NodoDeFormula;
 using Caja = FormulaCompuesta::Caja;
 
 constexpr qreal CuerpoMenor = 0.72;   ///< of exponents and subscripts, to what they stand on
-constexpr qreal MasReduccion = 0.8;   ///< of a formula that is too wide
+constexpr qreal MasReduccion = 0.65;  ///< of a formula that is too wide
 constexpr qsizetype Cifras = 40;      ///< of the longest number that is written whole
 constexpr qsizetype PocasCifras = 20; ///< where there is no room for it
 constexpr qreal MenorLetra = 6;       ///< points; nothing is set smaller
@@ -245,12 +245,16 @@ FormulaCompuesta::FormulaCompuesta(const Formula &formula, const QFont &fuente, 
         return;
     const qreal sangria = 1.5 * QFontMetricsF(fuente).height();
     reparte(Compositor(fuente, Cifras).trozos(formula.raiz()), ancho, sangria);
-    // A long number is never broken: it is set somewhat smaller, or shortened.
-    if (m_tamano.width() > ancho) {
-        const bool cabe = m_tamano.width() * MasReduccion <= ancho;
-        const Compositor menor(reducida(fuente, MasReduccion), cabe ? Cifras : PocasCifras);
-        reparte(menor.trozos(formula.raiz()), ancho, sangria);
-    }
+    if (m_tamano.width() <= ancho)
+        return;
+    // A long number is never broken: it is set somewhat smaller, or shortened as well. Type comes
+    // in whole pixels, so in proportion is not quite enough.
+    constexpr qreal PixelesEnteros = 0.93;
+    const qreal factor = std::max(MasReduccion, PixelesEnteros * ancho / m_tamano.width());
+    const QFont menor = reducida(fuente, factor);
+    reparte(Compositor(menor, Cifras).trozos(formula.raiz()), ancho, sangria);
+    if (m_tamano.width() > ancho)
+        reparte(Compositor(menor, PocasCifras).trozos(formula.raiz()), ancho, sangria);
 }
 
 void FormulaCompuesta::reparte(const std::vector<Caja> &trozos, qreal ancho, qreal sangria)

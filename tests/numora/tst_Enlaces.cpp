@@ -25,7 +25,11 @@ QString muestraDe(const FormLeccion &leccion, const QString &control)
 {
     static const QRegularExpression celda(u"^([A-Z])([0-9]+)$"_s);
     const auto nombre = celda.match(control);
-    auto *widget = leccion.findChild<QWidget *>(nombre.hasMatch() ? u"FlexCalc"_s : control);
+    // Several tabs may have one of that name.
+    QWidget *widget = nullptr;
+    for (QWidget *hallado :
+         leccion.findChildren<QWidget *>(nombre.hasMatch() ? u"FlexCalc"_s : control))
+        widget = !widget || hallado->isVisible() ? hallado : widget;
     if (const auto *rejilla = qobject_cast<QAbstractItemView *>(widget)) {
         const QAbstractItemModel &modelo = *rejilla->model();
         if (nombre.hasMatch())
@@ -214,6 +218,7 @@ private:
     /// What the page says when the reader clicks a link.
     QString sigue(NavegadorPagina &navegador, const QUrl &direccion)
     {
+        m_principal->abreLeccion(0)->abreTema(u"intro"_s);
         Q_EMIT navegador.anchorClicked(direccion);
         QString dicho = control<QLabel>(m_lectura, u"lblAvisoDePagina"_s)->text();
         for (const auto &mensaje : std::exchange(Entorno::grabadora().mensajes, {}))

@@ -5,6 +5,7 @@
 #include "shell/core/CarpetaDeDatos.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -37,7 +38,7 @@ int main(int argc, char *argv[])
     {
         const AlmacenDeProgreso almacen(carpetaDeDatos());
         if (!almacen.abierto() || !almacen.aviso().isEmpty()) {
-            std::printf("opening: %s\n", qPrintable(almacen.aviso()));
+            std::printf("told %s\n", qPrintable(almacen.aviso()));
             return 1;
         }
         cuenta = guardadas(almacen);
@@ -51,7 +52,11 @@ int main(int argc, char *argv[])
         ventana.findChild<QPushButton *>(u"cmdSiguiente"_s)->click();
         campo->setText(u"1"_s);
         ventana.findChild<QPushButton *>(u"cmdComprobar"_s)->click();
-        std::printf("kept %d\n", ++cuenta);
+        const QString aviso = ventana.findChild<QLabel *>(u"lblAviso"_s)->text();
+        if (aviso.isEmpty())
+            std::printf("kept %d\n", ++cuenta);
+        else
+            std::printf("told %s\n", qPrintable(aviso));
         std::fflush(stdout);
     });
     reloj.start(0);

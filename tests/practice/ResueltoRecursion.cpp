@@ -118,7 +118,8 @@ QString moduloOculto(const Enunciado &e, const QString &)
         return halladas.join(u" / "_s);
     }
     QList<qint64> halladas;
-    for (qint64 m = 1; m < 1000; ++m) {
+    const qint64 menor = e.nivel == 1 ? 1 : *std::max_element(e.n.begin() + 4, e.n.end()) + 1;
+    for (qint64 m = menor; m < 500; ++m) {
         bool cuadra = true;
         if (e.nivel == 1) {
             for (int i = 0; i < 3; ++i)

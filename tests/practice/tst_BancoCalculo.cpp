@@ -101,7 +101,7 @@ void tst_BancoCalculo::cadaTipo()
         Sorteo sorteo(semillaDe(23, tipo->clave, nivel, i / Niveles));
         const Ejercicio ejercicio = tipo->genera(nivel, sorteo);
         const Enunciado enunciado(ejercicio.enunciado, nivel);
-        QString &resultado = resueltas[ejercicio.enunciado];
+        QString &resultado = resueltas[ejercicio.enunciado + ejercicio.esperada];
         if (resultado.isNull())
             resultado = resuelto.resuelve(enunciado, ejercicio.esperada);
         if (resultado != ejercicio.esperada)

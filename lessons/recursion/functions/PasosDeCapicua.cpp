@@ -73,11 +73,8 @@ Paso pasoDeSuma(const QString &numero, const QString &total)
     if (const auto columna = suma.desigual()) {
         for (const qsizetype i : {*columna, suma.opuesta(*columna)}) {
             const SumaEnColumnas::Columna &c = suma.columnas()[i];
-            paso.formulas << Formula(u"c_{%1} = %2 + %3 + %4 = %5"_s.arg(i + 1)
-                                         .arg(c.cifra)
-                                         .arg(c.pareja)
-                                         .arg(c.llega)
-                                         .arg(c.suma()));
+            paso.formulas << Formula(
+                u"%1 + %2 + %3 = %4"_s.arg(c.cifra).arg(c.pareja).arg(c.llega).arg(c.suma()));
         }
     }
     paso.lamina = lamina(suma, total);

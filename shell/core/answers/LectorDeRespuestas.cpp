@@ -126,6 +126,9 @@ RespuestaLeida leeUno(const QString &expresion, const QString &texto)
     // Blanks between digits group them, where one number alone is asked for.
     static const QRegularExpression blancos(u"(?<=\\d)\\s+(?=\\d{3}(?!\\d))"_s);
     const auto valor = entero(QString(expresion).remove(blancos));
+    constexpr qsizetype Enteras = 24;
+    if (valor && valor->size() <= Enteras)
+        return leida({*valor}, *valor);
     return valor ? leida({*valor}, formatoAbreviado(*valor)) : noEntendida(texto.trimmed());
 }
 

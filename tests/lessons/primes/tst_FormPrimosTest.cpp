@@ -196,6 +196,8 @@ private Q_SLOTS:
     void elCampoCreceConElNumero()
     {
         abreTema(2);
+        control<QToolButton>(m_ventana.get(), u"cmdPasos"_s)
+            ->click(); // the whole width for the tool
         m_ventana->resize(900, 600);
         m_ventana->show();
         QCOMPARE(m_numero->lineas(), 6);
