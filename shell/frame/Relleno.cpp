@@ -6,9 +6,12 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
 #include <QSpinBox>
 
 namespace {
+
+const QWidget *enRelleno = nullptr;
 
 bool escribe(QAbstractItemView &rejilla, const QString &valor)
 {
@@ -66,6 +69,7 @@ bool rellena(QWidget &control, const QString &valor)
 {
     if (!control.isEnabled())
         return false;
+    const QScopedValueRollback<const QWidget *> este(enRelleno, &control);
     if (auto *lista = qobject_cast<QComboBox *>(&control)) {
         lista->setCurrentText(valor);
         return lista->currentText() == valor;
@@ -80,4 +84,9 @@ bool rellena(QWidget &control, const QString &valor)
         return marca(*boton, valor);
     auto *rejilla = qobject_cast<QAbstractItemView *>(&control);
     return rejilla && escribe(*rejilla, valor);
+}
+
+bool seRellena(const QWidget *control)
+{
+    return enRelleno == control;
 }

@@ -10,3 +10,7 @@ class QWidget;
 /// one, both counted from 0. False for any other control, for one that cannot be written, and for a
 /// text that it does not take.
 bool rellena(QWidget &control, const QString &valor);
+
+/// Whether `rellena` is writing into a control just now. A window that takes a value over at each
+/// change, with consequences, waits then until the user does so.
+bool seRellena(const QWidget *control);

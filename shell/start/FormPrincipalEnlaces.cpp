@@ -73,6 +73,9 @@ void vaciaRejillas(FormLeccion &leccion, const TemaDePagina &tema, const EnlaceD
 /// What the lesson's window could not be filled with, as a sentence.
 QString rellena(FormLeccion &leccion, const TemaDePagina &tema, const EnlaceDeLeccion &enlace)
 {
+    // What the user was writing is taken over before anything else is written.
+    if (QWidget *anterior = leccion.focusWidget())
+        anterior->clearFocus();
     vaciaRejillas(leccion, tema, enlace);
     QStringList rechazados;
     QWidget *enfocado = nullptr;

@@ -25,7 +25,11 @@ QString muestraDe(const FormLeccion &leccion, const QString &control)
 {
     static const QRegularExpression celda(u"^([A-Z])([0-9]+)$"_s);
     const auto nombre = celda.match(control);
-    auto *widget = leccion.findChild<QWidget *>(nombre.hasMatch() ? u"FlexCalc"_s : control);
+    // Several tabs may have one of that name.
+    QWidget *widget = nullptr;
+    for (QWidget *hallado :
+         leccion.findChildren<QWidget *>(nombre.hasMatch() ? u"FlexCalc"_s : control))
+        widget = !widget || hallado->isVisible() ? hallado : widget;
     if (const auto *rejilla = qobject_cast<QAbstractItemView *>(widget)) {
         const QAbstractItemModel &modelo = *rejilla->model();
         if (nombre.hasMatch())
@@ -94,7 +98,8 @@ private Q_SLOTS:
             const QUrl direccion(enlace->attribute(u"href"_s));
             if (!esEnlaceDelPrograma(direccion))
                 continue;
-            const QString falta = sigue(*navegador, direccion) + lleva(*enlace, direccion);
+            QString falta = sigue(*navegador, direccion);
+            falta += lleva(*enlace, direccion);
             if (!falta.isEmpty())
                 faltas << u"line %1: %2: %3"_s.arg(enlace->line).arg(direccion.toString(), falta);
         }
@@ -213,8 +218,12 @@ private:
     /// What the page says when the reader clicks a link.
     QString sigue(NavegadorPagina &navegador, const QUrl &direccion)
     {
+        m_principal->abreLeccion(0)->abreTema(u"intro"_s);
         Q_EMIT navegador.anchorClicked(direccion);
-        return control<QLabel>(m_lectura, u"lblAvisoDePagina"_s)->text();
+        QString dicho = control<QLabel>(m_lectura, u"lblAvisoDePagina"_s)->text();
+        for (const auto &mensaje : std::exchange(Entorno::grabadora().mensajes, {}))
+            dicho += mensaje.texto;
+        return dicho;
     }
 
     /// What is not as a link promises.

@@ -9,6 +9,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
 #include "shell/frame/Interlocutor.h"
+#include "shell/frame/Relleno.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
@@ -233,6 +234,8 @@ void FormRSAClave::valida()
         muestraDerivados();
         Q_EMIT validada();
     });
+    if (std::exchange(m_rPendiente, false))
+        m_clave->ponr(aEntero16(NumVal(ui->txtR->text())));
     m_clave->Valida();
 }
 
@@ -265,6 +268,10 @@ void FormRSAClave::txtS_Validate()
 
 void FormRSAClave::txtR_Change()
 {
+    // A valid key is saved: what a page fills in is taken over with the numbers, by the student.
+    m_rPendiente = seRellena(ui->txtR);
+    if (m_rPendiente)
+        return;
     m_clave->ponr(aEntero16(NumVal(ui->txtR->text())));
     muestraObjecion();
     valida();

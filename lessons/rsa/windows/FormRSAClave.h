@@ -78,6 +78,7 @@ private:
     QStringList m_explicada; ///< the numbers of the key that the steps explain
     Estado m_estado = Estado::Neutro;
     QString m_textoDeEstado;
-    bool m_publicada = false; ///< what is shown is that the key was published
+    bool m_publicada = false;  ///< what is shown is that the key was published
+    bool m_rPendiente = false; ///< of what is in the field, the key knows nothing yet
     TareasDeVentana m_tareas{this};
 };
