@@ -20,6 +20,7 @@
 #include <QRegularExpressionValidator>
 #include <QScopeGuard>
 #include <QSignalBlocker>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,6 +29,9 @@ namespace {
 /// While a number is typed, numbers up to this size are tested at each key; the test of larger ones
 /// would be felt in the fingers.
 constexpr qsizetype CifrasAlVuelo = 700;
+
+/// What the key's number of characters can hold.
+constexpr double MayorR = std::numeric_limits<std::int16_t>::max();
 
 void soloLectura(CampoLargo *campo)
 {
@@ -192,7 +196,8 @@ void FormRSAClave::muestraDerivados()
 void FormRSAClave::muestraObjecion()
 {
     ClsRSA escrita(m_clave->sesion());
-    escrita.ponr(m_clave->r());
+    const double r = NumVal(ui->txtR->text());
+    escrita.ponr(m_rPendiente && r <= MayorR ? aEntero16(r) : m_clave->r());
     escrita.ponNBitsRequeridos(m_clave->NBitsRequeridos());
     escrita.ponq(1, ui->txtQ_1->text());
     escrita.ponq(2, ui->txtQ_2->text());
@@ -271,7 +276,7 @@ void FormRSAClave::txtR_Change()
     // A valid key is saved: what a page fills in is taken over with the numbers, by the student.
     m_rPendiente = seRellena(ui->txtR);
     if (m_rPendiente)
-        return;
+        return muestraObjecion();
     m_clave->ponr(aEntero16(NumVal(ui->txtR->text())));
     muestraObjecion();
     valida();
