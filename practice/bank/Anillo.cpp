@@ -87,7 +87,7 @@ Ejercicio primitiva(int nivel, Sorteo &sorteo)
                     .arg(n),
             .forma = {FormaDeRespuesta::Entero, {u"ninguna"_s}},
             .ejemplo = Traduce(u"Una palabra o un número"_s),
-            .esperada = hay ? QString::number(raizPrimitiva(n)) : u"ninguna"_s,
+            .esperada = hay ? QString::number(raizPrimitiva(n)) : Traduce(u"ninguna"_s),
             .juzga = [n](const RespuestaLeida &r) { return juzgaPrimitiva(r, n); },
             .pistas = {Traduce(u"Las hay solo para 2, 4, las potencias de un primo impar y sus "
                                "dobles."_s),
@@ -235,7 +235,7 @@ Ejercicio unidad(int nivel, Sorteo &sorteo)
                 .arg(a)
                 .arg(n);
         e.ejemplo = Traduce(u"Una palabra"_s);
-        e.esperada = esUnidad ? u"unidad"_s : u"divisor de cero"_s;
+        e.esperada = esUnidad ? Traduce(u"unidad"_s) : Traduce(u"divisor de cero"_s);
         e.juzga = [a, n](const RespuestaLeida &r) { return juzgaPalabra(r, a, n); };
         return e;
     }

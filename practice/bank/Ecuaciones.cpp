@@ -112,7 +112,7 @@ Ejercicio soluble(int nivel, Sorteo &sorteo)
             Traduce(u"¿Tiene %1 soluciones enteras? Responda sí o no."_s).arg(ecuacion.texto());
         e.forma = {FormaDeRespuesta::Palabra, {u"sí"_s, u"no"_s}};
         e.ejemplo = Traduce(u"Una palabra"_s);
-        e.esperada = solubles.isEmpty() ? u"no"_s : u"sí"_s;
+        e.esperada = solubles.isEmpty() ? Traduce(u"no"_s) : Traduce(u"sí"_s);
         e.juzga = [ecuacion](const RespuestaLeida &r) { return juzgaSiNo(r, ecuacion); };
         return e;
     }
@@ -121,7 +121,7 @@ Ejercicio soluble(int nivel, Sorteo &sorteo)
                       .arg(QString::number(a), QString::number(b), listaDe(cs));
     e.forma = {FormaDeRespuesta::Lista, {u"ninguno"_s}};
     e.ejemplo = Traduce(u"Números separados por comas"_s);
-    e.esperada = solubles.isEmpty() ? u"ninguno"_s : listaDe(solubles);
+    e.esperada = solubles.isEmpty() ? Traduce(u"ninguno"_s) : listaDe(solubles);
     e.juzga = [cs, d](const RespuestaLeida &r) { return juzgaElegidos(r, cs, d); };
     return e;
 }

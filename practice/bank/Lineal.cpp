@@ -103,7 +103,7 @@ Ejercicio lineal(int nivel, Sorteo &sorteo)
                 .arg(l.n),
         .forma = {FormaDeRespuesta::Lista, {u"ninguna"_s}},
         .ejemplo = Traduce(u"Números separados por comas"_s),
-        .esperada = l.b % l.mcd() == 0 ? listaDe(l.soluciones()) : u"ninguna"_s,
+        .esperada = l.b % l.mcd() == 0 ? listaDe(l.soluciones()) : Traduce(u"ninguna"_s),
         .juzga = [l](const RespuestaLeida &r) { return juzgaLineal(r, l); },
         .pistas = {Traduce(u"Calcule el máximo común divisor del coeficiente y el módulo, y vea si "
                            "divide al otro lado."_s),

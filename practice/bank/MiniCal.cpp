@@ -5,6 +5,7 @@
 #include "practice/bank/FormulaDeColumna.h"
 #include "practice/bank/JuicioDeNumeros.h"
 #include "practice/bank/NumerosPequenos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 #include <numeric>
@@ -31,7 +32,7 @@ QString partesDe(const QString &fraccion)
 
 Fallo juzgaCelda(const RespuestaLeida &respuesta, const Celda &celda)
 {
-    if (respuesta.palabra == u"Error"_s)
+    if (esError(respuesta.palabra))
         return Fallo::mal(Traduce(u"Esa expresión tiene valor."_s), u"error"_s);
     const QString dada = respuesta.numeros.join(u' ');
     const QString buena = partesDe(celda.muestra);

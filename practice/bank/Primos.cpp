@@ -64,7 +64,7 @@ Ejercicio esPrimo(int nivel, Sorteo &sorteo)
                              .arg(n),
             .forma = {FormaDeRespuesta::Entero, {u"primo"_s, u"compuesto"_s}, {u"primo"_s}},
             .ejemplo = Traduce(u"Una palabra o un número"_s),
-            .esperada = primo ? u"primo"_s : QString::number(p),
+            .esperada = primo ? Traduce(u"primo"_s) : QString::number(p),
             .juzga = [n](const RespuestaLeida &r) { return juzgaPrimo(r, n); },
             .pistas = {Traduce(u"Pruebe con los primos 2, 3, 5, 7… ¿Hasta dónde hace falta?"_s),
                        Traduce(u"Basta probar con los primos hasta %1."_s).arg(raiz)},

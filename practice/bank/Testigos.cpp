@@ -128,7 +128,7 @@ Ejercicio testigo(int nivel, Sorteo &sorteo)
         .enunciado = preguntaDeTestigo(fuerte).arg(b).arg(n).arg(e),
         .forma = {FormaDeRespuesta::Entero, {u"sí"_s, u"no"_s}, {u"^ mod"_s}},
         .ejemplo = Traduce(u"Una palabra o un número"_s),
-        .esperada = esTestigo(b, n, fuerte) ? QString::number(resto) : u"no"_s,
+        .esperada = esTestigo(b, n, fuerte) ? QString::number(resto) : Traduce(u"no"_s),
         .juzga = [b, n, fuerte](const RespuestaLeida &r) { return juzgaTestigo(r, b, n, fuerte); },
         .pistas = {fuerte ? Traduce(u"Con un primo, la potencia sería 1, o alguno de sus cuadrados "
                                     "sucesivos −1."_s)

@@ -74,7 +74,7 @@ QString descripcion(const QHash<QString, Dominio> &dominios, qint64 hoy)
         QString frase =
             Traduce(leccion.titulo) + u": "_s + enPalabras(balanceDe(leccion.clave, dominios, hoy));
         if (!antes.isEmpty())
-            frase += Traduce(u"; antes conviene %1"_s).arg(antes.join(u", "_s));
+            frase += u"; "_s + Traduce(u"antes conviene %1"_s).arg(antes.join(u", "_s));
         frases << frase;
     }
     return Traduce(u"Mapa del curso"_s) + u". "_s + frases.join(u". "_s);

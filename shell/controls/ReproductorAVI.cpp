@@ -6,6 +6,7 @@
 #include "shell/look/Imagenes.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QMediaFormat>
 #include <QMediaPlayer>
 #include <QPainter>
@@ -59,12 +60,13 @@ void ReproductorAVI::reproduce(Modo modo)
 
 void ReproductorAVI::arranca()
 {
-    if (Aspecto::movimientoReducido() || !hayConQueReproducir()) {
+    const QString archivo = QDir::current().absoluteFilePath(rutaExistente(m_ruta));
+    if (Aspecto::movimientoReducido() || !hayConQueReproducir() || !QFileInfo(archivo).isFile()) {
         if (m_modo == Modo::UnaVez)
             QTimer::singleShot(0, this, &ReproductorAVI::fin);
         return;
     }
-    m_motor = motorDe(QDir::current().absoluteFilePath(rutaExistente(m_ruta)));
+    m_motor = motorDe(archivo);
     m_motor->setLoops(m_modo == Modo::Continuo ? QMediaPlayer::Infinite : QMediaPlayer::Once);
     if (m_motor->mediaStatus() == QMediaPlayer::InvalidMedia) {
         // It has said so once, and will not again.

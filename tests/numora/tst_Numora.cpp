@@ -34,6 +34,7 @@ private Q_SLOTS:
         for (const QString &variable : {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s})
             m_entorno.remove(variable);
         const QTemporaryDir carpeta;
+        m_entorno.insert(u"XDG_RUNTIME_DIR"_s, carpeta.path()); // Qt complains where there is none
         const QString pdf = carpeta.filePath(u"hoja.pdf"_s);
         for (const auto &[codigo, salida] : {std::pair{u"4D4-02D9"_s, 0}, {u"MD7-4K2Q"_s, 1}}) {
             arranca({u"--hoja"_s, codigo, u"--pdf"_s, pdf, u"--soluciones"_s});
