@@ -5,6 +5,7 @@
 #include "shell/core/Rutas.h"
 #include "shell/core/page/EnlaceDePagina.h"
 #include "shell/core/page/TextoBuscado.h"
+#include "shell/core/page/TrozosDePagina.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QWheelEvent>
@@ -24,8 +26,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Where a figure keeps the width that its page gives it.
-constexpr int AnchoNatural = QTextFormat::UserProperty;
+/// A figure in a page: what stands before its width, its name, width and height.
+const QRegularExpression &formaDeFigura()
+{
+    static const QRegularExpression forma(
+        u"(<img src=\"([^\"]*)\") width=\"(\\d{1,4})\" height=\"(\\d{1,4})\""_s);
+    return forma;
+}
 
 /// Running text is read longer than a label: it is set larger than that.
 constexpr qreal LetraDeLectura = 1.15;
@@ -161,17 +168,41 @@ void NavegadorPagina::ajustaColumna()
         setViewportMargins(borde, 0, borde, 0);
 }
 
+qreal NavegadorPagina::huecoParaFiguras() const
+{
+    return viewport()->width() - 2 * document()->documentMargin() - 1;
+}
+
+/// The page with its figures as wide as there is room: changed afterwards, they would have it laid
+/// out once more.
+QString NavegadorPagina::conFigurasQueCaben(const QString &html)
+{
+    QString ajustada;
+    qsizetype leido = 0;
+    m_anchos.clear();
+    for (const QRegularExpressionMatch &figura : formaDeFigura().globalMatch(html)) {
+        const qreal ancho = figura.captured(3).toDouble(), alto = figura.captured(4).toDouble();
+        m_anchos.insert(figura.captured(2), ancho);
+        const qreal cabe = std::min(ancho, huecoParaFiguras());
+        if (cabe <= 0 || cabe == ancho)
+            continue;
+        ajustada += QStringView(html).mid(leido, figura.capturedStart() - leido);
+        ajustada += u"%1 width=\"%2\" height=\"%3\""_s.arg(
+            figura.captured(1), QString::number(cabe), QString::number(alto * cabe / ancho));
+        leido = figura.capturedEnd();
+    }
+    return ajustada + html.mid(leido);
+}
+
 void NavegadorPagina::ajustaFiguras()
 {
-    const qreal hueco = viewport()->width() - 2 * document()->documentMargin() - 1;
+    const qreal hueco = huecoParaFiguras();
     const auto figuras = figurasDe(*document());
     QTextCursor cursor(document());
     cursor.beginEditBlock(); // one layout for all of them
     for (const auto &[lugar, formato] : figuras) {
         QTextImageFormat figura = formato;
-        if (!figura.hasProperty(AnchoNatural))
-            figura.setProperty(AnchoNatural, figura.width());
-        const qreal ancho = std::min(figura.doubleProperty(AnchoNatural), hueco);
+        const qreal ancho = std::min(m_anchos.value(figura.name(), figura.width()), hueco);
         if (ancho <= 0 || ancho == figura.width())
             continue;
         figura.setHeight(figura.height() * ancho / figura.width());
@@ -192,6 +223,8 @@ QVariant NavegadorPagina::loadResource(int tipo, const QUrl &nombre)
         return imagen.isNull() ? QVariant() : QVariant(imagen);
     }
     const QVariant leido = QTextBrowser::loadResource(tipo, nombre);
+    if (tipo == QTextDocument::StyleSheetResource)
+        return estiloDelPrograma(QString::fromUtf8(leido.toByteArray()));
     if (tipo != QTextDocument::HtmlResource || leido.isNull())
         return leido;
     m_pagina = PaginaPlegable(QString::fromUtf8(leido.toByteArray()));
@@ -204,7 +237,7 @@ QVariant NavegadorPagina::loadResource(int tipo, const QUrl &nombre)
     // A link to a place leads there even where it is folded.
     for (const int pliegue : m_pagina.alrededor(m_pagina.pliegueDe(nombre.fragment())))
         abiertos << pliegue;
-    return m_pagina.muestra(abiertos);
+    return conFigurasQueCaben(m_pagina.muestra(abiertos));
 }
 
 void NavegadorPagina::recarga()

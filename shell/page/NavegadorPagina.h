@@ -74,6 +74,8 @@ private:
     void ponLetra();
     void recarga();
     void ajustaColumna();
+    qreal huecoParaFiguras() const;
+    QString conFigurasQueCaben(const QString &html);
     /// Makes figures that are wider than the column as wide as it is.
     void ajustaFiguras();
     void sigueEnlace(const QUrl &enlace);
@@ -86,6 +88,7 @@ private:
     bool m_pendiente = false;
     PaginaPlegable m_pagina;
     QString m_leida;                      ///< the path of that page
+    QHash<QString, qreal> m_anchos;       ///< of the figures as the page gives them, by their names
     QHash<QString, QSet<int>> m_abiertos; ///< the open folds of each page
     mutable QList<int> m_apartados;       ///< where the sections of the contents begin in the text
     QString m_buscado;

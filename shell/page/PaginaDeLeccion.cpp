@@ -90,8 +90,9 @@ void PaginaDeLeccion::muestraContenido()
 {
     const int ancho = LetrasDelContenido * fontMetrics().averageCharWidth();
     m_contenido->setFixedWidth(ancho);
-    m_contenido->setVisible(m_contenido->count() > 0 &&
-                            width() >= ancho + m_navegador->anchoDeColumna());
+    // Before a page is there as well, which would be laid out anew when its contents come.
+    const bool algo = m_contenido->count() > 0 || m_navegador->source().isEmpty();
+    m_contenido->setVisible(algo && width() >= ancho + m_navegador->anchoDeColumna());
 }
 
 void PaginaDeLeccion::marcaApartado()

@@ -24,8 +24,8 @@ bool esDeLinea(const QString &nombre)
 class PaginaPlegable::Lector
 {
 public:
-    Lector(PaginaPlegable &pagina, const QString &texto)
-        : m_pagina(pagina), m_trozos(trozosDePagina(texto))
+    Lector(PaginaPlegable &pagina, const QString &texto, bool conBloques)
+        : m_pagina(pagina), m_trozos(trozosDePagina(texto)), m_conBloques(conBloques)
     {
         // What has no body is all body.
         m_enCuerpo = !texto.contains(u"<body"_s);
@@ -52,7 +52,7 @@ private:
     void leeTexto(const TrozoDePagina &trozo)
     {
         m_html += trozo.codigo;
-        if (!m_enCuerpo)
+        if (!m_enCuerpo || !m_conBloques)
             return;
         const QString texto = trozo.texto();
         for (const QChar letra : texto) {
@@ -224,6 +224,7 @@ private:
     PaginaPlegable &m_pagina;
     const QList<TrozoDePagina> m_trozos;
     qsizetype m_i = 0;
+    const bool m_conBloques;
     bool m_enCuerpo = false;
     bool m_enPre = false; ///< where blanks and ends of lines count
     QString m_html, m_bloque;
@@ -231,9 +232,9 @@ private:
     QList<int> m_abiertos;
 };
 
-PaginaPlegable::PaginaPlegable(const QString &pagina)
+PaginaPlegable::PaginaPlegable(const QString &pagina) : m_texto(pagina)
 {
-    Lector(*this, pagina);
+    Lector(*this, pagina, /*conBloques*/ false);
 }
 
 QString PaginaPlegable::muestra(const QSet<int> &abiertos) const
@@ -277,8 +278,13 @@ std::optional<PaginaPlegable::Pregunta> PaginaPlegable::pregunta(const QString &
     return hallada == m_preguntas.end() ? std::nullopt : std::optional(*hallada);
 }
 
-QList<int> PaginaPlegable::halla(const QString &buscado) const
+QList<int> PaginaPlegable::halla(const QString &buscado)
 {
+    if (!m_texto.isEmpty()) {
+        PaginaPlegable leida;
+        Lector(leida, std::exchange(m_texto, {}), /*conBloques*/ true);
+        m_bloques = leida.m_bloques;
+    }
     QList<int> pliegues;
     for (const Bloque &bloque : m_bloques) {
         for (qsizetype n = ::halla(buscado, bloque.texto).size(); n > 0; --n)

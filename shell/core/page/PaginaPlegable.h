@@ -47,7 +47,7 @@ public:
 
     /// The innermost fold of each place that holds the searched text, in the order of the page; -1
     /// for what is always in sight. As `halla` of TextoBuscado, no place reaches over two blocks.
-    QList<int> halla(const QString &buscado) const;
+    QList<int> halla(const QString &buscado);
 
 private:
     struct Pieza
@@ -65,8 +65,9 @@ private:
     class Lector;
 
     QList<Pieza> m_piezas;
-    QList<Bloque> m_bloques;
-    QList<int> m_padres; ///< of each fold, the one around it or -1
+    QList<Bloque> m_bloques; ///< read for the first search
+    QString m_texto;         ///< the page as it was given
+    QList<int> m_padres;     ///< of each fold, the one around it or -1
     QStringList m_clases;
     QHash<QString, int> m_pliegueDeLugar;
     QHash<QString, Pregunta> m_preguntas;

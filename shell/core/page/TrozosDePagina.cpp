@@ -68,3 +68,12 @@ QList<TrozoDePagina> trozosDePagina(const QString &pagina)
     agregaTexto(pagina.size());
     return trozos;
 }
+
+QString estiloDelPrograma(QString hoja)
+{
+    static const QRegularExpression comentario(u"/\\*.*?\\*/"_s,
+                                               QRegularExpression::DotMatchesEverythingOption);
+    hoja.remove(comentario);
+    const qsizetype otros = hoja.indexOf(u"@media"_s);
+    return otros < 0 ? hoja : hoja.first(otros);
+}

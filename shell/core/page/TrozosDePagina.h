@@ -21,3 +21,8 @@ struct TrozoDePagina
 
 /// Takes a page apart. Takes any text: what is no tag is text. The pieces make up the page again.
 QList<TrozoDePagina> trozosDePagina(const QString &pagina);
+
+/// The part of the style sheet that is for the program's viewer: what stands before the first
+/// "@media". It would not use the rest, but search it for each element of a page, which takes most
+/// of the time in which a page is read.
+QString estiloDelPrograma(QString hoja);

@@ -220,7 +220,7 @@ private Q_SLOTS:
     {
         const QString archivo = estaFila<QString>();
         const QString ruta = Entorno::carpetaDeTrabajo() + u"/Doc/"_s + archivo;
-        const PaginaPlegable pagina(QString::fromUtf8(leeArchivo(ruta, 1 << 20)));
+        PaginaPlegable pagina(QString::fromUtf8(leeArchivo(ruta, 1 << 20)));
         QSet<int> todos;
         for (int i = 0; i < pagina.pliegues(); ++i)
             todos << i;

@@ -4,6 +4,7 @@
 #include "shell/core/page/JuezDePregunta.h"
 #include "shell/core/page/PaginaPlegable.h"
 #include "shell/core/page/TextoBuscado.h"
+#include "shell/core/page/TrozosDePagina.h"
 #include "tests/Tabla.h"
 
 #include <QUrl>
@@ -65,7 +66,7 @@ no script | | </ol><p>fin)"_s);
 
     void loQueSeSabeDeUnaPagina()
     {
-        const PaginaPlegable pagina(Pagina);
+        PaginaPlegable pagina(Pagina);
         QCOMPARE(pagina.pliegues(), 3);
         QCOMPARE(pagina.alrededor(1), (QList<int>{0, 1}));
         QCOMPARE(pagina.pliegueDe(u"b"_s), 0);
@@ -134,8 +135,10 @@ sí | Si | 1 || sí | yes | 1 || sí | NO | 0 || no | n | 1 || yes | s | 1 || no
         QVERIFY(!juicio.palabra.isEmpty());
     }
 
-    void figuras()
+    void figurasYEstilo()
     {
+        QCOMPARE(estiloDelPrograma(u"/* @media */p {} @media print { p {} } h1 {}"_s), u"p {} "_s);
+        QCOMPARE(estiloDelPrograma(u"p {}"_s), u"p {}"_s);
         const QByteArray clara =
             "<svg><rect x=\"0\" y=\"0\" width=\"9\" rx=\"14\" fill=\"#f4f6fb\"/><rect "
             "fill=\"#F4F6FB\" "
