@@ -38,6 +38,13 @@ ReproductorAVI::ReproductorAVI(QWidget *padre) : QWidget(padre)
     connect(&m_arranque, &QTimer::timeout, this, &ReproductorAVI::arranca);
 }
 
+ReproductorAVI::~ReproductorAVI()
+{
+    // While this is still whole: a player that goes hands over an empty frame and a status.
+    m_motor = nullptr;
+    qDeleteAll(m_motores);
+}
+
 void ReproductorAVI::carga(const QString &ruta, const QString &imagenFija)
 {
     para();

@@ -22,6 +22,7 @@ public:
     static constexpr int Parado = 0;
 
     explicit ReproductorAVI(QWidget *padre = nullptr);
+    ~ReproductorAVI() override;
 
     /// The file to play, relative to the working folder or absolute, with any separators; and the
     /// resource name of its still picture. Stops what was playing. Nothing is opened before

@@ -2,6 +2,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "tests/Sorteos.h"
 #include "tests/Tabla.h"
 #include "tests/practice/DefinicionesDeAlgebra.h"
 
@@ -81,8 +82,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-constexpr int Sorteos = 10'000;
 
 EsBuena definicion(const QString &clave)
 {

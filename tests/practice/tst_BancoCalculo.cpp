@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ModBignum.h"
 #include "practice/engine/Banco.h"
+#include "tests/Sorteos.h"
 #include "tests/practice/ResueltoAparte.h"
 
 #include <QHash>
@@ -24,7 +25,6 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr int Sorteos = 10'000;
 /// Of those, the ones that are answered wrongly as well.
 constexpr int Equivocados = 60;
 constexpr qsizetype MenosRechazadas = 20;

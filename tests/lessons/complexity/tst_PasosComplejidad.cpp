@@ -73,7 +73,7 @@ void tst_PasosComplejidad::hanoi()
         return mpq_class(movimientos);
     });
     revisaAlAzar(
-        revisor, [](QRandomGenerator &azar) { return pasosDeHanoi(alAzar(azar)); }, 10000, 3);
+        revisor, [](QRandomGenerator &azar) { return pasosDeHanoi(alAzar(azar)); }, Sorteos, 3);
 }
 
 /// Against a search through all positions of five discs.

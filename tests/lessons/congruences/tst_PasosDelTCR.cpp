@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/congruences/PasosDelTCR.h"
+#include "tests/Sorteos.h"
 #include "tests/Tabla.h"
 #include "tests/shell/support/RevisorDeFormulas.h"
 
@@ -19,7 +20,7 @@ private Q_SLOTS:
     void todoLoQueSeDiceEsCierto()
     {
         int contradictorios = 0;
-        for (int vez = 0; vez < 10000; ++vez) {
+        for (int vez = 0; vez < Sorteos; ++vez) {
             const SistemaCongruencias sistema =
                 vez % 500 == 0 ? planteaSistema(1 + vez / 500 % MayorSistema) : alAzar();
             const Resolucion resolucion = resuelve(sistema);

@@ -4,6 +4,7 @@
 #include "lessons/euclid/PasosDeEcuacion.h"
 #include "lessons/euclid/PasosDeEuclides.h"
 #include "lessons/euclid/RectanguloDeEuclides.h"
+#include "tests/Sorteos.h"
 #include "tests/lessons/euclid/Muestras.h"
 #include "tests/shell/support/RevisorDeFormulas.h"
 
@@ -25,7 +26,7 @@ private Q_SLOTS:
     {
         Muestras muestras(16);
         RevisorDeFormulas revisor;
-        for (int vez = 0; vez < 10000; ++vez) {
+        for (int vez = 0; vez < Sorteos; ++vez) {
             const auto algoritmo = vez % 2 ? Reducidos : Estandar;
             const std::int64_t mayor = vez % 8 == 0 || vez % 51 == 0 || vez % 70 == 0
                                            ? mayorNumero(algoritmo).entero()
@@ -99,7 +100,7 @@ private Q_SLOTS:
     {
         Muestras muestras(18);
         RevisorDeFormulas revisor;
-        for (int vez = 0; vez < 10000; ++vez) {
+        for (int vez = 0; vez < Sorteos; ++vez) {
             const std::int64_t mayor = vez % 20 == 0 ? Moneda::MaximoEntero : 60;
             const std::int64_t a = muestras.natural(mayor) + (mayor == 60 ? 1 : 0);
             const std::int64_t b = muestras.natural(mayor) + (mayor == 60 ? 1 : 0);

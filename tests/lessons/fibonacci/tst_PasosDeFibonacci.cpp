@@ -84,7 +84,7 @@ void tst_PasosDeFibonacci::metodos()
         [&](QRandomGenerator &azar) {
             return pasosDeFibonacci(metodo, azar.bounded(2, hasta + 1));
         },
-        10000, 1);
+        Sorteos, 1);
 }
 
 void tst_PasosDeFibonacci::bordes_data()
@@ -128,7 +128,7 @@ void tst_PasosDeFibonacci::zeckendorf()
             return pasosDeZeckendorf(
                 representacionZeckendorf(azar.bounded(20) == 0 ? n.repeated(3) : n));
         },
-        10000, 1);
+        Sorteos, 1);
 }
 
 void tst_PasosDeFibonacci::identidades_data()

@@ -6,14 +6,13 @@
 #include "lessons/primes/steps/PasosDeCriba.h"
 #include "lessons/primes/steps/PasosDeFactorizacion.h"
 #include "lessons/primes/steps/PasosDeTest.h"
+#include "tests/Sorteos.h"
 #include "tests/Tabla.h"
 #include "tests/shell/support/RevisorDeFormulas.h"
 
 #include <random>
 
 namespace {
-
-constexpr int Muestras = 10'000;
 
 /// The first fault of the steps; "silent" where they compare less than that many relations.
 QString falta(const Pasos &pasos, int alMenos)
@@ -54,7 +53,7 @@ private Q_SLOTS:
     void testAlAzar()
     {
         std::mt19937_64 azar(16);
-        for (int i = 0; i < Muestras; ++i) {
+        for (int i = 0; i < Sorteos; ++i) {
             // Few of the longest: their certificates factor.
             const int bits = i % 50 == 0 ? 64 : 2 + static_cast<int>(azar() % 34);
             QString n = QString::number((azar() >> (64 - bits)) | (i % 4 == 0 ? 0 : 1));
@@ -136,7 +135,7 @@ private Q_SLOTS:
     {
         std::mt19937_64 azar(17);
         int hallados = 0;
-        for (int i = 0; i < Muestras; ++i) {
+        for (int i = 0; i < Sorteos; ++i) {
             const unsigned n = i < 5000 ? 2 * static_cast<unsigned>(i) + 9
                                         : static_cast<unsigned>(azar() >> 32) | 1U;
             const QString numero = QString::number(n);
@@ -177,7 +176,7 @@ private Q_SLOTS:
     void factorizacionAlAzar()
     {
         std::mt19937_64 azar(18);
-        for (int i = 0; i < Muestras; ++i) {
+        for (int i = 0; i < Sorteos; ++i) {
             const int bits = 1 + static_cast<int>(azar() % 40);
             const auto n = static_cast<std::int64_t>(azar() >> (64 - bits)) + 2;
             // Trial division is for those that it ends soon.

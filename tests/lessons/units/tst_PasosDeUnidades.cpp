@@ -2,6 +2,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/units/OrbitaDeElemento.h"
 #include "lessons/units/PasosDeUnidades.h"
+#include "tests/Sorteos.h"
 #include "tests/shell/support/RevisorDeFormulas.h"
 
 #include <QRandomGenerator>
@@ -28,7 +29,7 @@ private Q_SLOTS:
 
     void elementos()
     {
-        for (int vez = 0; vez < 10000; ++vez) {
+        for (int vez = 0; vez < Sorteos; ++vez) {
             const bool grande = vez % 200 == 0;
             const GrupoUnidades grupo(1 + m_azar.bounded(grande ? GrupoUnidades::MayorModulo : 40));
             const std::int32_t a = m_azar.bounded(-50, 20000);
@@ -45,7 +46,7 @@ private Q_SLOTS:
 
     void fi()
     {
-        for (int vez = 0; vez < 10000; ++vez) {
+        for (int vez = 0; vez < Sorteos; ++vez) {
             const QString n = QString::number(1 + m_azar.bounded(vez % 10 == 0 ? 1000000 : 5000));
             const FuncionEuler euler(n);
             const Pasos pasos = pasosDeFi(euler, n);

@@ -5,6 +5,7 @@
 #include "shell/core/steps/EuclidesLargo.h"
 #include "shell/core/steps/PasosDeInverso.h"
 #include "shell/core/steps/PasosDePotencia.h"
+#include "tests/Sorteos.h"
 #include "tests/shell/support/RevisorDeFormulas.h"
 
 #include <QRandomGenerator>
@@ -59,7 +60,7 @@ private:
 
 void tst_AlgebraDePasos::losEnterosSonExactos()
 {
-    for (int vez = 0; vez < 10000; ++vez) {
+    for (int vez = 0; vez < Sorteos; ++vez) {
         const int largo = vez % 10 == 0 ? 60 : 20;
         const mpz_class a = alAzar(largo, true), b = alAzar(largo, true), m = alAzar(largo) + 1;
         const EnteroLargo x(cifras(a)), y(cifras(b)), n(cifras(m));
@@ -84,7 +85,7 @@ void tst_AlgebraDePasos::losEnterosSonExactos()
 
 void tst_AlgebraDePasos::elInversoPasoAPaso()
 {
-    for (int vez = 0; vez < 10000; ++vez) {
+    for (int vez = 0; vez < Sorteos; ++vez) {
         const int largo = vez % 500 == 0 ? 40 : 9;
         const mpz_class a = alAzar(largo, true), n = alAzar(largo) + 1;
         const Pasos pasos = pasosDeInverso(cifras(a), cifras(n));
@@ -100,7 +101,7 @@ void tst_AlgebraDePasos::elInversoPasoAPaso()
 
 void tst_AlgebraDePasos::laPotenciaPasoAPaso()
 {
-    for (int vez = 0; vez < 10000; ++vez) {
+    for (int vez = 0; vez < Sorteos; ++vez) {
         const int largo = vez % 500 == 0 ? 30 : 8;
         const mpz_class a = alAzar(largo, true), e = alAzar(vez % 100 == 0 ? 12 : 3),
                         m = alAzar(largo) + 1;

@@ -65,7 +65,7 @@ private Q_SLOTS:
         m_rejilla->setCurrentIndex(celda(1, 0));
         escribe(u"siete"_s);
         QTRY_COMPARE(celda(1, 0).data().toString(), u"siete?"_s);
-        QVERIFY(veredicto().contains(u"siete"_s) && !veredicto().startsWith(u"✗"_s));
+        QTRY_VERIFY(veredicto().contains(u"siete"_s) && !veredicto().startsWith(u"✗"_s));
         escribe(u"mod 3"_s);
         QTRY_COMPARE(celda(1, 0).data().toString(), u"mod 3?"_s);
         escribe(u" "_s);
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(completa.size(), 0);
         escribe(u"-12345"_s);
         QTRY_COMPARE(completa.size(), 1);
-        QVERIFY(veredicto().endsWith(u"La tabla está completa."_s));
+        QTRY_VERIFY(veredicto().endsWith(u"La tabla está completa."_s));
         QCOMPARE(celda(1, 0).data().toString(), u"✓ -12.345"_s);
     }
 

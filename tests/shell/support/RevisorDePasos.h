@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "tests/Sorteos.h"
 #include "tests/shell/support/RevisorDeFormulas.h"
 
 #include <QRandomGenerator>
@@ -10,7 +11,7 @@
 /// ones and the last one of the others, which is what time allows. `sortea` gives the steps of an
 /// input, and may give the checker what they need; each input must compare something.
 template <typename Sortea>
-void revisaAlAzar(RevisorDeFormulas &revisor, Sortea sortea, int entradas = 10000,
+void revisaAlAzar(RevisorDeFormulas &revisor, Sortea sortea, int entradas = Sorteos,
                   int porEntrada = 2)
 {
     constexpr int Enteras = 60;
