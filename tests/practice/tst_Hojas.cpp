@@ -4,6 +4,7 @@
 #include "practice/sheets/Clase.h"
 #include "practice/sheets/HojaDeEjercicios.h"
 #include "shell/core/ModGlobal.h"
+#include "tests/Sorteos.h"
 #include "tests/Tabla.h"
 
 #include <QFile>
@@ -21,7 +22,7 @@ private Q_SLOTS:
     void losCodigosVanYVuelven()
     {
         Sorteo sorteo(3);
-        for (int i = 0; i < 2000; ++i) {
+        for (int i = 0; i < Sorteos / 5; ++i) {
             EncargoDeHoja encargo{.cuantos = static_cast<int>(sorteo.entre(1, MaximoDeEjercicios)),
                                   .serie = static_cast<int>(sorteo.entre(0, SeriesDeHoja - 1))};
             if (i % 2 == 0) {

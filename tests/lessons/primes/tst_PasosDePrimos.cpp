@@ -135,7 +135,7 @@ private Q_SLOTS:
     {
         std::mt19937_64 azar(17);
         int hallados = 0;
-        for (int i = 0; i < Sorteos; ++i) {
+        for (int i = 0; i < 5000 + Sorteos / 2; ++i) {
             const unsigned n = i < 5000 ? 2 * static_cast<unsigned>(i) + 9
                                         : static_cast<unsigned>(azar() >> 32) | 1U;
             const QString numero = QString::number(n);
