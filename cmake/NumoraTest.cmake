@@ -1,5 +1,7 @@
 # numora_test(NAME SOURCES... [LIBS libs...]) builds a Qt Test program and hands it to CTest.
 # Tests run without a display, in a fixed locale, and may take a minute (five under sanitizers).
+# Those of windows have the label "windows"; all others are built by the target logic_tests.
+add_custom_target(logic_tests)
 function(numora_test NAME)
     cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
     add_executable(${NAME} ${ARG_UNPARSED_ARGUMENTS})
@@ -17,12 +19,14 @@ function(numora_test NAME)
     target_link_libraries(${NAME} PRIVATE numora_qt_options Qt6::Test ${ARG_LIBS})
     # Compiled once and run for a second: an optimizer would cost more than it saves.
     target_compile_options(${NAME} PRIVATE $<$<CONFIG:Release>:-Og>)
+    add_test(NAME ${NAME} COMMAND ${NAME})
     if("numora_test_support" IN_LIST ARG_LIBS)
         numora_precompile(${NAME} tests)
+        set_tests_properties(${NAME} PROPERTIES LABELS windows)
     else()
         numora_precompile(${NAME} core)
+        add_dependencies(logic_tests ${NAME})
     endif()
-    add_test(NAME ${NAME} COMMAND ${NAME})
     set_tests_properties(${NAME} PROPERTIES
         TIMEOUT 300
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0;TSAN_OPTIONS=ignore_noninstrumented_modules=1")
