@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/ReproductorAVI.h"
 
+#include "shell/controls/Fotograma.h"
 #include "shell/core/Rutas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
@@ -108,7 +109,7 @@ QMediaPlayer *ReproductorAVI::motorDe(const QString &archivo)
                 if (este != m_motor)
                     return;
                 // The player hands over an empty frame when it stops; the last picture stays.
-                if (const QImage imagen = fotograma.toImage(); !imagen.isNull())
+                if (const QImage imagen = imagenDe(fotograma); !imagen.isNull())
                     m_fotograma = imagen;
                 update();
             });
