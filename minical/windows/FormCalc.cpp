@@ -65,6 +65,8 @@ void FormCalc::preparaHoja()
     m_modelo = new FormCalcModelo(m_hoja, m_rejilla);
     m_rejilla->setObjectName(u"FlexCalc"_s);
     m_rejilla->setAccessibleName(Traduce(u"Hoja de cálculo"_s));
+    m_rejilla->setAccessibleDescription(
+        Traduce(u"Tab va de celda en celda; Escape y luego Tab salen de la hoja"_s));
     m_rejilla->setModel(m_modelo);
     m_rejilla->ponAnchos({});
     // The corner of the headers is current at first, not A1, which the grid would take by itself.

@@ -4,14 +4,17 @@
 #include "shell/frame/Evento.h"
 #include "shell/frame/Leccion.h"
 
-#include <QString>
+#include <QKeySequence>
+#include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 class PaginaDeLeccion;
 class PanelDePasos;
+class PanelesDeTemas;
+class QKeyEvent;
 class QAbstractButton;
-class QStackedWidget;
 class QTabBar;
 class QToolButton;
 
@@ -41,6 +44,26 @@ public:
 
     /// Brings a topic to the front; false for a key that no topic has.
     bool abreTema(const QString &clave);
+
+    /// The captions of the topics, as the strip shows them, and which of them is in front.
+    QStringList temas() const;
+    int temaAlFrente() const;
+    QString claveAlFrente() const;
+
+    /// Brings a topic to the front by its place in the strip and gives it the keyboard; nothing
+    /// where there is none.
+    void vaATema(int indice);
+    /// To the next topic (1) or the one before (-1), round the strip, where the keyboard stays if
+    /// it is there.
+    void vaATemaVecino(int sentido);
+
+    /// Brings a tab within the topic in front to the front and gives it the keyboard; false where
+    /// there is none.
+    bool abrePestana(int indice);
+
+    /// The keys that the frame answers wherever in the lesson the keyboard is, and what they do, in
+    /// the interface's language.
+    QList<std::pair<QKeySequence, QString>> teclas() const;
 
     /// Writes into a control of the lesson (Relleno), and brings the tab to the front that holds
     /// it. False where there is no such control and where it does not take the text.
@@ -76,6 +99,8 @@ public:
 Q_SIGNALS:
     /// The user has closed the window; it is not to be shown again.
     void descargada();
+    /// A topic came, went, or came to the front.
+    void cambianTemas();
 
 protected:
     /// Adds a topic behind the others. The panel becomes the window's and is named PanelFicha_<n>,
@@ -92,9 +117,14 @@ protected:
     void agregaIntroduccion(const QString &rotulo);
 
     void closeEvent(QCloseEvent *suceso) override;
+    void showEvent(QShowEvent *suceso) override;
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
+    struct Tecla;
+    static const QList<Tecla> &teclasDelMarco();
+    const Tecla *teclaPara(const QKeyEvent &suceso, const QWidget &control) const;
+    void recuerdaDivisores();
     int indiceDeTema(const QString &clave) const;
     QString seccionAlFrente() const;
     bool introduccionAlFrente() const;
@@ -116,7 +146,8 @@ private:
     QToolButton *m_cmdPasos;
     QToolButton *m_cmdPracticas;
     bool m_hayPracticas = false;
-    QStackedWidget *m_paneles;
+    bool m_vista = false;
+    PanelesDeTemas *m_paneles;
     QToolButton *m_cmdVolver;
     PaginaDeLeccion *m_introduccion = nullptr;
     QList<TemaDePagina> m_temasDePagina;
