@@ -69,9 +69,16 @@ void FormLeccion::preparaPasos()
     m_cmdPasos->setToolTip(Traduce(u"Muestra u oculta por qué sale el resultado (F8)"_s));
     m_cmdPasos->setFocusPolicy(Qt::StrongFocus);
     m_cmdPasos->setCheckable(true);
-    m_cmdPasos->setChecked(Sesión().recuerda(ClaveDePasos, true).toBool());
+    m_claveDePasos = ClaveDePasos;
+    m_cmdPasos->setChecked(Sesión().recuerda(m_claveDePasos, true).toBool());
     m_cmdPasos->hide();
     conecta(m_cmdPasos, &QToolButton::clicked, this, &FormLeccion::cmdPasos_Click);
+}
+
+void FormLeccion::escondePasos(const QString &clave)
+{
+    m_claveDePasos = clave;
+    m_cmdPasos->setChecked(Sesión().recuerda(m_claveDePasos, false).toBool());
 }
 
 void FormLeccion::preparaPracticas()
@@ -183,7 +190,7 @@ void FormLeccion::muestraPasos()
 
 void FormLeccion::cmdPasos_Click(bool visibles)
 {
-    Sesión().anota(ClaveDePasos, visibles);
+    Sesión().anota(m_claveDePasos, visibles);
     muestraPasos();
 }
 
@@ -263,7 +270,8 @@ bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
         evento(this, [this] { cmdVolver_Click(); });
         return true;
     }
-    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_F8) {
+    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_F8 &&
+        !(pulsacion->modifiers() & ~Qt::KeypadModifier)) {
         evento(this, [this] { teclaDePasos(); });
         return true;
     }
