@@ -12,6 +12,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
+#include "shell/steps/PanelDePasos.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -81,7 +82,10 @@ void FormCalc::preparaHoja()
     columna->addWidget(m_rejilla);
     columna->addWidget(preparaEstado(panel));
     columna->addWidget(m_portapapeles);
-    agregaTema(u"Hoja de cálculo"_s, u"hoja"_s, panel);
+    // The sheet has the room for itself until a cell is to be explained.
+    escondePasos(u"Pasos/VisiblesEnHoja"_s);
+    m_pasos = new PanelDePasos(u"Explicar celda"_s, this);
+    agregaTema(u"Hoja de cálculo"_s, u"hoja"_s, panel, m_pasos);
     conectaHoja();
 }
 
@@ -222,15 +226,17 @@ void FormCalc::alCambiarHoja()
     accion(u"Deshacer"_s)->setEnabled(historial.puedeDeshacer());
     accion(u"Rehacer"_s)->setEnabled(historial.puedeRehacer());
     setWindowTitle(m_documento->titulo());
+    ponPasos();
 }
 
 void FormCalc::FlexCalc_Menu(const QPoint &donde)
 {
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const QList<QStringList> grupos{{u"CopiarResultado"_s, u"CopiarExpresión"_s, u"Cortar"_s},
-                                    {u"Deshacer"_s, u"Rehacer"_s},
-                                    {u"ValorDecimal"_s, u"Recalcular"_s, u"Zoom"_s}};
+    const QList<QStringList> grupos{
+        {u"CopiarResultado"_s, u"CopiarExpresión"_s, u"Cortar"_s},
+        {u"Deshacer"_s, u"Rehacer"_s},
+        {u"ValorDecimal"_s, u"Recalcular"_s, u"ExplicarCelda"_s, u"Zoom"_s}};
     for (const QStringList &grupo : grupos) {
         menu->addSeparator();
         for (const QString &clave : grupo)

@@ -4,6 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "bignum/gateway/Moneda.h"
 #include "minical/ExplicacionDeCelda.h"
+#include "minical/PasosDeCelda.h"
 #include "minical/windows/FormCalc.h"
 #include "minical/windows/FormCalcAspecto.h"
 #include "minical/windows/FormCalcDocumento.h"
@@ -16,6 +17,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"
+#include "shell/steps/PanelDePasos.h"
 
 #include <QAction>
 #include <QLabel>
@@ -42,6 +44,20 @@ void FormCalc::Recalcular()
     const RelojDeArena reloj;
     if (m_hoja.Recalcular(m_rejilla->actual()))
         actualizaZoom(m_rejilla->actual());
+}
+
+void FormCalc::ExplicarCelda()
+{
+    m_pasos->pideVerse();
+    m_pasos->enfoca();
+}
+
+/// Those of the current cell. The sheet is asked when they are looked at; whatever changes it puts
+/// others in their place.
+void FormCalc::ponPasos()
+{
+    const Celda celda = m_rejilla->actual();
+    m_pasos->pon(Pasos::aplazados([this, celda] { return pasosDeCelda(m_hoja, celda); }));
 }
 
 void FormCalc::MostrarExpresiones()
@@ -194,6 +210,7 @@ void FormCalc::muestraActual()
     const QString explicacion = explicacionDeCelda(m_hoja, celda);
     m_estado->setText(falla ? u"✗ "_s + explicacion : explicacion);
     m_expresion->muestra(celda, m_hoja.Expresiones(celda.fila, celda.columna));
+    ponPasos();
 }
 
 void FormCalc::Zoom()

@@ -108,6 +108,10 @@ protected:
     void agregaTema(const QString &rotulo, const QString &clave, QWidget *panel,
                     PanelDePasos *pasos = nullptr);
 
+    /// For a tool whose steps are seen when they are asked for: they are hidden at first, and apart
+    /// from those of other windows remembered under that name. Before the first topic.
+    void escondePasos(const QString &clave);
+
     /// Takes a topic off the strip; its panel stays as it is, and may be added again. Nothing for a
     /// key that no topic has.
     void quitaTema(const QString &clave);
@@ -147,6 +151,7 @@ private:
     QToolButton *m_cmdPracticas;
     bool m_hayPracticas = false;
     bool m_vista = false;
+    QString m_claveDePasos; ///< of the setting whether steps are seen
     PanelesDeTemas *m_paneles;
     QToolButton *m_cmdVolver;
     PaginaDeLeccion *m_introduccion = nullptr;

@@ -27,9 +27,16 @@ void FormLeccion::preparaPasos()
     m_cmdPasos->setToolTip(Traduce(u"Muestra u oculta por qué sale el resultado (F8)"_s));
     m_cmdPasos->setFocusPolicy(Qt::StrongFocus);
     m_cmdPasos->setCheckable(true);
-    m_cmdPasos->setChecked(Sesión().recuerda(ClaveDePasos, true).toBool());
+    m_claveDePasos = ClaveDePasos;
+    m_cmdPasos->setChecked(Sesión().recuerda(m_claveDePasos, true).toBool());
     m_cmdPasos->hide();
     conecta(m_cmdPasos, &QToolButton::clicked, this, &FormLeccion::cmdPasos_Click);
+}
+
+void FormLeccion::escondePasos(const QString &clave)
+{
+    m_claveDePasos = clave;
+    m_cmdPasos->setChecked(Sesión().recuerda(m_claveDePasos, false).toBool());
 }
 
 PanelDePasos *FormLeccion::pasosALaVista() const
@@ -48,7 +55,7 @@ void FormLeccion::muestraPasos()
 
 void FormLeccion::cmdPasos_Click(bool visibles)
 {
-    Sesión().anota(ClaveDePasos, visibles);
+    Sesión().anota(m_claveDePasos, visibles);
     muestraPasos();
 }
 

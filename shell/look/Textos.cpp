@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QTabWidget>
 #include <QWidget>
@@ -42,6 +43,10 @@ void traduceObjeto(QObject *objeto)
     if (auto *fichas = qobject_cast<QTabWidget *>(objeto)) {
         for (int i = 0; i < fichas->count(); ++i)
             fichas->setTabText(i, Traduce(fichas->tabText(i)));
+    }
+    if (auto *lista = qobject_cast<QComboBox *>(objeto)) {
+        for (int i = 0; i < lista->count(); ++i)
+            lista->setItemText(i, Traduce(lista->itemText(i)));
     }
 }
 
