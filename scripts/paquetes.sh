@@ -8,7 +8,7 @@ PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
     libgmp-dev libecm-dev libprimesieve-dev libsimpleini-dev)
 PAQUETES_RUN=(qt6-translations-l10n gstreamer1.0-plugins-good libqt6svg6 libqt6sql6-sqlite fonts-dejavu-core fonts-liberation)
 PAQUETES_TEST=(git clang-format-14 clang-tidy-14 python3)
-PAQUETES_PACKAGE=(dpkg-dev lintian appstream desktop-file-utils mandoc xvfb x11-utils)
+PAQUETES_PACKAGE=(dpkg-dev file lintian appstream desktop-file-utils mandoc xvfb xauth x11-utils)
 PAQUETES_FUZZ=(clang-14 libclang-rt-14-dev)
 PAQUETES_BENCH=(libbenchmark-dev libpari-dev pari-gp)
 

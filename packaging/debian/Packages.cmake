@@ -10,6 +10,7 @@ foreach(package "program;numora" "library;libbignum1" "development;libbignum-dev
 endforeach()
 
 set(CPACK_PACKAGE_NAME numora)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own
 set(CPACK_PACKAGE_VENDOR "Numora")
 set(CPACK_PACKAGE_CONTACT "Numora <numora@numora.home.arpa>")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
@@ -34,23 +35,40 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS
 list(JOIN CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS ", " CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "xdg-utils")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION education)
+foreach(override "program;numora" "library;libbignum1")
+    list(GET override 0 component)
+    list(GET override 1 name)
+    install(FILES debian/${name}.lintian RENAME ${name}
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides" COMPONENT ${component})
+endforeach()
 set(CPACK_DEBIAN_PROGRAM_DESCRIPTION "interactive lessons in discrete mathematics, in Spanish
- Lessons on primes, Euclid's algorithm, congruences, units, recursion and
- public-key cryptography, with tools that compute with whole numbers of any
- size, questions that the program judges, and pages to read on.")
+Lessons on primes, Euclid's algorithm, congruences, units, recursion and
+public-key cryptography, with tools that compute with whole numbers of any
+size, questions that the program judges, and pages to read on.")
 
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+# Since which version each symbol is there: all of them since the first.
+file(STRINGS "${CMAKE_SOURCE_DIR}/bignum/exports.map" lines)
+string(REGEX REPLACE ".*global:(.*)local:.*" "\\1" names "${lines}")
+string(REGEX MATCHALL "[A-Za-z]+" names "${names}")
+list(SORT names)
+list(TRANSFORM names REPLACE "(.+)" " \\1@BIGNUM_1 1.0.1")
+list(JOIN names "\n" names)
+file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/symbols"
+    CONTENT "libbignum.so.1 libbignum1 #MINVER#\n BIGNUM_1@BIGNUM_1 1.0.1\n@names@\n" @ONLY)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA
+    "${CMAKE_CURRENT_SOURCE_DIR}/debian/triggers" "${CMAKE_CURRENT_BINARY_DIR}/symbols")
 set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "arithmetic on numbers of any size, exchanged as texts
- Primality, factoring, modular arithmetic, congruences and the evaluation of
- expressions over the integers and the rationals, behind a plain C interface
- that takes and gives numbers as texts of decimal digits.")
+Primality, factoring, modular arithmetic, congruences and the evaluation of
+expressions over the integers and the rationals, behind a plain C interface
+that takes and gives numbers as texts of decimal digits.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libbignum1 (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "arithmetic on numbers of any size: to build on it
- The header of libbignum, what the linker and pkg-config need, the manual page
- of its C interface, and examples in C and in Python.")
+The header of libbignum, what the linker and pkg-config need, the manual page
+of its C interface, and examples in C and in Python.")
 include(CPack)
