@@ -57,7 +57,7 @@ list(SORT names)
 list(TRANSFORM names REPLACE "(.+)" " \\1@BIGNUM_1 1.0.1")
 list(JOIN names "\n" names)
 file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/symbols"
-    CONTENT "libbignum.so.1 libbignum1 #MINVER#\n BIGNUM_1@BIGNUM_1 1.0.1\n@names@\n" @ONLY)
+    CONTENT "libbignum.so.1 libbignum1 #MINVER#\n* Build-Depends-Package: libbignum-dev\n BIGNUM_1@BIGNUM_1 1.0.1\n@names@\n" @ONLY)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA
     "${CMAKE_CURRENT_SOURCE_DIR}/debian/triggers" "${CMAKE_CURRENT_BINARY_DIR}/symbols")
 set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "arithmetic on numbers of any size, exchanged as texts
