@@ -27,7 +27,7 @@ falla() {
 }
 
 echo "== lintian"
-lintian --allow-root --fail-on error,warning,info --display-info --pedantic "$paquetes"/*.deb
+lintian --allow-root --fail-on error,warning --display-info --pedantic "$paquetes"/*.deb
 
 echo "== desktop-file-validate"
 dicho=$(desktop-file-validate "$entrada" 2>&1) || falla "$dicho"
