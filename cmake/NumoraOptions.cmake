@@ -7,6 +7,8 @@ target_compile_options(numora_options INTERFACE -Wall -Wextra -Wpedantic -Wshado
 # clang 14 compiles coroutines of C++20 but does not say so, which the standard library asks for.
 target_compile_definitions(numora_options INTERFACE
     $<$<AND:$<CXX_COMPILER_ID:Clang>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,15>>:__cpp_impl_coroutine=201902L>)
+# What is given away does not tell in which folder it was built: two builds give the same bytes.
+target_compile_options(numora_options INTERFACE $<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>)
 if(NUMORA_WERROR)
     target_compile_options(numora_options INTERFACE -Werror)
 endif()

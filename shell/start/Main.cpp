@@ -39,7 +39,7 @@ void presentaPrograma(const QString &version)
 {
     QCoreApplication::setApplicationName(u"Numora"_s);
     QCoreApplication::setApplicationVersion(version);
-    QGuiApplication::setDesktopFileName(u"numora"_s);
+    QGuiApplication::setDesktopFileName(u"arpa.home.numora"_s);
 }
 
 QString idiomaDeLinea(const QString &lineaDeOrdenes)
