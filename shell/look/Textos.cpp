@@ -2,6 +2,7 @@
 #include "shell/look/Textos.h"
 
 #include "shell/core/ModGlobal.h"
+#include "shell/look/RotulosEnteros.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -58,4 +59,9 @@ void traduceVentana(QWidget *ventana)
     const auto objetos = ventana->findChildren<QObject *>();
     for (QObject *objeto : objetos)
         traduceObjeto(objeto);
+    // Whichever language is the longer: labels that wrap are as tall as their text.
+    for (QLabel *rotulo : ventana->findChildren<QLabel *>()) {
+        if (rotulo->wordWrap() && rotulo->parentWidget())
+            mantieneEntero(rotulo);
+    }
 }

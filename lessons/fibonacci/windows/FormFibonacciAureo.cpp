@@ -45,6 +45,7 @@ FormFibonacciAureo::FormFibonacciAureo(QWidget *padre)
     const QString vacio = Traduce(u"Pulse «Calcular» para ver los cocientes"_s);
     ui->FlexCocientes->ponTextoVacio(vacio);
     ui->PicError->ponTextoVacio(vacio);
+    ui->FlexCocientes->setTextElideMode(Qt::ElideMiddle);
     new ColumnasRepartidas(ui->FlexCocientes);
     ui->reparto->setStretchFactor(0, 3);
     ui->reparto->setStretchFactor(1, 2);

@@ -54,8 +54,9 @@ FormPrimosCriba::FormPrimosCriba(FormLeccion *leccion)
     ui->FlexPrimos->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     ui->FlexPrimos->ponTextoVacio(
         Traduce(u"Escriba hasta qué número y pulse el botón: aquí aparecerán los primos."_s));
-    m_boton = new BotonDeCorrida(ui->BtnCriba, {u"CRIBA"_s, {}, Traduce(u"Realizar la criba"_s)},
-                                 {u"STOP"_s, {}, Traduce(u"Detener cálculo"_s)});
+    m_boton = new BotonDeCorrida(
+        ui->BtnCriba, {u"CRIBA"_s, Traduce(u"C&ribar"_s), Traduce(u"Realizar la criba"_s)},
+        BotonDeCorrida::detener());
     m_boton->ponReloj(ui->lblTiempo, 100ms);
     m_boton->ponAnimacion(ui->ccrpAniCriba);
 

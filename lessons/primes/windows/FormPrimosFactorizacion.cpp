@@ -44,8 +44,9 @@ FormPrimosFactorizacion::FormPrimosFactorizacion(FormLeccion *leccion)
     new LineasSegunTexto(ui->TxtN, 3, 6);
     new LineasSegunTexto(ui->txtFactorElegido, 2, 6);
     new LineasSegunTexto(ui->txtProductoDeFactores, 2, 8);
-    m_boton = new BotonDeCorrida(ui->BtnFactoriza, {u"FACTORIZAR"_s, {}, Traduce(u"Factorizar"_s)},
-                                 {u"STOP"_s, {}, Traduce(u"Detener factorización"_s)});
+    m_boton = new BotonDeCorrida(
+        ui->BtnFactoriza, {u"FACTORIZAR"_s, Traduce(u"Fac&torizar"_s), Traduce(u"Factorizar"_s)},
+        {u"STOP"_s, Traduce(u"&Detener"_s), Traduce(u"Detener factorización"_s)});
     m_boton->timer().setObjectName(u"TimerFactorizando"_s);
     m_boton->ponReloj(ui->lblTiempoFactorizando, 100ms);
     m_boton->ponEspera(leccion);

@@ -50,7 +50,7 @@ FormRSAClave::FormRSAClave(std::shared_ptr<ClsRSA> clave, QWidget *leccion)
     ui->setupUi(this);
     traduceVentana(this);
     m_ataques = new FormRSAAtaques(m_clave, m_pasos, this);
-    ui->rejillaTamano->addWidget(m_ataques, 1, 3);
+    ui->rejillaTamano->addWidget(m_ataques, 2, 0, 1, 4);
     ui->cmdBuzon->setIcon(Icono(u"BUZON"_s));
     ui->cmdPublicarClave->setIcon(Icono(u"PUBLICAR"_s));
     for (QLineEdit *campo : {ui->txtR, ui->TxtNumBits}) {
