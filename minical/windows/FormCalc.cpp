@@ -131,7 +131,7 @@ QWidget *FormCalc::preparaEstado(QWidget *panel)
 {
     m_estado = new QLabel(panel);
     m_estado->setObjectName(u"lblEstado"_s);
-    m_estado->setAccessibleName(Traduce(u"Sobre la celda actual"_s));
+    m_estado->setAccessibleDescription(Traduce(u"Sobre la celda actual"_s));
     m_estado->setContentsMargins(Aspecto::Espacio, 0, Aspecto::Espacio, Aspecto::Espacio / 2);
     m_estado->setTextInteractionFlags(Qt::TextSelectableByMouse);
     // A long explanation is no reason for a wide window.
@@ -177,9 +177,6 @@ void FormCalc::preparaPrecision()
         m_txtPrecision->fontMetrics().horizontalAdvance(QString(anchoDeMuestra, u'0')));
     m_lblPrecision = new QLabel(m_barra);
     m_lblPrecision->setObjectName(u"lblPrecisión"_s);
-    QPalette colores = palette();
-    colores.setColor(QPalette::WindowText, Aspecto::error());
-    m_lblPrecision->setPalette(colores);
     // On a toolbar a label would take the colour of buttons.
     m_lblPrecision->setForegroundRole(QPalette::WindowText);
 }

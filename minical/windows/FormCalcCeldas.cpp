@@ -16,6 +16,7 @@
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/steps/PanelDePasos.h"
 
@@ -90,8 +91,8 @@ void FormCalc::muestraPrecision()
     } catch (const ErrorEjecucion &) {
         m_txtPrecision->setText(Sesión().lee(u"Aritmética"_s, u"Precisión"_s).trimmed());
         m_txtPrecision->setCursorPosition(0);
-        m_lblPrecision->setText(
-            u" ✗ "_s + Traduce(u"Pasa de %1: escriba otra y valídela."_s).arg(MaximaPrecision));
+        muestraVeredicto(m_lblPrecision, false,
+                         Traduce(u"Pasa de %1: escriba otra y valídela."_s).arg(MaximaPrecision));
     }
 }
 
@@ -204,11 +205,11 @@ void FormCalc::muestraActual()
 {
     const Celda celda = m_rejilla->actual();
     const bool falla = esError(m_hoja.Resultados(celda.fila, celda.columna));
-    QPalette colores = palette();
-    colores.setColor(QPalette::WindowText, falla ? Aspecto::error() : Aspecto::atenuado());
-    m_estado->setPalette(colores);
     const QString explicacion = explicacionDeCelda(m_hoja, celda);
-    m_estado->setText(falla ? u"✗ "_s + explicacion : explicacion);
+    if (falla)
+        muestraVeredicto(m_estado, false, explicacion);
+    else
+        muestraNeutro(m_estado, explicacion);
     m_expresion->muestra(celda, m_hoja.Expresiones(celda.fila, celda.columna));
     ponPasos();
 }

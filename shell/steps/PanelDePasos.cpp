@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/steps/PanelDePasos.h"
 
+#include "shell/access/Anuncio.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Anuncio.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
