@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/start/PaletaDeOrdenes.h"
 
+#include "shell/access/Anuncio.h"
 #include "shell/core/Afinidad.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Anuncio.h"
 #include "shell/look/Aspecto.h"
 
 #include <QCoreApplication>

@@ -40,6 +40,8 @@ QString faltaEn(const Ejercicio &e)
     const Fallo fallo = juzga(e, e.esperada);
     if (!fallo.acertada)
         return u"the expected answer is refused: "_s + fallo.palabra;
+    if (!juzga(e, respuestaEnPantalla(e)).acertada)
+        return u"the answer as it is shown is refused: "_s + respuestaEnPantalla(e);
     if (e.pistas.size() != 2 || e.pistas.contains(QString()) || e.enunciado.isEmpty())
         return u"statement or hints are missing"_s;
     if (!e.ejemplo.isEmpty() && leeRespuesta(e.ejemplo, e.forma).estado == RespuestaLeida::Leida &&

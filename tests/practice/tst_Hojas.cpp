@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(rejilla.cabeceras.mid(1), (QStringList{u"Ana"_s, u"Berta"_s}));
         QCOMPARE(rejilla.filas.constFirst().mid(1), (QStringList{u"0/1"_s, u"1/2"_s}));
         QCOMPARE(erroresDeClase(clase).constFirst().mid(1),
-                 (QStringList{u"mcm"_s, u"2"_s, u"3"_s}));
+                 (QStringList{u"da el mínimo común múltiplo"_s, u"2"_s, u"3"_s}));
         QCOMPARE(hojasDeClase(clase), QStringList{u"4-X"_s});
         QVERIFY(rejillaDeClase(clase, u"otra"_s).filas.isEmpty());
     }
