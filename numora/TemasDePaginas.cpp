@@ -113,7 +113,7 @@ QHash<QString, Fila> filas()
                 .campos = campos(u"TxtX TxtY txtMaxAck TxtInicial TxtCapInicial"_s),
                 .pestanas = {u"ackermann"_s, u"granizo"_s, u"capicuas"_s},
                 .rotulo = u"Funciones"_s,
-                .rotulosDePestanas = {u"Ackermann"_s, u"Granizo"_s, u"Capicúas"_s}}}}},
+                .rotulosDePestanas = {u"Ackermann"_s, u"Hailstone"_s, u"Capicúas"_s}}}}},
             {u"HOJACALCULO"_s,
              {u"minical"_s,
               {{.nombre = u"hoja"_s,

@@ -47,9 +47,10 @@ void FormPrincipal::recuperaTamano()
         setWindowState(Qt::WindowMaximized);
     // Qt brings it back from a screen that is gone, though not to the size of a smaller one.
     const QRect libre = screen()->availableGeometry();
+    const int borde = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const int titulo = style()->pixelMetric(QStyle::PM_TitleBarHeight);
     if (!isMaximized() && !libre.contains(geometry()))
-        setGeometry(dentroDe(
-            libre.adjusted(0, style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0), geometry()));
+        setGeometry(dentroDe(libre.adjusted(borde, titulo, -borde, -borde), geometry()));
     ui->Divisor->setStretchFactor(0, 0);
     ui->Divisor->setStretchFactor(1, 1);
     const QByteArray division = Sesión().recuerda(u"Ventana/Division"_s).toByteArray();

@@ -140,8 +140,10 @@ void FormPrincipal::guardaLoPendiente()
 
 void FormPrincipal::terminaSinPreguntar()
 {
+    // The user has closed everything already, or the end is told a second time.
+    if (m_cierrePermitido)
+        return;
     guardaLoPendiente();
-    // When the user has closed all windows there is nothing to come back.
     anotaSesion();
     for (const QPointer<FormLeccion> &leccion : abiertas())
         leccion->cierraSinPreguntar();
