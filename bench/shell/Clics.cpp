@@ -83,6 +83,11 @@ QList<Carrera> carreras()
          3,
          {{u"OptAlgoritmo_1"_s, {}}, {u"TxtN"_s, primo}},
          u"BtnFactoriza"_s},
+        {"attack by division, 129 digits", 4, 1, ataque(1, 4), u"cmdAtacar"_s},
+        {"attack by squares, 129 digits", 4, 1, ataque(2, 4), u"cmdAtacar"_s},
+        {"attack by a table, key of 1978", 4, 1, ataque(0, 1), u"cmdAtacar"_s},
+        {"attack by division, 40 digits", 4, 1, clavePropia(66) + ataque(1, 0), u"cmdAtacar"_s},
+        {"attack by phi, key of 4000 bits", 4, 1, clavePropia(2000) + ataque(4, 0), u"cmdAtacar"_s},
         {"measuring the three ways", 6, 1, {{u"TxtHasta"_s, u"45"_s}}, u"cmdMedir"_s},
         {"Ackermann's function, (4, 2)",
          8,
@@ -91,11 +96,6 @@ QList<Carrera> carreras()
          u"cmdAck"_s},
         {"hailstone of 2000 digits", 8, 1, {{u"TxtInicial"_s, largo}}, u"cmdHail"_s},
         {"palindrome of 196", 8, 1, {{u"TxtCapInicial"_s, u"196"_s}}, u"cmdCap"_s},
-        {"attack by division, 129 digits", 7, 1, ataque(1, 4), u"cmdAtacar"_s},
-        {"attack by squares, 129 digits", 7, 1, ataque(2, 4), u"cmdAtacar"_s},
-        {"attack by a table, key of 1978", 7, 1, ataque(0, 1), u"cmdAtacar"_s},
-        {"attack by division, 40 digits", 7, 1, clavePropia(66) + ataque(1, 0), u"cmdAtacar"_s},
-        {"attack by phi, key of 4000 bits", 7, 1, clavePropia(2000) + ataque(4, 0), u"cmdAtacar"_s},
         {"pasting 800 cells", FormPrincipal::FilaHojaDeCalculo, 0, {}, {}},
     };
 }
