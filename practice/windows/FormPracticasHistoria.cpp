@@ -76,6 +76,7 @@ void FormPracticasHistoria::construye()
     ui->FlexHistoria->horizontalHeader()->setStretchLastSection(true);
     ui->FlexHistoria->setTabKeyNavigation(false);
     ui->PicHistoria->ponTextoVacio(Traduce(u"Aquí se verán los ejercicios acertados sin ayuda"_s));
+    ui->PicHistoria->ponEjes(Traduce(u"Días"_s), Traduce(u"Ejercicios"_s));
     ui->txtAlumno->setText(Sesión().UserName());
     ui->cmdExportar->setIcon(Icono(u"EXPORTAR"_s));
     conecta(ui->cmdExportar, &QPushButton::clicked, this,

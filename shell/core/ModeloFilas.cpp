@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/ModeloFilas.h"
 
+namespace {
+
+/// A grid may show less of a longer text than all; the pointer shows the whole.
+constexpr qsizetype LetrasALaVista = 24;
+
+} // namespace
+
 ModeloFilas::ModeloFilas(const QStringList &cabeceras, QObject *padre)
     : QAbstractTableModel(padre), m_cabeceras(cabeceras)
 {
@@ -24,7 +31,10 @@ QVariant ModeloFilas::data(const QModelIndex &indice, int papel) const
         const auto lado = m_deTexto.contains(indice.column()) ? Qt::AlignLeft : Qt::AlignRight;
         return {lado | Qt::AlignVCenter};
     }
-    return papel == Qt::DisplayRole ? m_filas.at(indice.row()).value(indice.column()) : QVariant();
+    const QString texto = m_filas.at(indice.row()).value(indice.column());
+    if (papel == Qt::ToolTipRole && texto.size() > LetrasALaVista)
+        return texto;
+    return papel == Qt::DisplayRole ? texto : QVariant();
 }
 
 QVariant ModeloFilas::headerData(int seccion, Qt::Orientation orientacion, int papel) const

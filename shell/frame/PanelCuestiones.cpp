@@ -18,6 +18,9 @@ namespace {
 /// How often a question is drawn again until it is another one; a draw among very few may repeat.
 constexpr int SorteosComoMucho = 20;
 
+/// From this width on the two questions stand side by side, in letters.
+constexpr int LetrasParaDos = 130;
+
 } // namespace
 
 /// Where one question stands: what draws it, and its controls.
@@ -58,6 +61,16 @@ PanelCuestiones::PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, Q
 }
 
 PanelCuestiones::~PanelCuestiones() = default;
+
+/// Side by side where there is room for two statements, else one below the other.
+void PanelCuestiones::resizeEvent(QResizeEvent *suceso)
+{
+    QWidget::resizeEvent(suceso);
+    const bool cabenJuntas = width() > fontMetrics().averageCharWidth() * LetrasParaDos;
+    ui->reparto->setDirection(cabenJuntas ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    ui->reparto->setStretch(0, cabenJuntas ? 1 : 0);
+    ui->raya->setFrameShape(cabenJuntas ? QFrame::VLine : QFrame::HLine);
+}
 
 void PanelCuestiones::plantea(Lugar &lugar)
 {

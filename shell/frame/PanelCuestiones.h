@@ -24,6 +24,9 @@ public:
     PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, QWidget *padre);
     ~PanelCuestiones() override;
 
+protected:
+    void resizeEvent(QResizeEvent *suceso) override;
+
 private:
     struct Lugar;
 

@@ -7,7 +7,8 @@ class QTableView;
 
 /// Keeps every column of a grid as wide as its header and contents need, up to the width of the
 /// grid, and shares the room that is left over equally among them, so that whole columns are in
-/// sight whenever they fit. Works anew when the grid is resized and when its contents change. Lives
+/// sight whenever they fit. A grid that shortens texts in the middle has its widest columns cut
+/// until all fit. Works anew when the grid is resized and when its contents change. Lives
 /// as long as the grid.
 class ColumnasRepartidas : public QObject
 {
@@ -20,6 +21,7 @@ public:
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
+    void acorta(QList<int> &anchos) const;
     void reparte();
 
     QTableView *m_rejilla;

@@ -2,9 +2,11 @@
 #include "shell/look/Textos.h"
 
 #include "shell/core/ModGlobal.h"
+#include "shell/look/RotulosEnteros.h"
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QTabWidget>
 #include <QWidget>
@@ -43,6 +45,10 @@ void traduceObjeto(QObject *objeto)
         for (int i = 0; i < fichas->count(); ++i)
             fichas->setTabText(i, Traduce(fichas->tabText(i)));
     }
+    if (auto *lista = qobject_cast<QComboBox *>(objeto)) {
+        for (int i = 0; i < lista->count(); ++i)
+            lista->setItemText(i, Traduce(lista->itemText(i)));
+    }
 }
 
 } // namespace
@@ -53,4 +59,9 @@ void traduceVentana(QWidget *ventana)
     const auto objetos = ventana->findChildren<QObject *>();
     for (QObject *objeto : objetos)
         traduceObjeto(objeto);
+    // Whichever language is the longer: labels that wrap are as tall as their text.
+    for (QLabel *rotulo : ventana->findChildren<QLabel *>()) {
+        if (rotulo->wordWrap() && rotulo->parentWidget())
+            mantieneEntero(rotulo);
+    }
 }

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -70,6 +71,9 @@ PaginaDeLeccion::PaginaDeLeccion(QWidget *padre)
             [this] { lstContenido_Click(m_contenido->currentRow()); });
     conecta(m_contenido, &QListWidget::itemActivated, this,
             [this] { lstContenido_Click(m_contenido->currentRow()); });
+    // Also from the strip of topics and from the contents.
+    auto *busca = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
+    conecta(busca, &QShortcut::activated, this, [this] { m_busqueda->abre(); });
     conecta(m_pregunta, &BarraDePregunta::cerrada, this, &PaginaDeLeccion::cierraBarras);
 }
 

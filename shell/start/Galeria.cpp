@@ -5,26 +5,20 @@
 #include "shell/core/CarpetaDeDatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
-#include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
-#include "shell/frame/Relleno.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
+#include "shell/start/Escenario.h"
 #include "shell/start/FormPrincipal.h"
 #include "shell/start/Main.h"
 
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
-#include <QKeyEvent>
 #include <QSettings>
-#include <QTabBar>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextStream>
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -111,9 +105,7 @@ private:
     {
         espera(20ms); // some begin with the next turn of the queue
         const QDeadlineTimer fin(60s);
-        const auto corridas = leccion.findChildren<BotonDeCorrida *>();
-        const auto enMarcha = [](const BotonDeCorrida *corrida) { return corrida->enMarcha(); };
-        while (std::any_of(corridas.begin(), corridas.end(), enMarcha) && !fin.hasExpired())
+        while (hayCorridas(leccion) && !fin.hasExpired())
             espera(20ms);
     }
 
@@ -136,11 +128,11 @@ private:
         FormLeccion *leccion = m_principal.abreLeccion(fila);
         if (!leccion)
             return;
-        abreTema(*leccion->findChild<QTabBar *>(u"tsTema"_s), escena.tema);
+        leccion->abreTema(escena.tema);
         espera(50ms);
         for (const Gesto &gesto : escena.gestos) {
             esperaCorridas(*leccion);
-            da(gesto, *leccion);
+            daGesto(gesto, *leccion);
         }
         if (!escena.durante)
             esperaCorridas(*leccion);
@@ -149,31 +141,6 @@ private:
         leccion->detenCorrida();
         leccion->cierra();
         espera(20ms);
-    }
-
-    static void abreTema(QTabBar &temas, const QString &clave)
-    {
-        for (int i = 0; i < temas.count(); ++i) {
-            if (temas.tabData(i).toString() == clave)
-                temas.setCurrentIndex(i);
-        }
-    }
-
-    static void da(const Gesto &gesto, const QWidget &ventana)
-    {
-        auto *control = ventana.findChild<QWidget *>(gesto.control);
-        if (gesto.valor.endsWith(u'\n')) {
-            da({gesto.control, gesto.valor.chopped(1)}, ventana);
-            QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-            QCoreApplication::sendEvent(control, &intro);
-        } else if (auto *tira = qobject_cast<QTabBar *>(control))
-            abreTema(*tira, gesto.valor);
-        else if (auto *boton = qobject_cast<QAbstractButton *>(control))
-            boton->click();
-        else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
-            pestanas->setCurrentIndex(gesto.valor.toInt());
-        else if (!control || !rellena(*control, gesto.valor))
-            qWarning("no such control in the scene: %s", qPrintable(gesto.control));
     }
 
     const Contenido &m_contenido;

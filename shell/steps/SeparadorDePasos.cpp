@@ -30,8 +30,6 @@ SeparadorDePasos::SeparadorDePasos(QWidget *herramienta, PanelDePasos *pasos, QW
     addWidget(pasos);
     setStretchFactor(0, 100 - ParteDePasos);
     setStretchFactor(1, ParteDePasos);
-    // However small the window is, the tool keeps what it needs.
-    pasos->setMinimumSize(1, 1);
     connect(this, &QSplitter::splitterMoved, this, &SeparadorDePasos::recuerda);
 }
 
@@ -43,7 +41,10 @@ void SeparadorDePasos::resizeEvent(QResizeEvent *suceso)
 
 void SeparadorDePasos::acomoda()
 {
-    const Qt::Orientation conviene = width() >= AnchoParaDos ? Qt::Horizontal : Qt::Vertical;
+    const int necesario =
+        widget(0)->minimumSizeHint().width() + m_pasos->minimumSizeHint().width() + handleWidth();
+    const Qt::Orientation conviene =
+        width() >= std::max(AnchoParaDos, necesario) ? Qt::Horizontal : Qt::Vertical;
     if (m_acomodado && conviene == orientation())
         return;
     m_acomodado = true;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/steps/TablaPorRellenar.h"
 
+#include "shell/access/Anuncio.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Anuncio.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"

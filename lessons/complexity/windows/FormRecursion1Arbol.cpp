@@ -2,6 +2,7 @@
 #include "lessons/complexity/windows/FormRecursion1Arbol.h"
 
 #include "lessons/complexity/PasosDeLlamadas.h"
+#include "shell/access/Papel.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Imagenes.h"
@@ -41,6 +42,7 @@ FormRecursion1Arbol::FormRecursion1Arbol(QWidget *padre)
     ui->SpinN->setMaximum(ArbolDeLlamadas::MaximoN);
     ui->cmdSiguienteLlamada->setIcon(ImgSiguiente());
     ui->visor->setBackgroundRole(QPalette::Base);
+    ponPapel(ui->visor, QAccessible::Grouping);
 
     conecta(ui->SpinN, &QSpinBox::valueChanged, this, &FormRecursion1Arbol::SpinN_Change);
     conecta(ui->chkMemoria, &QCheckBox::toggled, this, &FormRecursion1Arbol::SpinN_Change);

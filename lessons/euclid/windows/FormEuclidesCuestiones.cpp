@@ -5,6 +5,7 @@
 #include "shell/core/answers/LectorDeRespuestas.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
@@ -13,13 +14,20 @@
 using namespace Qt::Literals::StringLiterals;
 
 FormEuclidesCuestiones::FormEuclidesCuestiones(QWidget *leccion)
-    : QWidget(leccion), ui(std::make_unique<Ui::FormEuclidesCuestiones>())
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormEuclidesCuestiones>()),
+      m_intentos({u"a"_s, u"b"_s, u"n"_s, Traduce(u"Resultado"_s)})
 {
     ui->setupUi(this);
     traduceVentana(this);
     ui->cmdProblema->setIcon(Icono(u"COMPROBAR"_s));
     Aspecto::destaca(ui->lblVeredicto);
     ui->ccrpAnimation->carga({}, u"EUREKA0"_s);
+    m_intentos.ponColumnasDeTexto({3});
+    ui->FlexIntentos->setModel(&m_intentos);
+    ui->FlexIntentos->ponTextoVacio(Traduce(u"Aquí se anotan las respuestas que se comprueban."_s));
+    ui->FlexIntentos->setTextElideMode(Qt::ElideMiddle);
+    new ColumnasRepartidas(ui->FlexIntentos);
 
     conecta(ui->cmdProblema, &QPushButton::clicked, this,
             &FormEuclidesCuestiones::cmdProblema_Click);
@@ -59,4 +67,7 @@ void FormEuclidesCuestiones::cmdProblema_Click()
         muestraNeutro(ui->lblVeredicto, juicio.palabra);
     else
         muestraVeredicto(ui->lblVeredicto, juicio.coincide, juicio.palabra);
+    m_intentos.agrega({ui->txtP1_0->text().trimmed(), ui->txtP1_1->text().trimmed(),
+                       ui->TxtN->text().trimmed(), juicio.palabra});
+    ui->FlexIntentos->scrollToBottom();
 }

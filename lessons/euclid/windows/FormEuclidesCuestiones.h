@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lessons/euclid/CuestionEuclides.h"
+#include "shell/core/ModeloFilas.h"
 
 #include <QWidget>
 #include <memory>
@@ -25,4 +26,5 @@ private:
 
     std::unique_ptr<Ui::FormEuclidesCuestiones> ui;
     CuestionEuclides m_cuestion;
+    ModeloFilas m_intentos;
 };

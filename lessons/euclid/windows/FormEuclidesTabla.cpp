@@ -92,7 +92,7 @@ void FormEuclidesTabla::rehazTabla(Moneda dividendo, Moneda divisor)
     m_modelo->pon(
         {dividendo, divisor,
          m_restosReducidos ? AlgoritmoEuclides::RestosReducidos : AlgoritmoEuclides::Estandar});
-    ui->lblExtEuclides->setText(m_modelo->tabla().resultado());
+    muestraNeutro(ui->lblExtEuclides, m_modelo->tabla().resultado());
     m_pasos->pon(pasosDeEuclides(m_modelo->tabla()));
 }
 

@@ -8,6 +8,7 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/FormLeccion.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "shell/steps/PanelDePasos.h"
@@ -54,8 +55,9 @@ FormPrimosCriba::FormPrimosCriba(FormLeccion *leccion)
     ui->FlexPrimos->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     ui->FlexPrimos->ponTextoVacio(
         Traduce(u"Escriba hasta qué número y pulse el botón: aquí aparecerán los primos."_s));
-    m_boton = new BotonDeCorrida(ui->BtnCriba, {u"CRIBA"_s, {}, Traduce(u"Realizar la criba"_s)},
-                                 {u"STOP"_s, {}, Traduce(u"Detener cálculo"_s)});
+    m_boton = new BotonDeCorrida(
+        ui->BtnCriba, {u"CRIBA"_s, Traduce(u"C&ribar"_s), Traduce(u"Realizar la criba"_s)},
+        BotonDeCorrida::detener());
     m_boton->ponReloj(ui->lblTiempo, 100ms);
     m_boton->ponAnimacion(ui->ccrpAniCriba);
 
@@ -136,7 +138,7 @@ void FormPrimosCriba::muestraPrimos(PrimosDelServicio lista, bool detenida)
     // The bar stands where the largest prime does, nearly always short of 100 %.
     if (!detenida)
         ui->ProgressBar->setFormat(Traduce(u"Terminada"_s));
-    ui->lblResumen->setText(resumen(cuantos, mayor, detenida));
+    muestraNeutro(ui->lblResumen, resumen(cuantos, mayor, detenida));
     ui->FlexPrimos->ponTextoVacio(ui->lblResumen->text());
     m_leccion->unsetCursor();
 }

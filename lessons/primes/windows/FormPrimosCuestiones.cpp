@@ -9,6 +9,7 @@
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/Veredicto.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
@@ -17,7 +18,9 @@
 using namespace Qt::Literals::StringLiterals;
 
 FormPrimosCuestiones::FormPrimosCuestiones(QWidget *padre)
-    : QWidget(padre), ui(std::make_unique<Ui::FormPrimosCuestiones>())
+    : QWidget(padre),
+      ui(std::make_unique<Ui::FormPrimosCuestiones>()),
+      m_intentos({Traduce(u"Primo 1º"_s), Traduce(u"Primo 2º"_s), Traduce(u"Resultado"_s)})
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -31,6 +34,11 @@ FormPrimosCuestiones::FormPrimosCuestiones(QWidget *padre)
                                  Traduce(u" dígitos."_s));
     ui->txtProducto->setReadOnly(true);
     new LineasSegunTexto(ui->txtProducto, 2, 6);
+    m_intentos.ponColumnasDeTexto({2});
+    ui->FlexIntentos->setModel(&m_intentos);
+    ui->FlexIntentos->ponTextoVacio(Traduce(u"Aquí se anotan las respuestas que se comprueban."_s));
+    ui->FlexIntentos->setTextElideMode(Qt::ElideMiddle);
+    new ColumnasRepartidas(ui->FlexIntentos);
 
     conecta(ui->cmdProblema, &QPushButton::clicked, this, &FormPrimosCuestiones::cmdProblema_Click);
     for (CampoLargo *campo : m_txtPrimo) {
@@ -111,6 +119,8 @@ void FormPrimosCuestiones::muestraJuicio(CuestionDosPrimos::Juicio juicio, qsize
                     .arg(digitos)
                     .arg(m_cuestion.digitosPedidos());
     muestraVeredicto(ui->lblVeredicto, acertada, texto);
+    m_intentos.agrega({m_txtPrimo[0]->text().trimmed(), m_txtPrimo[1]->text().trimmed(), texto});
+    ui->FlexIntentos->scrollToBottom();
     ui->ccrpAniEureka->carga(acertada ? Sesión().AVIEureka() : Sesión().AVIError(),
                              acertada ? u"EUREKA"_s : u"ERROR"_s);
     ui->ccrpAniEureka->reproduce(ReproductorAVI::Modo::UnaVez);

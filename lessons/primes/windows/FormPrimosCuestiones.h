@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lessons/primes/CuestionDosPrimos.h"
+#include "shell/core/ModeloFilas.h"
 
 #include <QWidget>
 #include <array>
@@ -33,4 +34,5 @@ private:
     std::unique_ptr<Ui::FormPrimosCuestiones> ui;
     std::array<CampoLargo *, 2> m_txtPrimo{};
     CuestionDosPrimos m_cuestion;
+    ModeloFilas m_intentos;
 };

@@ -28,21 +28,16 @@ QString textoDeDefinicion(const DefinicionRecurrente &definicion)
         anterior, resta ? u"-"_s : u"+"_s, deDos, definicion.f1.texto(), definicion.f2.texto());
 }
 
-QString textoDePrimerosValores(const DefinicionRecurrente &definicion)
+QList<Moneda> primerosValores(const DefinicionRecurrente &definicion, int cuantos)
 {
-    constexpr int cuantos = 10;
-    Moneda anterior = definicion.f1;
-    Moneda ultimo = definicion.f2;
-    QStringList valores{anterior.texto(), ultimo.texto()};
+    QList<Moneda> valores{definicion.f1, definicion.f2};
     try {
         while (valores.size() < cuantos) {
-            const Moneda siguiente = definicion.alfa * ultimo + definicion.beta * anterior;
-            anterior = ultimo;
-            ultimo = siguiente;
-            valores << siguiente.texto();
+            const Moneda anterior = valores.at(valores.size() - 2);
+            valores << definicion.alfa * valores.constLast() + definicion.beta * anterior;
         }
     } catch (const ErrorEjecucion &) {
         // The values that fit are worth showing.
     }
-    return valores.join(u", "_s) + u", …"_s;
+    return valores;
 }

@@ -50,7 +50,7 @@ FormRSAClave::FormRSAClave(std::shared_ptr<ClsRSA> clave, QWidget *leccion)
     ui->setupUi(this);
     traduceVentana(this);
     m_ataques = new FormRSAAtaques(m_clave, m_pasos, this);
-    ui->rejillaTamano->addWidget(m_ataques, 1, 3);
+    ui->rejillaTamano->addWidget(m_ataques, 2, 0, 1, 4);
     ui->cmdBuzon->setIcon(Icono(u"BUZON"_s));
     ui->cmdPublicarClave->setIcon(Icono(u"PUBLICAR"_s));
     for (QLineEdit *campo : {ui->txtR, ui->TxtNumBits}) {
@@ -144,15 +144,7 @@ void FormRSAClave::muestraEstado()
         ::muestraVeredicto(ui->lblEstado, m_estado == Estado::Bien, m_textoDeEstado);
         return;
     }
-    ui->lblEstado->setPalette(palette());
-    ui->lblEstado->setText(m_textoDeEstado);
-}
-
-void FormRSAClave::changeEvent(QEvent *suceso)
-{
-    QWidget::changeEvent(suceso);
-    if (suceso->type() == QEvent::PaletteChange)
-        muestraEstado();
+    muestraNeutro(ui->lblEstado, m_textoDeEstado);
 }
 
 void FormRSAClave::muestraVeredicto(bool bien, const QString &mensaje)

@@ -164,6 +164,14 @@ private Q_SLOTS:
         QCOMPARE(cuenta->text(), u"No está en la página"_s);
         QTest::keyClick(campo, Qt::Key_Escape);
         QVERIFY(!campo->isVisible() && texto(entera).contains(u"▾ Paso"_s));
+
+        QWidget ventana; // where the keyboard is beside the page
+        QLineEdit fuera(&ventana);
+        PaginaDeLeccion dentro(&ventana);
+        ventana.show();
+        QVERIFY(QTest::qWaitForWindowActive(&ventana));
+        QTest::keyClick(&fuera, Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(control<QLineEdit>(&dentro, u"txtBuscar"_s)->isVisible());
     }
 
     void sePreguntaYSeImprime()

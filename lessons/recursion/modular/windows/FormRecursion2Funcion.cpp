@@ -2,6 +2,7 @@
 #include "lessons/recursion/modular/windows/FormRecursion2Funcion.h"
 
 #include "lessons/recursion/modular/TextoDeDefinicion.h"
+#include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
@@ -10,15 +11,28 @@
 #include "shell/look/Textos.h"
 #include "ui_FormRecursion2Funcion.h"
 
+#include <QHeaderView>
+
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// So many values say whether a sequence grows, and how.
+constexpr int PrimerosALaVista = 40;
+
+} // namespace
+
 FormRecursion2Funcion::FormRecursion2Funcion(QWidget *leccion)
-    : QWidget(leccion), ui(std::make_unique<Ui::FormRecursion2Funcion>())
+    : QWidget(leccion),
+      ui(std::make_unique<Ui::FormRecursion2Funcion>()),
+      m_primeros({u"n"_s, u"f(n)"_s})
 {
     ui->setupUi(this);
     traduceVentana(this);
     ui->cmdFunción->setIcon(Icono(u"VALIDAR"_s));
     Aspecto::destaca(ui->lblIntroduce, 1.15);
+    ui->FlexPrimeros->setModel(&m_primeros);
+    ui->FlexPrimeros->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     conecta(ui->cmdFunción, &QPushButton::clicked, this, &FormRecursion2Funcion::cmdFuncion_Click);
     for (auto *campo : {ui->txtAlfa, ui->TxtBeta, ui->TxtF1, ui->txtF2}) {
         conecta(campo, &QLineEdit::returnPressed, this, &FormRecursion2Funcion::cmdFuncion_Click);
@@ -58,6 +72,8 @@ bool FormRecursion2Funcion::lee(QLineEdit *campo, Moneda &valor)
 
 void FormRecursion2Funcion::muestraPrimeros(const DefinicionRecurrente &definicion)
 {
-    ui->lblPrimeros->setText(Traduce(u"Primeros valores de la función aceptada, sin módulo: %1"_s)
-                                 .arg(textoDePrimerosValores(definicion)));
+    QList<QStringList> filas;
+    for (const Moneda valor : primerosValores(definicion, PrimerosALaVista))
+        filas << QStringList{QString::number(filas.size() + 1), formatoEntero(valor)};
+    m_primeros.ponFilas(filas);
 }

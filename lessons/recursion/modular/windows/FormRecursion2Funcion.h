@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lessons/recursion/modular/SucesionModular.h"
+#include "shell/core/ModeloFilas.h"
 
 #include <QWidget>
 #include <memory>
@@ -30,4 +31,5 @@ private:
     void muestraPrimeros(const DefinicionRecurrente &definicion);
 
     std::unique_ptr<Ui::FormRecursion2Funcion> ui;
+    ModeloFilas m_primeros;
 };
