@@ -4,6 +4,7 @@
 #include "shell/core/ModGlobal.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,6 +40,15 @@ bool tieneOpcion(const QStringList &palabras, const QString &nombre)
     return palabras.contains(nombre) || std::ranges::any_of(palabras, [&](const QString &palabra) {
                return palabra.startsWith(nombre + u'=');
            });
+}
+
+QString valorDe(const QStringList &palabras, const QString &nombre)
+{
+    const qsizetype lugar = palabras.indexOf(nombre);
+    if (lugar >= 0)
+        return palabras.value(lugar + 1);
+    const QStringList juntas = palabras.filter(QRegularExpression(u'^' + nombre + u'='));
+    return juntas.isEmpty() ? QString() : juntas.constFirst().sliced(nombre.size() + 1);
 }
 
 QString opcionSinValor(const QStringList &palabras)

@@ -22,6 +22,8 @@ enum Salida { SinPantalla = 1, LineaEquivocada = 2 };
 
 QSize tamano(const QString &texto)
 {
+    if (texto.isEmpty())
+        return {1366, 768};
     const QStringList lados = texto.split(u'x');
     const QSize leido(lados.value(0).toInt(), lados.value(1).toInt());
     return leido.expandedTo({640, 480}).boundedTo({8192, 8192});
@@ -81,8 +83,7 @@ std::optional<int> contestaSinVentanas(const QStringList &palabras, int argc, ch
 /// The scale of the gallery has to stand before Qt looks for it.
 void ponEscala(const QStringList &palabras)
 {
-    const qsizetype lugar = palabras.indexOf(u"--escala"_s);
-    const double porCiento = lugar < 0 ? 0 : palabras.value(lugar + 1).toDouble();
+    const double porCiento = valorDe(palabras, u"--escala"_s).toDouble();
     if (porCiento >= 100 && porCiento <= 400)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(porCiento / 100));
 }
@@ -100,20 +101,18 @@ int main(int argc, char *argv[])
     ArgumentosDeVentana argumentos(argc, argv);
     const QApplication aplicacion(argumentos.cuenta(), argumentos.textos());
 
-    QCommandLineParser opciones;
-    describe(opciones);
-    opciones.parse(QApplication::arguments());
-    const QString linea = QApplication::arguments().sliced(1).join(u' ');
-    if (opciones.isSet(u"galeria"_s))
-        return Galeria(contenidoDelPrograma(), {.carpeta = opciones.value(u"galeria"_s),
-                                                .tamano = tamano(opciones.value(u"tamano"_s)),
-                                                .oscuro = opciones.isSet(u"oscuro"_s),
-                                                .idioma = idiomaDeLinea(linea)});
+    const QStringList pedido = QApplication::arguments();
+    if (tieneOpcion(pedido, u"--galeria"_s))
+        return Galeria(contenidoDelPrograma(), {.carpeta = valorDe(pedido, u"--galeria"_s),
+                                                .tamano = tamano(valorDe(pedido, u"--tamano"_s)),
+                                                .oscuro = pedido.contains(u"--oscuro"_s),
+                                                .idioma = idiomaPedido(pedido)});
 
-    if (opciones.isSet(u"hoja"_s))
-        return hojaSinVentana(opciones.value(u"hoja"_s), opciones.value(u"pdf"_s),
-                              opciones.isSet(u"soluciones"_s), idiomaDeLinea(linea));
+    if (tieneOpcion(pedido, u"--hoja"_s))
+        return hojaSinVentana(valorDe(pedido, u"--hoja"_s), valorDe(pedido, u"--pdf"_s),
+                              pedido.contains(u"--soluciones"_s), idiomaPedido(pedido));
 
+    const QString linea = pedido.sliced(1).join(u' ');
     const Programa programa(linea, contenidoDelPrograma());
     return QApplication::exec();
 }
