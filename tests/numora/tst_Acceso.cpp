@@ -120,11 +120,11 @@ private Q_SLOTS:
             QTest::newRow(nombre) << orden << dicho;
         };
         caso("a table", u"euclides euclides 0 FlexEuclides=0,1:1024"_s,
-             u"(-17) · 240 + 4 · 1.024 = 16"_s);
+             u"4 · 1.024 + (-89) · 46 = 2"_s);
         caso("an equation", u"euclides diofantica 0 txtNº_0=5 txtNº_1=10 txtNº_2=3"_s,
              u"Sin soluciones positivas"_s);
         caso("a verdict", u"primos test 0 txtNúmero=91 cmdEsPrimo"_s, u"No es primo"_s);
-        caso("factors", u"primos factorizacion 0 TxtN=91 BtnFactoriza"_s, u"91 = 7 · 13"_s);
+        caso("factors", u"primos factorizacion 0 TxtN=91 BtnFactoriza"_s, u"Factores primos de 91."_s);
         caso("a refused number", u"fibonacci aureo 0 TxtHasta=1 cmdAureo"_s,
              u"✗ Escriba un número entero de 2 a 500."_s);
         caso("a period", u"modular representacion 0 TxtMódulo=6 cmdCalcular"_s,
