@@ -11,8 +11,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QSizeF Caja(152, 48);
-constexpr QSizeF Celda(190, 84);
+constexpr QSizeF Caja(152, 46);
+constexpr QSizeF Celda(190, 66);
 constexpr qreal Letra = 13;
 
 struct Balance
@@ -117,7 +117,7 @@ Lamina laminaDelCurso(const QHash<QString, Dominio> &dominios, qint64 hoy)
         const QRectF caja = cajaDe(leccion);
         lamina.rectangulo(caja, tono); // not filled: the texts in it are in ink
         lamina.texto({caja.left(), caja.top() + 7, caja.width(), Letra}, Traduce(leccion.titulo));
-        lamina.texto({caja.left(), caja.top() + 28, caja.width(), Letra - 1}, enPalabras(balance));
+        lamina.texto({caja.left(), caja.top() + 26, caja.width(), Letra - 1}, enPalabras(balance));
     }
     return lamina;
 }

@@ -19,5 +19,10 @@ QList<Escena> escenasPracticas()
         {u"practicas-historia"_s, u"historia"_s},
         {u"practicas-hojas"_s, u"hojas"_s, {{u"cmdCodigo"_s, {}}}},
         {u"practicas-hoja-en-marcha"_s, u"hojas"_s, {{u"cmdCodigo"_s, {}}, {u"cmdHacer"_s, {}}}},
-        {u"practicas-clase"_s, u"clase"_s}};
+        {u"practicas-clase"_s,
+         u"historia"_s,
+         {{u"txtAlumno"_s, u"Ana"_s},
+          {u"cmdExportar"_s, {}},
+          {u"tsTema"_s, u"clase"_s},
+          {u"cmdCarpeta"_s, {}}}}};
 }

@@ -166,6 +166,7 @@ PaginaDeLeccion::Orden PaginaDeLeccion::ordenDe(const QKeyEvent &tecla)
     const int pasos = m_navegador->pasosDeLetra();
     const bool barras = m_busqueda->isVisible() || m_pregunta->isVisible();
     const bool busca = m_busqueda->isVisible();
+    const bool conOtra = tecla.modifiers() & (Qt::ShiftModifier | Qt::AltModifier);
     if (tecla.modifiers() & Qt::ControlModifier) {
         switch (tecla.key()) {
         case Qt::Key_Plus:
@@ -176,9 +177,9 @@ PaginaDeLeccion::Orden PaginaDeLeccion::ordenDe(const QKeyEvent &tecla)
         case Qt::Key_0:
             return [this] { cambiaLetra(0); };
         case Qt::Key_F:
-            return [this] { m_busqueda->abre(); };
+            return conOtra ? Orden() : [this] { m_busqueda->abre(); };
         case Qt::Key_P:
-            return [this] { m_tareas.lanza(imprimePagina(m_navegador)); };
+            return conOtra ? Orden() : [this] { m_tareas.lanza(imprimePagina(m_navegador)); };
         default:
             return {};
         }

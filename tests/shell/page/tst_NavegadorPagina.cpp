@@ -165,6 +165,12 @@ private Q_SLOTS:
         QTest::keyClick(campo, Qt::Key_Escape);
         QVERIFY(!campo->isVisible() && texto(entera).contains(u"▾ Paso"_s));
 
+        QKeyEvent deOtro(QEvent::ShortcutOverride, Qt::Key_P,
+                         Qt::ControlModifier | Qt::ShiftModifier);
+        deOtro.ignore();
+        QCoreApplication::sendEvent(&entera, &deOtro);
+        QVERIFY(!deOtro.isAccepted());
+
         QWidget ventana; // where the keyboard is beside the page
         QLineEdit fuera(&ventana);
         PaginaDeLeccion dentro(&ventana);
