@@ -18,6 +18,7 @@
 #include <QMenu>
 #include <QPrinter>
 #include <QScrollBar>
+#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -30,14 +31,26 @@ constexpr auto ClaveTodos = "Pasos/Todos";
 /// Milliseconds from a step to the next one, by the row of the list of speeds.
 constexpr std::array Velocidades = {1600, 700, 150};
 
-/// The buttons stand in one row where the panel is wide enough for them.
+/// The buttons stand in one row where the panel is wide enough for them; it may always be made as
+/// narrow as two rows are.
 void acomodaBotones(const Ui::PanelDePasos &ui, int ancho)
 {
+    ui.cajaDeBotones->setMinimumWidth(
+        std::max(ui.filaRecorrido->minimumSize().width(), ui.filaPelicula->minimumSize().width()));
     const int juntos = ui.filaRecorrido->sizeHint().width() + ui.filaPelicula->sizeHint().width();
     const QMargins bordes = ui.columna->contentsMargins();
     const int cabe = ancho - bordes.left() - bordes.right() - ui.filasDeBotones->spacing();
     ui.filasDeBotones->setDirection(juntos <= cabe ? QBoxLayout::LeftToRight
                                                    : QBoxLayout::TopToBottom);
+}
+
+/// In the shorter of the two rows: that of the film is long where there is one.
+void acomodaPredecir(const Ui::PanelDePasos &ui, bool hayPelicula)
+{
+    if (hayPelicula)
+        ui.filaRecorrido->insertWidget(ui.filaRecorrido->count() - 1, ui.cmdPredecir);
+    else
+        ui.filaPelicula->insertWidget(0, ui.cmdPredecir);
 }
 
 } // namespace
@@ -95,6 +108,7 @@ void PanelDePasos::changeEvent(QEvent *suceso)
     if (ui && suceso->type() == QEvent::FontChange) {
         m_delegado->olvida();
         ui->listaDePasos->doItemsLayout();
+        acomodaBotones(*ui, width());
     }
 }
 
@@ -165,6 +179,7 @@ void PanelDePasos::muestra()
     for (QToolButton *boton :
          {ui->cmdTodosLosPasos, ui->cmdCopiarPasos, ui->cmdImprimirPasos, ui->cmdReproducirPasos})
         boton->setEnabled(hay);
+    acomodaPredecir(*ui, m_pasos.animables());
     acomodaBotones(*ui, width());
     if (hay)
         vaA(0);

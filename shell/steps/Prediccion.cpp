@@ -16,7 +16,8 @@ using namespace Qt::Literals::StringLiterals;
 Prediccion::Prediccion(const Ui::PanelDePasos &ui, const ModeloDePasos &modelo, PanelDePasos *panel)
     : QObject(panel), m_ui(ui), m_modelo(modelo)
 {
-    // Every letter of the word is some lesson's mnemonic. The list keeps its place without it.
+    // Every letter of the word is some lesson's mnemonic. The other buttons stay in their places
+    // without it.
     ui.cmdPredecir->setShortcut(Qt::CTRL | Qt::Key_F8);
     QSizePolicy guardada = ui.cmdPredecir->sizePolicy();
     guardada.setRetainSizeWhenHidden(true);
