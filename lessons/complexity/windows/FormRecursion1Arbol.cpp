@@ -38,11 +38,11 @@ FormRecursion1Arbol::FormRecursion1Arbol(QWidget *padre)
       m_pasos(new PanelDePasos(u"Árbol de llamadas"_s, this))
 {
     ui->setupUi(this);
+    ponPapel(ui->visor, QAccessible::Grouping);
     traduceVentana(this);
     ui->SpinN->setMaximum(ArbolDeLlamadas::MaximoN);
     ui->cmdSiguienteLlamada->setIcon(ImgSiguiente());
     ui->visor->setBackgroundRole(QPalette::Base);
-    ponPapel(ui->visor, QAccessible::Grouping);
 
     conecta(ui->SpinN, &QSpinBox::valueChanged, this, &FormRecursion1Arbol::SpinN_Change);
     conecta(ui->chkMemoria, &QCheckBox::toggled, this, &FormRecursion1Arbol::SpinN_Change);
