@@ -3,6 +3,9 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QStyle>
+#include <algorithm>
 
 namespace {
 
@@ -25,13 +28,75 @@ public:
     }
 
 private:
+    /// A height that brings a scroll bar, which narrows the label, must not go with the bar: the
+    /// two would follow each other without end. So a label gives way only to more room than that.
     void ajusta()
     {
-        const bool vacio = m_rotulo->text().isEmpty() || !m_rotulo->wordWrap();
-        m_rotulo->setMinimumHeight(vacio ? 0 : m_rotulo->heightForWidth(m_rotulo->width()));
+        const int ancho = m_rotulo->width();
+        const int barra = m_rotulo->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + Holgura;
+        const bool otro = m_rotulo->text() != m_texto || m_rotulo->font() != m_letra;
+        if (!otro && ancho >= m_ancho && ancho <= m_ancho + barra)
+            return;
+        m_texto = m_rotulo->text();
+        m_letra = m_rotulo->font();
+        m_ancho = ancho;
+        m_rotulo->setMinimumHeight(m_texto.isEmpty() ? 0 : alto());
     }
 
+    /// Asked of a label like it, because one that has a minimum never says less.
+    int alto() const
+    {
+        QLabel igual;
+        igual.setFont(m_rotulo->font());
+        igual.setTextFormat(m_rotulo->textFormat());
+        igual.setWordWrap(true);
+        igual.setAlignment(m_rotulo->alignment());
+        igual.setIndent(m_rotulo->indent());
+        igual.setMargin(m_rotulo->margin());
+        igual.setText(m_rotulo->text());
+        return igual.heightForWidth(m_rotulo->width());
+    }
+
+    static constexpr int Holgura = 8; ///< frame and spacing of what holds the bar, in pixels
+
     QLabel *m_rotulo;
+    QString m_texto;
+    QFont m_letra;
+    int m_ancho = 0;
+};
+
+class CampoEntero : public QObject
+{
+public:
+    explicit CampoEntero(QLineEdit *campo) : QObject(campo), m_campo(campo)
+    {
+        campo->installEventFilter(this);
+        ajusta();
+    }
+
+    bool eventFilter(QObject *objeto, QEvent *suceso) override
+    {
+        // At its show, a field that is filled at run time has its hint.
+        if (suceso->type() == QEvent::FontChange || suceso->type() == QEvent::Show)
+            ajusta();
+        return QObject::eventFilter(objeto, suceso);
+    }
+
+private:
+    void ajusta()
+    {
+        const QFontMetrics letra = m_campo->fontMetrics();
+        const int consejo = letra.boundingRect(m_campo->placeholderText()).width();
+        const int menor = LetrasComoPoco * letra.averageCharWidth();
+        const int mayor = LetrasComoMucho * letra.averageCharWidth();
+        m_campo->setMinimumWidth(std::clamp(consejo, menor, mayor) + Bordes);
+    }
+
+    static constexpr int LetrasComoPoco = 7;
+    static constexpr int LetrasComoMucho = 46;
+    static constexpr int Bordes = 14; ///< frame and margins, in pixels
+
+    QLineEdit *m_campo;
 };
 
 } // namespace
@@ -39,4 +104,9 @@ private:
 void mantieneEntero(QLabel *rotulo)
 {
     new RotuloEntero(rotulo);
+}
+
+void mantieneEntero(QLineEdit *campo)
+{
+    new CampoEntero(campo);
 }
