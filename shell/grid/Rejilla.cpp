@@ -18,27 +18,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-/// Columns that follow their contents follow the type as well, which a header does not by itself.
-class AnchosSegunLetra : public QObject
-{
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject *cabecera, QEvent *suceso) override
-    {
-        if (suceso->type() == QEvent::FontChange)
-            QMetaObject::invokeMethod(cabecera, "resizeSections", Qt::QueuedConnection);
-        return QObject::eventFilter(cabecera, suceso);
-    }
-};
-
-} // namespace
-
 Rejilla::Rejilla(QWidget *padre) : QTableView(padre)
 {
-    horizontalHeader()->installEventFilter(new AnchosSegunLetra(this));
     setAlternatingRowColors(true);
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QStyle>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -21,26 +22,44 @@ public:
     bool eventFilter(QObject *objeto, QEvent *suceso) override
     {
         // The parent is asked for a new layout whenever the text has changed.
-        if (suceso->type() == QEvent::LayoutRequest || suceso->type() == QEvent::FontChange ||
-            (objeto == m_rotulo && suceso->type() == QEvent::Resize))
-            ajusta();
+        const bool toca = suceso->type() == QEvent::LayoutRequest ||
+                          suceso->type() == QEvent::FontChange ||
+                          (objeto == m_rotulo && suceso->type() == QEvent::Resize);
+        // Not at once: a minimum that changes within a resize has scroll areas resize without end.
+        if (toca && !std::exchange(m_pendiente, true))
+            QMetaObject::invokeMethod(this, &RotuloEntero::ajusta, Qt::QueuedConnection);
         return QObject::eventFilter(objeto, suceso);
     }
 
 private:
-    /// A height that brings a scroll bar, which narrows the label, must not go with the bar: the
-    /// two would follow each other without end. So a label gives way only to more room than that.
     void ajusta()
     {
-        const int ancho = m_rotulo->width();
-        const int barra = m_rotulo->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + Holgura;
-        const bool otro = m_rotulo->text() != m_texto || m_rotulo->font() != m_letra;
-        if (!otro && ancho >= m_ancho && ancho <= m_ancho + barra)
+        m_pendiente = false;
+        if (!conviene())
             return;
-        m_texto = m_rotulo->text();
-        m_letra = m_rotulo->font();
-        m_ancho = ancho;
+        m_ancho = m_rotulo->width();
         m_rotulo->setMinimumHeight(m_texto.isEmpty() ? 0 : alto());
+    }
+
+    /// A height that brings a scroll bar, which narrows the label, must not go with the bar: the
+    /// two would follow each other without end. So within one size of the window a label gives way
+    /// only to more room than a bar takes, and each time only to twice as much as before.
+    bool conviene()
+    {
+        const QSize ventana = m_rotulo->window()->size();
+        const int ancho = m_rotulo->width();
+        if (m_rotulo->text() != m_texto || m_rotulo->font() != m_letra || ventana != m_ventana) {
+            m_texto = m_rotulo->text();
+            m_letra = m_rotulo->font();
+            m_ventana = ventana;
+            m_holgura = m_rotulo->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + Marco;
+            return true;
+        }
+        if (ancho >= m_ancho && ancho <= m_ancho + m_holgura)
+            return false;
+        if (ancho > m_ancho)
+            m_holgura *= 2;
+        return true;
     }
 
     /// Asked of a label like it, because one that has a minimum never says less.
@@ -57,12 +76,15 @@ private:
         return igual.heightForWidth(m_rotulo->width());
     }
 
-    static constexpr int Holgura = 8; ///< frame and spacing of what holds the bar, in pixels
+    static constexpr int Marco = 8; ///< frame and spacing of what holds the bar, in pixels
 
     QLabel *m_rotulo;
     QString m_texto;
     QFont m_letra;
+    QSize m_ventana;
     int m_ancho = 0;
+    int m_holgura = 0;
+    bool m_pendiente = false;
 };
 
 class CampoEntero : public QObject

@@ -178,7 +178,7 @@ private:
                 principal.resize(tamano);
                 // Columns and wrapped texts ask for a second turn of the layouts, bars for a third.
                 QStringList faltas(1);
-                for (int vez = 0; vez < 6 && !faltas.isEmpty(); ++vez) {
+                for (int vez = 0; vez < 8 && !faltas.isEmpty(); ++vez) {
                     QCoreApplication::processEvents();
                     faltas = faltasDeMedida(principal);
                 }
