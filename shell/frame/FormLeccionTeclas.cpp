@@ -58,8 +58,12 @@ QList<std::pair<QKeySequence, QString>> FormLeccion::teclas() const
     for (const Tecla &tecla : teclasDelMarco()) {
         // A lesson without steps may have their key for something else.
         const bool dePasos = tecla.combinacion == QKeyCombination(Qt::Key_F8);
-        if (!dePasos || findChild<const SeparadorDePasos *>())
+        const bool conPasos = findChild<const SeparadorDePasos *>() != nullptr;
+        if (!dePasos || conPasos)
             dichas << std::pair(QKeySequence(tecla.combinacion), Traduce(tecla.que));
+        if (dePasos && conPasos)
+            dichas << std::pair(QKeySequence(Qt::CTRL | Qt::Key_F8),
+                                Traduce(u"Predecir la tabla del paso"_s));
     }
     return dichas;
 }

@@ -9,6 +9,7 @@
 #include "shell/steps/DelegadoDePasos.h"
 #include "shell/steps/ImpresionDePasos.h"
 #include "shell/steps/ModeloDePasos.h"
+#include "shell/steps/Prediccion.h"
 #include "ui_PanelDePasos.h"
 
 #include <QClipboard>
@@ -114,6 +115,7 @@ void PanelDePasos::construye()
     ui->cmbVelocidad->setCurrentIndex(1);
     ui->cmdTodosLosPasos->setChecked(Sesión().recuerda(QLatin1StringView(ClaveTodos)).toBool());
     conectaBotones();
+    new Prediccion(*ui, *m_modelo, this);
 }
 
 void PanelDePasos::conectaBotones()
