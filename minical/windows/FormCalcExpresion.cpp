@@ -25,7 +25,7 @@ FormCalcExpresion::FormCalcExpresion(QWidget *padre)
     m_txtExpresion->setAccessibleName(Traduce(u"Expresión de la celda"_s));
     m_txtExpresion->setToolTip(Traduce(u"La expresión de la celda actual"_s));
     m_txtExpresion->setPlaceholderText(
-        Traduce(u"Elija una celda y escriba una expresión, como 2^64 o (A1+A2)/2"_s));
+        Traduce(u"Elija una celda y escriba, como 2^64 o (A1+A2)/2"_s));
     m_txtExpresion->setFont(letraDeHoja());
     m_txtExpresion->installEventFilter(this);
     auto *fila = new QHBoxLayout(this);

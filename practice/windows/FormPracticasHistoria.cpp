@@ -9,12 +9,12 @@
 #include "shell/core/system/Archivos.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/Veredicto.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
 #include "ui_FormPracticasHistoria.h"
 
 #include <QDate>
-#include <QHeaderView>
 #include <QMap>
 
 using namespace Qt::Literals::StringLiterals;
@@ -72,8 +72,7 @@ void FormPracticasHistoria::construye()
     m_filas->ponColumnasDeTexto({0, 1, 3, 6});
     ui->FlexHistoria->setModel(m_filas);
     ui->FlexHistoria->ponTextoVacio(Traduce(u"Aquí se verá lo que practique."_s));
-    ui->FlexHistoria->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    ui->FlexHistoria->horizontalHeader()->setStretchLastSection(true);
+    new ColumnasRepartidas(ui->FlexHistoria);
     ui->FlexHistoria->setTabKeyNavigation(false);
     ui->PicHistoria->ponTextoVacio(Traduce(u"Aquí se verán los ejercicios acertados sin ayuda"_s));
     ui->PicHistoria->ponEjes(Traduce(u"Días"_s), Traduce(u"Ejercicios"_s));

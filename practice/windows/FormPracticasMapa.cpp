@@ -7,11 +7,11 @@
 #include "practice/progress/LaminaDelCurso.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/ModeloFilas.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/grid/Rejilla.h"
 #include "shell/look/Aspecto.h"
 #include "shell/steps/LienzoDeLamina.h"
 
-#include <QHeaderView>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -58,8 +58,7 @@ void FormPracticasMapa::construye()
     m_rejilla->setModel(m_filas);
     m_rejilla->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_rejilla->setTabKeyNavigation(false);
-    m_rejilla->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_rejilla->horizontalHeader()->setStretchLastSection(true);
+    new ColumnasRepartidas(m_rejilla);
     m_practicar = new QPushButton(Traduce(u"&Practicar este tipo"_s), this);
     m_practicar->setObjectName(u"cmdPracticar"_s);
     auto *columna = new QVBoxLayout(this);

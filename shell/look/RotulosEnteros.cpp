@@ -3,6 +3,10 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QStyle>
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -18,8 +22,84 @@ public:
     bool eventFilter(QObject *objeto, QEvent *suceso) override
     {
         // The parent is asked for a new layout whenever the text has changed.
-        if (suceso->type() == QEvent::LayoutRequest || suceso->type() == QEvent::FontChange ||
-            (objeto == m_rotulo && suceso->type() == QEvent::Resize))
+        const bool toca = suceso->type() == QEvent::LayoutRequest ||
+                          suceso->type() == QEvent::FontChange ||
+                          (objeto == m_rotulo && suceso->type() == QEvent::Resize);
+        // Not at once: a minimum that changes within a resize has scroll areas resize without end.
+        if (toca && !std::exchange(m_pendiente, true))
+            QMetaObject::invokeMethod(this, &RotuloEntero::ajusta, Qt::QueuedConnection);
+        return QObject::eventFilter(objeto, suceso);
+    }
+
+private:
+    void ajusta()
+    {
+        m_pendiente = false;
+        if (!conviene())
+            return;
+        m_ancho = m_rotulo->width();
+        m_rotulo->setMinimumHeight(m_texto.isEmpty() ? 0 : alto());
+    }
+
+    /// A height that brings a scroll bar, which narrows the label, must not go with the bar: the
+    /// two would follow each other without end. So within one size of the window a label gives way
+    /// only to more room than a bar takes, and each time only to twice as much as before.
+    bool conviene()
+    {
+        const QSize ventana = m_rotulo->window()->size();
+        const int ancho = m_rotulo->width();
+        if (m_rotulo->text() != m_texto || m_rotulo->font() != m_letra || ventana != m_ventana) {
+            m_texto = m_rotulo->text();
+            m_letra = m_rotulo->font();
+            m_ventana = ventana;
+            m_holgura = m_rotulo->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + Marco;
+            return true;
+        }
+        if (ancho >= m_ancho && ancho <= m_ancho + m_holgura)
+            return false;
+        if (ancho > m_ancho)
+            m_holgura *= 2;
+        return true;
+    }
+
+    /// Asked of a label like it, because one that has a minimum never says less.
+    int alto() const
+    {
+        QLabel igual;
+        igual.setFont(m_rotulo->font());
+        igual.setTextFormat(m_rotulo->textFormat());
+        igual.setWordWrap(true);
+        igual.setAlignment(m_rotulo->alignment());
+        igual.setIndent(m_rotulo->indent());
+        igual.setMargin(m_rotulo->margin());
+        igual.setText(m_rotulo->text());
+        return igual.heightForWidth(m_rotulo->width());
+    }
+
+    static constexpr int Marco = 8; ///< frame and spacing of what holds the bar, in pixels
+
+    QLabel *m_rotulo;
+    QString m_texto;
+    QFont m_letra;
+    QSize m_ventana;
+    int m_ancho = 0;
+    int m_holgura = 0;
+    bool m_pendiente = false;
+};
+
+class CampoEntero : public QObject
+{
+public:
+    explicit CampoEntero(QLineEdit *campo) : QObject(campo), m_campo(campo)
+    {
+        campo->installEventFilter(this);
+        ajusta();
+    }
+
+    bool eventFilter(QObject *objeto, QEvent *suceso) override
+    {
+        // At its show, a field that is filled at run time has its hint.
+        if (suceso->type() == QEvent::FontChange || suceso->type() == QEvent::Show)
             ajusta();
         return QObject::eventFilter(objeto, suceso);
     }
@@ -27,11 +107,18 @@ public:
 private:
     void ajusta()
     {
-        const bool vacio = m_rotulo->text().isEmpty() || !m_rotulo->wordWrap();
-        m_rotulo->setMinimumHeight(vacio ? 0 : m_rotulo->heightForWidth(m_rotulo->width()));
+        const QFontMetrics letra = m_campo->fontMetrics();
+        const int consejo = letra.boundingRect(m_campo->placeholderText()).width();
+        const int menor = LetrasComoPoco * letra.averageCharWidth();
+        const int mayor = LetrasComoMucho * letra.averageCharWidth();
+        m_campo->setMinimumWidth(std::clamp(consejo, menor, mayor) + Bordes);
     }
 
-    QLabel *m_rotulo;
+    static constexpr int LetrasComoPoco = 7;
+    static constexpr int LetrasComoMucho = 46;
+    static constexpr int Bordes = 14; ///< frame and margins, in pixels
+
+    QLineEdit *m_campo;
 };
 
 } // namespace
@@ -39,4 +126,9 @@ private:
 void mantieneEntero(QLabel *rotulo)
 {
     new RotuloEntero(rotulo);
+}
+
+void mantieneEntero(QLineEdit *campo)
+{
+    new CampoEntero(campo);
 }

@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTabWidget>
 #include <QWidget>
 #include <array>
@@ -63,5 +64,11 @@ void traduceVentana(QWidget *ventana)
     for (QLabel *rotulo : ventana->findChildren<QLabel *>()) {
         if (rotulo->wordWrap() && rotulo->parentWidget())
             mantieneEntero(rotulo);
+    }
+    for (QLineEdit *campo : ventana->findChildren<QLineEdit *>()) {
+        const bool suelto = !campo->objectName().startsWith(u"qt_") &&
+                            !campo->parentWidget()->inherits("QComboBox");
+        if (suelto && campo->minimumWidth() == 0)
+            mantieneEntero(campo);
     }
 }

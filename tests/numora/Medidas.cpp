@@ -28,6 +28,11 @@ QString describe(const QSize &tamano)
     return u"%1x%2"_s.arg(tamano.width()).arg(tamano.height());
 }
 
+QString describe(const QRect &lugar)
+{
+    return describe(lugar.size()) + u"+%1+%2"_s.arg(lugar.x()).arg(lugar.y());
+}
+
 /// What Qt itself builds its controls of, and what no one has laid out.
 bool esInterno(const QWidget &control)
 {
@@ -36,7 +41,7 @@ bool esInterno(const QWidget &control)
            control.inherits("QScrollBar") || control.inherits("QSplitterHandle") ||
            control.inherits("QTableCornerButton") || control.inherits("QMdiSubWindow") ||
            control.inherits("QSizeGrip") || control.inherits("QHeaderView") ||
-           control.inherits("EjeDeGrafica") ||
+           control.objectName().startsWith(u"Eje") ||
            (padre && (padre->inherits("QTabBar") || padre->inherits("QLineEdit") ||
                       padre->inherits("QAbstractSpinBox") || padre->inherits("QComboBox") ||
                       padre->inherits("QMenuBar") || padre->inherits("QMdiSubWindow") ||
@@ -104,7 +109,9 @@ private:
             for (int j = 0; j < i; ++j) {
                 if (!esInterno(*hijos[i]) && !esInterno(*hijos[j]) &&
                     hijos[i]->geometry().intersects(hijos[j]->geometry()))
-                    falta(*hijos[i], u"lies over "_s + hijos[j]->objectName());
+                    falta(*hijos[i], u"lies over %1: %2, %3"_s.arg(hijos[j]->objectName(),
+                                                                   describe(hijos[i]->geometry()),
+                                                                   describe(hijos[j]->geometry())));
             }
         }
     }
@@ -114,7 +121,12 @@ private:
         const auto *rotulo = qobject_cast<const QLabel *>(&control);
         if (rotulo && rotulo->text().isEmpty() && rotulo->pixmap(Qt::ReturnByValue).isNull())
             return;
-        const QSize minimo = control.minimumSizeHint().boundedTo(control.maximumSize());
+        // What holds others is as large as it needs when they are; what wraps is asked for its
+        // text.
+        const bool mirada = control.layout() || control.inherits("QSplitter") ||
+                            control.inherits("QStackedWidget") || (rotulo && rotulo->wordWrap());
+        const QSize minimo =
+            mirada ? QSize() : control.minimumSizeHint().boundedTo(control.maximumSize());
         const QSize tamano = control.size();
         if (tamano.isEmpty())
             falta(control, u"has no size"_s);
@@ -185,10 +197,12 @@ private:
     {
         QStyleOptionComboBox opcion;
         opcion.initFrom(&lista);
-        const int texto = anchoDe(lista, lista.currentText()) + 4;
-        const QSize entera =
-            lista.style()->sizeFromContents(QStyle::CT_ComboBox, &opcion, QSize(texto, 0), &lista);
-        cabe(lista, lista.currentText(), QSize(entera.width(), 0));
+        const int dentro =
+            lista.style()
+                ->subControlRect(QStyle::CC_ComboBox, &opcion, QStyle::SC_ComboBoxEditField, &lista)
+                .width();
+        const int falta = anchoDe(lista, lista.currentText()) - dentro;
+        cabe(lista, lista.currentText(), QSize(lista.width() + falta, 0));
     }
 
     /// A strip that is too long scrolls, but shows each caption whole, and the current one.
@@ -223,7 +237,8 @@ private:
                 // What is shortened in the middle is told whole by its tooltip.
                 const bool acortada = tabla.textElideMode() == Qt::ElideMiddle &&
                                       !celda.data(Qt::ToolTipRole).toString().isEmpty();
-                if (ancho < necesario && !acortada && tabla.columnSpan(f, c) == 1)
+                const bool enLineas = tabla.rowHeight(f) >= 2 * tabla.fontMetrics().height();
+                if (ancho < necesario && !acortada && !enLineas && tabla.columnSpan(f, c) == 1)
                     falta(tabla, u"cell %1,%2 «%3» is cut: %4 of %5"_s.arg(f)
                                      .arg(c)
                                      .arg(celda.data().toString())

@@ -63,8 +63,9 @@ private Q_SLOTS:
         for (int i = 0; i < m_contenido.lecciones.size(); ++i) {
             QCOMPARE(tarjeta(i)->role(), QAccessible::ListItem);
             QCOMPARE(tarjeta(i)->text(QAccessible::Name), m_contenido.lecciones[i].rotulo);
-            QCOMPARE(tarjeta(i)->text(QAccessible::Description),
-                     m_contenido.lecciones[i].descripcion);
+            QVERIFY(tarjeta(i)
+                        ->text(QAccessible::Description)
+                        .startsWith(m_contenido.lecciones[i].descripcion));
         }
     }
 
@@ -124,7 +125,8 @@ private Q_SLOTS:
         caso("an equation", u"euclides diofantica 0 txtNº_0=5 txtNº_1=10 txtNº_2=3"_s,
              u"Sin soluciones positivas"_s);
         caso("a verdict", u"primos test 0 txtNúmero=91 cmdEsPrimo"_s, u"No es primo"_s);
-        caso("factors", u"primos factorizacion 0 TxtN=91 BtnFactoriza"_s, u"Factores primos de 91."_s);
+        caso("factors", u"primos factorizacion 0 TxtN=91 BtnFactoriza"_s,
+             u"Factores primos de 91."_s);
         caso("a refused number", u"fibonacci aureo 0 TxtHasta=1 cmdAureo"_s,
              u"✗ Escriba un número entero de 2 a 500."_s);
         caso("a period", u"modular representacion 0 TxtMódulo=6 cmdCalcular"_s,

@@ -295,7 +295,7 @@ private Q_SLOTS:
 private:
     QLineEdit *abreCampo(int fila)
     {
-        return m_principal->abreLeccion(fila)->findChild<QLineEdit *>(u"campo"_s);
+        return m_principal->abreLeccion(fila)->findChild<QLineEdit *>(u"PanelFicha_0"_s);
     }
     void conControl(Qt::Key tecla)
     {

@@ -71,7 +71,7 @@ private Q_SLOTS:
 
     void laPaletaHallaYHace()
     {
-        auto *campo = m_principal->abreLeccion(0)->findChild<QLineEdit *>(u"campo"_s);
+        auto *campo = m_principal->abreLeccion(0)->findChild<QLineEdit *>(u"PanelFicha_0"_s);
         campo->setFocus();
         QTest::keyClicks(campo, u"abc"_s);
         campo->setCursorPosition(0);

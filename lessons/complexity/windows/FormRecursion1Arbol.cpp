@@ -38,11 +38,13 @@ FormRecursion1Arbol::FormRecursion1Arbol(QWidget *padre)
       m_pasos(new PanelDePasos(u"Árbol de llamadas"_s, this))
 {
     ui->setupUi(this);
+    // The role first: a name makes Qt look for it.
+    ponPapel(ui->visor, QAccessible::Grouping);
+    ui->visor->setAccessibleName(Traduce(u"Árbol de llamadas"_s));
     traduceVentana(this);
     ui->SpinN->setMaximum(ArbolDeLlamadas::MaximoN);
     ui->cmdSiguienteLlamada->setIcon(ImgSiguiente());
     ui->visor->setBackgroundRole(QPalette::Base);
-    ponPapel(ui->visor, QAccessible::Grouping);
 
     conecta(ui->SpinN, &QSpinBox::valueChanged, this, &FormRecursion1Arbol::SpinN_Change);
     conecta(ui->chkMemoria, &QCheckBox::toggled, this, &FormRecursion1Arbol::SpinN_Change);

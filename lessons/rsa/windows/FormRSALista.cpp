@@ -2,9 +2,8 @@
 #include "lessons/rsa/windows/FormRSALista.h"
 
 #include "shell/core/ModGlobal.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/grid/Rejilla.h"
-
-#include <QHeaderView>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,7 +14,7 @@ FormRSALista::FormRSALista(Rejilla *rejilla, QObject *padre)
 {
     rejilla->setModel(&m_tabla);
     rejilla->setSelectionMode(QAbstractItemView::SingleSelection);
-    rejilla->horizontalHeader()->setStretchLastSection(true);
+    new ColumnasRepartidas(rejilla);
     connect(rejilla, &QTableView::clicked, this, &FormRSALista::elegida);
     connect(rejilla->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &FormRSALista::elegida);

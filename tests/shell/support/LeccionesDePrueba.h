@@ -14,7 +14,6 @@ public:
     {
         setObjectName(u"Form"_s + nombre);
         setWindowTitle(nombre);
-        m_campo->setObjectName(u"campo"_s);
         agregaTema(u"Tema"_s, u"tema"_s, m_campo);
         for (const QString &otro : {u"Otro"_s, u"Último"_s})
             agregaTema(otro, otro.toLower(), new QLineEdit(this));
