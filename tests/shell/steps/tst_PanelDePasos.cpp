@@ -266,6 +266,8 @@ void tst_PanelDePasos::sePredicenLosBitsDeUnaPotencia()
         }
     }
     QCOMPARE(panel.huecos()->tabla().pendientes(), 1);
+    QTest::keyClick(rejilla, Qt::Key_F8, Qt::ControlModifier);
+    QTRY_VERIFY(panel.lista()->isVisible() && !panel.huecos()->isVisible());
 }
 
 void tst_PanelDePasos::predecirAcabaConSuPaso()
