@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
@@ -66,4 +67,6 @@ void traduceVentana(QWidget *ventana)
         if (suelto && campo->minimumWidth() == 0)
             mantieneEntero(campo);
     }
+    for (QComboBox *lista : ventana->findChildren<QComboBox *>())
+        mantieneEntera(lista);
 }

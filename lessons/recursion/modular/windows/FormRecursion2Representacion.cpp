@@ -38,7 +38,6 @@ FormRecursion2Representacion::FormRecursion2Representacion(QWidget *leccion)
     ui->PicFunción->ponUnida(false);
     ui->PicFunción->ponTextoVacio(
         Traduce(u"Elija un módulo y pulse «Calcular» para ver los 250 primeros valores"_s));
-    ui->TxtMódulo->setMinimumWidth(fontMetrics().horizontalAdvance(u"000000000"_s));
     QSizePolicy conSitio = ui->ImgEureka->sizePolicy();
     conSitio.setRetainSizeWhenHidden(true);
     ui->ImgEureka->setSizePolicy(conSitio);
