@@ -22,6 +22,7 @@
 #include "minical/windows/EscenasMiniCal.h"
 #include "minical/windows/FormCalc.h"
 #include "numora/TemasDePaginas.h"
+#include "practice/progress/Curso.h"
 #include "practice/windows/EscenasPracticas.h"
 #include "practice/windows/FormPracticas.h"
 
@@ -44,6 +45,19 @@ VentanaDePracticas practicas()
                 return static_cast<FormPracticas &>(ventana).practica(clave, nivel);
             },
             &FormPracticas::invitacion};
+}
+
+/// Where the lessons stand in the course, and what they build on.
+void ponCurso(QList<Leccion> &lecciones)
+{
+    for (Leccion &leccion : lecciones) {
+        const LeccionDelCurso *suya = leccionDelCurso(leccion.palabra);
+        if (!suya)
+            continue;
+        leccion.orden = static_cast<int>(suya - curso().constData()) + 1;
+        for (const QString &clave : suya->antes)
+            leccion.antes << leccionDelCurso(clave)->titulo;
+    }
 }
 
 } // namespace
@@ -78,5 +92,6 @@ Contenido contenidoDelPrograma()
         u"HOJACALCULO"_s, u"Hoja de cálculo"_s, crea<FormCalc>, {}, escenasMiniCal};
     contenido.practicas = practicas();
     ponTemasDePaginas(contenido);
+    ponCurso(contenido.lecciones);
     return contenido;
 }

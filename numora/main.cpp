@@ -2,78 +2,88 @@
 #include "shell/start/Main.h"
 #include "numora/HojaSinVentana.h"
 #include "numora/Lecciones.h"
+#include "numora/Opciones.h"
+#include "numora/Pantalla.h"
+#include "shell/core/ModGlobal.h"
 #include "shell/look/TextosDeQt.h"
 #include "shell/start/Galeria.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QTextStream>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void describe(QCommandLineParser &opciones)
-{
-    opciones.setApplicationDescription(u"Numora: matemática discreta, paso a paso"_s);
-    opciones.addOption({{u"h"_s, u"help"_s}, u"Muestra esta ayuda."_s});
-    opciones.addOption({{u"v"_s, u"version"_s}, u"Muestra la versión."_s});
-    opciones.addOption({u"i"_s, u"Idioma de los textos, como en -i:English."_s, u"idioma"_s});
-    opciones.addOption(
-        {u"galeria"_s, u"Guarda imágenes de todas las ventanas en la carpeta DIR."_s, u"DIR"_s});
-    opciones.addOption({u"tamano"_s, u"Tamaño de la ventana en la galería, como 1366x768."_s,
-                        u"ANCHOxALTO"_s, u"1366x768"_s});
-    opciones.addOption({u"escala"_s, u"Escala de la galería en tanto por ciento, como 150."_s,
-                        u"PORCIENTO"_s, u"100"_s});
-    opciones.addOption({u"oscuro"_s, u"Colores oscuros en la galería."_s});
-    opciones.addOption(
-        {u"hoja"_s, u"Escribe la hoja de ejercicios de ese código, sin ventanas."_s, u"CÓDIGO"_s});
-    opciones.addOption({u"pdf"_s, u"El archivo en el que se escribe la hoja."_s, u"ARCHIVO"_s});
-    opciones.addOption({u"soluciones"_s, u"Con las respuestas y soluciones detrás."_s});
-}
+/// What the program ends with, besides 0 and 1 for a file that could not be written.
+enum Salida { SinPantalla = 1, LineaEquivocada = 2 };
 
 QSize tamano(const QString &texto)
 {
+    if (texto.isEmpty())
+        return {1366, 768};
     const QStringList lados = texto.split(u'x');
     const QSize leido(lados.value(0).toInt(), lados.value(1).toInt());
     return leido.expandedTo({640, 480}).boundedTo({8192, 8192});
 }
 
-/// Answers --help and --version, which need neither a display nor a settings store.
-void contestaSinVentanas(int argc, char *argv[])
+QStringList palabrasDe(int argc, char *argv[])
 {
     QStringList palabras;
     for (int i = 0; i < argc; ++i)
         palabras << QString::fromLocal8Bit(argv[i]);
-    if (!palabras.contains(u"--help"_s) && !palabras.contains(u"-h"_s) &&
-        !palabras.contains(u"--version"_s) && !palabras.contains(u"-v"_s))
-        return;
+    return palabras;
+}
+
+QString idiomaPedido(const QStringList &palabras)
+{
+    return idiomaDeLinea(palabras.sliced(1).join(u' '));
+}
+
+/// What writes files and ends needs no display.
+void ponSinPantalla(const QStringList &palabras)
+{
+    if (tieneOpcion(palabras, u"--hoja"_s) ||
+        (tieneOpcion(palabras, u"--galeria"_s) && !hayPantalla(palabras)))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+void dicePorError(const QString &frase)
+{
+    QTextStream(stderr) << frase << Qt::endl;
+}
+
+/// Answers --help and --version, and lines that cannot be followed, with neither a display nor a
+/// settings store. Gives what the program is to end with, if it is.
+std::optional<int> contestaSinVentanas(const QStringList &palabras, int argc, char *argv[])
+{
+    const bool ayuda = palabras.contains(u"--help"_s) || palabras.contains(u"-h"_s);
+    const bool version = palabras.contains(u"--version"_s) || palabras.contains(u"-v"_s);
+    const QString sinValor = opcionSinValor(palabras);
+    if (!ayuda && !version && sinValor.isEmpty() && hayPantalla(palabras))
+        return {};
     const QCoreApplication aplicacion(argc, argv);
+    Idioma() = idiomaPedido(palabras);
     instalaTextosDeQt();
     QCommandLineParser opciones;
     describe(opciones);
-    opciones.parse(palabras);
-    if (opciones.isSet(u"help"_s))
+    if (ayuda)
         opciones.showHelp();
-    opciones.showVersion();
-}
-
-/// What writes a file and ends needs no display.
-void ponSinPantalla(int argc, char *argv[])
-{
-    for (int i = 1; i < argc; ++i) {
-        if (qstrcmp(argv[i], "--hoja") == 0 || qstrncmp(argv[i], "--hoja=", 7) == 0)
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    if (version)
+        opciones.showVersion();
+    if (sinValor.isEmpty())
+        dicePorError(Traduce(u"No hay ninguna pantalla en la que abrir ventanas."_s));
+    else
+        dicePorError(Traduce(u"Falta el valor de %1."_s).arg(sinValor));
+    return sinValor.isEmpty() ? SinPantalla : LineaEquivocada;
 }
 
 /// The scale of the gallery has to stand before Qt looks for it.
-void ponEscala(int argc, char *argv[])
+void ponEscala(const QStringList &palabras)
 {
-    QStringList palabras;
-    for (int i = 0; i < argc; ++i)
-        palabras << QString::fromLocal8Bit(argv[i]);
-    const qsizetype lugar = palabras.indexOf(u"--escala"_s);
-    const double porCiento = lugar < 0 ? 0 : palabras.value(lugar + 1).toDouble();
+    const double porCiento = valorDe(palabras, u"--escala"_s).toDouble();
     if (porCiento >= 100 && porCiento <= 400)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(porCiento / 100));
 }
@@ -83,25 +93,26 @@ void ponEscala(int argc, char *argv[])
 int main(int argc, char *argv[])
 {
     presentaPrograma(QStringLiteral(NUMORA_VERSION));
-    contestaSinVentanas(argc, argv);
-    ponEscala(argc, argv);
-    ponSinPantalla(argc, argv);
-    const QApplication aplicacion(argc, argv);
+    const QStringList palabras = palabrasDe(argc, argv);
+    ponSinPantalla(palabras);
+    if (const auto salida = contestaSinVentanas(palabras, argc, argv))
+        return *salida;
+    ponEscala(palabras);
+    ArgumentosDeVentana argumentos(argc, argv);
+    const QApplication aplicacion(argumentos.cuenta(), argumentos.textos());
 
-    QCommandLineParser opciones;
-    describe(opciones);
-    opciones.parse(QApplication::arguments());
-    const QString linea = QApplication::arguments().sliced(1).join(u' ');
-    if (opciones.isSet(u"galeria"_s))
-        return Galeria(contenidoDelPrograma(), {.carpeta = opciones.value(u"galeria"_s),
-                                                .tamano = tamano(opciones.value(u"tamano"_s)),
-                                                .oscuro = opciones.isSet(u"oscuro"_s),
-                                                .idioma = idiomaDeLinea(linea)});
+    const QStringList pedido = QApplication::arguments();
+    if (tieneOpcion(pedido, u"--galeria"_s))
+        return Galeria(contenidoDelPrograma(), {.carpeta = valorDe(pedido, u"--galeria"_s),
+                                                .tamano = tamano(valorDe(pedido, u"--tamano"_s)),
+                                                .oscuro = pedido.contains(u"--oscuro"_s),
+                                                .idioma = idiomaPedido(pedido)});
 
-    if (opciones.isSet(u"hoja"_s))
-        return hojaSinVentana(opciones.value(u"hoja"_s), opciones.value(u"pdf"_s),
-                              opciones.isSet(u"soluciones"_s), idiomaDeLinea(linea));
+    if (tieneOpcion(pedido, u"--hoja"_s))
+        return hojaSinVentana(valorDe(pedido, u"--hoja"_s), valorDe(pedido, u"--pdf"_s),
+                              pedido.contains(u"--soluciones"_s), idiomaPedido(pedido));
 
+    const QString linea = pedido.sliced(1).join(u' ');
     const Programa programa(linea, contenidoDelPrograma());
     return QApplication::exec();
 }

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Makes the Debian package, installs it in a clean root made by debootstrap, starts the program there as an
-# ordinary user without a display, and removes the root. Needs root rights and debootstrap; takes some
-# minutes and a gigabyte in the folder for temporary files. Usage:
-#   scripts/install_check.sh [folder of a finished build; build/release unless told]
+# Installs the packages that scripts/package.sh has made in a clean root made by debootstrap, starts the program
+# there as an ordinary user without a display, builds an example on the library, and removes the root. Needs root
+# rights and debootstrap; takes some minutes and a gigabyte in the folder for temporary files. Usage:
+#   scripts/install_check.sh [folder of the packages; build/package/out unless told]
 set -euo pipefail
 
 proyecto=$(cd "$(dirname "$0")/.." && pwd)
-construccion=$(cd "${1:-$proyecto/build/release}" && pwd)
+paquetes=$(cd "${1:-$proyecto/build/package/out}" && pwd)
 [ "$(id -u)" -eq 0 ] || { echo "Root rights are needed to make a clean root." >&2; exit 1; }
 command -v debootstrap >/dev/null || { echo "debootstrap is missing." >&2; exit 1; }
 
@@ -19,27 +19,33 @@ limpia() {
 }
 trap limpia EXIT
 
-echo "== Package"
-(cd "$construccion" && cpack -G DEB -B "$raiz.paquete" >/dev/null)
-paquete=$(ls "$raiz.paquete"/numora_*.deb)
-trap 'limpia; rm -rf "$raiz.paquete"' EXIT
-dpkg-deb --info "$paquete" | grep -E 'Package|Version|Installed-Size|Depends|Recommends'
+mkdir "$raiz.registro"
+trap 'limpia; rm -rf "$raiz.registro"' EXIT
+
+echo "== Packages"
+(cd "$paquetes" && sha256sum --check SHA256SUMS)
+for paquete in "$paquetes"/*.deb; do
+    dpkg-deb --info "$paquete" | grep -E 'Package|Version|Installed-Size|Depends|Recommends'
+done
 
 echo "== Clean root"
-debootstrap --variant=minbase bookworm "$raiz" >"$raiz.paquete/debootstrap.log" || {
-    tail -5 "$raiz.paquete/debootstrap.log" >&2
+debootstrap --variant=minbase bookworm "$raiz" >"$raiz.registro/debootstrap.log" || {
+    tail -5 "$raiz.registro/debootstrap.log" >&2
     exit 1
 }
 mount -t proc proc "$raiz/proc"
 cp /etc/resolv.conf "$raiz/etc/"
-cp "$paquete" "$raiz/tmp/numora.deb"
+cp "$paquetes"/*.deb "$raiz/tmp/"
 en_la_raiz() {
     chroot "$raiz" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"
 }
-en_la_raiz apt-get install -y -q --no-install-recommends /tmp/numora.deb >"$raiz.paquete/apt.log" 2>&1 || {
-    tail -20 "$raiz.paquete/apt.log" >&2
-    exit 1
+instala() {
+    en_la_raiz apt-get install -y -q --no-install-recommends "$@" >"$raiz.registro/apt.log" 2>&1 || {
+        tail -20 "$raiz.registro/apt.log" >&2
+        exit 1
+    }
 }
+(cd "$raiz" && instala ./tmp/numora_*.deb ./tmp/libbignum1_*.deb)
 en_la_raiz useradd -m estudiante
 
 echo "== Start"
@@ -47,8 +53,8 @@ como_estudiante() {
     en_la_raiz su estudiante -c "export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8; cd; $1"
 }
 como_estudiante "numora --version"
-como_estudiante "numora --galeria galeria" >"$raiz.paquete/galeria.log" 2>&1 || {
-    tail -5 "$raiz.paquete/galeria.log" >&2
+como_estudiante "numora --galeria galeria" >"$raiz.registro/galeria.log" 2>&1 || {
+    tail -5 "$raiz.registro/galeria.log" >&2
     exit 1
 }
 imagenes=$(ls "$raiz/home/estudiante/galeria" | wc -l)
@@ -59,7 +65,13 @@ estado=0
 como_estudiante "timeout 10 numora" >/dev/null 2>&1 || estado=$?
 [ "$estado" -eq 124 ] || { echo "The program ended by itself with $estado." >&2; exit 1; }
 
+echo "== Library"
+(cd "$raiz" && instala ./tmp/libbignum-dev_*.deb gcc libc6-dev pkg-config python3)
+como_estudiante 'ejemplos=/usr/share/doc/libbignum-dev/examples
+    cc $ejemplos/factors.c $(pkg-config --cflags --libs bignum) -o factores && ./factores 360 && python3 $ejemplos/congruences.py'
+
 echo "== Removal"
-en_la_raiz apt-get purge -y -q numora >/dev/null 2>&1
-[ ! -e "$raiz/usr/lib/numora" ] && [ ! -e "$raiz/usr/bin/numora" ] || { echo "Files were left behind." >&2; exit 1; }
-echo "Installed, started and removed."
+en_la_raiz apt-get purge -y -q numora libbignum1 libbignum-dev >/dev/null 2>&1
+resto=$(find "$raiz/usr" -name '*bignum*' -o -name '*numora*')
+[ -z "$resto" ] || { echo "Files were left behind: $resto" >&2; exit 1; }
+echo "Installed, started, built upon and removed."

@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs and that are missing. Usage:
-#   instala_paquetes run|test|fuzz|bench
+#   instala_paquetes run|test|fuzz|bench|package
 # Sourced by run.sh, test.sh and the other scripts; does nothing where everything is there.
 
 PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6-dev qt6-multimedia-dev libgl-dev
     libgmp-dev libecm-dev libprimesieve-dev libsimpleini-dev)
 PAQUETES_RUN=(qt6-translations-l10n gstreamer1.0-plugins-good libqt6svg6 libqt6sql6-sqlite fonts-dejavu-core fonts-liberation)
-PAQUETES_TEST=(git clang-format-14 clang-tidy-14)
+PAQUETES_TEST=(git clang-format-14 clang-tidy-14 python3)
+PAQUETES_PACKAGE=(dpkg-dev file lintian appstream desktop-file-utils mandoc xvfb xauth x11-utils)
 PAQUETES_FUZZ=(clang-14 libclang-rt-14-dev)
 PAQUETES_BENCH=(libbenchmark-dev libpari-dev pari-gp)
 
@@ -18,6 +19,7 @@ instala_paquetes() {
         case $grupo in
             test) quieren+=("${PAQUETES_TEST[@]}") ;;
             fuzz) quieren+=("${PAQUETES_FUZZ[@]}") ;;
+            package) quieren+=("${PAQUETES_PACKAGE[@]}") ;;
             bench) quieren+=("${PAQUETES_BENCH[@]}") ;;
         esac
     done

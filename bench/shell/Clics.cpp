@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/shell/Clics.h"
 
+#include "bignum/gateway/ModBignum.h"
 #include "shell/controls/CampoLargo.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
@@ -9,6 +10,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QTabBar>
@@ -27,14 +29,31 @@ namespace {
 
 using Reloj = std::chrono::steady_clock;
 
+using Campos = QList<std::pair<QString, QString>>;
+
+/// A row of the list of attacks, and one of the list of keys.
+Campos ataque(int cual, int clave)
+{
+    return {{u"cmbAtaque"_s, QString::number(cual)}, {u"cmbVictima"_s, QString::number(clave)}};
+}
+
+/// An own key whose primes have so many bits.
+Campos clavePropia(std::int16_t bits)
+{
+    return {{u"txtQ_1"_s, PrimoAleatorio(bits) + u'\n'},
+            {u"txtQ_2"_s, PrimoAleatorio(bits) + u'\n'},
+            {u"txtS"_s, u"65537\n"_s}};
+}
+
 /// A run: where it is, what is written and chosen before, and what starts it.
 struct Carrera
 {
     const char *nombre;
     int fila;
     int tema;
-    QList<std::pair<QString, QString>> campos; ///< a button where the text is empty
-    QString boton;                             ///< empty for the spreadsheet, into which is pasted
+    /// A button where the text is empty, a row of a list; with Enter where it ends in a line break.
+    Campos campos;
+    QString boton; ///< empty for the spreadsheet, into which is pasted
 };
 
 QList<Carrera> carreras()
@@ -64,6 +83,11 @@ QList<Carrera> carreras()
          3,
          {{u"OptAlgoritmo_1"_s, {}}, {u"TxtN"_s, primo}},
          u"BtnFactoriza"_s},
+        {"attack by division, 129 digits", 4, 1, ataque(1, 4), u"cmdAtacar"_s},
+        {"attack by squares, 129 digits", 4, 1, ataque(2, 4), u"cmdAtacar"_s},
+        {"attack by a table, key of 1978", 4, 1, ataque(0, 1), u"cmdAtacar"_s},
+        {"attack by division, 40 digits", 4, 1, clavePropia(66) + ataque(1, 0), u"cmdAtacar"_s},
+        {"attack by phi, key of 4000 bits", 4, 1, clavePropia(2000) + ataque(4, 0), u"cmdAtacar"_s},
         {"measuring the three ways", 6, 1, {{u"TxtHasta"_s, u"45"_s}}, u"cmdMedir"_s},
         {"Ackermann's function, (4, 2)",
          8,
@@ -152,12 +176,20 @@ private:
 
 void escribe(QWidget *campo, const QString &texto)
 {
+    if (texto.endsWith(u'\n')) {
+        escribe(campo, texto.chopped(1));
+        QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QCoreApplication::sendEvent(campo, &intro);
+        return;
+    }
     if (auto *boton = qobject_cast<QAbstractButton *>(campo))
         boton->click();
     else if (auto *linea = qobject_cast<QLineEdit *>(campo))
         linea->setText(texto);
     else if (auto *largo = qobject_cast<CampoLargo *>(campo))
         largo->setText(texto);
+    else if (auto *lista = qobject_cast<QComboBox *>(campo))
+        lista->setCurrentIndex(texto.toInt());
     else
         throw std::runtime_error("no field to write into");
 }

@@ -116,7 +116,7 @@ int hijo::lecciones(int argc, char *argv[])
     QApplication aplicacion(argc, argv);
     const auto enMarcha = programa();
     double peor = 0;
-    for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < 9; ++fila) {
+    for (int fila = FormPrincipal::FilaPracticas; fila < 9; ++fila) {
         abreYCierra(*enMarcha->principal(), fila); // warms it up
         std::array<double, 5> tiempos{};
         for (double &tiempo : tiempos)
@@ -132,7 +132,7 @@ int hijo::memoria(int argc, char *argv[])
 {
     QApplication aplicacion(argc, argv);
     const auto enMarcha = programa();
-    for (int fila = FormPrincipal::FilaHojaDeCalculo; fila < 9; ++fila)
+    for (int fila = FormPrincipal::FilaPracticas; fila < 9; ++fila)
         enMarcha->principal()->abreLeccion(fila);
     QCoreApplication::processEvents();
     imprime(static_cast<double>(memoriaResidente()));

@@ -61,6 +61,7 @@ int padre(int argc, char *argv[])
     const QTemporaryDir ajustes;
     qputenv("XDG_CONFIG_HOME", ajustes.path().toLocal8Bit());
     qputenv("XDG_RUNTIME_DIR", ajustes.path().toLocal8Bit());
+    qputenv("XDG_DATA_HOME", ajustes.path().toLocal8Bit());
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -129,8 +129,7 @@ Paso pasoDeCuenta(const TorresHanoi &torres)
                          .arg(hechos + faltan)
                          .arg(signo)
                          .arg(torres.discos())};
-    paso.regla =
-        Traduce(u"Cada disco fuera de su sitio, el número d, cuesta 2^(d − 1) movimientos."_s);
+    paso.regla = Traduce(u"Cada disco fuera de su sitio, el número d, cuesta 2ᵈ⁻¹ movimientos."_s);
     return paso;
 }
 

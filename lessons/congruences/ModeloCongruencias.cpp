@@ -4,7 +4,6 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
-#include <QLocale>
 #include <QRegularExpression>
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,7 +17,7 @@ const QString FormatoDeColumnas =
 /// The digits of a number that is written as the grid shows it; any other text as it is.
 QString sinSeparadores(const QString &texto)
 {
-    const QString separador = QLocale().groupSeparator();
+    const QString separador = separadorDeMillares();
     const QRegularExpression agrupado(
         u"^\\s*[+-]?\\d{1,3}(%1\\d{3})+\\s*$"_s.arg(QRegularExpression::escape(separador)));
     return agrupado.match(texto).hasMatch() ? QString(texto).remove(separador) : texto;

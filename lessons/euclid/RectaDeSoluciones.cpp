@@ -66,7 +66,9 @@ public:
         const Tono tono{vale ? Tono::Acierto : Tono::Fallo};
         m_lamina.elipse({centro - QPointF(Radio, Radio), QSizeF(2 * Radio, 2 * Radio)}, tono, vale);
         if (!rotulo.isEmpty())
-            m_lamina.texto({centro + QPointF(2, -6), QSizeF(22, 5)}, rotulo, tono);
+            // On the side of the line where no axis stands.
+            m_lamina.texto({centro + (x < 0 ? QPointF(-24, 1) : QPointF(2, -6)), QSizeF(22, 5)},
+                           rotulo, tono);
     }
 
     const Lamina &lamina() const { return m_lamina; }

@@ -65,14 +65,13 @@ Paso pasoBinario(int n)
             potencias << u"2^%1"_s.arg(bits - i);
         tabla.filas << QStringList{QString::number(k % 2), QString::number(k)};
     }
-    return {
-        Traduce(
-            u"En base 2, n = %1 se escribe %2. Con cada cifra k se dobla, y si es un 1 se le suma "
-            "1."_s)
-            .arg(QString::number(n), QString::number(n, 2)),
-        {u"%1 = %2"_s.arg(n).arg(potencias.join(u" + "_s))},
-        Traduce(u"Empieza en k = 0, con F(0) = 0 y F(1) = 1."_s),
-        tabla};
+    return {Traduce(u"En base 2, n = %1 tiene %2 cifras. Con cada cifra k se dobla, y si es un 1 "
+                    u"se le suma "
+                    "1."_s)
+                .arg(QString::number(n), QString::number(QString::number(n, 2).size())),
+            {u"%1 = %2"_s.arg(n).arg(potencias.join(u" + "_s))},
+            Traduce(u"Empieza en k = 0, con F(0) = 0 y F(1) = 1."_s),
+            tabla};
 }
 
 /// From F(k), F(k+1) to those of 2k, or of 2k + 1 where digit i, from 1 on, is a 1.
@@ -132,7 +131,7 @@ Paso pasoDeCociente(int n)
     if (n == 1)
         paso.frase = Traduce(u"El primer cociente es 1."_s);
     else
-        paso.formulas << Formula(u"%1/%2 - %2/%3 = %4/(%3*%2)"_s.arg(siguiente, f, anterior)
+        paso.formulas << Formula(u"%1/%2 - %2/%3 = %4/{%3*%2}"_s.arg(siguiente, f, anterior)
                                      .arg(n % 2 == 0 ? u"1"_s : u"-1"_s));
     if (n > 1)
         paso.regla +=

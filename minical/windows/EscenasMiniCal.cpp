@@ -36,9 +36,13 @@ QList<Escena> escenasMiniCal()
     expresiones << Gesto{u"MostrarExpresiones"_s, {}};
     QList<Gesto> enElError = hojaDeMuestra();
     enElError << Gesto{u"FlexCalc"_s, u"1,3"_s};
+    QList<Gesto> explicada = hojaDeMuestra();
+    explicada << Gesto{u"FlexCalc"_s, u"2,0"_s} << Gesto{u"ExplicarCelda"_s, {}}
+              << Gesto{u"cmdTodosLosPasos"_s, {}};
     return {{u"minical-vacia"_s, u"hoja"_s},
             {u"minical-resultados"_s, u"hoja"_s, hojaDeMuestra()},
             {u"minical-expresiones"_s, u"hoja"_s, expresiones},
             {u"minical-error"_s, u"hoja"_s, enElError},
+            {u"minical-explicar"_s, u"hoja"_s, explicada},
             {u"minical-ayuda"_s, u"intro"_s}};
 }

@@ -12,6 +12,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
+#include "shell/steps/PanelDePasos.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -65,6 +66,8 @@ void FormCalc::preparaHoja()
     m_modelo = new FormCalcModelo(m_hoja, m_rejilla);
     m_rejilla->setObjectName(u"FlexCalc"_s);
     m_rejilla->setAccessibleName(Traduce(u"Hoja de cálculo"_s));
+    m_rejilla->setAccessibleDescription(
+        Traduce(u"Tab va de celda en celda; Escape y luego Tab salen de la hoja"_s));
     m_rejilla->setModel(m_modelo);
     m_rejilla->ponAnchos({});
     // The corner of the headers is current at first, not A1, which the grid would take by itself.
@@ -79,7 +82,10 @@ void FormCalc::preparaHoja()
     columna->addWidget(m_rejilla);
     columna->addWidget(preparaEstado(panel));
     columna->addWidget(m_portapapeles);
-    agregaTema(u"Hoja de cálculo"_s, u"hoja"_s, panel);
+    // The sheet has the room for itself until a cell is to be explained.
+    escondePasos(u"Pasos/VisiblesEnHoja"_s);
+    m_pasos = new PanelDePasos(u"Explicar celda"_s, this);
+    agregaTema(u"Hoja de cálculo"_s, u"hoja"_s, panel, m_pasos);
     conectaHoja();
 }
 
@@ -125,7 +131,7 @@ QWidget *FormCalc::preparaEstado(QWidget *panel)
 {
     m_estado = new QLabel(panel);
     m_estado->setObjectName(u"lblEstado"_s);
-    m_estado->setAccessibleName(Traduce(u"Sobre la celda actual"_s));
+    m_estado->setAccessibleDescription(Traduce(u"Sobre la celda actual"_s));
     m_estado->setContentsMargins(Aspecto::Espacio, 0, Aspecto::Espacio, Aspecto::Espacio / 2);
     m_estado->setTextInteractionFlags(Qt::TextSelectableByMouse);
     // A long explanation is no reason for a wide window.
@@ -171,9 +177,6 @@ void FormCalc::preparaPrecision()
         m_txtPrecision->fontMetrics().horizontalAdvance(QString(anchoDeMuestra, u'0')));
     m_lblPrecision = new QLabel(m_barra);
     m_lblPrecision->setObjectName(u"lblPrecisión"_s);
-    QPalette colores = palette();
-    colores.setColor(QPalette::WindowText, Aspecto::error());
-    m_lblPrecision->setPalette(colores);
     // On a toolbar a label would take the colour of buttons.
     m_lblPrecision->setForegroundRole(QPalette::WindowText);
 }
@@ -220,15 +223,17 @@ void FormCalc::alCambiarHoja()
     accion(u"Deshacer"_s)->setEnabled(historial.puedeDeshacer());
     accion(u"Rehacer"_s)->setEnabled(historial.puedeRehacer());
     setWindowTitle(m_documento->titulo());
+    ponPasos();
 }
 
 void FormCalc::FlexCalc_Menu(const QPoint &donde)
 {
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const QList<QStringList> grupos{{u"CopiarResultado"_s, u"CopiarExpresión"_s, u"Cortar"_s},
-                                    {u"Deshacer"_s, u"Rehacer"_s},
-                                    {u"ValorDecimal"_s, u"Recalcular"_s, u"Zoom"_s}};
+    const QList<QStringList> grupos{
+        {u"CopiarResultado"_s, u"CopiarExpresión"_s, u"Cortar"_s},
+        {u"Deshacer"_s, u"Rehacer"_s},
+        {u"ValorDecimal"_s, u"Recalcular"_s, u"ExplicarCelda"_s, u"Zoom"_s}};
     for (const QStringList &grupo : grupos) {
         menu->addSeparator();
         for (const QString &clave : grupo)

@@ -17,6 +17,7 @@ class FormZoom;
 class QAction;
 class QLabel;
 class QLineEdit;
+class PanelDePasos;
 class QToolBar;
 
 /// The spreadsheet: a grid of exact expressions, its commands, its page of help, and a zoom of the
@@ -53,6 +54,7 @@ private:
     Tarea<> Toolbar_ButtonClick(const Orden *orden);
     void ValorDecimal();
     void Recalcular();
+    void ExplicarCelda();
     void MostrarExpresiones();
     void MostrarResultados();
     void Zoom();
@@ -79,6 +81,7 @@ private:
     void enfocaCambiadas(const QList<Celda> &celdas);
     void terminaEdiciones();
     void muestraActual();
+    void ponPasos();
     void muestraPrecision();
     void alCambiarHoja();
     void actualizaZoom(Celda celda);
@@ -95,6 +98,7 @@ private:
     QLabel *m_lblPrecision = nullptr;
     QAction *m_avisoDePrecision = nullptr;
     FormZoom *m_zoom = nullptr;
+    PanelDePasos *m_pasos = nullptr;
     QHash<QString, QAction *> m_acciones;
     bool m_copiaOfrecida = false;
     bool m_preguntando = false; ///< whether the window may be closed

@@ -4,6 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "bignum/gateway/Moneda.h"
 #include "minical/ExplicacionDeCelda.h"
+#include "minical/PasosDeCelda.h"
 #include "minical/windows/FormCalc.h"
 #include "minical/windows/FormCalcAspecto.h"
 #include "minical/windows/FormCalcDocumento.h"
@@ -15,7 +16,9 @@
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
+#include "shell/steps/PanelDePasos.h"
 
 #include <QAction>
 #include <QLabel>
@@ -42,6 +45,20 @@ void FormCalc::Recalcular()
     const RelojDeArena reloj;
     if (m_hoja.Recalcular(m_rejilla->actual()))
         actualizaZoom(m_rejilla->actual());
+}
+
+void FormCalc::ExplicarCelda()
+{
+    m_pasos->pideVerse();
+    m_pasos->enfoca();
+}
+
+/// Those of the current cell. The sheet is asked when they are looked at; whatever changes it puts
+/// others in their place.
+void FormCalc::ponPasos()
+{
+    const Celda celda = m_rejilla->actual();
+    m_pasos->pon(Pasos::aplazados([this, celda] { return pasosDeCelda(m_hoja, celda); }));
 }
 
 void FormCalc::MostrarExpresiones()
@@ -74,8 +91,8 @@ void FormCalc::muestraPrecision()
     } catch (const ErrorEjecucion &) {
         m_txtPrecision->setText(Sesión().lee(u"Aritmética"_s, u"Precisión"_s).trimmed());
         m_txtPrecision->setCursorPosition(0);
-        m_lblPrecision->setText(
-            u" ✗ "_s + Traduce(u"Pasa de %1: escriba otra y valídela."_s).arg(MaximaPrecision));
+        muestraVeredicto(m_lblPrecision, false,
+                         Traduce(u"Pasa de %1: escriba otra y valídela."_s).arg(MaximaPrecision));
     }
 }
 
@@ -188,12 +205,13 @@ void FormCalc::muestraActual()
 {
     const Celda celda = m_rejilla->actual();
     const bool falla = esError(m_hoja.Resultados(celda.fila, celda.columna));
-    QPalette colores = palette();
-    colores.setColor(QPalette::WindowText, falla ? Aspecto::error() : Aspecto::atenuado());
-    m_estado->setPalette(colores);
     const QString explicacion = explicacionDeCelda(m_hoja, celda);
-    m_estado->setText(falla ? u"✗ "_s + explicacion : explicacion);
+    if (falla)
+        muestraVeredicto(m_estado, false, explicacion);
+    else
+        muestraNeutro(m_estado, explicacion);
     m_expresion->muestra(celda, m_hoja.Expresiones(celda.fila, celda.columna));
+    ponPasos();
 }
 
 void FormCalc::Zoom()

@@ -33,6 +33,8 @@ public:
     QMap<int, int> anchos() const;
     void ponAnchos(const QMap<int, int> &anchos);
 
+    QKeySequence teclaDeSalida() const override;
+
 Q_SIGNALS:
     /// A button of the mouse was released over a cell or a header.
     void clic(Celda celda);
@@ -57,6 +59,7 @@ protected:
     QModelIndex moveCursor(CursorAction accion, Qt::KeyboardModifiers teclas) override;
     void currentChanged(const QModelIndex &actual, const QModelIndex &anterior) override;
     void keyPressEvent(QKeyEvent *suceso) override;
+    void focusInEvent(QFocusEvent *suceso) override;
     void mousePressEvent(QMouseEvent *suceso) override;
     void mouseMoveEvent(QMouseEvent *suceso) override;
     void mouseReleaseEvent(QMouseEvent *suceso) override;

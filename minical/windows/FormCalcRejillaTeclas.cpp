@@ -72,9 +72,23 @@ void FormCalcRejilla::currentChanged(const QModelIndex &actual, const QModelInde
         Q_EMIT movida();
 }
 
+/// Tab goes from cell to cell, as in every spreadsheet; behind Escape it leaves them.
+QKeySequence FormCalcRejilla::teclaDeSalida() const
+{
+    return {Qt::Key_Escape, Qt::Key_Tab};
+}
+
+void FormCalcRejilla::focusInEvent(QFocusEvent *suceso)
+{
+    setTabKeyNavigation(true);
+    Rejilla::focusInEvent(suceso);
+}
+
 void FormCalcRejilla::keyPressEvent(QKeyEvent *suceso)
 {
     const int tecla = suceso->key();
+    if (tecla != Qt::Key_Shift)
+        setTabKeyNavigation(tecla != Qt::Key_Escape || state() == EditingState);
     const bool intro = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
     // The field of an edit lets Enter through; its end comes from the event queue.
     if (intro && state() == EditingState)

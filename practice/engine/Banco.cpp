@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/engine/Banco.h"
 
-#include "practice/bank/Complejidad.h"
-#include "practice/bank/Congruencias.h"
-#include "practice/bank/Euclides.h"
-#include "practice/bank/Fibonacci.h"
-#include "practice/bank/Funciones.h"
-#include "practice/bank/MiniCal.h"
-#include "practice/bank/Modular.h"
-#include "practice/bank/Primos.h"
-#include "practice/bank/RSA.h"
-#include "practice/bank/Unidades.h"
+#include "practice/bank/complexity/Complejidad.h"
+#include "practice/bank/congruences/Congruencias.h"
+#include "practice/bank/euclid/Euclides.h"
+#include "practice/bank/fibonacci/Fibonacci.h"
+#include "practice/bank/functions/Funciones.h"
+#include "practice/bank/minical/MiniCal.h"
+#include "practice/bank/modular/Modular.h"
+#include "practice/bank/primes/Primos.h"
+#include "practice/bank/rsa/RSA.h"
+#include "practice/bank/units/Unidades.h"
 
 #include <algorithm>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/engine/Ejercicio.h"
 
-#include <algorithm>
+#include "shell/core/steps/EscrituraDeFormula.h"
+#include "shell/core/steps/NumerosEnPantalla.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,15 +16,23 @@ Fallo Fallo::mal(const QString &palabra, const QString &nota)
     return {false, palabra, nota};
 }
 
-bool mismosNumeros(const RespuestaLeida &respuesta, const QStringList &esperados)
+QString respuestaEnPantalla(const Ejercicio &ejercicio)
 {
-    return respuesta.numeros == esperados;
-}
-
-bool mismosEnOtroOrden(const RespuestaLeida &respuesta, QStringList esperados)
-{
-    QStringList dados = respuesta.numeros;
-    std::sort(dados.begin(), dados.end());
-    std::sort(esperados.begin(), esperados.end());
-    return dados == esperados;
+    QString vista = ejercicio.esperada;
+    switch (ejercicio.forma.clase) {
+    case FormaDeRespuesta::FormulaDeCelda:
+    case FormaDeRespuesta::Palabra:
+        return vista;
+    case FormaDeRespuesta::Producto:
+        vista = comoTexto(Formula(vista));
+        break;
+    case FormaDeRespuesta::Entero:
+    case FormaDeRespuesta::Lista:
+    case FormaDeRespuesta::Suma:
+    case FormaDeRespuesta::Solucion:
+    case FormaDeRespuesta::Fraccion:
+        vista.replace(u'-', u'−');
+        break;
+    }
+    return conNumerosEnPantalla(vista);
 }

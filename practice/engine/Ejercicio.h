@@ -39,10 +39,8 @@ struct Ejercicio
     std::function<Pasos()> solucion;
 };
 
-/// The numbers of an answer against the expected ones; the rest is the kind's own.
-bool mismosNumeros(const RespuestaLeida &respuesta, const QStringList &esperados);
-/// The same in any order.
-bool mismosEnOtroOrden(const RespuestaLeida &respuesta, QStringList esperados);
+/// A right answer as it is shown: "2³ · 5" for "2^3*5". It is read as well as what is typed.
+QString respuestaEnPantalla(const Ejercicio &ejercicio);
 
 /// A kind of exercise, with three levels: how one is drawn, and all that is known of it then.
 struct TipoDeEjercicio

@@ -5,12 +5,14 @@
 #include "practice/progress/Eleccion.h"
 #include "shell/core/ModGlobal.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QSizeF Caja(152, 48);
-constexpr QSizeF Celda(190, 84);
+constexpr QSizeF Caja(152, 46);
+constexpr QSizeF Celda(190, 66);
 constexpr qreal Letra = 13;
 
 struct Balance
@@ -64,6 +66,26 @@ void une(Lamina &lamina, const QRectF &desde, const QRectF &hasta)
                       {Tono::Suave});
 }
 
+/// Whether a lesson builds on that one, at once or by way of others.
+bool descansa(const LeccionDelCurso &leccion, const QString &antes)
+{
+    return std::any_of(leccion.antes.begin(), leccion.antes.end(), [&](const QString &otra) {
+        return otra == antes || descansa(*leccionDelCurso(otra), antes);
+    });
+}
+
+/// The lessons right before one: without those that already come before another of them.
+QStringList justoAntes(const LeccionDelCurso &leccion)
+{
+    QStringList antes = leccion.antes;
+    antes.removeIf([&](const QString &una) {
+        return std::any_of(leccion.antes.begin(), leccion.antes.end(), [&](const QString &otra) {
+            return descansa(*leccionDelCurso(otra), una);
+        });
+    });
+    return antes;
+}
+
 QString descripcion(const QHash<QString, Dominio> &dominios, qint64 hoy)
 {
     QStringList frases;
@@ -86,7 +108,7 @@ Lamina laminaDelCurso(const QHash<QString, Dominio> &dominios, qint64 hoy)
 {
     Lamina lamina(descripcion(dominios, hoy));
     for (const LeccionDelCurso &leccion : curso()) {
-        for (const QString &antes : leccion.antes)
+        for (const QString &antes : justoAntes(leccion))
             une(lamina, cajaDe(*leccionDelCurso(antes)), cajaDe(leccion));
     }
     for (const LeccionDelCurso &leccion : curso()) {
@@ -95,7 +117,7 @@ Lamina laminaDelCurso(const QHash<QString, Dominio> &dominios, qint64 hoy)
         const QRectF caja = cajaDe(leccion);
         lamina.rectangulo(caja, tono); // not filled: the texts in it are in ink
         lamina.texto({caja.left(), caja.top() + 7, caja.width(), Letra}, Traduce(leccion.titulo));
-        lamina.texto({caja.left(), caja.top() + 28, caja.width(), Letra - 1}, enPalabras(balance));
+        lamina.texto({caja.left(), caja.top() + 26, caja.width(), Letra - 1}, enPalabras(balance));
     }
     return lamina;
 }

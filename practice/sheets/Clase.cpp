@@ -3,6 +3,7 @@
 
 #include "practice/engine/Banco.h"
 #include "practice/progress/Eleccion.h"
+#include "practice/sheets/PalabrasDeNotas.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/system/Archivos.h"
 
@@ -127,8 +128,8 @@ QList<QStringList> erroresDeClase(const Clase &clase, const QString &hoja)
     });
     QList<QStringList> filas;
     for (const auto &clave : claves.first(std::min(claves.size(), ErroresComoMucho)))
-        filas << QStringList{Traduce(tipoDeEjercicio(clave.first)->titulo), clave.second,
-                             QString::number(errores[clave].alumnos.size()),
-                             QString::number(errores[clave].veces)};
+        filas << QStringList{
+            Traduce(tipoDeEjercicio(clave.first)->titulo), palabrasDeNota(clave.second),
+            QString::number(errores[clave].alumnos.size()), QString::number(errores[clave].veces)};
     return filas;
 }

@@ -26,5 +26,5 @@ RejillaDeClase rejillaDeClase(const Clase &clase, const QString &hoja = {});
 /// The codes of the sheets that occur.
 QStringList hojasDeClase(const Clase &clase);
 
-/// The mistakes that most students made: kind, note, how many students, how often.
+/// The mistakes that most students made: kind, in words, how many students, how often.
 QList<QStringList> erroresDeClase(const Clase &clase, const QString &hoja = {});

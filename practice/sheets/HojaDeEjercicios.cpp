@@ -9,6 +9,7 @@
 #include "shell/core/steps/EscrituraDeFormula.h"
 #include "shell/core/steps/NumerosEnPantalla.h"
 
+#include <QRegularExpression>
 #include <QSet>
 
 using namespace Qt::Literals::StringLiterals;
@@ -37,6 +38,12 @@ QString parrafo(const QString &texto, QStringView clase = {})
                                   texto.toHtmlEscaped().replace(u'\n', u"<br>"_s));
 }
 
+QString enPantalla(QString celda)
+{
+    static const QRegularExpression menos(u"-(?=\\d)"_s);
+    return conNumerosEnPantalla(celda.replace(menos, u"−"_s));
+}
+
 QString tablaEnHtml(const TablaDePaso &tabla)
 {
     if (tabla.filas.isEmpty())
@@ -44,7 +51,7 @@ QString tablaEnHtml(const TablaDePaso &tabla)
     const auto fila = [](const QStringList &celdas, const QString &etiqueta) {
         QString texto = u"<tr>"_s;
         for (const QString &celda : celdas)
-            texto += u"<%1>%2</%1>"_s.arg(etiqueta, celda.toHtmlEscaped());
+            texto += u"<%1>%2</%1>"_s.arg(etiqueta, enPantalla(celda).toHtmlEscaped());
         return texto + u"</tr>\n"_s;
     };
     QString texto = u"<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\">\n"_s;
@@ -55,22 +62,46 @@ QString tablaEnHtml(const TablaDePaso &tabla)
     return texto + u"</table>\n"_s;
 }
 
-QString pasoEnHtml(const Paso &paso)
+QString imagenEnHtml(const Lamina &lamina, const PintaImagen &pinta)
 {
-    QString texto = u"<li>"_s + conNumerosEnPantalla(paso.frase).toHtmlEscaped();
+    const ImagenDePagina imagen = pinta(lamina);
+    return u"<p><img src=\"data:image/png;base64,%1\" width=\"%2\" height=\"%3\" alt=\"%4\"></p>\n"_s
+        .arg(QString::fromLatin1(imagen.png.toBase64()))
+        .arg(imagen.tamano.width())
+        .arg(imagen.tamano.height())
+        .arg(lamina.descripcion().toHtmlEscaped());
+}
+
+QString pasoEnHtml(const Paso &paso, const PintaImagen &pinta)
+{
+    QString texto = u"<li>"_s + enPantalla(paso.frase).toHtmlEscaped();
     for (const Formula &formula : paso.formulas)
         texto += u"<br>&nbsp;&nbsp;"_s + conNumerosEnPantalla(comoTexto(formula)).toHtmlEscaped();
     if (!paso.regla.isEmpty())
         texto += u"<br><i>"_s + conNumerosEnPantalla(paso.regla).toHtmlEscaped() + u"</i>"_s;
-    return texto + tablaEnHtml(paso.tabla) + u"</li>\n"_s;
+    texto += tablaEnHtml(paso.tabla);
+    if (pinta && !paso.lamina.vacia())
+        texto += imagenEnHtml(paso.lamina, pinta);
+    return texto + u"</li>\n"_s;
 }
 
-QString solucionEnHtml(const Ejercicio &ejercicio)
+/// The last of so many steps that has a drawing, which holds those before; −1 where none has.
+qsizetype ultimaLamina(const Pasos &pasos, qsizetype cuantos)
+{
+    qsizetype i = cuantos - 1;
+    while (i >= 0 && pasos.paso(i).lamina.vacia())
+        --i;
+    return i;
+}
+
+QString solucionEnHtml(const Ejercicio &ejercicio, const PintaImagen &pinta)
 {
     const Pasos pasos = ejercicio.solucion();
+    const qsizetype cuantos = std::min(pasos.cuantos(), PasosComoMucho);
+    const qsizetype ultima = ultimaLamina(pasos, cuantos);
     QString texto = u"<ol>\n"_s;
-    for (qsizetype i = 0; i < std::min(pasos.cuantos(), PasosComoMucho); ++i)
-        texto += pasoEnHtml(pasos.paso(i));
+    for (qsizetype i = 0; i < cuantos; ++i)
+        texto += pasoEnHtml(pasos.paso(i), i == ultima ? pinta : PintaImagen());
     texto += u"</ol>\n"_s;
     if (pasos.cuantos() > PasosComoMucho)
         texto += parrafo(Traduce(u"… y otros %1 pasos."_s).arg(pasos.cuantos() - PasosComoMucho));
@@ -125,7 +156,7 @@ QString tituloDeHoja(const EncargoDeHoja &encargo)
                               : titulo + u", "_s + Traduce(u"nivel %1"_s).arg(encargo.nivel);
 }
 
-QString hojaEnHtml(const EncargoDeHoja &encargo, bool conSoluciones)
+QString hojaEnHtml(const EncargoDeHoja &encargo, bool conSoluciones, const PintaImagen &pinta)
 {
     const auto ejercicios = ejerciciosDeHoja(encargo);
     QString preguntas, respuestas;
@@ -134,10 +165,12 @@ QString hojaEnHtml(const EncargoDeHoja &encargo, bool conSoluciones)
             conNumerosEnPantalla(uno.ejercicio.enunciado).toHtmlEscaped().replace(u'\n', u"<br>"_s);
         preguntas +=
             u"<li>%1<p class=\"hueco\">&nbsp;<br>&nbsp;<br>&nbsp;</p></li>\n"_s.arg(enunciado);
-        respuestas += u"<li>%1<p><b>%2</b></p>\n%3</li>\n"_s.arg(
+        respuestas += u"<li style=\"margin-top: 14px\">%1<p><b>%2</b></p>\n%3</li>\n"_s.arg(
             enunciado,
-            Traduce(u"Una respuesta correcta: %1"_s).arg(uno.ejercicio.esperada).toHtmlEscaped(),
-            solucionEnHtml(uno.ejercicio));
+            Traduce(u"Una respuesta correcta: %1"_s)
+                .arg(respuestaEnPantalla(uno.ejercicio))
+                .toHtmlEscaped(),
+            conSoluciones ? solucionEnHtml(uno.ejercicio, pinta) : QString());
     }
     QString html =
         u"<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>%1</title>\n<style>"

@@ -10,6 +10,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Imagenes.h"
 
+#include <QScrollArea>
 #include <QTabBar>
 #include <algorithm>
 
@@ -20,6 +21,21 @@ namespace {
 const QString ClaveGuardar = u"Practicas/Guardar"_s;
 /// The days of the reviews that are left, for the welcome, which is not to open the database.
 const QString ClaveRepasos = u"Practicas/Repasos"_s;
+
+/// What does not fit is scrolled to.
+QScrollArea *visorDe(FormPracticasPracticar &practicar)
+{
+    auto *visor = new QScrollArea(practicar.parentWidget());
+    visor->setWidgetResizable(true);
+    visor->setFrameShape(QFrame::NoFrame);
+    visor->setFocusPolicy(Qt::NoFocus);
+    visor->setWidget(&practicar);
+    // Queued: only then has what was shown its place.
+    QObject::connect(
+        &practicar, &FormPracticasPracticar::aLaVista, visor,
+        [visor](QWidget *parte) { visor->ensureWidgetVisible(parte); }, Qt::QueuedConnection);
+    return visor;
+}
 
 } // namespace
 
@@ -34,7 +50,7 @@ FormPracticas::FormPracticas(QWidget *padre)
     auto *mapa = new FormPracticasMapa(m_cuaderno, this);
     auto *historia = new FormPracticasHistoria(m_cuaderno, this);
     auto *hojas = new FormPracticasHojas(this);
-    agregaTema(u"Practicar"_s, u"practicar"_s, m_practicar);
+    agregaTema(u"Practicar"_s, u"practicar"_s, visorDe(*m_practicar));
     agregaTema(u"Mapa"_s, u"mapa"_s, mapa);
     agregaTema(u"Historia"_s, u"historia"_s, historia);
     agregaTema(u"Hojas"_s, u"hojas"_s, hojas);

@@ -91,7 +91,8 @@ void FormPracticasClase::muestra()
         erroresDeClase(m_clase, hoja), {0, 1});
     QString texto;
     if (!ui->lblCarpeta->text().isEmpty())
-        texto = Traduce(u"Alumnos: %1."_s).arg(m_clase.alumnos.size());
+        texto = Traduce(u"Alumnos: %1. En cada celda, los acertados sin ayuda de los que hizo."_s)
+                    .arg(m_clase.alumnos.size());
     if (!m_clase.rechazados.isEmpty())
         texto += u' ' + Traduce(u"No se han leído: %1."_s).arg(m_clase.rechazados.join(u"; "_s));
     muestraNeutro(ui->lblClase, texto);

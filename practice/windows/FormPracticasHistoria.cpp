@@ -75,6 +75,7 @@ void FormPracticasHistoria::construye()
     new ColumnasRepartidas(ui->FlexHistoria);
     ui->FlexHistoria->setTabKeyNavigation(false);
     ui->PicHistoria->ponTextoVacio(Traduce(u"Aquí se verán los ejercicios acertados sin ayuda"_s));
+    ui->PicHistoria->ponEjes(Traduce(u"Días"_s), Traduce(u"Ejercicios"_s));
     ui->txtAlumno->setText(Sesión().UserName());
     ui->cmdExportar->setIcon(Icono(u"EXPORTAR"_s));
     conecta(ui->cmdExportar, &QPushButton::clicked, this,

@@ -173,7 +173,7 @@ Tarea<> FormPracticasHojas::cmdGuardarHoja_Click()
     if (archivo.ruta.isEmpty())
         co_return;
     const bool html = archivo.ruta.endsWith(u".html"_s, Qt::CaseInsensitive);
-    escribeArchivo(archivo.ruta, html ? hojaEnHtml(encargo, conSoluciones).toUtf8()
-                                      : hojaEnPdf(encargo, conSoluciones));
+    escribeArchivo(archivo.ruta,
+                   html ? hojaEnPagina(encargo, conSoluciones) : hojaEnPdf(encargo, conSoluciones));
     muestraNeutro(ui->lblHojas, Traduce(u"Guardado en %1"_s).arg(archivo.ruta));
 }

@@ -64,8 +64,8 @@ void FormPracticasMapa::construye()
     auto *columna = new QVBoxLayout(this);
     columna->setContentsMargins(2 * Aspecto::Margen, Aspecto::Margen, 2 * Aspecto::Margen,
                                 Aspecto::Margen);
-    columna->addWidget(m_lienzo, 3);
-    columna->addWidget(m_rejilla, 4);
+    columna->addWidget(m_lienzo, 1);
+    columna->addWidget(m_rejilla, 1);
     columna->addWidget(m_practicar, 0, Qt::AlignLeft);
     conecta(m_rejilla, &QTableView::activated, this,
             [this](const QModelIndex &indice) { practica(indice.row()); });

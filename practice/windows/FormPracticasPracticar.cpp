@@ -4,9 +4,9 @@
 #include "practice/engine/Banco.h"
 #include "practice/progress/Curso.h"
 #include "practice/progress/LaminaDelCurso.h"
+#include "shell/access/Anuncio.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/steps/NumerosEnPantalla.h"
-#include "shell/frame/Anuncio.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
@@ -25,6 +25,8 @@ namespace {
 
 /// How often an exercise is drawn again until it is another one.
 constexpr int SorteosComoMucho = 20;
+/// A few steps and what is below them.
+constexpr int AltoDePasos = 260;
 
 QString razonDe(const Propuesta &propuesta)
 {
@@ -57,6 +59,7 @@ FormPracticasPracticar::FormPracticasPracticar(Cuaderno &cuaderno, QWidget *padr
     ui->cmdSiguiente->setIcon(Icono(u"SIGUIENTE"_s));
     ui->columna->insertWidget(ui->columna->indexOf(ui->lblProgreso), m_pasos, 100);
     m_pasos->setObjectName(u"PanelSolucion"_s);
+    m_pasos->setMinimumHeight(AltoDePasos);
     m_pasos->hide();
     m_relojDeHoja->setInterval(1s);
     ui->lblAviso->setText(m_cuaderno.aviso());
@@ -232,7 +235,6 @@ void FormPracticasPracticar::cmdComprobar_Click()
         return;
     }
     muestraVeredicto(ui->lblVeredicto, respuesta.fallo->acertada, respuesta.fallo->palabra);
-    anuncia(ui->lblVeredicto);
     if (respuesta.cuenta)
         anota();
     if (respuesta.fallo->acertada)
@@ -264,8 +266,10 @@ void FormPracticasPracticar::cmdSolucion_Click()
     m_pasos->pon(m_curso->pideSolucion());
     m_pasos->show();
     m_pasos->enfoca();
-    muestraNeutro(ui->lblVeredicto,
-                  Traduce(u"Una respuesta correcta: %1"_s).arg(m_curso->ejercicio().esperada));
+    Q_EMIT aLaVista(m_pasos);
+    muestraNeutro(
+        ui->lblVeredicto,
+        Traduce(u"Una respuesta correcta: %1"_s).arg(respuestaEnPantalla(m_curso->ejercicio())));
     if (!terminado)
         anota();
 }
@@ -285,7 +289,10 @@ void FormPracticasPracticar::anota()
     hecho.milisegundos = m_reloj.elapsed();
     hecho.hoja = m_hoja ? m_hoja->codigo : QString();
     const QString motivo = m_cuaderno.anota(hecho, m_lugar);
-    ui->lblAviso->setText(motivo.isEmpty() ? m_cuaderno.aviso() : motivo);
+    if (motivo.isEmpty())
+        ui->lblAviso->setText(m_cuaderno.aviso());
+    else
+        muestraNeutro(ui->lblAviso, motivo);
     muestraProgreso();
     Q_EMIT anotado();
 }

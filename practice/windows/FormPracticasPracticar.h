@@ -35,6 +35,8 @@ public:
 Q_SIGNALS:
     /// Something was put down.
     void anotado();
+    /// That part of it is to be in sight, however small the window is.
+    void aLaVista(QWidget *parte);
 
 protected:
     void showEvent(QShowEvent *suceso) override;

@@ -81,6 +81,13 @@ void CampoLargo::focusInEvent(QFocusEvent *suceso)
 void CampoLargo::focusOutEvent(QFocusEvent *suceso)
 {
     QPlainTextEdit::focusOutEvent(suceso);
+    // As in a field of one line; another window or a menu takes the keyboard for a while only.
+    const bool seVa =
+        suceso->reason() != Qt::PopupFocusReason && suceso->reason() != Qt::ActiveWindowFocusReason;
+    if (QTextCursor cursor = textCursor(); seVa && cursor.hasSelection()) {
+        cursor.clearSelection();
+        setTextCursor(cursor);
+    }
     if (suceso->reason() != Qt::PopupFocusReason && text() != m_textoAlEntrar)
         Q_EMIT editingFinished();
 }

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/Dibujo.h"
 
+#include "shell/access/Papel.h"
 #include "shell/look/Imagenes.h"
 
 #include <QPainter>
 
-Dibujo::Dibujo(QWidget *padre) : QWidget(padre) {}
+Dibujo::Dibujo(QWidget *padre) : QWidget(padre)
+{
+    ponPapel(this, QAccessible::Graphic);
+}
 
 void Dibujo::setImagen(const QString &nombre)
 {

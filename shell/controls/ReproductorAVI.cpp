@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/ReproductorAVI.h"
 
+#include "shell/access/Papel.h"
+#include "shell/controls/Fotograma.h"
+#include "shell/controls/SinFondo.h"
 #include "shell/core/Rutas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
@@ -10,7 +13,6 @@
 #include <QMediaFormat>
 #include <QMediaPlayer>
 #include <QPainter>
-#include <QPainterPath>
 #include <QUrl>
 #include <QVideoFrame>
 #include <QVideoSink>
@@ -33,6 +35,7 @@ bool hayConQueReproducir()
 ReproductorAVI::ReproductorAVI(QWidget *padre) : QWidget(padre)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    ponPapel(this, QAccessible::Animation);
     m_arranque.setSingleShot(true);
     m_arranque.setInterval(250);
     connect(&m_arranque, &QTimer::timeout, this, &ReproductorAVI::arranca);
@@ -108,9 +111,11 @@ QMediaPlayer *ReproductorAVI::motorDe(const QString &archivo)
                 if (este != m_motor)
                     return;
                 // The player hands over an empty frame when it stops; the last picture stays.
-                if (const QImage imagen = fotograma.toImage(); !imagen.isNull())
+                if (const QImage imagen = imagenDe(fotograma); !imagen.isNull())
                     m_fotograma = imagen;
                 update();
+                if (Aspecto::movimientoReducido() && m_estado == Reproduciendo)
+                    quedaQuieto();
             });
     connect(
         motor, &QMediaPlayer::mediaStatusChanged, this, [this, este = motor](auto estadoDelMedio) {
@@ -121,6 +126,15 @@ QMediaPlayer *ReproductorAVI::motorDe(const QString &archivo)
         });
     motor->setSource(QUrl::fromLocalFile(archivo));
     return motor;
+}
+
+/// The user has just asked that nothing move: the frame in sight stays. From the event queue,
+/// because the player is handing over a frame.
+void ReproductorAVI::quedaQuieto()
+{
+    QMetaObject::invokeMethod(m_motor, &QMediaPlayer::pause, Qt::QueuedConnection);
+    if (m_modo == Modo::UnaVez)
+        fin();
 }
 
 void ReproductorAVI::fin()
@@ -149,10 +163,6 @@ void ReproductorAVI::paintEvent(QPaintEvent *)
     const int lado = std::min(width(), height());
     QRect cuadro(0, 0, lado, lado);
     cuadro.moveCenter(rect().center());
-    QPainterPath marco;
-    marco.addRoundedRect(cuadro, lado / 12.0, lado / 12.0);
-    pintor.fillPath(marco, Aspecto::lienzo());
-    pintor.setClipPath(marco);
     if (m_fotograma.isNull()) {
         const int alto = lado * 3 / 4;
         const QPixmap fija = Imagen(m_imagenFija, alto, devicePixelRatioF());
@@ -164,5 +174,6 @@ void ReproductorAVI::paintEvent(QPaintEvent *)
     QSize tamano = m_fotograma.size().scaled(cuadro.size(), Qt::KeepAspectRatio);
     QRect destino(QPoint(), tamano);
     destino.moveCenter(cuadro.center());
-    pintor.drawImage(destino, m_fotograma);
+    pintor.drawImage(destino,
+                     Aspecto::esOscuro() ? sinFondo(m_fotograma, Aspecto::lienzo()) : m_fotograma);
 }

@@ -9,9 +9,9 @@
 
 class QMediaPlayer;
 
-/// Plays a short AVI animation without sound, scaled to fit on a rounded ground. Until the first
-/// frame comes, and for good where a codec or the file is missing or the user wants nothing to
-/// move, it shows a still picture.
+/// Plays a short AVI animation without sound, scaled to fit; in a dark theme without its ground.
+/// Until the first frame comes, and for good where a codec or the file is missing or the user wants
+/// nothing to move, it shows a still picture.
 class ReproductorAVI : public QWidget
 {
     Q_OBJECT
@@ -51,6 +51,7 @@ protected:
 private:
     void arranca();
     QMediaPlayer *motorDe(const QString &archivo);
+    void quedaQuieto();
     void fin();
 
     QString m_ruta;

@@ -10,6 +10,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+QString separadorDeMillares()
+{
+    const QString suyo = QLocale().groupSeparator();
+    return suyo == u","_s ? u"\u202f"_s : suyo;
+}
+
 QString formatoEntero(const QString &digitos)
 {
     // QLocale of Qt 6.4 groups wrongly where a locale leaves four digits ungrouped ("1234.567"), so
@@ -21,7 +27,7 @@ QString formatoEntero(const QString &digitos)
                                            [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (!esNumero)
         return digitos;
-    const QString separador = QLocale().groupSeparator();
+    const QString separador = separadorDeMillares();
     QString s;
     s.reserve(digitos.size() * 4 / 3 + 2);
     for (qsizetype i = 0; i < magnitud.size(); ++i) {

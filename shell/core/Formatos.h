@@ -6,8 +6,12 @@
 #include <QString>
 #include <chrono>
 
-/// A whole number with separators of thousands, as the pattern "#,###,###,##0" shows it in the
-/// system's locale.
+/// What parts thousands wherever the program shows a number: the sign of the system's locale, but a
+/// narrow blank where that is the comma, which is the program's decimal sign: "1,028,457" never
+/// stands beside "1,21 ms".
+QString separadorDeMillares();
+
+/// A whole number with separators of thousands, as the pattern "#,###,###,##0" shows it.
 QString formatoEntero(qint64 valor);
 /// The same for a fixed-point number, rounded to whole units (half away from zero).
 QString formatoEntero(Moneda valor);

@@ -4,17 +4,14 @@
 #include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCorrida.h"
+#include "shell/frame/PanelesDeTemas.h"
 #include "shell/look/Aspecto.h"
-#include "shell/steps/PanelDePasos.h"
-#include "shell/steps/SeparadorDePasos.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <QScopeGuard>
-#include <QStackedWidget>
 #include <QTabBar>
 #include <QTimer>
 #include <QToolButton>
@@ -22,21 +19,13 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-/// Whether the user wants to see steps, in whatever lesson.
-const QString ClaveDePasos = u"Pasos/Visibles"_s;
-const QString TemaDeCuestiones = u"cuestiones"_s;
-
-} // namespace
-
 FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     : QWidget(padre),
       m_pagina(pagina),
       m_tsTema(new QTabBar(this)),
       m_cmdPasos(new QToolButton(this)),
       m_cmdPracticas(new QToolButton(this)),
-      m_paneles(new QStackedWidget(this)),
+      m_paneles(new PanelesDeTemas(this)),
       m_cmdVolver(new QToolButton(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -60,18 +49,6 @@ FormLeccion::FormLeccion(const QString &pagina, QWidget *padre)
     preparaVuelta();
     conecta(m_tsTema, &QTabBar::currentChanged, this, &FormLeccion::tsTema_Click);
     qApp->installEventFilter(this);
-}
-
-void FormLeccion::preparaPasos()
-{
-    m_cmdPasos->setObjectName(u"cmdPasos"_s);
-    m_cmdPasos->setText(Traduce(u"Paso a paso"_s));
-    m_cmdPasos->setToolTip(Traduce(u"Muestra u oculta por qué sale el resultado (F8)"_s));
-    m_cmdPasos->setFocusPolicy(Qt::StrongFocus);
-    m_cmdPasos->setCheckable(true);
-    m_cmdPasos->setChecked(Sesión().recuerda(ClaveDePasos, true).toBool());
-    m_cmdPasos->hide();
-    conecta(m_cmdPasos, &QToolButton::clicked, this, &FormLeccion::cmdPasos_Click);
 }
 
 void FormLeccion::preparaPracticas()
@@ -123,85 +100,6 @@ QAbstractButton *FormLeccion::botonEnMarcha() const
     return hallado;
 }
 
-void FormLeccion::agregaTema(const QString &rotulo, const QString &clave, QWidget *panel,
-                             PanelDePasos *pasos)
-{
-    const int indice =
-        m_paneles->addWidget(pasos ? new SeparadorDePasos(panel, pasos, m_paneles) : panel);
-    if (pasos)
-        conecta(pasos, &PanelDePasos::pedido, this, [this] {
-            m_cmdPasos->setChecked(true);
-            cmdPasos_Click(true);
-        });
-    panel->setObjectName(u"PanelFicha_%1"_s.arg(indice));
-    m_tsTema->addTab(Traduce(rotulo));
-    m_tsTema->setTabData(indice, clave);
-}
-
-void FormLeccion::quitaTema(const QString &clave)
-{
-    const int indice = indiceDeTema(clave);
-    if (indice < 0)
-        return;
-    // The panel goes first: the strip tells which topic comes to the front once the tab is gone.
-    QWidget *panel = m_paneles->widget(indice);
-    m_paneles->removeWidget(panel);
-    panel->hide();
-    m_tsTema->removeTab(indice);
-}
-
-int FormLeccion::indiceDeTema(const QString &clave) const
-{
-    for (int i = 0; i < m_tsTema->count(); ++i) {
-        if (m_tsTema->tabData(i).toString() == clave)
-            return i;
-    }
-    return -1;
-}
-
-void FormLeccion::tsTema_Click(int indice)
-{
-    m_paneles->setCurrentIndex(indice);
-    m_cmdPracticas->setVisible(m_hayPracticas &&
-                               m_tsTema->tabData(indice).toString() == TemaDeCuestiones);
-    muestraPasos();
-}
-
-PanelDePasos *FormLeccion::pasosALaVista() const
-{
-    const auto *separador = qobject_cast<SeparadorDePasos *>(m_paneles->currentWidget());
-    return separador ? separador->pasos() : nullptr;
-}
-
-void FormLeccion::muestraPasos()
-{
-    PanelDePasos *pasos = pasosALaVista();
-    m_cmdPasos->setVisible(pasos != nullptr);
-    if (pasos)
-        pasos->setVisible(m_cmdPasos->isChecked());
-}
-
-void FormLeccion::cmdPasos_Click(bool visibles)
-{
-    Sesión().anota(ClaveDePasos, visibles);
-    muestraPasos();
-}
-
-/// To the steps; from them back to the tool, and they go.
-void FormLeccion::teclaDePasos()
-{
-    PanelDePasos *pasos = pasosALaVista();
-    if (!pasos)
-        return;
-    const bool dentro = pasos->isAncestorOf(QApplication::focusWidget());
-    if (dentro)
-        m_tsTema->setFocus(Qt::ShortcutFocusReason);
-    m_cmdPasos->setChecked(!dentro);
-    cmdPasos_Click(!dentro);
-    if (!dentro)
-        pasos->enfoca();
-}
-
 void FormLeccion::closeEvent(QCloseEvent *suceso)
 {
     if (!m_cierrePermitido && !m_preguntando) {
@@ -238,39 +136,15 @@ void FormLeccion::guardaLoPendiente()
         copia->guarda();
 }
 
+void FormLeccion::showEvent(QShowEvent *suceso)
+{
+    QWidget::showEvent(suceso);
+    if (!std::exchange(m_vista, true))
+        recuerdaDivisores();
+}
+
 QWidget *FormLeccion::marco()
 {
     QWidget *hueco = qobject_cast<QMdiSubWindow *>(parentWidget());
     return hueco ? hueco : this;
-}
-
-bool FormLeccion::eventFilter(QObject *objeto, QEvent *suceso)
-{
-    // Keys are taken here because fields and grids keep F1 and Escape for themselves.
-    const bool tecla = suceso->type() == QEvent::KeyRelease || suceso->type() == QEvent::KeyPress;
-    if (!tecla || !objeto->isWidgetType())
-        return QWidget::eventFilter(objeto, suceso);
-    auto *control = static_cast<QWidget *>(objeto);
-    const auto *pulsacion = static_cast<QKeyEvent *>(suceso);
-    if ((control != this && !isAncestorOf(control)) || pulsacion->isAutoRepeat())
-        return QWidget::eventFilter(objeto, suceso);
-    if (suceso->type() == QEvent::KeyRelease && pulsacion->key() == Qt::Key_F1) {
-        evento(this, [this] { muestraAyuda(); });
-        return true;
-    }
-    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Left &&
-        pulsacion->modifiers() & Qt::AltModifier && !introduccionAlFrente()) {
-        evento(this, [this] { cmdVolver_Click(); });
-        return true;
-    }
-    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_F8) {
-        evento(this, [this] { teclaDePasos(); });
-        return true;
-    }
-    if (suceso->type() == QEvent::KeyPress && pulsacion->key() == Qt::Key_Escape &&
-        botonEnMarcha()) {
-        evento(this, [this] { detenCorrida(); });
-        return true;
-    }
-    return QWidget::eventFilter(objeto, suceso);
 }

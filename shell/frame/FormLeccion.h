@@ -4,14 +4,17 @@
 #include "shell/frame/Evento.h"
 #include "shell/frame/Leccion.h"
 
-#include <QString>
+#include <QKeySequence>
+#include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 class PaginaDeLeccion;
 class PanelDePasos;
+class PanelesDeTemas;
+class QKeyEvent;
 class QAbstractButton;
-class QStackedWidget;
 class QTabBar;
 class QToolButton;
 
@@ -41,6 +44,26 @@ public:
 
     /// Brings a topic to the front; false for a key that no topic has.
     bool abreTema(const QString &clave);
+
+    /// The captions of the topics, as the strip shows them, and which of them is in front.
+    QStringList temas() const;
+    int temaAlFrente() const;
+    QString claveAlFrente() const;
+
+    /// Brings a topic to the front by its place in the strip and gives it the keyboard; nothing
+    /// where there is none.
+    void vaATema(int indice);
+    /// To the next topic (1) or the one before (-1), round the strip, where the keyboard stays if
+    /// it is there.
+    void vaATemaVecino(int sentido);
+
+    /// Brings a tab within the topic in front to the front and gives it the keyboard; false where
+    /// there is none.
+    bool abrePestana(int indice);
+
+    /// The keys that the frame answers wherever in the lesson the keyboard is, and what they do, in
+    /// the interface's language.
+    QList<std::pair<QKeySequence, QString>> teclas() const;
 
     /// Writes into a control of the lesson (Relleno), and brings the tab to the front that holds
     /// it. False where there is no such control and where it does not take the text.
@@ -76,12 +99,18 @@ public:
 Q_SIGNALS:
     /// The user has closed the window; it is not to be shown again.
     void descargada();
+    /// A topic came, went, or came to the front.
+    void cambianTemas();
 
 protected:
     /// Adds a topic behind the others. The panel becomes the window's and is named PanelFicha_<n>,
     /// counted from 0. `pasos` shows why its results hold, beside or below it.
     void agregaTema(const QString &rotulo, const QString &clave, QWidget *panel,
                     PanelDePasos *pasos = nullptr);
+
+    /// For a tool whose steps are seen when they are asked for: they are hidden at first, and apart
+    /// from those of other windows remembered under that name. Before the first topic.
+    void escondePasos(const QString &clave);
 
     /// Takes a topic off the strip; its panel stays as it is, and may be added again. Nothing for a
     /// key that no topic has.
@@ -92,9 +121,14 @@ protected:
     void agregaIntroduccion(const QString &rotulo);
 
     void closeEvent(QCloseEvent *suceso) override;
+    void showEvent(QShowEvent *suceso) override;
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
+    struct Tecla;
+    static const QList<Tecla> &teclasDelMarco();
+    const Tecla *teclaPara(const QKeyEvent &suceso, const QWidget &control) const;
+    void recuerdaDivisores();
     int indiceDeTema(const QString &clave) const;
     QString seccionAlFrente() const;
     bool introduccionAlFrente() const;
@@ -116,7 +150,9 @@ private:
     QToolButton *m_cmdPasos;
     QToolButton *m_cmdPracticas;
     bool m_hayPracticas = false;
-    QStackedWidget *m_paneles;
+    bool m_vista = false;
+    QString m_claveDePasos; ///< of the setting whether steps are seen
+    PanelesDeTemas *m_paneles;
     QToolButton *m_cmdVolver;
     PaginaDeLeccion *m_introduccion = nullptr;
     QList<TemaDePagina> m_temasDePagina;

@@ -3,10 +3,10 @@
 #include "shell/core/Traduccion.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
+#include "shell/frame/PanelesDeTemas.h"
 #include "shell/frame/Relleno.h"
 #include "shell/page/PaginaDeLeccion.h"
 
-#include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
@@ -37,7 +37,7 @@ QString FormLeccion::seccionAlFrente() const
             continue;
         if (tema.pestanas.isEmpty())
             return tema.seccion;
-        const auto *pestanas = m_paneles->currentWidget()->findChild<QTabWidget *>();
+        const auto *pestanas = m_paneles->alFrente()->findChild<QTabWidget *>();
         return tema.pestanas.value(pestanas->currentIndex());
     }
     return {};

@@ -6,6 +6,7 @@
 #include "shell/core/run/Espera.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileIconProvider>
@@ -20,6 +21,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
@@ -123,6 +125,7 @@ public:
             return;
         m_dialogo->hide();
         m_dialogo->deleteLater();
+        devuelveElTeclado();
     }
 
     Espera &respondido() { return m_respondido; }
@@ -131,7 +134,18 @@ public:
     int resultado() const { return m_dialogo ? m_resultado : int(QDialog::Rejected); }
 
 private:
+    /// Where a list of completions was open when a file dialog was accepted, nobody has the
+    /// keyboard afterwards as far as Qt knows, and no mnemonic of a lesson works.
+    void devuelveElTeclado()
+    {
+        QTimer::singleShot(0, qApp, [antes = m_antes] {
+            if (antes && !QApplication::focusWidget() && antes->isVisible())
+                antes->setFocus();
+        });
+    }
+
     QPointer<QDialog> m_dialogo;
+    QPointer<QWidget> m_antes = QApplication::focusWidget();
     Espera m_respondido;
     int m_resultado = QDialog::Rejected;
 };

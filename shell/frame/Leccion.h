@@ -40,6 +40,8 @@ struct TemaDePagina
     QStringList campos = {};   ///< objectNames; of another topic too where the two belong together
     QString celdas = {};       ///< grid whose cells links name as its headers do ("C12")
     QStringList pestanas = {}; ///< sections for the tabs within the topic, where it has some
+    QString rotulo = {};       ///< of the strip, Spanish
+    QStringList rotulosDePestanas = {}; ///< of the tabs within it, Spanish
 };
 
 /// A window that the main window can open.
@@ -55,6 +57,8 @@ struct Leccion
     std::function<QList<Escena>()> escenas = {};
     QString palabra = {};           ///< how links name it
     QList<TemaDePagina> temas = {}; ///< the topics that links may open
+    QStringList antes = {};         ///< captions of the lessons that it builds on, Spanish
+    int orden = 0;                  ///< its place in the course, from 1; 0 where it has none
 };
 
 /// The window in which the exercises of all lessons are done.

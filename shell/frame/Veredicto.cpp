@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frame/Veredicto.h"
 
-#include "shell/frame/Anuncio.h"
+#include "shell/access/Anuncio.h"
 #include "shell/look/Aspecto.h"
 
 #include <QEvent>
 #include <QLabel>
-#include <QLineEdit>
+#include <QMetaObject>
+#include <QWidget>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -73,9 +74,9 @@ void muestraNeutro(QLabel *rotulo, const QString &texto)
     anuncia(rotulo);
 }
 
-void rechaza(QLineEdit *campo, QLabel *rotulo, const QString &motivo)
+void rechaza(QWidget *campo, QLabel *rotulo, const QString &motivo)
 {
     muestraVeredicto(rotulo, false, motivo);
     campo->setFocus();
-    campo->selectAll();
+    QMetaObject::invokeMethod(campo, "selectAll");
 }

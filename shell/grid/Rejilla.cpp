@@ -94,6 +94,21 @@ Tarea<> Rejilla::copia(FormaDeCopia forma)
         QApplication::clipboard()->setText(hecha.texto);
 }
 
+void Rejilla::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint consejo)
+{
+    const bool sigue = consejo == QAbstractItemDelegate::EditNextItem;
+    const bool vuelve = consejo == QAbstractItemDelegate::EditPreviousItem;
+    const QModelIndex actual = currentIndex();
+    const QModelIndex destino = sigue    ? moveCursor(MoveNext, Qt::NoModifier)
+                                : vuelve ? moveCursor(MovePrevious, Qt::NoModifier)
+                                         : actual;
+    // The view would go round, from its last cell to its first.
+    const bool sale = (sigue && !(actual < destino)) || (vuelve && !(destino < actual));
+    QTableView::closeEditor(editor, sale ? QAbstractItemDelegate::NoHint : consejo);
+    if (sale)
+        focusNextPrevChild(sigue);
+}
+
 void Rejilla::keyPressEvent(QKeyEvent *suceso)
 {
     if (!suceso->matches(QKeySequence::Copy)) {

@@ -5,6 +5,7 @@
 #include "shell/frame/Evento.h"
 
 #include <QItemSelection>
+#include <QKeySequence>
 #include <QTableView>
 
 class AvanceDeCopia;
@@ -29,9 +30,15 @@ public:
     Tarea<Copia> seleccion(
         FormaDeCopia forma, AvanceDeFilas avance = [](int) {}, Billete billete = {});
 
+    /// The keys by which the keyboard leaves a grid in which Tab goes from cell to cell; none where
+    /// Tab leaves it.
+    virtual QKeySequence teclaDeSalida() const { return {}; }
+
     Tareas &tareas() { return m_tareas; }
 
 protected:
+    /// While cells are being edited Tab goes to the next one, and out of the grid from the last.
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint consejo) override;
     void keyPressEvent(QKeyEvent *suceso) override;
     void contextMenuEvent(QContextMenuEvent *suceso) override;
     void paintEvent(QPaintEvent *suceso) override;

@@ -1,75 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/look/Aspecto.h"
 
+#include "shell/look/Estilo.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QLabel>
-#include <QProxyStyle>
-#include <QStyleFactory>
-#include <QStyleOptionButton>
 #include <algorithm>
-#include <initializer_list>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// Fusion with room to breathe: its buttons and fields are tight for a finger or a far projector.
-class Estilo : public QProxyStyle
-{
-public:
-    Estilo() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
-
-    QSize sizeFromContents(ContentsType tipo, const QStyleOption *opcion, const QSize &contenido,
-                           const QWidget *control) const override
-    {
-        QSize tamano = QProxyStyle::sizeFromContents(tipo, opcion, contenido, control);
-        if (tipo == CT_PushButton)
-            tamano += QSize(16, 8);
-        else if (tipo == CT_LineEdit || tipo == CT_SpinBox || tipo == CT_ComboBox)
-            tamano += QSize(0, 6);
-        else if (tipo == CT_TabBarTab)
-            tamano += QSize(8, 6);
-        return tamano;
-    }
-
-    int styleHint(StyleHint consejo, const QStyleOption *opcion, const QWidget *control,
-                  QStyleHintReturn *vuelta) const override
-    {
-        if (consejo == SH_DialogButtonBox_ButtonsHaveIcons)
-            return 0;
-        return QProxyStyle::styleHint(consejo, opcion, control, vuelta);
-    }
-
-    void drawPrimitive(PrimitiveElement elemento, const QStyleOption *opcion, QPainter *pintor,
-                       const QWidget *control) const override
-    {
-        const bool hecho =
-            Aspecto::esOscuro() &&
-            (dibujaAclarado<QStyleOptionButton>({PE_IndicatorRadioButton, PE_IndicatorCheckBox},
-                                                elemento, opcion, pintor, control) ||
-             dibujaAclarado<QStyleOptionFrame>({PE_PanelLineEdit, PE_FrameLineEdit, PE_Frame},
-                                               elemento, opcion, pintor, control));
-        if (!hecho)
-            QProxyStyle::drawPrimitive(elemento, opcion, pintor, control);
-    }
-
-private:
-    /// Fusion outlines marks, fields and frames darker than the window, which nobody sees on a dark
-    /// one. Draws those of `cuales` with an outline that can be seen; false for any other element.
-    template <typename Opcion>
-    bool dibujaAclarado(std::initializer_list<PrimitiveElement> cuales, PrimitiveElement elemento,
-                        const QStyleOption *opcion, QPainter *pintor, const QWidget *control) const
-    {
-        const auto *propia = qstyleoption_cast<const Opcion *>(opcion);
-        if (!propia || std::find(cuales.begin(), cuales.end(), elemento) == cuales.end())
-            return false;
-        Opcion aclarada(*propia);
-        aclarada.palette.setColor(QPalette::Window, Aspecto::atenuado());
-        QProxyStyle::drawPrimitive(elemento, &aclarada, pintor, control);
-        return true;
-    }
-};
 
 /// Where a heading keeps by how much it is larger than ordinary text.
 constexpr auto PropiedadFactor = "factorDeLetra";
@@ -115,6 +56,9 @@ QPalette paleta(const Colores &c)
     for (const auto papel : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         p.setColor(QPalette::Disabled, papel, c.atenuado);
     p.setColor(QPalette::Disabled, QPalette::Highlight, c.borde);
+    // What is chosen where the keyboard is not.
+    p.setColor(QPalette::Inactive, QPalette::Highlight, c.borde);
+    p.setColor(QPalette::Inactive, QPalette::HighlightedText, c.texto);
     return p;
 }
 

@@ -37,7 +37,7 @@ QColor acento();
 QColor exito();
 QColor error();
 QColor atenuado();
-/// The ground on which pictures and animations stand; the clip art is drawn on the same colour.
+/// The ground on which the animations are drawn.
 QColor lienzo();
 
 } // namespace Aspecto

@@ -46,6 +46,10 @@ void traduceObjeto(QObject *objeto)
         for (int i = 0; i < fichas->count(); ++i)
             fichas->setTabText(i, Traduce(fichas->tabText(i)));
     }
+    if (auto *lista = qobject_cast<QComboBox *>(objeto)) {
+        for (int i = 0; i < lista->count(); ++i)
+            lista->setItemText(i, Traduce(lista->itemText(i)));
+    }
 }
 
 } // namespace

@@ -4,6 +4,6 @@
 class QWidget;
 
 /// Puts the translation of every text that the form of a window holds in its place: captions,
-/// labels, tooltips, placeholders, tabs, menus, accessible names. Called once, after the form is
-/// set up and before texts are made at run time. Fields that the user fills are left alone.
+/// labels, tooltips, placeholders, tabs, lists, menus, accessible names. Called once, after the
+/// form is set up and before texts are made at run time. Fields that the user fills are left alone.
 void traduceVentana(QWidget *ventana);

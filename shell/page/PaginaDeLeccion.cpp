@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -70,6 +71,9 @@ PaginaDeLeccion::PaginaDeLeccion(QWidget *padre)
             [this] { lstContenido_Click(m_contenido->currentRow()); });
     conecta(m_contenido, &QListWidget::itemActivated, this,
             [this] { lstContenido_Click(m_contenido->currentRow()); });
+    // Also from the strip of topics and from the contents.
+    auto *busca = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
+    conecta(busca, &QShortcut::activated, this, [this] { m_busqueda->abre(); });
     conecta(m_pregunta, &BarraDePregunta::cerrada, this, &PaginaDeLeccion::cierraBarras);
 }
 
@@ -162,6 +166,7 @@ PaginaDeLeccion::Orden PaginaDeLeccion::ordenDe(const QKeyEvent &tecla)
     const int pasos = m_navegador->pasosDeLetra();
     const bool barras = m_busqueda->isVisible() || m_pregunta->isVisible();
     const bool busca = m_busqueda->isVisible();
+    const bool conOtra = tecla.modifiers() & (Qt::ShiftModifier | Qt::AltModifier);
     if (tecla.modifiers() & Qt::ControlModifier) {
         switch (tecla.key()) {
         case Qt::Key_Plus:
@@ -172,9 +177,9 @@ PaginaDeLeccion::Orden PaginaDeLeccion::ordenDe(const QKeyEvent &tecla)
         case Qt::Key_0:
             return [this] { cambiaLetra(0); };
         case Qt::Key_F:
-            return [this] { m_busqueda->abre(); };
+            return conOtra ? Orden() : [this] { m_busqueda->abre(); };
         case Qt::Key_P:
-            return [this] { m_tareas.lanza(imprimePagina(m_navegador)); };
+            return conOtra ? Orden() : [this] { m_tareas.lanza(imprimePagina(m_navegador)); };
         default:
             return {};
         }

@@ -11,6 +11,12 @@ EjeDeGrafica::EjeDeGrafica(const Encuadre &encuadre, Qt::Orientation orientacion
 {
 }
 
+void EjeDeGrafica::ponTitulo(const QString &titulo)
+{
+    m_titulo = titulo;
+    update();
+}
+
 QList<qint64> EjeDeGrafica::marcas() const
 {
     const QRectF &visible = m_encuadre.visible();
@@ -47,6 +53,9 @@ void EjeDeGrafica::pintaHorizontal(QPainter &pintor) const
         const QRectF sitio(x - 100, y + Muesca - 2, 200, fontMetrics().height());
         pintor.drawText(sitio, Qt::AlignHCenter | Qt::AlignTop, formatoEntero(marca));
     }
+    const QRectF pie(0, geometry().bottom() - fontMetrics().height(), lienzo.right(),
+                     fontMetrics().height());
+    pintor.drawText(pie, Qt::AlignRight | Qt::AlignBottom, m_titulo);
 }
 
 void EjeDeGrafica::pintaVertical(QPainter &pintor) const
@@ -60,4 +69,7 @@ void EjeDeGrafica::pintaVertical(QPainter &pintor) const
         const QRectF sitio(0, y - 50, x - Muesca, 100);
         pintor.drawText(sitio, Qt::AlignRight | Qt::AlignVCenter, formatoEntero(marca));
     }
+    // Lying, so that it can be read; the axis is as wide as it needs.
+    pintor.drawText(QRectF(0, 0, width(), fontMetrics().height()), Qt::AlignLeft | Qt::AlignTop,
+                    m_titulo);
 }

@@ -15,6 +15,10 @@ public:
     /// Follows the frame of the plot, which outlives the axis; the plot gives it its place.
     EjeDeGrafica(const Encuadre &encuadre, Qt::Orientation orientacion, QWidget *grafica);
 
+    /// What the axis measures; stands beyond its numbers.
+    void ponTitulo(const QString &titulo);
+    const QString &titulo() const { return m_titulo; }
+
     /// The numbers that have a notch.
     QList<qint64> marcas() const;
 
@@ -27,4 +31,5 @@ private:
 
     const Encuadre &m_encuadre;
     Qt::Orientation m_orientacion;
+    QString m_titulo;
 };

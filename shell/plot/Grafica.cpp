@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/plot/Grafica.h"
 
+#include "shell/access/Anuncio.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"
+#include "shell/plot/AccesoDeGrafica.h"
+#include "shell/plot/DatosDeGrafica.h"
 #include "shell/plot/EjeDeGrafica.h"
 #include "shell/plot/PintorDeGrafica.h"
 #include "shell/steps/TintasDePaso.h"
@@ -57,6 +60,7 @@ Grafica::Grafica(QWidget *padre)
         adorno->setAttribute(Qt::WA_TransparentForMouseEvents);
         adorno->hide();
     }
+    instalaAccesoDeGrafica();
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -70,6 +74,8 @@ void Grafica::ponPuntos(const QList<QPointF> &puntos, const QRectF &limites)
     m_tramoDesde = m_tramoHasta = 0;
     m_rectaDesde = m_rectaHasta = {};
     m_trazo.periodo = 0;
+    if (m_datos)
+        m_datos->close();
     m_encuadre.ponLimites(limites);
     m_ejeX->setVisible(!puntos.isEmpty());
     m_ejeY->setVisible(!puntos.isEmpty());
@@ -140,19 +146,22 @@ QSize Grafica::minimumSizeHint() const
 /// Gives axes and plot their places: the axes are as wide as their largest number needs.
 void Grafica::coloca()
 {
-    const int alto = fontMetrics().height() + EjeDeGrafica::Muesca + Aspecto::Espacio;
+    const int linea = fontMetrics().height();
+    const int alto =
+        linea + EjeDeGrafica::Muesca + (m_ejeX->titulo().isEmpty() ? Aspecto::Espacio : linea + 2);
+    const int cima = m_ejeY->titulo().isEmpty() ? linea : linea * 3 / 2;
     const int anchoDeNumero = std::max(
         fontMetrics().horizontalAdvance(formatoEntero(std::llround(m_encuadre.visible().top()))),
         fontMetrics().horizontalAdvance(
             formatoEntero(std::llround(m_encuadre.visible().bottom()))));
     const int ancho = anchoDeNumero + EjeDeGrafica::Muesca + Aspecto::Espacio;
     // Half a number stands out beyond either end of an axis.
-    QRect lienzo = rect().adjusted(ancho, fontMetrics().height(),
-                                   -fontMetrics().horizontalAdvance(u"000"_s), -alto);
+    QRect lienzo = rect().adjusted(ancho, cima, -fontMetrics().horizontalAdvance(u"000"_s), -alto);
     lienzo.setSize(lienzo.size().expandedTo({1, 1}));
     m_encuadre.ponLienzo(lienzo);
     m_ejeX->setGeometry(0, lienzo.bottom() + 1, width(), alto);
-    m_ejeY->setGeometry(0, 0, ancho, height());
+    m_ejeY->setGeometry(
+        0, 0, std::max(ancho, fontMetrics().horizontalAdvance(m_ejeY->titulo()) + 2), height());
     m_ejeX->update();
     m_ejeY->update();
     colocaPunto();
@@ -218,10 +227,11 @@ void Grafica::eligePunto(int indice)
     const QRectF &l = m_encuadre.lienzo();
     const QPointF cerca(std::clamp(punto.x(), l.left(), l.right()),
                         std::clamp(punto.y(), l.top(), l.bottom()));
-    if (cerca == punto)
-        return;
-    m_encuadre.desplaza(cerca - punto);
-    coloca();
+    if (cerca != punto) {
+        m_encuadre.desplaza(cerca - punto);
+        coloca();
+    }
+    anuncia(m_lectura ? m_lectura.data() : this);
 }
 
 /// The point whose x is nearest; the points stand by rising x.
@@ -334,6 +344,10 @@ void Grafica::keyPressEvent(QKeyEvent *suceso)
 {
     const int ultimo = static_cast<int>(m_puntos.size()) - 1;
     switch (ultimo < 0 ? 0 : suceso->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        muestraDatos();
+        break;
     case Qt::Key_Plus:
         amplia(PasoDeZoom);
         break;
@@ -369,6 +383,8 @@ void Grafica::contextMenuEvent(QContextMenuEvent *suceso)
             [this] { QApplication::clipboard()->setPixmap(grab()); });
     conecta(menu->addAction(Traduce(u"&Ver todo"_s)), &QAction::triggered, this,
             &Grafica::muestraTodo);
+    conecta(menu->addAction(Traduce(u"Ver los &datos"_s)), &QAction::triggered, this,
+            &Grafica::muestraDatos);
     menu->setEnabled(!m_puntos.isEmpty());
     menu->popup(suceso->globalPos());
 }

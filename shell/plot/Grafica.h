@@ -6,8 +6,10 @@
 #include "shell/plot/TrazoDeGrafica.h"
 
 #include <QList>
+#include <QPointer>
 #include <QWidget>
 
+class DatosDeGrafica;
 class EjeDeGrafica;
 class PintorDeGrafica;
 
@@ -24,7 +26,7 @@ struct SerieDeGrafica
 /// not, and under the mouse two rulers (`ReglaHorizontal`, `ReglaVertical`) with their coordinates
 /// (`LabelX`, `LabelY`). The point nearest to the pointer, or chosen with the arrow keys, is marked
 /// (`PuntoFunción`). The wheel and the keys + and - zoom, dragging pans, a double click or the key
-/// Home shows everything again.
+/// Home shows everything again. Enter opens the points as a table.
 class Grafica : public QWidget
 {
     Q_OBJECT
@@ -49,6 +51,12 @@ public:
     void ponUnida(bool unida);
     void borra();
 
+    /// What the axes measure, with their units; they stand beside the axes, in the table of data,
+    /// and in what screen readers say.
+    void ponEjes(const QString &x, const QString &y);
+    /// The label that tells about the marked point: read out when the keyboard marks another.
+    void ponLectura(QWidget *rotulo) { m_lectura = rotulo; }
+
     /// What is shown while there are no points.
     void ponTextoVacio(const QString &texto);
 
@@ -56,6 +64,13 @@ public:
 
     /// The index of the marked point; -1 when none is.
     int puntoSenalado() const { return m_senalado; }
+
+    /// How many points there are and between which values they lie; that there are none.
+    QString resumen() const;
+    /// The marked point with its coordinates; empty when none is.
+    QString puntoEnPalabras() const;
+    /// Opens the points as a table, at the marked one. Does nothing without points.
+    void muestraDatos();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -85,6 +100,7 @@ private:
     void quitaReglas();
     void senala(int indice);
     void colocaPunto();
+    QList<QStringList> filasDeDatos() const;
     void eligePunto(int indice);
     int puntoCercano(qreal x) const;
     void pintaSeries(PintorDeGrafica &dibujo) const;
@@ -94,6 +110,10 @@ private:
     QList<QPointF> m_puntos;
     QList<SerieDeGrafica> m_series; ///< where there are several: the points of all are m_puntos
     QString m_textoVacio;
+    QString m_nombreX = QStringLiteral("x");
+    QString m_nombreY = QStringLiteral("y");
+    QPointer<QWidget> m_lectura;
+    QPointer<DatosDeGrafica> m_datos; ///< open, of the points that are shown
     qreal m_tramoDesde = 0;
     qreal m_tramoHasta = 0;
     QPointF m_rectaDesde, m_rectaHasta;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/start/AreaLecciones.h"
 
+#include "shell/access/Papel.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QMdiSubWindow>
@@ -9,6 +11,8 @@ AreaLecciones::AreaLecciones(QWidget *padre) : QMdiArea(padre)
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // To readers Qt shows the child windows of an area and nothing else that stands in it.
+    ponPapel(this, QAccessible::LayeredPane);
 }
 
 void AreaLecciones::ponBienvenida(QWidget *bienvenida)

@@ -24,11 +24,19 @@ void abreTema(QTabBar &temas, const QString &clave)
     }
 }
 
+/// That of the topic in front, where several have a control of that name.
+QWidget *buscado(const QString &nombre, const QWidget &ventana)
+{
+    const auto todos = ventana.findChildren<QWidget *>(nombre);
+    const auto visible = std::ranges::find_if(todos, &QWidget::isVisible);
+    return visible != todos.end() ? *visible : todos.value(0);
+}
+
 } // namespace
 
 void daGesto(const Gesto &gesto, const QWidget &ventana)
 {
-    auto *control = ventana.findChild<QWidget *>(gesto.control);
+    QWidget *control = buscado(gesto.control, ventana);
     if (gesto.valor.endsWith(u'\n')) {
         daGesto({gesto.control, gesto.valor.chopped(1)}, ventana);
         QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);

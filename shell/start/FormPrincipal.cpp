@@ -78,7 +78,8 @@ void FormPrincipal::preparaMenu(const Contenido &contenido)
     m_bienvenida = new PanelBienvenida(contenido, this);
     invitaAPracticar();
     ui->AreaDeTrabajo->ponBienvenida(m_bienvenida);
-    connect(ui->AreaDeTrabajo, &QMdiArea::subWindowActivated, this, &FormPrincipal::marcaLecciones);
+    connect(ui->AreaDeTrabajo, &QMdiArea::subWindowActivated, this,
+            &FormPrincipal::cambiaDeLeccion);
     connect(ui->AreaDeTrabajo, &AreaLecciones::hayVentanas, this, &FormPrincipal::invitaAPracticar);
     conecta(m_bienvenida, &PanelBienvenida::elegida, this, &FormPrincipal::abreLeccion);
     conecta(m_bienvenida, &PanelBienvenida::practicas, this, &FormPrincipal::mnuPracticas_Click);
@@ -98,8 +99,10 @@ void FormPrincipal::preparaOrdenes()
     ui->mnuLetraMenor->setShortcut(Qt::CTRL | Qt::Key_Minus);
     ui->mnuCerrar->setShortcuts({Qt::CTRL | Qt::Key_W, Qt::CTRL | Qt::Key_F4});
     m_menuVentana = new MenuVentana(ui->mnuVentana, ui->AreaDeTrabajo);
+    preparaIr();
 
     // What acts on the active lesson waits until there is one.
+    cambiaDeLeccion();
     for (QAction *accion : {ui->Algoritmos, ui->mnuCerrar}) {
         accion->setEnabled(false);
         connect(ui->AreaDeTrabajo, &AreaLecciones::hayVentanas, accion, &QAction::setEnabled);
@@ -151,23 +154,6 @@ void FormPrincipal::mnuSinMovimiento_Click(bool reducido)
     Sesión().anota(u"Ventana/MovimientoReducido"_s, reducido);
     if (reducido)
         ui->AniLogo->para();
-}
-
-void FormPrincipal::recuperaTamano()
-{
-    const QSize pantalla = screen()->availableSize();
-    resize(pantalla * 0.85);
-    const QByteArray geometria = Sesión().recuerda(u"Ventana/Geometria"_s).toByteArray();
-    constexpr int pantallaPequena = 1440;
-    if (!restoreGeometry(geometria) && pantalla.width() <= pantallaPequena)
-        setWindowState(Qt::WindowMaximized);
-    ui->Divisor->setStretchFactor(0, 0);
-    ui->Divisor->setStretchFactor(1, 1);
-    const QByteArray division = Sesión().recuerda(u"Ventana/Division"_s).toByteArray();
-    if (!ui->Divisor->restoreState(division)) {
-        const int menu = ui->FlexMenu->sizeHintForColumn(0) + 24;
-        ui->Divisor->setSizes({menu, width() - menu});
-    }
 }
 
 QWidget *FormPrincipal::muestraAcercaDe(bool presentacion)
@@ -297,6 +283,8 @@ void FormPrincipal::showEvent(QShowEvent *suceso)
     m_timerLogo->start();
     QTimer::singleShot(0, this, &FormPrincipal::TimerLogo_Timer);
     ui->FlexMenu->setFocus();
+    // The work area has its size by then.
+    QTimer::singleShot(0, this, &FormPrincipal::recuperaSesion);
 }
 
 bool FormPrincipal::event(QEvent *suceso)
@@ -310,7 +298,9 @@ bool FormPrincipal::event(QEvent *suceso)
 
 bool FormPrincipal::eventFilter(QObject *objeto, QEvent *suceso)
 {
-    if (suceso->type() == QEvent::Resize && qobject_cast<QMdiSubWindow *>(objeto))
+    static const QList<QEvent::Type> cambios{QEvent::Resize, QEvent::Move,
+                                             QEvent::WindowStateChange};
+    if (cambios.contains(suceso->type()) && qobject_cast<QMdiSubWindow *>(objeto))
         m_timerTamano->start();
     if (objeto == ui->FlexMenu->viewport() && suceso->type() == QEvent::MouseMove) {
         const auto *raton = static_cast<QMouseEvent *>(suceso);

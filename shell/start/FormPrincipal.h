@@ -12,10 +12,13 @@
 #include <memory>
 
 class FormLeccion;
+class FormTeclas;
 struct EnlaceDeLeccion;
+class MenuIr;
 class MenuLecciones;
 class MenuVentana;
 class PanelBienvenida;
+struct OrdenDePaleta;
 
 namespace Ui {
 class FormPrincipal;
@@ -59,8 +62,12 @@ public:
     /// Has every lesson keep its unsaved work where it is found again, asking nothing.
     void guardaLoPendiente();
 
-    /// The same, then closes all windows and this one.
+    /// The same, then closes all windows and this one. They come back at the next start.
     void terminaSinPreguntar();
+
+    /// The keys that do something now: the key, what it does, and where, in the interface's
+    /// language. Made from the commands themselves.
+    QList<QStringList> teclas() const;
 
 protected:
     bool event(QEvent *suceso) override;
@@ -69,10 +76,22 @@ protected:
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
+    static constexpr int NingunaFila = -3;
+
     void preparaMenu(const Contenido &contenido);
     void preparaOrdenes();
     void preparaAspecto();
+    void preparaIr();
+    void cambiaDeLeccion();
     void marcaLecciones();
+    void muestraTemas();
+    QList<OrdenDePaleta> ordenes();
+    QList<OrdenDePaleta> ordenesDe(int fila);
+    QList<OrdenDePaleta> ordenesDeMenus() const;
+    void abreTemaDe(int fila, const QString &clave, int pestana);
+    void abrePaginaDe(int fila);
+    void anotaSesion();
+    void recuperaSesion();
     void recuperaTamano();
     void anotaTamanos();
     const Leccion *ventanaDe(int fila) const;
@@ -96,12 +115,16 @@ private:
     void mnuOtroPanel_Click();
     void mnuDepartamento_Click();
     void mnuPracticas_Click();
+    void mnuBuscarOrden_Click();
+    void mnuTeclas_Click();
     void invitaAPracticar();
     void cambiaLetra(int pasos);
 
     std::unique_ptr<Ui::FormPrincipal> ui;
     MenuLecciones *m_menu;
     MenuVentana *m_menuVentana;
+    MenuIr *m_menuIr;
+    FormTeclas *m_teclas = nullptr; ///< made when it is first asked for
     PanelBienvenida *m_bienvenida;
     QList<Leccion> m_lecciones;
     Leccion m_hojaDeCalculo;

@@ -3,27 +3,17 @@
 
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/FormLeccion.h"
+#include "shell/start/FormTeclas.h"
 #include "shell/start/MenuLecciones.h"
 #include "ui_FormPrincipal.h"
 
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QScopeGuard>
-#include <QStyle>
 
 // The lessons as child windows: how they open, what size they have, and how they close.
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-/// Where the session keeps the size of a lesson's window.
-QString claveDeTamano(const QWidget &leccion)
-{
-    return u"Ventanas/%1"_s.arg(leccion.objectName());
-}
-
-} // namespace
 
 /// What a row opens; null where it opens nothing.
 const Leccion *FormPrincipal::ventanaDe(int fila) const
@@ -53,6 +43,7 @@ FormLeccion *FormPrincipal::abreLeccion(int fila)
             m_abiertas.remove(fila);
             marcaLecciones();
         });
+        connect(abierta, &FormLeccion::cambianTemas, this, &FormPrincipal::muestraTemas);
         colocaVentana(abierta);
     }
     auto *ventana = qobject_cast<QMdiSubWindow *>(abierta->parentWidget());
@@ -69,33 +60,24 @@ QString FormPrincipal::practica(const QString &clave, int nivel)
                                            : Traduce(u"No hay ejercicios de «%1»."_s).arg(clave);
 }
 
-void FormPrincipal::colocaVentana(FormLeccion *leccion)
-{
-    auto *ventana = new QMdiSubWindow;
-    // The system menu of a child window has a Ctrl+W of its own, which would make the main window's
-    // ambiguous; everything in it is in the menu "Ventana" and on the title bar.
-    ventana->setSystemMenu(nullptr);
-    ventana->setWidget(leccion);
-    ventana->setAttribute(Qt::WA_DeleteOnClose);
-    ui->AreaDeTrabajo->addSubWindow(ventana);
-    ventana->setWindowIcon(leccion->windowIcon());
-
-    const int escalon = ventana->style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    const int desplazamiento = escalon * static_cast<int>((m_abiertas.size() - 1) % 4);
-    const QSize area = ui->AreaDeTrabajo->viewport()->size();
-    const QSize libre = area - QSize(desplazamiento, desplazamiento);
-    const QSize propuesto = ventana->sizeHint().expandedTo(area * 0.9).boundedTo(libre);
-    ventana->resize(Sesión().recuerda(claveDeTamano(*leccion), propuesto).toSize().boundedTo(area));
-    ventana->move(desplazamiento, desplazamiento);
-    ventana->show();
-    ventana->installEventFilter(this);
-}
-
 FormLeccion *FormPrincipal::leccionActiva() const
 {
     const QMdiSubWindow *ventana = ui->AreaDeTrabajo->currentSubWindow();
     return ventana && ventana->isVisible() ? qobject_cast<FormLeccion *>(ventana->widget())
                                            : nullptr;
+}
+
+/// Another lesson is in front, or none.
+void FormPrincipal::cambiaDeLeccion()
+{
+    const FormLeccion *leccion = leccionActiva();
+    ui->Algoritmos->setToolTip(
+        leccion ? Traduce(u"Abrir en el navegador la página de «%1»"_s).arg(leccion->windowTitle())
+                : Traduce(u"Abre en el navegador la página de la lección que esté delante"_s));
+    marcaLecciones();
+    muestraTemas();
+    if (m_teclas)
+        m_teclas->muestra(teclas());
 }
 
 /// The rows of the menu tell which lessons are open, and which one is in front.
@@ -107,19 +89,6 @@ void FormPrincipal::marcaLecciones()
         m_menu->ponMarca(fila, !leccion            ? MenuLecciones::Cerrada
                                : leccion == activa ? MenuLecciones::Activa
                                                    : MenuLecciones::Abierta);
-    }
-}
-
-/// Sizes are noted a moment after they have changed, so that the end of the program writes nothing.
-void FormPrincipal::anotaTamanos()
-{
-    Sesión().anota(u"Ventana/Geometria"_s, saveGeometry());
-    Sesión().anota(u"Ventana/Division"_s, ui->Divisor->saveState());
-    const auto ventanas = ui->AreaDeTrabajo->subWindowList();
-    for (const QMdiSubWindow *ventana : ventanas) {
-        const bool suyo = !ventana->isMaximized() && !ventana->isMinimized();
-        if (ventana->widget() && ventana->isVisible() && suyo)
-            Sesión().anota(claveDeTamano(*ventana->widget()), ventana->size());
     }
 }
 
@@ -171,7 +140,11 @@ void FormPrincipal::guardaLoPendiente()
 
 void FormPrincipal::terminaSinPreguntar()
 {
+    // The user has closed everything already, or the end is told a second time.
+    if (m_cierrePermitido)
+        return;
     guardaLoPendiente();
+    anotaSesion();
     for (const QPointer<FormLeccion> &leccion : abiertas())
         leccion->cierraSinPreguntar();
     m_cierrePermitido = true;

@@ -41,22 +41,29 @@ public:
     {
         co_return QString();
     }
-    Tarea<Archivo> eligeArchivoParaGuardar(QWidget *, QString, QString, QStringList) override
+    /// Into the folder of what students share.
+    Tarea<Archivo> eligeArchivoParaGuardar(QWidget *, QString, QString propuesta,
+                                           QStringList) override
     {
-        co_return Archivo{};
+        Archivo archivo;
+        archivo.ruta = compartida() + u'/' + propuesta;
+        co_return archivo;
     }
     Tarea<bool> eligeImpresora(QWidget *, std::shared_ptr<QPrinter>, QString) override
     {
         co_return false;
     }
     /// A folder beside the copy of the working folder, for what students share.
-    Tarea<QString> eligeCarpeta(QWidget *, QString, QString) override
-    {
-        QDir().mkpath(u"../Compartida"_s);
-        co_return QDir(u"../Compartida"_s).absolutePath();
-    }
+    Tarea<QString> eligeCarpeta(QWidget *, QString, QString) override { co_return compartida(); }
     void abre(const QString &) override {}
     bool lanzaAlguno(const QList<QStringList> &) override { return true; }
+
+private:
+    static QString compartida()
+    {
+        QDir().mkpath(u"../Compartida"_s);
+        return QDir(u"../Compartida"_s).absolutePath();
+    }
 };
 
 class Fotografo

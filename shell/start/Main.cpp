@@ -5,6 +5,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
 #include "shell/core/Traduccion.h"
+#include "shell/core/system/Escritorio.h"
 #include "shell/core/system/InstanciaUnica.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
@@ -39,7 +40,7 @@ void presentaPrograma(const QString &version)
 {
     QCoreApplication::setApplicationName(u"Numora"_s);
     QCoreApplication::setApplicationVersion(version);
-    QGuiApplication::setDesktopFileName(u"numora"_s);
+    QGuiApplication::setDesktopFileName(u"arpa.home.numora"_s);
 }
 
 QString idiomaDeLinea(const QString &lineaDeOrdenes)
@@ -65,7 +66,9 @@ void preparaAplicacion()
 {
     InstalaAvisoDeCota(avisaDeCota);
     Aspecto::aplica(static_cast<Aspecto::Tema>(Sesión().recuerda(u"Ventana/Tema"_s, 0).toInt()));
-    Aspecto::ponMovimientoReducido(Sesión().recuerda(u"Ventana/MovimientoReducido"_s).toBool());
+    // The desktop's word holds until the user has given one of their own.
+    Aspecto::ponMovimientoReducido(
+        Sesión().recuerda(u"Ventana/MovimientoReducido"_s, escritorioSinMovimiento()).toBool());
     Aspecto::ponPasosDeLetra(Sesión().recuerda(u"Ventana/Letra"_s, 0).toInt());
     QApplication::setWindowIcon(Icono(u"NUMORA"_s));
     instalaTextosDeQt();

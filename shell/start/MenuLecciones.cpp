@@ -10,6 +10,22 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// What a lesson teaches, and on a line of its own what it builds on.
+QString descripcionDe(const Leccion &leccion)
+{
+    QStringList antes;
+    for (const QString &rotulo : leccion.antes)
+        antes << Traduce(rotulo);
+    const QString descripcion = Traduce(leccion.descripcion);
+    return antes.isEmpty() ? descripcion
+                           : descripcion + u'\n' +
+                                 Traduce(u"Conviene ver antes: %1."_s).arg(antes.join(u", "_s));
+}
+
+} // namespace
+
 MenuLecciones::MenuLecciones(const QList<Leccion> &lecciones, QObject *padre)
     : QAbstractListModel(padre),
       m_lecciones(lecciones),
@@ -40,9 +56,9 @@ QVariant MenuLecciones::data(const QModelIndex &indice, int papel) const
     case Qt::DecorationRole:
         return Icono(leccion.icono);
     case Qt::ToolTipRole:
-        return (Traduce(leccion.rotulo) + u'\n' + Traduce(leccion.descripcion)).trimmed();
+        return (Traduce(leccion.rotulo) + u'\n' + descripcionDe(leccion)).trimmed();
     case PapelDescripcion:
-        return Traduce(leccion.descripcion);
+        return descripcionDe(leccion);
     case PapelResaltado:
         return m_resaltadas[indice.row()];
     case PapelMarca:

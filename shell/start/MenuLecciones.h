@@ -12,7 +12,7 @@ class MenuLecciones : public QAbstractListModel
 {
 public:
     static constexpr int PapelResaltado = Qt::UserRole;
-    /// What the lesson teaches, in a line.
+    /// What the lesson teaches, and what is better done before.
     static constexpr int PapelDescripcion = Qt::AccessibleDescriptionRole;
 
     enum Marca { Cerrada, Abierta, Activa };

@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,6 +30,22 @@ QList<Leccion> tarjetasDe(const Contenido &contenido)
     return tarjetas << practicas;
 }
 
+/// The order of the course, for those who do not know where to begin; empty without one.
+QString ordenDelCurso(QList<Leccion> lecciones)
+{
+    lecciones.removeIf([](const Leccion &leccion) { return leccion.orden == 0; });
+    std::sort(lecciones.begin(), lecciones.end(),
+              [](const Leccion &una, const Leccion &otra) { return una.orden < otra.orden; });
+    QStringList rotulos;
+    for (const Leccion &leccion : lecciones)
+        rotulos << Traduce(leccion.rotulo);
+    if (rotulos.isEmpty())
+        return {};
+    const QString primera = rotulos.takeFirst();
+    return Traduce(u"Empiece por «%1» y siga en este orden: %2."_s)
+        .arg(primera, rotulos.join(u", "_s));
+}
+
 } // namespace
 
 PanelBienvenida::PanelBienvenida(const Contenido &contenido, QWidget *padre)
@@ -43,8 +60,9 @@ PanelBienvenida::PanelBienvenida(const Contenido &contenido, QWidget *padre)
     titulo->setWordWrap(true);
     Aspecto::destaca(titulo, 2);
     auto *invitacion = new QLabel(
-        Traduce(u"Elija una lección: cada una trae una página para leer, herramientas para "
-                "experimentar y preguntas que el programa corrige."_s),
+        Traduce(u"Cada lección trae herramientas para experimentar y una página que las explica. "
+                "Los ejercicios que el programa corrige están en «Prácticas»."_s) +
+            u' ' + ordenDelCurso(contenido.lecciones),
         m_contenido);
     invitacion->setObjectName(u"lblInvitacion"_s);
     invitacion->setWordWrap(true);

@@ -19,6 +19,7 @@ constexpr qreal CuerpoMenor = 0.72;   ///< of exponents and subscripts, to what 
 constexpr qreal MasReduccion = 0.65;  ///< of a formula that is too wide
 constexpr qsizetype Cifras = 40;      ///< of the longest number that is written whole
 constexpr qsizetype PocasCifras = 20; ///< where there is no room for it
+constexpr qsizetype SoloPuntas = 3;   ///< at either end, where there is hardly any room at all
 constexpr qreal MenorLetra = 6;       ///< points; nothing is set smaller
 
 QFont reducida(QFont fuente, qreal factor)
@@ -60,7 +61,7 @@ public:
     {
         switch (n.clase) {
         case Nodo::Numero:
-            return texto(numeroEnPantalla(n.texto, m_masCifras));
+            return texto(numero(n.texto));
         case Nodo::Palabra:
             return texto(n.texto);
         case Nodo::Nombre:
@@ -101,6 +102,13 @@ public:
     }
 
 private:
+    QString numero(const QString &cifras) const
+    {
+        if (m_masCifras > SoloPuntas || cifras.size() <= 3 * SoloPuntas)
+            return numeroEnPantalla(cifras, std::max(m_masCifras, PocasCifras));
+        return cifras.first(SoloPuntas) + u'…' + cifras.last(SoloPuntas);
+    }
+
     std::vector<Caja> trozosDeParte(const Nodo &n, std::size_t i) const
     {
         if (llevaParentesis(n, i))
@@ -197,8 +205,20 @@ private:
             return entre(u"|"_s, partes(n), u"|"_s);
         if (n.texto == u"sqrt"_s)
             return raiz(partes(n));
+        if (n.texto == u"factorial"_s)
+            return factorial(n);
         Caja caja = texto(n.texto, n.texto.size() == 1);
         sigue(caja, entre(u"("_s, partes(n), u")"_s));
+        return caja;
+    }
+
+    Caja factorial(const Nodo &n) const
+    {
+        const Nodo::Clase clase = n.partes.front().clase;
+        Caja caja = clase == Nodo::Numero || clase == Nodo::Nombre
+                        ? partes(n)
+                        : entre(u"("_s, partes(n), u")"_s);
+        sigue(caja, texto(u"!"_s));
         return caja;
     }
 
@@ -253,8 +273,10 @@ FormulaCompuesta::FormulaCompuesta(const Formula &formula, const QFont &fuente, 
     const qreal factor = std::max(MasReduccion, PixelesEnteros * ancho / m_tamano.width());
     const QFont menor = reducida(fuente, factor);
     reparte(Compositor(menor, Cifras).trozos(formula.raiz()), ancho, sangria);
-    if (m_tamano.width() > ancho)
-        reparte(Compositor(menor, PocasCifras).trozos(formula.raiz()), ancho, sangria);
+    for (const qsizetype cifras : {PocasCifras, SoloPuntas}) {
+        if (m_tamano.width() > ancho)
+            reparte(Compositor(menor, cifras).trozos(formula.raiz()), ancho, sangria);
+    }
 }
 
 void FormulaCompuesta::reparte(const std::vector<Caja> &trozos, qreal ancho, qreal sangria)

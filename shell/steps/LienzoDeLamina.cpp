@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/steps/LienzoDeLamina.h"
 
+#include "shell/access/Papel.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 #include "shell/steps/PintorDeLamina.h"
@@ -16,6 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 LienzoDeLamina::LienzoDeLamina(QWidget *padre) : QWidget(padre)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    ponPapel(this, QAccessible::Graphic);
 }
 
 void LienzoDeLamina::pon(const Lamina &lamina)

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/steps/PanelDePasos.h"
 
+#include "shell/access/Anuncio.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Anuncio.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "shell/steps/DelegadoDePasos.h"
 #include "shell/steps/ImpresionDePasos.h"
 #include "shell/steps/ModeloDePasos.h"
+#include "shell/steps/Prediccion.h"
 #include "ui_PanelDePasos.h"
 
 #include <QClipboard>
@@ -28,6 +29,16 @@ constexpr auto ClaveTodos = "Pasos/Todos";
 
 /// Milliseconds from a step to the next one, by the row of the list of speeds.
 constexpr std::array Velocidades = {1600, 700, 150};
+
+/// The buttons stand in one row where the panel is wide enough for them.
+void acomodaBotones(const Ui::PanelDePasos &ui, int ancho)
+{
+    const int juntos = ui.filaRecorrido->sizeHint().width() + ui.filaPelicula->sizeHint().width();
+    const QMargins bordes = ui.columna->contentsMargins();
+    const int cabe = ancho - bordes.left() - bordes.right() - ui.filasDeBotones->spacing();
+    ui.filasDeBotones->setDirection(juntos <= cabe ? QBoxLayout::LeftToRight
+                                                   : QBoxLayout::TopToBottom);
+}
 
 } // namespace
 
@@ -98,11 +109,13 @@ void PanelDePasos::construye()
     ui->listaDePasos->setItemDelegate(m_delegado);
     ui->listaDePasos->setModel(m_modelo);
     ui->listaDePasos->installEventFilter(this);
+    installEventFilter(this);
     ui->repartoDePasos->setStretchFactor(0, 2);
     ui->repartoDePasos->setStretchFactor(1, 3);
     ui->cmbVelocidad->setCurrentIndex(1);
     ui->cmdTodosLosPasos->setChecked(Sesión().recuerda(QLatin1StringView(ClaveTodos)).toBool());
     conectaBotones();
+    new Prediccion(*ui, *m_modelo, this);
 }
 
 void PanelDePasos::conectaBotones()
@@ -152,6 +165,7 @@ void PanelDePasos::muestra()
     for (QToolButton *boton :
          {ui->cmdTodosLosPasos, ui->cmdCopiarPasos, ui->cmdImprimirPasos, ui->cmdReproducirPasos})
         boton->setEnabled(hay);
+    acomodaBotones(*ui, width());
     if (hay)
         vaA(0);
     actualiza();
@@ -268,7 +282,9 @@ Tarea<> PanelDePasos::cmdImprimir_Click()
 
 bool PanelDePasos::eventFilter(QObject *objeto, QEvent *suceso)
 {
-    if (suceso->type() != QEvent::KeyPress)
+    if (objeto == this && suceso->type() == QEvent::Resize)
+        acomodaBotones(*ui, width());
+    if (objeto == this || suceso->type() != QEvent::KeyPress)
         return QWidget::eventFilter(objeto, suceso);
     const auto *tecla = static_cast<QKeyEvent *>(suceso);
     if (tecla->matches(QKeySequence::Copy)) {

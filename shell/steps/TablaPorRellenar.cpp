@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/steps/TablaPorRellenar.h"
 
+#include "shell/access/Anuncio.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Anuncio.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
@@ -19,6 +19,7 @@ TablaPorRellenar::TablaPorRellenar(QWidget *padre)
 {
     ui->setupUi(this);
     traduceVentana(this);
+    setFocusProxy(ui->FlexHuecos);
     ui->FlexHuecos->setModel(m_modelo);
     ui->FlexHuecos->setEditTriggers(QAbstractItemView::DoubleClicked |
                                     QAbstractItemView::EditKeyPressed |
@@ -53,6 +54,21 @@ void TablaPorRellenar::pon(const TablaConHuecos &tabla)
 const TablaConHuecos &TablaPorRellenar::tabla() const
 {
     return m_modelo->tabla();
+}
+
+void TablaPorRellenar::ponNombre(const QString &nombre)
+{
+    ui->FlexHuecos->setAccessibleName(nombre);
+}
+
+void TablaPorRellenar::sigueA(QWidget *control)
+{
+    for (QWidget *suyo : findChildren<QWidget *>()) {
+        if (suyo->focusPolicy() == Qt::NoFocus)
+            continue;
+        setTabOrder(control, suyo);
+        control = suyo;
+    }
 }
 
 /// The keyboard goes to the first cell that is to be filled in.

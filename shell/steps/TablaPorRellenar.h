@@ -27,6 +27,11 @@ public:
     void pon(const TablaConHuecos &tabla);
     const TablaConHuecos &tabla() const;
 
+    /// What a screen reader calls the grid, where a window has more than one; translated.
+    void ponNombre(const QString &nombre);
+    /// Its controls get the keyboard one by one after that one.
+    void sigueA(QWidget *control);
+
 Q_SIGNALS:
     /// An answer was judged.
     void respondida(int fila, int columna, bool bien);

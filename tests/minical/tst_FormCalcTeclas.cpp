@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/steps/PanelDePasos.h"
 #include "tests/Tabla.h"
 #include "tests/minical/VentanaDePrueba.h"
 
@@ -60,6 +61,34 @@ private Q_SLOTS:
         m->ve(u"C3");
         m->pulsa(teclas);
         QCOMPARE(m->actual(), destino);
+    }
+
+    /// F8 shows why a cell holds what it holds, and takes it away; the steps follow the cell and
+    /// what changes it.
+    void explicarCelda()
+    {
+        auto *panel = m->ventana()->findChild<PanelDePasos *>();
+        m->entra(u"A1", u"6"_s);
+        m->entra(u"A2", u"A1*7+1"_s);
+        QVERIFY(!panel->isVisible());
+        m->ve(u"A2");
+        m->pulsa(Qt::Key_F8);
+        QVERIFY(panel->isVisible() && panel->isAncestorOf(QApplication::focusWidget()));
+        QCOMPARE(panel->pasos().cuantos(), 4);
+        QCOMPARE(panel->pasos().paso(3).frase, u"A2 vale 43."_s);
+        m->entra(u"A1", u"5"_s);
+        m->ve(u"A2");
+        QVERIFY(panel->pasos().paso(3).regla.contains(u"muestra 43 hasta"_s));
+        m->pulsa(Qt::Key_F9);
+        QCOMPARE(panel->pasos().paso(3).frase, u"A2 vale 36."_s);
+        m->ve(u"C3");
+        QVERIFY(panel->pasos().vacios());
+        // The key of the decimal value has made way.
+        m->entra(u"B1", u"1/8"_s);
+        m->ve(u"B1");
+        m->pulsa(Qt::Key_F8, Qt::ShiftModifier);
+        QCOMPARE(m->texto(u"B1"), u"0,125"_s);
+        QVERIFY(panel->isVisible());
     }
 
     void saltosConCtrl_data()

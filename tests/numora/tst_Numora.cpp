@@ -14,25 +14,39 @@ class TestNumora : public QObject
 private Q_SLOTS:
     void init() { m_entorno = QProcessEnvironment::systemEnvironment(); }
 
+    /// What needs no window needs no display; what does says so, and a line that cannot be followed
+    /// too.
     void contestaSinPantalla()
     {
-        for (const QString &variable : {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s})
-            m_entorno.remove(variable);
+        quitaLaPantalla();
         m_entorno.insert(u"LC_ALL"_s, u"es_ES.UTF-8"_s);
-        for (const auto &[opcion, contiene] :
-             {std::pair{u"--version"_s, u"Numora "_s}, {u"--help"_s, u"Opciones:"_s}}) {
-            arranca({opcion});
+        struct Linea
+        {
+            QStringList opciones;
+            int salida;
+            QString dice;
+        };
+        for (const auto &[opciones, salida, dice] :
+             {Linea{{u"--version"_s}, 0, u"Numora "_s},
+              {{u"--help"_s}, 0, u"Muestra esta ayuda."_s},
+              {{u"--help"_s, u"-i:English"_s}, 0, u"Shows this help."_s},
+              {{}, 1, u"No hay ninguna pantalla"_s},
+              {{u"-i:English"_s}, 1, u"There is no display"_s},
+              {{u"--hoja"_s}, 2, u"Falta el valor de --hoja."_s}}) {
+            arranca(opciones);
             QVERIFY(m_programa.waitForFinished());
-            QCOMPARE(m_programa.exitCode(), 0);
-            QVERIFY(QString::fromUtf8(m_programa.readAllStandardOutput()).contains(contiene));
+            QCOMPARE(m_programa.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(m_programa.exitCode(), salida);
+            const QByteArray dicho = salida == 0 ? m_programa.readAllStandardOutput()
+                                                 : m_programa.readAllStandardError();
+            QVERIFY2(QString::fromUtf8(dicho).contains(dice), dicho.constData());
         }
     }
 
     /// A sheet by its code, with neither display nor window; a wrong code is told.
     void escribeUnaHoja()
     {
-        for (const QString &variable : {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s})
-            m_entorno.remove(variable);
+        quitaLaPantalla();
         const QTemporaryDir carpeta;
         m_entorno.insert(u"XDG_RUNTIME_DIR"_s, carpeta.path()); // Qt complains where there is none
         const QString pdf = carpeta.filePath(u"hoja.pdf"_s);
@@ -78,6 +92,13 @@ private Q_SLOTS:
     }
 
 private:
+    void quitaLaPantalla()
+    {
+        for (const QString &variable :
+             {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"WAYLAND_SOCKET"_s})
+            m_entorno.remove(variable);
+    }
+
     void ponAjustes(const QTemporaryDir &carpeta, const QByteArray &contenido)
     {
         QVERIFY(QDir(carpeta.path()).mkdir(u"Numora"_s));

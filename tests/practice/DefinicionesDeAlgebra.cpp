@@ -135,10 +135,13 @@ bool factores(const Leido &e, const Dada &r)
 {
     qint64 producto = 1;
     for (qsizetype i = 0; i < r.n.size(); i += 2) {
-        for (qint64 k = 0; k < r.n[i + 1]; ++k)
-            producto *= r.n[i];
         if (!esPrimo(r.n[i]))
             return false;
+        for (qint64 k = 0; k < r.n[i + 1]; ++k) {
+            producto *= r.n[i];
+            if (producto > e.n[0])
+                return false;
+        }
     }
     return producto == e.n[0];
 }

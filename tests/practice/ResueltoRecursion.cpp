@@ -179,7 +179,7 @@ QString palindromo(const Enunciado &e, const QString &)
 /// Whether the calls of f(n), as they stand in its rule, all end at a natural number with a value.
 bool acaba(const QStringList &argumentos, qint64 n, qint64 base, int hondo)
 {
-    if (n < 0 || hondo > 60)
+    if (n < 0 || n > 1'000'000'000 || hondo > 60)
         return false;
     if (n <= base)
         return true;

@@ -85,6 +85,9 @@ private Q_SLOTS:
             pulsa(u"cmdGuardarHoja"_s);
             QVERIFY(QFileInfo(carpeta.filePath(nombre)).size() > 1000);
         }
+        QFile pagina(carpeta.filePath(u"a.html"_s));
+        QVERIFY(pagina.open(QIODevice::ReadOnly));
+        QVERIFY(pagina.readAll().contains("<img src=\"data:image/png;base64,"));
         pulsa(u"cmdHacer"_s);
         QVERIFY(texto(u"lblHoja"_s).contains(codigo) && texto(u"lblHoja"_s).contains(u"1 de 2"));
         control<QLineEdit>(m_ventana.get(), u"txtRespuesta"_s)->setText(u"0"_s);

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/CampoLargo.h"
+#include "shell/controls/Fotograma.h"
 #include "shell/controls/ReproductorAVI.h"
+#include "shell/controls/SinFondo.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/system/Escritorio.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/grid/Rejilla.h"
 #include "shell/look/Aspecto.h"
@@ -10,6 +13,7 @@
 #include "tests/shell/support/Entorno.h"
 
 #include <QSignalSpy>
+#include <QVideoFrame>
 
 namespace {
 
@@ -211,6 +215,108 @@ private Q_SLOTS:
         QSignalSpy fin(&animacion, &ReproductorAVI::terminada);
         animacion.reproduce(ReproductorAVI::Modo::UnaVez);
         QVERIFY(fin.wait(1000));
+    }
+
+    /// Known colours of a frame of two by two, and one that nobody can read.
+    void fotogramas()
+    {
+        QVideoFrame fotograma(QVideoFrameFormat({2, 2}, QVideoFrameFormat::Format_YUV420P));
+        QCOMPARE(imagenDe(QVideoFrame()), QImage());
+        const QList<std::pair<std::array<int, 3>, QColor>> conocidos{{{16, 128, 128}, Qt::black},
+                                                                     {{235, 128, 128}, Qt::white},
+                                                                     {{81, 90, 240}, Qt::red},
+                                                                     {{145, 54, 34}, Qt::green},
+                                                                     {{41, 240, 110}, Qt::blue}};
+        for (const auto &[planos, debido] : conocidos) {
+            QVERIFY(fotograma.map(QVideoFrame::WriteOnly));
+            for (int plano = 0; plano < 3; ++plano)
+                std::memset(fotograma.bits(plano), planos[static_cast<std::size_t>(plano)],
+                            static_cast<std::size_t>(fotograma.mappedBytes(plano)));
+            fotograma.unmap();
+            const QColor dado = imagenDe(fotograma).pixelColor(1, 1);
+            for (const int lejos : {dado.red() - debido.red(), dado.green() - debido.green(),
+                                    dado.blue() - debido.blue()})
+                QVERIFY2(std::abs(lejos) <= 2, qPrintable(dado.name()));
+        }
+    }
+
+    void elEscritorioQuieto()
+    {
+        const auto escribe = [](const QString &archivo, const QByteArray &texto) {
+            const QDir ajustes(QString::fromLocal8Bit(qgetenv("XDG_CONFIG_HOME")));
+            QVERIFY(ajustes.mkpath(QFileInfo(archivo).path()));
+            QFile hecho(ajustes.filePath(archivo));
+            QVERIFY(hecho.open(QIODevice::WriteOnly) && hecho.write(texto) == texto.size());
+        };
+        const auto gtk = u"gtk-3.0/settings.ini"_s, kde = u"kdeglobals"_s;
+        QVERIFY(!escritorioSinMovimiento());
+        for (const auto &[archivo, texto, quieto] :
+             {std::tuple{gtk, "[Settings]\ngtk-enable-animations=1\n", false},
+              {kde, "[KDE]\nAnimationDurationFactor=0.5\n", false},
+              {gtk, "[Settings]\ngtk-enable-animations=false\n", true},
+              {gtk, "[Settings]\ngtk-theme-name=x\n", false},
+              {kde, "[KDE]\nAnimationDurationFactor=0\n", true},
+              {kde, "", false}}) {
+            escribe(archivo, texto);
+            QCOMPARE(escritorioSinMovimiento(), quieto);
+        }
+    }
+
+    /// What is drawn stays, holes and all; the ground around it goes, in every corner.
+    void fotogramaSinFondo()
+    {
+        QImage fotograma(60, 60, QImage::Format_RGB32);
+        fotograma.fill(Aspecto::lienzo());
+        QPainter pintor(&fotograma);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        pintor.setPen(QPen(QColor(0x27, 0x80, 0x9f), 4));
+        pintor.drawEllipse(10, 10, 40, 40);
+        pintor.end();
+        const QImage sola = sinFondo(fotograma, Aspecto::lienzo());
+        for (const QPoint rincon : {QPoint(0, 0), QPoint(59, 0), QPoint(30, 4), QPoint(59, 59)})
+            QCOMPARE(qAlpha(sola.pixel(rincon)), 0);
+        QCOMPARE(sola.pixel(30, 30), Aspecto::lienzo().rgb());
+        QCOMPARE(sola.pixel(30, 10), qRgb(0x27, 0x80, 0x9f));
+    }
+
+    /// An accent border where the keyboard is, which no selection elsewhere denies.
+    void elFocoSeVe()
+    {
+        for (const Aspecto::Tema tema : {Aspecto::Tema::Claro, Aspecto::Tema::Oscuro}) {
+            Aspecto::aplica(tema);
+            QWidget ventana;
+            auto *columna = new QVBoxLayout(&ventana);
+            QStandardItemModel modelo(1, 1);
+            auto *rejilla = new Rejilla;
+            rejilla->setModel(&modelo);
+            rejilla->selectAll();
+            auto *largo = new CampoLargo;
+            const QList<QWidget *> controles{largo, new QLineEdit, new QPlainTextEdit, rejilla};
+            for (QWidget *uno : controles)
+                columna->addWidget(uno);
+            largo->setText(u"1234"_s);
+            ventana.show();
+            QVERIFY(QTest::qWaitForWindowActive(&ventana));
+            const QColor fondo = ventana.palette().window().color();
+            const auto borde = [](QWidget *uno) {
+                return uno->grab().toImage().pixelColor(1, uno->height() / 2);
+            };
+            for (QWidget *uno : controles) {
+                QTest::keyClick(ventana.focusWidget() ? ventana.focusWidget() : &ventana,
+                                Qt::Key_Tab);
+                uno->setFocus(Qt::TabFocusReason);
+                QVERIFY(uno->hasFocus());
+                for (QWidget *otro : controles)
+                    QCOMPARE(borde(otro) == Aspecto::acento(), otro == uno);
+                QVERIFY(contraste(Aspecto::acento(), fondo) >= 3);
+                QCOMPARE(largo->textCursor().hasSelection(), uno == largo);
+                const QColor celda = rejilla->viewport()->grab().toImage().pixelColor(8, 8);
+                // Under the keyboard the current cell is a shade lighter than the colour.
+                QCOMPARE(celda == ventana.palette().color(QPalette::Inactive, QPalette::Highlight),
+                         uno != rejilla);
+            }
+        }
+        Aspecto::aplica(Aspecto::Tema::Sistema);
     }
 
     void losTextosSeLeen()

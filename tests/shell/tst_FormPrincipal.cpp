@@ -1,54 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/ReproductorAVI.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/FormLeccion.h"
 #include "shell/look/Aspecto.h"
 #include "shell/start/FinDeSesion.h"
 #include "shell/start/FormPrincipal.h"
 #include "shell/start/MenuLecciones.h"
 #include "shell/start/PanelBienvenida.h"
 #include "shell/start/TarjetasDeLecciones.h"
-#include "tests/shell/support/Entorno.h"
+#include "tests/shell/support/LeccionesDePrueba.h"
 
 #include <csignal>
 #include <cstddef>
-
-namespace {
-
-/// A lesson with one field, under whatever name. With text in it, it asks before it closes.
-class FormPrueba : public FormLeccion
-{
-public:
-    explicit FormPrueba(const QString &nombre)
-        : FormLeccion(nombre + u".html"_s), m_campo(new QLineEdit(this))
-    {
-        setObjectName(u"Form"_s + nombre);
-        setWindowTitle(nombre);
-        agregaTema(u"Tema"_s, u"tema"_s, m_campo);
-    }
-    Tarea<bool> puedeCerrarse() override
-    {
-        if (m_campo->text().isEmpty())
-            co_return true;
-        co_return co_await interlocutor().preguntaSiNo(this, windowTitle(), {});
-    }
-    void guardaLoPendiente() override { Sesión().guarda(u"P"_s, windowTitle(), m_campo->text()); }
-
-private:
-    QLineEdit *m_campo;
-};
-
-Contenido contenidoDePrueba()
-{
-    Contenido contenido;
-    for (const QString &nombre : u"Cero Uno Dos Tres Cuatro Cinco"_s.split(u' '))
-        contenido.lecciones << Leccion{u"PRIMOS"_s, nombre,
-                                       [nombre](QWidget *) { return new FormPrueba(nombre); }};
-    contenido.lecciones << Leccion{u"RSA"_s, u"Futura"_s, {}};
-    return contenido;
-}
-
-} // namespace
 
 class TestFormPrincipal : public QObject
 {
@@ -240,21 +202,22 @@ private Q_SLOTS:
         QCOMPARE(Entorno::grabadora().abiertas.size(), 1);
     }
 
-    /// Sizes are noted when they change: the end of the program finds nothing to write.
-    void recuerdaLosTamanos()
+    /// Places are noted when they change: the end of the program finds nothing to write.
+    void recuerdaLosLugares()
     {
-        const QSize tamano(420, 310);
+        const QRect lugar(12, 18, 420, 310);
         FormLeccion *leccion = m_principal->abreLeccion(1);
-        leccion->parentWidget()->resize(tamano);
-        const auto notado = [] { return Sesión().recuerda(u"Ventanas/FormUno"_s).toSize(); };
-        QTRY_COMPARE(notado(), tamano);
+        leccion->parentWidget()->showNormal();
+        leccion->parentWidget()->setGeometry(lugar);
+        const auto notado = [] { return Sesión().recuerda(u"Ventanas/FormUno"_s).toRect(); };
+        QTRY_COMPARE(notado(), lugar);
         QVERIFY(!Sesión().recuerda(u"Ventana/Geometria"_s).toByteArray().isEmpty());
         leccion->cierra();
         QTRY_VERIFY(titulos().isEmpty());
-        QCOMPARE(m_principal->abreLeccion(1)->parentWidget()->size(), tamano);
-        Sesión().anota(u"Ventanas/FormUno"_s, QSize());
+        QCOMPARE(m_principal->abreLeccion(1)->parentWidget()->geometry(), lugar);
+        Sesión().anota(u"Ventanas/FormUno"_s, QRect());
         m_principal->close();
-        QCOMPARE(notado(), QSize());
+        QCOMPARE(notado(), QRect());
     }
 
     /// All lessons close or none, whatever each of them was told.
@@ -332,7 +295,7 @@ private Q_SLOTS:
 private:
     QLineEdit *abreCampo(int fila)
     {
-        return m_principal->abreLeccion(fila)->findChild<QLineEdit *>();
+        return m_principal->abreLeccion(fila)->findChild<QLineEdit *>(u"PanelFicha_0"_s);
     }
     void conControl(Qt::Key tecla)
     {

@@ -4,6 +4,9 @@
 #include "shell/core/Lectura.h"
 #include "shell/core/ModeloFilas.h"
 #include "shell/frame/PanelCuestiones.h"
+#include "shell/frame/Veredicto.h"
+#include "shell/look/Aspecto.h"
+#include "tests/shell/support/Contraste.h"
 #include "tests/shell/support/Entorno.h"
 
 #include <QAbstractItemModelTester>
@@ -42,6 +45,26 @@ private Q_SLOTS:
                       [](const Moneda &n) { return n.texto(); });
             comprueba(leeEntero(fila.first, {u"3"_s, u"1000"_s}), [](QString n) { return n; });
         }
+    }
+
+    /// A verdict given in one theme can be read in another, in the question as in the field.
+    void unVeredictoSigueAlTema()
+    {
+        QLabel rotulo;
+        const auto color = [&] { return rotulo.palette().color(QPalette::WindowText); };
+        rotulo.show();
+        for (const bool bien : {true, false}) {
+            muestraVeredicto(&rotulo, bien, u"x"_s);
+            for (const auto tema : {Aspecto::Tema::Oscuro, Aspecto::Tema::Claro}) {
+                Aspecto::aplica(tema);
+                QTRY_COMPARE(color(), bien ? Aspecto::exito() : Aspecto::error());
+                QVERIFY(contraste(color(), QApplication::palette().window().color()) >= 4.5);
+            }
+        }
+        muestraNeutro(&rotulo, u"x"_s);
+        Aspecto::aplica(Aspecto::Tema::Oscuro);
+        QTRY_COMPARE(color(), QApplication::palette().windowText().color());
+        Aspecto::aplica(Aspecto::Tema::Sistema);
     }
 
     void redondeados()
@@ -84,7 +107,7 @@ private Q_SLOTS:
             QCOMPARE(textoDeDuracion(fila.section(u'=', 0, 0).toDouble()), fila.section(u'=', 1));
     }
 
-    /// Decimals have a comma on a desktop of any language.
+    /// Decimals have a comma on a desktop of any language, and nothing else has.
     void decimalesEnOtroIdioma()
     {
         const QLocale deAntes;
@@ -93,6 +116,7 @@ private Q_SLOTS:
         QCOMPARE(textoDeDuracion(5.341e6), u"5,34 ms"_s);
         QCOMPARE(formatoDecimal(-0.25, 3), u"-0,250"_s);
         QCOMPARE(formatoDecimal(1234.4, 0), formatoEntero(1234));
+        QCOMPARE(formatoDecimal(-1028457.25, 2), u"-1\u202f028\u202f457,25"_s);
     }
 
     /// Two sums, of which the second is drawn anew each time.

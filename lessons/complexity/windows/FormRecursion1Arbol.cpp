@@ -2,6 +2,7 @@
 #include "lessons/complexity/windows/FormRecursion1Arbol.h"
 
 #include "lessons/complexity/PasosDeLlamadas.h"
+#include "shell/access/Papel.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Imagenes.h"
@@ -37,6 +38,9 @@ FormRecursion1Arbol::FormRecursion1Arbol(QWidget *padre)
       m_pasos(new PanelDePasos(u"Árbol de llamadas"_s, this))
 {
     ui->setupUi(this);
+    // The role first: a name makes Qt look for it.
+    ponPapel(ui->visor, QAccessible::Grouping);
+    ui->visor->setAccessibleName(Traduce(u"Árbol de llamadas"_s));
     traduceVentana(this);
     ui->SpinN->setMaximum(ArbolDeLlamadas::MaximoN);
     ui->cmdSiguienteLlamada->setIcon(ImgSiguiente());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/complexity/windows/FormRecursion1DibujoArbol.h"
 
+#include "shell/access/Papel.h"
 #include "shell/look/Aspecto.h"
 
 #include <QPainter>
@@ -12,7 +13,10 @@ constexpr qreal OpacidadPorHacer = 0.22;
 
 } // namespace
 
-FormRecursion1DibujoArbol::FormRecursion1DibujoArbol(QWidget *padre) : QWidget(padre) {}
+FormRecursion1DibujoArbol::FormRecursion1DibujoArbol(QWidget *padre) : QWidget(padre)
+{
+    ponPapel(this, QAccessible::Graphic);
+}
 
 void FormRecursion1DibujoArbol::ponArbol(const ArbolDeLlamadas &arbol)
 {

@@ -4,6 +4,7 @@
 #include "lessons/complexity/GeometriaHanoi.h"
 #include "lessons/complexity/PasosDeHanoi.h"
 #include "lessons/complexity/TorresHanoi.h"
+#include "shell/access/Papel.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 
@@ -26,6 +27,7 @@ QColor colorDe(int disco, int discos)
 FormRecursion1DibujoHanoi::FormRecursion1DibujoHanoi(QWidget *padre) : QWidget(padre)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    ponPapel(this, QAccessible::Graphic);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
 }

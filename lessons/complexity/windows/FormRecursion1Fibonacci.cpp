@@ -45,6 +45,7 @@ FormRecursion1Fibonacci::FormRecursion1Fibonacci(FormLeccion *leccion)
         Traduce(u"Pulse «Calcular» para medir lo que tarda cada forma, de n = 1 en adelante"_s));
     new ColumnasRepartidas(ui->FlexMedidas);
     ui->PicCrecimiento->ponTextoVacio(Traduce(u"Aquí aparecerá el crecimiento con n"_s));
+    ui->PicCrecimiento->ponLectura(ui->lblPunto);
 
     conecta(ui->cmdMedir, &QPushButton::clicked, this, &FormRecursion1Fibonacci::cmdMedir_Click);
     conecta(ui->TxtHasta, &QLineEdit::returnPressed, this, &FormRecursion1Fibonacci::empieza);
@@ -157,6 +158,9 @@ void FormRecursion1Fibonacci::representa()
             paraAjuste << QPointF(n, valor);
     }
     const QRectF limites(QPointF(0, std::floor(menor)), QPointF(ultimo, std::ceil(mayor)));
+    ui->PicCrecimiento->ponEjes(u"n"_s,
+                                Traduce(ui->optTiempo->isChecked() ? u"log₁₀ del tiempo en ns"_s
+                                                                   : u"log₁₀ de las llamadas"_s));
     ui->PicCrecimiento->ponPuntos(puntos, limites);
     m_ajuste = ajustaExponencial(paraAjuste);
     if (m_ajuste) {
@@ -171,8 +175,9 @@ void FormRecursion1Fibonacci::representa()
 void FormRecursion1Fibonacci::muestraAjuste()
 {
     if (!m_ajuste) {
-        ui->lblAjuste->setText(Traduce(u"El ajuste necesita al menos tres puntos, desde n = %1."_s)
-                                   .arg(PrimeroDelAjuste));
+        muestraNeutro(ui->lblAjuste,
+                      Traduce(u"El ajuste necesita al menos tres puntos, desde n = %1."_s)
+                          .arg(PrimeroDelAjuste));
         return;
     }
     const bool esTiempo = ui->optTiempo->isChecked();
@@ -181,12 +186,13 @@ void FormRecursion1Fibonacci::muestraAjuste()
     const QString ajuste =
         esTiempo ? Traduce(u"Ajuste (línea discontinua): T(n) ≈ %1 · %2ⁿ, con R² = %3. Con cada "
                            u"unidad de n, el tiempo se multiplica por %2; en teoría, por "
-                           u"φ = 1,618…"_s)
+                           u"φ = %4…"_s)
                  : Traduce(u"Ajuste (línea discontinua): L(n) ≈ %1 · %2ⁿ, con R² = %3. Con cada "
                            u"unidad de n, las llamadas se multiplican por %2; en teoría, por "
-                           u"φ = 1,618…"_s);
-    ui->lblAjuste->setText(
-        ajuste.arg(factor, formatoDecimal(m_ajuste->base, 3), formatoDecimal(m_ajuste->r2, 5)));
+                           u"φ = %4…"_s);
+    muestraNeutro(ui->lblAjuste,
+                  ajuste.arg(factor, formatoDecimal(m_ajuste->base, 3),
+                             formatoDecimal(m_ajuste->r2, 5), formatoDecimal(1.618, 3)));
 }
 
 void FormRecursion1Fibonacci::senalaPunto(int indice)

@@ -2,9 +2,9 @@
 #include "lessons/complexity/windows/FormRecursion1Hanoi.h"
 
 #include "lessons/complexity/PasosDeHanoi.h"
+#include "shell/access/Anuncio.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Anuncio.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"

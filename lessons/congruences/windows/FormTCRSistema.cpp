@@ -6,7 +6,6 @@
 #include "lessons/congruences/PasosDelTCR.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
-#include "shell/frame/Interlocutor.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
@@ -130,9 +129,8 @@ bool FormTCRSistema::hayQueResolver()
     ui->FlexTCR->setCurrentIndex(m_modelo->index(
         fila, mala.restoValido() ? ModeloCongruencias::Modulo : ModeloCongruencias::Resto));
     ui->FlexTCR->setFocus();
-    interlocutor().avisa(this, Interlocutor::Icono::Exclamacion,
-                         Traduce(u"Fila %1: "_s).arg(fila + 1) + mala.defecto() + u'.',
-                         Traduce(u"Sistema no válido"_s));
+    muestraVeredicto(ui->lblAviso, false,
+                     Traduce(u"Fila %1: "_s).arg(fila + 1) + mala.defecto() + u'.');
     return false;
 }
 

@@ -6,6 +6,7 @@
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
@@ -39,7 +40,7 @@ FormEuclidesDiofantica::~FormEuclidesDiofantica() = default;
 void FormEuclidesDiofantica::muestra(const SolucionesDiofanticas &soluciones)
 {
     m_modelo->pon(soluciones.lista);
-    ui->lblSoluciones->setText(soluciones.cuenta);
+    muestraNeutro(ui->lblSoluciones, soluciones.cuenta);
     ui->TxtSoluciones->setPlainText(soluciones.general);
 }
 

@@ -92,7 +92,7 @@ void FormEuclidesTabla::rehazTabla(Moneda dividendo, Moneda divisor)
     m_modelo->pon(
         {dividendo, divisor,
          m_restosReducidos ? AlgoritmoEuclides::RestosReducidos : AlgoritmoEuclides::Estandar});
-    ui->lblExtEuclides->setText(m_modelo->tabla().resultado());
+    muestraNeutro(ui->lblExtEuclides, m_modelo->tabla().resultado());
     m_pasos->pon(pasosDeEuclides(m_modelo->tabla()));
 }
 
@@ -126,13 +126,7 @@ void FormEuclidesTabla::creaHuecos()
 {
     m_huecos = new TablaPorRellenar(this);
     ui->columna->insertWidget(ui->columna->indexOf(ui->FlexEuclides) + 1, m_huecos);
-    QWidget *antes = ui->cmdRellenar;
-    for (QWidget *control : m_huecos->findChildren<QWidget *>()) {
-        if (control->focusPolicy() == Qt::NoFocus)
-            continue;
-        setTabOrder(antes, control);
-        antes = control;
-    }
+    m_huecos->sigueA(ui->cmdRellenar);
 }
 
 /// In place of the table and its result, which would tell what is to be filled in.

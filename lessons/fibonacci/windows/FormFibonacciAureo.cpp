@@ -46,6 +46,8 @@ FormFibonacciAureo::FormFibonacciAureo(QWidget *padre)
     ui->FlexCocientes->ponTextoVacio(vacio);
     ui->PicError->ponTextoVacio(vacio);
     ui->FlexCocientes->setTextElideMode(Qt::ElideMiddle);
+    ui->PicError->ponEjes(u"n"_s, Traduce(u"log₁₀ del error"_s));
+    ui->PicError->ponLectura(ui->lblPunto);
     new ColumnasRepartidas(ui->FlexCocientes);
     ui->reparto->setStretchFactor(0, 3);
     ui->reparto->setStretchFactor(1, 2);
@@ -121,7 +123,8 @@ void FormFibonacciAureo::senalaPunto(int indice)
         return;
     ui->lblPunto->setText(
         indice < 0 ? Traduce(u"Los puntos están casi en una recta: cada paso divide el error por "
-                             u"φ² ≈ 2,618."_s)
+                             u"φ² ≈ %1."_s)
+                         .arg(formatoDecimal(2.618, 3))
                    : Traduce(u"n = %1: error %2"_s)
                          .arg(QString::number(m_cocientes.at(indice).n),
                               textoDelError(m_cocientes.at(indice))));

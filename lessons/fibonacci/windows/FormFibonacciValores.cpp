@@ -164,10 +164,10 @@ void FormFibonacciValores::muestra(MetodoFibonacci metodo, int n, const Fibonacc
 {
     const bool detenido = medido.valor.isEmpty();
     ui->txtValor->setText(medido.valor);
-    ui->lblCifras->setText(
-        detenido ? Traduce(u"Cálculo detenido"_s)
-                 : Traduce(u"Cifras de F(%1): %2"_s)
-                       .arg(formatoEntero(qint64{n}), formatoEntero(qint64{medido.valor.size()})));
+    muestraNeutro(ui->lblCifras, detenido ? Traduce(u"Cálculo detenido"_s)
+                                          : Traduce(u"Cifras de F(%1): %2"_s)
+                                                .arg(formatoEntero(qint64{n}),
+                                                     formatoEntero(qint64{medido.valor.size()})));
     const Esfuerzo &esfuerzo = medido.esfuerzo;
     const auto siAcabo = [&](const QString &texto) { return detenido ? QString() : texto; };
     m_comparacion.agrega(

@@ -41,6 +41,8 @@ FormPrimosCoste::FormPrimosCoste(FormLeccion *leccion)
     ui->FlexCoste->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     ui->FlexCoste->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     ui->PicCoste->ponTextoVacio(Traduce(u"Aquí aparecerá el tiempo de cada algoritmo"_s));
+    ui->PicCoste->ponEjes(u"log₁₀ n"_s, Traduce(u"log₁₀ del tiempo en ns"_s));
+    ui->PicCoste->ponLectura(ui->lblPuntoCoste);
     conecta(ui->cmdCoste, &QPushButton::clicked, this, &FormPrimosCoste::cmdCoste_Click);
     conecta(ui->PicCoste, &Grafica::senalado, this, &FormPrimosCoste::PicCoste_Senalado);
 }

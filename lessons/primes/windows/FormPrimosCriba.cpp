@@ -8,6 +8,7 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/FormLeccion.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "shell/steps/PanelDePasos.h"
@@ -137,7 +138,7 @@ void FormPrimosCriba::muestraPrimos(PrimosDelServicio lista, bool detenida)
     // The bar stands where the largest prime does, nearly always short of 100 %.
     if (!detenida)
         ui->ProgressBar->setFormat(Traduce(u"Terminada"_s));
-    ui->lblResumen->setText(resumen(cuantos, mayor, detenida));
+    muestraNeutro(ui->lblResumen, resumen(cuantos, mayor, detenida));
     ui->FlexPrimos->ponTextoVacio(ui->lblResumen->text());
     m_leccion->unsetCursor();
 }

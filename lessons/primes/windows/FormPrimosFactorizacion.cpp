@@ -12,6 +12,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "shell/steps/PanelDePasos.h"
@@ -95,7 +96,7 @@ Tarea<> FormPrimosFactorizacion::BtnFactoriza_Click()
 /// then their factors are shown.
 void FormPrimosFactorizacion::detiene()
 {
-    ui->lblResultado->setText(Traduce(u"Detenida."_s));
+    muestraNeutro(ui->lblResultado, Traduce(u"Detenida."_s));
     ui->FlexFactores->ponTextoVacio(ui->lblResultado->text());
     m_boton->detiene();
 }
@@ -213,7 +214,7 @@ void FormPrimosFactorizacion::muestra(const TablaDeFactores &tabla)
     m_pasos->pon(pasosDeFactorizacion(tabla));
     m_modelo->pon(tabla);
     ui->txtProductoDeFactores->setText(tabla.producto());
-    ui->lblResultado->setText(tabla.frase());
+    muestraNeutro(ui->lblResultado, tabla.frase());
     ui->FlexFactores->ponTextoVacio(tabla.frase());
     const bool hayFilas = !tabla.filas.isEmpty();
     if (hayFilas)

@@ -6,6 +6,7 @@
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
@@ -88,7 +89,7 @@ void FormPrimosTest::SetSemaforo(bool primo)
     const QString veredicto = Traduce(primo ? u"Es primo"_s : u"No es primo"_s);
     ui->imgTestPrimo->setImagen(primo ? u"SEMAFOROVERDE"_s : u"SEMAFOROROJO"_s);
     ponVeredicto(veredicto);
-    ui->LabelPrimo->setText(veredicto);
+    muestraNeutro(ui->LabelPrimo, veredicto);
 }
 
 /// A number that is prime by the way it was found: green without a test. Where none was found (the
@@ -96,7 +97,7 @@ void FormPrimosTest::SetSemaforo(bool primo)
 bool FormPrimosTest::muestraPrimo(const QString &primo)
 {
     if (primo.isEmpty()) {
-        ui->LabelPrimo->setText(Traduce(u"No se ha encontrado ningún primo"_s));
+        muestraNeutro(ui->LabelPrimo, Traduce(u"No se ha encontrado ningún primo"_s));
         return false;
     }
     ui->txtNúmero->setText(primo);

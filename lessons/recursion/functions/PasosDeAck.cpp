@@ -50,7 +50,7 @@ Lamina lamina(const std::vector<PilaDeAck::Pendiente> &pila, const PilaDeAck::Su
     if (aparte)
         caja(alto - desde, {Tono::Acierto}, textoDeValor(suceso.llamada, suceso.valor));
     // The boxes keep their size while the stack is low.
-    lamina.linea({0, -5.1}, {0, -5.1}, {Tono::Suave});
+    lamina.texto(QRectF(0, -5.1, AnchoDeCaja, 0.7), {});
     lamina.linea({0, 1}, {AnchoDeCaja, 1}, {Tono::Suave});
     return lamina;
 }

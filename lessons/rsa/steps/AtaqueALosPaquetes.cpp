@@ -5,6 +5,7 @@
 #include "lessons/rsa/steps/AtaquesPosibles.h"
 #include "lessons/rsa/steps/PasosDeCifrado.h"
 #include "lessons/rsa/steps/RaicesEnteras.h"
+#include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -70,9 +71,9 @@ ResultadoDeAtaque tablaDemasiadoGrande(const Victima &v)
     return sinExito(
         ResultadoDeAtaque::Abandonado, {},
         Traduce(
-            u"No se ha podido: con %1 caracteres por paquete la tabla tendría 256^%1 filas, y el "
+            u"No se ha podido: con %1 caracteres por paquete la tabla tendría 256%2 filas, y el "
             "banco solo hace la de 256."_s)
-            .arg(v.r),
+            .arg(QString::number(v.r), enSuperindice(QString::number(v.r))),
         formulas);
 }
 
@@ -99,7 +100,7 @@ RaizDeBloque raizDe(const QString &bloque, int s)
 ResultadoDeAtaque sinPotenciasMenores(const Victima &v, int bits)
 {
     return sinExito(ResultadoDeAtaque::NoHay, {},
-                    Traduce(u"No hay raíz que valga: s no es menor que los %1 bits de q, y ya 2^s "
+                    Traduce(u"No hay raíz que valga: s no es menor que los %1 bits de q, y ya 2ˢ "
                             "pasa de q. Todos los paquetes se redujeron módulo q."_s)
                         .arg(bits),
                     {Formula(u"%1 < 2^%2"_s.arg(v.q).arg(bits)),
@@ -139,7 +140,7 @@ ResultadoDeAtaque porRaiz(const Victima &v)
         return sinExito(
             ResultadoDeAtaque::Abandonado, {},
             Traduce(u"No se ha podido: el banco extrae raíces hasta s = %1."_s).arg(MayorS));
-    Paso raices{Traduce(u"Si m^s no llega a q, el paquete es m^s sin reducir, y m es su raíz "
+    Paso raices{Traduce(u"Si mˢ no llega a q, el paquete es mˢ sin reducir, y m es su raíz "
                         "s-ésima entera."_s)};
     QStringList numeros;
     for (const QString &bloque : v.bloques) {
@@ -148,7 +149,7 @@ ResultadoDeAtaque porRaiz(const Victima &v)
         if (!raiz.exacta)
             return sinExito(
                 ResultadoDeAtaque::NoHay, {raices},
-                Traduce(u"No hay raíz entera: al cifrar, m^s pasó de q y se redujo. Este "
+                Traduce(u"No hay raíz entera: al cifrar, mˢ pasó de q y se redujo. Este "
                         "ataque no puede leer el paquete %1."_s)
                     .arg(bloque));
         numeros << raiz.raiz.texto();

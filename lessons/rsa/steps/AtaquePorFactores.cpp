@@ -3,6 +3,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/rsa/steps/AtaquesPosibles.h"
 #include "lessons/rsa/steps/RaicesEnteras.h"
+#include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
 #include <algorithm>
@@ -13,7 +14,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// Divisors are tried up to the first bound, and fewer where a division costs more; numbers of up
-/// to so many digits are then left to the service, which splits them in about a second.
+/// to so many digits are then left to the service, which splits them in some 15 ms: it does not
+/// yield.
 constexpr std::int64_t MayorDivisor = 20'000'000;
 constexpr std::int64_t MasOperaciones = 400'000'000;
 constexpr qsizetype CifrasDelServicio = 40;
@@ -135,11 +137,11 @@ ResultadoDeAtaque abandonado(const Victima &v, const Paso &divisiones)
         ResultadoDeAtaque::Abandonado, {divisiones},
         Traduce(
             u"No se ha podido: q tiene %1 bits y el menor de sus primos puede tener %2 cifras. "
-            "Llegar a la raíz de q pediría unas 10^%3 divisiones; el banco hace unos segundos de "
+            "Llegar a la raíz de q pediría unas 10%3 divisiones; el banco hace unos segundos de "
             "trabajo. Que aquí no se pueda no demuestra que la clave sea segura."_s)
             .arg(NumeroDeBits(v.q))
             .arg((v.q.size() + 1) / 2)
-            .arg(k),
+            .arg(enSuperindice(QString::number(k))),
         {Formula(u"(10^%1)^2 <= %2"_s.arg(k).arg(v.q))});
 }
 

@@ -60,22 +60,28 @@ Tarea<ResultadoDeAtaque> elegido(Ataque ataque, Victima victima, Billete billete
     co_return porFi(victima);
 }
 
-/// The blocks decrypted with t, a congruence each.
-Paso lectura(const Victima &v, const QString &t, QString &texto)
+/// The blocks decrypted with t, a congruence each, behind the steps that found it. Yields once a
+/// block; what was stopped says so.
+Tarea<ResultadoDeAtaque> conLectura(ResultadoDeAtaque hallado, Victima v, Billete billete)
 {
-    Potencias potencias(t, v.q);
+    Potencias potencias(hallado.t, v.q);
     QStringList numeros;
     Paso paso;
-    for (const QString &bloque : v.bloques) {
+    for (const QString &bloque : std::as_const(v.bloques)) {
+        co_await billete.ceder();
+        if (billete.detenida())
+            co_return detenido();
         numeros << potencias.de(bloque);
-        paso.formulas << Formula(u"%1^%2 == %3 (mod %4)"_s.arg(bloque, t, numeros.last(), v.q));
+        paso.formulas << Formula(
+            u"%1^%2 == %3 (mod %4)"_s.arg(bloque, hallado.t, numeros.last(), v.q));
     }
-    texto = textoDe(numeros);
-    paso.frase =
-        Traduce(u"Encontrado: con t se descodifican los paquetes. Dicen «%1»."_s).arg(texto);
+    hallado.texto = textoDe(numeros);
+    paso.frase = Traduce(u"Encontrado: con t se descodifican los paquetes. Dicen «%1»."_s)
+                     .arg(hallado.texto);
     paso.regla = Traduce(u"Quien conoce los primos puede hacer todo lo que hace el dueño de la "
                          "clave."_s);
-    return paso;
+    hallado.pasos = Pasos::seguidos({hallado.pasos, Pasos(QList<Paso>{paso})});
+    co_return hallado;
 }
 
 } // namespace
@@ -123,9 +129,9 @@ ResultadoDeAtaque conFactores(const Victima &v, const QString &p1, const QString
         resultado.pasos = Pasos(hallazgo + QList<Paso>{delFi, sinT});
         return resultado;
     }
-    const Paso leido = lectura(v, t, resultado.texto);
-    resultado.pasos = Pasos::seguidos({Pasos(hallazgo + QList<Paso>{delFi}),
-                                       pasosDelExponente(v.s, fi, t), Pasos(QList<Paso>{leido})});
+    resultado.t = t;
+    resultado.pasos =
+        Pasos::seguidos({Pasos(hallazgo + QList<Paso>{delFi}), pasosDelExponente(v.s, fi, t)});
     return resultado;
 }
 
@@ -146,6 +152,8 @@ Tarea<ResultadoDeAtaque> ataca(Ataque ataque, Victima victima, Billete billete)
     ResultadoDeAtaque resultado;
     try {
         resultado = co_await elegido(ataque, victima, billete);
+        if (!resultado.t.isEmpty())
+            resultado = co_await conLectura(resultado, victima, billete);
     } catch (const ErrorEjecucion &) {
         resultado = demasiadoLargos();
     }

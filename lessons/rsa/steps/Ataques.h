@@ -39,6 +39,7 @@ struct ResultadoDeAtaque
     Desenlace desenlace = Abandonado;
     QString texto = {};        ///< what the blocks say, where it was read
     QStringList factores = {}; ///< of q, where they were found, the smaller one first
+    QString t = {};            ///< that undoes s, where the factors give one
     Pasos pasos = {};          ///< at least two: what is known, …, how it ended
 };
 

@@ -12,8 +12,8 @@ Tarea<ResultadoDeAtaque> porFermat(Victima victima, Billete billete);
 ResultadoDeAtaque porRaiz(const Victima &victima);
 ResultadoDeAtaque porFi(const Victima &victima);
 
-/// What follows once q = p1·p2 is known: φ(q), t by Euclid's table, and the text, after the steps
-/// that found them.
+/// What follows once q = p1·p2 is known: φ(q) and t by Euclid's table, after the steps that found
+/// them. The text is read elsewhere, a block a yield.
 ResultadoDeAtaque conFactores(const Victima &victima, const QString &p1, const QString &p2,
                               const QList<Paso> &hallazgo);
 

@@ -47,10 +47,11 @@ Paso primosEntreSi(const ClaveEnCifras &c)
 
 Paso comprobacion(const ClaveEnCifras &c)
 {
-    Paso paso{Traduce(u"El exponente privado t es el inverso de s módulo φ(q): t = %1."_s).arg(c.t),
-              {Formula(u"%1*%2 == 1 (mod %3)"_s.arg(c.s, c.t, c.fi))},
-              Traduce(u"s·t es 1 más un múltiplo de φ(q), y por el teorema de Euler m^(s·t) es "
-                      "congruente con m módulo q."_s)};
+    Paso paso{
+        Traduce(u"El exponente privado t es el inverso de s módulo φ(q): t = %1."_s).arg(c.t),
+        {Formula(u"%1*%2 == 1 (mod %3)"_s.arg(c.s, c.t, c.fi))},
+        Traduce(u"s·t es 1 más un múltiplo de φ(q), y por el teorema de Euler m elevado a s·t es "
+                "congruente con m módulo q."_s)};
     if (c.q1 == c.q2)
         paso.regla.clear();
     return paso;

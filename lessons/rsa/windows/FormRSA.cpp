@@ -75,7 +75,7 @@ void FormRSA::recuperaClave()
         interlocutor().avisa(
             this, Interlocutor::Icono::Informacion,
             Traduce(
-                u"La última sesión acabó de repente. Su clave privada ha vuelto a su fichero."_s),
+                u"La última sesión acabó de repente. Su clave privada ha vuelto a su archivo."_s),
             Traduce(u"Clave recuperada"_s));
     m_clave->RecuperaClave();
 }

@@ -144,15 +144,7 @@ void FormRSAClave::muestraEstado()
         ::muestraVeredicto(ui->lblEstado, m_estado == Estado::Bien, m_textoDeEstado);
         return;
     }
-    ui->lblEstado->setPalette(palette());
-    ui->lblEstado->setText(m_textoDeEstado);
-}
-
-void FormRSAClave::changeEvent(QEvent *suceso)
-{
-    QWidget::changeEvent(suceso);
-    if (suceso->type() == QEvent::PaletteChange)
-        muestraEstado();
+    muestraNeutro(ui->lblEstado, m_textoDeEstado);
 }
 
 void FormRSAClave::muestraVeredicto(bool bien, const QString &mensaje)

@@ -45,8 +45,6 @@ Q_SIGNALS:
     void validada();
 
 protected:
-    void changeEvent(QEvent *suceso) override;
-
 private:
     CampoLargo *txtQ(int i) const;
     enum class Estado { Neutro, Bien, Mal };

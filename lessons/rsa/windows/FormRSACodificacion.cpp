@@ -8,7 +8,7 @@
 #include "lessons/rsa/windows/FormRSATexto.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Interlocutor.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Textos.h"
 #include "shell/steps/PanelDePasos.h"
 #include "ui_FormRSACodificacion.h"
@@ -72,12 +72,11 @@ bool FormRSACodificacion::empiezaCon(BotonDeCorrida *boton) const
 Tarea<> FormRSACodificacion::cmdCodificar_Click()
 {
     const QString texto = ui->txtTextoOriginal->toPlainText();
-    if (!empiezaCon(m_codificar) || !seCodifica(this, texto))
+    if (!empiezaCon(m_codificar) || !seCodifica(ui->lblEstadoCodigo, texto))
         co_return;
     if (m_clave->r() < 1) {
-        interlocutor().avisa(this, Interlocutor::Icono::Exclamacion,
-                             Traduce(u"Cada paquete ha de tener al menos un carácter."_s),
-                             Traduce(u"Tamaño de la palabra"_s));
+        muestraVeredicto(ui->lblEstadoCodigo, false,
+                         Traduce(u"Cada paquete ha de tener al menos un carácter."_s));
         co_return;
     }
     const ClaveEnCifras clave = enCifras(*m_clave);
@@ -95,7 +94,8 @@ void FormRSACodificacion::muestra(const QStringList &bloques)
         filas << QStringList{bloque};
     m_bloques.ponFilas(filas);
     ajustaFilas();
-    ui->lblEstadoCodigo->setText(Traduce(u"Paquetes: %1"_s).arg(formatoEntero(bloques.size())));
+    muestraNeutro(ui->lblEstadoCodigo,
+                  Traduce(u"Paquetes: %1"_s).arg(formatoEntero(bloques.size())));
 }
 
 Tarea<> FormRSACodificacion::cmdDescodificar_Click()

@@ -5,7 +5,7 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCorrida.h"
-#include "shell/frame/Interlocutor.h"
+#include "shell/frame/Veredicto.h"
 
 #include <QAbstractButton>
 #include <QRegularExpression>
@@ -20,19 +20,15 @@ BotonDeCorrida *corridaDe(QAbstractButton *boton, const QString &imagen, const Q
     return corrida;
 }
 
-bool seCodifica(QWidget *ventana, const QString &texto)
+bool seCodifica(QLabel *rotulo, const QString &texto)
 {
-    const auto rechaza = [ventana](const QString &motivo, const QString &titulo) {
-        interlocutor().avisa(ventana, Interlocutor::Icono::Exclamacion, motivo, titulo);
-        return false;
-    };
-    if (texto.size() > MaximoDeCaracteres)
-        return rechaza(Traduce(u"Un texto tiene como mucho %1 caracteres."_s)
-                           .arg(formatoEntero(MaximoDeCaracteres)),
-                       Traduce(u"Texto demasiado largo"_s));
-    if (const auto motivo = caracterInadmisible(texto))
-        return rechaza(*motivo, Traduce(u"Carácter no admitido"_s));
-    return true;
+    const auto motivo = texto.size() > MaximoDeCaracteres
+                            ? Traduce(u"Un texto tiene como mucho %1 caracteres."_s)
+                                  .arg(formatoEntero(MaximoDeCaracteres))
+                            : caracterInadmisible(texto);
+    if (motivo)
+        muestraVeredicto(rotulo, false, *motivo);
+    return !motivo;
 }
 
 QString abreviaNumeros(const QString &texto)

@@ -5,7 +5,7 @@
 
 class BotonDeCorrida;
 class QAbstractButton;
-class QWidget;
+class QLabel;
 
 /// What the topics of the lesson share.
 
@@ -13,8 +13,8 @@ class QWidget;
 /// run is on it says "Detener", with `consejo` as its tooltip, until the run has returned.
 BotonDeCorrida *corridaDe(QAbstractButton *boton, const QString &imagen, const QString &consejo);
 
-/// Whether a text can be encrypted; a message box on the window says why not.
-bool seCodifica(QWidget *ventana, const QString &texto);
+/// Whether a text can be encrypted; the label says why not.
+bool seCodifica(QLabel *rotulo, const QString &texto);
 
 /// A sentence in which every number of more than 90 digits shows its first and last digits only and
 /// how many there are, so that it fits a message box.

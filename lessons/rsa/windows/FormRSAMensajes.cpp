@@ -6,6 +6,7 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Interlocutor.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
@@ -166,8 +167,8 @@ Tarea<> FormRSAMensajes::revisa()
         const auto marcha = m_revisar->empieza(m_tareas.billete());
         const RevisionDeBuzon revision = co_await revisaBuzon(buzon, marcha.billete());
         muestraMensajes(revision.mensajes, usuariosDelBuzon(buzon));
-        ui->lblEstadoBuzon->setText(
-            estadoDeRevision(revision.ilegibles, marcha.billete().detenida()));
+        muestraNeutro(ui->lblEstadoBuzon,
+                      estadoDeRevision(revision.ilegibles, marcha.billete().detenida()));
     } catch (const ErrorEjecucion &) {
         muestraMensajes({}, {});
         Q_EMIT buzonPerdido();
@@ -249,7 +250,8 @@ Tarea<> FormRSAMensajes::enviar_Click()
     const QString texto = m_redaccion.texto();
     const QString asunto = m_redaccion.asunto();
     const QString destinatario = m_destinatario.usuario();
-    if (esRepetido(destinatario, asunto) || !seCodifica(this, texto) || !seCodifica(this, asunto))
+    if (esRepetido(destinatario, asunto) || !seCodifica(ui->lblEstadoBuzon, texto) ||
+        !seCodifica(ui->lblEstadoBuzon, asunto))
         co_return;
     m_destinatario.actualiza();
     const bool seEnvia = co_await confirmaSinClave(destinatario);
@@ -281,8 +283,8 @@ void FormRSAMensajes::cuentaEnvio(const clsMensaje &mensaje)
     const QString estado =
         mensaje.MensajeOK() ? Traduce(u"Mensaje enviado a %1 (%2). Para verlo, pulse «Revisar»."_s)
                             : Traduce(u"El mensaje a %1 ha salido sin texto (%2)"_s);
-    ui->lblEstadoBuzon->setText(
-        estado.arg(mensaje.Destinatario(), mensaje.NombreFichero().section(u'\\', -1)));
+    muestraNeutro(ui->lblEstadoBuzon,
+                  estado.arg(mensaje.Destinatario(), mensaje.NombreFichero().section(u'\\', -1)));
 }
 
 Tarea<> FormRSAMensajes::recibir_Click()
@@ -292,9 +294,8 @@ Tarea<> FormRSAMensajes::recibir_Click()
     const QString clave = m_lista.claveElegida();
     const auto mensaje = m_mensajes.Item(clave);
     if (!mensaje) {
-        interlocutor().avisa(this, Interlocutor::Icono::Informacion,
-                             Traduce(u"Elija primero un mensaje de la lista."_s),
-                             Traduce(u"Recibir el mensaje"_s));
+        muestraVeredicto(ui->lblEstadoBuzon, false,
+                         Traduce(u"Elija primero un mensaje de la lista."_s));
         co_return;
     }
     const auto marcha = m_recibir->empieza(m_tareas.billete());

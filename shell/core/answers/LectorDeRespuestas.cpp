@@ -7,6 +7,7 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/answers/PalabraRespondida.h"
 
 #include <QMap>
 #include <QRegularExpression>
@@ -121,11 +122,16 @@ QString enParentesis(const QStringList &numeros)
     return u'(' + numeros.join(u"; "_s) + u')';
 }
 
+/// Blanks between digits group them, where they cannot part numbers.
+QString sinBlancosDeGrupo(QString texto)
+{
+    static const QRegularExpression blancos(u"(?<=\\d)\\s+(?=\\d{3}(?!\\d))"_s);
+    return texto.remove(blancos);
+}
+
 RespuestaLeida leeUno(const QString &expresion, const QString &texto)
 {
-    // Blanks between digits group them, where one number alone is asked for.
-    static const QRegularExpression blancos(u"(?<=\\d)\\s+(?=\\d{3}(?!\\d))"_s);
-    const auto valor = entero(QString(expresion).remove(blancos));
+    const auto valor = entero(sinBlancosDeGrupo(expresion));
     constexpr qsizetype Enteras = 24;
     if (valor && valor->size() <= Enteras)
         return leida({*valor}, *valor);
@@ -190,7 +196,7 @@ RespuestaLeida leeSuma(const QString &expresion)
             sumando += c;
             continue;
         }
-        const auto valor = entero(sumando);
+        const auto valor = entero(sinBlancosDeGrupo(sumando));
         if (!valor || numeros.size() == MasNumeros)
             return noEntendida(sumando.trimmed());
         numeros << *valor;
@@ -211,6 +217,8 @@ RespuestaLeida leeProducto(const QString &expresion)
         u"^\\s*\\(?\\s*(\\d+)\\s*(?:\\^\\s*(\\d{1,6}))?\\s*\\)?\\s*$"_s);
     QMap<QString, qint64> exponentes;
     for (const QString &tramo : expresion.split(entreFactores)) {
+        if (tramo.trimmed().isEmpty()) // a sign without a factor behind it
+            return noEntendida(expresion.trimmed());
         for (const QString &factor : partesSueltas(tramo)) {
             const auto hallada = potencia.match(factor);
             if (!hallada.hasMatch())
@@ -234,52 +242,76 @@ RespuestaLeida leeProducto(const QString &expresion)
     return leida(numeros, escritos.join(u" · "_s));
 }
 
-/// The beginning and the step of "3 + 5k" or "3 − 5·k", whatever the letter is.
+/// What an expression in K is worth where K is that number.
+std::optional<QString> con(QString expresion, const QString &k)
+{
+    return entero(expresion.replace(u'K', u'(' + k + u')'));
+}
+
+/// The beginning and the step of "3 + 5k" or "3 − 5·k", whatever the letter is; nothing of what is
+/// no line, as "3 + 5k²".
 std::optional<QStringList> rectaDe(QString lado)
 {
-    static const QRegularExpression letra(u"\\*?\\s*[ktnmsλ]\\b\\s*\\*?"_s);
-    lado.replace(letra, u"*K"_s);
-    const auto en = [&](const QString &k) {
-        QString expresion = lado;
-        expresion.replace(u"+*K"_s, u"+1*K"_s).replace(u"-*K"_s, u"-1*K"_s);
-        if (expresion.startsWith(u"*K"_s))
-            expresion.prepend(u'1');
-        return entero(expresion.replace(u'K', k));
-    };
-    lado.remove(u' ');
-    const auto cero = en(u"(0)"_s);
-    const auto uno = en(u"(1)"_s);
+    static const QRegularExpression letra(u"\\*?\\s*[ktnmsλ]\\b\\s*\\*?"_s,
+                                          QRegularExpression::UseUnicodePropertiesOption |
+                                              QRegularExpression::CaseInsensitiveOption);
+    lado.replace(letra, u"*K"_s).remove(u' ');
+    lado.replace(u"+*K"_s, u"+1*K"_s).replace(u"-*K"_s, u"-1*K"_s).replace(u"(*K"_s, u"(1*K"_s);
+    if (lado.startsWith(u"*K"_s))
+        lado.prepend(u'1');
+    const auto cero = con(lado, u"0"_s), uno = con(lado, u"1"_s);
     if (!cero || !uno)
         return {};
-    return QStringList{*cero, entero(u"(%1)-(%2)"_s.arg(*uno, *cero)).value_or(u"0"_s)};
+    const QString paso = entero(u"(%1)-(%2)"_s.arg(*uno, *cero)).value_or(u"0"_s);
+    for (const QString &k : {u"-1"_s, u"2"_s, u"7"_s}) {
+        if (con(lado, k) != entero(u"(%1)+(%2)*(%3)"_s.arg(*cero, paso, k)))
+            return {};
+    }
+    return QStringList{*cero, paso};
+}
+
+/// "x = … y = …" parted by a comma, whatever stands between them.
+QString conComaEntreIncognitas(QString texto)
+{
+    static const QRegularExpression entre(u"[\\s,;]+(?:(?:e|y|and)\\s+)?(?=[xyXY]\\s*=)"_s);
+    return texto.replace(entre, u", "_s);
 }
 
 RespuestaLeida leeSolucion(const QString &expresion)
 {
     QStringList numeros;
-    for (QString lado : partesDeLista(expresion)) {
+    QString primera;
+    for (const QString &lado : partesDeLista(conComaEntreIncognitas(expresion))) {
         const qsizetype igual = lado.indexOf(u'=');
-        const auto recta = rectaDe(igual < 0 ? lado : lado.sliced(igual + 1));
+        const auto recta = rectaDe(lado.sliced(igual + 1));
         if (!recta)
             return noEntendida(lado.trimmed());
+        if (numeros.isEmpty())
+            primera = lado.first(std::max<qsizetype>(igual, 0)).trimmed().toLower();
         numeros << *recta;
     }
     if (numeros.size() != 4)
         return noEntendida(expresion.trimmed());
+    if (primera == u"y")
+        numeros = numeros.sliced(2) + numeros.first(2);
     return leida(numeros, u"x = %1 + (%2)k, y = %3 + (%4)k"_s.arg(numeros[0], numeros[1],
                                                                   numeros[2], numeros[3]));
 }
 
 RespuestaLeida leeFraccion(const QString &expresion, const QString &texto)
 {
-    static const QRegularExpression fraccion(u"^([+-]?\\d+)(?:\\s*/\\s*(\\d+)|[.,](\\d+))?$"_s);
-    const auto hallada = fraccion.match(expresion);
-    const QString decimales = hallada.captured(3);
-    const auto arriba = entero(hallada.captured(1) + decimales);
+    static const QRegularExpression fraccion(
+        u"^([+-]?)\\s*\\(?\\s*([+-]?)\\s*\\(?\\s*(\\d+)\\s*\\)?(?:\\s*/\\s*\\(?\\s*(\\d+)\\s*\\)?|[.,](\\d+))?\\s*\\)?$"_s);
+    const QString sinGrupos = sinBlancosDeGrupo(expresion);
+    const auto hallada = fraccion.match(sinGrupos);
+    const bool cuadra = hallada.hasMatch() && sinGrupos.count(u'(') == sinGrupos.count(u')');
+    const bool menos = (hallada.captured(1) == u"-") != (hallada.captured(2) == u"-");
+    const QString decimales = hallada.captured(5);
+    const auto arriba = entero((menos ? u"-"_s : QString()) + hallada.captured(3) + decimales);
     const auto abajo =
-        decimales.isEmpty() ? entero(hallada.captured(2)) : u'1' + QString(decimales.size(), u'0');
-    if (hallada.hasMatch() && arriba && abajo != u"0"_s)
-        return leida({*arriba, abajo.value_or(u"1"_s)}, expresion);
+        decimales.isEmpty() ? entero(hallada.captured(4)) : u'1' + QString(decimales.size(), u'0');
+    if (cuadra && arriba && abajo != u"0"_s)
+        return leida({*arriba, abajo.value_or(u"1"_s)}, sinGrupos);
     // What has a value but is not written as one is left to be computed: the question itself.
     if (falloDeExpresion(expresion).clase == FalloDeExpresion::Clase::Ninguno)
         return {RespuestaLeida::EsLaPregunta, {}, {}, Traduce(u"eso es la pregunta"_s)};
@@ -299,17 +331,6 @@ RespuestaLeida leeFormulaDeCelda(const QString &expresion, const QString &texto)
         formula.replace(hallada.capturedStart(), 1, hallada.captured().at(0).toUpper());
     }
     return leida({formula}, formula);
-}
-
-/// Small letters without accents, and raised ones lowered: "Si" for "sí", "n^2" for "n²".
-QString llana(const QString &palabra)
-{
-    QString letras;
-    for (const QChar c : palabra.toLower().normalized(QString::NormalizationForm_KD)) {
-        if (c.isLetterOrNumber() || c == u'!')
-            letras += c;
-    }
-    return letras;
 }
 
 RespuestaLeida leeSegun(const FormaDeRespuesta &forma, const QString &texto)
@@ -360,9 +381,8 @@ RespuestaLeida leeRespuesta(const QString &texto, const FormaDeRespuesta &forma)
         return {};
     if (texto.size() > MasLetras)
         return noEntendida(texto.left(20) + u'…');
-    for (const QString &palabra : forma.palabras) {
-        if (llana(texto) == llana(palabra) || llana(texto) == llana(Traduce(palabra)))
-            return {RespuestaLeida::Leida, {}, palabra, Traduce(u"leo %1"_s).arg(Traduce(palabra))};
-    }
+    const QString palabra = palabraRespondida(texto, forma.palabras);
+    if (!palabra.isEmpty())
+        return {RespuestaLeida::Leida, {}, palabra, Traduce(u"leo %1"_s).arg(Traduce(palabra))};
     return leeSegun(forma, texto);
 }

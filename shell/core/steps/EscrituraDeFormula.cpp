@@ -121,6 +121,8 @@ class EnTexto final : public Escritura
             return u'⌈' + partes(n) + u'⌉';
         if (n.texto == u"abs"_s)
             return u'|' + partes(n) + u'|';
+        if (n.texto == u"factorial"_s)
+            return agrupada(n.partes.front()) + u'!';
         return (n.texto == u"sqrt"_s ? u"√"_s : n.texto) + entreParentesis(partes(n));
     }
     QString modulo(const Nodo &m) const override { return u" (mod %1)"_s.arg(nodo(m)); }
@@ -178,6 +180,8 @@ class EnLatex final : public Escritura
             return u"\\left\\lceil %1 \\right\\rceil"_s.arg(partes(n));
         if (n.texto == u"abs"_s)
             return u"\\left| %1 \\right|"_s.arg(partes(n));
+        if (n.texto == u"factorial"_s)
+            return (esSimple(n.partes.front()) ? partes(n) : entreParentesis(partes(n))) + u'!';
         const QString nombre =
             n.texto.size() > 1 ? u"\\operatorname{%1}"_s.arg(n.texto) : letra(n.texto);
         return nombre + entreParentesis(partes(n));

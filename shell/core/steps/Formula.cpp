@@ -238,8 +238,12 @@ bool llevaParentesis(const NodoDeFormula &nodo, std::size_t i)
         return false;
     const bool suma =
         parte.clase == Nodo::Operacion && (parte.texto == u"+" || parte.texto == u"-");
+    // Of products and remainders the left one comes first.
+    const bool trasResto = i == 1 && parte.clase == Nodo::Operacion &&
+                           ((nodo.texto == u"mod" && parte.texto == u"*") ||
+                            (nodo.texto != u"+" && nodo.texto != u"-" && parte.texto == u"mod"));
     const bool enSuma = nodo.texto == u"+" || (nodo.texto == u"-" && i == 0);
-    return (suma && !enSuma) ||
+    return (suma && !enSuma) || trasResto ||
            (parte.clase == Nodo::Opuesto && (i == 1 || nodo.clase == Nodo::Opuesto));
 }
 

@@ -41,8 +41,8 @@ bool llevaParentesis(const NodoDeFormula &nodo, std::size_t i);
 /// Relations are = != < > <= >= ~ (about) == (congruent, with "(mod m)" behind) | (divides) and !|.
 /// `*` is the point between factors, `/` a fraction of what stands before it in the product, `mod`
 /// the remainder. Braces group without being seen: `23*{240/2}`. Functions have their name directly
-/// before the bracket; sqrt, floor, ceil and abs are drawn as such. Greek names may be written as
-/// they are (φ, λ). "Words" stand between quotes, and ... for what is left out.
+/// before the bracket; sqrt, floor, ceil, abs and factorial are drawn as such. Greek names may be
+/// written as they are (φ, λ). "Words" stand between quotes, and ... for what is left out.
 class Formula
 {
 public:

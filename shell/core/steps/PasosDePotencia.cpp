@@ -88,6 +88,12 @@ Paso primerBit(const Potenciacion &p)
             {congruencia(p.reducida.texto() + u"^1"_s, p.reducida, p.modulo)}};
 }
 
+QString reglaDelBit()
+{
+    return Traduce(u"Un bit más dobla el exponente y le suma el bit: "
+                   "a^(2e) = (a^e)² y a^(2e+1) = (a^e)²·a."_s);
+}
+
 Paso otroBit(const Potenciacion &p, qsizetype i)
 {
     const bool uno = p.bits[i] == u'1';
@@ -105,8 +111,7 @@ Paso otroBit(const Potenciacion &p, qsizetype i)
     paso.formulas << congruencia(p.reducida.texto() + u"^%1"_s.arg(ahora.texto()), resultado,
                                  p.modulo);
     if (i == 1)
-        paso.regla = Traduce(u"Un bit más dobla el exponente y le suma el bit: "
-                             "a^(2e) = (a^e)² y a^(2e+1) = (a^e)²·a."_s);
+        paso.regla = reglaDelBit();
     return paso;
 }
 
@@ -133,10 +138,12 @@ Paso conclusion(const Potenciacion &p)
     Paso paso{
         Traduce(u"El resultado es %1."_s).arg(resultado.texto()),
         {congruencia(p.base.trasSigno() + u"^%1"_s.arg(p.exponente.texto()), resultado, p.modulo)}};
-    if (p.exponente > 0 && p.bits.size() <= MasFilas)
-        paso.tabla = tablaDeBits(p);
-    else if (p.exponente == 0)
+    if (p.exponente == 0)
         paso.regla = Traduce(u"La potencia de exponente 0 es 1."_s);
+    if (p.exponente > 0 && p.bits.size() <= MasFilas) {
+        paso.tabla = tablaDeBits(p);
+        paso.regla = reglaDelBit();
+    }
     return paso;
 }
 

@@ -5,7 +5,20 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/core/answers/LectorDeRespuestas.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Tables may pad a number, as the codes of characters are; answers never are.
+QString sinCeros(QString numero)
+{
+    static const QRegularExpression ceros(u"^(-?)0+(?=[0-9])"_s);
+    return numero.replace(ceros, u"\\1"_s);
+}
+
+} // namespace
 
 TablaConHuecos::TablaConHuecos(const QStringList &cabecera, const QList<QStringList> &filas,
                                PorQue porQue)
@@ -100,7 +113,7 @@ TablaConHuecos::Estado TablaConHuecos::responde(qsizetype fila, qsizetype column
     if (leida.estado != RespuestaLeida::Leida) {
         celda.estado = Estado::Oculta;
         celda.veredicto = leida.leo;
-    } else if (leida.numeros.constFirst() == celda.numero) {
+    } else if (leida.numeros.constFirst() == sinCeros(celda.numero)) {
         celda.estado = Estado::Acertada;
         celda.veredicto = Traduce(u"Correcto: ahí va %1."_s).arg(celda.numero);
     } else {

@@ -22,8 +22,8 @@ public:
     using PorQue = std::function<QString(qsizetype fila, qsizetype columna)>;
 
     TablaConHuecos() = default;
-    /// Cells are decimal digits, or empty where there is nothing to fill in. `porQue` holds what it
-    /// needs by value.
+    /// Cells are decimal digits, or empty where there is nothing to fill in; other texts must be
+    /// fixed. `porQue` holds what it needs by value.
     TablaConHuecos(const QStringList &cabecera, const QList<QStringList> &filas, PorQue porQue);
 
     /// A cell that was given and stays in sight.

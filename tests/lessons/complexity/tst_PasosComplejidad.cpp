@@ -59,7 +59,7 @@ void tst_PasosComplejidad::llamadas()
             [conMemoria](QRandomGenerator &azar) {
                 return pasosDeLlamadas(azar.bounded(81), conMemoria);
             },
-            5000);
+            Sorteos / 2);
     }
 }
 

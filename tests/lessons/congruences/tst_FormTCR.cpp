@@ -109,10 +109,8 @@ private Q_SLOTS:
         escribe({u"2"_s, u"3"_s, u"1"_s, u"0"_s});
         for (QPushButton *boton : {m_resuelve, m_comprueba}) {
             boton->click();
-            const auto mensaje = Entorno::grabadora().unico();
-            QCOMPARE(mensaje.titulo, u"Sistema no válido"_s);
-            QCOMPARE(mensaje.texto,
-                     u"Fila 2: El módulo tiene que ser un número entero mayor que 0."_s);
+            QCOMPARE(el<QLabel>(u"lblAviso"_s)->text(),
+                     u"✗ Fila 2: El módulo tiene que ser un número entero mayor que 0."_s);
             QCOMPARE(m_rejilla->currentIndex(), celda(1, 1));
         }
         QCOMPARE(m_solucion->text(), QString());

@@ -27,7 +27,7 @@ private Q_SLOTS:
             revisa(pasosDelTCR(sistema), resolucion);
             contradictorios += resolucion.desenlace == Resolucion::SinSolucion ? 1 : 0;
         }
-        QVERIFY(contradictorios > 1000 && contradictorios < 9000);
+        QVERIFY(contradictorios > Sorteos / 10 && contradictorios < 9 * (Sorteos / 10));
     }
 
     void bordes_data()

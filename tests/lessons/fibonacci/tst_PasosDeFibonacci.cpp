@@ -146,7 +146,7 @@ void tst_PasosDeFibonacci::identidades()
             const int mayor = azar.bounded(4) == 0 ? 300 : 12;
             return pasosDeIdentidad(fila, azar.bounded(1, mayor), azar.bounded(1, mayor));
         },
-        2000, 1);
+        Sorteos / 5, 1);
 }
 
 void tst_PasosDeFibonacci::tirasDibujadas_data()

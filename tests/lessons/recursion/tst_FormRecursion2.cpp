@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/recursion/modular/windows/FormRecursion2.h"
 #include "shell/controls/Dibujo.h"
+#include "shell/look/Aspecto.h"
 #include "shell/plot/Grafica.h"
 #include "shell/steps/PanelDePasos.h"
 #include "tests/Tabla.h"
@@ -198,6 +199,7 @@ private Q_SLOTS:
 
     void eureka()
     {
+        Aspecto::ponMovimientoReducido(false);
         auto *temas = el<QTabBar>(u"tsTema"_s);
         temas->setCurrentIndex(1);
         m_ventana->show();

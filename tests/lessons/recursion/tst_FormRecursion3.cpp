@@ -3,6 +3,7 @@
 #include "shell/controls/CampoLargo.h"
 #include "shell/controls/Dibujo.h"
 #include "shell/grid/Rejilla.h"
+#include "shell/look/Aspecto.h"
 #include "shell/plot/Grafica.h"
 #include "shell/steps/PanelDePasos.h"
 #include "tests/Tabla.h"
@@ -176,7 +177,7 @@ private Q_SLOTS:
         corre(u"cmdCap"_s);
         QCOMPARE(resultado->text(), u"8813200023188"_s);
         QCOMPARE(resultado->palette().color(QPalette::Text), resalte);
-        QVERIFY(aviso->text().startsWith(u"El valor inicial no es una expresión"_s));
+        QVERIFY(aviso->text().startsWith(u"✗ El valor inicial no es una expresión"_s));
         largo(u"TxtCapInicial"_s)->setText(u"mod 2"_s);
         QCOMPARE(aviso->text(), QString());
         corre(u"cmdCap"_s);
@@ -280,6 +281,7 @@ private Q_SLOTS:
     /// then the timer and the gear.
     void duranteAckermann()
     {
+        Aspecto::ponMovimientoReducido(false);
         prepara(u"cmdAck"_s, u"2"_s);
         const auto *rueda = control<Dibujo>(m_ventana, u"imgAck"_s);
         boton(u"cmdAck"_s)->click();

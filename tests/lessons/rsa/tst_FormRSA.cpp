@@ -101,7 +101,8 @@ private Q_SLOTS:
         QVERIFY(boton(u"cmdCodificar"_s)->isEnabled());
         area(u"txtTextoOriginal"_s)->setPlainText(u"a"_s);
         pulsa(u"cmdCodificar"_s);
-        QCOMPARE(Entorno::grabadora().unico().titulo, u"Tamaño de la palabra"_s);
+        QCOMPARE(rotulo(u"lblEstadoCodigo"_s),
+                 u"✗ Cada paquete ha de tener al menos un carácter."_s);
     }
 
     void elNumeroDeBits()
@@ -148,7 +149,7 @@ private Q_SLOTS:
         QCOMPARE(area(u"txtTextoOriginal"_s)->toPlainText(), u"HOLA"_s);
         area(u"txtTextoOriginal"_s)->setPlainText(u"Γειά"_s);
         pulsa(u"cmdCodificar"_s);
-        QCOMPARE(Entorno::grabadora().unico().titulo, u"Carácter no admitido"_s);
+        QVERIFY(rotulo(u"lblEstadoCodigo"_s).startsWith(u"✗ "_s));
         QCOMPARE(rejilla->model()->rowCount(), 4);
     }
 

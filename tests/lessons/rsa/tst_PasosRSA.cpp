@@ -36,7 +36,7 @@ private Q_SLOTS:
     void ataquesAlAzar()
     {
         QRandomGenerator azar(7);
-        for (int vez = 0; vez < 600; ++vez) {
+        for (int vez = 0; vez < Sorteos; ++vez) {
             const auto ataque = Ataque(vez % 5);
             const ClaveEnCifras clave = alAzar(azar, azar.bounded(1, 3));
             const auto resultado = revisado(ataque, clave);

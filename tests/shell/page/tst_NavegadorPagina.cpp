@@ -164,6 +164,20 @@ private Q_SLOTS:
         QCOMPARE(cuenta->text(), u"No está en la página"_s);
         QTest::keyClick(campo, Qt::Key_Escape);
         QVERIFY(!campo->isVisible() && texto(entera).contains(u"▾ Paso"_s));
+
+        QKeyEvent deOtro(QEvent::ShortcutOverride, Qt::Key_P,
+                         Qt::ControlModifier | Qt::ShiftModifier);
+        deOtro.ignore();
+        QCoreApplication::sendEvent(&entera, &deOtro);
+        QVERIFY(!deOtro.isAccepted());
+
+        QWidget ventana; // where the keyboard is beside the page
+        QLineEdit fuera(&ventana);
+        PaginaDeLeccion dentro(&ventana);
+        ventana.show();
+        QVERIFY(QTest::qWaitForWindowActive(&ventana));
+        QTest::keyClick(&fuera, Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(control<QLineEdit>(&dentro, u"txtBuscar"_s)->isVisible());
     }
 
     void sePreguntaYSeImprime()

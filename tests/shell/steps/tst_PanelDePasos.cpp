@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/ModGlobal.h"
+#include "shell/core/steps/PasosDePotencia.h"
 #include "shell/steps/FormulaCompuesta.h"
 #include "shell/steps/PanelDePasos.h"
 #include "shell/steps/SeparadorDePasos.h"
+#include "shell/steps/TablaPorRellenar.h"
 #include "tests/shell/support/Entorno.h"
 
 /// The panel of steps as a student uses it.
@@ -22,6 +24,8 @@ private Q_SLOTS:
     void alLadoODebajo();
     void unaFormulaAnchaSeParte();
     void otroAnchoOtrasLineas();
+    void sePredicenLosBitsDeUnaPotencia();
+    void predecirAcabaConSuPaso();
 
 private:
     struct Panel : PanelDePasos
@@ -31,7 +35,23 @@ private:
         int vistos() const { return lista()->model()->rowCount(); }
         int actual() const { return lista()->currentIndex().row(); }
         void pulsa(const QString &boton) const { control<QToolButton>(this, boton)->click(); }
+        bool ofrecePredecir() const
+        {
+            return control<QWidget>(this, u"cmdPredecir"_s)->isVisible();
+        }
+        TablaPorRellenar *huecos() const { return findChild<TablaPorRellenar *>(); }
+        /// Shows the last step, and hides all of its table.
+        void predice() const
+        {
+            while (control<QToolButton>(this, u"cmdPasoSiguiente"_s)->isEnabled())
+                pulsa(u"cmdPasoSiguiente"_s);
+            pulsa(u"cmdPredecir"_s);
+            pulsa(u"cmdOcultarTodas"_s);
+        }
     };
+
+    /// Five steps, the last one with a table of ten numbers and two empty cells.
+    static Pasos potencia() { return pasosDePotencia(u"7"_s, u"5"_s, u"13"_s); }
 
     static Pasos cuantos(qsizetype n)
     {
@@ -206,6 +226,72 @@ void tst_PanelDePasos::otroAnchoOtrasLineas()
     QTRY_VERIFY(alto() > 0 && alto() < seisLineas);
     panel.resize(300, 500);
     QTRY_VERIFY(alto() > seisLineas);
+}
+
+void tst_PanelDePasos::sePredicenLosBitsDeUnaPotencia()
+{
+    Panel panel;
+    panel.pon(potencia());
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowActive(&panel));
+    QVERIFY(!panel.ofrecePredecir());
+    panel.predice();
+    QVERIFY(panel.ofrecePredecir() && !panel.lista()->isVisible());
+    QCOMPARE(panel.huecos()->tabla().pendientes(), 10);
+    auto *rejilla = control<QTableView>(&panel, u"FlexHuecos"_s);
+    const auto *veredicto = control<QLabel>(&panel, u"lblVeredictoDeCasilla"_s);
+    const auto celda = [rejilla](int fila, int columna) {
+        return rejilla->model()->index(fila, columna).data().toString();
+    };
+    const auto escribe = [rejilla](int fila, int columna, const QString &respuesta) {
+        rejilla->setCurrentIndex(rejilla->model()->index(fila, columna));
+        rejilla->setFocus();
+        QTest::keyClick(rejilla, Qt::Key_F2);
+        QTest::keyClicks(QApplication::focusWidget(), respuesta);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    };
+    escribe(2, 3, u"9"_s);
+    QTRY_COMPARE(celda(2, 3), u"✗ 9"_s);
+    QTRY_VERIFY(veredicto->text().contains(u"Ahí no va 9"_s));
+    panel.pulsa(u"cmdPorQue"_s);
+    QVERIFY(veredicto->text().contains(u"(a^e)²·a"_s));
+    const QList<QStringList> filas = potencia().paso(4).tabla.filas;
+    QCOMPARE(filas.back(), QStringList({u"1"_s, u"5"_s, u"9"_s, u"11"_s}));
+    for (int i = 0; i < filas.size(); ++i) {
+        for (int j = 0; j < filas[i].size(); ++j) {
+            if (filas[i][j].isEmpty() || (i == 2 && j == 3))
+                continue;
+            escribe(i, j, filas[i][j]);
+            QTRY_COMPARE(celda(i, j), u"✓ "_s + filas[i][j]);
+        }
+    }
+    QCOMPARE(panel.huecos()->tabla().pendientes(), 1);
+}
+
+void tst_PanelDePasos::predecirAcabaConSuPaso()
+{
+    Panel panel;
+    panel.pon(potencia());
+    panel.show();
+    QVERIFY(!panel.huecos());
+    panel.predice();
+    panel.pulsa(u"cmdTodosLosPasos"_s);
+    QCOMPARE(panel.huecos()->tabla().pendientes(), 10);
+    panel.pulsa(u"cmdPasoAnterior"_s);
+    QVERIFY(!panel.ofrecePredecir() && panel.lista()->isVisible());
+    QVERIFY(!panel.huecos()->isVisible());
+    panel.predice();
+    panel.pon(cuantos(1));
+    QVERIFY(!panel.ofrecePredecir() && panel.lista()->isVisible());
+    panel.pon(Pasos(2, [](qsizetype i) {
+        return Paso{u"tabla"_s, {}, {}, {{u"n"_s}, {{QString::number(i)}, {u"n − 1"_s}, {}}}};
+    }));
+    panel.pulsa(u"cmdPredecir"_s);
+    panel.pulsa(u"cmdPasoSiguiente"_s);
+    QVERIFY(panel.huecos()->isVisible());
+    QCOMPARE(panel.huecos()->tabla().texto(0, 0), u"1"_s);
+    panel.pulsa(u"cmdPredecir"_s);
+    QVERIFY(panel.lista()->isVisible() && !panel.huecos()->isVisible());
 }
 
 NUMORA_TEST_MAIN(tst_PanelDePasos)

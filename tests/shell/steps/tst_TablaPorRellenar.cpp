@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/ModGlobal.h"
+#include "shell/core/steps/HuecosDePaso.h"
 #include "shell/grid/Rejilla.h"
 #include "shell/steps/ModeloDeHuecos.h"
 #include "shell/steps/TablaPorRellenar.h"
@@ -85,6 +86,23 @@ private Q_SLOTS:
         m_rejilla->setCurrentIndex(celda(1, 0));
         pulsa(u"cmdPorQue"_s);
         QCOMPARE(veredicto(), u"porque 1,0"_s);
+    }
+
+    /// What is no whole number was given; a number that the table pads is answered without.
+    void laTablaDeUnPaso()
+    {
+        Paso paso{u"A y −3"_s, {}, {}, {{u"Carácter"_s, u"Código"_s}, {{u"A"_s, u"065"_s}}}};
+        paso.tabla.filas << QStringList{u"…"_s, u"−3"_s, u"más"_s} << QStringList{u"n − 1"_s};
+        TablaConHuecos tabla = huecosDePaso(paso);
+        tabla.ocultaTodas();
+        QCOMPARE(tabla.pendientes(), 2);
+        QCOMPARE(tabla.responde(0, 1, u"65"_s), TablaConHuecos::Estado::Acertada);
+        QCOMPARE(tabla.responde(1, 1, u"3"_s), TablaConHuecos::Estado::Fallada);
+        QCOMPARE(tabla.responde(1, 1, u"-3"_s), TablaConHuecos::Estado::Acertada);
+        QCOMPARE(tabla.porQue(1, 1), paso.frase);
+        QVERIFY(sePuedePredecir(paso) && !sePuedePredecir({paso.frase}));
+        paso.tabla.filas = {{u"n − 1"_s, u"·"_s, u"7"_s}};
+        QVERIFY(!sePuedePredecir(paso));
     }
 
 private:

@@ -25,12 +25,14 @@ mpz_class suelo(const mpq_class &q)
     return r;
 }
 
+/// Euclid's: never negative, whatever the sign of m.
 mpz_class resto(const mpz_class &a, const mpz_class &m)
 {
     if (m == 0)
         throw std::domain_error("a remainder by 0");
+    const mpz_class divisor = abs(m);
     mpz_class r;
-    mpz_fdiv_r(r.get_mpz_t(), a.get_mpz_t(), m.get_mpz_t());
+    mpz_fdiv_r(r.get_mpz_t(), a.get_mpz_t(), divisor.get_mpz_t());
     return r;
 }
 

@@ -7,6 +7,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/Interlocutor.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "ui_FormRecursion3Ackermann.h"
@@ -141,7 +142,7 @@ void FormRecursion3Ackermann::muestraFin(Ack::Llamada llamada, std::int32_t valo
         interlocutor().avisa(this, Interlocutor::Icono::Exclamacion,
                              Traduce(u"Demasiados cálculos."_s), Traduce(u"Me rindo"_s));
     }
-    ui->lblResultado->setText(textoDeValor(llamada, valor));
+    muestraNeutro(ui->lblResultado, textoDeValor(llamada, valor));
     vaACelda(llamada);
 }
 
@@ -178,7 +179,8 @@ void FormRecursion3Ackermann::vaACelda(Ack::Llamada llamada)
 
 void FormRecursion3Ackermann::TimerAck_Timer()
 {
-    m_fotograma = (m_fotograma + 1) % NumFotogramas;
+    if (!Aspecto::movimientoReducido())
+        m_fotograma = (m_fotograma + 1) % NumFotogramas;
     ui->imgAck->setImagen(u"TRABAJANDO%1"_s.arg(m_fotograma));
     ui->lblTiempoAck->setText(formatoTiempo(std::chrono::milliseconds(m_reloj.elapsed())));
 }

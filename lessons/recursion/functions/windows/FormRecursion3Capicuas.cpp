@@ -3,14 +3,17 @@
 
 #include "lessons/recursion/functions/PasosDeCapicua.h"
 #include "lessons/recursion/functions/windows/FormRecursion3PintorDeNumeros.h"
+#include "shell/access/Anuncio.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCorrida.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "ui_FormRecursion3Capicuas.h"
 
 #include <QHeaderView>
+#include <QTextEdit>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -70,7 +73,7 @@ void FormRecursion3Capicuas::TxtCapInicial_Change()
     ui->cmdCap->setEnabled(!ui->TxtCapInicial->text().trimmed().isEmpty());
     // Why a start was refused is no word about another.
     if (m_capicua && m_capicua->numSumas() == 0)
-        ui->lblAvance->clear();
+        muestraNeutro(ui->lblAvance, {});
 }
 
 void FormRecursion3Capicuas::cmdCap_Click()
@@ -87,7 +90,7 @@ void FormRecursion3Capicuas::empieza()
     if (m_corrida->enMarcha())
         return;
     ponColor(QApplication::palette().highlight().color());
-    ui->lblAvance->clear();
+    muestraNeutro(ui->lblAvance, {});
     if (!ui->TxtCapInicial->text().trimmed().isEmpty())
         m_tareas.lanza(corre());
 }
@@ -117,13 +120,35 @@ void FormRecursion3Capicuas::termina()
     ui->TxtCapInicial->setReadOnly(false);
 }
 
-/// The field keeps the ground of the pictures in either theme: its colours are made for it.
 void FormRecursion3Capicuas::ponColor(const QColor &color)
 {
     QPalette colores = QApplication::palette();
-    colores.setColor(QPalette::Base, Aspecto::lienzo());
     colores.setColor(QPalette::Text, color);
     ui->TxtCapFinal->setPalette(colores);
+    ponTira();
+}
+
+/// On a dark ground the digits, whose colours are made for paper, stand on a strip of it.
+void FormRecursion3Capicuas::ponTira()
+{
+    if (!Aspecto::esOscuro()) {
+        ui->TxtCapFinal->setExtraSelections({});
+        return;
+    }
+    QTextEdit::ExtraSelection tira;
+    tira.cursor = QTextCursor(ui->TxtCapFinal->document());
+    tira.cursor.select(QTextCursor::Document);
+    tira.format.setBackground(Qt::white);
+    ui->TxtCapFinal->setExtraSelections({tira});
+}
+
+void FormRecursion3Capicuas::changeEvent(QEvent *suceso)
+{
+    QWidget::changeEvent(suceso);
+    if (suceso->type() != QEvent::PaletteChange)
+        return;
+    const bool hallado = ui->TxtCapFinal->palette().color(QPalette::Text) == ColorDeCapicua;
+    ponColor(hallado ? ColorDeCapicua : QApplication::palette().highlight().color());
 }
 
 void FormRecursion3Capicuas::muestraAvance()
@@ -131,6 +156,7 @@ void FormRecursion3Capicuas::muestraAvance()
     if (m_capicua->numSumas() == 0)
         return;
     ui->TxtCapFinal->setText(m_capicua->actual());
+    ponTira();
     muestraSumas();
     ui->lblAvance->setText(
         Traduce(u"Sumas: %1 · Cifras: %2"_s)
@@ -151,17 +177,20 @@ void FormRecursion3Capicuas::muestraFin(Capicua::Fin fin)
     case Capicua::Fin::Hallado:
         ui->TxtCapFinal->setText(m_capicua->actual());
         ponColor(ColorDeCapicua);
+        anuncia(ui->lblAvance);
         break;
     case Capicua::Fin::SinValor:
-        ui->lblAvance->setText(Traduce(u"El valor inicial no es una expresión que se pueda "
-                                       "calcular, o su resultado pasa de 24575 cifras."_s));
+        rechaza(ui->TxtCapInicial, ui->lblAvance,
+                Traduce(u"El valor inicial no es una expresión que se pueda calcular, o su "
+                        "resultado pasa de 24575 cifras."_s));
         break;
     case Capicua::Fin::Negativo:
-        ui->lblAvance->setText(Traduce(u"El valor inicial es negativo."_s));
+        rechaza(ui->TxtCapInicial, ui->lblAvance, Traduce(u"El valor inicial es negativo."_s));
         break;
     case Capicua::Fin::DemasiadasCifras:
-        ui->lblAvance->setText(Traduce(u"Sumas: %1. El número siguiente tiene demasiadas cifras."_s)
-                                   .arg(formatoEntero(m_capicua->numSumas())));
+        muestraVeredicto(ui->lblAvance, false,
+                         Traduce(u"Sumas: %1. El número siguiente tiene demasiadas cifras."_s)
+                             .arg(formatoEntero(m_capicua->numSumas())));
         break;
     case Capicua::Fin::Detenida:
         break;

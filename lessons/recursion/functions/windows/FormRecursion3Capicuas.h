@@ -30,12 +30,16 @@ Q_SIGNALS:
     /// Why the last result holds; none while there is no result.
     void hayPasos(const Pasos &pasos);
 
+protected:
+    void changeEvent(QEvent *suceso) override;
+
 private:
     void preparaRejilla();
     void empieza();
     Tarea<> corre();
     void termina();
     void ponColor(const QColor &color);
+    void ponTira();
     void muestraAvance();
     void muestraSumas();
     void muestraFin(Capicua::Fin fin);

@@ -4,6 +4,7 @@
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/recursion/functions/PasosDeGranizo.h"
 #include "lessons/recursion/functions/windows/FormRecursion3PintorDeNumeros.h"
+#include "shell/access/Anuncio.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCorrida.h"
@@ -48,6 +49,7 @@ FormRecursion3Hailstone::FormRecursion3Hailstone(std::shared_ptr<Parada> parada,
     conecta(m_corrida, &BotonDeCorrida::terminada, this, &FormRecursion3Hailstone::termina);
     conecta(&m_pantalla, &QTimer::timeout, this, &FormRecursion3Hailstone::muestraAvance);
     conecta(&m_pantallaDeCurva, &QTimer::timeout, this, &FormRecursion3Hailstone::muestraCurva);
+    ui->PicHail->ponEjes(u"n"_s, u"log₁₀ h(n)"_s);
     conecta(ui->PicHail, &Grafica::senalado, this, &FormRecursion3Hailstone::PicHail_Senalado);
 }
 
@@ -168,4 +170,5 @@ void FormRecursion3Hailstone::muestraFin(const QString &inicio, FinDeGranizo fin
     case FinDeGranizo::Detenido:
         break;
     }
+    anuncia(ui->LabelHail->text());
 }

@@ -2,6 +2,7 @@
 #include "lessons/recursion/modular/windows/FormRecursion2Representacion.h"
 
 #include "lessons/recursion/modular/TextoDeDefinicion.h"
+#include "shell/access/Anuncio.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
@@ -38,6 +39,8 @@ FormRecursion2Representacion::FormRecursion2Representacion(QWidget *leccion)
     ui->PicFunción->ponUnida(false);
     ui->PicFunción->ponTextoVacio(
         Traduce(u"Elija un módulo y pulse «Calcular» para ver los 250 primeros valores"_s));
+    ui->PicFunción->ponEjes(u"n"_s, u"f(n)"_s);
+    ui->PicFunción->ponLectura(ui->lblPunto);
     QSizePolicy conSitio = ui->ImgEureka->sizePolicy();
     conSitio.setRetainSizeWhenHidden(true);
     ui->ImgEureka->setSizePolicy(conSitio);
@@ -169,17 +172,20 @@ void FormRecursion2Representacion::muestraPeriodo()
     ui->TxtPeriodo->setText(QString::number(periodo->longitud));
     ui->PicFunción->ponTramo(periodo->inicio, periodo->inicio + periodo->longitud);
     ui->PicFunción->ponPeriodo(periodo->inicio, periodo->longitud);
-    m_fotograma = 0;
-    ui->ImgEureka->setImagen(u"EUREKA0"_s);
+    m_fotograma = Aspecto::movimientoReducido() ? FotogramasDeEureka - 1 : 0;
+    ui->ImgEureka->setImagen(u"EUREKA%1"_s.arg(m_fotograma % NumFotogramas));
     ui->ImgEureka->show();
-    m_timerEureka.start();
+    if (!Aspecto::movimientoReducido())
+        m_timerEureka.start();
+    anuncia(Traduce(u"Periodo: %1, desde %2"_s)
+                .arg(ui->TxtPeriodo->text(), ui->txtInicioPeriodo->text()));
 }
 
 void FormRecursion2Representacion::TimerEureka_Timer()
 {
     ++m_fotograma;
     ui->ImgEureka->setImagen(u"EUREKA%1"_s.arg(m_fotograma % NumFotogramas));
-    if (m_fotograma == FotogramasDeEureka - 1)
+    if (m_fotograma == FotogramasDeEureka - 1 || Aspecto::movimientoReducido())
         m_timerEureka.stop();
 }
 

@@ -6,6 +6,7 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
+#include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Textos.h"
 #include "shell/steps/PanelDePasos.h"
@@ -71,5 +72,6 @@ void FormRecursion2Valores::FlexValores_Click(const QModelIndex &celda)
         return;
     const QString texto = celda.data().toString();
     QApplication::clipboard()->setText(texto);
-    ui->lblCopiado->setText(Traduce(u"Copiado: f(%1) = %2"_s).arg(celda.row() + 1).arg(texto));
+    muestraNeutro(ui->lblCopiado,
+                  Traduce(u"Copiado: f(%1) = %2"_s).arg(celda.row() + 1).arg(texto));
 }
