@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frame/PanelesDeTemas.h"
 
+#include <QLayout>
 #include <QStackedWidget>
 #include <QTabBar>
 
@@ -20,6 +21,13 @@ public:
     {
         const QWidget *frente = currentWidget();
         return frente ? frente->minimumSizeHint().expandedTo(frente->minimumSize()) : QSize();
+    }
+    /// What it needs at that width: a scroll area asks for this, and for what it would like to have
+    /// it would scroll where nothing is cut.
+    int heightForWidth(int ancho) const override
+    {
+        const QLayout *capa = currentWidget() ? currentWidget()->layout() : nullptr;
+        return capa && capa->hasHeightForWidth() ? capa->totalMinimumHeightForWidth(ancho) : -1;
     }
 };
 

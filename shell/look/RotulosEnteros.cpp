@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/look/RotulosEnteros.h"
 
+#include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
+#include <QTabWidget>
 #include <algorithm>
 #include <utility>
 
@@ -107,11 +110,15 @@ public:
 private:
     void ajusta()
     {
+        // A form that asks for more has its reasons.
+        if (m_campo->minimumWidth() != m_ancho)
+            return;
         const QFontMetrics letra = m_campo->fontMetrics();
         const int consejo = letra.boundingRect(m_campo->placeholderText()).width();
         const int menor = LetrasComoPoco * letra.averageCharWidth();
         const int mayor = LetrasComoMucho * letra.averageCharWidth();
-        m_campo->setMinimumWidth(std::clamp(consejo, menor, mayor) + Bordes);
+        m_ancho = std::clamp(consejo, menor, mayor) + Bordes;
+        m_campo->setMinimumWidth(m_ancho);
     }
 
     static constexpr int LetrasComoPoco = 7;
@@ -119,6 +126,45 @@ private:
     static constexpr int Bordes = 14; ///< frame and margins, in pixels
 
     QLineEdit *m_campo;
+    int m_ancho = 0;
+};
+
+class PestanasEnteras : public QObject
+{
+public:
+    explicit PestanasEnteras(QTabWidget *pestanas) : QObject(pestanas), m_pestanas(pestanas)
+    {
+        pestanas->installEventFilter(this);
+        connect(pestanas, &QTabWidget::currentChanged, this, &PestanasEnteras::pide,
+                Qt::QueuedConnection);
+    }
+
+    bool eventFilter(QObject *objeto, QEvent *suceso) override
+    {
+        // Pages behind say nothing when they grow with the type.
+        if (suceso->type() == QEvent::LayoutRequest || suceso->type() == QEvent::FontChange)
+            QMetaObject::invokeMethod(this, &PestanasEnteras::pide, Qt::QueuedConnection);
+        return QObject::eventFilter(objeto, suceso);
+    }
+
+private:
+    void pide() { m_pestanas->updateGeometry(); }
+
+    QTabWidget *m_pestanas;
+};
+
+class ListaEntera : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *lista, QEvent *suceso) override
+    {
+        // The one event at which a list forgets its smallest size.
+        if (suceso->type() == QEvent::FontChange)
+            QCoreApplication::postEvent(lista, new QEvent(QEvent::StyleChange));
+        return QObject::eventFilter(lista, suceso);
+    }
 };
 
 } // namespace
@@ -131,4 +177,14 @@ void mantieneEntero(QLabel *rotulo)
 void mantieneEntero(QLineEdit *campo)
 {
     new CampoEntero(campo);
+}
+
+void mantieneEntera(QComboBox *lista)
+{
+    lista->installEventFilter(new ListaEntera(lista));
+}
+
+void mantieneEnteras(QTabWidget *pestanas)
+{
+    new PestanasEnteras(pestanas);
 }

@@ -71,4 +71,6 @@ void traduceVentana(QWidget *ventana)
         if (suelto && campo->minimumWidth() == 0)
             mantieneEntero(campo);
     }
+    for (QComboBox *lista : ventana->findChildren<QComboBox *>())
+        mantieneEntera(lista);
 }

@@ -123,8 +123,11 @@ private:
             return;
         // What holds others is as large as it needs when they are; what wraps is asked for its
         // text.
-        const bool mirada = control.layout() || control.inherits("QSplitter") ||
-                            control.inherits("QStackedWidget") || (rotulo && rotulo->wordWrap());
+        // A picture or plot shrinks with its place.
+        const bool mirada = control.layout() || control.inherits("Dibujo") ||
+                            control.inherits("ReproductorAVI") || control.inherits("Grafica") ||
+                            control.inherits("QSplitter") || control.inherits("QStackedWidget") ||
+                            (rotulo && rotulo->wordWrap());
         const QSize minimo =
             mirada ? QSize() : control.minimumSizeHint().boundedTo(control.maximumSize());
         const QSize tamano = control.size();

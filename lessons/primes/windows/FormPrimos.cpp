@@ -9,6 +9,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
+#include "shell/look/RotulosEnteros.h"
 
 #include <QTabBar>
 #include <QTabWidget>
@@ -39,6 +40,7 @@ FormPrimos::FormPrimos(QWidget *padre) : FormLeccion(u"Primos.html"_s, padre)
 QWidget *FormPrimos::conExperimento(QWidget *factorizacion)
 {
     auto *fichas = new QTabWidget(this);
+    mantieneEnteras(fichas);
     fichas->setObjectName(u"FichasDeFactorizacion"_s);
     fichas->setDocumentMode(true);
     fichas->setAccessibleName(Traduce(u"Partes de la factorización"_s));

@@ -8,6 +8,7 @@
 #include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
+#include "shell/look/RotulosEnteros.h"
 #include "shell/steps/PanelDePasos.h"
 
 #include <QTabBar>
@@ -31,6 +32,7 @@ FormRecursión3::FormRecursión3(QWidget *padre)
     m_pestanas->setDocumentMode(true);
     m_pestanas->setAccessibleName(Traduce(u"Funciones"_s));
     m_pestanas->tabBar()->setAccessibleName(m_pestanas->accessibleName());
+    mantieneEnteras(m_pestanas);
     agregaFicha(new FormRecursion3Ackermann(parada(), m_pestanas), u"Ackermann"_s);
     agregaFicha(new FormRecursion3Hailstone(parada(), m_pestanas), u"Hailstone"_s);
     agregaFicha(new FormRecursion3Capicuas(parada(), m_pestanas), u"Capicúas"_s);

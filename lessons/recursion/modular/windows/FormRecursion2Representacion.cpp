@@ -41,7 +41,6 @@ FormRecursion2Representacion::FormRecursion2Representacion(QWidget *leccion)
         Traduce(u"Elija un módulo y pulse «Calcular» para ver los 250 primeros valores"_s));
     ui->PicFunción->ponEjes(u"n"_s, u"f(n)"_s);
     ui->PicFunción->ponLectura(ui->lblPunto);
-    ui->TxtMódulo->setMinimumWidth(fontMetrics().horizontalAdvance(u"000000000"_s));
     QSizePolicy conSitio = ui->ImgEureka->sizePolicy();
     conSitio.setRetainSizeWhenHidden(true);
     ui->ImgEureka->setSizePolicy(conSitio);
