@@ -92,8 +92,9 @@ void ReproductorAVI::para()
 {
     m_estado = Parado;
     m_arranque.stop();
+    // To stop it would wait for its threads, a third of a second, with every click waiting too.
     if (m_motor)
-        m_motor->stop();
+        m_motor->pause();
 }
 
 /// A player for each file: handed another one, or the same one again, that of Qt 6.4 may wait for
