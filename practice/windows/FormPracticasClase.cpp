@@ -5,13 +5,13 @@
 #include "shell/core/ModeloFilas.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/Veredicto.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
 #include "ui_FormPracticasClase.h"
 
 #include <QDir>
-#include <QHeaderView>
 #include <QSignalBlocker>
 
 using namespace Qt::Literals::StringLiterals;
@@ -24,11 +24,12 @@ void rellena(Rejilla *rejilla, const QStringList &cabeceras, const QList<QString
 {
     auto *modelo = new ModeloFilas(cabeceras, rejilla);
     modelo->ponColumnasDeTexto(deTexto);
-    modelo->ponFilas(filas);
     const QAbstractItemModel *anterior = rejilla->model();
+    delete rejilla->findChild<ColumnasRepartidas *>();
     rejilla->setModel(modelo);
     delete anterior;
-    rejilla->resizeColumnsToContents();
+    new ColumnasRepartidas(rejilla);
+    modelo->ponFilas(filas);
 }
 
 } // namespace

@@ -37,7 +37,8 @@ void FormUnidadesCasillas::ajusta()
     if (lados == 0)
         return;
     const QFontMetrics letra = m_rejilla->fontMetrics();
-    const int menor = std::max(letra.horizontalAdvance(u"88"_s) + 8, letra.height() + 4);
+    const int numero = m_rejilla->horizontalHeader()->sectionSizeHint(lados - 1);
+    const int menor = std::max(numero, letra.height() + 4);
     const QSize sitio = m_rejilla->viewport()->size();
     const int lado = std::clamp(std::min(sitio.width(), sitio.height()) / lados, menor,
                                 std::max(menor, 4 * letra.height()));
