@@ -108,7 +108,9 @@ void PanelDePasos::changeEvent(QEvent *suceso)
     if (ui && suceso->type() == QEvent::FontChange) {
         m_delegado->olvida();
         ui->listaDePasos->doItemsLayout();
-        acomodaBotones(*ui, width());
+        // Once the buttons have the new type as well.
+        QMetaObject::invokeMethod(
+            this, [this] { acomodaBotones(*ui, width()); }, Qt::QueuedConnection);
     }
 }
 
