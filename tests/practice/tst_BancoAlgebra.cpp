@@ -293,8 +293,10 @@ void tst_BancoAlgebra::unNumeroLarguisimo()
         const bool buena =
             modulares.contains(clave) && (clave != modulares.back() || r.numeros.size() == 2);
         qint64 multiplo = 1;
-        for (const qint64 n : leido.n)
-            multiplo *= std::max<qint64>(1, n) < 10'000 ? std::max<qint64>(1, n) : 1;
+        for (const qint64 n : leido.n) {
+            if (n > 0 && n < 10'000 && multiplo < std::numeric_limits<qint64>::max() / n)
+                multiplo *= n;
+        }
         r.numeros[0] = cifras(std::abs(multiplo)) +
                        QString(r.numeros[0]).remove(u'-').rightJustified(30, u'0');
         QVERIFY2(ejercicio.juzga(r).acertada == buena,
