@@ -18,7 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The name of a cell ("C12", also behind "Celda_") in the parts that the headers of a grid have.
+/// The name of a cell ("C12", also behind "Celda_") as the headers of a grid name it.
 QRegularExpressionMatch comoCelda(const QString &campo)
 {
     static const QRegularExpression forma(u"^(?:Celda_)?([A-Z])([1-9][0-9]{0,2})$"_s);

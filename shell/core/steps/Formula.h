@@ -18,7 +18,7 @@ struct NodoDeFormula
         Fraccion,   ///< part over part
         Potencia,   ///< part to the part
         Funcion,    ///< `texto` of its parts
-        Parentesis, ///< the parts, ";" between them
+        Parentesis, ///< its members, ";" between them
         Relacion,   ///< parts with `signos` between them, and the modulus behind if `conModulo`
         Lista       ///< relations with `signos` ("," or "=>") between them
     };
