@@ -108,7 +108,7 @@ QString FormPrincipal::sigueEnlace(const QUrl &direccion, int desde)
     const EnlaceDePagina leido = leeEnlace(direccion);
     if (const auto *practicas = std::get_if<EnlaceDePracticas>(&leido)) {
         const auto vuelta = vueltaA(desde);
-        const QString frase = practica(practicas->clase, practicas->nivel);
+        QString frase = practica(practicas->clase, practicas->nivel);
         if (const QPointer<FormLeccion> ventana = m_abiertas.value(FilaPracticas))
             ventana->ofreceVuelta(vuelta);
         return frase;

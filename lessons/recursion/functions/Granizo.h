@@ -27,7 +27,7 @@ public:
     /// The most steps that are kept.
     static constexpr int MaximoDePasos = 1'000'000;
     /// The most memory that the values kept take, in bytes.
-    static constexpr qint64 MaximoDeBytes = 32 * 1024 * 1024;
+    static constexpr qint64 MaximoDeBytes = qint64{32} * 1024 * 1024;
     /// The most values that are kept: to thin out more at once would keep a click waiting.
     static constexpr std::size_t MaximoDeHitos = 50'000;
 

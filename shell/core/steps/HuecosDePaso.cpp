@@ -44,7 +44,7 @@ TablaConHuecos huecosDePaso(const Paso &paso)
     }
     const QString razon = conNumerosEnPantalla(paso.regla.isEmpty() ? paso.frase : paso.regla);
     TablaConHuecos huecos(paso.tabla.cabecera, filas,
-                          [razon](qsizetype, qsizetype) { return razon; });
+                          [razon](qsizetype, qsizetype) { return QString(razon); });
     for (qsizetype i = 0; i < filas.size(); ++i) {
         for (qsizetype j = 0; j < columnas; ++j) {
             if (!esEntero(filas[i][j]))
