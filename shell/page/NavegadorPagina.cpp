@@ -221,7 +221,7 @@ QVariant NavegadorPagina::loadResource(int tipo, const QUrl &nombre)
             ImagenDeArchivo(direccion.toLocalFile(), devicePixelRatioF(), Aspecto::esOscuro());
         return imagen.isNull() ? QVariant() : QVariant(imagen);
     }
-    const QVariant leido = QTextBrowser::loadResource(tipo, nombre);
+    QVariant leido = QTextBrowser::loadResource(tipo, nombre);
     if (tipo == QTextDocument::StyleSheetResource)
         return estiloDelPrograma(QString::fromUtf8(leido.toByteArray()));
     if (tipo != QTextDocument::HtmlResource || leido.isNull())

@@ -35,15 +35,6 @@ ErrorTipico lugarDeDespues(qint64 valor)
     return {numero(valor), Traduce(u"Ese es el valor siguiente."_s), u"un-lugar"_s};
 }
 
-/// x(0) … x(n + 1) of x(k) = a·x(k − 1) + c.
-QList<qint64> valoresDePrimerOrden(qint64 a, qint64 c, qint64 x0, int n)
-{
-    QList<qint64> x = {x0};
-    while (x.size() <= n + 1)
-        x << a * x.back() + c;
-    return x;
-}
-
 Recurrencia dePrimerOrden(Sorteo &sorteo)
 {
     const qint64 a = sorteo.entre(2, 4);

@@ -9,15 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// f(0) … f(k + 1) of f(n) = b·f(n − 1) + c.
-QList<qint64> valores(qint64 a, qint64 b, qint64 c, int k)
-{
-    QList<qint64> f = {a};
-    while (f.size() <= k + 1)
-        f << b * f.back() + c;
-    return f;
-}
-
 Ejercicio valorSeguido(Sorteo &sorteo)
 {
     const qint64 a = sorteo.entre(2, 6);
@@ -26,7 +17,7 @@ Ejercicio valorSeguido(Sorteo &sorteo)
     // From where it does not stay on the same value.
     const qint64 inicio = a * (b - 1) + c == 0 ? a + 1 : a;
     const int k = static_cast<int>(sorteo.entre(3, 5));
-    const QList<qint64> f = valores(inicio, b, c, k);
+    const QList<qint64> f = valoresDePrimerOrden(b, c, inicio, k);
     const QString cola = (c < 0 ? u"− "_s : u"+ "_s) + numero(qAbs(c));
     QList<Paso> pasos;
     for (int n = 1; n <= k; ++n)
@@ -45,8 +36,8 @@ Ejercicio valorSeguido(Sorteo &sorteo)
              {numero(f[k + 1]), Traduce(u"Ese es el valor siguiente."_s), u"un-lugar"_s},
              {numero(inicio * potencia(b, k)), Traduce(u"Ha olvidado la constante que se suma."_s),
               u"sin-constante"_s},
-             {numero(valores(inicio, b, -c, k)[k]), Traduce(u"La constante lleva otro signo."_s),
-              u"signo"_s},
+             {numero(valoresDePrimerOrden(b, -c, inicio, k)[k]),
+              Traduce(u"La constante lleva otro signo."_s), u"signo"_s},
              {numero(b * k + c), Traduce(u"La regla se aplica a f(n − 1), no a n."_s), u"con-n"_s}},
             Traduce(u"No es ese valor: empiece en f(0) y suba."_s)),
         .pistas = {Traduce(u"Empiece en f(0) y suba de uno en uno."_s),

@@ -124,6 +124,14 @@ QString combinacion(qint64 a, const QString &x, qint64 b, const QString &y)
         .value_or(QString());
 }
 
+QList<qint64> valoresDePrimerOrden(qint64 a, qint64 c, qint64 x0, int n)
+{
+    QList<qint64> x = {x0};
+    while (x.size() <= n + 1)
+        x << a * x.back() + c;
+    return x;
+}
+
 QString numero(qint64 n)
 {
     return QString::number(n);

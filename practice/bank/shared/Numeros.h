@@ -45,6 +45,8 @@ qint64 potenciaModular(qint64 b, qint64 e, qint64 m);
 qint64 potencia(qint64 b, int e);
 /// F(n), F(0) = 0, F(1) = 1, n from 0 to 92.
 qint64 fibonacciDe(int n);
+/// x(0) … x(n + 1) of x(k) = a·x(k − 1) + c; n ≥ 0, and all must fit.
+QList<qint64> valoresDePrimerOrden(qint64 a, qint64 c, qint64 x0, int n);
 /// a·x + b·y for numbers of any length, in digits.
 QString combinacion(qint64 a, const QString &x, qint64 b, const QString &y);
 
