@@ -23,12 +23,16 @@ trae_fuente() {
     fi
     local como=(-q -o Dir::Etc::SourceList=/dev/null -o "Dir::Etc::SourceParts=$apt/parts"
         -o "Dir::State::Lists=$apt/lists" -o "Dir::Cache=$apt" -o APT::Sandbox::User=root)
+    # Not by `set -e`, which does not hold where somebody asks whether this has worked.
+    local bien=0
     (
-        cd "$apt/unpacked"
-        apt-get "${como[@]}" update >/dev/null
-        apt-get "${como[@]}" source --only-source "$paquete" >/dev/null
-        mkdir -p "$(dirname "$carpeta")"
-        mv "$(find . -mindepth 1 -maxdepth 1 -type d)" "$carpeta"
-    )
+        cd "$apt/unpacked" &&
+            apt-get "${como[@]}" update >/dev/null &&
+            apt-get "${como[@]}" source --only-source "$paquete" >/dev/null &&
+            mkdir -p "$(dirname "$carpeta")" &&
+            mv "$(find . -mindepth 1 -maxdepth 1 -type d)" "$carpeta"
+    ) || bien=1
     rm -rf "$apt"
+    [ $bien -eq 0 ] || echo "The source package $paquete could not be had." >&2
+    return $bien
 }
