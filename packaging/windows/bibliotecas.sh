@@ -17,8 +17,13 @@ una_vez() {
     [ -e "$marca" ] && return 0
     mkdir -p "$BASE_WINDOWS/hecho" "$BASE_WINDOWS/registro"
     echo "$nombre … (${registro#"$PWD"/})"
-    local antes=$SECONDS
-    if ! (set -e; "$@") >"$registro" 2>&1; then
+    local antes=$SECONDS resultado
+    # In a condition the shell would not stop at the first command that fails.
+    set +e
+    (set -e; "$@") >"$registro" 2>&1
+    resultado=$?
+    set -e
+    if [ "$resultado" -ne 0 ]; then
         tail -n 30 "$registro" >&2
         echo "$nombre could not be built." >&2
         return 1
