@@ -20,3 +20,6 @@ set(CMAKE_PREFIX_PATH "${NUMORA_WINDOWS_LIBS}")
 # Qt's tools (moc, uic, rcc, lrelease) are the machine's own.
 set(QT_HOST_PATH /usr CACHE PATH "Qt of the machine that builds")
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake CACHE PATH "Its CMake files")
+
+# What is built runs here all the same, the tests too.
+set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../../packaging/windows/wine.sh")

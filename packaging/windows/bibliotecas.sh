@@ -81,16 +81,29 @@ haz_sqlite() {
 haz_qtbase() {
     local fuente=$BASE_WINDOWS/fuentes/qtbase
     trae_fuente qt6-base "$fuente"
-    local sin=(opengl direct2d directwrite directwrite3 tabletevent vulkan network dbus concurrent sql_odbc sql_mysql
-        sql_psql system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2 system_doubleconversion
-        glib icu zstd brotli openssl androiddeployqt qmake)
+    local sin=(opengl direct2d directwrite directwrite3 tabletevent
+        vulkan network dbus concurrent xml glib icu zstd brotli openssl
+        sql_odbc sql_mysql sql_psql sqlmodel
+        system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2 system_doubleconversion
+        graphicsview wizard lcdnumber dial calendarwidget columnview datawidgetmapper keysequenceedit toolbox
+        textodfwriter printpreviewwidget printpreviewdialog undocommand
+        androiddeployqt qmake)
     local apagado=("${sin[@]/#/-DFEATURE_}")
     con_cmake qtbase "$fuente" -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF -DBUILD_SHARED_LIBS=ON \
         -DWARNINGS_ARE_ERRORS=OFF -DFEATURE_system_sqlite=ON "${apagado[@]/%/=OFF}"
+}
+
+# What g++ links to whatever it makes.
+haz_corredor() {
+    local biblioteca
+    for biblioteca in libgcc_s_seh-1.dll libstdc++-6.dll libwinpthread-1.dll; do
+        cp "$($TRIPLETE-g++-posix -print-file-name=$biblioteca)" "$LIBS_WINDOWS/bin"
+    done
 }
 
 construye_bibliotecas() {
     una_vez gmp haz_gmp
     una_vez sqlite3 haz_sqlite
     una_vez qtbase haz_qtbase
+    una_vez corredor haz_corredor
 }

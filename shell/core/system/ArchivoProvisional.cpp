@@ -14,8 +14,8 @@ constexpr QStringView Principio = u".numora-", Fin = u".tmp";
 ArchivoProvisional::ArchivoProvisional(const CarpetaCompartida &carpeta,
                                        const QByteArray &contenido)
     : m_carpeta(carpeta.m_carpeta),
-      m_provisional(Principio + QString::number(QRandomGenerator::system()->generate64(), 16) +
-                    Fin),
+      m_provisional(u"%1%2%3"_s.arg(
+          Principio, QString::number(QRandomGenerator::system()->generate64(), 16), Fin)),
       m_hecho(m_carpeta.escribeNuevo(m_provisional, contenido))
 {
 }
