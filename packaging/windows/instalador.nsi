@@ -37,8 +37,6 @@ LangString PROGRAMA ${LANG_SPANISH} "El programa"
 LangString PROGRAMA ${LANG_ENGLISH} "The program"
 LangString LOMIO ${LANG_SPANISH} "Mis ajustes, mi progreso y mis claves"
 LangString LOMIO ${LANG_ENGLISH} "My settings, my progress and my keys"
-LangString AJENA ${LANG_SPANISH} "La carpeta elegida contiene otras cosas. Elija una vacía."
-LangString AJENA ${LANG_ENGLISH} "The folder chosen holds other things. Choose an empty one."
 
 ; A program that runs keeps its file closed to writers.
 !macro SiEstaAbierto un
