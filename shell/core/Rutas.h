@@ -15,6 +15,6 @@ QString rutaDePlataforma(const QString &ruta);
 QString rutaExistente(const QString &ruta);
 
 /// Whether a name that came from outside is one plain name that cannot lead out of a folder on any
-/// system that shares it: not empty, no separator, no NUL, neither "." nor "..", no stream of another
-/// file, no device (CON, LPT1.txt), no dot or blank at its end, which some systems drop.
+/// system that shares it: not empty, no separator, no NUL, neither "." nor "..", no stream of
+/// another file, no device (CON, LPT1.txt), no dot or blank at its end, which some systems drop.
 bool esNombreSimple(const QString &nombre);

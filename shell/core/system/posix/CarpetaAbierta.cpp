@@ -40,8 +40,8 @@ CarpetaAbierta::CarpetaAbierta(std::shared_ptr<Descriptor> carpeta, const QStrin
 }
 
 CarpetaAbierta::CarpetaAbierta(const QString &ruta)
-    : CarpetaAbierta(std::make_shared<Descriptor>(::open(
-                         QFile::encodeName(rutaExistente(ruta)).constData(), SoloCarpeta)),
+    : CarpetaAbierta(std::make_shared<Descriptor>(
+                         ::open(QFile::encodeName(rutaExistente(ruta)).constData(), SoloCarpeta)),
                      ruta)
 {
 }
@@ -49,8 +49,8 @@ CarpetaAbierta::CarpetaAbierta(const QString &ruta)
 CarpetaAbierta CarpetaAbierta::subcarpeta(const QString &nombre) const
 {
     return CarpetaAbierta(
-        std::make_shared<Descriptor>(::openat(m_carpeta->fd(), QFile::encodeName(nombre).constData(),
-                                              SoloCarpeta | O_NOFOLLOW)),
+        std::make_shared<Descriptor>(::openat(
+            m_carpeta->fd(), QFile::encodeName(nombre).constData(), SoloCarpeta | O_NOFOLLOW)),
         rutaDe(nombre));
 }
 

@@ -46,9 +46,9 @@ CarpetaAbierta::CarpetaAbierta(std::shared_ptr<Descriptor> carpeta, const QStrin
 }
 
 CarpetaAbierta::CarpetaAbierta(const QString &ruta)
-    : m_carpeta(std::make_shared<Descriptor>(
-          ::CreateFileW(rutaLarga(ruta).c_str(), AccesoACarpeta, Compartida, nullptr, OPEN_EXISTING,
-                        FILE_FLAG_BACKUP_SEMANTICS, nullptr))),
+    : m_carpeta(std::make_shared<Descriptor>(::CreateFileW(rutaLarga(ruta).c_str(), AccesoACarpeta,
+                                                           Compartida, nullptr, OPEN_EXISTING,
+                                                           FILE_FLAG_BACKUP_SEMANTICS, nullptr))),
       m_ruta(ruta)
 {
     if (!m_carpeta->abierto())
@@ -112,9 +112,9 @@ QList<CarpetaAbierta::Entrada> CarpetaAbierta::entradas() const
 
 QByteArray CarpetaAbierta::lee(const QString &nombre, qint64 maximo) const
 {
-    const Descriptor archivo = abreEntrada(
-        *m_carpeta, nombre,
-        {FILE_READ_DATA | FILE_READ_ATTRIBUTES, FILE_OPEN, FILE_NON_DIRECTORY_FILE});
+    const Descriptor archivo =
+        abreEntrada(*m_carpeta, nombre,
+                    {FILE_READ_DATA | FILE_READ_ATTRIBUTES, FILE_OPEN, FILE_NON_DIRECTORY_FILE});
     if (!archivo.abierto() && ::GetLastError() == ERROR_FILE_NOT_FOUND)
         throw ErrorEjecucion(ErrorEjecucion::ArchivoNoEncontrado, rutaDePlataforma(rutaDe(nombre)));
     if (!archivo.abierto())

@@ -44,10 +44,9 @@ bool ponNombre(const Descriptor &archivo, const Descriptor &carpeta, const QStri
     peticion->FileNameLength = static_cast<DWORD>(bytes);
     std::memcpy(peticion->FileName, letras.data(), bytes);
     IO_STATUS_BLOCK suceso = {};
-    const NTSTATUS estado =
-        ::NtSetInformationFile(archivo.asa(), &suceso, peticion,
-                               static_cast<ULONG>(sizeof(FILE_RENAME_INFO) + bytes),
-                               static_cast<FILE_INFORMATION_CLASS>(clase));
+    const NTSTATUS estado = ::NtSetInformationFile(
+        archivo.asa(), &suceso, peticion, static_cast<ULONG>(sizeof(FILE_RENAME_INFO) + bytes),
+        static_cast<FILE_INFORMATION_CLASS>(clase));
     if (estado < 0)
         ::SetLastError(::RtlNtStatusToDosError(estado));
     return estado >= 0;
@@ -74,9 +73,9 @@ bool estaEnUso(DWORD codigo)
 
 qint64 CarpetaAbierta::escribeNuevo(const QString &nombre, const QByteArray &contenido) const
 {
-    Descriptor archivo = abreEntrada(
-        *m_carpeta, nombre,
-        {FILE_WRITE_DATA | FILE_READ_ATTRIBUTES, FILE_CREATE, FILE_NON_DIRECTORY_FILE});
+    Descriptor archivo =
+        abreEntrada(*m_carpeta, nombre,
+                    {FILE_WRITE_DATA | FILE_READ_ATTRIBUTES, FILE_CREATE, FILE_NON_DIRECTORY_FILE});
     if (!archivo.abierto())
         falla(m_ruta);
     if (escribeTodo(archivo.asa(), contenido)) {
@@ -92,7 +91,8 @@ qint64 CarpetaAbierta::escribeNuevo(const QString &nombre, const QByteArray &con
 
 std::optional<qint64> CarpetaAbierta::escritoEn(const QString &nombre) const
 {
-    const Descriptor archivo = abreEntrada(*m_carpeta, nombre, {FILE_READ_ATTRIBUTES, FILE_OPEN, 0});
+    const Descriptor archivo =
+        abreEntrada(*m_carpeta, nombre, {FILE_READ_ATTRIBUTES, FILE_OPEN, 0});
     BY_HANDLE_FILE_INFORMATION estado = {};
     constexpr DWORD ninguno = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
     if (!archivo.abierto() || !::GetFileInformationByHandle(archivo.asa(), &estado) ||

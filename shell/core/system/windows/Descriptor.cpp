@@ -69,12 +69,10 @@ Descriptor abreEntrada(const Descriptor &carpeta, const QString &nombre, const A
     InitializeObjectAttributes(&objeto, &texto, OBJ_CASE_INSENSITIVE, carpeta.asa(), nullptr);
     IO_STATUS_BLOCK suceso = {};
     HANDLE asa = INVALID_HANDLE_VALUE;
-    const NTSTATUS estado =
-        ::NtCreateFile(&asa, como.acceso | SYNCHRONIZE, &objeto, &suceso, nullptr,
-                       FILE_ATTRIBUTE_NORMAL, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                       como.disposicion,
-                       como.opciones | FILE_OPEN_REPARSE_POINT | FILE_SYNCHRONOUS_IO_NONALERT,
-                       nullptr, 0);
+    const NTSTATUS estado = ::NtCreateFile(
+        &asa, como.acceso | SYNCHRONIZE, &objeto, &suceso, nullptr, FILE_ATTRIBUTE_NORMAL,
+        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, como.disposicion,
+        como.opciones | FILE_OPEN_REPARSE_POINT | FILE_SYNCHRONOUS_IO_NONALERT, nullptr, 0);
     if (estado >= 0)
         return Descriptor(asa);
     ::SetLastError(::RtlNtStatusToDosError(estado));
@@ -84,8 +82,8 @@ Descriptor abreEntrada(const Descriptor &carpeta, const QString &nombre, const A
 qint64 segundosDe(const FILETIME &tiempo)
 {
     constexpr qint64 hasta1970 = 11'644'473'600, porSegundo = 10'000'000;
-    const qint64 decimas =
-        static_cast<qint64>(tiempo.dwHighDateTime) << 32 | static_cast<qint64>(tiempo.dwLowDateTime);
+    const qint64 decimas = static_cast<qint64>(tiempo.dwHighDateTime) << 32 |
+                           static_cast<qint64>(tiempo.dwLowDateTime);
     return decimas / porSegundo - hasta1970;
 }
 

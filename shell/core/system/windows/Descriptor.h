@@ -12,8 +12,7 @@ class Descriptor
 public:
     explicit Descriptor(HANDLE asa) : m_asa(asa) {}
     ~Descriptor() { cierra(); }
-    Descriptor(Descriptor &&otro) noexcept
-        : m_asa(std::exchange(otro.m_asa, INVALID_HANDLE_VALUE))
+    Descriptor(Descriptor &&otro) noexcept : m_asa(std::exchange(otro.m_asa, INVALID_HANDLE_VALUE))
     {
     }
     Descriptor &operator=(Descriptor &&) = delete;

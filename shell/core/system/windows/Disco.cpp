@@ -19,7 +19,8 @@ HANDLE asaDe(const QFileDevice &archivo)
 /// The path of an open file, whatever the name that it will have; empty when it cannot be told.
 std::vector<wchar_t> rutaDe(HANDLE archivo)
 {
-    std::vector<wchar_t> ruta(::GetFinalPathNameByHandleW(archivo, nullptr, 0, FILE_NAME_NORMALIZED));
+    std::vector<wchar_t> ruta(
+        ::GetFinalPathNameByHandleW(archivo, nullptr, 0, FILE_NAME_NORMALIZED));
     const DWORD letras = ::GetFinalPathNameByHandleW(
         archivo, ruta.data(), static_cast<DWORD>(ruta.size()), FILE_NAME_NORMALIZED);
     return letras > 0 && letras < ruta.size() ? ruta : std::vector<wchar_t>();

@@ -19,10 +19,11 @@ InstanciaUnica::InstanciaUnica(const QString &archivo)
         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
         FILE_ATTRIBUTE_NORMAL, nullptr))});
     OVERLAPPED lugar = {};
-    m_hayOtra = m_cerrojo->archivo.abierto() &&
-                !::LockFileEx(m_cerrojo->archivo.asa(),
-                              LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &lugar) &&
-                (::GetLastError() == ERROR_LOCK_VIOLATION || ::GetLastError() == ERROR_IO_PENDING);
+    m_hayOtra =
+        m_cerrojo->archivo.abierto() &&
+        !::LockFileEx(m_cerrojo->archivo.asa(), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY,
+                      0, 1, 0, &lugar) &&
+        (::GetLastError() == ERROR_LOCK_VIOLATION || ::GetLastError() == ERROR_IO_PENDING);
 }
 
 InstanciaUnica::~InstanciaUnica() = default;
