@@ -140,7 +140,7 @@ std::optional<mpz_class> CurveStages::second(MontgomeryCurve &curve, const Point
         for (const Point &centre : giants) {
             const std::uint64_t middle = k++ * m_stride;
             for (; q < middle + m_stride / 2; q = primes.next()) {
-                const std::uint64_t j = q < middle ? middle - q : q - middle;
+                const auto j = static_cast<std::size_t>(q < middle ? middle - q : q - middle);
                 if (servedAt[j / 2] == middle)
                     continue;
                 servedAt[j / 2] = middle;
