@@ -13,9 +13,10 @@ Factorization factorize(const mpz_class &n, Effort effort)
         result.powers.push_back(factor);
         return true;
     });
-    std::ranges::sort(result.powers, [](const FoundFactor &a, const FoundFactor &b) {
-        return a.prime != b.prime ? a.prime : a.base < b.base;
-    });
+    std::sort(result.powers.begin(), result.powers.end(),
+              [](const FoundFactor &a, const FoundFactor &b) {
+                  return a.prime != b.prime ? a.prime : a.base < b.base;
+              });
     return result;
 }
 

@@ -2,11 +2,13 @@
 #include "shell/start/FormAcercaDe.h"
 
 #include "shell/core/ModGlobal.h"
+#include "shell/core/system/Herramientas.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/start/Carencias.h"
 #include "ui_FormAcercaDe.h"
 
 #include <QApplication>
@@ -41,6 +43,10 @@ formAcercaDe::formAcercaDe(QWidget *padre)
     ui->AniEscudo->carga(u"ClipArt\\escudo.avi"_s, u"ESCUDO"_s);
     ui->AniEscudo->setMinimumSize(ui->AniEscudo->sizeHint() * 1.5);
 
+    const QStringList frases = carencias();
+    ui->lblCarencias->setVisible(!frases.isEmpty());
+    ui->lblCarencias->setText(Traduce(u"En este equipo:"_s) + u'\n' + frases.join(u'\n'));
+
     conecta(ui->cmdOK, &QPushButton::clicked, this, &formAcercaDe::cmdOK_Click);
     conecta(ui->cmdSysInfo, &QPushButton::clicked, this, &formAcercaDe::cmdSysInfo_Click);
 }
@@ -59,14 +65,7 @@ void formAcercaDe::reject()
 
 void formAcercaDe::cmdSysInfo_Click()
 {
-    static const QList<QStringList> herramientas{{u"hardinfo2"_s},
-                                                 {u"hardinfo"_s},
-                                                 {u"kinfocenter"_s},
-                                                 {u"gnome-control-center"_s, u"info-overview"_s},
-                                                 {u"mate-system-monitor"_s, u"-s"_s},
-                                                 {u"gnome-system-monitor"_s},
-                                                 {u"lshw-gtk"_s}};
-    if (!interlocutor().lanzaAlguno(herramientas))
+    if (!interlocutor().lanzaAlguno(informadores()))
         interlocutor().avisa(parentWidget(), Interlocutor::Icono::Informacion,
                              Traduce(u"System Information Is Unavailable At This Time"_s),
                              windowTitle());
