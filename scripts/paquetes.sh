@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs and that are missing. Usage:
-#   instala_paquetes run|test|fuzz|bench|package|windows
+#   instala_paquetes run|test|bare|fuzz|bench|package|windows
 # Sourced by run.sh, test.sh and the other scripts; does nothing where everything is there.
 
 PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
@@ -9,7 +9,8 @@ PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
 PAQUETES_RUN=(qt6-translations-l10n gstreamer1.0-plugins-good libqt6svg6 libqt6sql6-sqlite fonts-dejavu-core fonts-liberation)
 PAQUETES_TEST=(git clang-format-14 clang-tidy-14 python3)
 PAQUETES_PACKAGE=(dpkg-dev file lintian appstream desktop-file-utils mandoc xvfb xauth x11-utils)
-PAQUETES_WINDOWS=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 nsis zip librsvg2-bin icoutils make m4 tcl dpkg-dev)
+PAQUETES_WINDOWS=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 nsis zip librsvg2-bin pngquant icoutils make m4 tcl dpkg-dev)
+PAQUETES_BARE=(librsvg2-bin pngquant)
 PAQUETES_FUZZ=(clang-14 libclang-rt-14-dev)
 PAQUETES_BENCH=(libbenchmark-dev libpari-dev pari-gp)
 
@@ -19,6 +20,7 @@ instala_paquetes() {
     for grupo in "$@"; do
         case $grupo in
             test) quieren+=("${PAQUETES_TEST[@]}") ;;
+            bare) quieren+=("${PAQUETES_BARE[@]}") ;;
             fuzz) quieren+=("${PAQUETES_FUZZ[@]}") ;;
             windows) quieren+=("${PAQUETES_WINDOWS[@]}") ;;
             package) quieren+=("${PAQUETES_PACKAGE[@]}") ;;

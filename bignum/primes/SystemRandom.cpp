@@ -13,7 +13,7 @@ mpz_class randomBits(std::size_t bits)
     fillRandom(bytes);
     mpz_class value;
     mpz_import(value.get_mpz_t(), bytes.size(), 1, 1, 0, 0, bytes.data());
-    mpz_fdiv_r_2exp(value.get_mpz_t(), value.get_mpz_t(), bits);
+    mpz_fdiv_r_2exp(value.get_mpz_t(), value.get_mpz_t(), static_cast<mp_bitcnt_t>(bits));
     return value;
 }
 
