@@ -81,7 +81,7 @@ haz_sqlite() {
 haz_qtbase() {
     local fuente=$BASE_WINDOWS/fuentes/qtbase
     trae_fuente qt6-base "$fuente"
-    local sin=(opengl direct2d directwrite directwrite3 tabletevent
+    local sin=(opengl opengl_dynamic direct2d directwrite directwrite3 tabletevent
         vulkan network dbus concurrent xml glib icu zstd brotli openssl
         sql_odbc sql_mysql sql_psql sqlmodel
         system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2 system_doubleconversion
@@ -90,7 +90,7 @@ haz_qtbase() {
         androiddeployqt qmake)
     local apagado=("${sin[@]/#/-DFEATURE_}")
     con_cmake qtbase "$fuente" -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF -DBUILD_SHARED_LIBS=ON \
-        -DWARNINGS_ARE_ERRORS=OFF -DFEATURE_system_sqlite=ON "${apagado[@]/%/=OFF}"
+        -DWARNINGS_ARE_ERRORS=OFF -DINPUT_opengl=no -DFEATURE_system_sqlite=ON "${apagado[@]/%/=OFF}"
 }
 
 # What g++ links to whatever it makes.

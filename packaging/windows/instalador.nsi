@@ -1,7 +1,7 @@
 ; The installer of the program for Windows: for one account, without rights, in Spanish and English.
 ; build.sh gives VERSION, CARPETA (what is installed), LISTA (what is taken away), ICONO and SALIDA.
 ; Silent: /S, with /D=FOLDER as the last word.
-Unicode true
+Target amd64-unicode
 ManifestDPIAware true
 RequestExecutionLevel user
 SetCompressor /SOLID lzma

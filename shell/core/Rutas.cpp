@@ -43,7 +43,8 @@ QString rutaExistente(const QString &ruta)
     const QString limpia = rutaDePlataforma(ruta);
     if (limpia.isEmpty() || QFileInfo::exists(limpia))
         return limpia;
-    QString camino = limpia.startsWith(u'/') ? u"/"_s : QString();
+    // Two strokes name another machine.
+    QString camino = limpia.left(limpia.startsWith(u"//"_s) ? 2 : limpia.startsWith(u'/'));
     for (const QString &parte : limpia.split(u'/', Qt::SkipEmptyParts)) {
         const QString base = camino.isEmpty() ? u"."_s : camino;
         const QString tal_cual = camino + parte;

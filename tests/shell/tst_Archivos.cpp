@@ -11,7 +11,39 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#if defined(Q_OS_WIN)
+#include <aclapi.h>
+#endif
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+#if defined(Q_OS_WIN)
+const QString SinFin = u"NUL"_s;
+#else
+const QString SinFin = u"/dev/zero"_s;
+#endif
+
+/// Whether nobody but who runs the test has a right to a file.
+bool esSoloDeSuDuena(const QString &ruta)
+{
+#if defined(Q_OS_WIN)
+    PACL lista = nullptr;
+    PSECURITY_DESCRIPTOR todo = nullptr;
+    if (::GetNamedSecurityInfoW(QDir::toNativeSeparators(ruta).toStdWString().c_str(),
+                                SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &lista,
+                                nullptr, &todo) != ERROR_SUCCESS)
+        return false;
+    const auto alFinal = qScopeGuard([todo] { ::LocalFree(todo); });
+    return lista && lista->AceCount == 1;
+#else
+    const auto duena = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    return (QFileInfo(ruta).permissions() & ~duena) == QFile::Permissions();
+#endif
+}
+
+} // namespace
 
 class TestArchivos : public QObject
 {
@@ -55,9 +87,7 @@ private Q_SLOTS:
         Perfil::escribe(ruta, u"RSA"_s, {{u"r"_s, u"1"_s}, {u"q(0)"_s, u"33"_s}},
                         Perfil::Acceso::Privado);
         QCOMPARE(leeArchivo(ruta, 100), "[RSA]\r\nr=1\r\nq(0)=33\r\n"_ba);
-        const auto dueno =
-            QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-        QCOMPARE(QFileInfo(ruta).permissions() & ~dueno, QFile::Permissions());
+        QVERIFY(esSoloDeSuDuena(ruta));
         for (const QString &valor : {u"1\n[Otra]"_s, u"1\r[Otra]"_s})
             QVERIFY_THROWS_EXCEPTION(ErrorEjecucion,
                                      Perfil::escribe(ruta, u"RSA"_s, {{u"r"_s, valor}}));
@@ -72,8 +102,9 @@ private Q_SLOTS:
                  int(ErrorEjecucion::RutaNoEncontrada));
         QCOMPARE(numeroDe([&] { leeArchivo(m_carpeta.filePath(u"nada"_s), 10); }),
                  int(ErrorEjecucion::ArchivoNoEncontrado));
-        QCOMPARE(numeroDe([&] { leeArchivo(u"/dev/zero"_s, 10); }),
-                 int(ErrorEjecucion::ErrorDeArchivo));
+        for (const QString &otraCosa : {SinFin, m_carpeta.path()})
+            QCOMPARE(numeroDe([&] { leeArchivo(otraCosa, 10); }),
+                     int(ErrorEjecucion::ErrorDeArchivo));
         escribeArchivo(archivo, "123456789");
         QCOMPARE(numeroDe([&] { leeArchivo(archivo, 8); }), int(ErrorEjecucion::ErrorDeArchivo));
         QCOMPARE(leeArchivo(archivo, 9), "123456789"_ba);

@@ -22,8 +22,8 @@ constexpr DWORD Compartida = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DEL
 /// A whole path as the system takes it without limit of length and without a look at its names.
 std::wstring rutaLarga(const QString &ruta)
 {
-    const QString entera =
-        QDir::toNativeSeparators(QFileInfo(rutaExistente(ruta)).absoluteFilePath());
+    const QString entera = QDir::toNativeSeparators(
+        QDir::cleanPath(QFileInfo(rutaExistente(ruta)).absoluteFilePath()));
     const bool deRed = entera.startsWith(u"\\\\"_s);
     return (deRed ? u"\\\\?\\UNC"_s + entera.sliced(1) : u"\\\\?\\"_s + entera).toStdWString();
 }
