@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs and that are missing. Usage:
-#   instala_paquetes run|test|fuzz|bench|package
+#   instala_paquetes run|test|fuzz|bench|package|web
 # Sourced by run.sh, test.sh and the other scripts; does nothing where everything is there.
 
 PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
@@ -10,6 +10,7 @@ PAQUETES_RUN=(qt6-translations-l10n gstreamer1.0-plugins-good libqt6svg6 libqt6s
 PAQUETES_TEST=(git clang-format-14 clang-tidy-14 python3)
 PAQUETES_PACKAGE=(dpkg-dev file lintian appstream desktop-file-utils mandoc xvfb xauth x11-utils)
 PAQUETES_FUZZ=(clang-14 libclang-rt-14-dev)
+PAQUETES_WEB=(emscripten dpkg-dev tcl librsvg2-bin nodejs node-ws chromium python3)
 PAQUETES_BENCH=(libbenchmark-dev libpari-dev pari-gp)
 
 instala_paquetes() {
@@ -20,6 +21,7 @@ instala_paquetes() {
             test) quieren+=("${PAQUETES_TEST[@]}") ;;
             fuzz) quieren+=("${PAQUETES_FUZZ[@]}") ;;
             package) quieren+=("${PAQUETES_PACKAGE[@]}") ;;
+            web) quieren+=("${PAQUETES_WEB[@]}") ;;
             bench) quieren+=("${PAQUETES_BENCH[@]}") ;;
         esac
     done
