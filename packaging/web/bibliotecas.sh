@@ -37,7 +37,12 @@ una_vez() {
     mkdir -p "$OBRA_WEB/done" "$OBRA_WEB/log"
     echo "$nombre … (${registro#"$PWD"/})"
     local antes=$SECONDS
-    if ! (set -e; "$@") >"$registro" 2>&1; then
+    # Not as a condition, where a failure in the middle would count for nothing.
+    set +e
+    (set -e; "$@") >"$registro" 2>&1
+    local salida=$?
+    set -e
+    if [ $salida -ne 0 ]; then
         tail -n 30 "$registro" >&2
         echo "$nombre could not be built." >&2
         return 1
@@ -78,27 +83,17 @@ haz_gmp() {
     CC_FOR_BUILD=gcc con_autoconf gmp "$fuente" --enable-cxx --disable-assembly
 }
 
-haz_ecm() {
-    local fuente=$FUENTES_WEB/gmp-ecm
-    trae_fuente gmp-ecm "$fuente"
-    con_autoconf ecm "$fuente" --with-gmp="$LIBS_WEB" --disable-asm-redc --disable-openmp
-}
-
-haz_primesieve() {
-    local fuente=$FUENTES_WEB/primesieve
-    trae_fuente primesieve "$fuente"
-    con_cmake primesieve "$fuente" -DBUILD_SHARED_LIBS=OFF -DBUILD_STATIC_LIBS=ON -DBUILD_PRIMESIEVE=OFF
-}
-
 # One file holds all of SQLite; the package's own script makes it.
 haz_sqlite() {
     local fuente=$FUENTES_WEB/sqlite3 obra=$OBRA_WEB/sqlite3
     trae_fuente sqlite3 "$fuente"
     mkdir -p "$obra" "$LIBS_WEB/lib" "$LIBS_WEB/include"
     cd "$obra"
-    "$fuente/configure" --disable-tcl --disable-readline
-    make sqlite3.c
-    emcc -Os -c -DSQLITE_THREADSAFE=0 -DSQLITE_ENABLE_COLUMN_METADATA -DSQLITE_OMIT_LOAD_EXTENSION -DSQLITE_DQS=0 \
+    if [ ! -e sqlite3.c ]; then
+        "$fuente/configure" --disable-tcl --disable-readline
+        make sqlite3.c
+    fi
+    emcc -Os -c -DSQLITE_THREADSAFE=0 -DSQLITE_OMIT_WAL -DSQLITE_ENABLE_COLUMN_METADATA -DSQLITE_OMIT_LOAD_EXTENSION -DSQLITE_DQS=0 \
         sqlite3.c -o sqlite3.o
     emar rcs "$LIBS_WEB/lib/libsqlite3.a" sqlite3.o
     install -m 644 sqlite3.h "$fuente/src/sqlite3ext.h" "$LIBS_WEB/include"
@@ -112,24 +107,12 @@ haz_qtbase() {
         system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2 system_doubleconversion)
     local apagado=("${sin[@]/#/-DFEATURE_}")
     con_cmake qtbase "$fuente" -DQT_QMAKE_TARGET_MKSPEC=wasm-emscripten -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF \
-        -DBUILD_SHARED_LIBS=OFF -DWARNINGS_ARE_ERRORS=OFF -DFEATURE_optimize_size=ON -DFEATURE_system_sqlite=ON \
+        -DBUILD_SHARED_LIBS=OFF -DWARNINGS_ARE_ERRORS=OFF -DFEATURE_optimize_size=ON -DFEATURE_precompile_header=ON -DFEATURE_system_sqlite=ON \
         -DSQLite3_INCLUDE_DIR="$LIBS_WEB/include" -DSQLite3_LIBRARY="$LIBS_WEB/lib/libsqlite3.a" "${apagado[@]/%/=OFF}"
 }
 
-haz_qtsvg() {
-    local fuente=$FUENTES_WEB/qt6-svg
-    trae_fuente qt6-svg "$fuente"
-    con_cmake qtsvg "$fuente" -DQt6_DIR="$LIBS_WEB/lib/cmake/Qt6" -DCMAKE_PREFIX_PATH="$LIBS_WEB" -DQT_BUILD_TESTS=OFF \
-        -DQT_BUILD_EXAMPLES=OFF
-}
-
-# The last three make more possible, but the program can do without.
 construye_bibliotecas() {
+    una_vez gmp haz_gmp
     una_vez sqlite3 haz_sqlite
     una_vez qtbase haz_qtbase
-    una_vez gmp haz_gmp
-    local nombre
-    for nombre in qtsvg ecm primesieve; do
-        una_vez $nombre haz_$nombre || echo "The program is built without $nombre."
-    done
 }
