@@ -25,7 +25,9 @@
 
 #include <stdint.h>
 
-#if defined(_WIN32) && defined(BIGNUM_BUILDING)
+#if defined(BIGNUM_STATIC)
+#define BIGNUM_API
+#elif defined(_WIN32) && defined(BIGNUM_BUILDING)
 #define BIGNUM_API __declspec(dllexport)
 #elif defined(_WIN32)
 #define BIGNUM_API __declspec(dllimport)

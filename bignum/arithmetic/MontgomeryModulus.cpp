@@ -17,15 +17,24 @@ MontgomeryModulus::MontgomeryModulus(const mpz_class &n)
     m_negativeInverse = 0 - inverse;
 }
 
-MontgomeryModulus::Residue MontgomeryModulus::fromInteger(unsigned long value) const
+MontgomeryModulus::Residue MontgomeryModulus::fromInteger(const mpz_class &value) const
 {
-    mpz_class shifted(value);
-    shifted <<= static_cast<mp_bitcnt_t>(m_size) * GMP_NUMB_BITS;
+    mpz_class shifted = value << static_cast<mp_bitcnt_t>(m_size) * GMP_NUMB_BITS;
     shifted %= m_n;
     Residue residue(static_cast<std::size_t>(m_size), 0);
     std::copy_n(mpz_limbs_read(shifted.get_mpz_t()), mpz_size(shifted.get_mpz_t()),
                 residue.begin());
     return residue;
+}
+
+mpz_class MontgomeryModulus::toInteger(const Residue &residue)
+{
+    Residue reduced(residue.size());
+    std::copy(residue.begin(), residue.end(), m_product.begin());
+    std::fill(m_product.begin() + m_size, m_product.end(), mp_limb_t{0});
+    reduceInto(reduced);
+    mpz_t view;
+    return mpz_class(mpz_roinit_n(view, reduced.data(), m_size));
 }
 
 void MontgomeryModulus::multiply(Residue &result, const Residue &a, const Residue &b)
@@ -38,6 +47,14 @@ void MontgomeryModulus::square(Residue &result, const Residue &a)
 {
     mpn_sqr(m_product.data(), a.data(), m_size);
     reduceInto(result);
+}
+
+void MontgomeryModulus::add(Residue &result, const Residue &a, const Residue &b) const
+{
+    const mp_limb_t *modulus = mpz_limbs_read(m_n.get_mpz_t());
+    const mp_limb_t carry = mpn_add_n(result.data(), a.data(), b.data(), m_size);
+    if (carry != 0 || mpn_cmp(result.data(), modulus, m_size) >= 0)
+        mpn_sub_n(result.data(), result.data(), modulus, m_size);
 }
 
 void MontgomeryModulus::subtract(Residue &result, const Residue &a, const Residue &b) const

@@ -15,11 +15,14 @@ public:
 
     explicit MontgomeryModulus(const mpz_class &n);
 
-    Residue fromInteger(unsigned long value) const;
+    /// The residue of a value that is not negative.
+    Residue fromInteger(const mpz_class &value) const;
+    mpz_class toInteger(const Residue &residue);
 
     // The result may be one of the operands.
     void multiply(Residue &result, const Residue &a, const Residue &b);
     void square(Residue &result, const Residue &a);
+    void add(Residue &result, const Residue &a, const Residue &b) const;
     void subtract(Residue &result, const Residue &a, const Residue &b) const;
 
 private:

@@ -4,7 +4,7 @@
 #include "bignum/arithmetic/ModularArithmetic.h"
 #include "bignum/text/NumberText.h"
 
-#include <limits>
+#include <cstdint>
 #include <string>
 
 namespace bignum::arithmetic {
@@ -35,7 +35,7 @@ mpz_class largePower(const mpz_class &base, const mpz_class &exponent)
 {
     require(exponent.fits_ulong_p(), Fault::TooLarge);
     const unsigned long e = exponent.get_ui();
-    require(e <= kMaxBits && (bits(base) - 1) * e <= kMaxBits, Fault::TooLarge);
+    require(e <= kMaxBits && std::uint64_t{bits(base) - 1} * e <= kMaxBits, Fault::TooLarge);
     mpz_class result;
     mpz_pow_ui(result.get_mpz_t(), base.get_mpz_t(), e);
     checkSize(result);
@@ -214,9 +214,8 @@ mpz_class modularPower(const mpz_class &base, const mpz_class &exponent, const m
 {
     // A squaring modulo 10 000 bits takes some 50 µs: with this product of lengths the whole power
     // takes about a second at most.
-    constexpr std::size_t freeBits = 10'000;
-    constexpr std::size_t maximum = freeBits * freeBits;
-    require(bits(exponent) * bits(m) <= maximum, Fault::TooSlow);
+    constexpr std::uint64_t freeBits = 10'000;
+    require(bits(exponent) * std::uint64_t{bits(m)} <= freeBits * freeBits, Fault::TooSlow);
     const auto result = powerMod(base, exponent, m);
     require(result.has_value(), Fault::ZeroDivision);
     return *result;

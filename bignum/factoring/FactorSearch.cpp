@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/factoring/FactorSearch.h"
 
+#include "bignum/arithmetic/Word.h"
 #include "bignum/factoring/Efforts.h"
 #include "bignum/factoring/PollardRho.h"
 #include "bignum/factoring/TrialDivision.h"
 #include "bignum/primes/Primality.h"
 #include "bignum/sieve/Cores.h"
-#include "bignum/sieve/Word.h"
 #include "bignum/text/NumberText.h"
 
 #include <map>
@@ -164,7 +164,7 @@ bool Search::splitByRho(const Part &part)
     if (bitCount(n) > kShortRhoBits)
         return false;
     const auto start = Clock::now();
-    const auto factor = bitCount(n) <= 64 ? sieve::fromUint64(rhoFactor(sieve::toUint64(n)))
+    const auto factor = bitCount(n) <= 64 ? fromUint64(rhoFactor(toUint64(n)))
                                           : shortRhoFactor(n, rhoStepsFor(decimalDigits(n)));
     if (!factor)
         return false;

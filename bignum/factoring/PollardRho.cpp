@@ -3,6 +3,7 @@
 
 #include "bignum/arithmetic/Montgomery128.h"
 #include "bignum/arithmetic/Montgomery64.h"
+#include "bignum/arithmetic/Word.h"
 
 #include <algorithm>
 #include <numeric>
@@ -25,7 +26,7 @@ mpz_class toInteger(Uint128 value)
 
 Uint128 toWord(const mpz_class &value)
 {
-    return Uint128{mpz_getlimbn(value.get_mpz_t(), 1)} << 64 | mpz_getlimbn(value.get_mpz_t(), 0);
+    return Uint128{wordAt(value, 1)} << 64 | wordAt(value, 0);
 }
 
 Uint128 gcdOf(Uint128 a, Uint128 b)

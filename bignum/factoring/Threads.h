@@ -20,14 +20,23 @@ void runOnThreads(unsigned threads, const Work &work)
             // Out of memory: the other threads go on.
         }
     };
-    std::vector<std::jthread> others;
+    std::vector<std::thread> others;
     try {
         while (others.size() + 1 < threads)
             others.emplace_back(guarded);
     } catch (const std::exception &) {
         // Fewer threads do as well.
     }
-    work();
+    std::exception_ptr thrown;
+    try {
+        work();
+    } catch (...) {
+        thrown = std::current_exception();
+    }
+    for (std::thread &other : others)
+        other.join();
+    if (thrown)
+        std::rethrow_exception(thrown);
 }
 
 } // namespace bignum

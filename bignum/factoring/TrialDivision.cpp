@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/factoring/TrialDivision.h"
 
+#include "bignum/arithmetic/Word.h"
 #include "bignum/factoring/PollardRho.h"
 #include "bignum/primes/SmallPrimes.h"
 
@@ -33,11 +34,12 @@ std::vector<SmallFactor> removeSmallFactors(mpz_class &n)
         const unsigned long first = table.primes[group.first];
         if (n < first * first || first > divisionLimit(n))
             break;
-        const mp_limb_t residue = mpz_fdiv_ui(n.get_mpz_t(), group.product);
+        const mp_limb_t residue = limbModulo(n, group.product);
         for (std::uint32_t i = 0; i < group.count; ++i) {
-            const mpz_class p(table.primes[group.first + i]);
-            if (residue % p.get_ui() != 0)
+            const std::uint32_t divisor = table.primes[group.first + i];
+            if (residue % divisor != 0)
                 continue;
+            const mpz_class p(divisor);
             const mp_bitcnt_t exponent = mpz_remove(n.get_mpz_t(), n.get_mpz_t(), p.get_mpz_t());
             found.push_back({p, exponent});
         }

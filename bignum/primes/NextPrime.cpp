@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "bignum/arithmetic/Word.h"
 #include "bignum/primes/Primality.h"
+#include "bignum/primes/PrimeStream.h"
 #include "bignum/primes/SmallPrimes.h"
 
 #include <algorithm>
-#include <primesieve.hpp>
 #include <vector>
 
 namespace bignum {
 
 namespace {
+
+/// The largest prime of the sieve.
+constexpr std::uint64_t kMostBound = 1U << 24;
+constexpr bool kPairsFit = GMP_NUMB_BITS >= 50;
 
 /// Odd numbers from `start` on; those with a factor below the sieve's bound are crossed out.
 class OddInterval
@@ -27,7 +32,7 @@ public:
         for (const PrimeGroup &group : table.groups) {
             if (table.primes[group.first] > bound)
                 return;
-            const mp_limb_t residue = mpz_fdiv_ui(m_start.get_mpz_t(), group.product);
+            const mp_limb_t residue = limbModulo(m_start, group.product);
             for (std::uint32_t i = 0; i < group.count; ++i) {
                 const std::uint64_t p = table.primes[group.first + i];
                 crossOut(p, residue % p);
@@ -37,17 +42,18 @@ public:
     }
 
 private:
-    /// Takes the larger primes two at a time: together they fit a limb.
+    /// Takes the larger primes two at a time where they fit a limb together.
     void crossOutBetween(std::uint64_t low, std::uint64_t high)
     {
         if (high <= low)
             return;
-        primesieve::iterator primes(low, high);
-        for (std::uint64_t p = primes.next_prime(); p <= high; p = primes.next_prime()) {
-            const std::uint64_t q = primes.next_prime();
-            const mp_limb_t residue = mpz_fdiv_ui(m_start.get_mpz_t(), p * q);
+        PrimeStream primes(low, high);
+        for (std::uint64_t p = primes.next(); p <= high; p = primes.next()) {
+            const std::uint64_t q = kPairsFit ? primes.next() : 1;
+            const mp_limb_t residue = limbModulo(m_start, static_cast<mp_limb_t>(p * q));
             crossOut(p, residue % p);
-            crossOut(q, residue % q);
+            if (kPairsFit)
+                crossOut(q, residue % q);
         }
     }
 
@@ -77,7 +83,7 @@ std::uint64_t nextPrimeInWord(std::uint64_t n)
 /// The bound of the sieve where its cost and that of the tests it saves grow alike (measured).
 std::uint64_t sieveBound(std::size_t bits)
 {
-    return std::clamp<std::uint64_t>(bits * bits / 4, 512, 1U << 24);
+    return std::clamp<std::uint64_t>(bits * bits / 4, 512, kMostBound);
 }
 
 } // namespace
@@ -85,19 +91,19 @@ std::uint64_t sieveBound(std::size_t bits)
 mpz_class nextPrime(const mpz_class &n)
 {
     constexpr std::uint64_t largestWordPrime = 18446744073709551557U;
-    if (n < mpz_class(largestWordPrime))
-        return mpz_class(nextPrimeInWord(n < 2 ? 0 : n.get_ui()));
+    if (n < fromUint64(largestWordPrime))
+        return fromUint64(nextPrimeInWord(n < 2 ? 0 : toUint64(n)));
 
-    const std::size_t bits = mpz_sizeinbase(n.get_mpz_t(), 2);
-    const std::size_t count = 4 * bits; // reaches over a dozen times the average gap
+    const mp_bitcnt_t bits = mpz_sizeinbase(n.get_mpz_t(), 2);
+    const mp_bitcnt_t count = 4 * bits; // reaches over a dozen times the average gap
     mpz_class start = n % 2 == 0 ? n + 1 : n + 2;
-    for (;; start += mpz_class(2 * count)) {
+    for (;; start += 2 * count) {
         OddInterval interval(start, count);
         interval.crossOutBelow(sieveBound(bits));
-        for (std::size_t i = 0; i < count; ++i) {
+        for (mp_bitcnt_t i = 0; i < count; ++i) {
             if (interval.isComposite(i))
                 continue;
-            const mpz_class candidate = start + mpz_class(2 * i);
+            const mpz_class candidate = start + 2 * i;
             if (isPrime(candidate))
                 return candidate;
         }

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/primes/Primality.h"
 
+#include "bignum/arithmetic/Word.h"
 #include "bignum/primes/PrimalityTests.h"
+#include "bignum/primes/SmallPrimes.h"
 #include "bignum/primes/SystemRandom.h"
+
+#include <numeric>
 
 namespace bignum {
 
@@ -30,10 +34,10 @@ bool isPrime(const mpz_class &n)
     if (n < 2)
         return false;
     if (fitsWord(n))
-        return isPrime(static_cast<std::uint64_t>(n.get_ui()));
+        return isPrime(toUint64(n));
 
-    constexpr unsigned long oddPrimesTo53 = 16294579238595022365UL; // their product
-    if (mpz_even_p(n.get_mpz_t()) || mpz_gcd_ui(nullptr, n.get_mpz_t(), oddPrimesTo53) != 1)
+    const mp_limb_t leastPrimes = smallPrimes().groups.front().product;
+    if (mpz_even_p(n.get_mpz_t()) || std::gcd(limbModulo(n, leastPrimes), leastPrimes) != 1)
         return false;
     return passesStrongTest(n, 2) && passesLucasTest(n) && passesStrongTest(n, randomBase(n));
 }

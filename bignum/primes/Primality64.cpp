@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/arithmetic/Montgomery64.h"
+#include "bignum/arithmetic/Word.h"
 #include "bignum/primes/Primality.h"
 #include "bignum/primes/PrimalityTests.h"
 
@@ -37,9 +38,7 @@ bool passesStrongTestToBase2(std::uint64_t n)
 /// passesLucasTest for one word.
 bool passesLucasTest64(std::uint64_t n)
 {
-    mpz_t view; // shares the one limb, needs no clearing
-    const mp_limb_t limb = n;
-    const unsigned long p = lucasParameter(mpz_class(mpz_roinit_n(view, &limb, 1)));
+    const unsigned long p = lucasParameter(fromUint64(n));
     if (p == 0)
         return false;
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/primes/PrimeList.h"
 
+#include "bignum/primes/PrimeStream.h"
+
 #include <algorithm>
-#include <primesieve.hpp>
 #include <vector>
 
 namespace bignum {
@@ -11,8 +12,7 @@ std::int64_t countPrimes(std::int64_t limit)
 {
     if (limit < 2)
         return 0;
-    return static_cast<std::int64_t>(
-        primesieve::count_primes(0, static_cast<std::uint64_t>(limit)));
+    return static_cast<std::int64_t>(countPrimesTo(static_cast<std::uint64_t>(limit)));
 }
 
 bool streamPrimes(std::int64_t first, std::int64_t last,
@@ -23,10 +23,10 @@ bool streamPrimes(std::int64_t first, std::int64_t last,
         return true;
 
     const auto end = static_cast<std::uint64_t>(last);
-    primesieve::iterator primes(static_cast<std::uint64_t>(std::max<std::int64_t>(first, 0)), end);
+    PrimeStream primes(static_cast<std::uint64_t>(std::max<std::int64_t>(first, 0)), end);
     std::vector<std::uint64_t> buffer;
     buffer.reserve(blockSize);
-    for (std::uint64_t p = primes.next_prime(); p <= end; p = primes.next_prime()) {
+    for (std::uint64_t p = primes.next(); p <= end; p = primes.next()) {
         buffer.push_back(p);
         if (buffer.size() == blockSize) {
             if (!block(buffer))

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/primes/SmallPrimes.h"
 
+#include "bignum/arithmetic/Word.h"
+#include "bignum/primes/PrimeStream.h"
+
 #include <limits>
-#include <primesieve.hpp>
 
 namespace bignum {
 
@@ -11,7 +13,9 @@ namespace {
 SmallPrimes makeTable()
 {
     SmallPrimes table;
-    primesieve::generate_primes(3, kSmallPrimeLimit, &table.primes);
+    PrimeStream stream(3, kSmallPrimeLimit);
+    for (std::uint64_t prime = stream.next(); prime < kSmallPrimeLimit; prime = stream.next())
+        table.primes.push_back(static_cast<std::uint32_t>(prime));
     PrimeGroup group{1, 0, 0};
     for (const std::uint32_t prime : table.primes) {
         if (group.product > std::numeric_limits<mp_limb_t>::max() / prime) {
@@ -37,7 +41,7 @@ bool hasSmallFactor(const mpz_class &n)
 {
     const SmallPrimes &table = smallPrimes();
     for (const PrimeGroup &group : table.groups) {
-        const mp_limb_t residue = mpz_fdiv_ui(n.get_mpz_t(), group.product);
+        const mp_limb_t residue = limbModulo(n, group.product);
         for (std::uint32_t i = 0; i < group.count; ++i)
             if (residue % table.primes[group.first + i] == 0)
                 return true;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <vector>
 
 namespace bignum {
@@ -27,7 +28,7 @@ std::string_view trimmed(std::string_view text)
 
 void readDigits(mpz_class &value, std::string_view digits)
 {
-    constexpr std::size_t digitsOfWord = 18;
+    constexpr std::size_t digitsOfWord = std::numeric_limits<unsigned long>::digits10;
     if (digits.size() <= digitsOfWord) {
         unsigned long word = 0;
         for (const char c : digits)
@@ -35,11 +36,11 @@ void readDigits(mpz_class &value, std::string_view digits)
         value = word;
         return;
     }
-    // What mpz_set_str does, without its look at each character. A limb takes 19 digits.
+    // What mpz_set_str does, without its look at each character. All limbs but the last are full.
     std::vector<unsigned char> bytes(digits.size());
     std::ranges::transform(digits, bytes.begin(),
                            [](char c) { return static_cast<unsigned char>(c - '0'); });
-    const std::size_t limbs = digits.size() / 19 + 2;
+    const std::size_t limbs = digits.size() / std::numeric_limits<mp_limb_t>::digits10 + 2;
     mp_limb_t *const data = mpz_limbs_write(value.get_mpz_t(), static_cast<mp_size_t>(limbs));
     const mp_size_t used = mpn_set_str(data, bytes.data(), bytes.size(), 10);
     mpz_limbs_finish(value.get_mpz_t(), used);

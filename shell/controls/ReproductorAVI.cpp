@@ -2,7 +2,7 @@
 #include "shell/controls/ReproductorAVI.h"
 
 #include "shell/access/Papel.h"
-#include "shell/controls/Fotograma.h"
+#include "shell/controls/MotorAVI.h"
 #include "shell/controls/SinFondo.h"
 #include "shell/core/Rutas.h"
 #include "shell/look/Aspecto.h"
@@ -10,27 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QMediaFormat>
-#include <QMediaPlayer>
 #include <QPainter>
-#include <QUrl>
-#include <QVideoFrame>
-#include <QVideoSink>
-
-namespace {
-
-/// Whether the machine can play the animations. A player of Qt 6.4 crashes where the plug-ins of
-/// the media machinery are missing; the container is not asked for, because Qt does not know its
-/// AVI.
-bool hayConQueReproducir()
-{
-    static const bool hay = QMediaFormat()
-                                .supportedVideoCodecs(QMediaFormat::Decode)
-                                .contains(QMediaFormat::VideoCodec::VP8);
-    return hay;
-}
-
-} // namespace
 
 ReproductorAVI::ReproductorAVI(QWidget *padre) : QWidget(padre)
 {
@@ -43,9 +23,8 @@ ReproductorAVI::ReproductorAVI(QWidget *padre) : QWidget(padre)
 
 ReproductorAVI::~ReproductorAVI()
 {
-    // While this is still whole: a player that goes hands over an empty frame and a status.
     m_motor = nullptr;
-    qDeleteAll(m_motores);
+    qDeleteAll(m_motores); // while this is still whole
 }
 
 void ReproductorAVI::carga(const QString &ruta, const QString &imagenFija)
@@ -71,21 +50,14 @@ void ReproductorAVI::reproduce(Modo modo)
 void ReproductorAVI::arranca()
 {
     const QString archivo = QDir::current().absoluteFilePath(rutaExistente(m_ruta));
-    if (Aspecto::movimientoReducido() || !hayConQueReproducir() || !QFileInfo(archivo).isFile()) {
+    if (Aspecto::movimientoReducido() || !MotorAVI::disponible() || !QFileInfo(archivo).isFile()) {
         if (m_modo == Modo::UnaVez)
             QTimer::singleShot(0, this, &ReproductorAVI::fin);
         return;
     }
     m_motor = motorDe(archivo);
-    m_motor->setLoops(m_modo == Modo::Continuo ? QMediaPlayer::Infinite : QMediaPlayer::Once);
-    if (m_motor->mediaStatus() == QMediaPlayer::InvalidMedia) {
-        // It has said so once, and will not again.
-        if (m_modo == Modo::UnaVez)
-            QTimer::singleShot(0, this, &ReproductorAVI::fin);
-        return;
-    }
-    m_motor->setPosition(0);
-    m_motor->play();
+    if (!m_motor->reproduce(m_modo == Modo::Continuo) && m_modo == Modo::UnaVez)
+        QTimer::singleShot(0, this, &ReproductorAVI::fin);
 }
 
 void ReproductorAVI::para()
@@ -94,38 +66,31 @@ void ReproductorAVI::para()
     m_arranque.stop();
     // To stop it would wait for its threads, a third of a second, with every click waiting too.
     if (m_motor)
-        m_motor->pause();
+        m_motor->pausa();
 }
 
-/// A player for each file: handed another one, or the same one again, that of Qt 6.4 may wait for
-/// ever for the thread that delivers its pictures.
-QMediaPlayer *ReproductorAVI::motorDe(const QString &archivo)
+/// An engine for each file: handed another one, or the same one again, a player of Qt 6.4 may wait
+/// for ever for the thread that delivers its pictures.
+MotorAVI *ReproductorAVI::motorDe(const QString &archivo)
 {
-    QMediaPlayer *&motor = m_motores[archivo];
+    MotorAVI *&motor = m_motores[archivo];
     if (motor)
         return motor;
-    motor = new QMediaPlayer(this);
-    auto *salida = new QVideoSink(motor);
-    motor->setVideoSink(salida);
-    connect(salida, &QVideoSink::videoFrameChanged, this,
-            [this, este = motor](const QVideoFrame &fotograma) {
-                if (este != m_motor)
-                    return;
-                // The player hands over an empty frame when it stops; the last picture stays.
-                if (const QImage imagen = imagenDe(fotograma); !imagen.isNull())
-                    m_fotograma = imagen;
-                update();
-                if (Aspecto::movimientoReducido() && m_estado == Reproduciendo)
-                    quedaQuieto();
-            });
-    connect(
-        motor, &QMediaPlayer::mediaStatusChanged, this, [this, este = motor](auto estadoDelMedio) {
-            const bool acabada = estadoDelMedio == QMediaPlayer::EndOfMedia ||
-                                 estadoDelMedio == QMediaPlayer::InvalidMedia;
-            if (este == m_motor && acabada && m_estado == Reproduciendo && m_modo == Modo::UnaVez)
-                fin();
-        });
-    motor->setSource(QUrl::fromLocalFile(archivo));
+    motor = MotorAVI::nuevo(archivo, this);
+    connect(motor, &MotorAVI::fotograma, this, [this, este = motor](const QImage &imagen) {
+        if (este != m_motor)
+            return;
+        // The player hands over an empty frame when it stops; the last picture stays.
+        if (!imagen.isNull())
+            m_fotograma = imagen;
+        update();
+        if (Aspecto::movimientoReducido() && m_estado == Reproduciendo)
+            quedaQuieto();
+    });
+    connect(motor, &MotorAVI::acabada, this, [this, este = motor] {
+        if (este == m_motor && m_estado == Reproduciendo && m_modo == Modo::UnaVez)
+            fin();
+    });
     return motor;
 }
 
@@ -133,7 +98,7 @@ QMediaPlayer *ReproductorAVI::motorDe(const QString &archivo)
 /// because the player is handing over a frame.
 void ReproductorAVI::quedaQuieto()
 {
-    QMetaObject::invokeMethod(m_motor, &QMediaPlayer::pause, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(m_motor, &MotorAVI::pausa, Qt::QueuedConnection);
     if (m_modo == Modo::UnaVez)
         fin();
 }

@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <QWidget>
 
-class QMediaPlayer;
+class MotorAVI;
 
 /// Plays a short AVI animation without sound, scaled to fit; in a dark theme without its ground.
 /// Until the first frame comes, and for good where a codec or the file is missing or the user wants
@@ -50,15 +50,15 @@ protected:
 
 private:
     void arranca();
-    QMediaPlayer *motorDe(const QString &archivo);
+    MotorAVI *motorDe(const QString &archivo);
     void quedaQuieto();
     void fin();
 
     QString m_ruta;
     QString m_imagenFija;
     QImage m_fotograma;
-    QMediaPlayer *m_motor = nullptr; ///< the player in use; null before the first
-    QHash<QString, QMediaPlayer *> m_motores;
+    MotorAVI *m_motor = nullptr; ///< the engine in use; null before the first
+    QHash<QString, MotorAVI *> m_motores;
     QTimer m_arranque;
     Modo m_modo = Modo::UnaVez;
     int m_estado = Parado;

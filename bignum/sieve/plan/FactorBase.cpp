@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/sieve/plan/FactorBase.h"
 
-#include "bignum/sieve/Word.h"
+#include "bignum/primes/PrimeStream.h"
 #include "bignum/sieve/plan/SmallModulus.h"
-
-#include <primesieve.hpp>
 
 namespace bignum::sieve {
 
@@ -12,10 +10,9 @@ FactorBase::FactorBase(const mpz_class &kn, std::size_t size) : primes{1, 2}, ro
 {
     primes.reserve(size);
     roots.reserve(size);
-    primesieve::iterator candidates;
-    candidates.next_prime(); // 2, which is there already
+    PrimeStream candidates(3, 40 * std::uint64_t{size}); // 2 is there already
     while (primes.size() < size) {
-        const auto p = static_cast<std::uint32_t>(candidates.next_prime());
+        const auto p = static_cast<std::uint32_t>(candidates.next());
         if (const auto root = squareRootModulo(modulo(kn, p), p)) {
             primes.push_back(p);
             roots.push_back(*root);

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/sieve/plan/Multiplier.h"
 
-#include "bignum/sieve/Word.h"
+#include "bignum/primes/SmallPrimes.h"
 #include "bignum/sieve/plan/Parameters.h"
+#include "bignum/sieve/plan/SmallModulus.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numeric>
-#include <primesieve.hpp>
+#include <span>
 #include <vector>
 
 namespace bignum::sieve {
@@ -31,10 +32,10 @@ struct Judge
 std::vector<Judge> judgesOf(const mpz_class &n)
 {
     const std::size_t bits = mpz_sizeinbase(n.get_mpz_t(), 2);
-    std::vector<std::uint32_t> primes;
-    primesieve::generate_n_primes(std::min(kJudges, parametersFor(bits).baseSize), 3, &primes);
+    const std::size_t count = std::min(kJudges, parametersFor(bits).baseSize);
     std::vector<Judge> judges;
-    for (const std::uint32_t p : primes)
+    const SmallPrimes &table = smallPrimes();
+    for (const std::uint32_t p : std::span(table.primes).first(count))
         judges.push_back({p, mpz_kronecker_ui(n.get_mpz_t(), p), 2 * std::log(p) / (p - 1)});
     return judges;
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/sieve/plan/Polynomial.h"
 
-#include "bignum/sieve/Word.h"
 #include "bignum/sieve/plan/SmallModulus.h"
 
 #include <bit>

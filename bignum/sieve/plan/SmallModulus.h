@@ -2,9 +2,16 @@
 #pragma once
 
 #include <cstdint>
+#include <gmpxx.h>
 #include <optional>
 
 namespace bignum::sieve {
+
+/// n mod p, never negative.
+inline std::uint32_t modulo(const mpz_class &n, std::uint32_t p)
+{
+    return static_cast<std::uint32_t>(mpz_fdiv_ui(n.get_mpz_t(), p));
+}
 
 /// a·b mod p.
 constexpr std::uint32_t multiplyModulo(std::uint32_t a, std::uint32_t b, std::uint32_t p)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bignum/sieve/sieving/RelationFinder.h"
 
-#include "bignum/sieve/Word.h"
+#include "bignum/arithmetic/Word.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SieveNumbers.h"
 
-#include "bignum/sieve/Word.h"
+#include "bignum/arithmetic/Word.h"
 #include "bignum/sieve/plan/InverseRows.h"
 #include "bignum/sieve/plan/Multiplier.h"
 #include "bignum/sieve/plan/Polynomial.h"
@@ -23,8 +23,8 @@ private Q_SLOTS:
     void words()
     {
         for (const std::uint64_t value : {UINT64_C(0), UINT64_C(1) << 32, ~UINT64_C(0)})
-            QCOMPARE(toUint64(fromUint64(value)), value);
-        QCOMPARE(toUint64((mpz_class(5) << 64) + 7), UINT64_C(7));
+            QCOMPARE(bignum::toUint64(bignum::fromUint64(value)), value);
+        QCOMPARE(bignum::toUint64((mpz_class(5) << 64) + 7), UINT64_C(7));
     }
 
     void squareRoots()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SieveNumbers.h"
 
+#include "bignum/arithmetic/Word.h"
 #include "bignum/sieve/Cores.h"
-#include "bignum/sieve/Word.h"
 #include "bignum/sieve/sieving/FamilySieve.h"
 #include "bignum/sieve/sieving/RelationCollector.h"
 
@@ -87,7 +87,8 @@ void addLevels()
 
 bool multipliesOut(const Relation &relation, const Plan &plan)
 {
-    mpz_class product = fromUint64(relation.large[0]) * fromUint64(relation.large[1]);
+    mpz_class product =
+        bignum::fromUint64(relation.large[0]) * bignum::fromUint64(relation.large[1]);
     for (const std::uint32_t factor : relation.factors)
         product *= factor == 0 ? mpz_class(-1) : mpz_class(plan.base.primes[factor]);
     const mpz_class difference = relation.root * relation.root - product;
