@@ -2,6 +2,11 @@
 # Tests run without a display, in a fixed locale, and may take a minute (five under sanitizers).
 # Those of windows have the label "windows"; all others are built by the target logic_tests.
 add_custom_target(logic_tests)
+# Before a path of this machine that a test is compiled with: Wine has this machine's root under a letter.
+set(NUMORA_ROOT "")
+if(WIN32 AND CMAKE_CROSSCOMPILING)
+    set(NUMORA_ROOT "Z:")
+endif()
 function(numora_test NAME)
     cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
     add_executable(${NAME} ${ARG_UNPARSED_ARGUMENTS})

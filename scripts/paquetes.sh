@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs and that are missing. Usage:
-#   instala_paquetes run|test|fuzz|bench|package|web
+#   instala_paquetes run|test|fuzz|bench|package|web|windows
 # Sourced by run.sh, test.sh and the other scripts; does nothing where everything is there.
 
 PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
@@ -9,8 +9,9 @@ PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
 PAQUETES_RUN=(qt6-translations-l10n gstreamer1.0-plugins-good libqt6svg6 libqt6sql6-sqlite fonts-dejavu-core fonts-liberation)
 PAQUETES_TEST=(git clang-format-14 clang-tidy-14 python3)
 PAQUETES_PACKAGE=(dpkg-dev file lintian appstream desktop-file-utils mandoc xvfb xauth x11-utils)
+PAQUETES_WINDOWS=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 nsis zip librsvg2-bin icoutils make m4 tcl dpkg-dev)
 PAQUETES_FUZZ=(clang-14 libclang-rt-14-dev)
-PAQUETES_WEB=(emscripten dpkg-dev tcl librsvg2-bin nodejs node-ws chromium python3)
+PAQUETES_WEB=(emscripten dpkg-dev make m4 tcl librsvg2-bin nodejs node-ws chromium python3)
 PAQUETES_BENCH=(libbenchmark-dev libpari-dev pari-gp)
 
 instala_paquetes() {
@@ -20,14 +21,16 @@ instala_paquetes() {
         case $grupo in
             test) quieren+=("${PAQUETES_TEST[@]}") ;;
             fuzz) quieren+=("${PAQUETES_FUZZ[@]}") ;;
+            windows) quieren+=("${PAQUETES_WINDOWS[@]}") ;;
             package) quieren+=("${PAQUETES_PACKAGE[@]}") ;;
             web) quieren+=("${PAQUETES_WEB[@]}") ;;
             bench) quieren+=("${PAQUETES_BENCH[@]}") ;;
         esac
     done
-    local faltan=() paquete
+    local faltan=() paquete hay
+    hay=$(dpkg-query -W -f='${Package} ${Status}\n' "${quieren[@]}" 2>/dev/null) || true
     for paquete in "${quieren[@]}"; do
-        dpkg-query -W -f='${Status}' "$paquete" 2>/dev/null | grep -q 'install ok installed' || faltan+=("$paquete")
+        grep -q "^$paquete install ok installed" <<<"$hay" || faltan+=("$paquete")
     done
     # A newer distribution may have renamed one: what does not exist is left to the build to miss.
     [ ${#faltan[@]} -eq 0 ] && return 0

@@ -3,6 +3,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,6 +20,15 @@ QString entradaSinCaja(const QString &carpeta, const QString &nombre)
             return entrada;
     }
     return nombre;
+}
+
+/// Names that Windows keeps for devices, with whatever extension.
+bool esDispositivo(const QString &nombre)
+{
+    static const QRegularExpression reservado(
+        u"^(con|prn|aux|nul|conin\\$|conout\\$|(com|lpt)[0-9\u00B9\u00B2\u00B3]) *(\\.|$)"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    return reservado.match(nombre).hasMatch();
 }
 
 } // namespace
@@ -47,7 +58,8 @@ QString rutaExistente(const QString &ruta)
 bool esNombreSimple(const QString &nombre)
 {
     static constexpr QStringView prohibidos = u"/\\:";
-    if (nombre.isEmpty() || nombre == u"."_s || nombre == u".."_s || nombre.contains(QChar(u'\0')))
+    if (nombre.isEmpty() || nombre.endsWith(u'.') || nombre.endsWith(u' ') ||
+        nombre.contains(QChar(u'\0')) || esDispositivo(nombre))
         return false;
     return std::none_of(nombre.begin(), nombre.end(),
                         [](QChar c) { return prohibidos.contains(c); });

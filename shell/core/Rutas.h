@@ -14,6 +14,7 @@ QString rutaDePlataforma(const QString &ruta);
 /// result can be created).
 QString rutaExistente(const QString &ruta);
 
-/// Whether a name that came from outside is one plain name that cannot lead out of a folder: not
-/// empty, no separator of any platform, no NUL, neither "." nor "..".
+/// Whether a name that came from outside is one plain name that cannot lead out of a folder on any
+/// system that shares it: not empty, no separator, no NUL, neither "." nor "..", no stream of
+/// another file, no device (CON, LPT1.txt), no dot or blank at its end, which some systems drop.
 bool esNombreSimple(const QString &nombre);

@@ -2,6 +2,7 @@
 #include "shell/start/FormAcercaDe.h"
 
 #include "shell/core/ModGlobal.h"
+#include "shell/core/system/Herramientas.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
@@ -59,14 +60,7 @@ void formAcercaDe::reject()
 
 void formAcercaDe::cmdSysInfo_Click()
 {
-    static const QList<QStringList> herramientas{{u"hardinfo2"_s},
-                                                 {u"hardinfo"_s},
-                                                 {u"kinfocenter"_s},
-                                                 {u"gnome-control-center"_s, u"info-overview"_s},
-                                                 {u"mate-system-monitor"_s, u"-s"_s},
-                                                 {u"gnome-system-monitor"_s},
-                                                 {u"lshw-gtk"_s}};
-    if (!interlocutor().lanzaAlguno(herramientas))
+    if (!interlocutor().lanzaAlguno(informadores()))
         interlocutor().avisa(parentWidget(), Interlocutor::Icono::Informacion,
                              Traduce(u"System Information Is Unavailable At This Time"_s),
                              windowTitle());

@@ -3,6 +3,7 @@
 
 #include "bignum/gateway/ModBignum.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/system/Herramientas.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/look/Aspecto.h"
@@ -207,16 +208,7 @@ void FormPrincipal::TimerLogo_Timer()
 
 void FormPrincipal::Calculadora_Click()
 {
-    static const QList<QStringList> calculadoras{{u"gnome-calculator"_s},
-                                                 {u"kcalc"_s},
-                                                 {u"qalculate-gtk"_s},
-                                                 {u"qalculate-qt"_s},
-                                                 {u"mate-calc"_s},
-                                                 {u"galculator"_s},
-                                                 {u"speedcrunch"_s},
-                                                 {u"deepin-calculator"_s},
-                                                 {u"xcalc"_s}};
-    if (!interlocutor().lanzaAlguno(calculadoras))
+    if (!interlocutor().lanzaAlguno(calculadoras()))
         interlocutor().avisa(this, Interlocutor::Icono::Informacion,
                              Traduce(u"No se encuentra ninguna calculadora en este equipo."_s),
                              Traduce(u"Calculadora"_s));

@@ -24,10 +24,7 @@ public:
     void quitaAbandonados(const QStringList &entradas) const;
 
 private:
-    bool renombraSiLibre(const QByteArray &nombre);
-    bool reservaYRenombra(const QByteArray &nombre);
-
-    const CarpetaCompartida &m_carpeta;
-    QByteArray m_provisional;
-    qint64 m_hecho = 0; ///< when it was written, in seconds of the folder's clock
+    CarpetaAbierta m_carpeta;
+    QString m_provisional;
+    qint64 m_hecho; ///< when it was written, in seconds of the folder's clock
 };

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/system/Archivos.h"
 
+#include "shell/core/system/Disco.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <unistd.h>
 
 ErrorEjecucion errorDeArchivo(const QFileDevice &archivo, const QString &ruta)
 {
@@ -27,24 +28,14 @@ ErrorEjecucion errorDeArchivo(const QFileDevice &archivo, const QString &ruta)
     return ErrorEjecucion(numero, detalle);
 }
 
-namespace {
-
-/// Writes out now what a full disk or a quota may still refuse: QSaveFile replaces the old file
-/// even if its own buffer could not be written.
-bool llegaAlDisco(QSaveFile &archivo)
-{
-    return archivo.flush() && ::fsync(archivo.handle()) == 0;
-}
-
-} // namespace
-
 void escribeArchivo(const QString &ruta, const QByteArray &contenido, bool privado)
 {
     QSaveFile archivo(ruta);
     if (!archivo.open(QIODevice::WriteOnly))
         throw errorDeArchivo(archivo, ruta);
-    if (privado && !archivo.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner))
+    if (privado && !soloParaSuDuena(archivo))
         throw errorDeArchivo(archivo, ruta);
+    // QSaveFile replaces the old file even if its own buffer could not be written.
     if (archivo.write(contenido) != contenido.size() || !llegaAlDisco(archivo) || !archivo.commit())
         throw errorDeArchivo(archivo, ruta);
 }

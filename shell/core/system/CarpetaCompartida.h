@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-#include <QStringList>
-#include <memory>
+#include "shell/core/system/CarpetaAbierta.h"
 
-class Descriptor;
+#include <QStringList>
 
 /// A folder that others write in as well, held open: what happens to its path meanwhile changes
 /// nothing. Anybody may have written what lies in it, so names are plain names, links are not
@@ -16,7 +13,7 @@ class CarpetaCompartida
 {
 public:
     /// Opens a folder by its path, which may lead through links.
-    explicit CarpetaCompartida(const QString &ruta);
+    explicit CarpetaCompartida(const QString &ruta) : m_carpeta(ruta) {}
 
     /// Opens one of its sub-folders.
     CarpetaCompartida subcarpeta(const QString &nombre) const;
@@ -38,17 +35,12 @@ public:
     /// Writes a file in the place of the one of that name, whole or not at all.
     void sustituye(const QString &nombre, const QByteArray &contenido) const;
 
-    const QString &ruta() const { return m_ruta; }
-    QString rutaDe(const QString &nombre) const;
-
 private:
     friend class ArchivoProvisional;
-    CarpetaCompartida(std::shared_ptr<Descriptor> carpeta, const QString &ruta);
+    explicit CarpetaCompartida(CarpetaAbierta carpeta) : m_carpeta(std::move(carpeta)) {}
 
-    int fd() const;
     QString nombreReal(const QString &nombre) const;
-    Descriptor abreArchivo(const QString &nombre) const;
+    QStringList nombres(bool deCarpetas) const;
 
-    std::shared_ptr<Descriptor> m_carpeta;
-    QString m_ruta;
+    CarpetaAbierta m_carpeta;
 };

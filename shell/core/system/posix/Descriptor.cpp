@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/core/system/Descriptor.h"
+#include "shell/core/system/posix/Descriptor.h"
 
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/core/Rutas.h"

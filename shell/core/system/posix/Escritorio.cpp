@@ -18,6 +18,7 @@ QVariant valorDe(const QString &archivo, const QString &clave)
 
 } // namespace
 
+/// `gtk-enable-animations` of GTK 3 and 4, `AnimationDurationFactor` of KDE.
 bool escritorioSinMovimiento()
 {
     for (const QString &archivo : {u"gtk-3.0/settings.ini"_s, u"gtk-4.0/settings.ini"_s}) {

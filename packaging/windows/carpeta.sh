@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# Puts the program for Windows together as a folder that is unpacked and started. Sourced by build.sh.
+#   haz_carpeta FOLDER
+
+# copia_dll FOLDER: the libraries that what is in the folder names, and those that they name; what none of our
+# folders has is Windows' own.
+copia_dll() {
+    local carpeta=$1 nueva=si nombre lugar
+    while [ "$nueva" = si ]; do
+        nueva=no
+        while read -r nombre; do
+            [ -e "$carpeta/$nombre" ] && continue
+            for lugar in "$PROGRAMA/bin" "$LIBS_WINDOWS/bin"; do
+                [ -e "$lugar/$nombre" ] || continue
+                install -m 644 "$lugar/$nombre" "$carpeta"
+                nueva=si
+                break
+            done
+        done < <(find "$carpeta" \( -name '*.exe' -o -name '*.dll' \) -exec $TRIPLETE-objdump -p {} + |
+            sed -n 's/^\tDLL Name: //p' | sort -u)
+    done
+}
+
+haz_carpeta() {
+    local carpeta=$1 clase modulo
+    rm -rf "$carpeta"
+    mkdir -p "$carpeta/translations" "$carpeta/licencias"
+    install -m 755 "$PROGRAMA/bin/numora.exe" "$carpeta"
+    cp -r "$PROGRAMA/bin/ClipArt" "$PROGRAMA/bin/Doc" "$PROGRAMA/bin/Numora.txt" "$carpeta"
+    # "offscreen" draws what is written to files (--hoja, --galeria).
+    for modulo in platforms/qwindows platforms/qoffscreen styles/qwindowsvistastyle sqldrivers/qsqlite; do
+        clase=${modulo%/*}
+        mkdir -p "$carpeta/plugins/$clase"
+        install -m 644 "$LIBS_WINDOWS/plugins/$modulo.dll" "$carpeta/plugins/$clase"
+    done
+    copia_dll "$carpeta"
+    $TRIPLETE-strip --strip-unneeded "$carpeta"/*.dll "$carpeta"/numora.exe
+    cp /usr/share/qt6/translations/qtbase_es.qm "$carpeta/translations"
+    printf '[Paths]\nPrefix=.\nPlugins=plugins\nTranslations=translations\n' >"$carpeta/qt.conf"
+    cp LICENSE "$carpeta/licencias/Numora.txt"
+    local fuente
+    for fuente in qtbase gmp sqlite3; do
+        cp "$BASE_WINDOWS/fuentes/$fuente/debian/copyright" "$carpeta/licencias/$fuente.txt"
+    done
+    cp /usr/share/doc/gcc-mingw-w64-base/copyright "$carpeta/licencias/gcc-mingw-w64.txt"
+    cp /usr/share/doc/mingw-w64-common/copyright "$carpeta/licencias/mingw-w64.txt"
+    find "$carpeta" -type d -exec chmod 755 {} + -o -type f ! -name '*.exe' -exec chmod 644 {} +
+}
+
+# haz_zip FOLDER FILE: the same bytes whenever the same folder is packed.
+haz_zip() {
+    local archivo
+    archivo=$(realpath -m "$2")
+    rm -f "$archivo"
+    find "$1" -exec touch --no-dereference --date="@${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}" {} +
+    (cd "$(dirname "$1")" && find "$(basename "$1")" -print | LC_ALL=C sort | TZ=UTC zip -X -9 -q "$archivo" -@)
+}
