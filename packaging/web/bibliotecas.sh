@@ -62,6 +62,11 @@ con_autoconf() {
     emmake make install
 }
 
+# Where the machine's own Qt says what it has: its tools are used.
+carpeta_de_cmake() {
+    dirname "$(dirname "$(dpkg -L qt6-base-dev | grep /Qt6/Qt6Config.cmake)")"
+}
+
 # con_cmake PACKAGE SOURCE SWITCH…
 con_cmake() {
     local paquete=$1 fuente=$2
@@ -69,7 +74,7 @@ con_cmake() {
     local obra=$OBRA_WEB/$paquete
     cmake -S "$fuente" -B "$obra" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$CADENA_WEB" -DCMAKE_BUILD_TYPE=Release \
         -DCMAKE_INSTALL_PREFIX="$LIBS_WEB" -DCMAKE_FIND_ROOT_PATH="$LIBS_WEB" -DQT_HOST_PATH=/usr \
-        -DQT_HOST_PATH_CMAKE_DIR="$(dirname "$(dpkg -L qt6-base-dev | grep /Qt6/Qt6Config.cmake)")/.." "$@"
+        -DQT_HOST_PATH_CMAKE_DIR="$(carpeta_de_cmake)" "$@"
     cmake --build "$obra" -j"$TRABAJOS"
     cmake --install "$obra"
 }
