@@ -12,7 +12,7 @@ TRABAJOS=${NUMORA_JOBS:-$(nproc)}
 
 prepara_emscripten() {
     local raiz=/usr/share/emscripten
-    export EMSDK=$OBRA_WEB/sdk
+    export EMSDK=$OBRA_WEB/sdk EMSDK_PYTHON=/usr/bin/python3
     # Debian's node looks for the modules of the optimiser here; its own fetch confuses what loads the files.
     export NODE_PATH=/usr/share/nodejs NODE_OPTIONS=--no-experimental-fetch
     local aqui=$EMSDK/upstream/emscripten
