@@ -3,8 +3,8 @@
 # Usage:
 #   packaging/web/build.sh [bibliotecas|programa|pruebas]
 # With the first word it stops after the libraries, with the second after the program is linked; with the third it
-# leaves build/web-checks/ as well, the same page with the door through which check.sh asks. What stands already is not
-# built again.
+# leaves build/web-checks/ as well, the same page with the door through which check.sh asks, and build/web-empty/, a page
+# with an empty window. What stands already is not built again.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . scripts/paquetes.sh
@@ -42,8 +42,13 @@ empaqueta() {
     mkdir -p "$carpeta/curso"
     install -m 644 packaging/web/page/* "$carpeta"
     install -m 644 "$programa.wasm" "$carpeta/numora.wasm"
-    install -m 644 "$programa.data" "$carpeta/numora.data"
+    if [ -e "$programa.data" ]; then
+        install -m 644 "$programa.data" "$carpeta/numora.data"
+    else
+        : >"$carpeta/numora.data"
+    fi
     sed "s/$1\\.data/numora.data/g; s/$1\\.wasm/numora.wasm/g" "$programa.js" >"$carpeta/numora.js"
+    install -m 644 "$OBRA_WEB"/numora/bin/numora_apart.{js,wasm} "$carpeta"
     cp -r work/Doc "$carpeta/curso/Doc"
     rsvg-convert -w 64 -h 64 resources/imagenes/NUMORA.svg -o "$carpeta/numora.png"
     pon_cifras "$carpeta"
@@ -63,6 +68,7 @@ construye numora
 empaqueta numora build/web
 tamano build/web
 if [ "$hasta" = pruebas ]; then
-    construye numora_checks
+    construye numora_checks numora_empty
     empaqueta numora_checks build/web-checks
+    empaqueta numora_empty build/web-empty
 fi

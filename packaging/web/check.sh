@@ -5,4 +5,4 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 packaging/web/build.sh pruebas
 [ $# -eq 0 ] || mkdir -p "$1"
-NODE_PATH=/usr/share/nodejs exec node packaging/web/checks/check.js build/web-checks "$@"
+NODE_PATH=/usr/share/nodejs exec node packaging/web/checks/check.js build/web-checks build/web-empty "$@"

@@ -89,14 +89,18 @@ class Navegador {
         return this.evalua(`window.numora.${nombre}(${argumentos.map((uno) => JSON.stringify(uno)).join(", ")})`);
     }
 
-    /// Opens an address and waits for the program's main window; how long that took, in ms.
+    /// Opens an address and waits until the program's main window has been painted; how long that took, in ms.
     async visita(direccion) {
-        const antes = Date.now();
         await this.manda("Page.navigate", { url: "about:blank" });
         await this.manda("Page.navigate", { url: direccion });
-        await hasta(() => this.evalua("Boolean(window.numora && window.numora.lista && window.numora.lista())")
-            .catch(() => false), `the program at ${direccion}`, 120000);
-        return Date.now() - antes;
+        const pintada = `new Promise((listo) => {
+            const mira = () => window.numora && window.numora.lista()
+                ? requestAnimationFrame(() => requestAnimationFrame(() => listo(performance.now())))
+                : setTimeout(mira, 5);
+            mira();
+        })`;
+        const tarde = espera(120000).then(() => { throw new Error(`no program at ${direccion}`); });
+        return Math.round(await Promise.race([this.evalua(pintada), tarde]));
     }
 
     async pincha(x, y) {
