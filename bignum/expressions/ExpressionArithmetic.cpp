@@ -17,13 +17,6 @@ constexpr std::size_t kMaxBits = kMaxInputDigits * 33220 / 10000 + 1;
 /// The largest n whose factorial is worth computing: 10000! has 35660 digits, beyond every buffer.
 constexpr unsigned long kMaxFactorial = 10'000;
 
-mpz_class powerOfTen(std::size_t exponent)
-{
-    mpz_class result;
-    mpz_ui_pow_ui(result.get_mpz_t(), 10, exponent);
-    return result;
-}
-
 void readWhole(mpz_class &value, std::string_view digits)
 {
     require(digits.size() <= kMaxInputDigits, Fault::TooLarge);

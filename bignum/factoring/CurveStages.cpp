@@ -85,8 +85,8 @@ std::vector<CurveStages::Point> CurveStages::babySteps(MontgomeryCurve &curve,
     return steps;
 }
 
-/// Divides all X by their Z with one inversion (Montgomery, 1987). A factor, or n itself, where some
-/// Z has none.
+/// Divides all X by their Z with one inversion (Montgomery, 1987). A factor, or n itself, where
+/// some Z has none.
 std::optional<mpz_class> CurveStages::normalize(std::vector<Point> &points)
 {
     std::vector<Residue> products; // of all Z before
@@ -124,7 +124,8 @@ std::optional<mpz_class> CurveStages::second(MontgomeryCurve &curve, const Point
     std::uint64_t q = primes.next();
     Residue product = m_modulus.fromInteger(1);
     Residue difference = product;
-    std::vector<std::uint64_t> servedAt(babies.size()); // the last middle with a prime at j below it
+    std::vector<std::uint64_t> servedAt(
+        babies.size()); // the last middle with a prime at j below it
     while (k * m_stride <= kSecondBound * m_bound) {
         if (m_ended())
             return std::nullopt;

@@ -18,8 +18,8 @@ public:
     /// now and then whether to give up.
     CurveStages(const mpz_class &n, std::uint64_t bound, const std::function<bool()> &ended);
 
-    /// A proper factor by the curve and point that `sigma` > 5 stands for, whose order is a multiple
-    /// of 12 (H. Suyama's choice, told in Montgomery's paper of 1987).
+    /// A proper factor by the curve and point that `sigma` > 5 stands for, whose order is a
+    /// multiple of 12 (H. Suyama's choice, told in Montgomery's paper of 1987).
     std::optional<mpz_class> run(const mpz_class &sigma);
 
 private:

@@ -8,8 +8,8 @@
 
 namespace bignum {
 
-/// Tries random curves on one number to one first bound, for one thread: by GMP-ECM, or by curves of
-/// our own where that is missing.
+/// Tries random curves on one number to one first bound, for one thread: by GMP-ECM, or by curves
+/// of our own where that is missing.
 class CurveTrier
 {
 public:

@@ -28,7 +28,8 @@ public:
         }
         for (; m_place < OddSieve::kSpan && block.size() < most; ++m_place) {
             const std::uint64_t number = 2 * (m_sieve.index() + m_place) + 1;
-            if (m_sieve.composite()[m_place] == 0 && (number < OddSieve::kProven || isPrime(number)))
+            if (m_sieve.composite()[m_place] == 0 &&
+                (number < OddSieve::kProven || isPrime(number)))
                 block.push_back(number);
         }
     }

@@ -9,13 +9,6 @@ namespace bignum {
 
 namespace {
 
-mpz_class powerOfTen(std::size_t exponent)
-{
-    mpz_class result;
-    mpz_ui_pow_ui(result.get_mpz_t(), 10, exponent);
-    return result;
-}
-
 /// The zeros between the point and the first digit of n / d, for 0 < n < d.
 std::size_t leadingZeros(const mpz_class &n, const mpz_class &d)
 {

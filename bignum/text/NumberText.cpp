@@ -82,9 +82,15 @@ std::optional<mpq_class> parseRational(std::string_view text)
 std::size_t decimalDigits(const mpz_class &value)
 {
     const std::size_t most = mpz_sizeinbase(value.get_mpz_t(), 10);
-    mpz_class least; // of so many digits
-    mpz_ui_pow_ui(least.get_mpz_t(), 10, most - 1);
+    const mpz_class least = powerOfTen(most - 1); // of so many digits
     return most > 1 && mpz_cmpabs(value.get_mpz_t(), least.get_mpz_t()) < 0 ? most - 1 : most;
+}
+
+mpz_class powerOfTen(std::size_t exponent)
+{
+    mpz_class result;
+    mpz_ui_pow_ui(result.get_mpz_t(), 10, static_cast<unsigned long>(exponent));
+    return result;
 }
 
 std::string toText(const mpz_class &value)

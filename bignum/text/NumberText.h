@@ -35,6 +35,9 @@ std::optional<mpq_class> parseRational(std::string_view text);
 /// many, is not.
 std::size_t decimalDigits(const mpz_class &value);
 
+/// 10^exponent.
+mpz_class powerOfTen(std::size_t exponent);
+
 /// Decimal digits, with "-" before a negative value.
 std::string toText(const mpz_class &value);
 

@@ -4,8 +4,8 @@
 #include <QImage>
 #include <QObject>
 
-/// What plays one animation for a ReproductorAVI: a player of Qt Multimedia, or nothing at all where
-/// that is missing.
+/// What plays one animation for a ReproductorAVI: a player of Qt Multimedia, or nothing at all
+/// where that is missing.
 class MotorAVI : public QObject
 {
     Q_OBJECT

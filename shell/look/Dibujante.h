@@ -4,8 +4,8 @@
 #include <QIcon>
 #include <QImage>
 
-/// Where the pictures come from: drawn by Qt SVG, or, where that is missing, out of the bitmaps that
-/// were made of the same drawings while building.
+/// Where the pictures come from: drawn by Qt SVG, or, where that is missing, out of the bitmaps
+/// that were made of the same drawings while building.
 namespace Dibujante {
 
 /// One of the program's pictures (Imagenes.h) as an icon.

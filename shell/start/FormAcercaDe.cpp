@@ -8,6 +8,7 @@
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
+#include "shell/start/Carencias.h"
 #include "ui_FormAcercaDe.h"
 
 #include <QApplication>
@@ -41,6 +42,10 @@ formAcercaDe::formAcercaDe(QWidget *padre)
     Aspecto::destaca(ui->lblTitle, 2.4);
     ui->AniEscudo->carga(u"ClipArt\\escudo.avi"_s, u"ESCUDO"_s);
     ui->AniEscudo->setMinimumSize(ui->AniEscudo->sizeHint() * 1.5);
+
+    const QStringList frases = carencias();
+    ui->lblCarencias->setVisible(!frases.isEmpty());
+    ui->lblCarencias->setText(Traduce(u"En este equipo:"_s) + u'\n' + frases.join(u'\n'));
 
     conecta(ui->cmdOK, &QPushButton::clicked, this, &formAcercaDe::cmdOK_Click);
     conecta(ui->cmdSysInfo, &QPushButton::clicked, this, &formAcercaDe::cmdSysInfo_Click);

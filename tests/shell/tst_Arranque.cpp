@@ -7,37 +7,23 @@
 #include "shell/start/Main.h"
 #include "tests/shell/support/Entorno.h"
 
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <QProcess>
+#include <memory>
 
 namespace {
 
 /// Another process that holds the lock until it is killed.
-pid_t procesoConCerrojo(const QString &archivo)
+std::unique_ptr<QProcess> procesoConCerrojo(const QString &archivo)
 {
-    int tubo[2];
-    if (pipe(tubo) != 0)
-        return -1;
-    const pid_t hijo = fork();
-    if (hijo == 0) {
-        const InstanciaUnica suya(archivo);
-        if (write(tubo[1], "x", 1) == 1)
-            pause();
-        _exit(0);
-    }
-    char listo = 0;
-    if (read(tubo[0], &listo, 1) != 1)
-        return -1;
-    close(tubo[0]);
-    close(tubo[1]);
-    return hijo;
+    auto otro = std::make_unique<QProcess>();
+    otro->start(QStringLiteral(CERROJO), {archivo});
+    return otro->waitForReadyRead() ? std::move(otro) : nullptr;
 }
 
-void mata(pid_t proceso)
+void mata(QProcess &proceso)
 {
-    kill(proceso, SIGKILL);
-    waitpid(proceso, nullptr, 0);
+    proceso.kill();
+    QVERIFY(proceso.waitForFinished());
 }
 
 } // namespace
@@ -97,19 +83,20 @@ private Q_SLOTS:
     void cerrojo()
     {
         const QString archivo = Sesión().carpetaDeAjustes() + u"/prueba.lock"_s;
-        const pid_t otro = procesoConCerrojo(archivo);
-        QVERIFY(otro > 0);
+        const auto otro = procesoConCerrojo(archivo);
+        QVERIFY(otro);
         QVERIFY(InstanciaUnica(archivo).hayOtra());
-        mata(otro);
+        mata(*otro);
         QVERIFY(!InstanciaUnica(archivo).hayOtra());
         QVERIFY(!InstanciaUnica(u"/proc/imposible/cerrojo"_s).hayOtra());
     }
 
     void segundaInstancia()
     {
-        const pid_t otro = procesoConCerrojo(Sesión().carpetaDeAjustes() + u"/Numora.lock"_s);
+        const auto otro = procesoConCerrojo(Sesión().carpetaDeAjustes() + u"/Numora.lock"_s);
+        QVERIFY(otro);
         const Programa programa({}, {});
-        mata(otro);
+        mata(*otro);
         QVERIFY(!programa.principal());
         const auto mensaje = Entorno::grabadora().unico();
         QCOMPARE(mensaje.texto, u"Ya hay abierta una sesión del sistema Numora"_s);

@@ -3,6 +3,7 @@
 
 #include "bignum/arithmetic/Word.h"
 #include "bignum/sieve/Cores.h"
+#include "bignum/sieve/plan/SmallModulus.h"
 #include "bignum/sieve/sieving/FamilySieve.h"
 #include "bignum/sieve/sieving/RelationCollector.h"
 
