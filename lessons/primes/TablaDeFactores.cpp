@@ -5,6 +5,7 @@
 #include "lessons/primes/ColFactores.h"
 #include "lessons/primes/DivisionTentativa.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/run/Aparte.h"
 
@@ -87,7 +88,8 @@ void apuntaLoQueQueda(TablaDeFactores &tabla)
     QString hallados = u"1"_s;
     for (const Corte &corte : std::as_const(tabla.cortes))
         hallados += u"*%1^%2"_s.arg(corte.factor).arg(corte.exponente);
-    const QString resto = calculaEntero(u"abs(%1) / (%2)"_s.arg(tabla.numero, hallados)).value_or(tabla.numero);
+    const QString resto =
+        calculaEntero(u"abs(%1) / (%2)"_s.arg(tabla.numero, hallados)).value_or(tabla.numero);
     if (resto != u"1"_s)
         tabla.filas << FilaDeFactor{resto, u"1"_s, false};
 }

@@ -26,8 +26,7 @@ std::string lugares()
 {
     const Contenido contenido = contenidoDelPrograma();
     QStringList nombres;
-    for (const Leccion &leccion :
-         contenido.lecciones + QList<Leccion>{contenido.hojaDeCalculo}) {
+    for (const Leccion &leccion : contenido.lecciones + QList<Leccion>{contenido.hojaDeCalculo}) {
         for (const TemaDePagina &tema : leccion.temas)
             nombres << leccion.palabra + u'/' + tema.nombre;
     }
@@ -52,8 +51,7 @@ bool abreTema(const std::string &clave)
 QWidget *control(const QString &nombre)
 {
     QWidget *hallado = nullptr;
-    for (QWidget *uno :
-         principalDeLaPuerta()->leccionActiva()->findChildren<QWidget *>(nombre))
+    for (QWidget *uno : principalDeLaPuerta()->leccionActiva()->findChildren<QWidget *>(nombre))
         hallado = !hallado || uno->isVisible() ? uno : hallado;
     return hallado;
 }

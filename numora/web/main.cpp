@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/start/Main.h"
 #include "numora/Lecciones.h"
 #include "numora/web/Puerta.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/page/DireccionDeArranque.h"
-#include "shell/start/Main.h"
 #include "shell/web/InterlocutorWeb.h"
 
 #include <QApplication>
@@ -42,9 +42,8 @@ int main(int argc, char *argv[])
     Sesión().ponCarpeta(u"/numora"_s);
     const DireccionDeArranque direccion = leeDireccionDeArranque(direccionDeLaPagina());
     const QString linea = direccion.idioma.isEmpty() ? QString() : u"-i:"_s + direccion.idioma;
-    abrePuerta(new Programa(linea, contenidoDelPrograma(),
-                            {.presentacion = false,
-                             .oscuro = colores(direccion),
-                             .enlace = direccion.enlace}));
+    abrePuerta(new Programa(
+        linea, contenidoDelPrograma(),
+        {.presentacion = false, .oscuro = colores(direccion), .enlace = direccion.enlace}));
     return QApplication::exec();
 }

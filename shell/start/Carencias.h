@@ -3,6 +3,6 @@
 
 #include <QStringList>
 
-/// What the program does in another way here, because something that it can do without is missing: a
-/// sentence each, in the language of the program. Empty where nothing is.
+/// What the program does in another way here, because something that it can do without is missing:
+/// a sentence each, in the language of the program. Empty where nothing is.
 QStringList carencias();

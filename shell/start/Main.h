@@ -40,7 +40,8 @@ class Programa
 public:
     /// Begins the start routine, which goes on from the event loop where the user is asked. The
     /// program quits by itself when it ends without a main window.
-    Programa(const QString &lineaDeOrdenes, const Contenido &contenido, const Entrada &entrada = {});
+    Programa(const QString &lineaDeOrdenes, const Contenido &contenido,
+             const Entrada &entrada = {});
     ~Programa();
 
     /// Null before the start routine has come so far, and when it ends before.

@@ -23,9 +23,9 @@ EM_JS(void, empiezaTrabajador, (int numero, const char *orden, const char *dato)
     const trabajador = new Worker('apart.js');
     Module.apartes = Module.apartes || {};
     Module.apartes[numero] = trabajador;
-    trabajador.onmessage = (mensaje) => Module.diceElTrabajador(numero, mensaje.data);
-    trabajador.onerror = () => Module.diceElTrabajador(numero, 'failed');
-    trabajador.postMessage([UTF8ToString(orden), UTF8ToString(dato)]);
+    trabajador.onmessage = (mensaje) = > Module.diceElTrabajador(numero, mensaje.data);
+    trabajador.onerror = () = > Module.diceElTrabajador(numero, 'failed');
+    trabajador.postMessage([ UTF8ToString(orden), UTF8ToString(dato) ]);
 });
 
 EM_JS(void, acabaTrabajador, (int numero), {

@@ -81,13 +81,12 @@ Tarea<QString> InterlocutorWeb::eligeArchivoParaAbrir(QWidget *, QString, QStrin
                                                       QStringList filtros)
 {
     const auto dado = std::make_shared<ArchivoDado>();
-    QFileDialog::getOpenFileContent(
-        filtros.join(u";;"_s),
-        [dado](const QString &nombre, const QByteArray &contenido) {
-            dado->nombre = nombre;
-            dado->contenido = contenido;
-            dado->llegado.cumple();
-        });
+    QFileDialog::getOpenFileContent(filtros.join(u";;"_s),
+                                    [dado](const QString &nombre, const QByteArray &contenido) {
+                                        dado->nombre = nombre;
+                                        dado->contenido = contenido;
+                                        dado->llegado.cumple();
+                                    });
     co_await dado->llegado;
     if (dado->nombre.isEmpty())
         co_return QString();
@@ -109,8 +108,7 @@ Tarea<Interlocutor::Archivo> InterlocutorWeb::eligeArchivoParaGuardar(QWidget *p
     co_return elegido;
 }
 
-Tarea<bool> InterlocutorWeb::eligeImpresora(QWidget *, std::shared_ptr<QPrinter> impresora,
-                                            QString)
+Tarea<bool> InterlocutorWeb::eligeImpresora(QWidget *, std::shared_ptr<QPrinter> impresora, QString)
 {
     impresora->setOutputFormat(QPrinter::PdfFormat);
     const QString nombre = impresora->docName().isEmpty() ? u"Numora"_s : impresora->docName();

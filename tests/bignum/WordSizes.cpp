@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The C interface at values next to the sizes of words and halves of them, where a conversion that passes
-// through `unsigned long` or a limb goes wrong on systems where those are shorter. Without Qt, so that it runs
-// wherever the library does. The values come from Python and coreutils' factor.
+// The C interface at values next to the sizes of words and halves of them, where a conversion that
+// passes through `unsigned long` or a limb goes wrong on systems where those are shorter. Without
+// Qt, so that it runs wherever the library does. The values come from Python and coreutils' factor.
 #include "bignum/bignum.h"
 
 #include <array>
@@ -115,8 +115,7 @@ void checkArithmetic()
                return BMod("-147573952589676412928", "9223372036854775809", out);
            }),
            "16");
-    expect("PowMod",
-           written([&](char *out) { return PowMod(q, p, "147573952589676412927", out); }),
+    expect("PowMod", written([&](char *out) { return PowMod(q, p, "147573952589676412927", out); }),
            "113729833128908229811");
     expect("InvMod", written([&](char *out) { return InvMod("4294967311", p, out); }),
            "7828240132102393896");
@@ -145,8 +144,7 @@ void checkExpressions()
     expect("functions", value("mcd(3*2^64;5*2^65) + raiz(2^128) - mcm(2^32;2^33)"),
            "36893488138829168640");
     expect("factorial", value("21!/20!"), "21");
-    expect("fraction",
-           written([](char *out) { return QEval("(2^64+1)/2^65 + 1/2^32", out); }),
+    expect("fraction", written([](char *out) { return QEval("(2^64+1)/2^65 + 1/2^32", out); }),
            "18446744082299486209/36893488147419103232");
     // Products of lengths that fill more than 32 bits are refused at once.
     expect("too large", value("(2^65536)^65536"), "-");

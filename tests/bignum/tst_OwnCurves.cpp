@@ -25,7 +25,8 @@ private Q_SLOTS:
     {
         for (const mpz_class &n : {mpz_class(3), mpz_class((mpz_class(1) << 64) - 59), p20 * p40}) {
             MontgomeryModulus modulus(n);
-            for (const mpz_class &a : {mpz_class(0), mpz_class(1), mpz_class(n / 2), mpz_class(n - 1)}) {
+            for (const mpz_class &a :
+                 {mpz_class(0), mpz_class(1), mpz_class(n / 2), mpz_class(n - 1)}) {
                 auto x = modulus.fromInteger(a);
                 QCOMPARE(modulus.toInteger(x), a);
                 modulus.add(x, x, modulus.fromInteger(n - 1));

@@ -36,10 +36,17 @@ private Q_SLOTS:
 
     void counts()
     {
-        for (const auto &[limit, count] :
-             {std::pair{0, 0}, {1, 0}, {2, 1}, {3, 2}, {4, 2}, {65'536, 6542}, {65'537, 6543},
-              {1'000'000, 78'498}, {10'000'000, 664'579}})
-            QCOMPARE(bignum::countPrimesTo(static_cast<quint64>(limit)), static_cast<quint64>(count));
+        for (const auto &[limit, count] : {std::pair{0, 0},
+                                           {1, 0},
+                                           {2, 1},
+                                           {3, 2},
+                                           {4, 2},
+                                           {65'536, 6542},
+                                           {65'537, 6543},
+                                           {1'000'000, 78'498},
+                                           {10'000'000, 664'579}})
+            QCOMPARE(bignum::countPrimesTo(static_cast<quint64>(limit)),
+                     static_cast<quint64>(count));
     }
 };
 

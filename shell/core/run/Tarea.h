@@ -65,7 +65,10 @@ public:
 #endif
         void await_resume() const noexcept {}
     };
-    Final final_suspend() const noexcept { return {}; }
+    Final final_suspend() const noexcept
+    {
+        return {};
+    }
 
 protected:
     void lanzaSiFallo() const

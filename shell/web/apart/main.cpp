@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What runs in the worker of a browser (packaging/web/page/apart.js): the operations of the program's own gateway that
-// may last, told to the page by lines (shell/web/Aparte.cpp).
+// What runs in the worker of a browser (packaging/web/page/apart.js): the operations of the
+// program's own gateway that may last, told to the page by lines (shell/web/Aparte.cpp).
 
 #include "bignum/gateway/FactoresHallados.h"
 #include "bignum/gateway/ModBignum.h"
@@ -20,7 +20,10 @@ void di(const QStringList &campos)
 
 bool entrega(const FactorHallado &f)
 {
-    QStringList campos{u"factor"_s, f.base, QString::number(f.exponente), f.primo ? u"1"_s : u"0"_s,
+    QStringList campos{u"factor"_s,
+                       f.base,
+                       QString::number(f.exponente),
+                       f.primo ? u"1"_s : u"0"_s,
                        QString::number(static_cast<int>(f.metodo)),
                        QString::number(f.cotaDeCurva, 'g', 17)};
     for (const std::int64_t cuenta :
