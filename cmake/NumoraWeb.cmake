@@ -28,7 +28,7 @@ function(numora_web_folder NAME)
         "SHELL:--preload-file ${folder}/Doc@/numora/Doc"
         "SHELL:--preload-file ${folder}/Numora.txt@/numora/Numora.txt"
         "SHELL:--preload-file ${folder}/ClipArt/escudo.avi@/numora/ClipArt/escudo.avi")
-    add_dependencies(${NAME} carpeta_de_trabajo numora_figuras)
+    add_dependencies(${NAME} carpeta_de_trabajo)
 endfunction()
 
 # numora_web_worker(NAME SOURCES...): what runs apart in a worker: the library and its gateway, no windows.

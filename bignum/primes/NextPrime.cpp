@@ -94,7 +94,7 @@ mpz_class nextPrime(const mpz_class &n)
     if (n < fromUint64(largestWordPrime))
         return fromUint64(nextPrimeInWord(n < 2 ? 0 : toUint64(n)));
 
-    const mp_bitcnt_t bits = mpz_sizeinbase(n.get_mpz_t(), 2);
+    const auto bits = static_cast<mp_bitcnt_t>(mpz_sizeinbase(n.get_mpz_t(), 2));
     const mp_bitcnt_t count = 4 * bits; // reaches over a dozen times the average gap
     mpz_class start = n % 2 == 0 ? n + 1 : n + 2;
     for (;; start += 2 * count) {

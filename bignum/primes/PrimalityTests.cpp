@@ -60,7 +60,8 @@ bool passesLucasTest(const mpz_class &n)
     auto next = zero;
     modulus.square(next, first);
     modulus.subtract(next, next, two);
-    for (mp_bitcnt_t bit = mpz_sizeinbase(plusOne.get_mpz_t(), 2) - 1; bit-- > twos;) {
+    for (auto bit = static_cast<mp_bitcnt_t>(mpz_sizeinbase(plusOne.get_mpz_t(), 2)) - 1;
+         bit-- > twos;) {
         const bool set = mpz_tstbit(plusOne.get_mpz_t(), bit) != 0;
         auto &between = set ? v : next; // V(2k+1)
         auto &doubled = set ? next : v; // V(2k+2) or V(2k)

@@ -18,7 +18,7 @@ construye() {
     [ -e "$obra/build.ninja" ] || cmake -S . -B "$obra" -G Ninja -DCMAKE_BUILD_TYPE=Release -DNUMORA_PCH=ON \
         -DCMAKE_TOOLCHAIN_FILE="$LIBS_WEB/lib/cmake/Qt6/qt.toolchain.cmake" -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" \
         -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$(carpeta_de_cmake)" -DNUMORA_SVG=OFF -DNUMORA_MULTIMEDIA=OFF \
-        -DNUMORA_ECM=OFF -DNUMORA_PRIMESIEVE=OFF -DGMP_INCLUDE_DIR="$LIBS_WEB/include" \
+        -DNUMORA_FIGURE_PERCENTS=150 -DNUMORA_ECM=OFF -DNUMORA_PRIMESIEVE=OFF -DGMP_INCLUDE_DIR="$LIBS_WEB/include" \
         -DGMP_LIBRARY="$LIBS_WEB/lib/libgmp.a" -DGMPXX_LIBRARY="$LIBS_WEB/lib/libgmpxx.a" \
         -DSQLite3_INCLUDE_DIR="$LIBS_WEB/include" -DSQLite3_LIBRARY="$LIBS_WEB/lib/libsqlite3.a"
     cmake --build "$obra" -j"$TRABAJOS" --target "$@"

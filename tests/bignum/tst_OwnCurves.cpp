@@ -23,7 +23,8 @@ class TestOwnCurves : public QObject
 private Q_SLOTS:
     void residues()
     {
-        for (const mpz_class &n : {mpz_class(3), mpz_class((mpz_class(1) << 64) - 59), p20 * p40}) {
+        for (const mpz_class &n :
+             {mpz_class(3), mpz_class((mpz_class(1) << 64) - 59), mpz_class(p20 * p40)}) {
             MontgomeryModulus modulus(n);
             for (const mpz_class &a :
                  {mpz_class(0), mpz_class(1), mpz_class(n / 2), mpz_class(n - 1)}) {
