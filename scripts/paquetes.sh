@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs and that are missing. Usage:
-#   instala_paquetes run|test|bare|fuzz|bench|package|windows
+#   instala_paquetes run|test|bare|fuzz|bench|package|web|windows
 # Sourced by run.sh, test.sh and the other scripts; does nothing where everything is there.
 
 PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
@@ -12,6 +12,7 @@ PAQUETES_PACKAGE=(dpkg-dev file lintian appstream desktop-file-utils mandoc xvfb
 PAQUETES_WINDOWS=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 nsis zip librsvg2-bin pngquant icoutils make m4 tcl dpkg-dev)
 PAQUETES_BARE=(librsvg2-bin pngquant)
 PAQUETES_FUZZ=(clang-14 libclang-rt-14-dev)
+PAQUETES_WEB=(emscripten dpkg-dev make m4 tcl librsvg2-bin pngquant nodejs node-ws chromium python3)
 PAQUETES_BENCH=(libbenchmark-dev libpari-dev pari-gp)
 
 instala_paquetes() {
@@ -24,6 +25,7 @@ instala_paquetes() {
             fuzz) quieren+=("${PAQUETES_FUZZ[@]}") ;;
             windows) quieren+=("${PAQUETES_WINDOWS[@]}") ;;
             package) quieren+=("${PAQUETES_PACKAGE[@]}") ;;
+            web) quieren+=("${PAQUETES_WEB[@]}") ;;
             bench) quieren+=("${PAQUETES_BENCH[@]}") ;;
         esac
     done

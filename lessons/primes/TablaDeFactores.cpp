@@ -5,7 +5,9 @@
 #include "lessons/primes/ColFactores.h"
 #include "lessons/primes/DivisionTentativa.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/run/Aparte.h"
 
 #include <algorithm>
 #include <tuple>
@@ -67,6 +69,35 @@ TablaDeFactores::Desenlace desenlaceDe(FinDeFactores fin)
         break;
     }
     return TablaDeFactores::QuedaCompuesto;
+}
+
+RecibeFactor apuntaEn(TablaDeFactores &tabla)
+{
+    return [&tabla](const FactorHallado &factor) {
+        tabla.filas << filaDe(factor);
+        tabla.cortes << Corte{factor.base, factor.exponente, factor.primo,
+                              factor.metodo == MetodoDeFactor::Ninguno,
+                              tabla.filas.last().hallazgo};
+        return true;
+    };
+}
+
+/// What none of the factors of a run that was ended from outside holds.
+void apuntaLoQueQueda(TablaDeFactores &tabla)
+{
+    QString hallados = u"1"_s;
+    for (const Corte &corte : std::as_const(tabla.cortes))
+        hallados += u"*%1^%2"_s.arg(corte.factor).arg(corte.exponente);
+    const QString resto =
+        calculaEntero(u"abs(%1) / (%2)"_s.arg(tabla.numero, hallados)).value_or(tabla.numero);
+    if (resto != u"1"_s)
+        tabla.filas << FilaDeFactor{resto, u"1"_s, false};
+}
+
+void acaba(TablaDeFactores &tabla, FinDeFactores fin)
+{
+    std::ranges::sort(tabla.filas, vaAntes);
+    tabla.desenlace = tabla.numero == u"0"_s ? TablaDeFactores::EsCero : desenlaceDe(fin);
 }
 
 QString entreParentesis(const QString &numero)
@@ -167,16 +198,21 @@ QList<Corte> cortesDe(const RastroDeDivision &rastro)
 TablaDeFactores factorizaGrande(const QString &n)
 {
     TablaDeFactores tabla{n};
-    const FinDeFactores fin = BuscaFactores(n, [&](const FactorHallado &factor) {
-        tabla.filas << filaDe(factor);
-        tabla.cortes << Corte{factor.base, factor.exponente, factor.primo,
-                              factor.metodo == MetodoDeFactor::Ninguno,
-                              tabla.filas.last().hallazgo};
-        return true;
-    });
-    std::ranges::sort(tabla.filas, vaAntes);
-    tabla.desenlace = n == u"0"_s ? TablaDeFactores::EsCero : desenlaceDe(fin);
+    const FinDeFactores fin = BuscaFactores(n, apuntaEn(tabla));
+    acaba(tabla, fin);
     return tabla;
+}
+
+Tarea<TablaDeFactores> factorizaAparte(QString n, Billete billete)
+{
+    TablaDeFactores tabla;
+    tabla.numero = n;
+    const RecibeFactor recibe = apuntaEn(tabla);
+    const FinDeFactores fin = co_await Aparte::buscaFactores(n, recibe, billete);
+    if (fin == FinDeFactores::Detenido)
+        apuntaLoQueQueda(tabla);
+    acaba(tabla, fin);
+    co_return tabla;
 }
 
 bool puedeTardar(const QString &n)

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/run/Billete.h"
+#include "shell/core/run/Tarea.h"
+
 #include <QList>
 #include <QString>
 
@@ -65,6 +68,10 @@ QList<Corte> cortesDe(const RastroDeDivision &rastro);
 /// The factors of |n|, whatever its size, by libbignum: primes ascending, then what it could not
 /// split. Blocks until they are found, or until the effort of the library is spent.
 TablaDeFactores factorizaGrande(const QString &n);
+
+/// The same where the window may go on meanwhile (Aparte). A stopped run leaves what was not found
+/// by then as one composite.
+Tarea<TablaDeFactores> factorizaAparte(QString n, Billete billete);
 
 /// Whether that may take so long that the student is to be told before.
 bool puedeTardar(const QString &n);

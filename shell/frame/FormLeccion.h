@@ -70,6 +70,7 @@ public:
     bool rellenaCampo(const QString &campo, const QString &valor);
 
     /// Shows a way back to the page that led here, by a button and by Alt+Left, until it is taken.
+    /// Empty where no page led here.
     void ofreceVuelta(const std::function<void()> &vuelve);
 
     /// Gives the topic of questions a button that goes on to more exercises.

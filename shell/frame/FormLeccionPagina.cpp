@@ -84,7 +84,7 @@ bool FormLeccion::introduccionAlFrente() const
 void FormLeccion::ofreceVuelta(const std::function<void()> &vuelve)
 {
     m_vuelve = vuelve;
-    m_cmdVolver->show();
+    m_cmdVolver->setVisible(static_cast<bool>(vuelve));
 }
 
 /// Without a page that led here, back is the lesson's own.

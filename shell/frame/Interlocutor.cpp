@@ -338,13 +338,15 @@ void Interlocutor::abre(const QString &direccion)
     QDesktopServices::openUrl(local);
 }
 
-bool Interlocutor::lanzaAlguno(const QList<QStringList> &ordenes)
+bool Interlocutor::lanzaAlguno([[maybe_unused]] const QList<QStringList> &ordenes)
 {
+#if QT_CONFIG(process)
     for (const QStringList &orden : ordenes) {
         const QString programa = QStandardPaths::findExecutable(orden.first());
         if (!programa.isEmpty() && QProcess::startDetached(programa, orden.sliced(1)))
             return true;
     }
+#endif
     return false;
 }
 

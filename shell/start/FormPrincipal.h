@@ -48,6 +48,10 @@ public:
     /// lessons does not does nothing. A sentence where something could not be done, else empty.
     QString sigueEnlace(const QUrl &direccion, int desde);
 
+    /// Follows such a link that comes from outside the program, and tells the user where something
+    /// could not be done.
+    void llega(const QUrl &enlace);
+
     /// Opens the practice window on a lesson, a kind of exercise at a level (0: the one that is
     /// next), or with no key on what is due (VentanaDePracticas). A sentence for the student where
     /// there is no such thing.

@@ -4,6 +4,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/core/page/EnlaceDePagina.h"
 #include "shell/frame/FormLeccion.h"
+#include "shell/frame/Interlocutor.h"
 #include "shell/page/PaginaDeLeccion.h"
 
 #include <QAbstractItemView>
@@ -103,6 +104,19 @@ void FormPrincipal::preparaEnlaces(FormLeccion *leccion, int fila)
         pagina->ponGuia([this, fila](const QUrl &enlace) { return sigueEnlace(enlace, fila); });
 }
 
+void FormPrincipal::llega(const QUrl &enlace)
+{
+    // What the session has open comes back first, and the windows get their sizes.
+    QTimer::singleShot(0, this, [this, enlace] {
+        evento(this, [&] {
+            const QString frase = sigueEnlace(enlace, NingunaFila);
+            if (!frase.isEmpty())
+                interlocutor().avisa(this, Interlocutor::Icono::Informacion, frase,
+                                     Traduce(u"Enlace"_s));
+        });
+    });
+}
+
 QString FormPrincipal::sigueEnlace(const QUrl &direccion, int desde)
 {
     const EnlaceDePagina leido = leeEnlace(direccion);
@@ -148,6 +162,8 @@ QString FormPrincipal::sigueEnlace(const EnlaceDeLeccion &enlace, int desde)
 
 std::function<void()> FormPrincipal::vueltaA(int fila)
 {
+    if (fila == NingunaFila)
+        return {};
     const QPointer<FormLeccion> leccion = m_abiertas.value(fila);
     const auto lugar = leccion && leccion->pagina() ? leccion->pagina()->navegador()->lugar()
                                                     : NavegadorPagina::Lugar();

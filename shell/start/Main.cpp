@@ -74,21 +74,24 @@ void preparaAplicacion()
     instalaTextosDeQt();
 }
 
-Programa::Programa(const QString &lineaDeOrdenes, const Contenido &contenido)
+Programa::Programa(const QString &lineaDeOrdenes, const Contenido &contenido,
+                   const Entrada &entrada)
 {
-    m_tareas.lanza(Main(lineaDeOrdenes, contenido));
+    m_tareas.lanza(Main(lineaDeOrdenes, contenido, entrada));
 }
 
 Programa::~Programa() = default;
 
 /// The start routine: refuses a second instance, finds the working folder, takes the language,
 /// loads the main window without showing it, shows the splash, and starts the big-number service.
-Tarea<> Programa::Main(QString lineaDeOrdenes, Contenido contenido)
+Tarea<> Programa::Main(QString lineaDeOrdenes, Contenido contenido, Entrada entrada)
 {
     // The box that closes is the last window: the program goes on as long as this is held, and
     // quits when it is let go and there is still no window.
     const QEventLoopLocker enMarcha;
     preparaAplicacion();
+    if (entrada.oscuro)
+        Aspecto::aplica(*entrada.oscuro ? Aspecto::Tema::Oscuro : Aspecto::Tema::Claro);
     m_instancia = std::make_unique<InstanciaUnica>(Sesión().carpetaDeAjustes() + u"/Numora.lock"_s);
     if (m_instancia->hayOtra()) {
         co_await interlocutor().avisaYEspera(nullptr, Interlocutor::Icono::Informacion,
@@ -107,9 +110,15 @@ Tarea<> Programa::Main(QString lineaDeOrdenes, Contenido contenido)
     ImgStop() = Icono(u"STOP"_s);
 
     m_principal = std::make_unique<FormPrincipal>(contenido);
-    m_principal->muestraAcercaDe(/*presentacion*/ true);
-    QCoreApplication::processEvents();
+    if (entrada.presentacion) {
+        m_principal->muestraAcercaDe(/*presentacion*/ true);
+        QCoreApplication::processEvents();
+    } else {
+        m_principal->show();
+    }
     // From here on: to be told to end before the event loop runs, ends the program at once.
     m_fin = std::make_unique<FinDeSesion>(m_principal.get());
     evento(m_principal.get(), [] { IniciaBignum(Sesión().Precisión()); });
+    if (!entrada.enlace.isEmpty())
+        m_principal->llega(entrada.enlace);
 }

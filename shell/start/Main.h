@@ -5,7 +5,9 @@
 #include "shell/frame/Leccion.h"
 
 #include <QString>
+#include <QUrl>
 #include <memory>
+#include <optional>
 
 class FinDeSesion;
 class FormPrincipal;
@@ -24,20 +26,29 @@ QString idiomaDeLinea(const QString &lineaDeOrdenes);
 /// twice and storing whatever is answered. False when the last answer is wrong too.
 Tarea<bool> encuentraCarpetaDeTrabajo();
 
+/// How the program shows itself when it starts.
+struct Entrada
+{
+    bool presentacion = true;   ///< the splash comes before the main window
+    std::optional<bool> oscuro; ///< dark or light colours for this time, whatever the settings say
+    QUrl enlace;                ///< "numora:…", followed when the main window is there
+};
+
 /// What lives while the program runs.
 class Programa
 {
 public:
     /// Begins the start routine, which goes on from the event loop where the user is asked. The
     /// program quits by itself when it ends without a main window.
-    Programa(const QString &lineaDeOrdenes, const Contenido &contenido);
+    Programa(const QString &lineaDeOrdenes, const Contenido &contenido,
+             const Entrada &entrada = {});
     ~Programa();
 
     /// Null before the start routine has come so far, and when it ends before.
     FormPrincipal *principal() const { return m_principal.get(); }
 
 private:
-    Tarea<> Main(QString lineaDeOrdenes, Contenido contenido);
+    Tarea<> Main(QString lineaDeOrdenes, Contenido contenido, Entrada entrada);
 
     std::unique_ptr<InstanciaUnica> m_instancia;
     std::unique_ptr<FormPrincipal> m_principal;

@@ -172,6 +172,19 @@ numora:minical/hoja?txtPrecisión=3)"_s);
         QVERIFY(m_lectura->pagina()->isVisible());
     }
 
+    /// From an address outside the program no page is left to go back to.
+    void llegaDeFuera()
+    {
+        abre();
+        m_principal->llega(QUrl(u"numora:primos/test?txtNúmero=91"_s));
+        QTRY_VERIFY(m_principal->leccionActiva() != m_lectura);
+        FormLeccion *primos = m_principal->leccionActiva();
+        QCOMPARE(valorDe(control<QWidget>(primos, u"txtNúmero"_s)), u"91"_s);
+        QVERIFY(!control<QToolButton>(primos, u"cmdVolver"_s)->isVisible());
+        m_principal->llega(QUrl(u"numora:nada/de-nada"_s));
+        QTRY_COMPARE(std::exchange(Entorno::grabadora().mensajes, {}).size(), 1);
+    }
+
     void deIdaYVuelta()
     {
         abre();

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/ModGlobal.h"
+#include "shell/core/page/DireccionDeArranque.h"
+#include "shell/core/page/EnlaceDePagina.h"
 #include "shell/core/system/InstanciaUnica.h"
 #include "shell/start/FormPrincipal.h"
 #include "shell/start/Main.h"
@@ -39,6 +41,26 @@ private Q_SLOTS:
              u"=Español|uno dos=Español|-I:English=Español|-i:English=English|x -i:English=English|"
              "-i:English x=|-i:English abcdef=def|-i:English ="_s.split(u'|'))
             QCOMPARE(idiomaDeLinea(fila.section(u'=', 0, 0)), fila.section(u'=', 1));
+    }
+
+    void direccion()
+    {
+        for (const auto &[texto, idioma, oscuro, enlace] :
+             {std::tuple{u""_s, u""_s, u"-"_s, u""_s},
+              {u"?i=English"_s, u"English"_s, u"-"_s, u""_s},
+              {u"?oscuro"_s, u""_s, u"1"_s, u""_s},
+              {u"?oscuro=0&i=English#rsa/clave"_s, u"English"_s, u"0"_s, u"numora:rsa/clave"_s},
+              {u"#primos/factorizacion?TxtN=2^67-1&OptAlgoritmo_2=1"_s, u""_s, u"-"_s,
+               u"numora:primos/factorizacion?TxtN=2^67-1&OptAlgoritmo_2=1"_s}}) {
+            const auto leida = leeDireccionDeArranque(QUrl(u"http://x/numora/"_s + texto));
+            QCOMPARE(leida.idioma, idioma);
+            QCOMPARE(leida.oscuro ? QString::number(*leida.oscuro) : u"-"_s, oscuro);
+            QCOMPARE(leida.enlace, QUrl(enlace));
+        }
+        const auto leido = leeEnlace(
+            leeDireccionDeArranque(QUrl(u"http://x/#minical/hoja?A1=1%262&A2=3"_s)).enlace);
+        const QList<QPair<QString, QString>> campos{{u"A1"_s, u"1&2"_s}, {u"A2"_s, u"3"_s}};
+        QCOMPARE(std::get<EnlaceDeLeccion>(leido).campos, campos);
     }
 
     /// A third answer is not asked for.

@@ -10,6 +10,7 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/run/Aparte.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/Veredicto.h"
@@ -132,7 +133,7 @@ void FormPrimosFactorizacion::ponEnMarcha(Algoritmo elegido, const QString &nume
     FlexFactores_EnterCell(-1);
     ui->txtProductoDeFactores->setText({});
     ui->lblResultado->setText(
-        elegido == Avanzado && puedeTardar(numero)
+        elegido == Avanzado && puedeTardar(numero) && !Aparte::responde()
             ? Traduce(u"Factorizando… Con tantas cifras puede durar hasta dos minutos, en los que "
                       u"la ventana no responde."_s)
             : Traduce(u"Factorizando…"_s));
@@ -172,7 +173,7 @@ Tarea<TablaDeFactores> FormPrimosFactorizacion::halla(Algoritmo elegido, QString
     if (elegido == Avanzado) {
         // Nothing is painted any more until it has returned.
         ui->lblResultado->repaint();
-        co_return factorizaGrande(numero);
+        co_return co_await factorizaAparte(numero, billete);
     }
     co_return co_await divide(elegido, numero, moneda, billete);
 }

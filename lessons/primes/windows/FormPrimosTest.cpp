@@ -5,7 +5,7 @@
 #include "shell/controls/CampoLargo.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
-#include "shell/frame/Evento.h"
+#include "shell/core/run/Aparte.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
@@ -28,26 +28,33 @@ constexpr std::int32_t BitsDelAlAzar = 1'800;
 
 } // namespace
 
-/// What tells that a call of the number service is going on, during which nothing is painted: the
-/// hourglass and, where it may take more than two seconds, a line. Both stand on screen before the
-/// call begins.
-class FormPrimosTest::Espera
+/// What tells that a call of the number service is going on, during which nothing is painted where
+/// the window does not answer: the hourglass and, where it may take more than two seconds, a line.
+/// Both stand on screen before the call begins.
+class FormPrimosTest::Reloj
 {
 public:
-    Espera(FormPrimosTest *panel, bool larga) : m_panel(panel)
+    Reloj(FormPrimosTest *panel, bool larga) : m_panel(panel)
     {
+        panel->m_enMarcha = true;
         panel->m_leccion->setCursor(Qt::WaitCursor);
         if (!larga)
             return;
         panel->ui->lblEspera->setText(
-            Traduce(u"Con un número tan grande puede tardar desde segundos hasta minutos, en los "
-                    u"que la ventana no responde."_s));
+            Aparte::responde()
+                ? Traduce(u"Con un número tan grande puede tardar desde segundos hasta minutos."_s)
+                : Traduce(u"Con un número tan grande puede tardar desde segundos hasta minutos, en "
+                          u"los que la ventana no responde."_s));
         panel->layout()->activate();
         panel->repaint();
     }
-    ~Espera() { m_panel->ui->lblEspera->clear(); }
-    Espera(const Espera &) = delete;
-    Espera &operator=(const Espera &) = delete;
+    ~Reloj()
+    {
+        m_panel->m_enMarcha = false;
+        m_panel->ui->lblEspera->clear();
+    }
+    Reloj(const Reloj &) = delete;
+    Reloj &operator=(const Reloj &) = delete;
 
     void quitaElReloj() { m_panel->m_leccion->unsetCursor(); }
 
@@ -60,7 +67,8 @@ FormPrimosTest::FormPrimosTest(QWidget *leccion)
       ui(std::make_unique<Ui::FormPrimosTest>()),
       m_leccion(leccion),
       m_pasos(new PanelDePasos(u"Test de primos"_s, this)),
-      m_historial({Traduce(u"Número"_s), Traduce(u"bits"_s), Traduce(u"Veredicto"_s)})
+      m_historial({Traduce(u"Número"_s), Traduce(u"bits"_s), Traduce(u"Veredicto"_s)}),
+      m_tareas(this)
 {
     ui->setupUi(this);
     traduceVentana(this);
@@ -127,30 +135,40 @@ void FormPrimosTest::txtNumero_Change()
                                                     : u"Pulse en el botón para ver si es primo"_s));
 }
 
-void FormPrimosTest::cmdEsPrimo_Click()
+Tarea<> FormPrimosTest::cmdEsPrimo_Click()
 {
+    if (m_enMarcha)
+        co_return;
     const QString numero = ui->txtNúmero->text();
     const std::int32_t bits = NumeroDeBits(numero);
     {
-        Espera espera(this, bits >= BitsDelTest);
-        SetSemaforo(EsPrimo(numero));
-        espera.quitaElReloj();
+        Reloj reloj(this, bits >= BitsDelTest);
+        const bool primo = co_await Aparte::esPrimo(numero, m_tareas.billete());
+        reloj.quitaElReloj();
+        // Another number may have been typed meanwhile.
+        if (ui->txtNúmero->text() != numero)
+            co_return;
+        SetSemaforo(primo);
     }
     ui->txtNumBits->setText(QString::number(bits));
     anota(numero, ui->imgTestPrimo->imagen() == u"SEMAFOROVERDE"_s, bits);
 }
 
-void FormPrimosTest::cmdSigPrimo_Click()
+Tarea<> FormPrimosTest::cmdSigPrimo_Click()
 {
+    if (m_enMarcha)
+        co_return;
     const QString numero = ui->txtNúmero->text();
-    Espera espera(this, NumeroDeBits(numero) >= BitsDelSiguiente);
-    const QString primo = PrimoSiguiente(numero);
+    Reloj reloj(this, NumeroDeBits(numero) >= BitsDelSiguiente);
+    const QString primo = co_await Aparte::primoSiguiente(numero, m_tareas.billete());
+    reloj.quitaElReloj();
+    if (ui->txtNúmero->text() != numero)
+        co_return;
     if (muestraPrimo(primo)) {
         const std::int32_t bits = NumeroDeBits(primo);
         ui->txtNumBits->setText(QString::number(bits));
         anota(primo, true, bits);
     }
-    espera.quitaElReloj();
 }
 
 void FormPrimosTest::txtNumBits_Change()
@@ -158,22 +176,24 @@ void FormPrimosTest::txtNumBits_Change()
     ui->cmdNumBits->setEnabled(EsNumerico(Evalua(ui->txtNumBits->text(), MaximoDeBits)));
 }
 
-void FormPrimosTest::cmdNumBits_Click()
+Tarea<> FormPrimosTest::cmdNumBits_Click()
 {
+    if (m_enMarcha)
+        co_return;
     const QString resultado = Evalua(ui->txtNumBits->text(), MaximoDeBits);
     if (!EsNumerico(resultado)) {
         ui->txtNumBits->setFocus();
-        return;
+        co_return;
     }
     const std::int16_t bits = Moneda::deTexto(resultado).value_or(Moneda()).aEntero16();
-    Espera espera(this, bits >= BitsDelAlAzar);
+    Reloj reloj(this, bits >= BitsDelAlAzar);
     if (bits <= 0) {
         // The pointer stays an hourglass until the next search succeeds.
         ui->txtNumBits->setFocus();
-        return;
+        co_return;
     }
-    const QString primo = PrimoAleatorio(bits);
+    const QString primo = co_await Aparte::primoAleatorio(bits, m_tareas.billete());
     if (muestraPrimo(primo))
         anota(primo, true, bits);
-    espera.quitaElReloj();
+    reloj.quitaElReloj();
 }

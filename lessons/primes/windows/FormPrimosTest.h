@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/core/ModeloFilas.h"
+#include "shell/frame/Evento.h"
 
 #include <QWidget>
 #include <memory>
@@ -25,18 +26,20 @@ public:
 
     PanelDePasos *pasos() const { return m_pasos; }
 
+    TareasDeVentana &tareas() { return m_tareas; }
+
 private:
-    class Espera;
+    class Reloj;
 
     void SetSemaforo(bool primo);
     bool muestraPrimo(const QString &primo);
     void ponVeredicto(const QString &texto);
 
     void txtNumero_Change();
-    void cmdEsPrimo_Click();
-    void cmdSigPrimo_Click();
+    Tarea<> cmdEsPrimo_Click();
+    Tarea<> cmdSigPrimo_Click();
     void txtNumBits_Change();
-    void cmdNumBits_Click();
+    Tarea<> cmdNumBits_Click();
 
     void preparaPasos();
     void anota(const QString &numero, bool primo, int bits);
@@ -51,4 +54,6 @@ private:
     ModeloFilas m_historial;
     QString m_probado; ///< the number of the verdict in sight; empty once the field has changed
     bool m_esPrimo = false;
+    bool m_enMarcha = false; ///< a call of the number service goes on
+    TareasDeVentana m_tareas;
 };

@@ -37,7 +37,7 @@ public:
     public:
         bool await_ready() const noexcept { return false; }
         template <typename P>
-        std::coroutine_handle<> await_suspend(std::coroutine_handle<P> acabada) const noexcept
+        std::coroutine_handle<> siguienteDe(std::coroutine_handle<P> acabada) const noexcept
         {
             // The caller's frame may destroy this one: it is read before anything goes on.
             const Promesa &promesa = acabada.promise();
@@ -47,9 +47,28 @@ public:
                 promesa.m_dueno->haTerminado(acabada);
             return std::noop_coroutine();
         }
+#ifdef __EMSCRIPTEN__
+        // Not every browser can jump from one body into another: the next one goes on inside this
+        // call, as deep as tasks stand in each other. Not inlined, or its locals would lie in the
+        // frame that is gone when it returns.
+        template <typename P>
+        [[gnu::noinline]] void await_suspend(std::coroutine_handle<P> acabada) const noexcept
+        {
+            siguienteDe(acabada).resume();
+        }
+#else
+        template <typename P>
+        std::coroutine_handle<> await_suspend(std::coroutine_handle<P> acabada) const noexcept
+        {
+            return siguienteDe(acabada);
+        }
+#endif
         void await_resume() const noexcept {}
     };
-    Final final_suspend() const noexcept { return {}; }
+    Final final_suspend() const noexcept
+    {
+        return {};
+    }
 
 protected:
     void lanzaSiFallo() const

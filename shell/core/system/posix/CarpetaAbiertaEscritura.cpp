@@ -44,10 +44,14 @@ bool reservaYRenombra(int carpeta, const char *archivo, const char *nombre)
 
 bool renombraSiLibre(int carpeta, const char *archivo, const char *nombre)
 {
+#ifdef RENAME_NOREPLACE
     if (::renameat2(carpeta, archivo, carpeta, nombre, RENAME_NOREPLACE) == 0)
         return true;
     const bool noSabe = errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
     return noSabe && reservaYRenombra(carpeta, archivo, nombre);
+#else
+    return reservaYRenombra(carpeta, archivo, nombre);
+#endif
 }
 
 } // namespace

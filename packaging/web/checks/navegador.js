@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Chromium without a window, spoken to over its debugging protocol (ws, of Debian's node-ws).
+"use strict";
+
+const { spawn } = require("node:child_process");
+const fs = require("node:fs");
+const os = require("node:os");
+const path = require("node:path");
+const WebSocket = require("ws");
+
+const espera = (ms) => new Promise((listo) => setTimeout(listo, ms));
+
+/// Asks again and again until `prueba` gives something; throws when it never does.
+async function hasta(prueba, que, plazo = 60000) {
+    const limite = Date.now() + plazo;
+    for (;;) {
+        const valor = await prueba();
+        if (valor)
+            return valor;
+        if (Date.now() > limite)
+            throw new Error(`not within ${plazo / 1000} s: ${que}`);
+        await espera(100);
+    }
+}
+
+class Navegador {
+    /// `ancho` × `alto` is the size of the page.
+    static async abre(ancho = 1366, alto = 768) {
+        const navegador = new Navegador();
+        navegador.carpeta = fs.mkdtempSync(path.join(os.tmpdir(), "numora-web-"));
+        // Qt wants WebGL, which software has to draw here.
+        navegador.proceso = spawn("chromium", ["--headless=new", "--no-sandbox", "--disable-dev-shm-usage",
+            "--use-angle=swiftshader", "--enable-unsafe-swiftshader", "--ignore-gpu-blocklist",
+            "--remote-debugging-port=0", `--user-data-dir=${navegador.carpeta}`, `--window-size=${ancho},${alto}`,
+            "about:blank"], { stdio: "ignore" });
+        const nota = path.join(navegador.carpeta, "DevToolsActivePort");
+        const [puerto] = await hasta(() => fs.existsSync(nota) && fs.readFileSync(nota, "utf8").split("\n"),
+            "the browser's debugging port");
+        const paginas = await (await hasta(() => fetch(`http://127.0.0.1:${puerto}/json`).catch(() => null),
+            "the browser's pages")).json();
+        await navegador.conecta(paginas.find((pagina) => pagina.type === "page").webSocketDebuggerUrl);
+        await navegador.manda("Emulation.setDeviceMetricsOverride",
+            { width: ancho, height: alto, deviceScaleFactor: 1, mobile: false });
+        return navegador;
+    }
+
+    conecta(direccion) {
+        this.enchufe = new WebSocket(direccion, { maxPayload: 1 << 28 });
+        this.turno = 0;
+        this.esperan = new Map();
+        this.quejas = [];
+        this.enchufe.on("message", (texto) => this.oye(JSON.parse(texto)));
+        return new Promise((listo, mal) => this.enchufe.on("open", listo).on("error", mal)).then(() =>
+            Promise.all(["Page", "Runtime", "Log", "Network"].map((parte) => this.manda(`${parte}.enable`))));
+    }
+
+    oye(mensaje) {
+        if (mensaje.id) {
+            const { listo, mal } = this.esperan.get(mensaje.id);
+            this.esperan.delete(mensaje.id);
+            return mensaje.error ? mal(new Error(mensaje.error.message)) : listo(mensaje.result);
+        }
+        const datos = mensaje.params;
+        if (mensaje.method === "Runtime.exceptionThrown")
+            this.quejas.push(datos.exceptionDetails.exception?.description ?? datos.exceptionDetails.text);
+        else if (mensaje.method === "Runtime.consoleAPICalled" && ["error", "assert"].includes(datos.type))
+            this.quejas.push(datos.args.map((arg) => arg.value ?? arg.description).join(" "));
+        else if (mensaje.method === "Log.entryAdded" && datos.entry.level === "error")
+            this.quejas.push(`${datos.entry.text} ${datos.entry.url ?? ""}`);
+        return undefined;
+    }
+
+    manda(method, params = {}) {
+        const id = ++this.turno;
+        this.enchufe.send(JSON.stringify({ id, method, params }));
+        return new Promise((listo, mal) => this.esperan.set(id, { listo, mal }));
+    }
+
+    async evalua(expression) {
+        const { result, exceptionDetails } = await this.manda("Runtime.evaluate",
+            { expression, awaitPromise: true, returnByValue: true, userGesture: true });
+        if (exceptionDetails)
+            throw new Error(exceptionDetails.exception?.description ?? exceptionDetails.text);
+        return result.value;
+    }
+
+    /// Calls a function of the program's door.
+    pide(nombre, ...argumentos) {
+        return this.evalua(`window.numora.${nombre}(${argumentos.map((uno) => JSON.stringify(uno)).join(", ")})`);
+    }
+
+    /// Opens an address and waits until the program's main window has been painted; how long that took, in ms.
+    async visita(direccion) {
+        await this.manda("Page.navigate", { url: "about:blank" });
+        await this.manda("Page.navigate", { url: direccion });
+        const pintada = `new Promise((listo) => {
+            const mira = () => window.numora && window.numora.lista()
+                ? requestAnimationFrame(() => requestAnimationFrame(() => listo(performance.now())))
+                : setTimeout(mira, 5);
+            mira();
+        })`;
+        const tarde = espera(120000).then(() => { throw new Error(`no program at ${direccion}`); });
+        return Math.round(await Promise.race([this.evalua(pintada), tarde]));
+    }
+
+    async pincha(x, y) {
+        for (const type of ["mouseMoved", "mousePressed", "mouseReleased"])
+            await this.manda("Input.dispatchMouseEvent", { type, x, y, button: "left", clickCount: 1 });
+    }
+
+    async retrata(archivo) {
+        const { data } = await this.manda("Page.captureScreenshot", { format: "png" });
+        fs.writeFileSync(archivo, Buffer.from(data, "base64"));
+    }
+
+    cierra() {
+        this.enchufe.close();
+        this.proceso.kill();
+        return espera(500).then(() => fs.rmSync(this.carpeta, { recursive: true, force: true, maxRetries: 5 }));
+    }
+}
+
+module.exports = { Navegador, espera, hasta };

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Loads the program, tells of it in words, and keeps what it writes.
+"use strict";
+
+(() => {
+    // How many bytes come, put here by the build: a server that compresses does not tell.
+    const bytes = { "numora.wasm": 0, "numora.data": 0 };
+    // Where the program keeps what it is to find again.
+    const casa = "/home/web_user";
+    const entreCopias = 1500;
+
+    const consulta = new URLSearchParams(location.search);
+    const idioma = consulta.get("i") === "English" ? 1 : 0;
+    const textos = {
+        lema: ["Matemática discreta, paso a paso", "Discrete mathematics, step by step"],
+        llega: ["Se carga el programa: %1 de %2 MB", "Loading the program: %1 of %2 MB"],
+        datos: ["Se recupera lo guardado…", "Bringing back what was kept…"],
+        abre: ["Se abre el programa…", "Opening the program…"],
+        otra: ["Numora ya está abierto en otra pestaña. Ciérrela y vuelva a cargar esta página.",
+            "Numora is open in another tab. Close it and load this page again."],
+        red: ["No se ha podido cargar el programa. Compruebe la conexión y vuelva a intentarlo.",
+            "The program could not be loaded. Check the connection and try again."],
+        fallo: ["El programa se ha detenido por un fallo. Vuelva a cargar la página; lo guardado sigue ahí.",
+            "The program has stopped because of a fault. Load the page again; what was kept is still there."],
+        sinMemoria: ["Este navegador no deja guardar nada aquí: al cerrar la página se perderá lo hecho.",
+            "This browser keeps nothing here: what you do is lost when the page is closed."],
+    };
+    const di = (clave) => textos[clave][idioma];
+
+    const estado = document.getElementById("estado");
+    const avance = document.getElementById("avance");
+    const pantalla = document.getElementById("pantalla");
+
+    function falla(clave, error) {
+        if (error)
+            console.error(error);
+        document.getElementById("carga").hidden = false;
+        pantalla.hidden = true;
+        avance.hidden = true;
+        estado.setAttribute("role", "alert");
+        estado.textContent = di(clave);
+    }
+
+    function preparaPagina() {
+        document.documentElement.lang = idioma ? "en" : "es";
+        document.getElementById("lema").textContent = di("lema");
+        const oscuro = consulta.has("oscuro") ? consulta.get("oscuro") !== "0"
+            : matchMedia("(prefers-color-scheme: dark)").matches;
+        document.documentElement.classList.toggle("oscuro", oscuro);
+    }
+
+    // ---- What is fetched, and how far it has come ----
+
+    const recibidos = {};
+
+    function muestraAvance() {
+        const suma = (tabla) => Object.values(tabla).reduce((a, b) => a + b, 0);
+        const total = suma(bytes), hasta = Math.min(suma(recibidos), total);
+        const enMegas = (n) => (n / 1e6).toLocaleString(idioma ? "en" : "es",
+            { minimumFractionDigits: 1, maximumFractionDigits: 1 });
+        const parte = Math.floor(100 * hasta / total);
+        if (parte === avance.value && parte > 0)
+            return;
+        avance.value = parte;
+        // A screen reader is told each tenth, not each hundredth.
+        if (parte % 10 === 0 || parte - (muestraAvance.dicho || 0) >= 10) {
+            muestraAvance.dicho = parte;
+            estado.textContent = di("llega").replace("%1", enMegas(hasta)).replace("%2", enMegas(total));
+        }
+    }
+
+    async function trae(nombre) {
+        const respuesta = await fetch(nombre);
+        if (!respuesta.ok)
+            throw new Error(nombre + ": " + respuesta.status);
+        recibidos[nombre] = 0;
+        const contador = new TransformStream({
+            transform(trozo, salida) {
+                recibidos[nombre] += trozo.byteLength;
+                muestraAvance();
+                salida.enqueue(trozo);
+            },
+        });
+        return new Response(respuesta.body.pipeThrough(contador), { headers: respuesta.headers });
+    }
+
+    // ---- What is kept ----
+
+    function guarda(FS) {
+        let ocupado = false;
+        let avisado = false;
+        const copia = () => {
+            if (ocupado)
+                return;
+            ocupado = true;
+            FS.syncfs(false, (error) => {
+                ocupado = false;
+                if (error && !avisado)
+                    console.warn(di("sinMemoria"), error);
+                avisado = avisado || Boolean(error);
+                document.documentElement.dataset.guardado = String(Date.now());
+            });
+        };
+        setInterval(copia, entreCopias);
+        return copia;
+    }
+
+    /// Mounts what was kept before the program runs.
+    function recupera(modulo) {
+        const { FS, IDBFS } = modulo;
+        FS.mkdirTree(casa);
+        FS.mount(IDBFS, {}, casa);
+        modulo.addRunDependency("guardado");
+        estado.textContent = di("datos");
+        FS.syncfs(true, (error) => {
+            if (error)
+                console.warn(di("sinMemoria"), error);
+            modulo.removeRunDependency("guardado");
+        });
+    }
+
+    // ---- The program ----
+
+    async function arranca() {
+        const programa = trae("numora.wasm");
+        const datos = trae("numora.data").then((respuesta) => respuesta.arrayBuffer());
+        const paquete = await datos;
+        estado.textContent = di("abre");
+        // The program measures its screen when it begins.
+        pantalla.hidden = false;
+        const modulo = await createQtAppInstance({
+            qtContainerElements: [pantalla],
+            arguments: [],
+            preRun: [recupera],
+            getPreloadedPackage: () => paquete,
+            instantiateWasm(importaciones, listo) {
+                programa.then((respuesta) => WebAssembly.instantiateStreaming(respuesta, importaciones))
+                    .then((hecho) => listo(hecho.instance, hecho.module))
+                    .catch((error) => falla("red", error));
+                return {};
+            },
+            onAbort: (motivo) => falla("fallo", motivo),
+        });
+        document.getElementById("carga").hidden = true;
+        const copia = guarda(modulo.FS);
+        addEventListener("hashchange", () => modulo.llega(location.hash.slice(1)));
+        const seVa = () => {
+            modulo.guardaLoPendiente();
+            copia();
+        };
+        addEventListener("pagehide", seVa);
+        document.addEventListener("visibilitychange", () => {
+            if (document.visibilityState === "hidden")
+                seVa();
+        });
+        window.numora = modulo;
+    }
+
+    function cargaGuion(nombre) {
+        return new Promise((listo, mal) => {
+            const guion = document.createElement("script");
+            guion.src = nombre;
+            guion.onload = listo;
+            guion.onerror = () => mal(new Error(nombre));
+            document.head.append(guion);
+        });
+    }
+
+    /// One tab at a time: two would overwrite what the other one keeps.
+    function soloUna(hace) {
+        if (!navigator.locks)
+            return hace();
+        return navigator.locks.request("numora", { ifAvailable: true }, async (cerrojo) => {
+            if (!cerrojo)
+                return falla("otra");
+            await hace();
+            return new Promise(() => {});
+        });
+    }
+
+    preparaPagina();
+    if ("serviceWorker" in navigator)
+        navigator.serviceWorker.register("servicio.js").catch((error) => console.warn(error));
+    soloUna(() => cargaGuion("numora.js").then(arranca).catch((error) => falla("red", error)));
+})();
