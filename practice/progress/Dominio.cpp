@@ -51,11 +51,12 @@ public:
         m_etapa = 0;
         m_desde = dia;
     }
-    /// A review that needed help begins the intervals again; one before its day changes nothing.
-    void hecho(const Hecho &hecho, qint64 hoy)
+    /// A review that needed help begins the intervals again; one before its day changes nothing,
+    /// unless the clock has been set back since the last: then it was due at once.
+    void hecho(const Hecho &hecho)
     {
-        const auto cuando = dia(hoy);
-        if (!cuando || hecho.dia < *cuando)
+        if (m_etapa >= Intervalos.size() ||
+            (hecho.dia >= m_desde && hecho.dia < m_desde + Intervalos.at(m_etapa)))
             return;
         m_etapa = hecho.sinAyuda() ? m_etapa + 1 : 0;
         m_desde = hecho.dia;
@@ -86,7 +87,7 @@ Dominio dominioDe(const QList<Hecho> &hechos, qint64 hoy)
             continue;
         const int nivel = std::clamp(hecho.nivel, 1, Niveles);
         if (nivel == dominio.dominado)
-            repasos.hecho(hecho, hoy);
+            repasos.hecho(hecho);
         Ultimos &suyos = ultimos.at(static_cast<std::size_t>(nivel));
         suyos.agrega(hecho);
         if (nivel > dominio.dominado && suyos.dominan()) {

@@ -61,7 +61,7 @@ Clase claseDeCarpeta(const QString &carpeta)
     auto archivos = QDir(carpeta).entryInfoList({u"*.csv"_s}, QDir::Files, QDir::Name);
     if (archivos.size() > ArchivosComoMucho) {
         clase.rechazados
-            << Traduce(u"Hay más de %1 archivos: los demás no se leen."_s).arg(ArchivosComoMucho);
+            << Traduce(u"Hay más de %1 archivos: los demás no se leen"_s).arg(ArchivosComoMucho);
         archivos = archivos.first(ArchivosComoMucho);
     }
     for (const QFileInfo &archivo : archivos)

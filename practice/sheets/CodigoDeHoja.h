@@ -32,7 +32,7 @@ inline constexpr int SeriesDeHoja = 1 << 15;
 
 /// The code of a sheet, "MD7-4K2Q": a version, what it is made of, and a letter that checks the
 /// others; without I, L, O and U. (The check is a Reed-Solomon symbol: it finds every wrong letter
-/// and every two that were exchanged.) The kinds must be of the bank.
+/// and every two that were exchanged less than 31 places apart.) The kinds must be of the bank.
 QString codigoDeHoja(const EncargoDeHoja &encargo);
 
 /// What a code asks for, or a sentence about why it is none. Case, blanks and hyphens do not

@@ -19,6 +19,8 @@ constexpr QStringView Columnas =
     u"codigo;tipo;nivel;resultado;intentos;pistas;segundos;dia;errores";
 constexpr qsizetype FilasComoMucho = 20'000;
 constexpr qsizetype LetrasDeNombre = 80;
+/// Eleven days and a half; whatever took longer was left open.
+constexpr int SegundosComoMucho = 1'000'000;
 /// By EstadoDeEjercicio.
 const std::array<QString, 4> Estados{u"sin-contestar"_s, u"fallado"_s, u"solucion"_s,
                                      u"acertado"_s};
@@ -68,7 +70,7 @@ std::optional<Hecho> leeFila(const QString &linea)
     const auto estado = std::find(Estados.begin(), Estados.end(), celdas[3]);
     const auto intentos = enteroEntre(celdas[4], 0, MuchasVeces);
     const auto pistas = enteroEntre(celdas[5], 0, 2);
-    const auto segundos = enteroEntre(celdas[6], 0, 1'000'000);
+    const auto segundos = enteroEntre(celdas[6], 0, SegundosComoMucho);
     const QDate dia = QDate::fromString(celdas[7], Qt::ISODate);
     const QStringList notas = celdas[8].split(u' ', Qt::SkipEmptyParts);
     if (!nivel || estado == Estados.end() || !intentos || !pistas || !segundos || !dia.isValid() ||
@@ -112,7 +114,8 @@ QByteArray resultadosEnCsv(const Resultados &resultados)
                               Estados.at(static_cast<std::size_t>(hecho.estado)),
                               QString::number(hecho.intentos),
                               QString::number(hecho.pistas),
-                              QString::number(hecho.milisegundos / 1000),
+                              QString::number(
+                                  std::min<qint64>(hecho.milisegundos / 1000, SegundosComoMucho)),
                               QDate::fromJulianDay(hecho.dia).toString(Qt::ISODate),
                               hecho.notas.join(u' ')}
                       .join(u';');

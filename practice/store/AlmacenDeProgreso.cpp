@@ -30,8 +30,8 @@ constexpr int SegundosDeEspera = 2;
 
 /// SQLite's own codes for what a student can do something about.
 namespace Codigo {
-const QString Error = u"1"_s, Ocupada = u"5"_s, Bloqueada = u"6"_s, SoloLectura = u"8"_s,
-              Danada = u"11"_s, Llena = u"13"_s, NoSeAbre = u"14"_s, NoEsBase = u"26"_s;
+constexpr int Error = 1, Ocupada = 5, Bloqueada = 6, SoloLectura = 8, Danada = 11, Llena = 13,
+              NoSeAbre = 14, NoEsBase = 26;
 }
 
 } // namespace
@@ -117,24 +117,37 @@ AlmacenDeProgreso::Apertura AlmacenDeProgreso::preparaTablas()
     if (consulta.value(0).toString() != u"ok")
         return Apertura::Danado;
     consulta.finish();
-    if (!ejecuta(u"CREATE TABLE IF NOT EXISTS version (numero INTEGER NOT NULL)"_s) ||
-        !consulta.exec(u"SELECT max(numero) FROM version"_s) || !consulta.next())
+    if (!ejecuta(u"CREATE TABLE IF NOT EXISTS version (numero INTEGER NOT NULL)"_s))
         return falloAlAbrir();
-    const int version = consulta.value(0).toInt();
-    consulta.finish();
-    if (version > Version)
+    const auto numero = version();
+    if (!numero)
+        return falloAlAbrir();
+    if (*numero > Version)
         return Apertura::Posterior;
-    if (version < Version && !migra(version)) // or tables that do not belong to their version
+    if (*numero < Version && !migra()) // or tables that do not belong to their version
         return m_codigo == Codigo::Error ? Apertura::Danado : falloAlAbrir();
     const QStringList tablas = m_base.tables();
     return tablas.contains(u"ejercicio"_s) && tablas.contains(u"fallo"_s) ? Apertura::Bien
                                                                           : Apertura::Danado;
 }
 
-bool AlmacenDeProgreso::migra(int desde)
+std::optional<int> AlmacenDeProgreso::version()
 {
-    return enUnaTransaccion([&] {
-               for (int i = desde; i < Version; ++i) {
+    QSqlQuery consulta(m_base);
+    if (consulta.exec(u"SELECT max(numero) FROM version"_s) && consulta.next())
+        return consulta.value(0).toInt();
+    recuerda(consulta.lastError());
+    return {};
+}
+
+bool AlmacenDeProgreso::migra()
+{
+    return enUnaTransaccion([this] {
+               // Read again now that nobody else writes: another program may have come first.
+               const auto desde = version();
+               if (!desde || *desde >= Version)
+                   return desde.has_value();
+               for (int i = *desde; i < Version; ++i) {
                    for (const QString &orden : Migraciones[i]) {
                        if (!ejecuta(orden))
                            return false;
@@ -175,7 +188,8 @@ bool AlmacenDeProgreso::ejecuta(QSqlQuery &consulta)
 void AlmacenDeProgreso::recuerda(const QSqlError &error)
 {
     m_error = error.databaseText();
-    m_codigo = error.nativeErrorCode();
+    // Its lowest byte; the higher ones tell more, such as that it is the folder that is read-only.
+    m_codigo = error.nativeErrorCode().toInt() & 0xFF;
 }
 
 bool AlmacenDeProgreso::ejecuta(const QString &orden)
@@ -195,7 +209,7 @@ QString AlmacenDeProgreso::enUnaTransaccion(const std::function<bool()> &accion)
     if (accion() && ejecuta(u"COMMIT"_s))
         return {};
     const QString porque = motivo();
-    const QString codigo = m_codigo;
+    const int codigo = m_codigo;
     ejecuta(u"ROLLBACK"_s);
     m_codigo = codigo;
     return porque;
@@ -234,6 +248,10 @@ bool AlmacenDeProgreso::escribe(const Hecho &hecho, qint64 &id)
     }
     if (!ejecuta(consulta))
         return false;
+    if (!nuevo && consulta.numRowsAffected() == 0) { // another program has forgotten all
+        id = 0;
+        return escribe(hecho, id);
+    }
     if (nuevo)
         id = consulta.lastInsertId().toLongLong();
     return true;
@@ -276,15 +294,19 @@ QList<Hecho> AlmacenDeProgreso::hechos() const
                        consulta.value(8).toLongLong()};
     }
     consulta.exec(u"SELECT ejercicio, nota FROM fallo ORDER BY ejercicio, orden"_s);
-    while (consulta.next())
-        todos[lugares.value(consulta.value(0).toLongLong())].notas << consulta.value(1).toString();
+    while (consulta.next()) {
+        // One of an exercise that another program has begun in between has no place here.
+        const auto lugar = lugares.constFind(consulta.value(0).toLongLong());
+        if (lugar != lugares.constEnd())
+            todos[*lugar].notas << consulta.value(1).toString();
+    }
     return todos;
 }
 
 QString AlmacenDeProgreso::borraTodo()
 {
     if (!m_abierto)
-        return {};
+        return QFile::exists(ruta()) ? m_aviso : QString();
     return enUnaTransaccion([this] { return ejecuta(u"DELETE FROM ejercicio"_s); });
 }
 

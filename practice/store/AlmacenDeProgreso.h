@@ -5,6 +5,7 @@
 
 #include <QSqlDatabase>
 #include <functional>
+#include <optional>
 
 class QSqlError;
 class QSqlQuery;
@@ -48,7 +49,8 @@ private:
     enum class Apertura { Bien, Danado, Posterior, Ajeno };
     Apertura abre();
     Apertura preparaTablas();
-    bool migra(int desde);
+    std::optional<int> version();
+    bool migra();
     void cierra();
     bool apartaDanado();
     QString enUnaTransaccion(const std::function<bool()> &accion);
@@ -63,7 +65,8 @@ private:
     QString m_carpeta;
     QString m_conexion;
     QSqlDatabase m_base;
-    QString m_error, m_codigo;
+    QString m_error;
+    int m_codigo = 0;
     QString m_aviso;
     bool m_abierto = false;
 };

@@ -4,6 +4,7 @@
 #include "practice/store/AlmacenDeProgreso.h"
 
 #include <QDate>
+#include <QFile>
 
 Cuaderno::Cuaderno(const QString &carpeta, bool guarda) : m_carpeta(carpeta)
 {
@@ -29,7 +30,7 @@ void Cuaderno::ponGuarda(bool guarda)
 {
     if (!guarda) {
         m_almacen.reset();
-    } else if (!m_almacen) {
+    } else if (!this->guarda()) {
         m_almacen = std::make_unique<AlmacenDeProgreso>(m_carpeta);
         m_hechos = m_almacen->hechos();
         ++m_lectura;
@@ -50,7 +51,11 @@ QString Cuaderno::anota(Hecho hecho, Lugar &lugar)
 
 QString Cuaderno::borraTodo()
 {
-    const QString motivo = m_almacen ? m_almacen->borraTodo() : QString();
+    QString motivo;
+    if (m_almacen)
+        motivo = m_almacen->borraTodo();
+    else if (QFile::exists(m_carpeta + u'/' + AlmacenDeProgreso::nombreDeArchivo()))
+        motivo = AlmacenDeProgreso(m_carpeta).borraTodo();
     if (motivo.isEmpty()) {
         m_hechos.clear();
         ++m_lectura;

@@ -20,7 +20,10 @@ public:
     QString aviso() const;
     /// Whether what is done is kept beyond the program's end.
     bool guarda() const;
-    /// Begins or ends keeping. What was kept before stays where it is.
+    /// Whether it is to be, even where the database could not be opened.
+    bool quiereGuardar() const { return m_almacen != nullptr; }
+    /// Begins or ends keeping; tries again where the database could not be opened. What was kept
+    /// before stays where it is.
     void ponGuarda(bool guarda);
 
     const QList<Hecho> &hechos() const { return m_hechos; }
@@ -36,7 +39,8 @@ public:
     /// not be kept.
     QString anota(Hecho hecho, Lugar &lugar);
 
-    /// Forgets everything; a sentence where that could not be done.
+    /// Forgets everything, what was kept before keeping ended too; a sentence where that could not
+    /// be done.
     QString borraTodo();
 
     /// Today's Julian day.

@@ -58,7 +58,7 @@ FormPracticas::FormPracticas(QWidget *padre)
     agregaIntroduccion(u"El curso"_s);
     connect(m_practicar, &FormPracticasPracticar::anotado, this, &FormPracticas::apuntaInvitacion);
     conecta(historia, &FormPracticasHistoria::cambiado, this, [this] {
-        Sesión().anota(ClaveGuardar, m_cuaderno.guarda());
+        Sesión().anota(ClaveGuardar, m_cuaderno.quiereGuardar());
         apuntaInvitacion();
     });
     conecta(hojas, &FormPracticasHojas::hacer, this,

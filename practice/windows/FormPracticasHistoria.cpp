@@ -94,7 +94,7 @@ void FormPracticasHistoria::muestra()
 {
     if (!ui)
         construye();
-    ui->chkGuardar->setChecked(m_cuaderno.guarda());
+    ui->chkGuardar->setChecked(m_cuaderno.quiereGuardar());
     QList<QStringList> filas;
     for (const Hecho &hecho : m_cuaderno.hechos())
         filas.prepend(filaDe(hecho));

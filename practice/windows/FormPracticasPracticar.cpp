@@ -116,6 +116,8 @@ void FormPracticasPracticar::rellenaTipos()
 void FormPracticasPracticar::practica(const Eleccion &eleccion)
 {
     m_eleccion = eleccion;
+    if (m_hoja)
+        cuentaDeHoja();
     ponHoja(false);
     const QSignalBlocker lecciones(ui->cmbLeccion), niveles(ui->cmbNivel);
     ui->cmbLeccion->setCurrentIndex(std::max(0, ui->cmbLeccion->findData(eleccion.leccion)));

@@ -61,6 +61,7 @@ private:
     void relojDeHoja_Timer();
     void terminaHoja(const QString &palabra);
     void muestraMarchaDeHoja();
+    void cuentaDeHoja();
     void dejaEjercicio();
     void muestraEnunciado(const Propuesta &propuesta);
     void muestraAyudas();

@@ -13,6 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 
 void FormPracticasPracticar::haceHoja(const EncargoDeHoja &encargo, int minutos)
 {
+    if (m_hoja)
+        cuentaDeHoja();
     m_hoja = Hoja{.codigo = codigoDeHoja(encargo),
                   .ejercicios = ejerciciosDeHoja(encargo),
                   .milisegundos = minutos * 60'000LL,
@@ -64,12 +66,17 @@ void FormPracticasPracticar::muestraMarchaDeHoja()
     ui->lblHoja->setText(texto);
 }
 
-/// On to the next one; what was not answered is put down as such.
-void FormPracticasPracticar::dejaEjercicio()
+/// The exercise in sight is over; what was not answered is put down as such.
+void FormPracticasPracticar::cuentaDeHoja()
 {
     if (m_lugar.enMemoria < 0)
         anota();
     m_hoja->sinAyuda += m_curso->hecho().sinAyuda() ? 1 : 0;
+}
+
+void FormPracticasPracticar::dejaEjercicio()
+{
+    cuentaDeHoja();
     if (++m_hoja->cual < m_hoja->ejercicios.size())
         planteaDeHoja();
     else
@@ -84,9 +91,7 @@ void FormPracticasPracticar::relojDeHoja_Timer()
         muestraMarchaDeHoja();
         return;
     }
-    if (m_lugar.enMemoria < 0)
-        anota();
-    m_hoja->sinAyuda += m_curso->hecho().sinAyuda() ? 1 : 0;
+    cuentaDeHoja();
     terminaHoja(Traduce(u"Se acabó el tiempo."_s));
 }
 
@@ -106,7 +111,6 @@ void FormPracticasPracticar::terminaHoja(const QString &palabra)
 
 void FormPracticasPracticar::cmdDejarHoja_Click()
 {
-    if (m_lugar.enMemoria < 0)
-        anota();
+    cuentaDeHoja();
     terminaHoja(Traduce(u"Ha dejado la hoja."_s));
 }

@@ -91,6 +91,7 @@ Clave claveDescifra(const Enunciado &e)
 QList<Equivocada> alElevar(const Clave &k, qint64 base, qint64 exponente, qint64 otro)
 {
     return {{texto(base * exponente % k.q()), u"producto"_s},
+            {texto(elevado(base, exponente, k.q()) + k.q()), u"sin-reducir"_s},
             {texto(elevado(base, otro, k.q())), u"otra-clave"_s},
             {texto(elevado(base, exponente, k.fi())), u"modulo-fi"_s},
             {texto(base), u"sin-elevar"_s}};
@@ -121,7 +122,7 @@ QList<Equivocada> bloquesMal(const Enunciado &e, const QString &esperada)
 {
     const QStringList dos = esperada.split(u", "_s);
     if (e.nivel == 1)
-        return {{texto(e.n[0] / e.n[1] * e.n[1] == e.n[0] ? 0 : e.n[0] / e.n[1]), {}},
+        return {{texto(e.n[0] / e.n[1] + (e.n[0] % e.n[1] == 0 ? 1 : 0)), u"ultimo-bloque"_s},
                 {texto(e.n[0] * e.n[1]), u"producto"_s},
                 {texto(3 * e.n[0]), u"cifras"_s}};
     QList<Equivocada> mal = {{dos[1] + u", "_s + dos[0], u"orden"_s}};
@@ -184,7 +185,7 @@ QList<Resuelto> resueltosDeCifrado()
              return QList<Equivocada>{{texto(k.fi() - k.t()), u"signo"_s},
                                       {texto(k.fi() - k.s), u"inverso-aditivo"_s},
                                       {texto(k.fi() + k.t()), u"sin-reducir"_s},
-                                      {texto(k.t() - k.fi()), {}}};
+                                      {texto(k.t() - k.fi()), u"sin-reducir"_s}};
          }},
         {u"rsa.cifra"_s,
          [](const auto &e, const auto &) { return texto(elevado(e.n[2], e.n[1], e.n[0])); },

@@ -27,6 +27,13 @@ struct Funcion
     {
     }
 
+    qint64 hojas(qint64 k) const
+    {
+        qint64 suma = k < caso ? 1 : 0;
+        for (const qint64 b : bajadas)
+            suma += k < caso ? 0 : hojas(k - b);
+        return suma;
+    }
     qint64 llama(qint64 k) const
     {
         qint64 llamadas = 1;
@@ -227,6 +234,7 @@ QList<Resuelto> resueltosDeComplejidad()
                  std::set<qint64> memoria;
                  return QList<Equivocada>{{texto(esperada.toLongLong() - 1), u"sin-la-primera"_s},
                                           {texto(f.llamaUnaVez(f.n, memoria)), {}},
+                                          {texto(f.hojas(f.n)), u"solo-hojas"_s},
                                           {texto(f.llama(f.n - 1)), {}}};
              }},
             {u"complejidad.memoria"_s,

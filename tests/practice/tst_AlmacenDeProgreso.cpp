@@ -5,9 +5,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSemaphore>
 #include <QSqlQuery>
 #include <QTemporaryDir>
 #include <memory>
+#include <thread>
+
+using namespace std::chrono_literals;
 
 /// What a student has done stays, whatever happens to its file.
 class TestAlmacenDeProgreso : public QObject
@@ -33,6 +37,8 @@ private Q_SLOTS:
             almacen.anota(hechoDe(u"primos.factores"_s), otro);
             QVERIFY(id > 0 && otro > id);
         }
+        // A mistake in an exercise that was begun since by another program.
+        ordena({u"INSERT INTO fallo VALUES (77, 0, 'suma')"_s});
         const auto hechos = AlmacenDeProgreso(datos()).hechos();
         QCOMPARE(hechos.size(), 2);
         QCOMPARE(hechos[0].notas, (QStringList{u"mcm"_s, u"no-divide"_s}));
@@ -69,6 +75,29 @@ private Q_SLOTS:
         QCOMPARE(uno(u"SELECT count(*) FROM sqlite_master WHERE name = 'ejercicio_por_hoja'"_s), 1);
     }
 
+    /// Another program is at it already when this one begins.
+    void dosLaPonenAlDiaALaVez()
+    {
+        qint64 id = 0;
+        AlmacenDeProgreso(datos()).anota(hechoDe(u"a.b"_s), id);
+        ordena({u"DROP INDEX ejercicio_por_hoja"_s, u"UPDATE version SET numero = 1"_s});
+        QSemaphore empezado;
+        std::thread otro([&] {
+            const auto suya = conexion();
+            QSqlQuery(suya->base).exec(u"BEGIN IMMEDIATE"_s);
+            empezado.release();
+            std::this_thread::sleep_for(400ms);
+            for (const auto &orden : {u"CREATE INDEX ejercicio_por_hoja ON ejercicio (hoja)"_s,
+                                      u"UPDATE version SET numero = 2"_s, u"COMMIT"_s})
+                QSqlQuery(suya->base).exec(orden);
+        });
+        empezado.acquire();
+        const AlmacenDeProgreso almacen(datos());
+        otro.join();
+        QVERIFY2(almacen.abierto() && almacen.aviso().isEmpty(), qPrintable(almacen.aviso()));
+        QCOMPARE(almacen.hechos().size(), 1);
+    }
+
     void unaVersionPosteriorSeDejaComoEsta()
     {
         qint64 id = 0;
@@ -77,6 +106,7 @@ private Q_SLOTS:
         AlmacenDeProgreso almacen(datos());
         QVERIFY(!almacen.abierto() && almacen.aviso().contains(u"versión posterior"));
         QCOMPARE(almacen.anota(hechoDe(u"a.b"_s), id = 0), QString());
+        QVERIFY(!almacen.borraTodo().isEmpty());
         QCOMPARE(uno(u"SELECT numero FROM version"_s), 99);
         QCOMPARE(uno(u"SELECT count(*) FROM ejercicio"_s), 1);
     }
@@ -118,6 +148,9 @@ private Q_SLOTS:
         QCOMPARE(uno.anota(hechoDe(u"a.b"_s), id), QString());
         QCOMPARE(otro.anota(hechoDe(u"a.b"_s), id = 0), QString());
         QCOMPARE(uno.hechos().size(), 2);
+        QCOMPARE(uno.borraTodo(), QString());
+        QCOMPARE(otro.anota(hechoDe(u"a.b"_s), id), QString());
+        QCOMPARE(otro.hechos().size(), 1);
         const auto cerrojo = conexion();
         QSqlQuery(cerrojo->base).exec(u"BEGIN EXCLUSIVE"_s);
         QVERIFY(uno.anota(hechoDe(u"a.b"_s), id = 0).contains(u"Otro programa"));
@@ -138,6 +171,9 @@ private Q_SLOTS:
         cuaderno.anota(hechoDe(u"a.b"_s), lugar);
         QCOMPARE(cuaderno.hechos().size(), 1);
         QCOMPARE(cuaderno.hechos().constFirst().dia, Cuaderno::hoy());
+        QVERIFY(estorbo.remove());
+        cuaderno.ponGuarda(true);
+        QVERIFY2(cuaderno.guarda(), qPrintable(cuaderno.aviso()));
     }
 
     void sePuedeNoGuardar()
@@ -152,7 +188,7 @@ private Q_SLOTS:
         cuaderno.ponGuarda(false);
         QCOMPARE(Cuaderno(datos(), true).hechos().size(), 1);
         QCOMPARE(cuaderno.borraTodo(), QString());
-        QVERIFY(cuaderno.hechos().isEmpty());
+        QVERIFY(cuaderno.hechos().isEmpty() && Cuaderno(datos(), true).hechos().isEmpty());
     }
 
 private:

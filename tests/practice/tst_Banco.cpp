@@ -4,6 +4,7 @@
 #include "tests/Sorteos.h"
 #include "tests/shell/support/RevisorDeFormulas.h"
 
+#include <QCryptographicHash>
 #include <QSet>
 #include <QTest>
 
@@ -73,6 +74,15 @@ void tst_Banco::elSorteoNoCambia()
     for (int i = 0; i < 5; ++i)
         valores << sorteo.entre(1, 1000);
     QCOMPARE(valores, (QList<std::int64_t>{466, 520, 591, 236, 762}));
+    QByteArray respuestas;
+    for (const TipoDeEjercicio &tipo : banco()) {
+        for (int i = 0; i < 60; ++i) {
+            Sorteo suyo(semillaDe(77, tipo.clave, 1 + i % Niveles, i));
+            respuestas += tipo.genera(1 + i % Niveles, suyo).esperada.toUtf8() + '\n';
+        }
+    }
+    QCOMPARE(QCryptographicHash::hash(respuestas, QCryptographicHash::Sha1).toHex(),
+             QByteArray("8c8b09caf474b6da28f21a3b8fdcca63c43aaf19"));
 }
 
 void tst_Banco::elSorteoEsUniforme()

@@ -15,7 +15,7 @@ namespace {
 // n0, n1 … are the numbers of the statement, r0, r1 … those of the right answer; the figures are
 // the levels at which the mistake can be made.
 const QString Errores = uR"(
-euclides.mcd: || mcm | 123 | mcm(n0;n1) || divisor-menor | 123 | 1 || no-divide | 123 | n1+1
+euclides.mcd: || mcm | 123 | mcm(n0;n1) || divisor-menor | 123 | 1 || no-divide | 123 | n1+1 || signo | 123 | -r0
 euclides.divisiones: || otra-columna | 12 | @otra-columna || incompleta | 123 | @sin-ultimo || sobran | 123 | @y-un-uno \
   || division | 123 | @primero-mas-uno
 euclides.bezout: || signo | 123 | -r0, -r1 || cambiados | 123 | r1, r0 || otro-valor | 123 | r0+1, r1 || cuantos | 123 | r0
@@ -28,7 +28,7 @@ euclides.general: || inicio | 123 | r0+1, r1, r2, r3 || paso | 123 | r0, r1, r2,
 euclides.positivas: || enteras | 123 | «infinitas» || con-ceros | 123 | r0+2-min(1;n4 mod n2)-min(1;n4 mod n3) \
   || otra-cuenta | 123 | r0+3
 primos.esprimo: || por-primo | 123 | «primo» || sin-divisor | 123 | «compuesto» || trivial | 123 | n0 || no-divide | 123 | n0-1
-primos.factores: || exponentes | 123 | @sin-exponentes || factor-compuesto | 123 | n0, 1 || uno | 123 | @uno-y \
+primos.factores: || exponentes | 123 | @sin-exponentes || otros-exponentes | 1 | @exponente-pasado || factor-compuesto | 123 | n0, 1 || uno | 123 | @uno-y \
   || otro-producto | 123 | @sin-dos
 primos.siguiente: || no-mayor | 123 | n0 || lejos | 123 | 2*n0 || compuesto | 123 | n0+1 || salto | 123 | sigprimo(r0)
 primos.cuantos: || cuenta-el-uno | 12 | r0+1 || impares | 12 | @mitad || compuestos | 12 | n0-r0
@@ -44,7 +44,7 @@ unidades.potencia: || sin-reducir | 123 | r0+n2 || exponente-modulo-n | 123 | (n
   || n-menos-uno | 23 | (n0^(n1 mod (n2-1))) mod n2 || producto | 123 | (n0*n1) mod n2
 unidades.primitiva: || si-hay | 123 | «ninguna» || no-unidad | 123 | 0 || orden-menor | 123 | 1
 unidades.lambda: || fi | 123 | fi(n0) || potencia-de-dos | 23 | @mcm-de-fi || sin-exponente | 1 | @mcm-de-primos \
-  || multiplo | 123 | 7*r0 || no-todas | 123 | 1
+  || multiplo | 123 | 7*r0 || no-todas | 123 | 1 || no-positivo | 123 | 0
 unidades.unidad: || unidad-negada | 1 | «divisor de cero» || divisor-negado | 1 | «unidad» || sin-prueba | 23 | «unidad» \
   || cero | 23 | n1 || signo | 23 | @opuesto-del-inverso || ni-cero-ni-uno | 23 | 1
 unidades.lineal: || si-hay | 123 | «ninguna» || no-cumple | 123 | 0 || faltan | 23 | @sin-ultimo || sin-reducir | 1 | r0+n4
@@ -170,6 +170,10 @@ Numeros especial(const QString &nombre, const Leido &e, const Numeros &r)
         {u"@absolutos"_s, [&] { return cada([&](qsizetype i) { return std::abs(r[i]); }); }},
         {u"@sin-exponentes"_s,
          [&] { return cada([&](qsizetype i) { return i % 2 == 0 ? r[i] : 1; }); }},
+        {u"@exponente-pasado"_s,
+         [&] { // from the largest prime, which has another one, to the smallest
+             return r.back() < 2 ? Numeros{} : Numeros{r[0], r[1] + 1, r[2], r[3] - 1};
+         }},
         {u"@desde-el-tercero"_s, [&] { return e.n.mid(2); }},
         {u"@mitad"_s, [&] { return Numeros{(e.n[0] + 1) / 2}; }},
         {u"@y-la-cota"_s, [&] { return Numeros{r[0] + e.n.constLast()}; }},

@@ -33,7 +33,8 @@ private Q_SLOTS:
             a failed review begins again | 90++ 91++ 92+ 100x | 1 | 2 | 0 | mañana
             all four reviews | 1++ 2++ 3+ 6+ 13+ 34+ | 1 | 2 | 0 | —
             before its day a review changes nothing | 90++ 100++++ | 1 | 2 | 0 | mañana
-            the clock has been set back | 500++ 501++ | 1 | 2 | 0 | hoy)"_s);
+            the clock has been set back | 500++ 501++ | 1 | 2 | 0 | hoy
+            set back and reviewed since | 500++ 501++ 99+ | 1 | 2 | 0 | en 2 días)"_s);
     }
     void elDominio()
     {

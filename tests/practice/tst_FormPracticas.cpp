@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/engine/Banco.h"
-#include "practice/sheets/CodigoDeHoja.h"
+#include "practice/sheets/HojaDeEjercicios.h"
 #include "practice/store/AlmacenDeProgreso.h"
 #include "practice/windows/FormPracticas.h"
 #include "shell/core/CarpetaDeDatos.h"
@@ -97,6 +97,15 @@ private Q_SLOTS:
         QVERIFY2(texto(u"lblVeredicto"_s).contains(u"0 de 2 sin ayuda"),
                  qPrintable(texto(u"lblVeredicto"_s)));
         QVERIFY(control<QWidget>(m_ventana.get(), u"cmbLeccion"_s)->isVisible());
+        tema(u"hojas"_s);
+        pulsa(u"cmdHacer"_s);
+        const auto encargo = std::get<EncargoDeHoja>(leeCodigoDeHoja(codigo));
+        control<QLineEdit>(m_ventana.get(), u"txtRespuesta"_s)
+            ->setText(ejerciciosDeHoja(encargo)[0].ejercicio.esperada);
+        pulsa(u"cmdComprobar"_s);
+        pulsa(u"cmdDejarHoja"_s);
+        QVERIFY2(texto(u"lblVeredicto"_s).contains(u"1 de 2 sin ayuda"),
+                 qPrintable(texto(u"lblVeredicto"_s)));
 
         tema(u"historia"_s);
         control<QLineEdit>(m_ventana.get(), u"txtAlumno"_s)->setText(u"Ana"_s);

@@ -116,6 +116,9 @@ private Q_SLOTS:
                  std::tuple(u"euclides.mcd"_s, u"4-X"_s, 3, 9000));
         QCOMPARE(uno.notas, (QStringList{u"mcm"_s, u"no-divide"_s}));
         QVERIFY(resultadosEnTexto(ida).contains(u"intentos 3"));
+        Hecho largo = uno; // a window that was left open for weeks
+        largo.milisegundos = 2'000'000'000;
+        QVERIFY(std::holds_alternative<Resultados>(leeResultados(resultadosEnCsv({{}, {largo}}))));
     }
 
     /// Whatever a folder holds, it is refused with a word or taken, and nothing else happens.

@@ -31,7 +31,7 @@ Entero | 6 | φ(9) ¦ fi(9) ¦ phi(9)
 Entero | 2 | 10 mod 4 ¦ 10 % 4
 Entero | ninguna | ninguna ¦ Ninguna. ¦ NINGUNA
 Entero | NoEntendida | cinco ¦ 5,5 ¦ 7/2 ¦ 3 5 ¦ (3 ¦ 10^100000 ¦ 5.16.7 ¦ 5167a ¦ 5,167 ¦ 5..167 ¦ 1/0 ¦ = \
-    ¦ x=3
+    ¦ x=3 ¦ mod 4 ¦ 0.125
 Entero | EsLaPregunta | mcd(12;18) ¦ MCD(12; 18) ¦ gcd(12;18)+0 ¦ mcd (12;18)
 Lista | 3 5 7 | 3, 5, 7 ¦ 3; 5; 7 ¦ 3 5 7 ¦ 3,5,7 ¦ 3;5;7 ¦ 3, 5 y 7 ¦ 3, 5 and 7 ¦ {3, 5, 7} ¦ (3; 5; 7) \
     ¦ [3, 5, 7] ¦ 3   5   7 ¦ 3, 5 7 ¦ +3, +5, +7 ¦ 2+1, 5, 7 ¦ 3, 2²+1, 7 ¦ F₄, F₅, 7 ¦ F(4), F(5), 7 \
@@ -68,17 +68,17 @@ Solucion | NoEntendida | x = 3 + 5k ¦ x = y, y = x ¦ 3 ¦ x = 3 + k², y = k �
     ¦ x = 3 + 5k, y = , z = 1
 Palabra | sí | sí ¦ si ¦ SI ¦ Sí. ¦ ¡Sí! ¦ sí ¦ SÍ ¦ «sí»
 Palabra | no | no ¦ No ¦ NO. ¦ no!
-Palabra | n² | n² ¦ n^2 ¦ N² ¦ n ^ 2
+Palabra | n² | n² ¦ n^2 ¦ N² ¦ n ^ 2 ¦ Θ(n²) ¦ O(n^2)
 Palabra | 2ⁿ | 2^n ¦ 2ⁿ ¦ 2^N
 Palabra | n · log n | n · log n ¦ n log n ¦ n*log n ¦ n·log(n) ¦ n log(n) ¦ N log N
 Palabra | NoEntendida | quizá ¦ 7 ¦ sí y no ¦ n ¦ 2n ¦ x²
 Fraccion | -7 12 | −7/12 ¦ -7/12 ¦ -7 / 12 ¦ − 7/12 ¦ (−7)/12 ¦ −(7/12) ¦ (-7/12) ¦ -7÷12 ¦ −7 ÷ 12
 Fraccion | 14 24 | 14 / 24 ¦ 14/24 ¦ 14÷24 ¦ +14/24 ¦ (14/24)
 Fraccion | 5 1 | 5 ¦ +5 ¦ (5) ¦ 5
-Fraccion | 5 10 | 0,5 ¦ 0.5 ¦ +0,5
+Fraccion | 5 10 | 0,5 ¦ 0.5 ¦ +0,5 || Fraccion | 125 1000 | 0,125 ¦ 0.125
 Fraccion | 1234 1 | 1.234 ¦ 1 234 ¦ 1234
 Fraccion | EsLaPregunta | 3/4-1/6 ¦ 1/2+1/3 ¦ 2^3 ¦ mcd(4;6) ¦ 2·3
-Fraccion | NoEntendida | siete ¦ 7/0 ¦ 7/ ¦ /12 ¦ 1//2
+Fraccion | NoEntendida | siete ¦ 7/0 ¦ 7/ ¦ /12 ¦ 1//2 ¦ mod ¦ mod 3
 FormulaDeCelda | 3*A1*(A1+1) | 3*A1*(A1+1) ¦ 3·a1(A1+1) ¦ 3·A1·(A1+1) ¦ 3×A1×(A1+1) ¦ 3 * A1 * (A1 + 1)
 FormulaDeCelda | 3A1*(A1+1) | 3a1·(a1+1) ¦ 3A1(A1+1)
 FormulaDeCelda | A1^2-2 | A1^2-2 ¦ A1² − 2 ¦ a1²-2 ¦ A1^2 - 2 ¦ a1 ^ 2 − 2
@@ -86,7 +86,7 @@ FormulaDeCelda | 2A1-1 | 2A1-1 ¦ 2a1 − 1 ¦ 2 A1 − 1
 FormulaDeCelda | 2*A1-1 | 2*A1-1 ¦ 2·A1 − 1 ¦ 2 × A1 − 1
 FormulaDeCelda | mcd(A1;12) | mcd(A1;12) ¦ mcd(a1; 12) || FormulaDeCelda | gcd(A1;12) | gcd(A1;12)
 FormulaDeCelda | fib(A1) | fib(A1) ¦ F(A1) ¦ fib(a1)
-FormulaDeCelda | NoEntendida | 3*B ¦ A1+ ¦ tres ¦ (A1 ¦ 3**A1 ¦ mcd(A1;;2) ¦ =3*A1 ¦ = A1² − 2
+FormulaDeCelda | NoEntendida | 3*B ¦ A1+ ¦ tres ¦ (A1 ¦ 3**A1 ¦ mcd(A1;;2) ¦ =3*A1 ¦ = A1² − 2 ¦ mod A1
 )"_s;
 
 QString comoSeLee(const QString &texto, const F &forma)
@@ -152,7 +152,7 @@ private Q_SLOTS:
     void seNombraLoQueNoSeEntiende_data()
     {
         filasDeTexto<QString, QString, QString>(uR"(
-            Lista | 3, a, 5 | «a» || Suma | 34 + + 1 | «» || Suma | 34 + a | «a» || Producto | 2·x5·3 | «x5»
+            Lista | 3, a, 5 | «a» || Suma | 34 + + 1 | «34 + + 1» || Solucion | x = 3, | «x = 3,» || Suma | 34 + a | «a» || Producto | 2·x5·3 | «x5»
             Solucion | x = y, y = x | «x = y» || FormulaDeCelda | 3*B | «B» || Entero | cinco | «cinco»)"_s);
     }
     void seNombraLoQueNoSeEntiende()

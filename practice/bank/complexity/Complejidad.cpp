@@ -116,7 +116,7 @@ Ejercicio llamadas(int nivel, Sorteo &sorteo)
               u"un-lugar"_s},
              {numero(todas[n + 1]), Traduce(u"Esas son las del argumento siguiente."_s),
               u"un-lugar"_s},
-             {numero((todas[n] + 1) / 2),
+             {numero(todas[n] - (todas[n] - 1) / g.bajadas.size()),
               Traduce(u"Cuente también las llamadas que hacen otras, no solo las últimas."_s),
               u"solo-hojas"_s}},
             Traduce(u"No es ese número: cuente las de los argumentos pequeños y suba."_s)),

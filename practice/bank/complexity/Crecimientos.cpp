@@ -33,7 +33,7 @@ Ejercicio ejercicioDe(const Funcion &f)
 {
     return {.enunciado = Traduce(u"¿Cómo crece %1? Dé su orden Θ."_s).arg(f.texto),
             .forma = {FormaDeRespuesta::Palabra, ordenes()},
-            .ejemplo = {},
+            .ejemplo = Traduce(u"Un orden: √n"_s),
             .esperada = f.orden,
             .juzga =
                 [f](const RespuestaLeida &respuesta) {

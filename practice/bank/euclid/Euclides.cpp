@@ -28,7 +28,11 @@ Fallo juzgaMcd(const RespuestaLeida &r, qint64 a, qint64 b)
         return correcto();
     if (dado == std::lcm(a, b))
         return Fallo::mal(Traduce(u"Ese es el mínimo común múltiplo."_s), u"mcm"_s);
-    if (dado > 0 && a % dado == 0 && b % dado == 0)
+    const bool divide = dado != 0 && a % dado == 0 && b % dado == 0;
+    if (divide && dado < 0)
+        return Fallo::mal(Traduce(u"Divide a los dos, pero el máximo común divisor es positivo."_s),
+                          u"signo"_s);
+    if (divide)
         return Fallo::mal(Traduce(u"Divide a los dos, pero no es el mayor que lo hace."_s),
                           u"divisor-menor"_s);
     return Fallo::mal(Traduce(u"Ese número no divide a los dos."_s), u"no-divide"_s);

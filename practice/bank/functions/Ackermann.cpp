@@ -93,8 +93,8 @@ Ejercicio ackPorFilas(Sorteo &sorteo)
                  "de la que se pide."_s),
          m == 2 ? Traduce(u"En la fila 2 cada valor pasa en 2 del anterior, y el primero es "
                           "3."_s)
-                : Traduce(u"En la fila 3 cada valor más 3 es el doble del anterior más 3, y "
-                          "el primero es 5."_s)},
+                : Traduce(u"En la fila 3 cada valor pasa en 3 del doble del anterior, y el "
+                          "primero es 5."_s)},
         [m, n] {
             return Pasos(QList<Paso>{
                 {m == 2 ? Traduce(u"La fila 2 es 2n + 3, porque Ack(1, n) = n + 2 se aplica "

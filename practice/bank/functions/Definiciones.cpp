@@ -147,39 +147,40 @@ Ejercicio cifras(Sorteo &sorteo)
     QStringList sumandos;
     for (const qint64 cifra : lista)
         sumandos << numero(restos ? cifra : c);
-    return {
-        .enunciado = Traduce(u"Sea f(0) = 0 y, si n > 0, f(n) = f(⌊n/%1⌋) + %2. ¿Cuánto vale "
-                             "f(%3)?"_s)
-                         .arg(numero(b), cola, numero(n)),
-        .forma = {FormaDeRespuesta::Entero},
-        .ejemplo = Traduce(u"Un número"_s),
-        .esperada = numero(valor),
-        .juzga = juicioDe(
-            numero(valor),
-            {{numero(restos ? lista.size() : suma),
-              restos ? Traduce(u"Se suman los restos, no las veces que se divide."_s)
-                     : Traduce(u"Se suma lo mismo en cada paso, no los restos."_s),
-              u"otra-cuenta"_s},
-             {numero(restos ? suma - lista.back() : porPasos - c),
-              Traduce(u"También cuenta el último paso, el que llega a 0."_s), u"sin-el-ultimo"_s},
-             {numero(porPasos + c), Traduce(u"f(0) vale 0: no suma nada."_s), u"cuenta-el-cero"_s},
-             {numero(n % b), Traduce(u"Ese es solo el primer resto."_s), u"un-paso"_s},
-             {numero(sumaDe(cifrasDe(n, 10))), Traduce(u"Esas son las cifras en base 10."_s),
-              u"base-10"_s}},
-            Traduce(u"No es ese valor: escriba las llamadas hasta f(0)."_s)),
-        .pistas = {Traduce(u"Divida una y otra vez: ¿qué tiene que ver con escribir n en otra "
-                           "base?"_s),
-                   Traduce(u"En base %1 las cifras de %2, desde la última, son %3."_s)
-                       .arg(numero(b), numero(n), listaDe(lista))},
-        .solucion = [=] {
-            return Pasos(QList<Paso>{
-                {Traduce(u"Cada división quita una cifra de n en base %1; desde la última, son "
-                         "%2."_s)
-                     .arg(numero(b), listaDe(lista))},
-                {restos ? Traduce(u"Se suman las cifras."_s)
-                        : Traduce(u"Se suma %1 por cada cifra."_s).arg(c),
-                 {u"f(%1) = %2 = %3"_s.arg(n).arg(sumandos.join(u" + "_s)).arg(valor)}}});
-        }};
+    QList<ErrorTipico> errores = {
+        {numero(restos ? lista.size() : suma),
+         restos ? Traduce(u"Se suman los restos, no las veces que se divide."_s)
+                : Traduce(u"Se suma lo mismo en cada paso, no los restos."_s),
+         u"otra-cuenta"_s},
+        {numero(restos ? suma - lista.back() : porPasos - c),
+         Traduce(u"También cuenta el último paso, el que llega a 0."_s), u"sin-el-ultimo"_s},
+        {numero(n % b), Traduce(u"Ese es solo el primer resto."_s), u"un-paso"_s},
+        {numero(sumaDe(cifrasDe(n, 10))), Traduce(u"Esas son las cifras en base 10."_s),
+         u"base-10"_s}};
+    if (!restos)
+        errores << ErrorTipico{numero(porPasos + c), Traduce(u"f(0) vale 0: no suma nada."_s),
+                               u"cuenta-el-cero"_s};
+    return {.enunciado = Traduce(u"Sea f(0) = 0 y, si n > 0, f(n) = f(⌊n/%1⌋) + %2. ¿Cuánto vale "
+                                 "f(%3)?"_s)
+                             .arg(numero(b), cola, numero(n)),
+            .forma = {FormaDeRespuesta::Entero},
+            .ejemplo = Traduce(u"Un número"_s),
+            .esperada = numero(valor),
+            .juzga = juicioDe(numero(valor), errores,
+                              Traduce(u"No es ese valor: escriba las llamadas hasta f(0)."_s)),
+            .pistas = {Traduce(u"Divida una y otra vez: ¿qué tiene que ver con escribir n en otra "
+                               "base?"_s),
+                       Traduce(u"En base %1 las cifras de %2, desde la última, son %3."_s)
+                           .arg(numero(b), numero(n), listaDe(lista))},
+            .solucion = [=] {
+                return Pasos(QList<Paso>{
+                    {Traduce(u"Cada división quita una cifra de n en base %1; desde la última, son "
+                             "%2."_s)
+                         .arg(numero(b), listaDe(lista))},
+                    {restos ? Traduce(u"Se suman las cifras."_s)
+                            : Traduce(u"Se suma %1 por cada cifra."_s).arg(c),
+                     {u"f(%1) = %2 = %3"_s.arg(n).arg(sumandos.join(u" + "_s)).arg(valor)}}});
+            }};
 }
 
 } // namespace

@@ -172,7 +172,7 @@ Ejercicio periodoDeProducto(Sorteo &sorteo)
              {QString::number(std::gcd(p, r)),
               Traduce(u"Ese es el mcd: tiene que caber un número entero de vueltas de cada uno."_s),
               u"mcd"_s},
-             {QString::number(p + r), Traduce(u"Los periodos no se suman."_s), u"suma"_s},
+             {QString::number(p + r), Traduce(u"Los periodos no se suman."_s), u"los-suma"_s},
              {QString::number(m), Traduce(u"Ese es el módulo."_s), u"modulo"_s}},
             Traduce(u"Tiene que ser un múltiplo de los dos periodos, y el menor."_s)),
         .pistas = {Traduce(u"Los dos módulos son primos entre sí: se repite cuando lo hace con "

@@ -56,7 +56,7 @@ Ejercicio cuantos(int nivel, Sorteo &sorteo)
                                       : desde + sorteo.entre(40, 70);
     const auto raiz = static_cast<qint64>(std::sqrt(hasta));
     const QString pregunta = desde == 1
-                                 ? Traduce(u"¿Cuántos primos hay hasta %1?"_s).arg(hasta)
+                                 ? Traduce(u"¿Cuántos primos hay hasta %1, incluido?"_s).arg(hasta)
                                  : Traduce(u"¿Cuántos primos hay de %1 a %2, los dos incluidos?"_s)
                                        .arg(desde)
                                        .arg(hasta);

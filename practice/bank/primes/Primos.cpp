@@ -113,8 +113,12 @@ Fallo juzgaFactores(const RespuestaLeida &r, const Factores &factores)
             Traduce(u"El producto está bien, pero %1 no es primo."_s).arg(noPrimo->primo),
             noPrimo->primo == 1 ? u"uno"_s : u"factor-compuesto"_s);
     if (mismosPrimos(dados, factores))
-        return Fallo::mal(Traduce(u"Los primos son esos, pero ha olvidado algún exponente."_s),
-                          u"exponentes"_s);
+        return n % producto == 0
+                   ? Fallo::mal(
+                         Traduce(u"Los primos son esos, pero ha olvidado algún exponente."_s),
+                         u"exponentes"_s)
+                   : Fallo::mal(Traduce(u"Los primos son esos, pero no sus exponentes."_s),
+                                u"otros-exponentes"_s);
     return Fallo::mal(Traduce(u"Multiplique lo que ha escrito: no sale %1."_s).arg(n),
                       u"otro-producto"_s);
 }
@@ -138,8 +142,9 @@ Factores factoresDelNivel(int nivel, Sorteo &sorteo)
         return factoresConPotencia({2, 3, 5, 7}, 2, 2, sorteo);
     if (nivel == 2)
         return factoresConPotencia({2, 3, 5, 7, 11, 13}, 3, 1, sorteo);
-    return factoresConPotencia({2, 3, 5, 7, 11}, 2, 2, sorteo) +
-           Factores{{primoEntre(17, 97, sorteo), 1}};
+    // A statement of its own: in one expression each compiler draws in an order of its own.
+    const qint64 mayor = primoEntre(17, 97, sorteo);
+    return factoresConPotencia({2, 3, 5, 7, 11}, 2, 2, sorteo) + Factores{{mayor, 1}};
 }
 
 Ejercicio factores(int nivel, Sorteo &sorteo)

@@ -15,6 +15,19 @@ qint64 topeDe(int r)
     return r == 0 ? 0 : 1000 * topeDe(r - 1) + 255;
 }
 
+QList<ErrorTipico> erroresDeBloques(qint64 n, qint64 r)
+{
+    const bool justos = n % r == 0;
+    return {{QString::number(justos ? n / r + 1 : n / r),
+             justos ? Traduce(u"Los caracteres llenan justos los bloques: no hay uno más."_s)
+                    : Traduce(u"El último bloque también cuenta, aunque no se llene."_s),
+             justos ? u"bloque-de-mas"_s : u"ultimo-bloque"_s},
+            {QString::number(n * r), Traduce(u"Hay que repartir los caracteres, no repetirlos."_s),
+             u"producto"_s},
+            {QString::number(3 * n), Traduce(u"Esas son las cifras, tres por carácter."_s),
+             u"cifras"_s}};
+}
+
 Ejercicio cuantosBloques(Sorteo &sorteo)
 {
     const qint64 r = sorteo.entre(2, 9);
@@ -30,14 +43,7 @@ Ejercicio cuantosBloques(Sorteo &sorteo)
         .ejemplo = Traduce(u"Un número"_s),
         .esperada = QString::number(llenos + 1),
         .juzga = juicioDe(
-            QString::number(llenos + 1),
-            {{QString::number(llenos),
-              Traduce(u"El último bloque también cuenta, aunque no se llene."_s),
-              u"ultimo-bloque"_s},
-             {QString::number(n * r), Traduce(u"Hay que repartir los caracteres, no repetirlos."_s),
-              u"producto"_s},
-             {QString::number(3 * n), Traduce(u"Esas son las cifras, tres por carácter."_s),
-              u"cifras"_s}},
+            QString::number(llenos + 1), erroresDeBloques(n, r),
             Traduce(u"Cuente cuántas veces se toman r caracteres hasta acabar el texto."_s)),
         .pistas = {Traduce(u"Cada bloque lleva r caracteres; el último se completa con "
                            "espacios."_s),
@@ -45,7 +51,7 @@ Ejercicio cuantosBloques(Sorteo &sorteo)
         .solucion = [=] {
             return Pasos(QList<Paso>{
                 {Traduce(u"Se reparten los caracteres de r en r; si sobran, hay un bloque más."_s),
-                 {u"%1 = %2*%3 + %4"_s.arg(n).arg(llenos).arg(r).arg(sobran),
+                 {u"%1 = %2*%3 + %4"_s.arg(n).arg(n / r).arg(r).arg(n % r),
                   u"ceil(%1/%2) = %3"_s.arg(n).arg(r).arg(llenos + 1)}}});
         }};
 }

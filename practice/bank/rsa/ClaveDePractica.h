@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "practice/bank/shared/Numeros.h"
 #include "practice/engine/Ejercicio.h"
 
 #include <numeric>
@@ -14,6 +15,8 @@ struct ClaveDePractica
     qint64 q() const { return p * r; }
     qint64 fi() const { return (p - 1) * (r - 1); }
     qint64 lambda() const { return std::lcm(p - 1, r - 1); }
+    /// Whether a number of any length is the inverse of s modulo m.
+    bool inverso(const QString &numero, qint64 m) const { return restoDe(numero, m) * s % m == 1; }
 };
 
 /// Two of a list of primes, the smaller one first.

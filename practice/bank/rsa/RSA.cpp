@@ -40,22 +40,21 @@ Fallo juzgaT(const RespuestaLeida &respuesta, const ClaveDePractica &k)
     const qint64 dado = numeroDe(respuesta);
     if (dado == k.t)
         return correcto();
-    const qint64 producto = dado > 0 && dado < 100'000'000 ? dado * k.s : 0;
     if (dado == k.fi() - k.t)
         return Fallo::mal(Traduce(u"Ha perdido un signo: ese número por s deja resto −1."_s),
                           u"signo"_s);
     if (dado == k.fi() - k.s)
         return Fallo::mal(Traduce(u"Ese es el inverso aditivo de s: con él, s suma φ(q)."_s),
                           u"inverso-aditivo"_s);
-    if (producto % k.fi() == 1)
+    if (k.inverso(respuesta.numeros[0], k.fi()))
         return Fallo::mal(Traduce(u"Es congruente con t, pero se pide entre 1 y φ(q)."_s),
                           u"sin-reducir"_s);
-    if (producto % k.lambda() == 1)
+    if (k.inverso(respuesta.numeros[0], k.lambda()))
         return Fallo::mal(
             Traduce(u"También descifra, porque es inverso módulo el mcm de los primos "
                     "menos 1, pero se pide módulo φ(q)."_s),
             u"modulo-lambda"_s);
-    if (producto % k.q() == 1)
+    if (k.inverso(respuesta.numeros[0], k.q()))
         return Fallo::mal(Traduce(u"Ese es el inverso de s módulo q: hace falta módulo φ(q)."_s),
                           u"modulo-q"_s);
     return Fallo::mal(Traduce(u"Ese número por s no deja resto 1 al dividirlo entre φ(q)."_s));
@@ -114,8 +113,8 @@ Ejercicio cifra(int nivel, Sorteo &sorteo)
         .forma = {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}},
         .ejemplo = Traduce(u"Un número"_s),
         .esperada = QString::number(c),
-        .juzga = juicioDe(QString::number(c), erroresAlElevar(m, k.s, k.t, k),
-                          Traduce(u"No es el resto de esa potencia al dividirla entre q."_s)),
+        .juzga = juicioDeResto(c, k.q(), erroresAlElevar(m, k.s, k.t, k),
+                               Traduce(u"No es el resto de esa potencia al dividirla entre q."_s)),
         .pistas = {Traduce(u"Cifrar es elevar a s y quedarse con el resto módulo q: escriba s "
                            "en binario."_s),
                    Traduce(u"%1 es %2 en binario: con cada cifra se eleva al cuadrado, y con un "
@@ -153,8 +152,8 @@ Ejercicio descifra(int nivel, Sorteo &sorteo)
         .forma = {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}},
         .ejemplo = Traduce(u"Un número"_s),
         .esperada = QString::number(m),
-        .juzga = juicioDe(QString::number(m), erroresAlElevar(c, k.t, k.s, k),
-                          Traduce(u"Al cifrar ese número no sale el que se ve."_s)),
+        .juzga = juicioDeResto(m, k.q(), erroresAlElevar(c, k.t, k.s, k),
+                               Traduce(u"Al cifrar ese número no sale el que se ve."_s)),
         .pistas = {Traduce(u"Descifrar es elevar a t; se puede hacer módulo cada primo, y juntar "
                            "los restos."_s),
                    Traduce(u"Los exponentes se reducen módulo los primos menos 1: %1 módulo %2 y "

@@ -36,7 +36,8 @@ Fallo juzgaPrimos(const RespuestaLeida &respuesta, qint64 p, qint64 r)
         return Fallo::mal(Traduce(u"Esas son la diferencia y la suma de los primos."_s),
                           u"suma-y-diferencia"_s);
     if (qAbs(a) < 1'000'000 && qAbs(b) < 1'000'000 && a + b == p + r)
-        return Fallo::mal(Traduce(u"Suman lo que deben, pero su producto no es q."_s), u"suma"_s);
+        return Fallo::mal(Traduce(u"Suman lo que deben, pero su producto no es q."_s),
+                          u"otro-producto"_s);
     return Fallo::mal(Traduce(u"El producto de esos dos números tiene que ser q, y el de esos "
                               "números menos 1, φ(q)."_s));
 }
@@ -53,12 +54,16 @@ Fallo juzgaRotura(const RespuestaLeida &respuesta, const ClaveDePractica &k)
             Traduce(u"El producto de los dos primeros tiene que ser q, y ninguno, 1."_s),
             u"primos"_s);
     // Whatever undoes s is a private exponent.
-    if (t > 0 && t < 100'000'000 && t * k.s % k.lambda() == 1)
-        return correcto();
+    const QString &escrito = respuesta.numeros[2];
+    if (k.inverso(escrito, k.lambda()))
+        return !escrito.startsWith(u'-')
+                   ? correcto()
+                   : Fallo::mal(Traduce(u"Falta sumarle φ(q): un exponente privado es positivo."_s),
+                                u"no-positivo"_s);
     if (t == k.fi() - k.t)
         return Fallo::mal(Traduce(u"Ha perdido un signo: ese número por s deja resto −1."_s),
                           u"signo"_s);
-    if (t > 0 && t < 100'000'000 && t * k.s % k.q() == 1)
+    if (k.inverso(escrito, k.q()))
         return Fallo::mal(Traduce(u"Ese es el inverso de s módulo q: hace falta módulo φ(q)."_s),
                           u"modulo-q"_s);
     return Fallo::mal(Traduce(u"Los primos son esos, pero t no deshace lo que hace s."_s), u"t"_s);

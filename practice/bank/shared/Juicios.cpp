@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "practice/bank/shared/Juicios.h"
 
+#include "practice/bank/shared/Numeros.h"
 #include "shell/core/ModGlobal.h"
 
 #include <algorithm>
@@ -43,6 +44,16 @@ Juicio juicioSinOrden(const QString &esperados, const QList<ErrorTipico> &errore
                       const QString &otra)
 {
     return juicioComo(ordenados, esperados, errores, otra);
+}
+
+Juicio juicioDeResto(qint64 esperado, qint64 n, const QList<ErrorTipico> &errores,
+                     const QString &otra)
+{
+    const QString reducido = numero(esperado);
+    return [=, juicio = juicioDe(reducido, errores, otra)](const RespuestaLeida &respuesta) {
+        const QString &dado = respuesta.numeros[0];
+        return dado != reducido && restoDe(dado, n) == esperado ? sinReducir(n) : juicio(respuesta);
+    };
 }
 
 qint64 numeroDe(const RespuestaLeida &respuesta, qsizetype lugar)

@@ -24,6 +24,11 @@ Juicio juicioDe(const QString &esperados, const QList<ErrorTipico> &errores, con
 Juicio juicioSinOrden(const QString &esperados, const QList<ErrorTipico> &errores,
                       const QString &otra);
 
+/// As juicioDe where one remainder modulo n is asked for: a number congruent to it has a word of
+/// its own.
+Juicio juicioDeResto(qint64 esperado, qint64 n, const QList<ErrorTipico> &errores,
+                     const QString &otra);
+
 /// The number at that place of an answer; −4·10^18 where it has none that the machine can hold,
 /// which is no answer to anything and can still be subtracted.
 qint64 numeroDe(const RespuestaLeida &respuesta, qsizetype lugar = 0);

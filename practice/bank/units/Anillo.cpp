@@ -120,7 +120,9 @@ Fallo juzgaLambda(const RespuestaLeida &r, const Factores &factores)
         return Fallo::mal(
             Traduce(u"Ha olvidado los exponentes: ha tomado cada primo una sola vez."_s),
             u"sin-exponente"_s);
-    if (dado > 0 && dado % lambda == 0)
+    if (r.numeros[0] == u"0" || r.numeros[0].startsWith(u'-'))
+        return Fallo::mal(Traduce(u"Se pide un exponente positivo."_s), u"no-positivo"_s);
+    if (restoDe(r.numeros[0], lambda) == 0)
         return Fallo::mal(Traduce(u"Con ese exponente todas dan 1, pero también con uno menor."_s),
                           u"multiplo"_s);
     return Fallo::mal(Traduce(u"Hay una unidad que con ese exponente no da 1."_s), u"no-todas"_s);

@@ -48,8 +48,9 @@ Factores factoresDelNivel(int nivel, Sorteo &sorteo)
         return factoresConPotencia({2, 3, 5, 7, 11}, 2, 1, sorteo);
     if (nivel == 2)
         return factoresConPotencia({2, 3, 5, 7, 11}, 3, 1, sorteo);
-    return factoresConPotencia({2, 3, 5, 7}, 2, 2, sorteo) +
-           Factores{{primoEntre(11, 31, sorteo), 1}};
+    // A statement of its own: in one expression each compiler draws in an order of its own.
+    const qint64 mayor = primoEntre(11, 31, sorteo);
+    return factoresConPotencia({2, 3, 5, 7}, 2, 2, sorteo) + Factores{{mayor, 1}};
 }
 
 Ejercicio fi(int nivel, Sorteo &sorteo)

@@ -26,6 +26,13 @@ RespuestaLeida noEntendida(const QString &parte)
     return {RespuestaLeida::NoEntendida, {}, {}, Traduce(u"no entiendo «%1»"_s).arg(parte)};
 }
 
+/// The same of a part that may be blank, where something is missing: then the whole is named.
+RespuestaLeida noEntendida(const QString &parte, const QString &todo)
+{
+    const QString suya = parte.trimmed();
+    return noEntendida(suya.isEmpty() ? todo.trimmed() : suya);
+}
+
 RespuestaLeida leida(const QStringList &numeros, const QString &como)
 {
     return {RespuestaLeida::Leida, numeros, {}, Traduce(u"leo %1"_s).arg(como)};
@@ -57,11 +64,11 @@ void bajaCifras(QString &texto)
     texto = enIndice ? llano + u')' : llano;
 }
 
-/// Grouping as the program prints it; a comma only where nothing else can be meant.
+/// Grouping as the program prints it: no group begins with a 0, as decimals do.
 void quitaGrupos(QString &texto)
 {
     static const QRegularExpression grupos(
-        u"(?<![\\d.,'])\\d{1,3}(?:([.'\\x{00a0}\\x{202f}\\x{2009}])\\d{3})(?:\\g1\\d{3})*(?![\\d.])"_s);
+        u"(?<![\\d.,'])[1-9]\\d{0,2}(?:([.'\\x{00a0}\\x{202f}\\x{2009}])\\d{3})(?:\\g1\\d{3})*(?![\\d.])"_s);
     QString sin;
     qsizetype desde = 0;
     for (auto i = grupos.globalMatch(texto); i.hasNext();) {
@@ -198,7 +205,7 @@ RespuestaLeida leeSuma(const QString &expresion)
         }
         const auto valor = entero(sinBlancosDeGrupo(sumando));
         if (!valor || numeros.size() == MasNumeros)
-            return noEntendida(sumando.trimmed());
+            return noEntendida(sumando, expresion);
         numeros << *valor;
         sumando.clear();
     }
@@ -285,7 +292,7 @@ RespuestaLeida leeSolucion(const QString &expresion)
         const qsizetype igual = lado.indexOf(u'=');
         const auto recta = rectaDe(lado.sliced(igual + 1));
         if (!recta)
-            return noEntendida(lado.trimmed());
+            return noEntendida(lado, expresion);
         if (numeros.isEmpty())
             primera = lado.first(std::max<qsizetype>(igual, 0)).trimmed().toLower();
         numeros << *recta;
@@ -296,6 +303,16 @@ RespuestaLeida leeSolucion(const QString &expresion)
         numeros = numeros.sliced(2) + numeros.first(2);
     return leida(numeros, u"x = %1 + (%2)k, y = %3 + (%4)k"_s.arg(numeros[0], numeros[1],
                                                                   numeros[2], numeros[3]));
+}
+
+/// Why an expression has no value; one that begins with "mod" lacks a number before it.
+FalloDeExpresion falloDe(const QString &expresion)
+{
+    try {
+        return falloDeExpresion(expresion);
+    } catch (const ErrorEjecucion &) {
+        return {FalloDeExpresion::Clase::FaltaNumero, u"mod"_s};
+    }
 }
 
 RespuestaLeida leeFraccion(const QString &expresion, const QString &texto)
@@ -313,7 +330,7 @@ RespuestaLeida leeFraccion(const QString &expresion, const QString &texto)
     if (cuadra && arriba && abajo != u"0"_s)
         return leida({*arriba, abajo.value_or(u"1"_s)}, sinGrupos);
     // What has a value but is not written as one is left to be computed: the question itself.
-    if (falloDeExpresion(expresion).clase == FalloDeExpresion::Clase::Ninguno)
+    if (falloDe(expresion).clase == FalloDeExpresion::Clase::Ninguno)
         return {RespuestaLeida::EsLaPregunta, {}, {}, Traduce(u"eso es la pregunta"_s)};
     return noEntendida(texto.trimmed());
 }
@@ -321,7 +338,7 @@ RespuestaLeida leeFraccion(const QString &expresion, const QString &texto)
 RespuestaLeida leeFormulaDeCelda(const QString &expresion, const QString &texto)
 {
     static const QRegularExpression celda(u"(?<!\\p{L})[A-Ya-y][1-9]\\d?"_s);
-    const auto fallo = falloDeExpresion(QString(expresion).replace(celda, u"(1)"_s));
+    const auto fallo = falloDe(QString(expresion).replace(celda, u"(1)"_s));
     if (fallo.clase != FalloDeExpresion::Clase::Ninguno &&
         fallo.clase < FalloDeExpresion::Clase::DivisionPorCero)
         return noEntendida(fallo.donde.isEmpty() ? texto.trimmed() : fallo.donde);

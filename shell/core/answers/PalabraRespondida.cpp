@@ -3,6 +3,8 @@
 
 #include "shell/core/ModGlobal.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -29,7 +31,9 @@ QString llana(const QString &palabra)
 
 QString palabraRespondida(const QString &texto, const QStringList &palabras)
 {
-    QString dada = llana(texto);
+    static const QRegularExpression conTheta(u"^\\s*[OΘ]\\s*\\((.*)\\)\\s*$"_s);
+    const auto orden = conTheta.match(texto);
+    QString dada = llana(orden.hasMatch() ? orden.captured(1) : texto);
     // An exclamation mark is one where no word has a factorial.
     if (!palabras.join(u' ').contains(u'!'))
         dada.remove(u'!');
