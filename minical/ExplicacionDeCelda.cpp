@@ -155,6 +155,11 @@ QString motivoDeError(const HojaDeCalculo &hoja, Celda celda)
 {
     if (hoja.Variables().busca(NombreCelda(celda)) != hoja.Variables().end())
         return Traduce(u"La forma decimal tiene demasiadas cifras."_s);
+    return motivoSinValor(hoja, celda);
+}
+
+QString motivoSinValor(const HojaDeCalculo &hoja, Celda celda)
+{
     QString texto;
     try {
         texto = hoja.SustituirVariables(expresionDe(hoja, celda)).trimmed();

@@ -13,6 +13,9 @@ class HojaDeCalculo;
 /// pointer rests on a cell.
 QString motivoDeError(const HojaDeCalculo &hoja, Celda celda);
 
+/// The same for a cell that shows what it gave with other values: why it gives nothing now.
+QString motivoSinValor(const HojaDeCalculo &hoja, Celda celda);
+
 /// What does not show in a cell itself: why it is an error, how many digits its value has. Empty
 /// where there is nothing to say.
 QString explicacionDeCelda(const HojaDeCalculo &hoja, Celda celda);

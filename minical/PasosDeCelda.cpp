@@ -22,7 +22,8 @@ constexpr qsizetype MasLarga = 4000;
 struct Explicada
 {
     QString nombre, expresion, resultado;
-    QList<QStringList> usadas; ///< names and values of the cells that stand in it
+    QList<QStringList> usadas;         ///< names and values of the cells that stand in it
+    std::optional<QString> ahora = {}; ///< what it gives with the values that they have now
     std::optional<Termino> termino = {};
     int operaciones = 0;
 };
@@ -54,7 +55,7 @@ QList<QStringList> usadasEn(const HojaDeCalculo &hoja, QString expresion)
 }
 
 /// The expression with its values and turns; nothing where it cannot be followed.
-std::optional<Termino> contado(const QString &sustituida, int &operaciones)
+std::optional<Termino> contado(const QString &sustituida, const QString &valor, int &operaciones)
 {
     constexpr qsizetype muyLarga = 100'000;
     QString reescrita = sustituida;
@@ -63,7 +64,7 @@ std::optional<Termino> contado(const QString &sustituida, int &operaciones)
     if (reescrita.size() <= muyLarga)
         termino = leeTermino(reescrita);
     const auto cuantas = termino ? cuenta(*termino) : std::nullopt;
-    if (!cuantas || termino->valor != Evalua(QString(sustituida)))
+    if (!cuantas || termino->valor != valor)
         return {};
     operaciones = *cuantas;
     return termino;
@@ -77,9 +78,12 @@ Explicada explicada(const HojaDeCalculo &hoja, Celda celda)
                 {}};
     e.usadas = usadasEn(hoja, e.expresion);
     try {
-        e.termino = contado(hoja.SustituirVariables(e.expresion), e.operaciones);
+        const QString sustituida = hoja.SustituirVariables(e.expresion);
+        e.ahora = sinError(Evalua(QString(sustituida)));
+        if (e.ahora)
+            e.termino = contado(sustituida, *e.ahora, e.operaciones);
     } catch (const ErrorEjecucion &) {
-        e.termino.reset(); // too long, or no expression at all
+        return e; // too long, or no expression at all
     }
     return e;
 }
@@ -124,8 +128,8 @@ Dicho dichoDeSigno(const QString &signo)
         return {Traduce(u"Se divide, y la fracción se simplifica."_s), productos};
     return {
         Traduce(u"Se toma el resto de la división."_s),
-        Traduce(u"El resto va de 0 al divisor sin llegar a él. De una potencia grande se calcula "
-                "solo el resto, sin escribirla entera."_s)};
+        Traduce(u"El resto va de 0 al divisor, sin contar su signo ni llegar a él. De una potencia "
+                "grande se calcula solo el resto, sin escribirla entera."_s)};
 }
 
 Dicho dichoDe(const Termino &operacion)
@@ -160,32 +164,45 @@ Paso pasoDeOperacion(const Explicada &e, int turno)
     return paso;
 }
 
+/// What the cell shows, where that is another thing than its value now.
+QString reglaDeLoMostrado(const QString &mostrado, const QString &valor)
+{
+    if (mostrado == valor)
+        return {};
+    if (mostrado.contains(u',') && mostrado == ADecimal(valor))
+        return Traduce(u"La celda muestra su forma decimal, %1; otras celdas siguen viendo el "
+                       "valor exacto."_s)
+            .arg(mostrado);
+    return Traduce(u"Es lo que da con los valores de ahora: la celda muestra %1 hasta que se "
+                   "recalcule (F9)."_s)
+        .arg(mostrado);
+}
+
 Paso pasoDelResultado(const Explicada &e)
 {
     const QString &valor = e.termino->valor;
-    Paso paso{Traduce(u"%1 vale %2."_s).arg(e.nombre, valor),
-              siCabe(u"%1 = %2"_s.arg(escrito(*e.termino, 0), valor))};
-    if (e.resultado.contains(u','))
-        paso.regla =
-            Traduce(u"La celda muestra su forma decimal, %1; otras celdas siguen viendo el "
-                    "valor exacto."_s)
-                .arg(e.resultado);
-    else if (e.resultado != valor)
-        paso.regla =
-            Traduce(u"Es lo que da con los valores de ahora: la celda muestra %1 hasta que se "
-                    "recalcule (F9)."_s)
-                .arg(e.resultado);
+    return {Traduce(u"%1 vale %2."_s).arg(e.nombre, valor),
+            siCabe(u"%1 = %2"_s.arg(escrito(*e.termino, 0), valor)),
+            reglaDeLoMostrado(e.resultado, valor)};
+}
+
+Paso pasoSinOperaciones(const Explicada &e)
+{
+    Paso paso{Traduce(u"La cuenta es demasiado larga para verla operación por operación. El "
+                      "resultado es %1."_s)
+                  .arg(*e.ahora)};
+    paso.regla = reglaDeLoMostrado(e.resultado, *e.ahora);
     return paso;
 }
 
-Pasos sinCuenta(const Explicada &e, const QString &motivo)
+Paso pasoSinValor(const QString &motivo, const QString &mostrado)
 {
-    const QString frase = motivo.isEmpty()
-                              ? Traduce(u"La cuenta es demasiado larga para verla operación por "
-                                        "operación. El resultado es %1."_s)
-                                    .arg(e.resultado)
-                              : Traduce(u"No tiene valor: %1"_s).arg(motivo);
-    return Pasos(QList<Paso>{pasoDeNombres(e), Paso{frase}});
+    Paso paso{Traduce(u"No tiene valor: %1"_s).arg(motivo)};
+    if (!esError(mostrado))
+        paso.regla = Traduce(u"La celda muestra %1, que dio con otros valores, hasta que se "
+                             "recalcule (F9)."_s)
+                         .arg(mostrado);
+    return paso;
 }
 
 } // namespace
@@ -195,8 +212,11 @@ Pasos pasosDeCelda(const HojaDeCalculo &hoja, Celda celda)
     if (!celda.esDeDatos() || hoja.Expresiones(celda.fila, celda.columna).trimmed().isEmpty())
         return {};
     const Explicada e = explicada(hoja, celda);
+    if (!e.ahora)
+        return Pasos(
+            QList<Paso>{pasoDeNombres(e), pasoSinValor(motivoSinValor(hoja, celda), e.resultado)});
     if (!e.termino)
-        return sinCuenta(e, esError(e.resultado) ? motivoDeError(hoja, celda) : QString());
+        return Pasos(QList<Paso>{pasoDeNombres(e), pasoSinOperaciones(e)});
     return Pasos(e.operaciones + 2, [e](qsizetype i) {
         if (i == 0)
             return pasoDeNombres(e);

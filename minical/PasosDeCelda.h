@@ -7,6 +7,7 @@
 class HojaDeCalculo;
 
 /// How a cell comes to its result: its names replaced by their values, as they are now, and then
-/// operation by operation. None for an empty cell; for one that shows "Error", the reason. Computes
-/// the expression, in about as long as the sheet took.
+/// operation by operation, and what it shows where that is older. None for an empty cell; for one
+/// whose expression has no value now, the reason. Computes the expression, in about as long as the
+/// sheet took.
 Pasos pasosDeCelda(const HojaDeCalculo &hoja, Celda celda);

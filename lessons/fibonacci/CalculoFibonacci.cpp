@@ -11,17 +11,20 @@ namespace {
 /// Additions between two yields, some milliseconds of the longest numbers.
 constexpr int TramoDeSumas = 10'000;
 
-/// F(n) by additions, stretch by stretch, so that a click need not wait for all of them. Only the
-/// additions count.
-Tarea<FibonacciCalculado> sumaPorTramos(int n, Billete billete)
+/// F(n) by additions so many times over, stretch by stretch, so that a click need not wait for all
+/// of them. Only the additions take time.
+Tarea<FibonacciCalculado> sumaPorTramos(int n, std::int32_t veces, Billete billete)
 {
     FibonacciCalculado total;
-    for (int desde = 0; desde < n && !billete.detenida(); desde += TramoDeSumas) {
-        const FibonacciCalculado tramo = SigueFibonacci(desde, std::min(desde + TramoDeSumas, n));
-        total.valor = tramo.valor;
-        total.sumas += tramo.sumas + (desde > 0 ? 1 : 0); // the one to F(desde + 1)
-        total.tiempo += tramo.tiempo;
-        co_await billete.ceder();
+    for (; veces > 0; --veces) {
+        total.sumas = 0;
+        for (int desde = 0; desde < n && !billete.detenida(); desde += TramoDeSumas) {
+            const auto tramo = SigueFibonacci(desde, std::min(desde + TramoDeSumas, n));
+            total.valor = tramo.valor;
+            total.sumas += tramo.sumas + (desde > 0 ? 1 : 0); // the one to F(desde + 1)
+            total.tiempo += tramo.tiempo;
+            co_await billete.ceder();
+        }
     }
     co_return total;
 }
@@ -37,7 +40,7 @@ Tarea<FibonacciMedido> midePorNumeros(ViaDeFibonacci via, int n, Billete billete
             co_return FibonacciMedido{};
         FibonacciCalculado turno;
         if (via == ViaDeFibonacci::Iteracion && n > TramoDeSumas)
-            turno = co_await sumaPorTramos(n, billete);
+            turno = co_await sumaPorTramos(n, medida.veces(), billete);
         else
             turno = CalculaFibonacci(via, n, medida.veces());
         if (billete.detenida())

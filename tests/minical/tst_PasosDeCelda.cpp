@@ -89,6 +89,24 @@ private Q_SLOTS:
         QCOMPARE(regla(), QString());
         hoja.ValorDecimal(en(u"B1"));
         QVERIFY(regla().contains(u"forma decimal, 0,125"_s));
+        entra(hoja, u"A1", u"4"_s);
+        QVERIFY(regla().contains(u"muestra 0,125 hasta"_s));
+    }
+
+    /// A value that was shown may have none any more.
+    void yaNoTieneValor_data()
+    {
+        filasDeTexto<QString, QString>(
+            u"zero | 0 | Divide entre 0 || error | 1/0 | A1 tiene un error || empty | | A1 está vacía"_s);
+    }
+    void yaNoTieneValor()
+    {
+        const auto [ahora, motivo] = estaFila<QString, QString>();
+        HojaCon hoja{{u"A1", u"4"}, {u"B1", u"1/A1"}};
+        entra(hoja, u"A1", ahora);
+        const Paso ultimo = pasosDeCelda(hoja, en(u"B1")).paso(1);
+        QVERIFY2(ultimo.frase.contains(motivo), qPrintable(ultimo.frase));
+        QVERIFY2(ultimo.regla.contains(u"muestra 1/4"_s), qPrintable(ultimo.regla));
     }
 
     void demasiadoLarga()
@@ -98,6 +116,9 @@ private Q_SLOTS:
         const Pasos pasos = pasosDeCelda(hoja, en(u"A1"));
         QCOMPARE(pasos.cuantos(), 2);
         QVERIFY(pasos.paso(1).frase.endsWith(u"El resultado es 401."_s));
+        entra(hoja, u"A3", u"A1"_s + u"+1"_s.repeated(400));
+        entra(hoja, u"A1", u"5"_s);
+        QVERIFY(pasosDeCelda(hoja, en(u"A3")).paso(1).frase.endsWith(u"El resultado es 405."_s));
         entra(hoja, u"A2", u"("_s.repeated(900) + u"1"_s + u")"_s.repeated(900));
         QVERIFY(pasosDeCelda(hoja, en(u"A2")).paso(1).frase.endsWith(u"El resultado es 1."_s));
     }

@@ -157,9 +157,10 @@ void FormTCRSistema::cierraRespuesta(const Resolucion &resolucion)
         m_pasos->pon(pasosDelTCR(m_modelo->sistema()));
 }
 
-/// A solution that was shown is none of the rows as they are now.
+/// A solution that was shown is none of the rows as they are now, and neither is an objection.
 void FormTCRSistema::FlexTCR_Change()
 {
+    ui->lblAviso->clear();
     if (ui->txtSol1->isReadOnly())
         abreRespuesta();
 }

@@ -47,7 +47,7 @@ void FormEuclidesCuestiones::campo_Change()
     QStringList leidos;
     for (const auto &[nombre, campo] :
          {std::pair(u"a"_s, ui->txtP1_0), {u"b"_s, ui->txtP1_1}, {u"n"_s, ui->TxtN}}) {
-        const QString leo = leeRespuesta(campo->text(), {FormaDeRespuesta::Entero}).leo;
+        const QString leo = leeExpresion(campo->text()).leo;
         if (!leo.isEmpty())
             leidos << nombre + u": "_s + leo;
     }

@@ -56,8 +56,7 @@ void FormPrimosCuestiones::txtPrimo_Change()
 {
     const std::array rotulos{ui->lblLeido_0, ui->lblLeido_1};
     for (std::size_t i = 0; i < rotulos.size(); ++i)
-        rotulos.at(i)->setText(
-            leeRespuesta(m_txtPrimo.at(i)->text(), {FormaDeRespuesta::Entero}).leo);
+        rotulos.at(i)->setText(leeExpresion(m_txtPrimo.at(i)->text()).leo);
     ui->lblVeredicto->clear();
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "bignum/gateway/ErrorEjecucion.h"
 #include "bignum/gateway/ModBignum.h"
 #include "lessons/rsa/key/Cifrado.h"
 #include "lessons/rsa/key/TextoEnBloques.h"
@@ -6,6 +7,7 @@
 #include "lessons/rsa/steps/PasosDeCifrado.h"
 #include "lessons/rsa/steps/RaicesEnteras.h"
 #include "shell/core/Formatos.h"
+#include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -96,6 +98,14 @@ RaizDeBloque raizDe(const QString &bloque, int s)
     return {raiz, exacta, Formula(escrita)};
 }
 
+ResultadoDeAtaque conExponenteNegativo(const Victima &v)
+{
+    return sinExito(ResultadoDeAtaque::NoHay, {},
+                    Traduce(u"No hay raíz que valga: s es negativo, y el paquete es una potencia "
+                            "del inverso de m módulo q."_s),
+                    {Formula(u"%1 < 0"_s.arg(v.s))});
+}
+
 /// With s beyond the bits of q, no block but 0 and 1 has a power below q.
 ResultadoDeAtaque sinPotenciasMenores(const Victima &v, int bits)
 {
@@ -116,7 +126,10 @@ Tarea<ResultadoDeAtaque> porTabla(Victima v, Billete billete)
     Potencias potencias(v.s, v.q);
     QHash<QString, int> tabla;
     for (int codigo = 0; codigo < Caracteres; ++codigo) {
-        tabla.insert(potencias.de(QString::number(codigo)), codigo);
+        const QString paquete = potencias.de(QString::number(codigo));
+        if (esError(paquete))
+            throw ErrorEjecucion(ErrorEjecucion::Desbordamiento);
+        tabla.insert(paquete, codigo);
         co_await billete.ceder();
         if (billete.detenida())
             co_return detenido();
@@ -134,6 +147,8 @@ ResultadoDeAtaque porRaiz(const Victima &v)
 {
     const EnteroLargo s(v.s);
     const int bits = NumeroDeBits(v.q);
+    if (s < 0)
+        return conExponenteNegativo(v);
     if (s >= bits)
         return sinPotenciasMenores(v, bits);
     if (s > MayorS)

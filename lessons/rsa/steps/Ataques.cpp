@@ -45,6 +45,8 @@ ResultadoDeAtaque demasiadoLargos()
 
 Tarea<ResultadoDeAtaque> elegido(Ataque ataque, Victima victima, Billete billete)
 {
+    if (billete.detenida()) // while the word was encrypted: not all its blocks are there
+        co_return detenido();
     switch (ataque) {
     case Ataque::TablaDeBloques:
         co_return co_await porTabla(victima, billete);

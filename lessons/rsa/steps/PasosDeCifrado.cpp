@@ -20,7 +20,8 @@ struct Camino
 {
     ClaveEnCifras clave;
     QByteArray codigos;
-    QString numero; ///< without zeros in front
+    bool completado; ///< with blanks that the text lacks
+    QString numero;  ///< without zeros in front
     QString cifrado, vuelto;
 };
 
@@ -45,6 +46,8 @@ Paso enBloque(const Camino &c)
               {Formula(u"m = %1 < %2"_s.arg(c.numero, c.clave.q))},
               Traduce(u"El paquete es menor que q: así se distingue de los demás módulo q."_s),
               tablaDeCodigos(c.codigos)};
+    if (c.completado)
+        paso.frase += u' ' + Traduce(u"El texto se ha completado con espacios."_s);
     if (c.clave.r < 2 || c.clave.r > MasCaracteres)
         return paso;
     QStringList sumandos;
@@ -76,10 +79,12 @@ Paso deVuelta(const Camino &c)
         tablaDeCodigos(c.codigos)};
 }
 
-/// Bit by bit where that can be looked at.
+/// Bit by bit where that can be looked at; a negative exponent has no bits.
 Pasos potencia(const QString &base, const QString &exponente, const QString &q)
 {
     constexpr int muchosBits = 512, pocosBits = 64;
+    if (exponente.startsWith(u'-'))
+        return {};
     if (ClaveEnCifras::corto(q, muchosBits) || ClaveEnCifras::corto(exponente, pocosBits))
         return pasosDePotencia(base, exponente, q);
     return {};
@@ -116,8 +121,9 @@ Pasos pasosDeCifrado(const ClaveEnCifras &clave, const QString &texto)
     const auto bytes = aWindows1252(texto.left(std::max(clave.r, 0)));
     if (!bytes || bytes->isEmpty())
         return {};
-    return Pasos::aplazados([clave, codigos = bytes->leftJustified(clave.r, ' ')] {
-        Camino c{clave, codigos, {}, {}, {}};
+    const bool completado = bytes->size() < clave.r;
+    return Pasos::aplazados([clave, completado, codigos = bytes->leftJustified(clave.r, ' ')] {
+        Camino c{clave, codigos, completado, {}, {}, {}};
         c.clave.s = Evalua(QString(clave.s), {}, Aritmetica::Entera);
         c.numero =
             EnteroLargo(PaquetesDeTexto(deWindows1252(codigos), clave.r).siguiente()).texto();

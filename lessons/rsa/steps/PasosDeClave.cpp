@@ -31,10 +31,14 @@ Paso fi(const ClaveEnCifras &c)
     Paso paso{Traduce(u"φ(q) cuenta los números de 1 a q que son primos con q."_s),
               {Formula(u"φ = (%1-1)*(%2-1) = %3"_s.arg(c.q1, c.q2, c.fi))},
               Traduce(u"Si q(1) y q(2) son primos distintos, φ(q) = (q(1) − 1)·(q(2) − 1)."_s)};
-    if (c.q1 == c.q2)
-        paso.regla =
-            Traduce(u"Los dos primos son iguales, y entonces φ(q) es q(1)·(q(1) − 1): con "
-                    "esta clave no siempre se recupera el texto, y q se factoriza con una raíz."_s);
+    if (c.q1 != c.q2)
+        return paso;
+    paso.frase = Traduce(u"La clave toma (q(1) − 1)·(q(2) − 1) por φ(q), que cuenta los números de "
+                         "1 a q que son primos con q."_s);
+    paso.formulas = {Formula(u"(%1-1)*(%2-1) = %3"_s.arg(c.q1, c.q2, c.fi))};
+    paso.regla =
+        Traduce(u"Los dos primos son iguales, y entonces φ(q) es q(1)·(q(1) − 1): con "
+                "esta clave no siempre se recupera el texto, y q se factoriza con una raíz."_s);
     return paso;
 }
 

@@ -11,12 +11,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-Pasos sinClave()
+/// Why the own key cannot be attacked.
+Pasos sinClave(bool comprobada)
 {
-    Paso paso;
-    paso.frase =
-        Traduce(u"Su clave no está comprobada: termínela, o elija una de las publicadas."_s);
-    return Pasos(QList<Paso>{paso});
+    return Pasos(QList<Paso>{
+        Paso{comprobada ? Traduce(u"Cada paquete ha de tener al menos un carácter."_s)
+                        : Traduce(u"Su clave no está comprobada: termínela, o elija una de las "
+                                  "publicadas."_s)}});
 }
 
 } // namespace
@@ -56,7 +57,7 @@ void FormRSAAtaques::abandona()
         m_atacar->detiene();
 }
 
-/// The key to attack; none while the own one is not valid.
+/// The key to attack; none while the own one is not valid, or encrypts nothing.
 std::optional<ClaveEnCifras> FormRSAAtaques::elegida() const
 {
     if (const int i = ui->cmbVictima->currentIndex(); i > 0)
@@ -77,7 +78,7 @@ Tarea<> FormRSAAtaques::cmdAtacar_Click()
     const std::optional<ClaveEnCifras> clave = elegida();
     m_pasos->pideVerse();
     if (!clave) {
-        m_pasos->pon(sinClave());
+        m_pasos->pon(sinClave(m_clave->ClaveOK()));
         co_return;
     }
     const auto marcha = m_atacar->empieza(m_tareas.billete());

@@ -14,6 +14,7 @@
 #include "ui_FormRSACodificacion.h"
 
 #include <QHeaderView>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,6 +42,8 @@ FormRSACodificacion::FormRSACodificacion(std::shared_ptr<ClsRSA> clave, QWidget 
             &FormRSACodificacion::cmdCodificar_Click);
     conecta(ui->cmdDescodificar, &QPushButton::clicked, this,
             &FormRSACodificacion::cmdDescodificar_Click);
+    conecta(ui->txtTextoOriginal, &FormRSATexto::textChanged, this,
+            &FormRSACodificacion::txtTextoOriginal_Change);
 }
 
 FormRSACodificacion::~FormRSACodificacion() = default;
@@ -62,6 +65,13 @@ void FormRSACodificacion::ajustaFilas()
         FormRSABloques::alto(rejilla->fontMetrics(), cifras, rejilla->columnWidth(0)));
 }
 
+/// An objection is about the text that was to be encrypted.
+void FormRSACodificacion::txtTextoOriginal_Change()
+{
+    if (std::exchange(m_rechazado, false))
+        ui->lblEstadoCodigo->clear();
+}
+
 /// A click on the button of a run: whether it is to begin. One that is on is stopped.
 bool FormRSACodificacion::empiezaCon(BotonDeCorrida *boton) const
 {
@@ -72,7 +82,10 @@ bool FormRSACodificacion::empiezaCon(BotonDeCorrida *boton) const
 Tarea<> FormRSACodificacion::cmdCodificar_Click()
 {
     const QString texto = ui->txtTextoOriginal->toPlainText();
-    if (!empiezaCon(m_codificar) || !seCodifica(ui->lblEstadoCodigo, texto))
+    if (!empiezaCon(m_codificar))
+        co_return;
+    m_rechazado = !seCodifica(ui->lblEstadoCodigo, texto);
+    if (m_rechazado)
         co_return;
     if (m_clave->r() < 1) {
         muestraVeredicto(ui->lblEstadoCodigo, false,

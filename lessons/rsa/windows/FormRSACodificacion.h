@@ -35,6 +35,7 @@ private:
     void ajustaFilas();
     bool empiezaCon(BotonDeCorrida *boton) const;
     void muestra(const QStringList &bloques);
+    void txtTextoOriginal_Change();
     Tarea<> cmdCodificar_Click();
     Tarea<> cmdDescodificar_Click();
 
@@ -44,5 +45,6 @@ private:
     PanelDePasos *m_pasos;
     BotonDeCorrida *m_codificar;
     BotonDeCorrida *m_descodificar;
+    bool m_rechazado = false; ///< the text cannot be encrypted, and the label says why
     TareasDeVentana m_tareas{this};
 };

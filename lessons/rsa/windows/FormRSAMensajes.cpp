@@ -58,7 +58,8 @@ void FormRSAMensajes::conectaTodo()
             &FormRSAMensajes::cmbDestinatario_Validate);
     conecta(&m_destinatario, &FormRSADestinatario::cambia, this, &FormRSAMensajes::habilita);
     conecta(&m_redaccion, &FormRSARedaccion::cambiada, this, &FormRSAMensajes::habilita);
-    conecta(&m_redaccion, &FormRSARedaccion::avisa, ui->lblEstadoBuzon, &QLabel::setText);
+    conecta(&m_redaccion, &FormRSARedaccion::avisa, this,
+            [this](const QString &aviso) { muestraNeutro(ui->lblEstadoBuzon, aviso); });
     conecta(&m_timerRevision, &QTimer::timeout, this, &FormRSAMensajes::TimerRevision_Timer);
     for (const BotonDeCorrida *corrida : {m_enviar, m_recibir, m_revisar}) {
         conecta(corrida, &BotonDeCorrida::empezada, this, &FormRSAMensajes::habilita);
@@ -298,6 +299,7 @@ Tarea<> FormRSAMensajes::recibir_Click()
                          Traduce(u"Elija primero un mensaje de la lista."_s));
         co_return;
     }
+    ui->lblEstadoBuzon->clear(); // it may say that none was chosen
     const auto marcha = m_recibir->empieza(m_tareas.billete());
     m_destinatario.corresponsal().clave().pont(m_destinatario.t());
     mensaje->ponClave(&m_destinatario.corresponsal().clave());

@@ -136,13 +136,16 @@ QString sinBlancosDeGrupo(QString texto)
     return texto.remove(blancos);
 }
 
+QString abreviado(const QString &numero)
+{
+    constexpr qsizetype Enteras = 24;
+    return numero.size() <= Enteras ? numero : formatoAbreviado(numero);
+}
+
 RespuestaLeida leeUno(const QString &expresion, const QString &texto)
 {
     const auto valor = entero(sinBlancosDeGrupo(expresion));
-    constexpr qsizetype Enteras = 24;
-    if (valor && valor->size() <= Enteras)
-        return leida({*valor}, *valor);
-    return valor ? leida({*valor}, formatoAbreviado(*valor)) : noEntendida(texto.trimmed());
+    return valor ? leida({*valor}, abreviado(*valor)) : noEntendida(texto.trimmed());
 }
 
 /// Splits at what stands between the numbers of a list, but not inside brackets.
@@ -402,4 +405,21 @@ RespuestaLeida leeRespuesta(const QString &texto, const FormaDeRespuesta &forma)
     if (!palabra.isEmpty())
         return {RespuestaLeida::Leida, {}, palabra, Traduce(u"leo %1"_s).arg(Traduce(palabra))};
     return leeSegun(forma, texto);
+}
+
+RespuestaLeida leeExpresion(const QString &texto)
+{
+    if (texto.trimmed().isEmpty())
+        return {};
+    try {
+        if (const auto valor = sinError(Evalua(QString(texto)))) {
+            QStringList partes = valor->split(u'/');
+            for (QString &parte : partes)
+                parte = abreviado(parte);
+            return leida({*valor}, partes.join(u'/'));
+        }
+    } catch (const ErrorEjecucion &) {
+        // Told below, as what has no value.
+    }
+    return noEntendida(texto.trimmed());
 }

@@ -114,6 +114,8 @@ private Q_SLOTS:
             QCOMPARE(m_rejilla->currentIndex(), celda(1, 1));
         }
         QCOMPARE(m_solucion->text(), QString());
+        escribe({u"5"_s}, 3);
+        QCOMPARE(el<QLabel>(u"lblAviso"_s)->text(), QString());
     }
 
     /// The button says nothing, whether the answer is right, wrong or no number at all.

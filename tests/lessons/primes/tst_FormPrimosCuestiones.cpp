@@ -99,6 +99,20 @@ private Q_SLOTS:
         QCOMPARE(mensaje.titulo, u"Solución errónea"_s);
     }
 
+    /// What is said to be read is what is judged: the service's own reading of an expression.
+    void leido_data()
+    {
+        filasDeTexto<QString, QString>(
+            u"value | 7*13 | leo 91 || decimals | 5.167 | leo 5167/1000 || print | 2³ | no entiendo «2³» || mod | mod 5 | no entiendo «mod 5» || blank | |"_s);
+    }
+    void leido()
+    {
+        const auto [escrito, leido] = estaFila<QString, QString>();
+        m_primos[0]->setText(u"1"_s);
+        m_primos[0]->setText(escrito);
+        QCOMPARE(texto(u"lblLeido_0"_s), leido);
+    }
+
 private:
     int digitosDelEnunciado() const
     {

@@ -151,6 +151,8 @@ private Q_SLOTS:
         pulsa(u"cmdCodificar"_s);
         QVERIFY(rotulo(u"lblEstadoCodigo"_s).startsWith(u"✗ "_s));
         QCOMPARE(rejilla->model()->rowCount(), 4);
+        pulsa(u"cmdDescodificar"_s);
+        QCOMPARE(rotulo(u"lblEstadoCodigo"_s), QString());
     }
 
     /// Refused or half written, a number takes with it what was computed from the one before.

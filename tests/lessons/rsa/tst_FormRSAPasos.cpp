@@ -52,6 +52,10 @@ private Q_SLOTS:
         abre();
         pulsa(u"cmdAtacar"_s);
         QVERIFY(ultimo().frase.startsWith(u"Su clave no está comprobada"_s));
+        abreConClave();
+        linea(u"txtR"_s)->setText(u"0"_s);
+        pulsa(u"cmdAtacar"_s);
+        QVERIFY(ultimo().frase.startsWith(u"Cada paquete ha de tener"_s));
     }
 
     /// Stopped by a click, by Escape, and by a key that takes the place of the steps.

@@ -92,6 +92,8 @@ private Q_SLOTS:
             a φ that is not its    | 4 | 67591 | 5     | 1        | 67070 | N
             block of two in table  | 0 | 67591 | 5     | 67590    | 0   | N
             s beyond the bits of q | 3 | 67591 | 65537 | 5        | 0   | N
+            negative s             | 3 | 67591 | -5    | 5        | 0   | N
+            s = 1                  | 3 | 67591 | 1     | 72       | 0   | E
             exact cube             | 3 | 998244359987710471 | 3 | 373248 | 0 | E
             no cube                | 3 | 998244359987710471 | 3 | 373247 | 0 | N)"_s);
     }
@@ -111,24 +113,31 @@ private Q_SLOTS:
         const auto parada = std::make_shared<Parada>();
         const Billete billete(parada, nullptr);
         parada->detener();
-        const ClaveEnCifras fuerte = clavesPublicadas().last().clave;
-        for (const Ataque ataque : {Ataque::Factorizacion, Ataque::Fermat}) {
-            const Victima victima{fuerte.q, fuerte.s, 1, {u"5"_s}, {}};
-            QCOMPARE(ataca(ataque, victima, billete).completa().desenlace,
-                     ResultadoDeAtaque::Detenido);
+        for (const ClavePublicada &publicada : clavesPublicadas()) {
+            const Victima victima = intercepta(publicada.clave, billete).completa();
+            for (int i = 0; i < 5; ++i)
+                QCOMPARE(ataca(Ataque(i), victima, billete).completa().desenlace,
+                         ResultadoDeAtaque::Detenido);
         }
-        const Victima larga{u"1"_s + QString(20000, u'0') + u"1"_s, u"3"_s, 1, {u"5"_s}, u"7"_s};
-        QCOMPARE(ataca(Ataque::FiConocida, larga, {}).completa().desenlace,
-                 ResultadoDeAtaque::Abandonado);
+        const Victima larga{
+            u"1"_s + QString(20000, u'0') + u"1"_s, u"65537"_s, 1, {u"5"_s}, u"7"_s};
+        for (const Ataque ataque : {Ataque::TablaDeBloques, Ataque::FiConocida})
+            QCOMPARE(ataca(ataque, larga, {}).completa().desenlace, ResultadoDeAtaque::Abandonado);
     }
 
     void loQueSeDice()
     {
         const ClaveEnCifras iguales = clave(u"257"_s, u"257"_s, u"3"_s, 1);
         QVERIFY(pasosDeClave(iguales).paso(1).regla.contains(u"iguales"_s));
+        QVERIFY(!pasosDeClave(iguales).paso(1).formulas.first().escrita().contains(u"φ"_s));
+        const ClaveEnCifras negativa = clave(u"257"_s, u"263"_s, u"-5"_s, 1);
+        QCOMPARE(m_revisor.revisa(pasosDeClave(negativa)), QString());
+        QCOMPARE(m_revisor.revisa(pasosDeCifrado(negativa, u"a"_s)), QString());
+        QVERIFY(pasosDeCifrado(negativa, u"a"_s).paso(1).frase.startsWith(u"El paquete"_s));
         const Pasos ida = pasosDeCifrado(iguales, u"a"_s);
         QVERIFY(ida.paso(ida.cuantos() - 1).frase.startsWith(u"No se recupera"_s));
         const Pasos vuelta = pasosDeCifrado(clave(u"257"_s, u"263"_s, u"5"_s, 1), u"ñandú"_s);
+        m_revisor.olvida();
         QCOMPARE(m_revisor.revisa(vuelta), QString());
         QVERIFY(vuelta.paso(vuelta.cuantos() - 1).frase.contains(u"«ñ»"_s));
         QVERIFY(pasosDeCifrado(iguales, {}).vacios());
