@@ -9,6 +9,7 @@
 #include "practice/bank/units/Anillo.h"
 #include "practice/bank/units/Lineal.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/PotenciaEscrita.h"
 #include "shell/core/steps/PasosDeInverso.h"
 #include "shell/core/steps/PasosDePotencia.h"
 
@@ -232,8 +233,9 @@ Ejercicio potenciaPorEuler(int nivel, Sorteo &sorteo)
         nivel == 3 ? sorteo.entre(1'000, 90'000) : sorteo.entre(5 * nivel, 60 * nivel);
     const Potencia p{a, fi * vueltas + sorteo.entre(2, fi - 1), n};
     return {
-        .enunciado =
-            Traduce(u"¿Qué resto da %1^%2 al dividirlo entre %3?"_s).arg(a).arg(p.k).arg(n),
+        .enunciado = Traduce(u"¿Qué resto da %1 al dividirlo entre %2?"_s)
+                         .arg(potenciaEscrita(a, p.k))
+                         .arg(n),
         .forma = {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}},
         .ejemplo = Traduce(u"Un número"_s),
         .esperada = QString::number(p.con(p.k)),
