@@ -129,7 +129,7 @@ Juicio juzgaFi(const QString &valor, std::int32_t n)
         return {false, Traduce(u"φ(n) = n − 1 solo si n es primo, y %1."_s).arg(igualdad)};
     if (valor == QString::number(fiSinExponentes(euler)))
         return {false, Traduce(u"Ha tomado cada primo una sola vez, pero %1 y "
-                               u"φ(p^k) = p^(k−1)·(p − 1)."_s)
+                               u"φ(pᵏ) = pᵏ⁻¹·(p − 1)."_s)
                            .arg(igualdad)};
     if (!EsMayor(u"0"_s, valor) || !EsMayor(valor, QString::number(n)))
         return {false, Traduce(u"φ(%1) cuenta las unidades de Z%2: está entre 1 y %3."_s)

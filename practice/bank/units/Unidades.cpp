@@ -62,7 +62,7 @@ Ejercicio fi(int nivel, Sorteo &sorteo)
             .ejemplo = Traduce(u"Un número"_s),
             .esperada = QString::number(fiDe(deN)),
             .juzga = [deN](const RespuestaLeida &r) { return juzgaFi(r, deN); },
-            .pistas = {Traduce(u"Descomponga el número: φ(p^k) = p^(k−1)·(p − 1), y los de las "
+            .pistas = {Traduce(u"Descomponga el número: φ(pᵏ) = pᵏ⁻¹·(p − 1), y los de las "
                                "potencias se multiplican."_s),
                        Traduce(u"El número tiene %1 factores primos distintos; el menor es %2."_s)
                            .arg(deN.size())
