@@ -9,6 +9,28 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// Of the gallery's window, in logical pixels.
+constexpr QSize PorOmision(1366, 768), Minimo(640, 480), Maximo(8192, 8192);
+
+/// Of the gallery, in per cent.
+constexpr int EscalaMinima = 100, EscalaMaxima = 400;
+
+QString escrito(const QSize &tamano)
+{
+    return u"%1x%2"_s.arg(tamano.width()).arg(tamano.height());
+}
+
+bool faltaValor(const QStringList &palabras)
+{
+    const QStringList conValor{u"--galeria"_s, u"--tamano"_s, u"--escala"_s, u"--hoja"_s,
+                               u"--pdf"_s};
+    return conValor.contains(palabras.constLast());
+}
+
+} // namespace
+
 void describe(QCommandLineParser &opciones)
 {
     opciones.setApplicationDescription(Traduce(u"Numora: matemática discreta, paso a paso"_s));
@@ -51,9 +73,41 @@ QString valorDe(const QStringList &palabras, const QString &nombre)
     return juntas.isEmpty() ? QString() : juntas.constFirst().sliced(nombre.size() + 1);
 }
 
-QString opcionSinValor(const QStringList &palabras)
+std::optional<QSize> tamanoPedido(const QStringList &palabras)
 {
-    const QStringList conValor{u"--galeria"_s, u"--tamano"_s, u"--escala"_s, u"--hoja"_s,
-                               u"--pdf"_s};
-    return conValor.contains(palabras.constLast()) ? palabras.constLast() : QString();
+    if (!tieneOpcion(palabras, u"--tamano"_s))
+        return PorOmision;
+    static const QRegularExpression forma(u"^([0-9]{1,5})x([0-9]{1,5})$"_s);
+    const auto lados = forma.match(valorDe(palabras, u"--tamano"_s));
+    const QSize leido(lados.captured(1).toInt(), lados.captured(2).toInt());
+    if (leido != leido.expandedTo(Minimo).boundedTo(Maximo))
+        return {};
+    return leido;
+}
+
+std::optional<int> escalaPedida(const QStringList &palabras)
+{
+    if (!tieneOpcion(palabras, u"--escala"_s))
+        return EscalaMinima;
+    const int leida = valorDe(palabras, u"--escala"_s).toInt();
+    if (leida < EscalaMinima || leida > EscalaMaxima)
+        return {};
+    return leida;
+}
+
+bool sePuedeSeguir(const QStringList &palabras)
+{
+    return !faltaValor(palabras) && tamanoPedido(palabras) && escalaPedida(palabras);
+}
+
+QString falta(const QStringList &palabras)
+{
+    if (faltaValor(palabras))
+        return Traduce(u"Falta el valor de %1."_s).arg(palabras.constLast());
+    if (!tamanoPedido(palabras))
+        return Traduce(u"El tamaño de la galería ha de estar entre %1 y %2."_s)
+            .arg(escrito(Minimo), escrito(Maximo));
+    return Traduce(u"La escala de la galería ha de estar entre %1 y %2."_s)
+        .arg(EscalaMinima)
+        .arg(EscalaMaxima);
 }

@@ -20,15 +20,6 @@ namespace {
 /// What the program ends with, besides 0 and 1 for a file that could not be written.
 enum Salida { SinPantalla = 1, LineaEquivocada = 2 };
 
-QSize tamano(const QString &texto)
-{
-    if (texto.isEmpty())
-        return {1366, 768};
-    const QStringList lados = texto.split(u'x');
-    const QSize leido(lados.value(0).toInt(), lados.value(1).toInt());
-    return leido.expandedTo({640, 480}).boundedTo({8192, 8192});
-}
-
 QStringList palabrasDe(int argc, char *argv[])
 {
     QStringList palabras;
@@ -61,8 +52,8 @@ std::optional<int> contestaSinVentanas(const QStringList &palabras, int argc, ch
 {
     const bool ayuda = palabras.contains(u"--help"_s) || palabras.contains(u"-h"_s);
     const bool version = palabras.contains(u"--version"_s) || palabras.contains(u"-v"_s);
-    const QString sinValor = opcionSinValor(palabras);
-    if (!ayuda && !version && sinValor.isEmpty() && hayPantalla(palabras))
+    const bool seguible = sePuedeSeguir(palabras);
+    if (!ayuda && !version && seguible && hayPantalla(palabras))
         return {};
     const QCoreApplication aplicacion(argc, argv);
     Idioma() = idiomaPedido(palabras);
@@ -73,19 +64,9 @@ std::optional<int> contestaSinVentanas(const QStringList &palabras, int argc, ch
         opciones.showHelp();
     if (version)
         opciones.showVersion();
-    if (sinValor.isEmpty())
-        dicePorError(Traduce(u"No hay ninguna pantalla en la que abrir ventanas."_s));
-    else
-        dicePorError(Traduce(u"Falta el valor de %1."_s).arg(sinValor));
-    return sinValor.isEmpty() ? SinPantalla : LineaEquivocada;
-}
-
-/// The scale of the gallery has to stand before Qt looks for it.
-void ponEscala(const QStringList &palabras)
-{
-    const double porCiento = valorDe(palabras, u"--escala"_s).toDouble();
-    if (porCiento >= 100 && porCiento <= 400)
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(porCiento / 100));
+    dicePorError(seguible ? Traduce(u"No hay ninguna pantalla en la que abrir ventanas."_s)
+                          : falta(palabras));
+    return seguible ? SinPantalla : LineaEquivocada;
 }
 
 } // namespace
@@ -97,14 +78,15 @@ int main(int argc, char *argv[])
     ponSinPantalla(palabras);
     if (const auto salida = contestaSinVentanas(palabras, argc, argv))
         return *salida;
-    ponEscala(palabras);
+    if (tieneOpcion(palabras, u"--escala"_s)) // before Qt looks for it
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(escalaPedida(palabras).value() / 100.0));
     ArgumentosDeVentana argumentos(argc, argv);
     const QApplication aplicacion(argumentos.cuenta(), argumentos.textos());
 
     const QStringList pedido = QApplication::arguments();
     if (tieneOpcion(pedido, u"--galeria"_s))
         return Galeria(contenidoDelPrograma(), {.carpeta = valorDe(pedido, u"--galeria"_s),
-                                                .tamano = tamano(valorDe(pedido, u"--tamano"_s)),
+                                                .tamano = tamanoPedido(palabras).value(),
                                                 .oscuro = pedido.contains(u"--oscuro"_s),
                                                 .idioma = idiomaPedido(pedido)});
 

@@ -4,7 +4,7 @@
 # Sourced by run.sh, test.sh and the other scripts; does nothing where everything is there.
 
 PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6-dev qt6-multimedia-dev libgl-dev
+    qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-multimedia-dev libgl-dev
     libgmp-dev libecm-dev libprimesieve-dev libsimpleini-dev)
 PAQUETES_RUN=(qt6-translations-l10n gstreamer1.0-plugins-good libqt6svg6 libqt6sql6-sqlite fonts-dejavu-core fonts-liberation)
 PAQUETES_TEST=(git clang-format-14 clang-tidy-14 python3)

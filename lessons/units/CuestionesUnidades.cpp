@@ -7,6 +7,7 @@
 #include "lessons/units/GrupoUnidades.h"
 #include "lessons/units/ResumenUnidades.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/PotenciaEscrita.h"
 
 #include <numeric>
 
@@ -81,13 +82,13 @@ Juicio juzgaOrden(const QString &valor, const GrupoUnidades &grupo, std::int32_t
     if (EsMayor(QString::number(grupo.fi()), valor))
         return {false, Traduce(u"Ningún orden pasa de φ(%1) = %2."_s).arg(n).arg(grupo.fi())};
     const QString potencia = PotenciaMod(QString::number(a), valor, n);
+    const QString elevado = potenciaEscrita(a, valor.toLongLong());
     if (potencia == u"1"_s)
-        return {false, Traduce(u"%1^%2 sí da 1, pero hay un exponente menor que también lo da."_s)
-                           .arg(a)
-                           .arg(valor)};
-    return {
-        false,
-        Traduce(u"%1^%2 da %3 módulo %4, y tendría que dar 1."_s).arg(a).arg(valor, potencia, n)};
+        return {
+            false,
+            Traduce(u"%1 sí da 1, pero hay un exponente menor que también lo da."_s).arg(elevado)};
+    return {false,
+            Traduce(u"%1 da %2 módulo %3, y tendría que dar 1."_s).arg(elevado, potencia, n)};
 }
 
 Juicio juzgaRaiz(const QString &valor, const GrupoUnidades &grupo)
@@ -128,7 +129,7 @@ Juicio juzgaFi(const QString &valor, std::int32_t n)
         return {false, Traduce(u"φ(n) = n − 1 solo si n es primo, y %1."_s).arg(igualdad)};
     if (valor == QString::number(fiSinExponentes(euler)))
         return {false, Traduce(u"Ha tomado cada primo una sola vez, pero %1 y "
-                               u"φ(p^k) = p^(k−1)·(p − 1)."_s)
+                               u"φ(pᵏ) = pᵏ⁻¹·(p − 1)."_s)
                            .arg(igualdad)};
     if (!EsMayor(u"0"_s, valor) || !EsMayor(valor, QString::number(n)))
         return {false, Traduce(u"φ(%1) cuenta las unidades de Z%2: está entre 1 y %3."_s)
@@ -147,11 +148,12 @@ Juicio juzgaPotencia(const QString &valor, const GrupoUnidades &grupo, std::int3
     if (representante(valor, n) == solucion)
         return {false, Traduce(u"Es congruente con la solución, pero un resto está entre 0 y %1."_s)
                            .arg(n - 1)};
-    return {false, Traduce(u"Como φ(%1) = %2 y %3 es una unidad, %3^%2 da 1: basta calcular "
-                           u"%3^%4, porque %4 es el resto de %5 entre %2."_s)
+    return {false, Traduce(u"Como φ(%1) = %2 y %3 es una unidad, %4 da 1: basta calcular "
+                           u"%5, porque %6 es el resto de %7 entre %2."_s)
                        .arg(n)
                        .arg(grupo.fi())
                        .arg(a)
+                       .arg(potenciaEscrita(a, grupo.fi()), potenciaEscrita(a, k % grupo.fi()))
                        .arg(k % grupo.fi())
                        .arg(k)};
 }
@@ -200,7 +202,7 @@ Cuestion cuestionFi(std::int32_t n)
 
 Cuestion cuestionPotencia(std::int32_t n, std::int32_t a, std::int32_t k)
 {
-    return {Traduce(u"¿Qué resto da %1^%2 al dividirlo entre %3?"_s).arg(a).arg(k).arg(n),
+    return {Traduce(u"¿Qué resto da %1 al dividirlo entre %2?"_s).arg(potenciaEscrita(a, k)).arg(n),
             unEntero(),
             [grupo = GrupoUnidades(n), a, k](const QString &valor) {
                 return juzgaPotencia(valor, grupo, a, k);

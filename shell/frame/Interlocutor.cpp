@@ -23,6 +23,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
+#include <QWindow>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -134,13 +135,17 @@ public:
     int resultado() const { return m_dialogo ? m_resultado : int(QDialog::Rejected); }
 
 private:
-    /// Where a list of completions was open when a file dialog was accepted, nobody has the
-    /// keyboard afterwards as far as Qt knows, and no mnemonic of a lesson works.
+    /// Qt takes no notice of the window that the desktop makes active while a list of completions
+    /// is still open, as it is when a file dialog is accepted by Enter. Keys arrive afterwards, but
+    /// no window is active as far as Qt knows: no mnemonic works and no focus is drawn.
     void devuelveElTeclado()
     {
         QTimer::singleShot(0, qApp, [antes = m_antes] {
-            if (antes && !QApplication::focusWidget() && antes->isVisible())
-                antes->setFocus();
+            if (!antes || QApplication::activeWindow() || QApplication::activePopupWidget())
+                return;
+            QWidget *ventana = antes->window();
+            if (ventana->windowHandle() == QGuiApplication::focusWindow())
+                QApplication::setActiveWindow(ventana);
         });
     }
 

@@ -4,6 +4,7 @@
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
@@ -36,10 +37,13 @@ struct PanelCuestiones::Lugar
 };
 
 PanelCuestiones::PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, QWidget *padre)
-    : QWidget(padre), ui(std::make_unique<Ui::PanelCuestiones>())
+    : QWidget(padre),
+      ui(std::make_unique<Ui::PanelCuestiones>()),
+      m_intentos({Traduce(u"Cuestión"_s), Traduce(u"Respuesta"_s), Traduce(u"Resultado"_s)})
 {
     ui->setupUi(this);
     traduceVentana(this);
+    preparaIntentos();
     m_lugares = {{primera, ui->lblEnunciado_0, ui->txtRespuesta_0, ui->cmdComprobar_0,
                   ui->cmdOtra_0, ui->lblLeido_0, ui->lblVeredicto_0},
                  {segunda, ui->lblEnunciado_1, ui->txtRespuesta_1, ui->cmdComprobar_1,
@@ -61,6 +65,15 @@ PanelCuestiones::PanelCuestiones(const Sorteo &primera, const Sorteo &segunda, Q
 }
 
 PanelCuestiones::~PanelCuestiones() = default;
+
+void PanelCuestiones::preparaIntentos()
+{
+    m_intentos.ponColumnasDeTexto({0, 2});
+    ui->FlexIntentos->setModel(&m_intentos);
+    ui->FlexIntentos->ponTextoVacio(Traduce(u"Aquí se anotan las respuestas que se comprueban."_s));
+    ui->FlexIntentos->setTextElideMode(Qt::ElideMiddle);
+    new ColumnasRepartidas(ui->FlexIntentos);
+}
 
 /// Side by side where there is room for two statements, else one below the other.
 void PanelCuestiones::resizeEvent(QResizeEvent *suceso)
@@ -106,6 +119,9 @@ void PanelCuestiones::cmdComprobar_Click(Lugar &lugar)
         return;
     }
     muestraVeredicto(lugar.veredicto, juicio.acertada, juicio.palabra);
+    m_intentos.agrega(
+        {lugar.cuestion.enunciado, lugar.respuesta->text().trimmed(), juicio.palabra});
+    ui->FlexIntentos->scrollToBottom();
     ui->ccrpAniEureka->carga(juicio.acertada ? Sesión().AVIEureka() : Sesión().AVIError(),
                              juicio.acertada ? u"EUREKA"_s : u"ERROR"_s);
     ui->ccrpAniEureka->reproduce(ReproductorAVI::Modo::UnaVez);

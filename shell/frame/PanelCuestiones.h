@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/core/Cuestion.h"
+#include "shell/core/ModeloFilas.h"
 
 #include <QWidget>
 #include <memory>
@@ -13,7 +14,7 @@ class PanelCuestiones;
 
 /// The topic "Cuestiones" of a lesson that asks two questions: each is drawn at random, judged with
 /// a word and an animation, and can be drawn anew. What has been read of an answer stands below it
-/// at each key; what cannot be read is named and not judged.
+/// at each key; what cannot be read is named and not judged. What was judged is noted below.
 class PanelCuestiones : public QWidget
 {
     Q_OBJECT
@@ -30,6 +31,7 @@ protected:
 private:
     struct Lugar;
 
+    void preparaIntentos();
     static void plantea(Lugar &lugar);
     static void txtRespuesta_Change(Lugar &lugar);
     static void cmdOtra_Click(Lugar &lugar);
@@ -37,4 +39,5 @@ private:
 
     std::unique_ptr<Ui::PanelCuestiones> ui;
     std::vector<Lugar> m_lugares;
+    ModeloFilas m_intentos;
 };

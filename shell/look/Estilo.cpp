@@ -124,6 +124,12 @@ QIcon Estilo::standardIcon(StandardPixmap cual, const QStyleOption *opcion,
 void Estilo::drawPrimitive(PrimitiveElement elemento, const QStyleOption *opcion, QPainter *pintor,
                            const QWidget *control) const
 {
+    // Fusion shows it only once the Tab key was used; Ctrl and a digit, or the start, put it there
+    // as well.
+    if (elemento == PE_FrameFocusRect && control && control->inherits("QTabBar")) {
+        dibujaFoco(*pintor, opcion->rect);
+        return;
+    }
     if (Aspecto::esOscuro())
         dibujaAclarado(elemento, opcion, pintor, control);
     else

@@ -4,8 +4,8 @@
 #include <QProxyStyle>
 
 /// Fusion with room to breathe, since its buttons and fields are tight for a finger or a far
-/// projector, and so that the keyboard's place can be seen: an accent border around the field, list
-/// or page that has it, and no coloured selection in one that has not.
+/// projector, and so that the keyboard's place can be seen: an accent border around the field,
+/// list, tab or page that has it, and no coloured selection in one that has not.
 class Estilo : public QProxyStyle
 {
 public:

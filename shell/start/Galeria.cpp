@@ -77,16 +77,17 @@ public:
     {
     }
 
-    bool retrataTodo()
+    /// Gives what went wrong; empty where all pictures are there.
+    QString retrataTodo()
     {
         m_principal.showNormal();
         // Shown, a window has been cut to the screen, which may be smaller than what is asked for.
         m_principal.resize(m_tamano);
         espera(50ms);
-        if (m_principal.size() != m_tamano) {
-            qCritical("the window cannot be made %d by %d", m_tamano.width(), m_tamano.height());
-            return false;
-        }
+        if (m_principal.size() != m_tamano)
+            return Traduce(u"La ventana no puede medir %1x%2."_s)
+                .arg(m_tamano.width())
+                .arg(m_tamano.height());
         QWidget *acercaDe = m_principal.muestraAcercaDe(false);
         espera(600ms);
         retrata(*acercaDe, u"acercade"_s);
@@ -96,7 +97,8 @@ public:
             retrataEscenas(m_contenido.lecciones[fila], fila);
         retrataEscenas(m_contenido.hojaDeCalculo, FormPrincipal::FilaHojaDeCalculo);
         retrataEscenas(m_contenido.practicas.ventana, FormPrincipal::FilaPracticas);
-        return m_bien;
+        return m_bien ? QString()
+                      : Traduce(u"No se puede escribir en la carpeta: %1"_s).arg(m_carpeta.path());
     }
 
 private:
@@ -210,9 +212,8 @@ int Galeria(const Contenido &contenido, const OpcionesDeGaleria &opciones)
 
     OpcionesDeGaleria absolutas = opciones;
     absolutas.carpeta = destino;
-    if (!Fotografo(contenido, absolutas).retrataTodo()) {
-        errores << u"No se puede escribir en la carpeta: "_s << destino << Qt::endl;
-        return 1;
-    }
-    return 0;
+    const QString falta = Fotografo(contenido, absolutas).retrataTodo();
+    if (!falta.isEmpty())
+        errores << falta << Qt::endl;
+    return falta.isEmpty() ? 0 : 1;
 }

@@ -17,17 +17,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The lessons, and behind them the practice window and its invitation.
+/// The invitation to go on practising, where it is seen at once on the smallest screen, then the
+/// lessons, and behind them the practice window.
 QList<Leccion> tarjetasDe(const Contenido &contenido)
 {
-    QList<Leccion> tarjetas = contenido.lecciones;
-    Leccion practicas = contenido.practicas.ventana;
+    const Leccion &practicas = contenido.practicas.ventana;
     if (!practicas.crea)
-        return tarjetas;
-    tarjetas << practicas;
-    practicas.icono = u"SIGUIENTE"_s;
-    practicas.rotulo = u"Seguir practicando"_s;
-    return tarjetas << practicas;
+        return contenido.lecciones;
+    Leccion sigue = practicas;
+    sigue.icono = u"SIGUIENTE"_s;
+    sigue.rotulo = u"Seguir practicando"_s;
+    return QList{sigue} + contenido.lecciones + QList{practicas};
 }
 
 /// The order of the course, for those who do not know where to begin; empty without one.
@@ -51,6 +51,7 @@ QString ordenDelCurso(QList<Leccion> lecciones)
 PanelBienvenida::PanelBienvenida(const Contenido &contenido, QWidget *padre)
     : QWidget(padre),
       m_lecciones(static_cast<int>(contenido.lecciones.size())),
+      m_primera(contenido.practicas.ventana.crea ? 1 : 0),
       m_modelo(new MenuLecciones(tarjetasDe(contenido), this)),
       m_contenido(new QWidget(this)),
       m_tarjetas(new TarjetasDeLecciones)
@@ -95,21 +96,20 @@ PanelBienvenida::PanelBienvenida(const Contenido &contenido, QWidget *padre)
 
 void PanelBienvenida::tarjeta_Click(int fila)
 {
-    if (fila < m_lecciones)
-        Q_EMIT elegida(fila);
-    else if (fila == m_lecciones)
-        Q_EMIT practicas();
-    else
+    if (fila < m_primera)
         Q_EMIT sigue();
+    else if (fila < m_primera + m_lecciones)
+        Q_EMIT elegida(fila - m_primera);
+    else
+        Q_EMIT practicas();
 }
 
 void PanelBienvenida::invita(const QString &invitacion)
 {
-    const int fila = m_lecciones + 1;
-    if (fila >= m_modelo->rowCount())
+    if (m_primera == 0)
         return;
-    m_modelo->ponDescripcion(fila, invitacion);
-    m_tarjetas->setRowHidden(fila, invitacion.isEmpty());
+    m_modelo->ponDescripcion(0, invitacion);
+    m_tarjetas->setRowHidden(0, invitacion.isEmpty());
 }
 
 void PanelBienvenida::changeEvent(QEvent *suceso)

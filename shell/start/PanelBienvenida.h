@@ -35,6 +35,7 @@ private:
     void tarjeta_Click(int fila);
 
     int m_lecciones;
+    int m_primera; ///< the row of the first lesson
     MenuLecciones *m_modelo;
     QWidget *m_contenido;
     TarjetasDeLecciones *m_tarjetas;

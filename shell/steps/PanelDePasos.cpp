@@ -40,8 +40,11 @@ void acomodaBotones(const Ui::PanelDePasos &ui, int ancho)
     const int juntos = ui.filaRecorrido->sizeHint().width() + ui.filaPelicula->sizeHint().width();
     const QMargins bordes = ui.columna->contentsMargins();
     const int cabe = ancho - bordes.left() - bordes.right() - ui.filasDeBotones->spacing();
-    ui.filasDeBotones->setDirection(juntos <= cabe ? QBoxLayout::LeftToRight
-                                                   : QBoxLayout::TopToBottom);
+    const bool enUnaFila = juntos <= cabe;
+    ui.filasDeBotones->setDirection(enUnaFila ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    // In one row there is one gap, before what takes the steps elsewhere.
+    ui.huecoRecorrido->changeSize(0, 0, enUnaFila ? QSizePolicy::Fixed : QSizePolicy::Expanding);
+    ui.filaRecorrido->invalidate();
 }
 
 /// In the shorter of the two rows: that of the film is long where there is one.

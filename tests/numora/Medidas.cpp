@@ -237,8 +237,9 @@ private:
             for (int f = 0; f < std::min(tabla.model()->rowCount(), filas); ++f) {
                 const QModelIndex celda = tabla.model()->index(f, c, tabla.rootIndex());
                 const int necesario = vista.sizeHintForIndex(celda).width();
-                // What is shortened in the middle is told whole by its tooltip.
-                const bool acortada = tabla.textElideMode() == Qt::ElideMiddle &&
+                // What is shortened in the middle is told whole by its tooltip, and worth reading.
+                const int trozo = tabla.fontMetrics().averageCharWidth() * LetrasDeCampo;
+                const bool acortada = tabla.textElideMode() == Qt::ElideMiddle && ancho >= trozo &&
                                       !celda.data(Qt::ToolTipRole).toString().isEmpty();
                 const bool enLineas = tabla.rowHeight(f) >= 2 * tabla.fontMetrics().height();
                 if (ancho < necesario && !acortada && !enLineas && tabla.columnSpan(f, c) == 1)

@@ -32,7 +32,10 @@ private Q_SLOTS:
               {{u"--help"_s, u"-i:English"_s}, 0, u"Shows this help."_s},
               {{}, 1, u"No hay ninguna pantalla"_s},
               {{u"-i:English"_s}, 1, u"There is no display"_s},
-              {{u"--hoja"_s}, 2, u"Falta el valor de --hoja."_s}}) {
+              {{u"--hoja"_s}, 2, u"Falta el valor de --hoja."_s},
+              {{u"--galeria"_s, u"x"_s, u"--tamano=639x480"_s}, 2, u"640x480"_s},
+              {{u"--galeria"_s, u"x"_s, u"--tamano"_s, u"ancho"_s}, 2, u"640x480"_s},
+              {{u"--galeria"_s, u"x"_s, u"--escala"_s, u"99"_s}, 2, u"100"_s}}) {
             arranca(opciones);
             QVERIFY(m_programa.waitForFinished());
             QCOMPARE(m_programa.exitStatus(), QProcess::NormalExit);

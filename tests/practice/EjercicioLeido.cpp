@@ -5,16 +5,18 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/// An exponent, which stands higher than its base, is a number of its own.
 Numeros numerosDe(const QString &texto)
 {
     Numeros numeros;
-    bool dentro = false;
+    QChar antes;
     for (const QChar c : texto) {
-        if (c.isDigit() && dentro)
+        const bool sigue = antes.digitValue() >= 0 && antes.isDigit() == c.isDigit();
+        if (c.digitValue() >= 0 && sigue)
             numeros.back() = numeros.back() * 10 + c.digitValue();
-        else if (c.isDigit())
+        else if (c.digitValue() >= 0)
             numeros << c.digitValue();
-        dentro = c.isDigit();
+        antes = c;
     }
     return numeros;
 }

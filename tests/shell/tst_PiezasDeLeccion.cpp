@@ -158,6 +158,14 @@ private Q_SLOTS:
         respuesta->setText(u"seis"_s);
         comprobar->click();
         QCOMPARE(veredicto->text(), u"No se ha juzgado: no entiendo «seis»."_s);
+        // What was judged is noted, and nothing else.
+        const auto *intentos = control<QTableView>(&panel, u"FlexIntentos"_s)->model();
+        QStringList notados;
+        for (int fila = 0; fila < intentos->rowCount(); ++fila)
+            notados << intentos->index(fila, 0).data().toString() + u'|' +
+                           intentos->index(fila, 1).data().toString();
+        QCOMPARE(notados, QStringList({u"Seis, vez 1|6"_s, u"Seis, vez 1|7"_s,
+                                       u"Seis, vez 2|2 · F(11) − F (3)×fib(4)"_s}));
     }
 
     void otraCuestionEsOtra()

@@ -5,6 +5,7 @@
 #include "shell/access/Anuncio.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/PotenciaEscrita.h"
 #include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/grid/ColumnasRepartidas.h"
@@ -27,8 +28,9 @@ QString cuantosHacenFalta(const TorresHanoi &torres)
 {
     if (torres.discos() == 1)
         return Traduce(u"Con un disco basta un movimiento."_s);
-    return Traduce(u"Con %1 discos hacen falta 2^%1 − 1 = %2 movimientos."_s)
-        .arg(QString::number(torres.discos()), formatoEntero(qint64{torres.minimo()}));
+    return Traduce(u"Con %1 discos hacen falta %2 − 1 = %3 movimientos."_s)
+        .arg(QString::number(torres.discos()), potenciaEscrita(2, torres.discos()),
+             formatoEntero(qint64{torres.minimo()}));
 }
 
 /// How the moves made stand against the fewest; nothing to say before the first.

@@ -4,6 +4,7 @@
 #include <QAbstractItemModel>
 #include <QEvent>
 #include <QHeaderView>
+#include <QStyle>
 #include <QTableView>
 #include <algorithm>
 
@@ -31,14 +32,25 @@ bool FormUnidadesCasillas::eventFilter(QObject *objeto, QEvent *suceso)
     return QObject::eventFilter(objeto, suceso);
 }
 
+/// What the largest element needs in the header and in a cell, whose margins are wider.
+int FormUnidadesCasillas::anchoDelMayor() const
+{
+    const QHeaderView *cabecera = m_rejilla->horizontalHeader();
+    const int ultima = cabecera->count() - 1;
+    const QString mayor = m_rejilla->model()->headerData(ultima, Qt::Horizontal).toString();
+    const int margen = m_rejilla->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    const int raya = 1;
+    return std::max(cabecera->sectionSizeHint(ultima),
+                    m_rejilla->fontMetrics().horizontalAdvance(mayor) + 2 * margen + raya);
+}
+
 void FormUnidadesCasillas::ajusta()
 {
     const int lados = m_rejilla->model()->rowCount();
     if (lados == 0)
         return;
     const QFontMetrics letra = m_rejilla->fontMetrics();
-    const int numero = m_rejilla->horizontalHeader()->sectionSizeHint(lados - 1);
-    const int menor = std::max(numero, letra.height() + 4);
+    const int menor = std::max(anchoDelMayor(), letra.height() + 4);
     const QSize sitio = m_rejilla->viewport()->size();
     const int lado = std::clamp(std::min(sitio.width(), sitio.height()) / lados, menor,
                                 std::max(menor, 4 * letra.height()));

@@ -20,6 +20,7 @@ public:
 
 private:
     void ajusta();
+    int anchoDelMayor() const;
 
     QTableView *m_rejilla;
 };

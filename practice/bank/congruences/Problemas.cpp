@@ -6,6 +6,7 @@
 #include "practice/bank/shared/Numeros.h"
 #include "practice/bank/shared/PasosDelBanco.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/PotenciaEscrita.h"
 
 #include <algorithm>
 #include <functional>
@@ -89,8 +90,8 @@ Ejercicio potenciaPorPartes(int nivel, Sorteo &sorteo)
     const PotenciaPorPartes p = potenciaDelNivel(nivel, sorteo);
     const qint64 q = p.primos.constFirst();
     return {
-        .enunciado = Traduce(u"Calcule %1^%2 módulo %3, por partes: %3 = %4."_s)
-                         .arg(QString::number(p.a), QString::number(p.k), QString::number(p.m()),
+        .enunciado = Traduce(u"Calcule %1 módulo %2, por partes: %2 = %3."_s)
+                         .arg(potenciaEscrita(p.a, p.k), QString::number(p.m()),
                               listaDe(p.primos).replace(u", "_s, u" · "_s)),
         .forma = {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}},
         .ejemplo = Traduce(u"Un número"_s),

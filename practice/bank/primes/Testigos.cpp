@@ -6,6 +6,7 @@
 #include "practice/bank/shared/Numeros.h"
 #include "practice/bank/shared/PasosDelBanco.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/PotenciaEscrita.h"
 #include "shell/core/steps/PasosDePotencia.h"
 
 #include <array>
@@ -112,10 +113,10 @@ QString preguntaDeTestigo(bool fuerte)
     if (!fuerte)
         return Traduce(
             u"¿Es %1 testigo de que %2 es compuesto, según la prueba de Fermat? Si lo es, "
-            "escriba el resto de %1^%3 entre %2; si no, «no»."_s);
+            "escriba el resto de %3 entre %2; si no, «no»."_s);
     return Traduce(
         u"¿Es %1 testigo de que %2 es compuesto, según la prueba de Miller y Rabin? Si lo "
-        "es, escriba el resto de %1^%3 entre %2; si no, «no»."_s);
+        "es, escriba el resto de %3 entre %2; si no, «no»."_s);
 }
 
 Ejercicio testigo(int nivel, Sorteo &sorteo)
@@ -127,7 +128,8 @@ Ejercicio testigo(int nivel, Sorteo &sorteo)
     const qint64 e = fuerte ? parteImpar(n) : n - 1;
     const qint64 resto = potenciaMod(b, e, static_cast<std::int32_t>(n));
     return {
-        .enunciado = preguntaDeTestigo(fuerte).arg(b).arg(n).arg(e),
+        .enunciado = preguntaDeTestigo(fuerte).arg(QString::number(b), QString::number(n),
+                                                   potenciaEscrita(b, e)),
         .forma = {FormaDeRespuesta::Entero, {u"sí"_s, u"no"_s}, {u"^ mod"_s}},
         .ejemplo = Traduce(u"Una palabra o un número"_s),
         .esperada = esTestigo(b, n, fuerte) ? QString::number(resto) : Traduce(u"no"_s),

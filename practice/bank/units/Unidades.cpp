@@ -9,6 +9,7 @@
 #include "practice/bank/units/Anillo.h"
 #include "practice/bank/units/Lineal.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/PotenciaEscrita.h"
 #include "shell/core/steps/PasosDeInverso.h"
 #include "shell/core/steps/PasosDePotencia.h"
 
@@ -62,7 +63,7 @@ Ejercicio fi(int nivel, Sorteo &sorteo)
             .ejemplo = Traduce(u"Un número"_s),
             .esperada = QString::number(fiDe(deN)),
             .juzga = [deN](const RespuestaLeida &r) { return juzgaFi(r, deN); },
-            .pistas = {Traduce(u"Descomponga el número: φ(p^k) = p^(k−1)·(p − 1), y los de las "
+            .pistas = {Traduce(u"Descomponga el número: φ(pᵏ) = pᵏ⁻¹·(p − 1), y los de las "
                                "potencias se multiplican."_s),
                        Traduce(u"El número tiene %1 factores primos distintos; el menor es %2."_s)
                            .arg(deN.size())
@@ -233,8 +234,9 @@ Ejercicio potenciaPorEuler(int nivel, Sorteo &sorteo)
         nivel == 3 ? sorteo.entre(1'000, 90'000) : sorteo.entre(5 * nivel, 60 * nivel);
     const Potencia p{a, fi * vueltas + sorteo.entre(2, fi - 1), n};
     return {
-        .enunciado =
-            Traduce(u"¿Qué resto da %1^%2 al dividirlo entre %3?"_s).arg(a).arg(p.k).arg(n),
+        .enunciado = Traduce(u"¿Qué resto da %1 al dividirlo entre %2?"_s)
+                         .arg(potenciaEscrita(a, p.k))
+                         .arg(n),
         .forma = {FormaDeRespuesta::Entero, {}, {u"^ mod"_s}},
         .ejemplo = Traduce(u"Un número"_s),
         .esperada = QString::number(p.con(p.k)),

@@ -1,18 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/steps/NumerosEnPantalla.h"
 
+#include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype SinGrupos = 4;
-constexpr QChar BlancoFino = u'\u202f';
-
 bool esCifra(QChar c)
 {
     return c >= u'0' && c <= u'9';
+}
+
+/// Whether the digits from `i` on belong to what stands before them: decimals, or a name as
+/// "A1000".
+bool esCola(const QString &frase, qsizetype i)
+{
+    if (i == 0)
+        return false;
+    const QChar antes = frase[i - 1];
+    return antes.isLetter() || antes == u'_' || (antes == u',' && i > 1 && esCifra(frase[i - 2]));
 }
 
 } // namespace
@@ -22,14 +30,8 @@ QString numeroEnPantalla(QStringView digitos, qsizetype masCifras)
     const qsizetype extremo = masCifras * 3 / 10;
     if (digitos.size() > masCifras)
         return digitos.first(extremo).toString() + u'…' + digitos.last(extremo).toString() +
-               Traduce(u" (%1 cifras)"_s).arg(digitos.size());
-    QString numero;
-    for (qsizetype i = 0; i < digitos.size(); ++i) {
-        if (i > 0 && digitos.size() > SinGrupos && (digitos.size() - i) % 3 == 0)
-            numero += BlancoFino;
-        numero += digitos[i];
-    }
-    return numero;
+               Traduce(u" (%1 cifras)"_s).arg(formatoEntero(qint64{digitos.size()}));
+    return formatoEntero(digitos.toString());
 }
 
 QString conNumerosEnPantalla(const QString &frase)
@@ -39,8 +41,11 @@ QString conNumerosEnPantalla(const QString &frase)
         qsizetype fin = i;
         while (fin < frase.size() && esCifra(frase[fin]))
             ++fin;
-        if (fin > i)
-            vista += numeroEnPantalla(QStringView(frase).sliced(i, fin - i));
+        const QStringView cifras = QStringView(frase).sliced(i, fin - i);
+        if (fin > i && esCola(frase, i))
+            vista += cifras;
+        else if (fin > i)
+            vista += numeroEnPantalla(cifras);
         else
             vista += frase[fin++];
         i = fin;

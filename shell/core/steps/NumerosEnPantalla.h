@@ -4,9 +4,8 @@
 #include <QString>
 
 /// The digits of a number as a step shows them: one of more than `masCifras` by its ends and how
-/// many it has, any other in groups of three from five digits on, between which a line never
-/// breaks.
+/// many it has, any other with its thousands parted as in the grid beside it (formatoEntero).
 QString numeroEnPantalla(QStringView digitos, qsizetype masCifras = 40);
 
-/// A sentence with every number in it as above.
+/// A sentence with every whole number in it as above; decimals, and digits that end a name, stay.
 QString conNumerosEnPantalla(const QString &frase);

@@ -223,6 +223,20 @@ private Q_SLOTS:
         QCOMPARE(texto(u"lblPunto"_s), u"f(20) = 6.765"_s);
     }
 
+    /// A proof that was begun is there again; hints come one at a time and end.
+    void demostraciones()
+    {
+        el<QPlainTextEdit>(u"txtApuntes2"_s)->setPlainText(u"Sea k = 2.\nEntonces…"_s);
+        for (int pistas = 1; boton(u"cmdPista2"_s)->isEnabled(); ++pistas) {
+            pulsa(u"cmdPista2"_s);
+            QCOMPARE(texto(u"lblPistas2"_s).count(u"\n\n"_s), pistas - 1);
+        }
+        QCOMPARE(texto(u"lblPistas1"_s), QString());
+        m_ventana = std::make_unique<FormRecursión2>();
+        QCOMPARE(el<QPlainTextEdit>(u"txtApuntes2"_s)->toPlainText(), u"Sea k = 2.\nEntonces…"_s);
+        QCOMPARE(el<QPlainTextEdit>(u"txtApuntes1"_s)->toPlainText(), QString());
+    }
+
 private:
     void calcula(const QString &modulo)
     {

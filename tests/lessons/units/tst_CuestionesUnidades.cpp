@@ -28,8 +28,8 @@ private Q_SLOTS:
             words | Iquince | No se ha juzgado: no entiendo «quince».
             order | O3 | ¡Correcto!
             order, a multiple | O12 | \
-              3^12 sí da 1, pero hay un exponente menor que también lo da.
-            order, wrong | O2 | 3^2 da 9 módulo 13, y tendría que dar 1.
+              3¹² sí da 1, pero hay un exponente menor que también lo da.
+            order, wrong | O2 | 3² da 9 módulo 13, y tendría que dar 1.
             order, zero | O0 | El orden es un exponente positivo.
             order, negative and long | O-10^90 | El orden es un exponente positivo.
             order, beyond phi | O3*10^90 | Ningún orden pasa de φ(13) = 12.
@@ -42,11 +42,11 @@ private Q_SLOTS:
             root, long and no unit | R7*10^60+7 | 7 no es una unidad: mcd(7, 14) = 7.
             phi | P4*6*4 | ¡Correcto!
             phi as of a prime | P359 | \
-              φ(n) = n − 1 solo si n es primo, y 360 = 2^3 · 3^2 · 5.
+              φ(n) = n − 1 solo si n es primo, y 360 = 2³ · 3² · 5.
             phi without exponents | P8 | Ha tomado cada primo una sola vez, pero \
-              360 = 2^3 · 3^2 · 5 y φ(p^k) = p^(k−1)·(p − 1).
-            phi, too small | P95 | No es 95. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
-            phi, too large | P97 | No es 97. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
+              360 = 2³ · 3² · 5 y φ(pᵏ) = pᵏ⁻¹·(p − 1).
+            phi, too small | P95 | No es 95. Tenga en cuenta que 360 = 2³ · 3² · 5.
+            phi, too large | P97 | No es 97. Tenga en cuenta que 360 = 2³ · 3² · 5.
             P0 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
             P-10^30 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
             P360 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
@@ -54,8 +54,8 @@ private Q_SLOTS:
             power | W9 | ¡Correcto!
             power, congruent | W-1 | \
               Es congruente con la solución, pero un resto está entre 0 y 9.
-            power, wrong | W7 | Como φ(10) = 4 y 3 es una unidad, 3^4 da 1: basta calcular \
-              3^2, porque 2 es el resto de 1002 entre 4.)"_s);
+            power, wrong | W7 | Como φ(10) = 4 y 3 es una unidad, 3⁴ da 1: basta calcular \
+              3², porque 2 es el resto de 1002 entre 4.)"_s);
     }
     void juicios()
     {

@@ -46,7 +46,7 @@ private Q_SLOTS:
               8191 es primo; φ(8191) = 8191 − 1 = 8190 |
             largest | 10^4 | 4000 | Z₁₀₀₀₀ tiene 4.000 unidades. No hay raíces primitivas: el \
               grupo no es cíclico, y el mayor orden es 500.\nφ(10000) = 4000, según la \
-              biblioteca. Por factores: 10000 = 2^4 · 5^4; φ(10000) = 2^3·(2 − 1) · 5^3·(5 − \
+              biblioteca. Por factores: 10000 = 2⁴ · 5⁴; φ(10000) = 2³·(2 − 1) · 5³·(5 − \
               1) = 4000 |
             one more | 10001 | 0 | ✗ El módulo es un número entero de 1 a 10000. | El mayor \
               número permitido es 10000
@@ -241,14 +241,17 @@ private Q_SLOTS:
     /// A power is no answer by the expression of its own text, but by its value.
     void aciertoDeUnaPotencia()
     {
-        const QRegularExpression potencia(u"(\\d+\\^\\d+) al dividirlo entre (\\d+)"_s);
+        const QRegularExpression potencia(u"(\\d+)([⁰¹²³⁴-⁹]+) al dividirlo entre (\\d+)"_s);
         QRegularExpressionMatch hallada;
         for (int vez = 0; vez < 200 && !hallada.hasMatch(); ++vez) {
             pulsa(u"cmdOtra_1"_s);
             hallada = potencia.match(texto(u"lblEnunciado_1"_s));
         }
         QVERIFY(hallada.hasMatch());
-        const QString potenciaPedida = hallada.captured(1) + u" mod "_s + hallada.captured(2);
+        QString potenciaPedida = hallada.captured(1) + u'^';
+        for (const QChar alta : hallada.captured(2))
+            potenciaPedida += QString::number(alta.digitValue());
+        potenciaPedida += u" mod "_s + hallada.captured(3);
         responde(u"1"_s, potenciaPedida);
         QCOMPARE(texto(u"lblVeredicto_1"_s), u"No se ha juzgado: eso es la pregunta."_s);
         responde(u"1"_s, Evalua(QString(potenciaPedida)));

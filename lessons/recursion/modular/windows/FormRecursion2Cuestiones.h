@@ -1,14 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 #include <memory>
+
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
 
 namespace Ui {
 class FormRecursion2Cuestiones;
 }
 
-/// The topic "Cuestiones": what to think about and to prove.
+/// The topic "Cuestiones": what to think about and to prove. No machine judges a proof: the student
+/// writes it beside hints that come one at a time, and finds it again when the lesson is opened
+/// anew.
 class FormRecursion2Cuestiones : public QWidget
 {
     Q_OBJECT
@@ -18,5 +25,8 @@ public:
     ~FormRecursion2Cuestiones() override;
 
 private:
+    static void ponApuntes(QPlainTextEdit *campo);
+    void ponPistas(QPushButton *boton, QLabel *rotulo, const QStringList &pistas);
+
     std::unique_ptr<Ui::FormRecursion2Cuestiones> ui;
 };
