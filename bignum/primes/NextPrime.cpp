@@ -62,8 +62,9 @@ private:
     {
         // start + 2 i = 0 (mod p): i is half of -residue, made even by adding the odd p.
         const std::uint64_t negative = residue == 0 ? 0 : p - residue;
-        std::uint64_t i = (negative % 2 == 0 ? negative : negative + p) / 2;
-        for (; i < m_composite.size(); i += p)
+        // Both have at most 25 bits.
+        auto i = static_cast<std::size_t>((negative % 2 == 0 ? negative : negative + p) / 2);
+        for (; i < m_composite.size(); i += static_cast<std::size_t>(p))
             m_composite[i] = true;
     }
 

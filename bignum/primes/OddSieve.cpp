@@ -13,7 +13,7 @@ constexpr std::array<std::uint32_t, 5> kPatternPrimes{3, 5, 7, 11, 13};
 constexpr std::uint64_t kPeriod = 3 * 5 * 7 * 11 * 13;
 constexpr std::uint64_t kMostPrimes = 1U << 20;
 
-/// One period of the multiples of the first primes, which are a sixth of all odd primes' work each,
+/// One period of the multiples of the first primes, which are the better part of the work,
 /// and so much again that a segment can be copied from any place in it.
 std::vector<std::uint8_t> makePattern()
 {
@@ -25,16 +25,16 @@ std::vector<std::uint8_t> makePattern()
 }
 
 /// The odd primes from 17 up to the limit.
-std::vector<std::uint32_t> oddPrimes(std::uint64_t limit)
+std::vector<std::uint32_t> oddPrimes(std::uint32_t limit)
 {
     std::vector<bool> composite(limit / 2 + 1, false);
     std::vector<std::uint32_t> primes;
-    for (std::uint64_t p = 3; p <= limit; p += 2) {
+    for (std::uint32_t p = 3; p <= limit; p += 2) {
         if (composite[p / 2])
             continue;
         if (p > kPatternPrimes.back())
-            primes.push_back(static_cast<std::uint32_t>(p));
-        for (std::uint64_t multiple = p * p; multiple <= limit; multiple += 2 * p)
+            primes.push_back(p);
+        for (std::uint32_t multiple = 3 * p; multiple <= limit; multiple += 2 * p)
             composite[multiple / 2] = true;
     }
     return primes;
@@ -85,7 +85,7 @@ void OddSieve::copyPattern()
         return;
     for (const std::uint32_t p : kPatternPrimes)
         if (p / 2 >= m_index)
-            m_composite[p / 2 - m_index] = 0;
+            m_composite[static_cast<std::size_t>(p / 2 - m_index)] = 0;
     if (m_index == 0)
         m_composite[0] = 1;
 }
@@ -99,7 +99,7 @@ void OddSieve::takePrimesFor(std::uint64_t end)
         return;
     m_limit = std::min(std::max(needed, 2 * m_limit), kMostPrimes);
     m_crossings.clear();
-    for (const std::uint32_t p : oddPrimes(m_limit))
+    for (const std::uint32_t p : oddPrimes(static_cast<std::uint32_t>(m_limit)))
         m_crossings.push_back({p, firstMultiple(p, m_index)});
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -15,7 +16,7 @@ class OddSieve
 {
 public:
     /// Odd numbers in a segment: its bytes fill the first cache.
-    static constexpr std::uint64_t kSpan = 1U << 15;
+    static constexpr std::size_t kSpan = std::size_t{1} << 15;
     /// Below, what stays is prime.
     static constexpr std::uint64_t kProven = std::uint64_t{1} << 40;
 

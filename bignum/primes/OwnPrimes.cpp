@@ -37,7 +37,7 @@ public:
 private:
     bool m_twoIsNext;
     OddSieve m_sieve;
-    std::uint64_t m_place; ///< in the segment; what is before it was handed over
+    std::size_t m_place; ///< in the segment; what is before it was handed over
 };
 
 PrimeStream::PrimeStream(std::uint64_t first, std::uint64_t)
@@ -64,7 +64,8 @@ std::uint64_t countPrimesTo(std::uint64_t limit)
     OddSieve sieve(0);
     for (std::uint64_t begin = 0; begin < end; begin += OddSieve::kSpan) {
         sieve.advance();
-        const auto segment = sieve.composite().first(std::min(end - begin, OddSieve::kSpan));
+        const std::uint64_t left = std::min<std::uint64_t>(end - begin, OddSieve::kSpan);
+        const auto segment = sieve.composite().first(static_cast<std::size_t>(left));
         count += static_cast<std::uint64_t>(std::count(segment.begin(), segment.end(), 0));
     }
     return count;

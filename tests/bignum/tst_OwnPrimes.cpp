@@ -18,7 +18,8 @@ private Q_SLOTS:
         for (const quint64 first : {1, 2, 3, 4, 13, 14, 65'535, 65'536})
             QTest::addRow("from %llu", first) << first << 100;
         QTest::newRow("next to 2^32") << (quint64{1} << 32) - 70'000 << 140'000;
-        QTest::newRow("where it proves no more") << bignum::OddSieve::kProven - 70'000 << 140'000;
+        QTest::newRow("where it proves no more")
+            << quint64{bignum::OddSieve::kProven - 70'000} << 140'000;
         QTest::newRow("next to 2^62") << (quint64{1} << 62) - 1000 << 2000;
     }
     void everyPrimeAndNothingElse()
