@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A native program and the one for Windows (under Wine) at one mailbox: eight senders at once, four of each, each
-# killed at some moment and started again, while a reader of each looks on. Nothing that a sender has called sent
+# killed in the midst of its work and started again, while a reader of each looks on. Nothing that a sender has called sent
 # may be missing or be another's, and no reader may meet half a message or half a key. Usage:
 #   scripts/exchange_check.sh [FOLDER_OF_NATIVE_TESTS [FOLDER_OF_WINDOWS_TESTS [ROUNDS]]]
 # The folders hold rsa_remitente and rsa_lectora (build/release/tests and build/windows/programa/tests at first).
@@ -20,15 +20,18 @@ orden() {
     esac
 }
 
-# remite SYSTEM NUMBER: sends until its rounds are over, killed in the midst of each but the last.
+# remite SYSTEM NUMBER: sends until its rounds are over; all but the last are killed after some of the messages.
 remite() {
-    local vuelta palabras proceso
+    local vuelta palabras proceso dichos bastan
     orden "$1" rsa_remitente
     for ((vuelta = 1; vuelta <= vueltas; vuelta++)); do
-        "${palabras[@]}" ana "$1$2v$vuelta" 60 claves >>"$lugar/enviados-$1$2" 2>>"$lugar/errores" &
+        dichos=$lugar/enviados-$1$2v$vuelta
+        "${palabras[@]}" ana "$1$2v$vuelta" 60 claves >"$dichos" 2>>"$lugar/errores" &
         proceso=$!
         if [ "$vuelta" -lt "$vueltas" ]; then
-            sleep "$((RANDOM % 3)).$((RANDOM % 10))"
+            bastan=$((RANDOM % 55))
+            while kill -0 "$proceso" 2>/dev/null && [ "$(wc -l <"$dichos")" -lt "$bastan" ]; do sleep 0.01; done
+            sleep "0.0$((RANDOM % 100))"
             kill -KILL "$proceso" 2>/dev/null && echo x >>"$lugar/matados"
             wait "$proceso" 2>/dev/null || true
         elif ! wait "$proceso"; then
