@@ -7,6 +7,9 @@ get_target_property(qt_link_options Qt6::Platform INTERFACE_LINK_OPTIONS)
 list(FILTER qt_link_options EXCLUDE REGEX "DISABLE_EXCEPTION_CATCHING|ASYNCIFY")
 set_target_properties(Qt6::Platform PROPERTIES INTERFACE_LINK_OPTIONS "${qt_link_options}")
 
+# Nothing is loaded later.
+set(CMAKE_POSITION_INDEPENDENT_CODE OFF)
+
 # <coroutine> and algorithms on ranges, which this standard library lacks.
 include_directories(BEFORE SYSTEM "${CMAKE_SOURCE_DIR}/packaging/web/include")
 
@@ -15,7 +18,7 @@ function(numora_web_program NAME)
     qt_add_executable(${NAME} ${ARGN})
     set_target_properties(${NAME} PROPERTIES
         QT_WASM_INITIAL_MEMORY 64MB
-        QT_WASM_EXTRA_EXPORTED_METHODS UTF8ToString,FS,IDBFS,addRunDependency,removeRunDependency)
+        QT_WASM_EXTRA_EXPORTED_METHODS UTF8ToString,FS,addRunDependency,removeRunDependency)
     target_link_libraries(${NAME} PRIVATE numora_qt_options Qt6::Widgets)
     target_link_options(${NAME} PRIVATE -fwasm-exceptions "SHELL:-s TOTAL_STACK=4MB" -lidbfs.js)
 endfunction()

@@ -107,9 +107,9 @@
 
     /// Mounts what was kept before the program runs.
     function recupera(modulo) {
-        const { FS, IDBFS } = modulo;
+        const { FS } = modulo;
         FS.mkdirTree(casa);
-        FS.mount(IDBFS, {}, casa);
+        FS.mount(FS.filesystems.IDBFS, {}, casa);
         modulo.addRunDependency("guardado");
         estado.textContent = di("datos");
         FS.syncfs(true, (error) => {
