@@ -2,7 +2,6 @@
 #include "lessons/units/FuncionEuler.h"
 
 #include "bignum/gateway/ModBignum.h"
-#include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
 
 #include <QStringList>
@@ -19,15 +18,14 @@ QString producto(const QStringList &factores)
     return factores.isEmpty() ? u"1"_s : Evalua(factores.join(u'*'), {}, Aritmetica::Entera);
 }
 
-/// "pᵏ⁻¹·(p - 1)" as it is written by hand.
+/// "p^(k-1)·(p - 1)" as it is written by hand.
 QString formulaDe(const FuncionEuler::Factor &factor)
 {
     const QString menosUno = u"(%1 − 1)"_s.arg(factor.primo);
     if (factor.exponente == u"1"_s)
         return menosUno;
     const int k = factor.exponente.toInt() - 1;
-    return factor.primo + (k == 1 ? QString() : enSuperindice(QString::number(k))) + u'·' +
-           menosUno;
+    return factor.primo + (k == 1 ? QString() : u'^' + QString::number(k)) + u'·' + menosUno;
 }
 
 template <typename Texto>
@@ -43,11 +41,6 @@ QString unidos(const QList<FuncionEuler::Factor> &factores, Texto texto)
 
 QString FuncionEuler::Factor::potencia() const
 {
-    return exponente == u"1"_s ? primo : primo + enSuperindice(exponente);
-}
-
-QString FuncionEuler::Factor::enFormula() const
-{
     return exponente == u"1"_s ? primo : primo + u'^' + exponente;
 }
 
@@ -62,8 +55,7 @@ FuncionEuler::FuncionEuler(const QString &n) : m_n(n)
         const bool ultimo = i + 1 == cuantos || primos[i + 1].isEmpty();
         Factor factor{primos[i], exponentes[i], {}};
         if (!completa && ultimo) {
-            m_resto = factor;
-            m_incompleta = true;
+            m_compuesto = factor.potencia();
             return;
         }
         // Of a prime power the service finds it at once.
@@ -75,19 +67,14 @@ FuncionEuler::FuncionEuler(const QString &n) : m_n(n)
         m_valor = producto(valores);
 }
 
-QList<FuncionEuler::Factor> FuncionEuler::todos() const
-{
-    return m_incompleta ? m_factores + QList{m_resto} : m_factores;
-}
-
 QString FuncionEuler::factorizacion() const
 {
-    return todos().isEmpty() ? m_n : unidos(todos(), &Factor::potencia);
-}
-
-QString FuncionEuler::enFormula() const
-{
-    return todos().isEmpty() ? m_n : unidos(todos(), &Factor::enFormula).replace(Por, u"*"_s);
+    QStringList partes;
+    for (const Factor &factor : m_factores)
+        partes << factor.potencia();
+    if (!m_compuesto.isEmpty())
+        partes << m_compuesto;
+    return partes.isEmpty() ? m_n : partes.join(Por);
 }
 
 QString FuncionEuler::formula() const
@@ -104,7 +91,7 @@ QString FuncionEuler::pasos() const
 {
     QStringList lineas{u"n = "_s + factorizacion()};
     if (m_valor.isEmpty()) {
-        if (m_incompleta)
+        if (!m_compuesto.isEmpty())
             lineas << Traduce(
                 u"El último factor es compuesto y no se ha podido descomponer: sin sus "
                 u"primos no hay manera rápida conocida de hallar φ(n)."_s);

@@ -16,9 +16,8 @@ public:
         QString exponente;
         QString fi;
 
-        /// As sentences write it, "2³", and as a Formula is told it, "2^3"; "2" alone where k is 1.
+        /// "p^k", or "p" alone where k is 1.
         QString potencia() const;
-        QString enFormula() const;
     };
 
     /// Factors n ≥ 1, given by its decimal digits. A number of hundreds of digits without small
@@ -31,12 +30,11 @@ public:
     /// The prime powers that were found, primes ascending.
     const QList<Factor> &factores() const { return m_factores; }
 
-    /// Whether the last factor is composite and could not be split.
-    bool esIncompleta() const { return m_incompleta; }
+    /// The composite factor that could not be split; empty where there is none.
+    const QString &compuesto() const { return m_compuesto; }
 
-    /// n as a product of prime powers, as sentences write it, and as a Formula is told it.
+    /// n as a product of prime powers.
     QString factorizacion() const;
-    QString enFormula() const;
 
     /// The value as a product of p^(k-1)·(p - 1) over the prime powers, as it is written by hand.
     QString formula() const;
@@ -45,12 +43,8 @@ public:
     QString pasos() const;
 
 private:
-    /// The composite one behind the prime powers.
-    QList<Factor> todos() const;
-
     QString m_n;
     QString m_valor;
+    QString m_compuesto;
     QList<Factor> m_factores;
-    Factor m_resto; ///< the composite one
-    bool m_incompleta = false;
 };

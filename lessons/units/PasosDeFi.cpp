@@ -10,8 +10,8 @@ Paso descomposicion(const FuncionEuler &euler, const QString &n)
 {
     Paso paso{Traduce(u"Se descompone n en factores primos."_s)};
     if (!euler.factores().isEmpty())
-        paso.formulas << Formula(n + u" = "_s + euler.enFormula());
-    if (euler.esIncompleta())
+        paso.formulas << Formula(n + u" = "_s + euler.factorizacion().replace(u" · "_s, u"*"_s));
+    if (!euler.compuesto().isEmpty())
         paso.regla =
             Traduce(u"El último factor es compuesto y no se ha podido descomponer: sin sus "
                     u"primos no hay manera rápida conocida de hallar φ(n)."_s);
@@ -27,7 +27,7 @@ Paso potencia(const FuncionEuler::Factor &f)
                : f.primo + (k == 1 ? QString() : u'^' + QString::number(k)) + u'*' + menosUno;
     return {Traduce(u"No son primos con %1 los múltiplos de %2: los demás se cuentan así."_s)
                 .arg(f.potencia(), f.primo),
-            {Formula(u"φ(%1) = %2 = %3"_s.arg(f.enFormula(), valor, f.fi))}};
+            {Formula(u"φ(%1) = %2 = %3"_s.arg(f.potencia(), valor, f.fi))}};
 }
 
 Paso producto(const FuncionEuler &euler, const QString &n)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/start/Escenario.h"
 
+#include "shell/core/ModGlobal.h"
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
 #include "shell/frame/Relleno.h"
@@ -47,7 +48,8 @@ void daGesto(const Gesto &gesto, const QWidget &ventana)
         boton->click();
     else if (auto *pestanas = qobject_cast<QTabWidget *>(control))
         pestanas->setCurrentIndex(gesto.valor.toInt());
-    else if (!control || !rellena(*control, gesto.valor))
+    else if (!control || !(rellena(*control, gesto.valor) ||
+                           rellena(*control, Traduce(gesto.valor)))) // as a list shows it
         qWarning("no such control in the scene: %s", qPrintable(gesto.control));
 }
 

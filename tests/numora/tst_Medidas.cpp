@@ -9,21 +9,21 @@
 #include "tests/numora/Estudiante.h"
 #include "tests/numora/Medidas.h"
 
-#include <algorithm>
-
 namespace {
 
-/// What a screen of 1024 by 600 shows, one of 1366 by 768 at 150 %, one of 1920 by 1080 at 200 %.
-constexpr std::array Tamanos{QSize(1024, 600), QSize(911, 512), QSize(960, 540)};
+/// What a screen of 1366 by 768 shows at 150 %: the narrowest and lowest.
+constexpr QSize Menor(911, 512);
+/// One of 1024 by 600, and one of 1920 by 1080 at 200 %.
+constexpr std::array Otros{QSize(1024, 600), QSize(960, 540)};
 
-/// Steps of the type size.
-constexpr std::array Letras{0, 4};
+/// In steps of the type size.
+constexpr int LetraGrande = 4;
 
 } // namespace
 
-/// Whether all that the windows say can be read on small screens, in both languages and with large
-/// type: each topic and tab as it opens, and on the narrowest in the states that the gallery's
-/// scenes bring about.
+/// Whether all that the windows say can be read on small screens, in both languages: each topic and
+/// tab as it opens, and with large type on the narrowest, where what does not fit is most, in the
+/// states that the gallery's scenes bring about as well.
 /// One theme is enough: a theme is a palette, which measures nothing.
 class TestMedidas : public QObject
 {
@@ -55,11 +55,10 @@ private Q_SLOTS:
         principal.showNormal();
         FormLeccion *leccion = principal.abreLeccion(fila);
         leccion->parentWidget()->showMaximized();
-        auto *tira = control<QTabBar>(leccion, u"tsTema"_s);
-        for (int i = 0; i < tira->count(); ++i) {
-            tira->setCurrentIndex(i);
-            recorrePestanas(principal, *leccion, tira->tabText(i));
-        }
+        recorreTemas(principal, *leccion, {Menor, Otros[0], Otros[1]});
+        // Another size of the type costs more than all else: it is changed once.
+        Aspecto::ponPasosDeLetra(LetraGrande);
+        recorreTemas(principal, *leccion, {Menor});
         for (const Escena &escena : leccionDe(fila).escenas()) {
             if (!escena.durante)
                 representa(principal, fila, escena);
@@ -127,7 +126,18 @@ private:
         return fila < 0 ? m_contenido.hojaDeCalculo : m_contenido.lecciones[fila];
     }
 
-    void recorrePestanas(FormPrincipal &principal, const FormLeccion &leccion, const QString &donde)
+    void recorreTemas(FormPrincipal &principal, const FormLeccion &leccion,
+                      const QList<QSize> &tamanos)
+    {
+        auto *tira = control<QTabBar>(&leccion, u"tsTema"_s);
+        for (int i = 0; i < tira->count(); ++i) {
+            tira->setCurrentIndex(i);
+            recorrePestanas(principal, leccion, tamanos, tira->tabText(i));
+        }
+    }
+
+    void recorrePestanas(FormPrincipal &principal, const FormLeccion &leccion,
+                         const QList<QSize> &tamanos, const QString &donde)
     {
         QTabWidget *pestanas = nullptr;
         for (QTabWidget *unas : leccion.findChildren<QTabWidget *>()) {
@@ -137,7 +147,7 @@ private:
         for (int i = 0; i < (pestanas ? pestanas->count() : 1); ++i) {
             if (pestanas)
                 pestanas->setCurrentIndex(i);
-            mide(principal, {Tamanos.begin(), Tamanos.end()}, donde);
+            mide(principal, tamanos, donde);
         }
     }
 
@@ -167,30 +177,24 @@ private:
         }
         espera(*leccion);
         QTest::qWait(25); // lists measure themselves once their entries have stood still
-        mide(principal, {Tamanos[1]}, escena.nombre);
+        mide(principal, {Menor}, escena.nombre);
         leccion->detenCorrida();
     }
 
     void mide(FormPrincipal &principal, const QList<QSize> &tamanos, const QString &donde)
     {
-        // Another size of the type costs more than all else: what the last one ended with, this
-        // one begins with.
-        std::array letras = Letras;
-        if (letras.front() != Aspecto::pasosDeLetra())
-            std::ranges::reverse(letras);
-        for (const int letra : letras) {
-            Aspecto::ponPasosDeLetra(letra);
-            for (const QSize &tamano : tamanos) {
-                principal.resize(tamano);
-                // Columns and wrapped texts ask for a second turn of the layouts, bars for a third.
-                QStringList faltas(1);
-                for (int vez = 0; vez < 8 && !faltas.isEmpty(); ++vez) {
-                    QCoreApplication::processEvents();
-                    faltas = faltasDeMedida(principal);
-                }
-                for (const QString &falta : faltas)
-                    anota(falta, u"%1 at %2, type +%3"_s.arg(donde).arg(tamano.width()).arg(letra));
+        for (const QSize &tamano : tamanos) {
+            principal.resize(tamano);
+            // Columns and wrapped texts ask for a second turn of the layouts, bars for a third.
+            QStringList faltas(1);
+            for (int vez = 0; vez < 8 && !faltas.isEmpty(); ++vez) {
+                QCoreApplication::processEvents();
+                faltas = faltasDeMedida(principal);
             }
+            for (const QString &falta : faltas)
+                anota(falta, u"%1 at %2, type +%3"_s.arg(donde)
+                                 .arg(tamano.width())
+                                 .arg(Aspecto::pasosDeLetra()));
         }
     }
 

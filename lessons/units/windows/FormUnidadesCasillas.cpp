@@ -4,7 +4,6 @@
 #include <QAbstractItemModel>
 #include <QEvent>
 #include <QHeaderView>
-#include <QStyle>
 #include <QTableView>
 #include <algorithm>
 
@@ -32,16 +31,20 @@ bool FormUnidadesCasillas::eventFilter(QObject *objeto, QEvent *suceso)
     return QObject::eventFilter(objeto, suceso);
 }
 
-/// What the largest element needs in the header and in a cell, whose margins are wider.
+/// What the largest element needs in the header and in a cell, whose margins are wider. The second
+/// row, of what is times or plus the second element, holds all of them.
 int FormUnidadesCasillas::anchoDelMayor() const
 {
-    const QHeaderView *cabecera = m_rejilla->horizontalHeader();
-    const int ultima = cabecera->count() - 1;
-    const QString mayor = m_rejilla->model()->headerData(ultima, Qt::Horizontal).toString();
-    const int margen = m_rejilla->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    const QAbstractItemView *vista = m_rejilla; // QTableView hides a function of its base
+    const QAbstractItemModel *modelo = m_rejilla->model();
+    const int ultima = modelo->columnCount() - 1;
     const int raya = 1;
-    return std::max(cabecera->sectionSizeHint(ultima),
-                    m_rejilla->fontMetrics().horizontalAdvance(mayor) + 2 * margen + raya);
+    int ancho = m_rejilla->horizontalHeader()->sectionSizeHint(ultima);
+    for (int c = 0; c <= ultima; ++c) {
+        const QModelIndex celda = modelo->index(std::min(1, ultima), c);
+        ancho = std::max(ancho, vista->sizeHintForIndex(celda).width() + raya);
+    }
+    return ancho;
 }
 
 void FormUnidadesCasillas::ajusta()

@@ -42,11 +42,11 @@ private Q_SLOTS:
             root, long and no unit | R7*10^60+7 | 7 no es una unidad: mcd(7, 14) = 7.
             phi | P4*6*4 | ¡Correcto!
             phi as of a prime | P359 | \
-              φ(n) = n − 1 solo si n es primo, y 360 = 2³ · 3² · 5.
+              φ(n) = n − 1 solo si n es primo, y 360 = 2^3 · 3^2 · 5.
             phi without exponents | P8 | Ha tomado cada primo una sola vez, pero \
-              360 = 2³ · 3² · 5 y φ(pᵏ) = pᵏ⁻¹·(p − 1).
-            phi, too small | P95 | No es 95. Tenga en cuenta que 360 = 2³ · 3² · 5.
-            phi, too large | P97 | No es 97. Tenga en cuenta que 360 = 2³ · 3² · 5.
+              360 = 2^3 · 3^2 · 5 y φ(pᵏ) = pᵏ⁻¹·(p − 1).
+            phi, too small | P95 | No es 95. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
+            phi, too large | P97 | No es 97. Tenga en cuenta que 360 = 2^3 · 3^2 · 5.
             P0 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
             P-10^30 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
             P360 | φ(360) cuenta las unidades de Z₃₆₀: está entre 1 y 359.
@@ -95,14 +95,17 @@ private:
     static std::pair<QString, int> resuelve(const QString &enunciado)
     {
         QList<int> datos;
-        QString texto = enunciado;
-        for (QChar &c : texto) {
-            if (c >= u'₀' && c <= u'₉')
-                c = QChar(static_cast<char16_t>(u'0' + (c.unicode() - u'₀')));
+        const QString texto = enunciado;
+        QChar antes;
+        for (const QChar c : texto) {
+            // An exponent, which stands higher than its base, is a number of its own.
+            const bool sigue = antes.digitValue() >= 0 && antes.isDigit() == c.isDigit();
+            if (c.digitValue() >= 0 && sigue)
+                datos.back() = datos.back() * 10 + c.digitValue();
+            else if (c.digitValue() >= 0)
+                datos << c.digitValue();
+            antes = c;
         }
-        static const QRegularExpression numero(u"\\d+"_s);
-        for (auto hallados = numero.globalMatch(texto); hallados.hasNext();)
-            datos << hallados.next().captured().toInt();
         if (texto.contains(u"inverso"_s))
             return {u"inverso"_s, inversoDe(datos[0], datos[1])};
         if (texto.contains(u"orden"_s))

@@ -38,7 +38,7 @@ private Q_SLOTS:
         const QString n = Evalua(expresion);
         const FuncionEuler euler(n);
         QCOMPARE(euler.valor(), FiEuler(n));
-        QVERIFY(!euler.esIncompleta());
+        QVERIFY(euler.compuesto().isEmpty());
         // What is shown can be typed into a field again.
         const auto teclea = [](QString texto) {
             return Evalua(texto.replace(u" · "_s, u"*"_s).replace(u'·', u'*').replace(u'−', u'-'));
@@ -52,8 +52,8 @@ private Q_SLOTS:
         filasDeTexto<QString, QString>(uR"(
             one | 1 | n = 1\nφ(n) = 1
             prime | 13 | n = 13\nφ(n) = 13 − 1\nφ(n) = 12
-            square | 49 | n = 7²\nφ(n) = 7·(7 − 1)\nφ(n) = 42
-            several | 360 | n = 2³ · 3² · 5\nφ(n) = φ(2³) · φ(3²) · φ(5)\nφ(n) = 2²·(2 − \
+            square | 49 | n = 7^2\nφ(n) = 7·(7 − 1)\nφ(n) = 42
+            several | 360 | n = 2^3 · 3^2 · 5\nφ(n) = φ(2^3) · φ(3^2) · φ(5)\nφ(n) = 2^2·(2 − \
               1) · 3·(3 − 1) · (5 − 1)\nφ(n) = 4 · 6 · 4\nφ(n) = 96)"_s);
     }
     void pasos()
