@@ -10,12 +10,12 @@
 #include "shell/core/system/Archivos.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/Veredicto.h"
+#include "shell/grid/ColumnasRepartidas.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
 #include "ui_FormPracticasHojas.h"
 
-#include <QHeaderView>
 #include <QPrinter>
 #include <QRandomGenerator>
 #include <QStandardItemModel>
@@ -54,7 +54,7 @@ void FormPracticasHojas::construye()
     ui->FlexTipos->setModel(m_tipos);
     ui->FlexTipos->setSelectionBehavior(QAbstractItemView::SelectRows);
     ui->FlexTipos->setTabKeyNavigation(false);
-    ui->FlexTipos->horizontalHeader()->setStretchLastSection(true);
+    new ColumnasRepartidas(ui->FlexTipos);
     conectaControles();
     cmbDe_Change();
     txtCodigo_Change();
@@ -87,7 +87,6 @@ void FormPracticasHojas::cmbDe_Change()
         leccion->setEditable(false);
         m_tipos->appendRow({nombre, leccion});
     }
-    ui->FlexTipos->resizeColumnToContents(0);
     ui->FlexTipos->setCurrentIndex(m_tipos->index(0, 0));
 }
 

@@ -58,7 +58,6 @@ private:
     void conectaBotones();
     void muestra();
     void actualiza();
-    void ponLamina(int paso);
     int actual() const;
     void vaA(int paso);
     void avanza();
