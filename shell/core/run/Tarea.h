@@ -6,6 +6,15 @@
 #include <optional>
 #include <utility>
 
+// What resumes a body in a browser is not inlined into another, nor changed for its one caller: the
+// compiler would make the jump of it that not every browser knows, or leave locals in the frame
+// that is gone when it returns.
+#ifdef __EMSCRIPTEN__
+#define SIN_SALTO [[gnu::noinline, gnu::used]]
+#else
+#define SIN_SALTO
+#endif
+
 template <typename T = void>
 class Tarea;
 
@@ -49,10 +58,9 @@ public:
         }
 #ifdef __EMSCRIPTEN__
         // Not every browser can jump from one body into another: the next one goes on inside this
-        // call, as deep as tasks stand in each other. Not inlined, or its locals would lie in the
-        // frame that is gone when it returns.
+        // call, as deep as tasks stand in each other.
         template <typename P>
-        [[gnu::noinline]] void await_suspend(std::coroutine_handle<P> acabada) const noexcept
+        SIN_SALTO void await_suspend(std::coroutine_handle<P> acabada) const noexcept
         {
             siguienteDe(acabada).resume();
         }
@@ -164,7 +172,7 @@ public:
         bool await_ready() const noexcept { return false; }
         /// Runs the body up to its first suspension. One that comes to its end without any lets the
         /// caller go on in its loop, instead of a frame deeper at each turn.
-        bool await_suspend(std::coroutine_handle<> quien) const
+        SIN_SALTO bool await_suspend(std::coroutine_handle<> quien) const
         {
             m_mango.resume();
             if (m_mango.done())
