@@ -18,9 +18,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// The properties that hold texts of the interface, in whatever class has them.
-constexpr std::array propiedades{"windowTitle", "toolTip",        "statusTip",
-                                 "whatsThis",   "accessibleName", "accessibleDescription",
-                                 "title",       "placeholderText"};
+constexpr std::array propiedades{"windowTitle", "toolTip",         "statusTip",
+                                 "whatsThis",   "accessibleName",  "accessibleDescription",
+                                 "title",       "placeholderText", "specialValueText"};
 
 void traducePropiedad(QObject *objeto, const char *propiedad)
 {
