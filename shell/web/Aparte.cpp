@@ -19,12 +19,19 @@ namespace {
 // fields that tabulators part: "factor" and the fields of a BignumFactor as often as one is found,
 // at the end "end" and the result.
 
+// Without arrows, which clang-format would break.
 EM_JS(void, empiezaTrabajador, (int numero, const char *orden, const char *dato), {
     const trabajador = new Worker('apart.js');
     Module.apartes = Module.apartes || {};
     Module.apartes[numero] = trabajador;
-    trabajador.onmessage = (mensaje) = > Module.diceElTrabajador(numero, mensaje.data);
-    trabajador.onerror = () = > Module.diceElTrabajador(numero, 'failed');
+    trabajador.onmessage = function(mensaje)
+    {
+        Module.diceElTrabajador(numero, mensaje.data);
+    };
+    trabajador.onerror = function()
+    {
+        Module.diceElTrabajador(numero, 'failed');
+    };
     trabajador.postMessage([ UTF8ToString(orden), UTF8ToString(dato) ]);
 });
 
