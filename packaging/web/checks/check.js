@@ -59,7 +59,7 @@ async function cumple({ lugar, pulsa, control, texto }) {
     await hasta(async () => {
         leido = comparable(await navegador.pide("lee", control));
         return leido.includes(texto);
-    }, `${control} shows ${texto}`, 60000).catch(async (error) => {
+    }, `${control} shows ${texto}`, 30000).catch(async (error) => {
         throw new Error(`${error.message}; it shows ${leido.slice(0, 200)}`);
     });
     await navegador.pide("deten");

@@ -41,6 +41,7 @@ class Navegador {
         await navegador.conecta(paginas.find((pagina) => pagina.type === "page").webSocketDebuggerUrl);
         await navegador.manda("Emulation.setDeviceMetricsOverride",
             { width: ancho, height: alto, deviceScaleFactor: 1, mobile: false });
+        await navegador.manda("Emulation.setFocusEmulationEnabled", { enabled: true });
         return navegador;
     }
 
