@@ -14,8 +14,8 @@ class CurveStages
 {
 public:
     /// For an odd composite n. The second bound is in proportion to the first: so that its stage,
-    /// which has one product for two primes, takes about half as long (measured). `ended` is asked
-    /// now and then whether to give up.
+    /// which has one product for two primes, takes somewhat less long from bounds of some ten
+    /// thousand on (measured: 0.9 of the first). `ended` is asked now and then whether to give up.
     CurveStages(const mpz_class &n, std::uint64_t bound, const std::function<bool()> &ended);
 
     /// A proper factor by the curve and point that `sigma` > 5 stands for, whose order is a
