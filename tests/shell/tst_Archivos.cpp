@@ -4,16 +4,13 @@
 #include "shell/core/Rutas.h"
 #include "shell/core/TextoDeRejilla.h"
 #include "shell/core/system/Archivos.h"
+#include "tests/shell/support/Permisos.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
-
-#if defined(Q_OS_WIN)
-#include <aclapi.h>
-#endif
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,24 +21,6 @@ const QString SinFin = u"NUL"_s;
 #else
 const QString SinFin = u"/dev/zero"_s;
 #endif
-
-/// Whether nobody but who runs the test has a right to a file.
-bool esSoloDeSuDuena(const QString &ruta)
-{
-#if defined(Q_OS_WIN)
-    PACL lista = nullptr;
-    PSECURITY_DESCRIPTOR todo = nullptr;
-    if (::GetNamedSecurityInfoW(QDir::toNativeSeparators(ruta).toStdWString().c_str(),
-                                SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &lista,
-                                nullptr, &todo) != ERROR_SUCCESS)
-        return false;
-    const auto alFinal = qScopeGuard([todo] { ::LocalFree(todo); });
-    return lista && lista->AceCount == 1;
-#else
-    const auto duena = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-    return (QFileInfo(ruta).permissions() & ~duena) == QFile::Permissions();
-#endif
-}
 
 } // namespace
 

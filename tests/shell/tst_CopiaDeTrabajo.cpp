@@ -2,6 +2,7 @@
 #include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/system/Archivos.h"
+#include "tests/shell/support/Permisos.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -33,8 +34,7 @@ private Q_SLOTS:
         espera->start(200ms);
         // Typing without a pause puts nothing off.
         QTRY_COMPARE_WITH_TIMEOUT((m_copia->cambia(), m_copia->guardada()), "uno"_ba, 2000);
-        const auto permisos = QFileInfo(m_copia->ruta()).permissions();
-        QVERIFY(!(permisos & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther)));
+        QVERIFY(esSoloDeSuDuena(m_copia->ruta()));
         nueva();
         QCOMPARE(m_copia->guardada(), "uno"_ba);
         m_trabajo.clear();
