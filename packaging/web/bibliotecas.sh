@@ -9,6 +9,8 @@ OBRA_WEB=$(realpath -m build/web-work)
 LIBS_WEB=$OBRA_WEB/libs
 FUENTES_WEB=$(realpath -m build/web-sources)
 TRABAJOS=${NUMORA_JOBS:-$(nproc)}
+MARCAS=$OBRA_WEB/done
+REGISTROS=$OBRA_WEB/log
 
 prepara_emscripten() {
     local raiz=/usr/share/emscripten
@@ -27,27 +29,6 @@ prepara_emscripten() {
         echo "EMSCRIPTEN_ROOT = emsdk_path + '/upstream/emscripten'" >"$EMSDK/.emscripten"
     fi
     CADENA_WEB=$aqui/cmake/Modules/Platform/Emscripten.cmake
-}
-
-# una_vez NAME COMMAND…: runs the command in a subshell unless it has succeeded before; its output goes to a file.
-una_vez() {
-    local nombre=$1 marca=$OBRA_WEB/done/$1 registro=$OBRA_WEB/log/$1.log
-    shift
-    [ -e "$marca" ] && return 0
-    mkdir -p "$OBRA_WEB/done" "$OBRA_WEB/log"
-    echo "$nombre … (${registro#"$PWD"/})"
-    local antes=$SECONDS
-    # Not as a condition, where a failure in the middle would count for nothing.
-    set +e
-    (set -e; "$@") >"$registro" 2>&1
-    local salida=$?
-    set -e
-    if [ $salida -ne 0 ]; then
-        tail -n 30 "$registro" >&2
-        echo "$nombre could not be built." >&2
-        return 1
-    fi
-    echo "$((SECONDS - antes)) s" >"$marca"
 }
 
 # con_autoconf PACKAGE SOURCE SWITCH…: the usual three steps, outside of the source.

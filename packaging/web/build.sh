@@ -9,6 +9,7 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 . scripts/paquetes.sh
 . scripts/fuentes.sh
+. scripts/una_vez.sh
 . packaging/web/bibliotecas.sh
 hasta=${1:-pagina}
 

@@ -9,27 +9,8 @@ BASE_WINDOWS=$(realpath -m build/windows)
 LIBS_WINDOWS=$BASE_WINDOWS/libs
 CADENA=$(realpath cmake/toolchains/mingw64.cmake)
 TRABAJOS=${NUMORA_JOBS:-$(nproc)}
-
-# una_vez NAME COMMAND…: runs the command in a subshell unless it has succeeded before; its output goes to a file.
-una_vez() {
-    local nombre=$1 marca=$BASE_WINDOWS/hecho/$1 registro=$BASE_WINDOWS/registro/$1.log
-    shift
-    [ -e "$marca" ] && return 0
-    mkdir -p "$BASE_WINDOWS/hecho" "$BASE_WINDOWS/registro"
-    echo "$nombre … (${registro#"$PWD"/})"
-    local antes=$SECONDS resultado
-    # In a condition the shell would not stop at the first command that fails.
-    set +e
-    (set -e; "$@") >"$registro" 2>&1
-    resultado=$?
-    set -e
-    if [ "$resultado" -ne 0 ]; then
-        tail -n 30 "$registro" >&2
-        echo "$nombre could not be built." >&2
-        return 1
-    fi
-    echo "$((SECONDS - antes)) s" >"$marca"
-}
+MARCAS=$BASE_WINDOWS/hecho
+REGISTROS=$BASE_WINDOWS/registro
 
 # con_autoconf PACKAGE SOURCE SWITCH…: the usual three steps, outside of the source.
 con_autoconf() {

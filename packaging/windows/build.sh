@@ -8,6 +8,7 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 . scripts/paquetes.sh
 . scripts/fuentes.sh
+. scripts/una_vez.sh
 . packaging/windows/bibliotecas.sh
 . packaging/windows/carpeta.sh
 hasta=${1:-instalador}
