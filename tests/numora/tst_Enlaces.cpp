@@ -217,7 +217,7 @@ private:
         Contenido contenido = m_contenido;
         contenido.practicas.practica = [this](FormLeccion &ventana, const QString &clase,
                                               int nivel) {
-            const QString falta = m_contenido.practicas.practica(ventana, clase, nivel);
+            QString falta = m_contenido.practicas.practica(ventana, clase, nivel);
             if (falta.isEmpty())
                 m_practicadas << clase + u' ' + QString::number(nivel);
             return falta;
