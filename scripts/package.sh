@@ -12,6 +12,8 @@ instala_paquetes package
 salida=$(realpath -m "${1:-build/package/out}")
 SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp)
 export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C.UTF-8
+# Folders and what the build copies get their modes from it, in the packages too.
+umask 022
 
 cmake --preset package
 cmake --build --preset package

@@ -22,7 +22,14 @@ sed -E 's/-Winvalid-pch|-include [^ ]*cmake_pch\.hxx//g' "$carpeta/compile_comma
 # What another configuration builds (fuzz targets, benchmarks) is not in the list of this one.
 conocidas=()
 for fuente in "${fuentes[@]}"; do
-    grep -qF "\"$PWD/$fuente\"" "$carpeta/compile_commands.json" && conocidas+=("$fuente")
+    grep -qF "\"$PWD/$fuente\"" "$carpeta/compile_commands.json" || continue
+    # Nor is a source whose own generated part is not there: its target has not been built.
+    propia=$(basename "$fuente" .cpp).moc
+    if grep -qF "#include \"$propia\"" "$fuente" && [ -z "$(find "$carpeta" -name "$propia" -print -quit)" ]; then
+        echo "not built here: $fuente"
+        continue
+    fi
+    conocidas+=("$fuente")
 done
 echo "clang-tidy: ${#conocidas[@]} sources"
 [ ${#conocidas[@]} -eq 0 ] && exit 0
