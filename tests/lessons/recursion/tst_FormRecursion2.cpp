@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/recursion/modular/windows/FormRecursion2.h"
 #include "shell/controls/Dibujo.h"
+#include "shell/core/ModGlobal.h"
 #include "shell/look/Aspecto.h"
 #include "shell/plot/Grafica.h"
 #include "shell/steps/PanelDePasos.h"
@@ -232,9 +233,13 @@ private Q_SLOTS:
             QCOMPARE(texto(u"lblPistas2"_s).count(u"\n\n"_s), pistas - 1);
         }
         QCOMPARE(texto(u"lblPistas1"_s), QString());
+        m_ventana.reset();
+        QVERIFY(QDir(Sesión().carpetaDeAjustes()).mkdir(u"recursion2.demostracion1"_s));
         m_ventana = std::make_unique<FormRecursión2>();
         QCOMPARE(el<QPlainTextEdit>(u"txtApuntes2"_s)->toPlainText(), u"Sea k = 2.\nEntonces…"_s);
         QCOMPARE(el<QPlainTextEdit>(u"txtApuntes1"_s)->toPlainText(), QString());
+        // What cannot be read is said, and not written over.
+        QVERIFY(!el<QPlainTextEdit>(u"txtApuntes1"_s)->isEnabled());
     }
 
 private:

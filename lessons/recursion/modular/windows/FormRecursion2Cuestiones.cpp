@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lessons/recursion/modular/windows/FormRecursion2Cuestiones.h"
 
+#include "bignum/gateway/ErrorEjecucion.h"
 #include "shell/access/Anuncio.h"
+#include "shell/core/CopiaDeTrabajo.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/frame/Evento.h"
 #include "shell/look/Aspecto.h"
@@ -17,8 +19,8 @@ FormRecursion2Cuestiones::FormRecursion2Cuestiones(QWidget *leccion)
     traduceVentana(this);
     Aspecto::destaca(ui->lblCuestion1, 1.15);
     Aspecto::destaca(ui->lblCuestion2, 1.15);
-    ponApuntes(ui->txtApuntes1);
-    ponApuntes(ui->txtApuntes2);
+    ponApuntes(ui->txtApuntes1, u"recursion2.demostracion1"_s);
+    ponApuntes(ui->txtApuntes2, u"recursion2.demostracion2"_s);
     ponPistas(ui->cmdPista1, ui->lblPistas1,
               {Traduce(u"Cada valor sale de los dos anteriores: fíjese en las parejas de valores "
                        u"seguidos."_s),
@@ -39,12 +41,24 @@ FormRecursion2Cuestiones::FormRecursion2Cuestiones(QWidget *leccion)
 
 FormRecursion2Cuestiones::~FormRecursion2Cuestiones() = default;
 
-void FormRecursion2Cuestiones::ponApuntes(QPlainTextEdit *campo)
+void FormRecursion2Cuestiones::ponApuntes(QPlainTextEdit *campo, const QString &archivo)
 {
-    const QString clave = u"Recursión2/"_s + campo->objectName();
-    campo->setPlainText(Sesión().recuerda(clave).toString());
-    conecta(campo, &QPlainTextEdit::textChanged, campo,
-            [campo, clave] { Sesión().anota(clave, campo->toPlainText()); });
+    auto copia = std::make_unique<CopiaDeTrabajo>(
+        Sesión().carpetaDeAjustes(), archivo, [campo] { return campo->toPlainText().toUtf8(); },
+        this);
+    try {
+        campo->setPlainText(QString::fromUtf8(copia->guardada()));
+    } catch (const ErrorEjecucion &motivo) {
+        // What cannot be read is not written over.
+        campo->setEnabled(false);
+        campo->setPlaceholderText(Traduce(u"No se pueden leer sus apuntes."_s) + u' ' +
+                                  motivo.texto());
+        return;
+    }
+    connect(campo, &QPlainTextEdit::textChanged, copia.get(), &CopiaDeTrabajo::cambia);
+    conecta(copia.get(), &CopiaDeTrabajo::fallida, this,
+            [this](const ErrorEjecucion &motivo) { informaError(this, motivo); });
+    m_copias.push_back(std::move(copia));
 }
 
 void FormRecursion2Cuestiones::ponPistas(QPushButton *boton, QLabel *rotulo,

@@ -4,7 +4,9 @@
 #include <QStringList>
 #include <QWidget>
 #include <memory>
+#include <vector>
 
+class CopiaDeTrabajo;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -25,8 +27,9 @@ public:
     ~FormRecursion2Cuestiones() override;
 
 private:
-    static void ponApuntes(QPlainTextEdit *campo);
+    void ponApuntes(QPlainTextEdit *campo, const QString &archivo);
     void ponPistas(QPushButton *boton, QLabel *rotulo, const QStringList &pistas);
 
     std::unique_ptr<Ui::FormRecursion2Cuestiones> ui;
+    std::vector<std::unique_ptr<CopiaDeTrabajo>> m_copias;
 };
