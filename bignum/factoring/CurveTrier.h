@@ -13,20 +13,18 @@ namespace bignum {
 class CurveTrier
 {
 public:
-    /// For an odd composite n. `ended` is asked now and then whether to give up; it and n outlive
-    /// this object, of which a thread has one at a time.
-    CurveTrier(const mpz_class &n, double bound, const std::function<bool()> &ended);
-    ~CurveTrier();
+    CurveTrier() = default;
+    virtual ~CurveTrier() = default;
     CurveTrier(const CurveTrier &) = delete;
     CurveTrier &operator=(const CurveTrier &) = delete;
 
     /// A proper factor, if the next curve yields one.
-    std::optional<mpz_class> tryCurve();
-
-private:
-    class Work;
-
-    std::unique_ptr<Work> m_work;
+    virtual std::optional<mpz_class> tryCurve() = 0;
 };
+
+/// For an odd composite n. `ended` is asked now and then whether to give up; it and n outlive what
+/// is given.
+std::unique_ptr<CurveTrier> curveTrier(const mpz_class &n, double bound,
+                                       const std::function<bool()> &ended);
 
 } // namespace bignum

@@ -15,31 +15,22 @@ int isEnded()
     return (*currentEnded)() ? 1 : 0;
 }
 
-} // namespace
-
 /// The parameters of a thread's curves, which keep what they have in common.
-class CurveTrier::Work
+class EcmTrier : public CurveTrier
 {
 public:
-    Work(const mpz_class &n, double bound, const std::function<bool()> &ended)
-        : m_n(n), m_bound(bound)
+    EcmTrier(const mpz_class &n, double bound, const std::function<bool()> &ended)
+        : m_n(n), m_bound(bound), m_ended(ended)
     {
         ecm_init(m_parameters);
         m_parameters->stop_asap = isEnded;
         // Numbers next to a power of two have an arithmetic of their own there, which keeps its
         // buffers in variables that all threads share.
         m_parameters->repr = ECM_MOD_NOBASE2;
-        currentEnded = &ended;
     }
-    ~Work()
-    {
-        ecm_clear(m_parameters);
-        currentEnded = nullptr;
-    }
-    Work(const Work &) = delete;
-    Work &operator=(const Work &) = delete;
+    ~EcmTrier() override { ecm_clear(m_parameters); }
 
-    std::optional<mpz_class> tryCurve()
+    std::optional<mpz_class> tryCurve() override
     {
         // A curve leaves its own point and parameter behind; zeros ask for a new random one.
         m_parameters->B1done = ECM_DEFAULT_B1_DONE;
@@ -48,6 +39,7 @@ public:
         mpz_set_ui(m_parameters->y, 0);
         mpz_set_ui(m_parameters->sigma, 0);
 
+        currentEnded = &m_ended;
         mpz_class number = m_n; // not const in the interface
         mpz_class factor;
         const int found = ecm_factor(factor.get_mpz_t(), number.get_mpz_t(), m_bound, m_parameters);
@@ -60,19 +52,16 @@ public:
 private:
     const mpz_class &m_n;
     double m_bound;
+    const std::function<bool()> &m_ended;
     ecm_params m_parameters;
 };
 
-CurveTrier::CurveTrier(const mpz_class &n, double bound, const std::function<bool()> &ended)
-    : m_work(std::make_unique<Work>(n, bound, ended))
-{
-}
+} // namespace
 
-CurveTrier::~CurveTrier() = default;
-
-std::optional<mpz_class> CurveTrier::tryCurve()
+std::unique_ptr<CurveTrier> curveTrier(const mpz_class &n, double bound,
+                                       const std::function<bool()> &ended)
 {
-    return m_work->tryCurve();
+    return std::make_unique<EcmTrier>(n, bound, ended);
 }
 
 } // namespace bignum

@@ -44,11 +44,11 @@ std::optional<CurveLevel> nextCurve(Search &search)
 void tryCurves(Search &search)
 {
     const std::function<bool()> ended = [&] { return search.found || search.stop.stopped(); };
-    std::optional<CurveTrier> trier;
+    std::unique_ptr<CurveTrier> trier;
     double bound = 0;
     while (const auto curve = ended() ? std::nullopt : nextCurve(search)) {
         if (curve->bound != bound)
-            trier.emplace(search.n, curve->bound, ended);
+            trier = curveTrier(search.n, curve->bound, ended);
         bound = curve->bound;
         const auto factor = trier->tryCurve();
         if (!factor)

@@ -5,15 +5,17 @@
 
 namespace bignum {
 
-class CurveTrier::Work
+namespace {
+
+class OwnTrier : public CurveTrier
 {
 public:
-    Work(const mpz_class &n, double bound, const std::function<bool()> &ended)
+    OwnTrier(const mpz_class &n, double bound, const std::function<bool()> &ended)
         : m_stages(n, static_cast<std::uint64_t>(bound), ended)
     {
     }
 
-    std::optional<mpz_class> tryCurve()
+    std::optional<mpz_class> tryCurve() override
     {
         constexpr std::size_t bitsOfSigma = 48; // far more than there will be curves
         return m_stages.run(randomBits(bitsOfSigma) + 6);
@@ -23,16 +25,12 @@ private:
     CurveStages m_stages;
 };
 
-CurveTrier::CurveTrier(const mpz_class &n, double bound, const std::function<bool()> &ended)
-    : m_work(std::make_unique<Work>(n, bound, ended))
-{
-}
+} // namespace
 
-CurveTrier::~CurveTrier() = default;
-
-std::optional<mpz_class> CurveTrier::tryCurve()
+std::unique_ptr<CurveTrier> curveTrier(const mpz_class &n, double bound,
+                                       const std::function<bool()> &ended)
 {
-    return m_work->tryCurve();
+    return std::make_unique<OwnTrier>(n, bound, ended);
 }
 
 } // namespace bignum

@@ -7,7 +7,9 @@
 #include "shell/core/Formatos.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/answers/ComoExpresion.h"
 #include "shell/core/answers/PalabraRespondida.h"
+#include "shell/core/answers/PartesDeRespuesta.h"
 
 #include <QMap>
 #include <QRegularExpression>
@@ -36,51 +38,6 @@ RespuestaLeida noEntendida(const QString &parte, const QString &todo)
 RespuestaLeida leida(const QStringList &numeros, const QString &como)
 {
     return {RespuestaLeida::Leida, numeros, {}, Traduce(u"leo %1"_s).arg(como)};
-}
-
-/// "²" and "₂" as the digits that they are, after "^" and as the index of F.
-void bajaCifras(QString &texto)
-{
-    static const QString arriba = u"⁰¹²³⁴⁵⁶⁷⁸⁹⁻"_s;
-    static const QString abajo = u"₀₁₂₃₄₅₆₇₈₉"_s;
-    static const QString llanas = u"0123456789-"_s;
-    QString llano;
-    bool enExponente = false;
-    bool enIndice = false;
-    for (const QChar c : texto) {
-        const qsizetype exponente = arriba.indexOf(c);
-        const qsizetype indice = abajo.indexOf(c);
-        if (enIndice && indice < 0)
-            llano += u')';
-        if (exponente >= 0)
-            llano += (enExponente ? QString() : u"^"_s) + llanas[exponente];
-        else if (indice >= 0)
-            llano += (enIndice ? QString() : u"("_s) + llanas[indice];
-        else
-            llano += c;
-        enExponente = exponente >= 0;
-        enIndice = indice >= 0;
-    }
-    texto = enIndice ? llano + u')' : llano;
-}
-
-/// Grouping as the program prints it: no group begins with a 0, as decimals do.
-void quitaGrupos(QString &texto)
-{
-    static const QRegularExpression grupos(
-        u"(?<![\\d.,'])[1-9]\\d{0,2}(?:([.'\\x{00a0}\\x{202f}\\x{2009}])\\d{3})(?:\\g1\\d{3})*(?![\\d.])"_s);
-    QString sin;
-    qsizetype desde = 0;
-    for (auto i = grupos.globalMatch(texto); i.hasNext();) {
-        const auto hallado = i.next();
-        sin += QStringView(texto).sliced(desde, hallado.capturedStart() - desde);
-        for (const QChar c : hallado.captured()) {
-            if (c.isDigit())
-                sin += c;
-        }
-        desde = hallado.capturedEnd();
-    }
-    texto = sin + texto.sliced(desde);
 }
 
 /// Names as the library calls them, of what stands in an expression as a name.
@@ -129,13 +86,6 @@ QString enParentesis(const QStringList &numeros)
     return u'(' + numeros.join(u"; "_s) + u')';
 }
 
-/// Blanks between digits group them, where they cannot part numbers.
-QString sinBlancosDeGrupo(QString texto)
-{
-    static const QRegularExpression blancos(u"(?<=\\d)\\s+(?=\\d{3}(?!\\d))"_s);
-    return texto.remove(blancos);
-}
-
 QString abreviado(const QString &numero)
 {
     constexpr qsizetype Enteras = 24;
@@ -146,35 +96,6 @@ RespuestaLeida leeUno(const QString &expresion, const QString &texto)
 {
     const auto valor = entero(sinBlancosDeGrupo(expresion));
     return valor ? leida({*valor}, abreviado(*valor)) : noEntendida(texto.trimmed());
-}
-
-/// Splits at what stands between the numbers of a list, but not inside brackets.
-QStringList partesDeLista(QString texto)
-{
-    static const QRegularExpression y(u"(?<=[\\s\\d)])(?:y|and)(?=[\\s\\d(])(?!\\s*=)"_s);
-    texto.replace(y, u","_s);
-    texto = texto.trimmed();
-    const bool encerrada = texto.size() > 1 && u"([{"_s.contains(texto.front()) &&
-                           u")]}"_s.contains(texto.back()) && texto.count(u'(') <= 1;
-    if (encerrada)
-        texto = texto.sliced(1, texto.size() - 2);
-    QStringList partes(1);
-    int hondo = 0;
-    for (const QChar c : std::as_const(texto)) {
-        hondo += c == u'(' ? 1 : c == u')' ? -1 : 0;
-        if (hondo == 0 && (c == u',' || c == u';'))
-            partes << QString();
-        else
-            partes.back() += c;
-    }
-    return partes;
-}
-
-/// Blanks part numbers where no sign joins them: "3 5" but not "3 + 5".
-QStringList partesSueltas(const QString &parte)
-{
-    static const QRegularExpression blancos(u"(?<=[\\d)])\\s+(?=[\\d(\\p{L}]|-\\d)"_s);
-    return parte.split(blancos, Qt::SkipEmptyParts);
 }
 
 RespuestaLeida leeLista(const QString &expresion)
@@ -280,13 +201,6 @@ std::optional<QStringList> rectaDe(QString lado)
     return QStringList{*cero, paso};
 }
 
-/// "x = … y = …" parted by a comma, whatever stands between them.
-QString conComaEntreIncognitas(QString texto)
-{
-    static const QRegularExpression entre(u"[\\s,;]+(?:(?:e|y|and)\\s+)?(?=[xyXY]\\s*=)"_s);
-    return texto.replace(entre, u", "_s);
-}
-
 RespuestaLeida leeSolucion(const QString &expresion)
 {
     QStringList numeros;
@@ -380,20 +294,6 @@ RespuestaLeida leeSegun(const FormaDeRespuesta &forma, const QString &texto)
 }
 
 } // namespace
-
-QString comoExpresion(QString texto)
-{
-    static const QRegularExpression fibonacci(u"(?<!\\p{L})F\\s*(?=\\()"_s);
-    static const QRegularExpression fi(u"φ\\s*(?=\\()"_s);
-    static const QRegularExpression producto(u"(?<=[\\d)])(?=\\p{L}+\\(|\\()"_s);
-    bajaCifras(texto);
-    quitaGrupos(texto);
-    texto.replace(u'−', u'-').replace(u'·', u'*').replace(u'×', u'*').replace(u'÷', u'/');
-    return texto.replace(fibonacci, u"fib"_s)
-        .replace(fi, u"fi"_s)
-        .replace(producto, u"*"_s)
-        .trimmed();
-}
 
 RespuestaLeida leeRespuesta(const QString &texto, const FormaDeRespuesta &forma)
 {

@@ -50,7 +50,3 @@ RespuestaLeida leeRespuesta(const QString &texto, const FormaDeRespuesta &forma)
 /// The same of an expression that the number service judges as it stands, without signs of print:
 /// its value, which may be a fraction.
 RespuestaLeida leeExpresion(const QString &texto);
-
-/// An expression with the signs of print as expressions have them: "2F(18) − 1" as "2*fib(18)-1",
-/// "2³ · 5" as "2^3*5", "5.167" as "5167".
-QString comoExpresion(QString texto);
