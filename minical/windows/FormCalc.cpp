@@ -15,6 +15,7 @@
 #include "shell/steps/PanelDePasos.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
@@ -47,14 +48,16 @@ FormCalc::~FormCalc()
 void FormCalc::showEvent(QShowEvent *suceso)
 {
     FormLeccion::showEvent(suceso);
-    if (suceso->spontaneous())
+    // A maximized window is shown once more when it makes room for another one.
+    if (suceso->spontaneous() || std::exchange(m_copiaOfrecida, true))
         return;
-    // The keys go to the sheet as soon as the window is open; while it opens, its frame takes the
-    // focus for itself.
+    // The keys go to the sheet as soon as the window is open, unless another one has come in front
+    // by then; while it opens, its frame takes the focus for itself.
     QTimer::singleShot(0, m_rejilla, [this] {
-        m_rejilla->setFocus();
-        if (!std::exchange(m_copiaOfrecida, true))
-            m_tareas.lanza(m_documento->ofreceCopia());
+        const QWidget *enfocado = QApplication::focusWidget();
+        if (!enfocado || enfocado == parentWidget() || isAncestorOf(enfocado))
+            m_rejilla->setFocus();
+        m_tareas.lanza(m_documento->ofreceCopia());
     });
 }
 
