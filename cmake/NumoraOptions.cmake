@@ -9,6 +9,8 @@ target_compile_definitions(numora_options INTERFACE
     $<$<AND:$<CXX_COMPILER_ID:Clang>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,15>>:__cpp_impl_coroutine=201902L>)
 # What is given away does not tell in which folder it was built: two builds give the same bytes.
 target_compile_options(numora_options INTERFACE $<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>)
+# As much stack as Linux gives: Windows would give an eighth.
+target_link_options(numora_options INTERFACE $<$<PLATFORM_ID:Windows>:-Wl,--stack,8388608>)
 if(NUMORA_WERROR)
     target_compile_options(numora_options INTERFACE -Werror)
 endif()

@@ -22,11 +22,21 @@ bool hayPantalla([[maybe_unused]] const QStringList &palabras)
 #endif
 }
 
+void pintaSinPantalla()
+{
+#if !defined(Q_OS_WIN)
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
+}
+
 ArgumentosDeVentana::ArgumentosDeVentana(int argc, char *argv[])
     : m_nombre(QGuiApplication::desktopFileName().toUtf8()),
       m_textos(argv, argv + argc),
-      m_cuenta(argc + 2)
+      m_cuenta(argc)
 {
+#if !defined(Q_OS_WIN) // which knows no such name and would leave it in the line
     m_textos.insert(m_textos.begin() + 1, {m_opcion.data(), m_nombre.data()});
+    m_cuenta += 2;
+#endif
     m_textos.push_back(nullptr);
 }

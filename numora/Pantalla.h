@@ -9,6 +9,10 @@
 /// ends the program by an abort where it finds no display.
 bool hayPantalla(const QStringList &palabras);
 
+/// Lets Qt draw without a display, before the application is made. Windows has one always, and Qt
+/// no fonts there without it.
+void pintaSinPantalla();
+
 /// The command line as QApplication is to have it: with the name of the windows of X11, by which a
 /// desktop finds the program's entry in its menu. Qt's own way, the program's file name, is not
 /// that of the entry. To be kept as long as the application. A name that the user gives holds over

@@ -38,7 +38,7 @@ void ponSinPantalla(const QStringList &palabras)
 {
     if (tieneOpcion(palabras, u"--hoja"_s) ||
         (tieneOpcion(palabras, u"--galeria"_s) && !hayPantalla(palabras)))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        pintaSinPantalla();
 }
 
 void dicePorError(const QString &frase)

@@ -8,8 +8,9 @@ set(CMAKE_C_COMPILER ${_triplet}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${_triplet}-g++-posix)
 set(CMAKE_RC_COMPILER ${_triplet}-windres)
 
-set(NUMORA_WINDOWS_LIBS "${CMAKE_CURRENT_LIST_DIR}/../../build/windows/libs" CACHE PATH
-    "Where the libraries for Windows are installed")
+# Without "..", by which CMake would not know it as its own root.
+get_filename_component(_libs "${CMAKE_CURRENT_LIST_DIR}/../../build/windows/libs" ABSOLUTE)
+set(NUMORA_WINDOWS_LIBS "${_libs}" CACHE PATH "Where the libraries for Windows are installed")
 set(CMAKE_FIND_ROOT_PATH "${NUMORA_WINDOWS_LIBS}" /usr/${_triplet})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

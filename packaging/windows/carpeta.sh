@@ -27,8 +27,7 @@ haz_carpeta() {
     mkdir -p "$carpeta/translations" "$carpeta/licencias"
     install -m 755 "$PROGRAMA/bin/numora.exe" "$carpeta"
     cp -r "$PROGRAMA/bin/ClipArt" "$PROGRAMA/bin/Doc" "$PROGRAMA/bin/Numora.txt" "$carpeta"
-    # "offscreen" draws what is written to files (--hoja, --galeria).
-    for modulo in platforms/qwindows platforms/qoffscreen styles/qwindowsvistastyle sqldrivers/qsqlite; do
+    for modulo in platforms/qwindows styles/qwindowsvistastyle sqldrivers/qsqlite; do
         clase=${modulo%/*}
         mkdir -p "$carpeta/plugins/$clase"
         install -m 644 "$LIBS_WINDOWS/plugins/$modulo.dll" "$carpeta/plugins/$clase"
@@ -36,7 +35,9 @@ haz_carpeta() {
     copia_dll "$carpeta"
     $TRIPLETE-strip --strip-unneeded "$carpeta"/*.dll "$carpeta"/numora.exe
     cp /usr/share/qt6/translations/qtbase_es.qm "$carpeta/translations"
-    printf '[Paths]\nPrefix=.\nPlugins=plugins\nTranslations=translations\n' >"$carpeta/qt.conf"
+    # The frames of windows are dark where the desktop's are.
+    printf '%s\n' '[Paths]' 'Prefix=.' 'Plugins=plugins' 'Translations=translations' \
+        '[Platforms]' 'WindowsArguments=darkmode=1' >"$carpeta/qt.conf"
     cp LICENSE "$carpeta/licencias/Numora.txt"
     local fuente
     for fuente in qtbase gmp sqlite3; do
@@ -53,5 +54,6 @@ haz_zip() {
     archivo=$(realpath -m "$2")
     rm -f "$archivo"
     find "$1" -exec touch --no-dereference --date="@${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}" {} +
-    (cd "$(dirname "$1")" && find "$(basename "$1")" -print | LC_ALL=C sort | TZ=UTC zip -X -9 -q "$archivo" -@)
+    (cd "$(dirname "$1")" && find "$(basename "$1")" -print | LC_ALL=C sort |
+        LC_ALL=C.UTF-8 TZ=UTC zip -X -9 -q -UN=UTF8 "$archivo" -@)
 }

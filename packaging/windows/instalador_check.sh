@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs the program in an account of Wine's, without a question, and takes it away again: what is installed is
-# what was packed, and what stays is what was there before and what the student has put there. Usage:
+# Installs the program in an account of Wine's, without a question, once more over itself, and takes it away again:
+# what is installed is what was packed, it starts there, and what stays is what was there before and what the student
+# has put there. Usage:
 #   packaging/windows/instalador_check.sh [INSTALLER [FOLDER_THAT_WAS_PACKED]]
 set -euo pipefail
 cd "$(dirname "$0")/../.."
@@ -18,10 +19,17 @@ usuario=$WINEPREFIX/drive_c/users/$(id -un)
 hay() { (cd "$WINEPREFIX" && find drive_c -not -path '*/Temp/*' | LC_ALL=C sort); }
 hay >"$WINEPREFIX.antes"
 
-packaging/windows/wine.sh "$instalador" /S
-espera
 instalada=$usuario/AppData/Local/Programs/Numora
+for _ in 1 2; do
+    packaging/windows/wine.sh --suelto "$instalador" /S
+    espera
+done
 diff -r "$empaquetada" "$instalada" | grep -v '^Only in .*: desinstala.exe$' && { echo "What is installed is not what was packed." >&2; exit 1; }
+hoja=$(dirname "$WINEPREFIX")/hoja.pdf
+packaging/windows/wine.sh --suelto "$instalada/numora.exe" --hoja 4D4-02D9 --pdf "Z:${hoja//\//\\}"
+espera
+[ "$(head -c 4 "$hoja")" = %PDF ] || { echo "What is installed does not start." >&2; exit 1; }
+tamano=$(du -sm "$instalada" | cut -f1)
 grep -q 'Uninstall..Numora' "$WINEPREFIX/user.reg"
 [ -e "$usuario/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Numora.lnk" ]
 
@@ -37,4 +45,4 @@ if [ "$quedan" != "$esperan" ] || grep -q 'Uninstall..Numora' "$WINEPREFIX/user.
     printf 'left behind: %s\nexpected:    %s\n' "$quedan" "$esperan" >&2
     exit 1
 fi
-echo "installed and removed: only the student's own files stay"
+echo "installed ($tamano MB), over itself too, started and removed: only the student's own files stay"

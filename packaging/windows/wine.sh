@@ -1,15 +1,42 @@
 #!/usr/bin/env bash
-# Runs a program for Windows under Wine with the libraries that it was linked to, in an account of its own
-# (build/windows/wine) and without a display. Usage: packaging/windows/wine.sh PROGRAM.exe [WORD…]
-# CTest runs the tests by it. NUMORA_WINE_PLATFORM=windows shows windows where there is a display.
+# Runs a program for Windows under Wine. Usage:
+#   packaging/windows/wine.sh [--ventanas] [--suelto] PROGRAM.exe [WORD…]
+# In an account of its own (build/windows/wine) that has no display: windows are there, but nobody sees them. CTest
+# runs the tests so. With --ventanas, in another account (build/windows/wine-ventanas) and on the display that there
+# is. The program finds the libraries that it was linked to; with --suelto only those beside it.
 set -e
 base=$(realpath "$(dirname "$0")/../../build/windows")
 wine=$(command -v wine64 || echo /usr/lib/wine/wine64)
-export WINEPREFIX=${WINEPREFIX:-$base/wine} WINEDEBUG=${WINEDEBUG:--all}
+cuenta=$base/wine suelto=
+for palabra in "$@"; do
+    case $palabra in
+        --ventanas) cuenta=$base/wine-ventanas ;;
+        --suelto) suelto=si ;;
+        *) break ;;
+    esac
+    shift
+done
+export LC_ALL=${LC_ALL:-C.UTF-8} WINEDEBUG=${WINEDEBUG:--all}
 # Neither .NET nor a browser nor entries in the menus of this machine.
 export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+if [ "$cuenta" = "$base/wine" ]; then
+    unset DISPLAY
+    export QT_QPA_PLATFORM=${NUMORA_WINE_PLATFORM:-windows}
+fi
+export WINEPREFIX=${WINEPREFIX:-$cuenta}
+if [ -z "${DISPLAY:-}" ] && [ ! -e "$WINEPREFIX/sin-pantalla" ]; then
+    mkdir -p "$(dirname "$WINEPREFIX")"
+    (
+        flock 9
+        [ -e "$WINEPREFIX/sin-pantalla" ] ||
+            "$wine" reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
+        touch "$WINEPREFIX/sin-pantalla"
+    ) 9>"$WINEPREFIX.cerrojo"
+fi
 deWindows() { printf 'Z:%s' "${1//\//\\}"; }
-WINEPATH="$(deWindows "$base/libs/bin");$(deWindows "$base/programa/bin");${WINEPATH:-}"
-export WINEPATH QT_QPA_PLATFORM=${NUMORA_WINE_PLATFORM:-offscreen}
-export QT_PLUGIN_PATH="$(deWindows "$base/libs/plugins");${QT_PLUGIN_PATH:-}"
+if [ -z "$suelto" ]; then
+    WINEPATH="$(deWindows "$base/libs/bin");$(deWindows "$base/programa/bin");${WINEPATH:-}"
+    QT_PLUGIN_PATH="$(deWindows "$base/libs/plugins");${QT_PLUGIN_PATH:-}"
+    export WINEPATH QT_PLUGIN_PATH
+fi
 exec "$wine" "$@"

@@ -117,6 +117,9 @@ public:
         QObject::connect(dialogo, &QObject::destroyed, m_respondido.contexto(),
                          [this] { m_respondido.cumple(); });
         m_dialogo->show();
+        // One that the system shows by itself has come and gone, or could not come.
+        if (!m_dialogo || !m_dialogo->isVisible())
+            m_respondido.cumple();
     }
     Abierto(const Abierto &) = delete;
     Abierto &operator=(const Abierto &) = delete;
@@ -291,6 +294,13 @@ Tarea<Interlocutor::Archivo> Interlocutor::eligeArchivoParaGuardar(QWidget *padr
 Tarea<bool> Interlocutor::eligeImpresora(QWidget *padre, std::shared_ptr<QPrinter> impresora,
                                          QString titulo)
 {
+#if defined(Q_OS_WIN) // whose dialog knows printers alone; that of others offers a file as well
+    if (impresora->outputFormat() != QPrinter::NativeFormat) {
+        co_await avisaYEspera(padre, Icono::Informacion,
+                              Traduce(u"No hay ninguna impresora en este equipo."_s), titulo);
+        co_return false;
+    }
+#endif
     auto *dialogo = new QPrintDialog(impresora.get(), ventanaALaVista(padre));
     dialogo->setWindowTitle(titulo);
     Abierto abierto(dialogo);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/look/Aspecto.h"
 
+#include "shell/core/system/Escritorio.h"
 #include "shell/look/Estilo.h"
 
 #include <QApplication>
@@ -18,7 +19,7 @@ constexpr auto PropiedadFactor = "factorDeLetra";
 struct Estado
 {
     Aspecto::Tema tema = Aspecto::Tema::Sistema;
-    bool sistemaOscuro = qApp->palette().window().color().lightness() < 128;
+    bool sistemaOscuro = escritorioOscuro() || qApp->palette().window().color().lightness() < 128;
     qreal puntos = qApp->font().pointSizeF();
     int pasos = 0;
     bool movimientoReducido = false;

@@ -11,8 +11,8 @@ namespace Aspecto {
 
 enum class Tema { Sistema, Claro, Oscuro };
 
-/// Applies style and palette. `Sistema` follows the palette that the desktop gave at the first
-/// call.
+/// Applies style and palette. `Sistema` is what the desktop asked for at the first call, by the
+/// palette that it gave or by its settings.
 void aplica(Tema tema);
 Tema tema();
 bool esOscuro();

@@ -10,11 +10,7 @@
 class Estudiante
 {
 public:
-    Estudiante()
-    {
-        for (const QString &parte : {u"ClipArt"_s, u"Doc"_s})
-            QFile::link(Entorno::carpetaDeTrabajo() + u'/' + parte, m_carpeta.filePath(parte));
-    }
+    Estudiante() { Entorno::ponTrabajoEn(m_carpeta.path()); }
 
     /// Settings, language and key as new.
     void prepara() const

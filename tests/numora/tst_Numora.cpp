@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QDir>
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -12,7 +13,23 @@ class TestNumora : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_entorno = QProcessEnvironment::systemEnvironment(); }
+    void init()
+    {
+        m_entorno = QProcessEnvironment::systemEnvironment();
+        m_carpeta = std::make_unique<QTemporaryDir>();
+        m_ajustes = m_carpeta->filePath(u"Numora/Numora.ini"_s);
+#if defined(Q_OS_WIN) // where no variable moves them
+        m_ajustes = QSettings(QSettings::IniFormat, QSettings::UserScope, u"Numora"_s, u"Numora"_s)
+                        .fileName();
+        QFile::rename(m_ajustes, m_ajustes + u".suyos"_s);
+#endif
+    }
+
+    void cleanup()
+    {
+        QFile::remove(m_ajustes);
+        QFile::rename(m_ajustes + u".suyos"_s, m_ajustes);
+    }
 
     /// What needs no window needs no display; what does says so, and a line that cannot be followed
     /// too.
@@ -26,16 +43,21 @@ private Q_SLOTS:
             int salida;
             QString dice;
         };
-        for (const auto &[opciones, salida, dice] :
-             {Linea{{u"--version"_s}, 0, u"Numora "_s},
-              {{u"--help"_s}, 0, u"Muestra esta ayuda."_s},
-              {{u"--help"_s, u"-i:English"_s}, 0, u"Shows this help."_s},
-              {{}, 1, u"No hay ninguna pantalla"_s},
-              {{u"-i:English"_s}, 1, u"There is no display"_s},
-              {{u"--hoja"_s}, 2, u"Falta el valor de --hoja."_s},
-              {{u"--galeria"_s, u"x"_s, u"--tamano=639x480"_s}, 2, u"640x480"_s},
-              {{u"--galeria"_s, u"x"_s, u"--tamano"_s, u"ancho"_s}, 2, u"640x480"_s},
-              {{u"--galeria"_s, u"x"_s, u"--escala"_s, u"99"_s}, 2, u"100"_s}}) {
+        for (const auto &[opciones, salida, dice] : {
+                 Linea{{u"--version"_s}, 0, u"Numora "_s},
+                     {{u"--help"_s}, 0, u"Muestra esta ayuda."_s},
+                     {{u"--help"_s, u"-i:English"_s}, 0, u"Shows this help."_s},
+#if !defined(Q_OS_WIN) // which always has one
+                     {{}, 1, u"No hay ninguna pantalla"_s},
+                     {{u"-i:English"_s}, 1, u"There is no display"_s},
+#endif
+                     {{u"--hoja"_s}, 2, u"Falta el valor de --hoja."_s},
+                     {{u"--galeria"_s, u"x"_s, u"--tamano=639x480"_s}, 2, u"640x480"_s},
+                     {{u"--galeria"_s, u"x"_s, u"--tamano"_s, u"ancho"_s}, 2, u"640x480"_s},
+                 {
+                     {u"--galeria"_s, u"x"_s, u"--escala"_s, u"99"_s}, 2, u"100"_s
+                 }
+             }) {
             arranca(opciones);
             QVERIFY(m_programa.waitForFinished());
             QCOMPARE(m_programa.exitStatus(), QProcess::NormalExit);
@@ -66,8 +88,7 @@ private Q_SLOTS:
 
     void arrancaConAjustesDanados()
     {
-        const QTemporaryDir ajustes;
-        ponAjustes(ajustes, {"[Programa]\nPrecisi%F3n=mucha\nVentana=@Variant(\0\xff\n[[[\n", 52});
+        ponAjustes({"[Programa]\nPrecisi%F3n=mucha\nVentana=@Variant(\0\xff\n[[[\n", 52});
         arranca({});
         QVERIFY(!m_programa.waitForFinished(3000));
         m_programa.terminate();
@@ -80,18 +101,21 @@ private Q_SLOTS:
     /// Not even where they name a folder that is gone.
     void laGaleriaNoTocaLosAjustes()
     {
-        const QTemporaryDir ajustes, imagenes, temporales;
+        const QTemporaryDir imagenes, temporales;
         const QByteArray contenido("[Programa]\nCarpeta=/no/hay\n");
-        ponAjustes(ajustes, contenido);
-        m_entorno.insert(u"TMPDIR"_s, temporales.path());
+        ponAjustes(contenido);
+        const auto ficheros = [&] { return QFileInfo(m_ajustes).dir().entryList(QDir::Files); };
+        const QStringList antes = ficheros();
+        for (const QString &variable : {u"TMPDIR"_s, u"TMP"_s})
+            m_entorno.insert(variable, temporales.path());
         arranca({u"--galeria"_s, imagenes.path()});
         QTRY_VERIFY_WITH_TIMEOUT(!QDir(imagenes.path()).isEmpty(), 60'000);
-        m_programa.terminate();
+        m_programa.kill();
         QVERIFY(m_programa.waitForFinished());
-        QFile archivo(ajustes.filePath(u"Numora/Numora.ini"_s));
+        QFile archivo(m_ajustes);
         QVERIFY(archivo.open(QIODevice::ReadOnly));
         QCOMPARE(archivo.readAll(), contenido);
-        QCOMPARE(QDir(ajustes.filePath(u"Numora"_s)).entryList(QDir::Files).size(), 1);
+        QCOMPARE(ficheros(), antes);
     }
 
 private:
@@ -102,14 +126,16 @@ private:
             m_entorno.remove(variable);
     }
 
-    void ponAjustes(const QTemporaryDir &carpeta, const QByteArray &contenido)
+    void ponAjustes(const QByteArray &contenido)
     {
-        QVERIFY(QDir(carpeta.path()).mkdir(u"Numora"_s));
-        QFile archivo(carpeta.filePath(u"Numora/Numora.ini"_s));
+        QVERIFY(QDir().mkpath(QFileInfo(m_ajustes).path()));
+        QFile archivo(m_ajustes);
         QVERIFY(archivo.open(QIODevice::WriteOnly));
         archivo.write(contenido);
+#if !defined(Q_OS_WIN)
         m_entorno.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-        m_entorno.insert(u"XDG_CONFIG_HOME"_s, carpeta.path());
+#endif
+        m_entorno.insert(u"XDG_CONFIG_HOME"_s, m_carpeta->path());
     }
 
     void arranca(const QStringList &opciones)
@@ -119,6 +145,8 @@ private:
         QVERIFY(m_programa.waitForStarted());
     }
 
+    std::unique_ptr<QTemporaryDir> m_carpeta;
+    QString m_ajustes;
     QProcess m_programa;
     QProcessEnvironment m_entorno;
 };

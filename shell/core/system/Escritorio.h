@@ -3,3 +3,6 @@
 
 /// Whether the desktop's own settings ask that nothing move; false where they say nothing.
 bool escritorioSinMovimiento();
+
+/// Whether they ask for dark colours and Qt does not hear of it; false where its palette tells.
+bool escritorioOscuro();

@@ -3,6 +3,7 @@
 #include "bignum/gateway/Windows1252.h"
 #include "lessons/rsa/key/ClsRSA.h"
 #include "lessons/rsa/key/TextoEnBloques.h"
+#include "shell/core/Rutas.h"
 #include "shell/core/run/Tareas.h"
 #include "tests/Tabla.h"
 #include "tests/lessons/rsa/support/Estudiante.h"
@@ -134,13 +135,14 @@ private Q_SLOTS:
 
     void sinPermisoEnLaCarpetaDeTrabajo()
     {
-        QTemporaryDir datos;
-        qputenv("XDG_DATA_HOME", datos.path().toLocal8Bit());
+        const QTemporaryDir datos;
+        qputenv("XDG_DATA_HOME", datos.path().toLocal8Bit()); // which Windows does not look at
+        const QString fichero = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                                u'\\' + m_yo->usuario() + u".RSA"_s;
         Sesión().ponCarpeta(m_yo->buzon() + u"/no existe"_s);
         ponYValida();
         QVERIFY(m_clave->ClaveOK());
-        QCOMPARE(m_clave->FicheroClavePrivada(),
-                 datos.path() + u"/Numora\\"_s + m_yo->usuario() + u".RSA"_s);
+        QCOMPARE(m_clave->FicheroClavePrivada(), fichero);
         ClsRSA otra(Sesión());
         otra.RecuperaClave();
         QCOMPARE(otra.t(), u"26829"_s);
@@ -149,6 +151,7 @@ private Q_SLOTS:
         ClsRSA tercera(Sesión());
         tercera.RecuperaClave();
         QCOMPARE(tercera.t(), u"26829"_s);
+        QVERIFY(QFile::remove(rutaDePlataforma(fichero)));
         qunsetenv("XDG_DATA_HOME");
     }
 

@@ -16,9 +16,7 @@ public:
         const QDir carpeta(m_carpeta.path());
         carpeta.mkpath(u"ajustes/Numora"_s);
         carpeta.mkpath(u"trabajo"_s);
-        for (const QString &parte : {u"ClipArt"_s, u"Doc"_s})
-            QFile::link(Entorno::carpetaDeTrabajo() + u'/' + parte,
-                        carpeta.filePath(u"trabajo/"_s + parte));
+        Entorno::ponTrabajoEn(carpeta.filePath(u"trabajo"_s));
         QSettings ajustes(carpeta.filePath(u"ajustes/Numora/Numora.ini"_s), QSettings::IniFormat);
         ajustes.setValue(u"Programa/Carpeta"_s, carpeta.filePath(u"trabajo"_s));
         ajustes.setValue(u"RSA/DirMensajes"_s, buzon);

@@ -84,6 +84,7 @@ Entorno::Entorno(int argc, char *argv[])
     static int argumentos = argc;
     ajustes = new QTemporaryDir;
     qputenv("XDG_CONFIG_HOME", ajustes->path().toLocal8Bit());
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ajustes->path());
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
@@ -130,6 +131,23 @@ Grabadora &Entorno::grabadora()
 QString Entorno::carpetaDeTrabajo()
 {
     return QStringLiteral(CARPETA_DE_TRABAJO);
+}
+
+void Entorno::ponTrabajoEn(const QString &carpeta)
+{
+    for (const QString &parte : {u"ClipArt"_s, u"Doc"_s}) {
+        const QDir origen(carpetaDeTrabajo() + u'/' + parte), destino(carpeta + u'/' + parte);
+#if defined(Q_OS_WIN) // a link there is a file that programs have to look into
+        QDirIterator archivos(origen.path(), QDir::Files, QDirIterator::Subdirectories);
+        while (archivos.hasNext()) {
+            const QString archivo = origen.relativeFilePath(archivos.next());
+            destino.mkpath(QFileInfo(archivo).path());
+            QFile::copy(origen.filePath(archivo), destino.filePath(archivo));
+        }
+#else
+        QFile::link(origen.path(), destino.path());
+#endif
+    }
 }
 
 QString rotulosDeTemas(const QWidget *ventana)

@@ -83,6 +83,8 @@ public:
     static void limpia();
     static Grabadora &grabadora();
     static QString carpetaDeTrabajo();
+    /// Makes its animations and pages those of another folder too.
+    static void ponTrabajoEn(const QString &carpeta);
 };
 
 /// The control of that name; the test fails by name when there is none.

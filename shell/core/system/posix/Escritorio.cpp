@@ -29,3 +29,9 @@ bool escritorioSinMovimiento()
     const QVariant duracion = valorDe(u"kdeglobals"_s, u"KDE/AnimationDurationFactor"_s);
     return duracion.isValid() && duracion.toDouble() == 0;
 }
+
+/// The palette is the desktop's.
+bool escritorioOscuro()
+{
+    return false;
+}
