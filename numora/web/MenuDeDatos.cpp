@@ -72,7 +72,8 @@ MenuDeDatos::MenuDeDatos(FormPrincipal *principal)
     orden(u"&Reponer una copia…"_s, [this] { m_tareas.lanza(reponCopia()); });
     menu->addSeparator();
     orden(u"&Nombre en el buzón…"_s, [this] { m_tareas.lanza(cambiaNombre()); });
-    orden(u"&Sacar del buzón un mensaje o una clave…"_s, [this] { m_tareas.lanza(sacaDelBuzon()); });
+    orden(u"&Sacar del buzón un mensaje o una clave…"_s,
+          [this] { m_tareas.lanza(sacaDelBuzon()); });
     orden(u"&Traer al buzón un mensaje o una clave…"_s, [this] { m_tareas.lanza(traeAlBuzon()); });
     if (puedeElegirCarpeta())
         orden(u"&Unir el buzón a una carpeta del equipo…"_s, [] {
@@ -108,7 +109,8 @@ void MenuDeDatos::guardaCopia()
         enlace.href = URL.createObjectURL(new Blob([Module.guardado.todo()]));
         enlace.download = 'Numora-' + new Date().toISOString().slice(0, 10) + '.numora';
         enlace.click();
-        setTimeout(function() { URL.revokeObjectURL(enlace.href); }, 60000);
+        setTimeout(
+            function() { URL.revokeObjectURL(enlace.href); }, 60000);
     });
     avisa(Traduce(u"La copia lleva los ajustes, las prácticas, la hoja, los borradores y el buzón. "
                   u"La clave privada no sale de este equipo."_s));
