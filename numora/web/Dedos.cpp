@@ -15,6 +15,12 @@ namespace {
 constexpr auto Reposo = 600ms;
 constexpr int Temblor = 10;
 
+bool esElFondoDeUnArea(const QObject *objeto)
+{
+    const auto *area = qobject_cast<const QAbstractScrollArea *>(objeto->parent());
+    return area && area->viewport() == objeto;
+}
+
 } // namespace
 
 Dedos::Dedos(QObject *padre) : QObject(padre)
@@ -36,8 +42,25 @@ bool Dedos::eventFilter(QObject *objeto, QEvent *suceso)
             sigue(*static_cast<QTouchEvent *>(suceso));
         else if (tipo == QEvent::TouchEnd || tipo == QEvent::TouchCancel)
             m_reposo.stop();
+    } else if (m_arrastra && esElFondoDeUnArea(objeto)) {
+        return aparta(*objeto, *suceso);
     }
     return QObject::eventFilter(objeto, suceso);
+}
+
+/// A finger that scrolls neither selects what it passes nor clicks on what it takes along.
+bool Dedos::aparta(QObject &objeto, QEvent &suceso)
+{
+    if (suceso.type() == QEvent::MouseMove)
+        return true;
+    if (suceso.type() != QEvent::MouseButtonRelease)
+        return false;
+    m_arrastra = false;
+    const QPointF fuera(-10000, -10000);
+    QMouseEvent suelta(QEvent::MouseButtonRelease, fuera, fuera, Qt::LeftButton, Qt::NoButton,
+                       Qt::NoModifier);
+    QApplication::sendEvent(&objeto, &suelta);
+    return true;
 }
 
 void Dedos::sigue(const QTouchEvent &toque)
@@ -45,9 +68,11 @@ void Dedos::sigue(const QTouchEvent &toque)
     const QPoint donde = toque.points().first().globalPosition().toPoint();
     if (toque.type() == QEvent::TouchBegin) {
         m_donde = donde;
+        m_arrastra = false;
         m_reposo.start();
     } else if (toque.points().size() > 1 || (donde - m_donde).manhattanLength() > Temblor) {
         m_reposo.stop();
+        m_arrastra = true;
     }
 }
 

@@ -22,8 +22,10 @@ protected:
 
 private:
     void sigue(const QTouchEvent &toque);
+    bool aparta(QObject &objeto, QEvent &suceso);
     void pideMenu();
 
     QTimer m_reposo;
     QPoint m_donde;
+    bool m_arrastra = false;
 };

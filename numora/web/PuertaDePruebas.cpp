@@ -12,7 +12,9 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -169,6 +171,37 @@ void escribeEnLaCaja(const std::string &texto)
     }
 }
 
+/// Chooses one of what the box that is open offers.
+bool eligeEnLaCaja(const std::string &texto)
+{
+    for (QWidget *caja : QApplication::topLevelWidgets()) {
+        auto *lista = caja->isVisible() && qobject_cast<QDialog *>(caja)
+                          ? caja->findChild<QComboBox *>()
+                          : nullptr;
+        if (lista) {
+            lista->setCurrentText(QString::fromStdString(texto));
+            return lista->currentText() == QString::fromStdString(texto);
+        }
+    }
+    return false;
+}
+
+/// Writes into a field and leaves it by Enter.
+bool entra(const std::string &nombre, const std::string &texto)
+{
+    QWidget *campo = control(QString::fromStdString(nombre));
+    if (!campo)
+        return false;
+    campo->setFocus();
+    principalDeLaPuerta()->leccionActiva()->rellenaCampo(QString::fromStdString(nombre),
+                                                         QString::fromStdString(texto));
+    for (const auto tipo : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent intro(tipo, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(campo, &intro);
+    }
+    return true;
+}
+
 bool escribe(const std::string &nombre, const std::string &texto)
 {
     QWidget *donde = control(QString::fromStdString(nombre));
@@ -254,6 +287,8 @@ EMSCRIPTEN_BINDINGS(numora_checks)
     emscripten::function("contesta", &contesta);
     emscripten::function("escribeEnLaCaja", &escribeEnLaCaja);
     emscripten::function("escribe", &escribe);
+    emscripten::function("eligeEnLaCaja", &eligeEnLaCaja);
+    emscripten::function("entra", &entra);
     emscripten::function("practica", &practica);
     emscripten::function("enMarcha", &enMarcha);
     emscripten::function("cierraLeccion", &cierraLeccion);

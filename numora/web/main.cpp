@@ -65,13 +65,13 @@ int main(int argc, char *argv[])
     ponInterlocutor(std::make_unique<InterlocutorWeb>());
     preparaCarpetas();
     preparaLetra();
+    new Dedos(qApp);
     const DireccionDeArranque direccion = leeDireccionDeArranque(direccionDeLaPagina());
     const QString linea = direccion.idioma.isEmpty() ? QString() : u"-i:"_s + direccion.idioma;
     auto *programa = new Programa(
         linea, contenidoDelPrograma(),
         {.presentacion = false, .oscuro = colores(direccion), .enlace = direccion.enlace});
     abrePuerta(programa);
-    new Dedos(qApp);
     new Estrechez(programa->principal());
     new MenuDeDatos(programa->principal());
     return QApplication::exec();

@@ -126,7 +126,7 @@
         guardado.vigila();
         addEventListener("hashchange", () => modulo.llega(location.hash.slice(1)));
         const seVa = () => {
-            modulo.guardaLoPendiente();
+            modulo.guardaLoPendiente?.();
             guardado.apunta();
             guardado.copia();
         };
