@@ -6,8 +6,6 @@
 #include "tests/minical/VentanaDePrueba.h"
 
 #include <QAbstractItemModelTester>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 
 /// The window of the sheet by mouse and buttons: commands, precision, clipboard, help.
 class TestFormCalc : public QObject
@@ -40,21 +38,6 @@ private Q_SLOTS:
         QCOMPARE(m->rejilla()->font().families().constFirst(), u"Courier New"_s);
         const QAbstractItemModelTester probador(modelo);
         m->entra(u"A1", u"1/3"_s);
-    }
-
-    /// Among maximized windows the one in front is shown once more when it goes behind.
-    void dejaElSitioAOtraVentana()
-    {
-        QMdiArea area;
-        area.resize(800, 600);
-        area.addSubWindow(new FormCalc)->showMaximized();
-        area.show();
-        QVERIFY(QTest::qWaitForWindowActive(&area));
-        QTRY_COMPARE(QApplication::focusWidget()->objectName(), u"FlexCalc"_s);
-        QMdiSubWindow *otra = area.addSubWindow(new QLineEdit);
-        otra->showMaximized();
-        QTest::qWait(20);
-        QCOMPARE(area.activeSubWindow(), otra);
     }
 
     void botonesYAyudas_data()
