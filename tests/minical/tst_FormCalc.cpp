@@ -45,6 +45,7 @@ private Q_SLOTS:
     /// Among maximized windows the one in front is shown once more when it goes behind.
     void dejaElSitioAOtraVentana()
     {
+        m.reset();
         QMdiArea area;
         area.resize(800, 600);
         area.addSubWindow(new FormCalc)->showMaximized();
