@@ -44,7 +44,7 @@ function(numora_web_worker NAME)
     add_executable(${NAME} ${ARGN})
     target_link_libraries(${NAME} PRIVATE numora_qt_options modbignum)
     target_link_options(${NAME} PRIVATE -fwasm-exceptions
-        "SHELL:-s EXPORT_NAME=createNumoraApart"
+        "SHELL:-s MODULARIZE=1"
         "SHELL:-s EXPORTED_RUNTIME_METHODS=ccall"
         "SHELL:-s INVOKE_RUN=0"
         "SHELL:-s ENVIRONMENT=worker"

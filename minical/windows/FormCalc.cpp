@@ -15,11 +15,12 @@
 #include "shell/steps/PanelDePasos.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QShowEvent>
@@ -54,8 +55,8 @@ void FormCalc::showEvent(QShowEvent *suceso)
     // The keys go to the sheet as soon as the window is open, unless another one has come in front
     // by then; while it opens, its frame takes the focus for itself.
     QTimer::singleShot(0, m_rejilla, [this] {
-        const QWidget *enfocado = QApplication::focusWidget();
-        if (!enfocado || enfocado == parentWidget() || isAncestorOf(enfocado))
+        const auto *marco = qobject_cast<QMdiSubWindow *>(parentWidget());
+        if (!marco || marco->mdiArea()->currentSubWindow() == marco)
             m_rejilla->setFocus();
         m_tareas.lanza(m_documento->ofreceCopia());
     });

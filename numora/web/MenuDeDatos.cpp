@@ -61,7 +61,7 @@ EMSCRIPTEN_BINDINGS(numora_datos)
 MenuDeDatos::MenuDeDatos(FormPrincipal *principal)
     : QObject(principal), m_principal(principal), m_tareas(principal)
 {
-    auto *menu = new QMenu(Traduce(u"&Datos"_s), principal);
+    auto *menu = new QMenu(Traduce(u"&Datos"_s), principal->menuBar());
     menu->setObjectName(u"mnuDatos"_s);
     principal->menuBar()->insertMenu(principal->menuBar()->actions().constLast(), menu);
     const auto orden = [&](const QString &rotulo, auto hace) {

@@ -40,7 +40,7 @@ module.exports = async (prueba) => {
         await ponClave();
         igual(await hay("/home/web_user/.local/share/Numora/estudiante.RSA"), true);
         igual(await hay(`${buzon}/estudiante/Clave.RSA`), true);
-        igual(await pide("sigue", "rsa/mensajes"), "");
+        igual(await pide("sigue", "rsa/env-rec"), "");
         for (const [campo, valor] of [["cmbDestinatario", "estudiante"], ["txtAsunto", "Hola"], ["txtDestTextoOriginal", "Nos vemos"]])
             igual(await pide("escribe", campo, valor), true);
         await hasta(() => pide("pulsa", "enviar"), "a message that can be sent", 5000);
@@ -68,7 +68,7 @@ module.exports = async (prueba) => {
         await hasta(async () => /no es un mensaje ni una clave pública/.test(await pide("contesta", "Aceptar")), "the refusal");
         fs.rmSync(archivo);
         await prueba.navegador.visita(direccion);
-        igual(await pide("sigue", "rsa/mensajes"), "");
+        igual(await pide("sigue", "rsa/env-rec"), "");
     });
     // The browser's own private folder has the same methods as one that is granted; a script can grant none.
     await comprueba("mailbox", "joined with a folder, both ways", async () => {
