@@ -4,8 +4,11 @@
 add_custom_target(logic_tests)
 # Before a path of this machine that a test is compiled with: Wine has this machine's root under a letter.
 set(NUMORA_ROOT "")
+set(NUMORA_TEST_OUTPUT "")
 if(WIN32 AND CMAKE_CROSSCOMPILING)
     set(NUMORA_ROOT "Z:")
+    # Plain text would go to the system's debugger.
+    set(NUMORA_TEST_OUTPUT -tap)
 endif()
 function(numora_test NAME)
     cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
@@ -24,7 +27,7 @@ function(numora_test NAME)
     target_link_libraries(${NAME} PRIVATE numora_qt_options Qt6::Test ${ARG_LIBS})
     # Compiled once and run for a second: an optimizer would cost more than it saves.
     target_compile_options(${NAME} PRIVATE $<$<CONFIG:Release>:-Og>)
-    add_test(NAME ${NAME} COMMAND ${NAME})
+    add_test(NAME ${NAME} COMMAND ${NAME} ${NUMORA_TEST_OUTPUT})
     if("numora_test_support" IN_LIST ARG_LIBS)
         numora_precompile(${NAME} tests)
         set_tests_properties(${NAME} PROPERTIES LABELS windows)

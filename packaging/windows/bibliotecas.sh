@@ -57,8 +57,8 @@ haz_sqlite() {
     install -m 644 sqlite3.h "$fuente/src/sqlite3ext.h" "$LIBS_WINDOWS/include"
 }
 
-# What is off: what the program has no use for, and what Debian's headers for Windows cannot build (OpenGL,
-# Direct2D, DirectWrite, tablets).
+# What is off: what the program has no use for (but a calendar, without which there is no print dialog), and
+# what Debian's headers for Windows cannot build (OpenGL, Direct2D, DirectWrite, tablets).
 haz_qtbase() {
     local fuente=$BASE_WINDOWS/fuentes/qtbase
     trae_fuente qt6-base "$fuente"
@@ -66,7 +66,7 @@ haz_qtbase() {
         vulkan network dbus concurrent xml glib icu zstd brotli openssl
         sql_odbc sql_mysql sql_psql sqlmodel
         system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2 system_doubleconversion
-        graphicsview wizard lcdnumber dial calendarwidget columnview datawidgetmapper keysequenceedit toolbox
+        graphicsview wizard lcdnumber dial columnview datawidgetmapper keysequenceedit toolbox
         textodfwriter printpreviewwidget printpreviewdialog undocommand
         androiddeployqt qmake)
     local apagado=("${sin[@]/#/-DFEATURE_}")

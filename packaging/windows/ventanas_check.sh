@@ -151,3 +151,13 @@ ancho_con() {
     xdotool search --onlyvisible --name '^Matemática Discreta' getwindowgeometry | sed -n 's/.*Geometry: \([0-9]*\)x.*/\1/p'
     acaba 'Matemática Discreta.*' >/dev/null || true
 }
+ancho=$(ancho_con 100)
+for porciento in 150 200; do
+    suyo=$(ancho_con $porciento)
+    como() { [ $((100 * suyo)) -ge $((ancho * (porciento - 5))) ] && [ $((100 * suyo)) -le $((ancho * (porciento + 5))) ]; }
+    veredicto "at $porciento % of the desktop's scale ($suyo pixels for $ancho)" como
+done
+[ "$fallos" -eq 0 ] && echo "the packed program in its windows: all well; start $numora ms, an empty program $vacio ms" && exit 0
+echo "the packed program in its windows: $fallos FAILED (pictures in ${fotos#"$PWD"/})"
+cat "$lugar/errores"
+exit 1

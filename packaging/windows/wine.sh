@@ -17,8 +17,8 @@ for palabra in "$@"; do
     shift
 done
 export LC_ALL=${LC_ALL:-C.UTF-8} WINEDEBUG=${WINEDEBUG:--all}
-# Neither .NET nor a browser nor entries in the menus of this machine.
-export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+# Neither .NET nor a browser nor a debugger that waits for somebody, nor entries in the menus of this machine.
+export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d"
 if [ "$cuenta" = "$base/wine" ]; then
     unset DISPLAY
     export QT_QPA_PLATFORM=${NUMORA_WINE_PLATFORM:-windows}
