@@ -192,6 +192,8 @@ bool entra(const std::string &nombre, const std::string &texto)
     QWidget *campo = control(QString::fromStdString(nombre));
     if (!campo)
         return false;
+    if (auto *lista = qobject_cast<QComboBox *>(campo))
+        campo = lista->lineEdit();
     campo->setFocus();
     principalDeLaPuerta()->leccionActiva()->rellenaCampo(QString::fromStdString(nombre),
                                                          QString::fromStdString(texto));

@@ -42,7 +42,7 @@ module.exports = async (prueba) => {
         igual(await hay(`${buzon}/estudiante/Clave.RSA`), true);
         igual(await pide("sigue", "rsa/env-rec"), "");
         for (const [campo, valor] of [["cmbDestinatario", "estudiante"], ["txtAsunto", "Hola"], ["txtDestTextoOriginal", "Nos vemos"]])
-            igual(await pide("escribe", campo, valor), true);
+            igual(await pide(campo === "cmbDestinatario" ? "entra" : "escribe", campo, valor), true);
         await hasta(() => pide("pulsa", "enviar"), "a message that can be sent", 5000);
         await hasta(() => hay(`${buzon}/estudiante/RSA1.msg`), "the message", 10000);
         await pide("ordena", "&Sacar del buzón un mensaje o una clave…");

@@ -43,6 +43,18 @@ function creaGuardado(modulo, queja) {
             FS.utime(ruta, hora, hora);
     }
 
+    /// A file that another one takes the place of stays in this file system's table of names and comes back under its name
+    /// when the other one is removed: it has to go first.
+    function arreglaCambiosDeNombre() {
+        const renombra = FS.rename;
+        FS.rename = (antes, despues) => {
+            const hay = FS.analyzePath(despues);
+            if (antes !== despues && FS.analyzePath(antes).exists && hay.exists && FS.isFile(hay.object.mode))
+                FS.unlink(despues);
+            return renombra(antes, despues);
+        };
+    }
+
     function sincroniza(desdeElNavegador) {
         return new Promise((listo) => FS.syncfs(desdeElNavegador, (error) => {
             if (error && !quejado)
@@ -82,6 +94,7 @@ function creaGuardado(modulo, queja) {
     return {
         /// Brings back what was kept; before the program begins.
         async recupera() {
+            arreglaCambiosDeNombre();
             FS.mkdirTree(casa);
             FS.mount(FS.filesystems.IDBFS, {}, casa);
             await sincroniza(true);
