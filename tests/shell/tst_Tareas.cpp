@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 
 using namespace std::chrono_literals;
@@ -64,7 +65,7 @@ class TestTareas : public QObject
     Q_OBJECT
 
     QList<std::exception_ptr> m_errores;
-    std::unique_ptr<Tareas> m_tareas;
+    std::optional<Tareas> m_tareas;
     int m_vivos = 0;
     qint64 m_pasos = 0;
 
@@ -72,8 +73,7 @@ private Q_SLOTS:
     void init()
     {
         m_errores.clear();
-        m_tareas = std::make_unique<Tareas>(
-            [this](const std::exception_ptr &error) { m_errores << error; });
+        m_tareas.emplace([this](const std::exception_ptr &error) { m_errores << error; });
     }
 
     void daValorOError()
