@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "bignum/arithmetic/Word.h"
 #include "bignum/factoring/PollardRho.h"
 #include "bignum/primes/Primality.h"
 #include "bignum/sieve/RelationStore.h"
@@ -48,10 +49,10 @@ private:
         if (rest >= largeBound) {
             if (rest >= mpz_class(largeBound) * largeBound || bignum::isPrime(rest))
                 return;
-            relation.large[1] = bignum::rhoFactor(rest.get_ui());
-            rest /= mpz_class(relation.large[1]);
+            relation.large[1] = bignum::rhoFactor(bignum::toUint64(rest));
+            rest /= bignum::fromUint64(relation.large[1]);
         }
-        relation.large[0] = rest.get_ui();
+        relation.large[0] = bignum::toUint64(rest);
         if (relation.large[0] < largeBound && relation.large[1] < largeBound)
             relations.push_back(relation);
     }

@@ -21,7 +21,7 @@ std::vector<Relation> edges(std::initializer_list<std::array<std::uint64_t, 2>> 
 {
     std::vector<Relation> relations;
     for (const auto &large : larges)
-        relations.push_back({mpz_class(1000 + relations.size()), {}, large});
+        relations.push_back({bignum::fromUint64(1000 + relations.size()), {}, large});
     return relations;
 }
 

@@ -23,11 +23,14 @@ namespace {
 std::atomic<int> allocationsLeft{0};
 std::atomic<bool> memoryIsShort{false};
 
-void *allocate(std::size_t size, std::size_t alignment)
+void countAllocation()
 {
     if (memoryIsShort && allocationsLeft-- <= 0)
         throw std::bad_alloc();
-    void *memory = std::aligned_alloc(alignment, (size + alignment - 1) / alignment * alignment);
+}
+
+void *orBadAlloc(void *memory)
+{
     return memory != nullptr ? memory : throw std::bad_alloc();
 }
 
@@ -35,12 +38,19 @@ void *allocate(std::size_t size, std::size_t alignment)
 
 void *operator new(std::size_t size)
 {
-    return allocate(size, alignof(std::max_align_t));
+    countAllocation();
+    return orBadAlloc(std::malloc(size));
 }
 
 void *operator new(std::size_t size, std::align_val_t alignment)
 {
-    return allocate(size, static_cast<std::size_t>(alignment));
+    countAllocation();
+    const auto line = static_cast<std::size_t>(alignment);
+#if defined(_WIN32)
+    return orBadAlloc(_aligned_malloc(size, line));
+#else
+    return orBadAlloc(std::aligned_alloc(line, (size + line - 1) / line * line));
+#endif
 }
 
 void operator delete(void *memory) noexcept
@@ -55,7 +65,11 @@ void operator delete(void *memory, std::size_t) noexcept
 
 void operator delete(void *memory, std::align_val_t) noexcept
 {
+#if defined(_WIN32)
+    _aligned_free(memory);
+#else
     std::free(memory);
+#endif
 }
 
 Q_DECLARE_METATYPE(bignum::sieve::VectorLevel)
@@ -251,7 +265,7 @@ private Q_SLOTS:
         row("50 bits", semiprime(50, 1), 0);
         row("64 bits", semiprime(64, 2), 0);
         row("40 digits", semiprime(133, 3), 0);
-        row("three primes", semiprime(80, 4) * 1099511627791, 0);
+        row("three primes", semiprime(80, 4) * bignum::fromUint64(1099511627791), 0);
         row("a prime of the base divides n", semiprime(110, 5) * 1009, 0);
         row("the square of a prime of the base divides n", semiprime(110, 5) * 1009 * 1009, 0);
         row("the multiplier divides n", 3 * semiprime(110, 7), 3 * modulo(semiprime(110, 7), 4));
