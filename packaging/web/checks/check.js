@@ -55,7 +55,8 @@ prueba.abre = async (ancho, alto) => {
 async function todo() {
     const { servidor, direccion } = await sirve(carpeta);
     Object.assign(prueba, { servidor, direccion });
-    for (const parte of ["arranque", "lecciones", "corridas", "guardado", "archivos", "dedos", "sinRed"])
+    const partes = process.env.NUMORA_PARTS?.split(" ") ?? ["arranque", "lecciones", "corridas", "guardado", "archivos", "dedos", "sinRed"];
+    for (const parte of partes)
         await require(`./${parte}.js`)(prueba);
     await prueba.navegador.cierra();
     for (const [grupo, bien] of grupos)

@@ -136,6 +136,7 @@ class Navegador {
     async sube(archivo, hace) {
         await this.manda("Page.setInterceptFileChooserDialog", { enabled: true });
         const abierto = this.suceso("Page.fileChooserOpened");
+        abierto.catch(() => {});
         await hace();
         const { backendNodeId } = await abierto;
         await this.manda("DOM.setFileInputFiles", { files: [archivo], backendNodeId });
