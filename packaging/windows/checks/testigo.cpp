@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Stands in for a program of Windows that Wine does not have: notes down, in the file named by TESTIGO, how it was
-// called.
+// Stands in for a program of Windows that Wine does not have: notes down, in the file named by
+// TESTIGO, how it was called.
 
 #include <cstdio>
 #include <cstdlib>
