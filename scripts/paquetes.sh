@@ -9,7 +9,7 @@ PAQUETES_BUILD=(g++ cmake ninja-build pkg-config
 PAQUETES_RUN=(qt6-translations-l10n gstreamer1.0-plugins-good libqt6svg6 libqt6sql6-sqlite fonts-dejavu-core fonts-liberation)
 PAQUETES_TEST=(git clang-format-14 clang-tidy-14 python3)
 PAQUETES_PACKAGE=(dpkg-dev file lintian appstream desktop-file-utils mandoc xvfb xauth x11-utils)
-PAQUETES_WINDOWS=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 fonts-wine nsis zip unzip librsvg2-bin pngquant icoutils make m4 tcl dpkg-dev
+PAQUETES_WINDOWS=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 fonts-wine fonts-dejavu-core nsis python3 unzip librsvg2-bin pngquant icoutils make m4 tcl dpkg-dev
     xvfb openbox xdotool imagemagick)
 PAQUETES_BARE=(librsvg2-bin pngquant)
 PAQUETES_FUZZ=(clang-14 libclang-rt-14-dev)

@@ -48,12 +48,18 @@ haz_carpeta() {
     find "$carpeta" -type d -exec chmod 755 {} + -o -type f ! -name '*.exe' -exec chmod 644 {} +
 }
 
-# haz_zip FOLDER FILE: the same bytes whenever the same folder is packed.
+# haz_zip FOLDER FILE: the same bytes whenever the same folder is packed. Names with accents are told to be UTF-8, which
+# the program "zip" does not do for what it reads from a list.
 haz_zip() {
-    local archivo
-    archivo=$(realpath -m "$2")
-    rm -f "$archivo"
-    find "$1" -exec touch --no-dereference --date="@${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}" {} +
-    (cd "$(dirname "$1")" && find "$(basename "$1")" -print | LC_ALL=C sort |
-        LC_ALL=C.UTF-8 TZ=UTC zip -X -9 -q -UN=UTF8 "$archivo" -@)
+    SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)} python3 - "$1" "$2" <<'FIN'
+import os, pathlib, sys, time, zipfile
+folder, file = map(pathlib.Path, sys.argv[1:])
+when = time.gmtime(int(os.environ["SOURCE_DATE_EPOCH"]))[:6]
+with zipfile.ZipFile(file, "w", zipfile.ZIP_DEFLATED, compresslevel=9) as packed:
+    for path in sorted(p for p in folder.rglob("*") if p.is_file()):
+        entry = zipfile.ZipInfo(str(path.relative_to(folder.parent)), when)
+        entry.external_attr = path.stat().st_mode << 16
+        entry.compress_type = zipfile.ZIP_DEFLATED
+        packed.writestr(entry, path.read_bytes())
+FIN
 }

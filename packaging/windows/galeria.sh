@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Takes the gallery of the packed program for Windows under Wine: every window and lesson, light, dark, in English and
-# at 150 and 200 %. Fails where the program complains or where one of them lacks a picture that another has. Usage:
+# Takes the gallery of the packed program for Windows under Wine (and Xvfb): every window and lesson, light, dark, in
+# English and at 150 and 200 %. Fails where the program complains or where one of them lacks a picture that another has. Usage:
 #   packaging/windows/galeria.sh [FOLDER [clara|oscura|ingles|150|200]…]
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 lugar=$(realpath -m "${1:-build/windows/galeria}")
 shift || true
+. packaging/windows/pantalla.sh
+abre_pantalla 3200x1800
 [ $# -gt 0 ] || set -- clara oscura ingles 150 200
 fallos=0
 for clase in "$@"; do
@@ -19,7 +21,7 @@ for clase in "$@"; do
     rm -rf "${lugar:?}/$clase"
     mkdir -p "$lugar/$clase"
     resultado=0
-    packaging/windows/wine.sh --suelto build/windows/Numora/numora.exe --galeria "Z:${lugar//\//\\}\\$clase" \
+    packaging/windows/wine.sh --ventanas --suelto build/windows/Numora/numora.exe --galeria "Z:${lugar//\//\\}\\$clase" \
         "${palabras[@]}" 2>"$lugar/$clase.txt" || resultado=$?
     hay=$(find "$lugar/$clase" -name '*.png' | wc -l)
     printf '%-8s %d pictures, result %d\n' "$clase" "$hay" "$resultado"

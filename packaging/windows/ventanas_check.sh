@@ -7,6 +7,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . scripts/paquetes.sh
+. packaging/windows/pantalla.sh
 instala_paquetes windows
 zip=$(realpath "${1:-$(ls build/windows/Numora-*-win64.zip)}")
 fotos=$(realpath -m "${2:-build/windows/fotos}")
@@ -18,6 +19,7 @@ procesos=()
 limpia() {
     "$servidor" -k || true
     [ ${#procesos[@]} -eq 0 ] || kill "${procesos[@]}" 2>/dev/null || true
+    cierra_pantalla
     rm -rf "$lugar"
 }
 trap limpia EXIT
@@ -32,11 +34,8 @@ veredicto() {
     printf '%-58s %s\n' "$nombre" "$dicho"
 }
 
-exec 7<>"$lugar/numero-de-pantalla"
-Xvfb -displayfd 7 -screen 0 2732x1536x24 >/dev/null 2>&1 & procesos+=($!)
-until [ -s "$lugar/numero-de-pantalla" ]; do sleep 0.1; done
-DISPLAY=:$(cat "$lugar/numero-de-pantalla")
-export DISPLAY
+abre_pantalla 2732x1536
+trap limpia EXIT
 openbox >/dev/null 2>&1 & procesos+=($!)
 
 # What the account's browser is, and its calculator.

@@ -24,13 +24,18 @@ if [ "$cuenta" = "$base/wine" ]; then
     export QT_QPA_PLATFORM=${NUMORA_WINE_PLATFORM:-windows}
 fi
 export WINEPREFIX=${WINEPREFIX:-$cuenta}
-if [ -z "${DISPLAY:-}" ] && [ ! -e "$WINEPREFIX/sin-pantalla" ]; then
+# A new account: its windows go nowhere where there is no display, and the font of Windows' windows, which is not
+# here, has a stand-in of about its width.
+apunta() { "$wine" reg add "HKCU\\Software\\Wine\\$1" /v "$2" /d "$3" /f >/dev/null 2>&1; }
+if [ ! -e "$WINEPREFIX/preparada" ]; then
     mkdir -p "$(dirname "$WINEPREFIX")"
     (
         flock 9
-        [ -e "$WINEPREFIX/sin-pantalla" ] ||
-            "$wine" reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
-        touch "$WINEPREFIX/sin-pantalla"
+        if [ ! -e "$WINEPREFIX/preparada" ]; then
+            [ -n "${DISPLAY:-}" ] || apunta Drivers Graphics null
+            apunta 'Fonts\Replacements' 'MS Shell Dlg' 'DejaVu Sans'
+            touch "$WINEPREFIX/preparada"
+        fi
     ) 9>"$WINEPREFIX.cerrojo"
 fi
 deWindows() { printf 'Z:%s' "${1//\//\\}"; }
