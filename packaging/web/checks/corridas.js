@@ -23,19 +23,33 @@ module.exports = async (prueba) => {
         return Math.round(antes?.mayor ?? 0);
     })()`);
 
-    /// Begins a run, has it last `ms` or to its end, and stops it; tells what the page's loop was held for meanwhile.
-    async function corre(lugar, boton, ms) {
+    /// The longest that a click waits while something goes on. Of up to four looks of a second the shortest counts: what
+    /// the page itself does, it does in each of them; other programs of the machine do not.
+    async function espera(dura) {
+        let menor = Infinity, miradas = 0;
+        for (; miradas < 4 && await dura(); ++miradas) {
+            await hueco();
+            await prueba.espera(1000);
+            const mayor = await hueco();
+            // What shows a result is no part of the run any more.
+            if (await dura())
+                menor = Math.min(menor, mayor);
+        }
+        return menor;
+    }
+
+    const sirve = (mayor) => mayor <= HuecoMayor ? "" : `a click waits ${mayor} ms`;
+
+    async function corre(lugar, boton) {
         igual(await pide("sigue", lugar), "");
         await prueba.espera(1500);
         igual(await pide("pulsa", boton), true);
         await prueba.espera(300);
-        await hueco();
-        await prueba.espera(ms);
-        const marchaba = await pide("enMarcha"), mayor = await hueco();
+        const mayor = await espera(() => pide("enMarcha"));
         await pide("deten");
         await hasta(async () => !await pide("enMarcha"), "the end of the run");
-        prueba.dice(`${lugar}: the page's loop was held for ${mayor} ms at most${marchaba ? "" : ", the run had ended"}`);
-        return mayor <= HuecoMayor ? "" : `a click waits ${mayor} ms`;
+        prueba.dice(`${lugar}: a click waits ${mayor} ms at most`);
+        return sirve(mayor);
     }
 
     await prueba.abre();
@@ -60,20 +74,27 @@ module.exports = async (prueba) => {
             igual(await pide("sigue", `primos/factorizacion?OptAlgoritmo_2=1&TxtN=${largo}`), "");
             igual(await pide("pulsa", "BtnFactoriza"), true);
             await hasta(async () => await apartes() === 1, "the worker");
-            await hueco();
-            await prueba.espera(1500);
-            const mayor = await hueco();
+            const mayor = await espera(async () => await apartes() === 1);
             await acaba();
             await hasta(async () => await apartes() === 0, "the worker's end", 2000);
-            return mayor <= HuecoMayor ? "" : `a click waits ${mayor} ms`;
+            return sirve(mayor);
         });
     }
-    for (const [lugar, boton, ms] of [
-        ["primos/factorizacion?OptAlgoritmo_0=1&TxtN=922337203685461", "BtnFactoriza", 4000],
-        ["primos/criba?txtMaxPrimo=10^9&optTipoCriba_1=1", "BtnCriba", 4000],
-        ["fibonacci/valores?TxtN=45&optMetodo_0=1", "cmdCalcular", 4000],
-        ["funciones/funciones?TxtX=3&TxtY=9&txtMaxAck=5000", "cmdAck", 3000],
-        ["modular/representacion?txtAlfa=1&TxtBeta=1&TxtF1=1&txtF2=1&TxtMódulo=199", "cmdFunción", 4000],
-        ["unidades/cayley?OptOperacion_0=1&txtNCayley=200", "cmdCayley", 3000]])
-        await comprueba("responsive", lugar, () => corre(lugar, boton, ms));
+    for (const [lugar, boton] of [
+        ["primos/factorizacion?OptAlgoritmo_0=1&TxtN=922337203685461", "BtnFactoriza"],
+        ["fibonacci/valores?TxtN=45&optMetodo_0=1", "cmdCalcular"],
+        ["complejidad/fibonacci?TxtHasta=40", "cmdMedir"],
+        ["funciones/funciones?TxtX=3&TxtY=13&txtMaxAck=5000", "cmdAck"],
+        ["modular/representacion?txtAlfa=1&TxtBeta=1&TxtF1=1&txtF2=1&TxtMódulo=30011", "cmdFunción"]])
+        await comprueba("responsive", lugar, () => corre(lugar, boton));
+    await comprueba("responsive", "naive division", async () => {
+        igual(await pide("sigue", "primos/factorizacion?OptAlgoritmo_0=1&TxtN=100000007"), "");
+        const antes = await prueba.navegador.evalua("performance.now()");
+        igual(await pide("pulsa", "BtnFactoriza"), true);
+        const segundos = (await prueba.navegador.evalua(`new Promise((listo) => {
+            const mira = () => !numora.enMarcha() && /primo/.test(numora.lee("lblResultado")) ? listo(performance.now()) : setTimeout(mira, 5);
+            mira();
+        })`) - antes) / 1000;
+        prueba.dice(`trial division of 100000007 by all odd numbers: ${segundos.toFixed(2)} s`);
+    });
 };
