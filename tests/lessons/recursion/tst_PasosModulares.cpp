@@ -44,7 +44,7 @@ void tst_PasosModulares::sucesiones()
         const DefinicionRecurrente d =
             definicion(coeficiente(), coeficiente(), coeficiente(), coeficiente());
         const auto resto = [m](const mpz_class &v) { return mpz_class((v % m + m) % m); };
-        valores = {resto(d.f1.entero()), resto(d.f2.entero())};
+        valores = {resto(static_cast<int>(d.f1.entero())), resto(static_cast<int>(d.f2.entero()))};
         while (valores.size() < SucesionModular::NumValores) {
             const auto &uno = valores.last();
             const auto &dos = valores.at(valores.size() - 2);
