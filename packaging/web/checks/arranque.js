@@ -10,10 +10,12 @@ module.exports = async (prueba) => {
     /// The quickest of five visits, in ms, the two pages in turn.
     async function masRapidas(direcciones) {
         const tiempos = direcciones.map(() => Infinity);
+        const delante = setInterval(() => prueba.navegador.adelanta(), 200);
         for (let vez = 0; vez < 5; ++vez) {
             for (const [i, una] of direcciones.entries())
                 tiempos[i] = Math.min(tiempos[i], await prueba.navegador.visita(una));
         }
+        clearInterval(delante);
         return tiempos;
     }
 

@@ -157,6 +157,23 @@ class Navegador {
         return otra;
     }
 
+    /// Lets this browser go before whatever else the machine does, where that is allowed: for what is measured in time.
+    adelanta() {
+        const padres = new Map();
+        for (const pid of fs.readdirSync("/proc").filter((uno) => /^[0-9]+$/.test(uno))) {
+            try {
+                padres.set(Number(pid), Number(/\) . ([0-9]+)/.exec(fs.readFileSync(`/proc/${pid}/stat`, "utf8"))[1]));
+            } catch { /* it has ended */ }
+        }
+        const esMio = (pid) => pid === this.proceso.pid || (padres.has(pid) && esMio(padres.get(pid)));
+        for (const pid of [...padres.keys()].filter(esMio)) {
+            try {
+                for (const hilo of fs.readdirSync(`/proc/${pid}/task`))
+                    os.setPriority(Number(hilo), -15);
+            } catch { /* it has ended, or it is not allowed */ }
+        }
+    }
+
     /// Without a word of warning to the page.
     mata() {
         this.enchufe.close();
