@@ -10,7 +10,7 @@ empaquetada=${2:-build/windows/Numora}
 WINEPREFIX=$(mktemp -d)/cuenta
 export WINEPREFIX
 servidor=$(command -v wineserver64 || ls /usr/lib/wine/wineserver64 /usr/lib/wine/wineserver 2>/dev/null | head -n 1)
-trap '"$servidor" -k; rm -rf "$(dirname "$WINEPREFIX")"' EXIT
+trap '"$servidor" -k || true; rm -rf "$(dirname "$WINEPREFIX")"' EXIT
 espera() { "$servidor" -w; }
 
 packaging/windows/wine.sh cmd /c exit

@@ -17,9 +17,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 #if defined(Q_OS_WIN)
-const QString SinFin = u"NUL"_s;
+const QString SinFin = u"C:\\"_s; // a folder: the file without end is there none at all
+constexpr auto DeNombres = Qt::CaseInsensitive;
 #else
 const QString SinFin = u"/dev/zero"_s;
+constexpr auto DeNombres = Qt::CaseSensitive;
 #endif
 
 } // namespace
@@ -115,10 +117,12 @@ private Q_SLOTS:
         QDir(m_carpeta.path()).mkpath(u"Doc/Más"_s);
         escribeArchivo(m_carpeta.filePath(u"Doc/Más/Clave.RSA"_s), "x");
         const QString esperada = m_carpeta.path() + u"/Doc/Más/Clave.RSA"_s;
-        QCOMPARE(rutaExistente(m_carpeta.path() + u"\\DOC\\más\\clave.rsa"_s), esperada);
         QCOMPARE(rutaExistente(esperada), esperada);
-        QCOMPARE(rutaExistente(m_carpeta.path() + u"\\doc\\Nuevo.txt"_s),
-                 m_carpeta.path() + u"/Doc/Nuevo.txt"_s);
+        for (const auto &[dada, hallada] :
+             {std::pair{u"\\DOC\\más\\clave.rsa"_s, u"/Doc/Más/Clave.RSA"_s},
+              {u"\\doc\\Nuevo.txt"_s, u"/Doc/Nuevo.txt"_s}})
+            QVERIFY(rutaExistente(m_carpeta.path() + dada)
+                        .compare(m_carpeta.path() + hallada, DeNombres) == 0);
         for (const QString &malo :
              {QString(), u"."_s, u".."_s, u"a/b"_s, u"a\\b"_s, u"C:x"_s, QString(QChar(u'\0'))})
             QVERIFY2(!esNombreSimple(malo), qPrintable(malo));

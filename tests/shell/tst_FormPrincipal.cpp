@@ -262,7 +262,11 @@ private Q_SLOTS:
 
     void alAcabarLaSesionNoPregunta()
     {
-        for (const int senal : {SIGTERM, SIGHUP, 0}) { // 0: the word of the desktop
+        QList<int> senales{0}; // the word of the desktop
+#if !defined(Q_OS_WIN)         // which has no others for a program with windows
+        senales << SIGTERM << SIGHUP;
+#endif
+        for (const int senal : senales) {
             init();
             const FinDeSesion fin(m_principal.get());
             QLineEdit *campo = abreCampo(1);
@@ -311,7 +315,10 @@ private:
     {
         return m_menu->visualRect(m_menu->model()->index(fila, 0)).center();
     }
-    void mueveA(int fila) const { QTest::mouseMove(m_menu->viewport(), centroDe(fila)); }
+    void mueveA(int fila) const
+    {
+        QTest::mouseMove(m_menu->viewport(), centroDe(fila));
+    }
     void pulsa(int fila) const
     {
         QTest::mouseClick(m_menu->viewport(), Qt::LeftButton, {}, centroDe(fila));
