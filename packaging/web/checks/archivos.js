@@ -49,8 +49,7 @@ module.exports = async (prueba) => {
         await hasta(() => pide("eligeEnLaCaja", "estudiante/RSA1.msg"), "the list");
         const bajado = await prueba.navegador.baja(() => pide("contesta", "Aceptar"));
         igual(bajado.nombre, "estudiante-RSA1.msg");
-        await pide("ordena", "&Traer al buzón un mensaje o una clave…");
-        await prueba.navegador.sube(bajado.archivo, () => undefined);
+        await prueba.navegador.sube(bajado.archivo, () => pide("ordena", "&Traer al buzón un mensaje o una clave…"));
         await hasta(async () => /estudiante\/RSA2\.msg/.test(await pide("contesta", "Aceptar")), "where it has gone");
         igual(await hay(`${buzon}/estudiante/RSA2.msg`), true);
         igual(await pide("pulsa", "revisar"), true);
@@ -60,8 +59,7 @@ module.exports = async (prueba) => {
     await comprueba("mailbox", "a private key is refused, and is there after a reload", async () => {
         const archivo = path.join(os.tmpdir(), `numora-web-${process.pid}.RSA`);
         fs.writeFileSync(archivo, "[RSA]\r\nq=67591\r\ns=5\r\nq(1)=257\r\n");
-        await pide("ordena", "&Traer al buzón un mensaje o una clave…");
-        await prueba.navegador.sube(archivo, () => undefined);
+        await prueba.navegador.sube(archivo, () => pide("ordena", "&Traer al buzón un mensaje o una clave…"));
         await hasta(async () => /de quién es/.test(await pide("contesta", "")), "the question");
         await pide("escribeEnLaCaja", "ana");
         await pide("contesta", "Aceptar");

@@ -27,6 +27,7 @@ module.exports = async (prueba) => {
     await prueba.abre(390, 844);
     await prueba.navegador.manda("Emulation.setTouchEmulationEnabled", { enabled: true, maxTouchPoints: 2 });
     await prueba.navegador.visita(direccion);
+    prueba.navegador.adelanta();
     await comprueba("narrow", "390 × 844: the lesson has the page's width", async () => {
         await prueba.retrata("narrow-welcome");
         igual(await pide("sigue", "primos/factorizacion"), "");
@@ -37,7 +38,7 @@ module.exports = async (prueba) => {
     });
     await comprueba("touch", "scrolls a page", async () => {
         igual(await pide("abreTema", "intro"), true);
-        await prueba.espera(500);
+        await prueba.espera(1500);
         await arrastra(200, 600, 300);
         const lejos = await pide("desplazado");
         return lejos > 150 ? "" : `scrolled by ${lejos} pixels only`;
