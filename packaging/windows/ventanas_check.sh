@@ -65,6 +65,15 @@ wine cmd /c exit
 cp "$lugar/testigo.exe" "$WINEPREFIX/drive_c/windows/system32/calc.exe"
 usuario=$WINEPREFIX/drive_c/users/$(id -un)
 
+# espera_ventana TITLE: until a window of that title is there, a minute at most. Not by xdotool's own waiting, which
+# ends where another window goes meanwhile.
+espera_ventana() {
+    local hasta=$((SECONDS + 60))
+    until xdotool search --onlyvisible --name "^$1" >/dev/null 2>&1; do
+        [ $SECONDS -lt $hasta ] || { echo "no window: $1" >&2; return 1; }
+        sleep 0.02
+    done
+}
 # arranca PROGRAM TITLE [WORD…]: starts it and waits for its window; milliseconds into the variable `tardo`.
 arranca() {
     local programa=$1 titulo=$2 antes
@@ -72,22 +81,31 @@ arranca() {
     antes=$(date +%s%N)
     wine "$carpeta/$programa" "$@" >/dev/null 2>>"$lugar/errores" &
     programa_en_marcha=$!
-    timeout 60 xdotool search --sync --onlyvisible --name "^$titulo\$" >/dev/null
+    espera_ventana "$titulo"
     tardo=$((($(date +%s%N) - antes) / 1000000))
 }
 # acaba: closes the window in front as its frame does; the program's own end is the result.
 acaba() {
     xdotool key --clearmodifiers alt+F4
+    for _ in {1..200}; do
+        kill -0 "$programa_en_marcha" 2>/dev/null || break
+        sleep 0.1
+    done
+    kill "$programa_en_marcha" 2>/dev/null && echo "it does not end" >&2
     wait "$programa_en_marcha"
 }
 teclea() { xdotool key --clearmodifiers "$@"; sleep 1; }
 escribe() { xdotool type --delay 40 "$1"; sleep 1; }
 foto() { import -window root "$fotos/$1.png"; }
+# From what is shown first to the window itself.
+a_la_principal() {
+    teclea Escape
+    espera_ventana 'Matemática Discreta'
+    sleep 2
+}
 abre_principal() {
     arranca numora.exe 'Acerca de Numora' "$@"
-    teclea Escape
-    timeout 30 xdotool search --sync --onlyvisible --name '^Matemática Discreta' >/dev/null
-    sleep 2
+    a_la_principal
 }
 
 # How long it takes, against a program of the same libraries that shows nothing; the first start of each is not counted.
@@ -97,7 +115,7 @@ mide() {
     for i in 0 1 2 3 4 5; do
         arranca "$1" "$2"
         [ "$i" -eq 0 ] || echo "$tardo"
-        teclea Escape # what is shown first, where it is not the window itself
+        [ "$1" = vacio.exe ] || a_la_principal
         acaba || true
         "$servidor" -w
     done
