@@ -74,8 +74,9 @@ haz_qtbase() {
         -DWARNINGS_ARE_ERRORS=OFF -DINPUT_opengl=no -DFEATURE_system_sqlite=ON "${apagado[@]/%/=OFF}"
 }
 
-# What g++ links to whatever it makes.
+# What g++ links to whatever it makes, and Qt's words in Spanish, which are the same everywhere.
 haz_corredor() {
+    install -D -m 644 /usr/share/qt6/translations/qtbase_es.qm "$LIBS_WINDOWS/translations/qtbase_es.qm"
     local biblioteca
     for biblioteca in libgcc_s_seh-1.dll libstdc++-6.dll libwinpthread-1.dll; do
         cp "$($TRIPLETE-g++-posix -print-file-name=$biblioteca)" "$LIBS_WINDOWS/bin"

@@ -34,7 +34,7 @@ haz_carpeta() {
     done
     copia_dll "$carpeta"
     $TRIPLETE-strip --strip-unneeded "$carpeta"/*.dll "$carpeta"/numora.exe
-    cp /usr/share/qt6/translations/qtbase_es.qm "$carpeta/translations"
+    cp "$LIBS_WINDOWS/translations/qtbase_es.qm" "$carpeta/translations"
     # The frames of windows are dark where the desktop's are.
     printf '%s\n' '[Paths]' 'Prefix=.' 'Plugins=plugins' 'Translations=translations' \
         '[Platforms]' 'WindowsArguments=darkmode=1' >"$carpeta/qt.conf"

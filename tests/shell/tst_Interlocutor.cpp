@@ -75,11 +75,16 @@ private Q_SLOTS:
     {
         const QString carpeta = Entorno::carpetaDeTrabajo();
         const QUrl pagina = QUrl::fromLocalFile(carpeta + u"/Doc/Primos.html"_s);
+#if defined(Q_OS_WIN) // where letter case makes no other name
+        const QUrl comoSea = QUrl::fromLocalFile(carpeta + u"/DOC/primos.HTML"_s);
+#else
+        const QUrl comoSea = pagina;
+#endif
         const QString web = u"https://example.org/a?b=c#d"_s;
         const QList<std::pair<QString, QUrl>> filas{
             {web, QUrl(web)},
             {carpeta + u"\\Doc\\Primos.html"_s, pagina},
-            {carpeta + u"\\DOC\\primos.HTML"_s, pagina},
+            {carpeta + u"\\DOC\\primos.HTML"_s, comoSea},
             {u".\\Doc\\Primos.html"_s, pagina}, // from the current folder
             {u"/nada\\100 %#1.html"_s, QUrl::fromLocalFile(u"/nada/100 %#1.html"_s)}};
         for (const auto &[direccion, abierta] : filas) {

@@ -84,7 +84,7 @@ private Q_SLOTS:
         m_pagina->navega(u"Doc\\Nada.html"_s);
         QVERIFY(
             m_pagina->toPlainText().startsWith(u"No se encuentra la página de introducción."_s));
-        QVERIFY(m_pagina->toPlainText().endsWith(u"/Doc/Nada.html"_s));
+        QVERIFY(QDir::fromNativeSeparators(m_pagina->toPlainText()).endsWith(u"/Doc/Nada.html"_s));
     }
 
     void lasLineasTienenUnos75Caracteres()
