@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds and runs every test: formatting, a short run of the fuzz targets, all tests
-# under AddressSanitizer and UBSan, what has threads under ThreadSanitizer, and the program as it is given away,
-# with warnings as errors, and with it the tests that are not of windows, which try ten times as many inputs then.
+# Installs what is missing, builds and runs every test: formatting, all of the tree by clang under AddressSanitizer
+# and UBSan with a short run of the fuzz targets, what has threads under ThreadSanitizer, and the program as it is
+# given away, by g++, and with it the tests that are not of windows, which try ten times as many inputs then. Warnings
+# are errors of both compilers.
 set -euo pipefail
 cd "$(dirname "$0")"
 source scripts/paquetes.sh
@@ -9,10 +10,9 @@ instala_paquetes test fuzz
 
 scripts/formato.sh --check
 
-scripts/fuzz.sh "${NUMORA_FUZZ_SECONDS:-5}"
-
 cmake --preset asan
 cmake --build --preset asan
+scripts/fuzz.sh "${NUMORA_FUZZ_SECONDS:-5}"
 ctest --preset asan --parallel "$(nproc)"
 
 cmake --preset tsan

@@ -88,12 +88,12 @@ BIGNUM_API int32_t PrimesBetween(int64_t first, int64_t last, BignumPrimeBlock b
 
 /* The prime factors of |n| in ascending order and their exponents, into two arrays of `count`
  * buffers each; the entries after the last factor become empty texts. 0 and 1 have no factors.
- * Returns 1 when every entry is prime. Returns 0 when a composite could not be split, which then
- * stands last, and on failure: n is no number, it has more than `count` different factors, a
- * pointer is null; all entries are then empty.
- * The effort is bounded by 100 seconds: on two cores of a present machine a composite of up to 80
- * digits is split, whatever its factors; larger ones yield factors of up to 25 or 30 digits. What
- * is out of reach comes back unsplit within about two minutes. */
+ * Returns 1 when every entry is prime. Returns 0 when composites could not be split, one as a rule,
+ * which then stand last, and on failure: n is no number, it has more than `count` different
+ * factors, a pointer is null; all entries are then empty. The effort is bounded by 100 seconds: on
+ * two cores of a present machine a composite of up to 80 digits is split, whatever its factors;
+ * larger ones yield factors of up to 25 or 30 digits. What is out of reach comes back unsplit
+ * within about two minutes. */
 BIGNUM_API int32_t Factors(const char *n, char *const *primes, char *const *exponents,
                            int32_t count);
 
@@ -260,7 +260,7 @@ typedef struct BignumFunction
 BIGNUM_API int32_t EvalFunction(int32_t index, BignumFunction *out);
 
 /* Compares two rationals: 2 when b > a, 1 when a > b, 0 when they are equal, -1 when one of them is
- * no number. The empty text counts as 0 here. */
+ * no number. The empty text and blanks alone count as 0 here. */
 BIGNUM_API int32_t BMax(const char *a, const char *b);
 
 /* -1 when every byte of `s` is a character of Windows-1252 (0x81, 0x8D, 0x8F, 0x90 and 0x9D are

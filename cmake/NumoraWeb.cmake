@@ -23,11 +23,16 @@ function(numora_web_program NAME)
     target_link_options(${NAME} PRIVATE -fwasm-exceptions "SHELL:-s TOTAL_STACK=4MB" -lidbfs.js)
 endfunction()
 
-# numora_web_folder(NAME): gives it the working folder in a file beside it. Of the animations it has the one by which
-# the folder is known: none can be played.
+# numora_web_folder(NAME): gives it the working folder in a file beside it, with Qt's own Spanish texts. Of the animations
+# it has the one by which the folder is known: none can be played.
 function(numora_web_folder NAME)
     set(folder "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+    # Looked for beside the program, which is said to lie at the root.
+    file(WRITE "${folder}/qt.conf" "[Paths]\nPrefix=/numora\nTranslations=translations\n")
+    find_file(NUMORA_QT_SPANISH qtbase_es.qm PATHS /usr/share/qt6/translations REQUIRED NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
     target_link_options(${NAME} PRIVATE
+        "SHELL:--preload-file ${folder}/qt.conf@/qt.conf"
+        "SHELL:--preload-file ${NUMORA_QT_SPANISH}@/numora/translations/qtbase_es.qm"
         "SHELL:--preload-file ${folder}/Doc@/numora/Doc"
         "SHELL:--preload-file ${folder}/Numora.txt@/numora/Numora.txt"
         "SHELL:--preload-file ${folder}/ClipArt/escudo.avi@/numora/ClipArt/escudo.avi")
@@ -39,7 +44,7 @@ function(numora_web_worker NAME)
     add_executable(${NAME} ${ARGN})
     target_link_libraries(${NAME} PRIVATE numora_qt_options modbignum)
     target_link_options(${NAME} PRIVATE -fwasm-exceptions
-        "SHELL:-s EXPORT_NAME=createNumoraApart"
+        "SHELL:-s MODULARIZE=1"
         "SHELL:-s EXPORTED_RUNTIME_METHODS=ccall"
         "SHELL:-s INVOKE_RUN=0"
         "SHELL:-s ENVIRONMENT=worker"

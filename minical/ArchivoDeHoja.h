@@ -8,7 +8,8 @@
 
 // The file of a sheet: lines of UTF-8 text, fields between tabs. docs/sheet.md describes it.
 
-/// The largest file that is written and read, in bytes: 2475 cells of 24 575 digits fit.
+/// The largest file that is written and read, in bytes: 2475 results of 24 575 digits fit beside
+/// short expressions, but not beside as many numbers that were typed whole.
 inline constexpr qint64 TamanoMaximoDeHoja = 64LL * 1024 * 1024;
 
 /// The widest column that a file may ask for, in characters.

@@ -19,7 +19,7 @@ QByteArray csvDeHoja(const HojaDeCalculo &hoja, QChar signo);
 
 /// A sheet as lines for a printer, of at most `ancho` characters (20 or more) each: cell by cell,
 /// row by row, the name with its expression, and below it the whole result, however many lines it
-/// takes.
+/// takes, unless it reads as the expression does. Blank expressions are left out.
 QStringList lineasDeHoja(const HojaDeCalculo &hoja, int ancho);
 
 /// The expressions or the results of cells that are given row by row: one cell as it is, several as

@@ -10,8 +10,8 @@ shift
 source scripts/paquetes.sh
 instala_paquetes fuzz
 
-cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz --target fuzz_targets
+cmake --preset asan >/dev/null
+cmake --build --preset asan --target fuzz_targets
 
 objetivos=("$@")
 if [ ${#objetivos[@]} -eq 0 ]; then
@@ -30,7 +30,7 @@ for objetivo in "${objetivos[@]}"; do
     mkdir -p "$corpus"
     cp -n tests/fuzz/corpus/"$objetivo"/* "$corpus"
     veredicto=ok
-    programa=(build/fuzz/tests/fuzz_"$objetivo" -timeout=30 -rss_limit_mb=2048
+    programa=(build/asan/tests/fuzz_"$objetivo" -timeout=30 -rss_limit_mb=2048
         -artifact_prefix="$hallazgos/$objetivo-")
     ASAN_OPTIONS=detect_leaks=0 "${programa[@]}" -max_total_time="$segundos" -max_len=600 \
         -print_final_stats=1 "$corpus" >"$informe" 2>&1 || veredicto=FINDING

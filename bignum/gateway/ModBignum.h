@@ -58,8 +58,8 @@ QString Evalua(QString &&expresion, const std::optional<QString> &maximo = {},
 
 /// The value of an expression as a fixed-point number; 0 for a refused or invalid one and for one
 /// whose result does not begin with a digit or a signed digit followed by a digit or nothing (so a
-/// fraction below ten, such as 1/2, counts as 0). Throws what Evalua throws, and Desbordamiento for
-/// a value below the range.
+/// fraction with a single digit, and no sign, above the line counts as 0: 1/2, but not 19/2).
+/// Throws what Evalua throws, and Desbordamiento for a value below the range.
 Moneda EvaluaMoneda(QString expresion, Moneda maximo);
 
 /// The decimal form of a rational result, with a decimal comma and a digit in front of it. "Error"

@@ -62,8 +62,8 @@ Moneda Moneda::deReal(double valor)
     // even in the default rounding mode, and the scale is even, so the sum is rounded so too.
     const double entero = std::trunc(valor);
     const double decimales = std::nearbyint((valor - entero) * Escala);
-    return comprobada(Entero128(static_cast<std::int64_t>(entero)) * Escala +
-                      static_cast<std::int64_t>(decimales));
+    const Moneda conEntero = deEntero(static_cast<std::int64_t>(entero));
+    return conEntero + Moneda(static_cast<std::int64_t>(decimales));
 }
 
 std::optional<Moneda> Moneda::deTexto(QStringView texto)
@@ -136,7 +136,11 @@ Moneda Moneda::operator-() const
 
 Moneda operator+(Moneda a, Moneda b)
 {
-    return comprobada(Entero128(a.m_valor) + b.m_valor);
+    // Not by 128 bits, which WebAssembly has to put together: trial division adds at each step.
+    std::int64_t suma = 0;
+    if (__builtin_add_overflow(a.m_valor, b.m_valor, &suma))
+        desborda();
+    return Moneda(suma);
 }
 
 Moneda operator-(Moneda a, Moneda b)

@@ -73,7 +73,8 @@ Moneda cociente(Moneda a, Moneda b);
 /// ⌊a / b⌋ in double precision. Throws DivisionPorCero.
 double cocienteEntero(Moneda a, Moneda b);
 
-/// The remainder of a by b: r = a - ⌊a ÷ b⌋·b in double precision, plus b when r is negative; in
-/// [0, b) for positive b. Exact while both are whole numbers within Moneda::MaximoEntero, because
-/// those and their quotients stay below 2^53. Throws DivisionPorCero.
+/// The remainder of a by b: r = a - ⌊a ÷ b⌋·b in double precision, plus b when r is negative.
+/// Exact, and in [0, b) for positive b, while both are whole numbers within Moneda::MaximoEntero,
+/// because those and their quotients stay below 2^53; with decimals it may miss both by the last
+/// of them. Throws DivisionPorCero.
 Moneda ModCy(Moneda a, Moneda b);

@@ -60,7 +60,8 @@ int ModeloCongruencias::columnCount(const QModelIndex &padre) const
 bool ModeloCongruencias::tieneDefecto(const QModelIndex &indice) const
 {
     const Congruencia &fila = m_sistema[indice.row()];
-    return fila.cuenta() && !(indice.column() == Resto ? fila.restoValido() : fila.moduloValido());
+    return fila.cuenta() &&
+           !(indice.column() == ColumnaDeRestos ? fila.restoValido() : fila.moduloValido());
 }
 
 QVariant ModeloCongruencias::data(const QModelIndex &indice, int rol) const
@@ -68,7 +69,7 @@ QVariant ModeloCongruencias::data(const QModelIndex &indice, int rol) const
     if (!indice.isValid())
         return {};
     const Congruencia &fila = m_sistema[indice.row()];
-    const QString &texto = indice.column() == Resto ? fila.resto : fila.modulo;
+    const QString &texto = indice.column() == ColumnaDeRestos ? fila.resto : fila.modulo;
     switch (rol) {
     case Qt::DisplayRole:
         return formatoEntero(texto.trimmed());
@@ -105,7 +106,7 @@ bool ModeloCongruencias::setData(const QModelIndex &indice, const QVariant &valo
     if (rol != Qt::EditRole || !indice.isValid())
         return false;
     Congruencia &fila = m_sistema[indice.row()];
-    QString &celda = indice.column() == Resto ? fila.resto : fila.modulo;
+    QString &celda = indice.column() == ColumnaDeRestos ? fila.resto : fila.modulo;
     const QString texto = sinSeparadores(valor.toString().left(LongitudMaxima));
     if (texto == celda)
         return true;

@@ -11,7 +11,7 @@ class ModeloCongruencias : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Columna { Resto, Modulo, NumColumnas };
+    enum Columna { ColumnaDeRestos, ColumnaDeModulos, NumColumnas };
 
     /// True for a cell that spoils its row.
     static constexpr int RolDefecto = Qt::UserRole;

@@ -51,18 +51,19 @@ FuncionEuler::FuncionEuler(const QString &n) : m_n(n)
     QStringList primos(cuantos), exponentes(cuantos);
     const bool completa = Factoriza(n, primos, exponentes) != 0;
     QStringList valores;
+    QStringList compuestos;
     for (qsizetype i = 0; i < cuantos && !primos[i].isEmpty(); ++i) {
-        const bool ultimo = i + 1 == cuantos || primos[i + 1].isEmpty();
         Factor factor{primos[i], exponentes[i], {}};
-        if (!completa && ultimo) {
-            m_compuesto = factor.potencia();
-            return;
+        if (!completa && !EsPrimo(primos[i])) {
+            compuestos << factor.potencia();
+            continue;
         }
         // Of a prime power the service finds it at once.
         factor.fi = FiEuler(producto(QStringList{primos[i] + u'^' + exponentes[i]}));
         valores << factor.fi;
         m_factores << factor;
     }
+    m_compuesto = compuestos.join(Por);
     if (completa)
         m_valor = producto(valores);
 }

@@ -30,7 +30,7 @@ public:
     /// The prime powers that were found, primes ascending.
     const QList<Factor> &factores() const { return m_factores; }
 
-    /// The composite factor that could not be split; empty where there is none.
+    /// What could not be split, a composite or a product of several; empty where there is none.
     const QString &compuesto() const { return m_compuesto; }
 
     /// n as a product of prime powers.

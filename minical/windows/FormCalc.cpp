@@ -19,6 +19,8 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QShowEvent>
@@ -47,14 +49,16 @@ FormCalc::~FormCalc()
 void FormCalc::showEvent(QShowEvent *suceso)
 {
     FormLeccion::showEvent(suceso);
-    if (suceso->spontaneous())
+    // A maximized window is shown once more when it makes room for another one.
+    if (suceso->spontaneous() || std::exchange(m_copiaOfrecida, true))
         return;
-    // The keys go to the sheet as soon as the window is open; while it opens, its frame takes the
-    // focus for itself.
+    // The keys go to the sheet as soon as the window is open, unless another one has come in front
+    // by then; while it opens, its frame takes the focus for itself.
     QTimer::singleShot(0, m_rejilla, [this] {
-        m_rejilla->setFocus();
-        if (!std::exchange(m_copiaOfrecida, true))
-            m_tareas.lanza(m_documento->ofreceCopia());
+        const auto *marco = qobject_cast<QMdiSubWindow *>(parentWidget());
+        if (!marco || marco->mdiArea()->currentSubWindow() == marco)
+            m_rejilla->setFocus();
+        m_tareas.lanza(m_documento->ofreceCopia());
     });
 }
 

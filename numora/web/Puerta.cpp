@@ -4,6 +4,8 @@
 #include "shell/start/FormPrincipal.h"
 #include "shell/start/Main.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QUrl>
 #include <emscripten/bind.h>
 
@@ -41,8 +43,11 @@ void llega(const std::string &lugar)
 /// The page may be gone at any moment from now on.
 void guardaLoPendiente()
 {
-    if (principalDeLaPuerta())
-        principalDeLaPuerta()->guardaLoPendiente();
+    if (!principalDeLaPuerta())
+        return;
+    principalDeLaPuerta()->guardaLoPendiente();
+    // Settings are written when the event loop comes to it, which it may not any more.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
 }
 
 } // namespace

@@ -11,9 +11,18 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBrowser>
 #include <QUrl>
 #include <emscripten/bind.h>
 
@@ -103,6 +112,156 @@ std::string titulo()
     return leccion ? leccion->windowTitle().toStdString() : std::string();
 }
 
+/// Titles and commands of the menus, one a line.
+std::string menus()
+{
+    QStringList textos;
+    for (const QMenu *menu : principalDeLaPuerta()->menuBar()->findChildren<QMenu *>()) {
+        textos << menu->title();
+        for (const QAction *accion : menu->actions())
+            textos << accion->text();
+    }
+    for (const QAction *accion : principalDeLaPuerta()->menuBar()->actions())
+        textos << accion->text();
+    return textos.join(u'\n').toStdString();
+}
+
+/// Chooses a command of the menu bar by its text.
+bool ordena(const std::string &texto)
+{
+    for (const QAction *menu : principalDeLaPuerta()->menuBar()->actions()) {
+        for (QAction *accion : menu->menu()->actions()) {
+            if (accion->text() == QString::fromStdString(texto) && accion->isEnabled()) {
+                accion->trigger();
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// Presses a button of the box that is open, by its text; with none, gives the box's text.
+std::string contesta(const std::string &boton)
+{
+    for (QWidget *caja : QApplication::topLevelWidgets()) {
+        auto *dialogo = qobject_cast<QDialog *>(caja);
+        if (!dialogo || !dialogo->isVisible())
+            continue;
+        QStringList textos;
+        for (const QLabel *rotulo : dialogo->findChildren<QLabel *>())
+            textos << rotulo->text();
+        for (QAbstractButton *uno : dialogo->findChildren<QAbstractButton *>()) {
+            if (!boton.empty() && uno->text().remove(u'&') == QString::fromStdString(boton))
+                uno->click();
+        }
+        return textos.join(u'\n').toStdString();
+    }
+    return {};
+}
+
+/// Writes a line into the box that is open.
+void escribeEnLaCaja(const std::string &texto)
+{
+    for (QWidget *caja : QApplication::topLevelWidgets()) {
+        auto *linea = caja->isVisible() && qobject_cast<QDialog *>(caja)
+                          ? caja->findChild<QLineEdit *>()
+                          : nullptr;
+        if (linea)
+            linea->setText(QString::fromStdString(texto));
+    }
+}
+
+/// Chooses one of what the box that is open offers.
+bool eligeEnLaCaja(const std::string &texto)
+{
+    for (QWidget *caja : QApplication::topLevelWidgets()) {
+        auto *lista = caja->isVisible() && qobject_cast<QDialog *>(caja)
+                          ? caja->findChild<QComboBox *>()
+                          : nullptr;
+        if (lista) {
+            lista->setCurrentText(QString::fromStdString(texto));
+            return lista->currentText() == QString::fromStdString(texto);
+        }
+    }
+    return false;
+}
+
+/// Writes into a field and leaves it by Enter.
+bool entra(const std::string &nombre, const std::string &texto)
+{
+    QWidget *campo = control(QString::fromStdString(nombre));
+    if (!campo)
+        return false;
+    if (auto *lista = qobject_cast<QComboBox *>(campo))
+        campo = lista->lineEdit();
+    campo->setFocus();
+    principalDeLaPuerta()->leccionActiva()->rellenaCampo(QString::fromStdString(nombre),
+                                                         QString::fromStdString(texto));
+    for (const auto tipo : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent intro(tipo, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(campo, &intro);
+    }
+    return true;
+}
+
+bool escribe(const std::string &nombre, const std::string &texto)
+{
+    QWidget *donde = control(QString::fromStdString(nombre));
+    return donde && principalDeLaPuerta()->leccionActiva()->rellenaCampo(
+                        QString::fromStdString(nombre), QString::fromStdString(texto));
+}
+
+std::string practica(const std::string &clave)
+{
+    return principalDeLaPuerta()->practica(QString::fromStdString(clave), 1).toStdString();
+}
+
+/// Whether a run is going on in the lesson in front.
+bool enMarcha()
+{
+    for (const auto *corrida :
+         principalDeLaPuerta()->leccionActiva()->findChildren<BotonDeCorrida *>()) {
+        if (corrida->enMarcha())
+            return true;
+    }
+    return false;
+}
+
+void cierraLeccion()
+{
+    principalDeLaPuerta()->leccionActiva()->cierraSinPreguntar();
+}
+
+/// How far the page of the lesson in front is scrolled, in pixels.
+int desplazado()
+{
+    const auto *pagina = principalDeLaPuerta()->leccionActiva()->findChild<QTextBrowser *>();
+    return pagina ? pagina->verticalScrollBar()->value() : -1;
+}
+
+/// "x y" of the middle of a control, in the page.
+std::string lugarDe(const std::string &nombre)
+{
+    const QWidget *uno = control(QString::fromStdString(nombre));
+    const QPoint medio = uno ? uno->mapToGlobal(uno->rect().center()) : QPoint(-1, -1);
+    return (QString::number(medio.x()) + u' ' + QString::number(medio.y())).toStdString();
+}
+
+bool hayMenu()
+{
+    return QApplication::activePopupWidget() != nullptr;
+}
+
+bool oscuro()
+{
+    return QApplication::palette().window().color().lightness() < 128;
+}
+
+double puntos()
+{
+    return QApplication::font().pointSizeF();
+}
+
 void deten()
 {
     principalDeLaPuerta()->leccionActiva()->detenCorrida();
@@ -125,4 +284,19 @@ EMSCRIPTEN_BINDINGS(numora_checks)
     emscripten::function("titulo", &titulo);
     emscripten::function("deten", &deten);
     emscripten::function("lista", &lista);
+    emscripten::function("menus", &menus);
+    emscripten::function("ordena", &ordena);
+    emscripten::function("contesta", &contesta);
+    emscripten::function("escribeEnLaCaja", &escribeEnLaCaja);
+    emscripten::function("escribe", &escribe);
+    emscripten::function("eligeEnLaCaja", &eligeEnLaCaja);
+    emscripten::function("entra", &entra);
+    emscripten::function("practica", &practica);
+    emscripten::function("enMarcha", &enMarcha);
+    emscripten::function("cierraLeccion", &cierraLeccion);
+    emscripten::function("desplazado", &desplazado);
+    emscripten::function("lugarDe", &lugarDe);
+    emscripten::function("hayMenu", &hayMenu);
+    emscripten::function("oscuro", &oscuro);
+    emscripten::function("puntos", &puntos);
 }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/start/Main.h"
 #include "numora/Lecciones.h"
+#include "numora/web/Dedos.h"
+#include "numora/web/Estrechez.h"
+#include "numora/web/MenuDeDatos.h"
 #include "numora/web/Puerta.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/page/DireccionDeArranque.h"
@@ -8,6 +11,7 @@
 
 #include <QApplication>
 #include <emscripten/val.h>
+#include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,6 +33,26 @@ std::optional<bool> colores(const DireccionDeArranque &direccion)
     return oscuros["matches"].as<bool>();
 }
 
+/// The folder of the program, which the page fills anew each time: what is to be found again
+/// goes to the folder of data. The mailbox is where the browser keeps one.
+void preparaCarpetas()
+{
+    constexpr auto carpeta = "/numora";
+    ::chmod(carpeta, 0555);
+    ponSesión(std::make_unique<clsSesión>(QString::fromLatin1(carpeta)));
+    if (Sesión().lee(u"RSA"_s, u"DirMensajes"_s).isEmpty())
+        Sesión().guarda(u"RSA"_s, u"DirMensajes"_s, InterlocutorWeb::carpetaDelBuzon());
+}
+
+/// Of the size that desktops have.
+void preparaLetra()
+{
+    constexpr qreal puntos = 10;
+    QFont letra = QApplication::font();
+    letra.setPointSizeF(puntos);
+    QApplication::setFont(letra);
+}
+
 } // namespace
 
 /// The program in a browser. The event loop never returns, and what leaves this function would be
@@ -39,11 +63,16 @@ int main(int argc, char *argv[])
     static int cuenta = argc;
     new QApplication(cuenta, argv);
     ponInterlocutor(std::make_unique<InterlocutorWeb>());
-    Sesión().ponCarpeta(u"/numora"_s);
+    preparaCarpetas();
+    preparaLetra();
+    new Dedos(qApp);
     const DireccionDeArranque direccion = leeDireccionDeArranque(direccionDeLaPagina());
     const QString linea = direccion.idioma.isEmpty() ? QString() : u"-i:"_s + direccion.idioma;
-    abrePuerta(new Programa(
+    auto *programa = new Programa(
         linea, contenidoDelPrograma(),
-        {.presentacion = false, .oscuro = colores(direccion), .enlace = direccion.enlace}));
+        {.presentacion = false, .oscuro = colores(direccion), .enlace = direccion.enlace});
+    abrePuerta(programa);
+    new Estrechez(programa->principal());
+    new MenuDeDatos(programa->principal());
     return QApplication::exec();
 }

@@ -37,7 +37,7 @@ QString Traduce(const QString &texto)
     if (clave.isEmpty() || Idioma().isEmpty())
         return texto;
     const QString hallado = entradaDeNumora(Idioma(), clave);
-    if (hallado.isEmpty())
+    if (hallado.isNull())
         return texto;
     const qsizetype inicio = texto.indexOf(clave);
     return texto.left(inicio) + hallado + texto.sliced(inicio + clave.size());

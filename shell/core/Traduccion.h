@@ -13,7 +13,7 @@ inline constexpr QStringView IdiomaPropio = u"Español";
 bool HayTraduccion();
 
 /// The entry of Numora.txt beside the program for a text in a language, at most 1023 characters;
-/// empty when there is none. Of several lines in one the breaks stand as "\n"; "=" in the text
+/// null when there is none. Of several lines in one the breaks stand as "\n"; "=" in the text
 /// stands in its key as "\e".
 QString entradaDeNumora(const QString &idioma, const QString &texto);
 

@@ -179,7 +179,9 @@ QWidget *FormPrincipal::muestraAcercaDe(bool presentacion)
 
 void FormPrincipal::FlexMenu_Click(const QModelIndex &indice)
 {
-    abreLeccion(indice.row());
+    // Row -1 is the sheet.
+    if (indice.isValid())
+        abreLeccion(indice.row());
 }
 
 void FormPrincipal::FlexMenu_MouseMove(int fila)

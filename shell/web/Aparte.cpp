@@ -2,6 +2,7 @@
 #include "shell/core/run/Aparte.h"
 
 #include "bignum/gateway/ErrorEjecucion.h"
+#include "bignum/gateway/ModBignum.h"
 #include "shell/core/run/Espera.h"
 
 #include <QHash>
@@ -14,6 +15,10 @@ using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
+
+/// Of so many digits a call is done before a worker would have begun.
+constexpr qsizetype CifrasDePrimoEnSeguida = 40;
+constexpr qsizetype CifrasDeFactoresEnSeguida = 16;
 
 // The worker (apart.js) is sent the name of an operation and its datum. It answers by lines of
 // fields that tabulators part: "factor" and the fields of a BignumFactor as often as one is found,
@@ -146,6 +151,8 @@ bool Aparte::responde()
 
 Tarea<FinDeFactores> Aparte::buscaFactores(QString n, RecibeFactor recibe, Billete billete)
 {
+    if (n.size() <= CifrasDeFactoresEnSeguida)
+        co_return BuscaFactores(n, recibe);
     Llamada llamada(u"factors"_s, n, billete);
     co_await llamada.acabada();
     const QString fin = llamada.resultado();
@@ -158,12 +165,16 @@ Tarea<FinDeFactores> Aparte::buscaFactores(QString n, RecibeFactor recibe, Bille
 
 Tarea<bool> Aparte::esPrimo(QString n, Billete billete)
 {
+    if (n.size() <= CifrasDePrimoEnSeguida)
+        co_return EsPrimo(n);
     const QString fin = co_await pide(u"isprime"_s, n, billete);
     co_return fin == u"1";
 }
 
 Tarea<QString> Aparte::primoSiguiente(QString n, Billete billete)
 {
+    if (n.size() <= CifrasDePrimoEnSeguida)
+        co_return PrimoSiguiente(n);
     co_return co_await pide(u"nextprime"_s, n, billete);
 }
 

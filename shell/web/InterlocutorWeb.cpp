@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/web/InterlocutorWeb.h"
 
+#include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
 #include "shell/core/clsSesion.h"
 #include "shell/core/run/Espera.h"
@@ -34,32 +35,6 @@ QString extension(const QString &filtro)
 {
     static const QRegularExpression forma(u"\\*(\\.\\w+)"_s);
     return forma.match(filtro).captured(1);
-}
-
-/// Which of the kinds of file; -1 when the student cancels.
-Tarea<int> eligeFiltro(QWidget *padre, QString titulo, QStringList filtros)
-{
-    if (filtros.size() < 2)
-        co_return 0;
-    const QPointer<QInputDialog> dialogo = new QInputDialog(padre ? padre->window() : nullptr);
-    dialogo->setAttribute(Qt::WA_DeleteOnClose, false);
-    dialogo->setWindowModality(Qt::ApplicationModal);
-    dialogo->setWindowTitle(titulo);
-    dialogo->setLabelText(titulo);
-    dialogo->setComboBoxItems(filtros);
-    Espera respondido;
-    QObject::connect(dialogo, &QDialog::finished, respondido.contexto(),
-                     [&respondido] { respondido.cumple(); });
-    QObject::connect(dialogo, &QObject::destroyed, respondido.contexto(),
-                     [&respondido] { respondido.cumple(); });
-    dialogo->show();
-    co_await respondido;
-    if (!dialogo)
-        co_return -1;
-    dialogo->deleteLater();
-    co_return dialogo->result() == QDialog::Accepted
-        ? static_cast<int>(filtros.indexOf(dialogo->textValue()))
-        : -1;
 }
 
 /// Opens a file that is served beside the page in another tab.
@@ -98,7 +73,9 @@ Tarea<Interlocutor::Archivo> InterlocutorWeb::eligeArchivoParaGuardar(QWidget *p
                                                                       QString propuesta,
                                                                       QStringList filtros)
 {
-    const int filtro = co_await eligeFiltro(padre, titulo, filtros);
+    int filtro = 0;
+    if (filtros.size() > 1)
+        filtro = co_await eligeDe(padre, titulo, titulo, filtros);
     if (filtro < 0)
         co_return Archivo{};
     const QFileInfo propuesto(propuesta);
@@ -116,12 +93,46 @@ Tarea<bool> InterlocutorWeb::eligeImpresora(QWidget *, std::shared_ptr<QPrinter>
     co_return true;
 }
 
-Tarea<QString> InterlocutorWeb::eligeCarpeta(QWidget *, QString, QString)
+Tarea<QString> InterlocutorWeb::eligeCarpeta(QWidget *padre, QString, QString)
+{
+    const QString frase = Traduce(
+        u"Una página no ve las carpetas del equipo: usa una que el navegador guarda para ella. Con "
+        u"el menú «Datos» salen de ella y entran en ella los mensajes y las claves públicas; la "
+        u"clave privada no sale de este equipo."_s);
+    co_await avisaYEspera(padre, Icono::Informacion, frase, Traduce(u"Datos"_s));
+    co_return carpetaDelBuzon();
+}
+
+Tarea<int> InterlocutorWeb::eligeDe(QWidget *padre, QString titulo, QString texto,
+                                    QStringList opciones)
+{
+    const QPointer<QInputDialog> dialogo = new QInputDialog(padre ? padre->window() : nullptr);
+    dialogo->setAttribute(Qt::WA_DeleteOnClose, false);
+    dialogo->setWindowModality(Qt::ApplicationModal);
+    dialogo->setWindowTitle(titulo);
+    dialogo->setLabelText(texto);
+    dialogo->setComboBoxItems(opciones);
+    Espera respondido;
+    QObject::connect(dialogo, &QDialog::finished, respondido.contexto(),
+                     [&respondido] { respondido.cumple(); });
+    QObject::connect(dialogo, &QObject::destroyed, respondido.contexto(),
+                     [&respondido] { respondido.cumple(); });
+    dialogo->show();
+    co_await respondido;
+    if (!dialogo)
+        co_return -1;
+    dialogo->deleteLater();
+    co_return dialogo->result() == QDialog::Accepted
+        ? static_cast<int>(opciones.indexOf(dialogo->textValue()))
+        : -1;
+}
+
+QString InterlocutorWeb::carpetaDelBuzon()
 {
     const QString carpeta =
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + u"/Compartida"_s;
     QDir().mkpath(carpeta);
-    co_return carpeta;
+    return carpeta;
 }
 
 void InterlocutorWeb::abre(const QString &direccion)

@@ -28,7 +28,7 @@ public:
     Tarea<bool> eligeImpresora(QWidget *padre, std::shared_ptr<QPrinter> impresora,
                                QString titulo) override;
 
-    /// A folder that the browser keeps for this page.
+    /// The folder of the mailbox, after having told what it is.
     Tarea<QString> eligeCarpeta(QWidget *padre, QString pregunta, QString inicial) override;
 
     /// Another tab: a web address, or a page of the course, which stands beside this one.
@@ -36,6 +36,12 @@ public:
 
     /// No page may start a program.
     bool lanzaAlguno(const QList<QStringList> &ordenes) override;
+
+    /// A folder that the browser keeps for this page; it is there.
+    static QString carpetaDelBuzon();
+
+    /// Lets the student choose one of some things; its number, -1 when the student cancels.
+    static Tarea<int> eligeDe(QWidget *padre, QString titulo, QString texto, QStringList opciones);
 
 private:
     std::unique_ptr<ArchivosDelNavegador> m_archivos;

@@ -15,7 +15,7 @@ private Q_SLOTS:
         QTest::addColumn<quint64>("first");
         QTest::addColumn<int>("numbers");
         QTest::newRow("from 0") << quint64{0} << 200'000; // over segments and new sieving primes
-        for (const quint64 first : {1, 2, 3, 4, 13, 14, 65'535, 65'536})
+        for (const quint64 first : {1U, 2U, 3U, 4U, 13U, 14U, 65'535U, 65'536U})
             QTest::addRow("from %llu", first) << first << 100;
         QTest::newRow("next to 2^32") << (quint64{1} << 32) - 70'000 << 140'000;
         QTest::newRow("where it proves no more")

@@ -63,6 +63,23 @@ private Q_SLOTS:
         }
     }
 
+    /// The sheet wants the keys when it opens, but neither keeps the front nor takes it back when
+    /// it is shown again to make room.
+    void laQueSeAbreVieneDelante()
+    {
+        const auto vieneDelante = [this](int fila) {
+            const QWidget *abierta = m_principal->abreLeccion(fila);
+            QTest::qWait(1);
+            return m_principal->findChild<QMdiArea *>()->activeSubWindow()->widget() == abierta;
+        };
+        m_principal->abreLeccion(FormPrincipal::FilaHojaDeCalculo)->parentWidget()->showMaximized();
+        for (int fila = 0; fila < m_contenido.lecciones.size(); ++fila) {
+            QVERIFY2(vieneDelante(FormPrincipal::FilaHojaDeCalculo),
+                     qPrintable(QString::number(fila)));
+            QVERIFY2(vieneDelante(fila), qPrintable(QString::number(fila)));
+        }
+    }
+
     /// What is told of the topics is what the windows have.
     void losTemasSeLlamanAsi()
     {

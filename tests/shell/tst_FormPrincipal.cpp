@@ -41,6 +41,12 @@ private Q_SLOTS:
         QCOMPARE(resaltadas(), QList<int>{1});
         QTest::keyClick(m_menu, Qt::Key_Return);
         QCOMPARE(titulos(), QStringList{u"Uno"_s});
+        // A click below the rows gives the menu the keyboard, and makes none of them current.
+        Contenido conHoja = contenidoDePrueba();
+        conHoja.hojaDeCalculo = conHoja.lecciones.first();
+        const FormPrincipal otra(conHoja);
+        QTest::keyClick(control<QListView>(&otra, u"FlexMenu"_s), Qt::Key_Return);
+        QVERIFY(otra.findChildren<FormLeccion *>().isEmpty());
     }
 
     void elClicAbreUnaSolaVentana()

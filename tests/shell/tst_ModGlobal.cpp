@@ -55,7 +55,7 @@ private Q_SLOTS:
     {
         QCOMPARE(::Traduce(u"Primos"_s), u"Primos"_s);
         escribeTabla("[English]\r\nPrimos = Primes\r\nEl mayor es=The largest is\r\n"
-                     "Uno\\ndos=One\\ntwo\r\nx \\e 1=y = 1\r\nLargo=" +
+                     "Uno\\ndos=One\\ntwo\r\nx \\e 1=y = 1\r\nNada=\r\nLargo=" +
                      QByteArray(3000, 'x') + "\r\n[Français]\nPrimos=Premiers\n");
         const QString ingles = u"english"_s;
         for (const auto &[idioma, texto, traducido] :
@@ -65,6 +65,7 @@ private Q_SLOTS:
               {ingles, u"Uno\ndos"_s, u"One\ntwo"_s},
               {ingles, u"x = 1"_s, u"y = 1"_s},
               {ingles, u"Largo"_s, QString(1023, u'x')},
+              {ingles, u"Nada"_s, QString()},
               {ingles, u"Sin entrada"_s, u"Sin entrada"_s},
               {u"Français"_s, u"Primos"_s, u"Premiers"_s},
               {QString(), u"Primos"_s, u"Primos"_s}}) {

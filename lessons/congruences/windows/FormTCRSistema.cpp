@@ -126,8 +126,9 @@ bool FormTCRSistema::hayQueResolver()
     if (fila < 0)
         return true;
     const Congruencia &mala = m_modelo->sistema()[fila];
-    ui->FlexTCR->setCurrentIndex(m_modelo->index(
-        fila, mala.restoValido() ? ModeloCongruencias::Modulo : ModeloCongruencias::Resto));
+    ui->FlexTCR->setCurrentIndex(m_modelo->index(fila, mala.restoValido()
+                                                           ? ModeloCongruencias::ColumnaDeModulos
+                                                           : ModeloCongruencias::ColumnaDeRestos));
     ui->FlexTCR->setFocus();
     muestraVeredicto(ui->lblAviso, false,
                      Traduce(u"Fila %1: "_s).arg(fila + 1) + mala.defecto() + u'.');

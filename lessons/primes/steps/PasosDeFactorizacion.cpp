@@ -101,10 +101,12 @@ Paso pasoDelProducto(const Historia &historia)
         potencias << escrito({factor.key().second, factor.value()});
     if (historia.restos.last() != u"1"_s)
         potencias << historia.restos.last();
+    const bool detenida = historia.tabla.desenlace == TablaDeFactores::Detenida;
+    const bool negativo = historia.tabla.numero.startsWith(u'-');
     Paso paso{
-        historia.tabla.desenlace == TablaDeFactores::Detenida
-            ? Traduce(u"Detenida: lo último falta por descomponer."_s)
-            : Traduce(u"El producto de los factores es el número."_s),
+        detenida   ? Traduce(u"Detenida: lo último falta por descomponer."_s)
+        : negativo ? Traduce(u"El producto de los factores es el número sin su signo."_s)
+                   : Traduce(u"El producto de los factores es el número."_s),
         {Formula(u"%1 = %2"_s.arg(historia.restos.first(), potencias.join(u'*')))},
         Traduce(
             u"Cada número mayor que 1 es producto de primos de una sola manera, salvo el orden."_s)};

@@ -162,7 +162,7 @@ void agregaCertificado(Guion &guion, const QString &n, int bits)
 
 QString naturalEscrito(const QString &texto)
 {
-    static const QRegularExpression natural(u"^\\s*0*([0-9]+)\\s*$"_s);
+    static const QRegularExpression natural(u"^\\s*\\+?0*([0-9]+)\\s*$"_s);
     return natural.match(texto).captured(1);
 }
 
@@ -171,7 +171,12 @@ Pasos pasosDeTest(const QString &numero, bool primo, const QString &base)
     const QString n = naturalEscrito(numero);
     if (n.isEmpty() || n == u"0"_s || n == u"1"_s)
         return pasosSinTest(numero.trimmed(), n);
-    const int bits = NumeroDeBits(n);
+    const int bits = NumeroDeBits(numero);
+    // Of 1 bit at least, unless the service does not take it.
+    if (bits == 0)
+        return Pasos({Paso{Traduce(
+            u"Con tantas cifras no se decide si un número es primo: el programa llega a 24575. "
+            "La luz queda en rojo sin haberlo probado."_s)}});
     Guion guion;
     guion.agrega([n, bits] { return pasoDeBits(n, bits); });
     const QStringList primos = divisoresDe(n);

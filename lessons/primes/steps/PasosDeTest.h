@@ -12,5 +12,6 @@ inline constexpr int MasBitsDePasos = 2048;
 /// base stands for the first prime that decides. A base that is given is from 2 to n − 2.
 Pasos pasosDeTest(const QString &numero, bool primo, const QString &base = {});
 
-/// The digits of a natural number without blanks around and zeros in front; empty for another text.
+/// The digits of a natural number without blanks around, a plus sign and zeros in front; empty for
+/// another text.
 QString naturalEscrito(const QString &texto);

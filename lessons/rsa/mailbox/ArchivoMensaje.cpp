@@ -93,7 +93,7 @@ std::optional<ContenidoMensaje> ArchivoMensaje::interpretaCabecera(const QByteAr
         return {};
     const QString remitente = lineas.siguiente();
     const bool cortada = principio.size() >= MaximoDeCabecera;
-    if (cortada && !lineas.hayEntera())
+    if (!lineas.hay() || (cortada && !lineas.hayEntera()))
         return {};
     return ContenidoMensaje{remitente, lineas.siguiente(), {}};
 }

@@ -4,6 +4,6 @@
 
 importScripts("numora_apart.js");
 
-onmessage = ({ data }) => createNumoraApart()
+onmessage = ({ data }) => createQtAppInstance()
     .then((modulo) => modulo.ccall("numoraCall", null, ["string", "string"], data))
     .catch((error) => postMessage(`failed\t${error}`));

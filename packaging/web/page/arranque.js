@@ -5,13 +5,12 @@
 (() => {
     // How many bytes come, put here by the build: a server that compresses does not tell.
     const bytes = { "numora.wasm": 0, "numora.data": 0 };
-    // Where the program keeps what it is to find again.
-    const casa = "/home/web_user";
-    const entreCopias = 1500;
 
     const consulta = new URLSearchParams(location.search);
     const idioma = consulta.get("i") === "English" ? 1 : 0;
     const textos = {
+        nota: ["Lo que haga se guarda en este navegador y no se envía a nadie. Su clave privada no sale de este equipo.",
+            "What you do is kept in this browser and sent to nobody. Your private key does not leave this machine."],
         lema: ["Matemática discreta, paso a paso", "Discrete mathematics, step by step"],
         llega: ["Se carga el programa: %1 de %2 MB", "Loading the program: %1 of %2 MB"],
         datos: ["Se recupera lo guardado…", "Bringing back what was kept…"],
@@ -43,7 +42,8 @@
 
     function preparaPagina() {
         document.documentElement.lang = idioma ? "en" : "es";
-        document.getElementById("lema").textContent = di("lema");
+        for (const clave of ["lema", "nota"])
+            document.getElementById(clave).textContent = di(clave);
         const oscuro = consulta.has("oscuro") ? consulta.get("oscuro") !== "0"
             : matchMedia("(prefers-color-scheme: dark)").matches;
         document.documentElement.classList.toggle("oscuro", oscuro);
@@ -86,37 +86,17 @@
 
     // ---- What is kept ----
 
-    function guarda(FS) {
-        let ocupado = false;
-        let avisado = false;
-        const copia = () => {
-            if (ocupado)
-                return;
-            ocupado = true;
-            FS.syncfs(false, (error) => {
-                ocupado = false;
-                if (error && !avisado)
-                    console.warn(di("sinMemoria"), error);
-                avisado = avisado || Boolean(error);
-                document.documentElement.dataset.guardado = String(Date.now());
-            });
-        };
-        setInterval(copia, entreCopias);
-        return copia;
-    }
-
-    /// Mounts what was kept before the program runs.
+    /// Before the program runs.
     function recupera(modulo) {
-        const { FS } = modulo;
-        FS.mkdirTree(casa);
-        FS.mount(FS.filesystems.IDBFS, {}, casa);
+        modulo.guardado = creaGuardado(modulo, (error) => {
+            console.warn(error);
+            document.getElementById("nota").textContent = di("sinMemoria");
+            alert(di("sinMemoria"));
+        });
+        modulo.buzon = creaBuzon(modulo);
         modulo.addRunDependency("guardado");
         estado.textContent = di("datos");
-        FS.syncfs(true, (error) => {
-            if (error)
-                console.warn(di("sinMemoria"), error);
-            modulo.removeRunDependency("guardado");
-        });
+        modulo.guardado.recupera().then(() => modulo.removeRunDependency("guardado"));
     }
 
     // ---- The program ----
@@ -142,11 +122,13 @@
             onAbort: (motivo) => falla("fallo", motivo),
         });
         document.getElementById("carga").hidden = true;
-        const copia = guarda(modulo.FS);
+        const { guardado } = modulo;
+        guardado.vigila();
         addEventListener("hashchange", () => modulo.llega(location.hash.slice(1)));
         const seVa = () => {
-            modulo.guardaLoPendiente();
-            copia();
+            modulo.guardaLoPendiente?.();
+            guardado.apunta();
+            guardado.copia();
         };
         addEventListener("pagehide", seVa);
         document.addEventListener("visibilitychange", () => {

@@ -57,7 +57,7 @@ void tst_PasosComplejidad::llamadas()
         revisaAlAzar(
             revisor,
             [conMemoria](QRandomGenerator &azar) {
-                return pasosDeLlamadas(azar.bounded(81), conMemoria);
+                return pasosDeLlamadas(azar.bounded(90), conMemoria);
             },
             Sorteos / 2);
     }

@@ -39,7 +39,7 @@ Numeros cribaLenta(std::uint32_t limite, std::vector<int> &porcentajes)
 
 std::vector<int> sinRepetir(std::vector<int> valores)
 {
-    valores.erase(std::ranges::unique(valores).begin(), valores.end());
+    valores.erase(std::unique(valores.begin(), valores.end()), valores.end());
     return valores;
 }
 

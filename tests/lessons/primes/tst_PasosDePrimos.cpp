@@ -70,7 +70,7 @@ private Q_SLOTS:
     {
         filasDeTexto<QString, QString, int, QString>(uR"(
             0 |  | 1 | mayores que 1 || 1 |  | 1 | mayores que 1 || -7 |  | 1 | no es un número natural
-            90+7 |  | 1 | no es un número natural || 2 |  | 2 | es primo || 3 |  | 2 | es primo || 4 |  | 2 | divisible por 2
+            90+7 |  | 1 | no es un número natural || 2 |  | 2 | es primo || +2 |  | 2 | es primo || 3 |  | 2 | es primo || 4 |  | 2 | divisible por 2
             9 |  | 2 | divisible por 3 || 5 |  | 7 | pasa el test || " 0091 " |  | 2 | divisible por 7
             561 |  | 2 | divisible por 3 || 561 | 2 | 8 | 67 || 2047 | 2 | 5 | lo disfraza || 2047 |  | 2 | divisible por 23
             10403 |  | 6 | testigo || 2305843009213693951 |  | 9 | Certificado
@@ -110,6 +110,9 @@ private Q_SLOTS:
         QVERIFY(frases(pasos).contains(u"2048"_s));
         QCOMPARE(falta(pasos, 2), QString());
         QCOMPARE(falta(pasosDeTest(Evalua(u"2^2000+1"_s), false), 3), QString());
+        const Pasos sinProbar = pasosDeTest(QString(24'576, u'7'), false);
+        QCOMPARE(sinProbar.cuantos(), 1);
+        QVERIFY(frases(sinProbar).contains(u"sin haberlo probado"_s));
     }
 
     void carmichael_data()
@@ -202,6 +205,7 @@ private Q_SLOTS:
         const Pasos estos = pasosDeFactorizacion(factorizaGrande(Evalua(QString(n))));
         QCOMPARE(estos.cuantos(), pasos);
         QCOMPARE(falta(estos, pasos == 0 ? 0 : 1), QString());
+        QCOMPARE(frases(estos).contains(u"sin su signo"_s), n.startsWith(u'-'));
     }
 
     void divisiones()

@@ -103,8 +103,9 @@ private Q_SLOTS:
             QCOMPARE(::truncate(qPrintable(m_yo->enBuzon(nombre)), 5'000'000'000), 0);
         const auto [mensajes, ilegibles] = revisa();
         QCOMPARE(ilegibles, 0);
-        QCOMPARE(mensajes.Item(1).Asunto(), u"enorme"_s);
-        QCOMPARE_ERROR(ErrorDeArchivo, leeMensaje(mensajes.Item(1).NombreFichero()));
+        const clsMensaje &mensaje = mensajes.Item(1);
+        QCOMPARE(mensaje.Asunto(), u"enorme"_s);
+        QCOMPARE_ERROR(ErrorDeArchivo, leeMensaje(mensaje.NombreFichero()));
         QCOMPARE(leeClavePublica(m_yo->buzon(), u"ana"_s).q, QString());
     }
 

@@ -90,8 +90,9 @@ bool CarpetaAbierta::nombraSiLibre(const QString &archivo, const QString &nombre
     const QByteArray primero = QFile::encodeName(archivo), segundo = QFile::encodeName(nombre);
     if (::linkat(fd, primero.constData(), fd, segundo.constData(), 0) == 0)
         return true;
-    // A memory stick or a mount has no hard links.
-    const bool sinEnlaces = errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS;
+    // A memory stick or a mount has no hard links, and neither has a page in a browser.
+    const bool sinEnlaces =
+        errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS || errno == EMLINK;
     if (sinEnlaces && renombraSiLibre(fd, primero.constData(), segundo.constData()))
         return true;
     if (errno == EEXIST)
