@@ -159,14 +159,14 @@ wine reg delete "$COLORES" /v AppsUseLightTheme /f >/dev/null
 es_oscura() { [ "$(luz oscura)" -lt 35 ] && [ "$(luz principal)" -gt 65 ]; }
 veredicto "dark where the desktop is" es_oscura
 
-# ancho PERCENT: of the window in pixels at that scale of the desktop.
+# ancho_con PERCENT: of what is shown first, in pixels, at that scale of the desktop.
 ancho_con() {
     wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d $((96 * $1 / 100)) /f >/dev/null
     "$servidor" -w
-    rm -f "$ajustes/Numora.ini"
-    abre_principal
+    arranca numora.exe 'Acerca de Numora'
+    xdotool search --onlyvisible --name '^Acerca de Numora$' getwindowgeometry | sed -n 's/.*Geometry: \([0-9]*\)x.*/\1/p'
+    a_la_principal >&2
     foto "escala-$1"
-    xdotool search --onlyvisible --name '^Matemática Discreta' getwindowgeometry | sed -n 's/.*Geometry: \([0-9]*\)x.*/\1/p'
     acaba || true
 }
 ancho=$(ancho_con 100)

@@ -57,9 +57,12 @@ bool ExisteFichero(const QString &ruta)
     return !ruta.isEmpty() && QFileInfo::exists(rutaExistente(ruta));
 }
 
+/// Not by std::round, which on Windows adds a half and so rounds up what is just below one.
 std::int32_t Redondea(double valor)
 {
-    return comprobado(std::round(valor));
+    const double entero = std::trunc(valor);
+    const bool sube = std::abs(valor - entero) >= 0.5;
+    return comprobado(sube ? entero + std::copysign(1, valor) : entero);
 }
 
 std::int32_t Techo(double valor)

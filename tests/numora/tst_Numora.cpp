@@ -132,7 +132,9 @@ private:
         QFile archivo(m_ajustes);
         QVERIFY(archivo.open(QIODevice::WriteOnly));
         archivo.write(contenido);
-#if !defined(Q_OS_WIN)
+#if defined(Q_OS_WIN) // where a program is asked to go through its windows
+        m_entorno.insert(u"QT_QPA_PLATFORM"_s, u"windows"_s);
+#else
         m_entorno.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
 #endif
         m_entorno.insert(u"XDG_CONFIG_HOME"_s, m_carpeta->path());
