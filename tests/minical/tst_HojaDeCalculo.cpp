@@ -3,8 +3,8 @@
 #include "minical/HojaGuardada.h"
 #include "minical/Sustitucion.h"
 #include "minical/TextosDeHoja.h"
-#include "shell/core/run/Tareas.h"
 #include "tests/Tabla.h"
+#include "tests/TareasQueSeVan.h"
 #include "tests/minical/HojaDePrueba.h"
 #include "tests/shell/support/Entorno.h"
 
@@ -328,7 +328,8 @@ private Q_SLOTS:
         const QString como = estaFila<QString>();
         HojaDeCalculo hoja;
         int errores = 0;
-        auto tareas = std::make_unique<Tareas>([&](const std::exception_ptr &) { ++errores; });
+        std::optional<TareasQueSeVan> tareas(std::in_place,
+                                             [&](const std::exception_ptr &) { ++errores; });
         int celdas = 0;
         hoja.alCambiar = [&](Celda) {
             if (como == u"error"_s && ++celdas == 3)

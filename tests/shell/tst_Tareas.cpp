@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/run/Espera.h"
-#include "shell/core/run/Tareas.h"
+#include "tests/TareasQueSeVan.h"
 
 #include <QScopeGuard>
 #include <QTest>
@@ -57,13 +57,6 @@ Tarea<> esperaDos(Espera &primera, Espera &segunda, int &hechas)
     co_await segunda;
     ++hechas;
 }
-
-/// As a window has them, but they may go before it does.
-class TareasQueSeVan final : public Tareas
-{
-public:
-    using Tareas::Tareas;
-};
 
 } // namespace
 
