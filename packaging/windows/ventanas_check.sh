@@ -64,6 +64,10 @@ wine cmd /c exit
 "$servidor" -w
 cp "$lugar/testigo.exe" "$WINEPREFIX/drive_c/windows/system32/calc.exe"
 usuario=$WINEPREFIX/drive_c/users/$(id -un)
+# Which program opens pages is the account's, and Wine without its own browser has none.
+wine reg add 'HKLM\Software\Classes\.html' /ve /d PaginaDeLaCuenta /f >/dev/null
+wine reg add 'HKLM\Software\Classes\PaginaDeLaCuenta\shell\open\command' /ve \
+    /d '"C:\windows\system32\winebrowser.exe" "%1"' /f >/dev/null
 
 # espera_ventana TITLE: until a window of that title is there, a minute at most. Not by xdotool's own waiting, which
 # ends where another window goes meanwhile.
@@ -140,6 +144,8 @@ teclea F1
 sleep 2
 veredicto "a page goes to the browser" grep -q '^file:.*/Doc/[A-Za-z0-9%]*\.html' "$lugar/navegador"
 foto leccion
+# Something to remember: of a window that nobody has moved nothing is.
+teclea ctrl+plus
 veredicto "it ends as it should when its window is closed" acaba
 
 ajustes=$usuario/AppData/Roaming/Numora
