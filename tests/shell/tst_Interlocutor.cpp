@@ -86,7 +86,8 @@ private Q_SLOTS:
             {carpeta + u"\\Doc\\Primos.html"_s, pagina},
             {carpeta + u"\\DOC\\primos.HTML"_s, comoSea},
             {u".\\Doc\\Primos.html"_s, pagina}, // from the current folder
-            {u"/nada\\100 %#1.html"_s, QUrl::fromLocalFile(u"/nada/100 %#1.html"_s)}};
+            {u"/nada\\100 %#1.html"_s,          // on Windows, of the drive that is the current one
+             QUrl::fromLocalFile(QFileInfo(u"/nada/100 %#1.html"_s).absoluteFilePath())}};
         for (const auto &[direccion, abierta] : filas) {
             const Escritorio escritorio;
             Interlocutor().abre(direccion);
