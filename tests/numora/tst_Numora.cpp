@@ -43,21 +43,20 @@ private Q_SLOTS:
             int salida;
             QString dice;
         };
-        for (const auto &[opciones, salida, dice] : {
-                 Linea{{u"--version"_s}, 0, u"Numora "_s},
-                     {{u"--help"_s}, 0, u"Muestra esta ayuda."_s},
-                     {{u"--help"_s, u"-i:English"_s}, 0, u"Shows this help."_s},
-#if !defined(Q_OS_WIN) // which always has one
-                     {{}, 1, u"No hay ninguna pantalla"_s},
-                     {{u"-i:English"_s}, 1, u"There is no display"_s},
+        QList<Linea> lineas{{{u"--version"_s}, 0, u"Numora "_s},
+                            {{u"--help"_s}, 0, u"Muestra esta ayuda."_s},
+                            {{u"--help"_s, u"-i:English"_s}, 0, u"Shows this help."_s},
+                            {{u"--hoja"_s}, 2, u"Falta el valor de --hoja."_s},
+                            {{u"--galeria"_s, u"x"_s, u"--tamano=639x480"_s}, 2, u"640x480"_s},
+                            {{u"--galeria"_s, u"x"_s, u"--tamano"_s, u"ancho"_s}, 2, u"640x480"_s},
+                            {{u"--galeria"_s, u"x"_s, u"--escala"_s, u"99"_s}, 2, u"100"_s}};
+#if !defined(Q_OS_WIN) // which always has a display
+        lineas += {{{}, 1, u"No hay ninguna pantalla"_s},
+                   { {u"-i:English"_s},
+                     1,
+                     u"There is no display"_s }};
 #endif
-                     {{u"--hoja"_s}, 2, u"Falta el valor de --hoja."_s},
-                     {{u"--galeria"_s, u"x"_s, u"--tamano=639x480"_s}, 2, u"640x480"_s},
-                     {{u"--galeria"_s, u"x"_s, u"--tamano"_s, u"ancho"_s}, 2, u"640x480"_s},
-                 {
-                     {u"--galeria"_s, u"x"_s, u"--escala"_s, u"99"_s}, 2, u"100"_s
-                 }
-             }) {
+        for (const auto &[opciones, salida, dice] : std::as_const(lineas)) {
             arranca(opciones);
             QVERIFY(m_programa.waitForFinished());
             QCOMPARE(m_programa.exitStatus(), QProcess::NormalExit);
@@ -110,7 +109,11 @@ private Q_SLOTS:
             m_entorno.insert(variable, temporales.path());
         arranca({u"--galeria"_s, imagenes.path()});
         QTRY_VERIFY_WITH_TIMEOUT(!QDir(imagenes.path()).isEmpty(), 60'000);
+#if defined(Q_OS_WIN) // where only a window in sight can be asked to go
         m_programa.kill();
+#else
+        m_programa.terminate();
+#endif
         QVERIFY(m_programa.waitForFinished());
         QFile archivo(m_ajustes);
         QVERIFY(archivo.open(QIODevice::ReadOnly));

@@ -117,6 +117,7 @@ private Q_SLOTS:
         // Not wholly there yet: no message for a scan.
         QTest::newRow("one line") << "ana"_ba << QString() << QStringList();
         QTest::newRow("one line, ended") << "ana\r\n"_ba << QString() << QStringList();
+        QTest::newRow("a blank subject") << "ana\r\n\r\n"_ba << u"ana|"_s << QStringList();
         QTest::newRow("nothing") << QByteArray() << QString() << QStringList();
         QTest::newRow("blank lines") << "ana\r\n\r\n\r\n12\r\nError\r\n"_ba << u"ana|"_s
                                      << QStringList{{}, u"12"_s, u"Error"_s};
