@@ -50,7 +50,7 @@ void FormCalc::showEvent(QShowEvent *suceso)
 {
     FormLeccion::showEvent(suceso);
     // A maximized window is shown once more when it makes room for another one.
-    if (suceso->spontaneous() || std::exchange(m_copiaOfrecida, true))
+    if (suceso->spontaneous() || std::exchange(m_mostrada, true))
         return;
     // The keys go to the sheet as soon as the window is open, unless another one has come in front
     // by then; while it opens, its frame takes the focus for itself.

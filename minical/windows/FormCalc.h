@@ -100,7 +100,7 @@ private:
     FormZoom *m_zoom = nullptr;
     PanelDePasos *m_pasos = nullptr;
     QHash<QString, QAction *> m_acciones;
-    bool m_copiaOfrecida = false;
+    bool m_mostrada = false;    ///< whether it has been shown before
     bool m_preguntando = false; ///< whether the window may be closed
     // What follows goes first, and looks at what stands above: the tasks, the copy of the sheet,
     // and the grid with all that stands around it.

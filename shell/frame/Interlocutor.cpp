@@ -3,7 +3,7 @@
 
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
-#include "shell/core/run/Espera.h"
+#include "shell/frame/DialogoAbierto.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -21,9 +21,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTimer>
 #include <QUrl>
-#include <QWindow>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -100,64 +98,6 @@ QString paraLaCaja(QString texto)
     return texto;
 }
 
-/// A dialog that a task has opened. It goes when the task does, or with its parent.
-class Abierto
-{
-public:
-    explicit Abierto(QDialog *dialogo) : m_dialogo(dialogo)
-    {
-        // Over a window that is at work, the box is not.
-        m_dialogo->setCursor(Qt::ArrowCursor);
-        m_dialogo->setWindowModality(Qt::ApplicationModal);
-        QObject::connect(dialogo, &QDialog::finished, m_respondido.contexto(),
-                         [this](int resultado) {
-                             m_resultado = resultado;
-                             m_respondido.cumple();
-                         });
-        QObject::connect(dialogo, &QObject::destroyed, m_respondido.contexto(),
-                         [this] { m_respondido.cumple(); });
-        m_dialogo->show();
-        // One that the system shows by itself has come and gone, or could not come.
-        if (!m_dialogo || !m_dialogo->isVisible())
-            m_respondido.cumple();
-    }
-    Abierto(const Abierto &) = delete;
-    Abierto &operator=(const Abierto &) = delete;
-    ~Abierto()
-    {
-        if (!m_dialogo)
-            return;
-        m_dialogo->hide();
-        m_dialogo->deleteLater();
-        devuelveElTeclado();
-    }
-
-    Espera &respondido() { return m_respondido; }
-
-    /// Of `QDialog::done`; Rejected when it went away without an answer.
-    int resultado() const { return m_dialogo ? m_resultado : int(QDialog::Rejected); }
-
-private:
-    /// Qt takes no notice of the window that the desktop makes active while a list of completions
-    /// is still open, as it is when a file dialog is accepted by Enter. Keys arrive afterwards, but
-    /// no window is active as far as Qt knows: no mnemonic works and no focus is drawn.
-    void devuelveElTeclado()
-    {
-        QTimer::singleShot(0, qApp, [antes = m_antes] {
-            if (!antes || QApplication::activeWindow() || QApplication::activePopupWidget())
-                return;
-            QWidget *ventana = antes->window();
-            if (ventana->windowHandle() == QGuiApplication::focusWindow())
-                QApplication::setActiveWindow(ventana);
-        });
-    }
-
-    QPointer<QDialog> m_dialogo;
-    QPointer<QWidget> m_antes = QApplication::focusWidget();
-    Espera m_respondido;
-    int m_resultado = QDialog::Rejected;
-};
-
 /// The window over which a box for `padre` stands. The window that is active may be a tool which
 /// has just been hidden: then it is the one in sight to which that belongs.
 QWidget *ventanaALaVista(QWidget *padre)
@@ -217,7 +157,7 @@ void Interlocutor::avisa(QWidget *padre, Icono icono, const QString &texto, cons
 
 Tarea<> Interlocutor::avisaYEspera(QWidget *padre, Icono icono, QString texto, QString titulo)
 {
-    Abierto caja(creaAviso(padre, icono, texto, titulo));
+    DialogoAbierto caja(creaAviso(padre, icono, texto, titulo));
     co_await caja.respondido();
 }
 
@@ -226,7 +166,7 @@ Tarea<QString> Interlocutor::preguntaTexto(QWidget *padre, QString pregunta, QSt
     QPointer<QInputDialog> dialogo = new QInputDialog(ventanaALaVista(padre));
     dialogo->setWindowTitle(titulo);
     dialogo->setLabelText(pregunta);
-    Abierto abierto(dialogo);
+    DialogoAbierto abierto(dialogo);
     co_await abierto.respondido();
     co_return abierto.resultado() == QDialog::Accepted ? dialogo->textValue() : QString();
 }
@@ -236,7 +176,7 @@ Tarea<bool> Interlocutor::preguntaSiNo(QWidget *padre, QString pregunta, QString
     auto *caja = creaCaja(padre, QMessageBox::Question, pregunta, titulo,
                           QMessageBox::Yes | QMessageBox::No);
     caja->setDefaultButton(QMessageBox::No);
-    Abierto abierto(caja);
+    DialogoAbierto abierto(caja);
     co_await abierto.respondido();
     co_return abierto.resultado() == QMessageBox::Yes;
 }
@@ -248,7 +188,7 @@ Tarea<Interlocutor::Guardado> Interlocutor::preguntaGuardar(QWidget *padre, QStr
                           QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     caja->setDefaultButton(QMessageBox::Save);
     caja->button(QMessageBox::Discard)->setText(Traduce(u"&No guardar"_s));
-    Abierto abierto(caja);
+    DialogoAbierto abierto(caja);
     co_await abierto.respondido();
     switch (abierto.resultado()) {
     case QMessageBox::Save:
@@ -266,7 +206,7 @@ Tarea<QString> Interlocutor::eligeArchivoParaAbrir(QWidget *padre, QString titul
     QPointer<QFileDialog> dialogo = creaDialogo(padre, titulo);
     dialogo->setFileMode(QFileDialog::ExistingFile);
     prepara(*dialogo, propuesta, filtros);
-    Abierto abierto(dialogo);
+    DialogoAbierto abierto(dialogo);
     co_await abierto.respondido();
     co_return abierto.resultado() == QDialog::Accepted ? dialogo->selectedFiles().constFirst()
                                                        : QString();
@@ -283,7 +223,7 @@ Tarea<Interlocutor::Archivo> Interlocutor::eligeArchivoParaGuardar(QWidget *padr
     QObject::connect(
         dialogo, &QFileDialog::filterSelected, dialogo,
         [d = dialogo.data()](const QString &filtro) { d->setDefaultSuffix(extension(filtro)); });
-    Abierto abierto(dialogo);
+    DialogoAbierto abierto(dialogo);
     co_await abierto.respondido();
     if (abierto.resultado() != QDialog::Accepted)
         co_return Archivo{};
@@ -303,7 +243,7 @@ Tarea<bool> Interlocutor::eligeImpresora(QWidget *padre, std::shared_ptr<QPrinte
 #endif
     auto *dialogo = new QPrintDialog(impresora.get(), ventanaALaVista(padre));
     dialogo->setWindowTitle(titulo);
-    Abierto abierto(dialogo);
+    DialogoAbierto abierto(dialogo);
     co_await abierto.respondido();
     co_return abierto.resultado() == QDialog::Accepted;
 }
@@ -325,7 +265,7 @@ Tarea<QString> Interlocutor::eligeCarpeta(QWidget *padre, QString pregunta, QStr
         rotulo->setWordWrap(true);
         rejilla->addWidget(rotulo, rejilla->rowCount(), 0, 1, rejilla->columnCount());
     }
-    Abierto abierto(dialogo);
+    DialogoAbierto abierto(dialogo);
     co_await abierto.respondido();
     co_return abierto.resultado() == QDialog::Accepted ? dialogo->selectedFiles().value(0)
                                                        : QString();

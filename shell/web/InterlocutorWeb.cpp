@@ -5,13 +5,13 @@
 #include "shell/core/Rutas.h"
 #include "shell/core/clsSesion.h"
 #include "shell/core/run/Espera.h"
+#include "shell/frame/DialogoAbierto.h"
 #include "shell/web/ArchivosDelNavegador.h"
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
-#include <QPointer>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -106,23 +106,13 @@ Tarea<QString> InterlocutorWeb::eligeCarpeta(QWidget *padre, QString, QString)
 Tarea<int> InterlocutorWeb::eligeDe(QWidget *padre, QString titulo, QString texto,
                                     QStringList opciones)
 {
-    const QPointer<QInputDialog> dialogo = new QInputDialog(padre ? padre->window() : nullptr);
-    dialogo->setAttribute(Qt::WA_DeleteOnClose, false);
-    dialogo->setWindowModality(Qt::ApplicationModal);
+    auto *dialogo = new QInputDialog(padre ? padre->window() : nullptr);
     dialogo->setWindowTitle(titulo);
     dialogo->setLabelText(texto);
     dialogo->setComboBoxItems(opciones);
-    Espera respondido;
-    QObject::connect(dialogo, &QDialog::finished, respondido.contexto(),
-                     [&respondido] { respondido.cumple(); });
-    QObject::connect(dialogo, &QObject::destroyed, respondido.contexto(),
-                     [&respondido] { respondido.cumple(); });
-    dialogo->show();
-    co_await respondido;
-    if (!dialogo)
-        co_return -1;
-    dialogo->deleteLater();
-    co_return dialogo->result() == QDialog::Accepted
+    DialogoAbierto abierto(dialogo);
+    co_await abierto.respondido();
+    co_return abierto.resultado() == QDialog::Accepted
         ? static_cast<int>(opciones.indexOf(dialogo->textValue()))
         : -1;
 }
