@@ -90,7 +90,8 @@ void MenuDeDatos::avisa(const QString &texto)
 void MenuDeDatos::buzonUnido(const QString &carpeta)
 {
     avisa(carpeta.isEmpty()
-              ? Traduce(u"No se puede escribir en esa carpeta."_s)
+              ? Traduce(u"El buzón no está unido a ninguna carpeta: no se puede leer y escribir en "
+                        u"la que ha elegido."_s)
               : Traduce(u"Hasta que se cierre la página, el buzón es la carpeta «%1» de este "
                         u"equipo. La clave privada no se escribe en ella."_s)
                     .arg(carpeta));

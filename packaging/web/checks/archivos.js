@@ -89,4 +89,51 @@ module.exports = async (prueba) => {
         await prueba.navegador.evalua(`numora.FS.writeFile("${buzon}/estudiante/RSA3.msg", "a\\r\\nb\\r\\n")`);
         await hasta(async () => (await alla()).endsWith("RSA3.msg"), "the third message", 10000);
     });
+    await comprueba("mailbox", "another's message that comes at the last moment is not replaced", async () => {
+        const leida = (nombre) => prueba.navegador.evalua(`(async () => {
+            const suya = await raiz.getDirectoryHandle("estudiante");
+            return (await (await suya.getFileHandle("${nombre}")).getFile()).text();
+        })()`);
+        // A folder in which it is not listed yet.
+        await prueba.navegador.evalua(`(async () => {
+            const suya = await raiz.getDirectoryHandle("estudiante");
+            const salida = await (await suya.getFileHandle("RSA4.msg", { create: true })).createWritable();
+            await salida.write("eva\\r\\najeno\\r\\n");
+            await salida.close();
+            numora.FS.writeFile("${buzon}/estudiante/RSA4.msg", "a\\r\\npropio\\r\\n");
+            await numora.buzon.une({
+                entries: () => raiz.entries(),
+                getDirectoryHandle: async (...cual) => {
+                    const real = await raiz.getDirectoryHandle(...cual);
+                    return {
+                        async *entries() {
+                            for await (const una of real.entries()) {
+                                if (una[0] !== "RSA4.msg")
+                                    yield una;
+                            }
+                        },
+                        getFileHandle: (...otra) => real.getFileHandle(...otra),
+                    };
+                },
+            }, ${JSON.stringify(buzon)});
+        })()`);
+        igual(await leida("RSA4.msg"), "eva\r\najeno\r\n");
+        await prueba.navegador.evalua(`numora.buzon.une(raiz, ${JSON.stringify(buzon)})`);
+        igual(await leida("RSA4.msg"), "eva\r\najeno\r\n");
+        igual(await leida("RSA5.msg"), "a\r\npropio\r\n");
+    });
+    await comprueba("mailbox", "a folder that goes away is told", async () => {
+        await prueba.navegador.evalua(`(async () => {
+            let miradas = 0;
+            await numora.buzon.une({
+                entries: () => {
+                    if (++miradas > 1)
+                        throw new DOMException("gone", "NotFoundError");
+                    return raiz.entries();
+                },
+                getDirectoryHandle: (...cual) => raiz.getDirectoryHandle(...cual),
+            }, ${JSON.stringify(buzon)});
+        })()`);
+        await hasta(async () => /no está unido/.test(await pide("contesta", "Aceptar")), "the box", 15000);
+    });
 };

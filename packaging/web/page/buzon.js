@@ -5,6 +5,8 @@
 function creaBuzon(modulo) {
     const { FS } = modulo;
     const entreMiradas = 2000;
+    // After so many looks in a row that have failed, the folder counts as gone.
+    const masFallos = 3;
     const esMensaje = (nombre) => /^RSA[0-9A-F]+\.msg$/i.test(nombre);
     const interesa = (nombre) => esMensaje(nombre) || nombre.toUpperCase() === "CLAVE.RSA";
     const mayorArchivo = 1 << 26;
@@ -39,7 +41,19 @@ function creaBuzon(modulo) {
         }
     }
 
-    let carpeta, propia, conocidos, ocupado = false;
+    /// Nobody can claim a name here as long as it is not there: it is looked for at the last moment.
+    async function estaAlli(carpeta, nombre) {
+        try {
+            await carpeta.getFileHandle(nombre);
+            return true;
+        } catch (error) {
+            if (error.name === "NotFoundError")
+                return false;
+            throw error;
+        }
+    }
+
+    let carpeta, propia, conocidos, ocupado = false, fallos = 0;
 
     async function trae(usuario, ellos) {
         for (const [nombre, asa] of ellos) {
@@ -61,6 +75,9 @@ function creaBuzon(modulo) {
         for (const nombre of nombres(`${propia}/${usuario}`).filter(interesa)) {
             const clave = `${usuario}/${nombre}`, hora = FS.stat(`${propia}/${clave}`).mtime.getTime();
             if (conocidos.get(`${clave}|aqui`) === hora)
+                continue;
+            // Another's that has come since the folder was listed: at the next look ours gets another number.
+            if (esMensaje(nombre) && !conocidos.has(clave) && await estaAlli(suya, nombre))
                 continue;
             await escribe(suya, nombre, FS.readFile(`${propia}/${clave}`));
             const archivo = await (await suya.getFileHandle(nombre)).getFile();
@@ -84,6 +101,23 @@ function creaBuzon(modulo) {
         }
     }
 
+    async function vuelveAMirar() {
+        if (ocupado)
+            return;
+        ocupado = true;
+        try {
+            await mira();
+            fallos = 0;
+        } catch (error) {
+            console.warn(error);
+            if (++fallos === masFallos) {
+                clearInterval(buzon.ronda);
+                modulo.buzonUnido("");
+            }
+        }
+        ocupado = false;
+    }
+
     const buzon = {
         puedeElegir: () => Boolean(window.showDirectoryPicker),
 
@@ -101,15 +135,10 @@ function creaBuzon(modulo) {
 
         /// Joins a folder that is granted already.
         async une(otra, ruta) {
-            [carpeta, propia, conocidos] = [otra, ruta, new Map()];
-            await mira();
             clearInterval(buzon.ronda);
-            buzon.ronda = setInterval(() => {
-                if (ocupado)
-                    return;
-                ocupado = true;
-                mira().catch((error) => console.warn(error)).finally(() => { ocupado = false; });
-            }, entreMiradas);
+            [carpeta, propia, conocidos, fallos] = [otra, ruta, new Map(), 0];
+            await mira();
+            buzon.ronda = setInterval(vuelveAMirar, entreMiradas);
         },
     };
     return buzon;

@@ -64,6 +64,12 @@ function creaGuardado(modulo, queja) {
         }));
     }
 
+    function olvidaUltimo() {
+        try {
+            localStorage.removeItem(ultimo);
+        } catch { /* a browser that keeps nothing */ }
+    }
+
     async function copia() {
         if (ocupado || cerrado)
             return;
@@ -71,9 +77,7 @@ function creaGuardado(modulo, queja) {
         const antes = archivos();
         if (await sincroniza(false)) {
             conocidos = antes;
-            try {
-                localStorage.removeItem(ultimo);
-            } catch { /* a browser that keeps nothing */ }
+            olvidaUltimo();
             document.documentElement.dataset.guardado = String(Date.now());
         }
         ocupado = false;
@@ -137,7 +141,8 @@ function creaGuardado(modulo, queja) {
             return JSON.stringify({ numora: 1, archivos: Object.fromEntries(contenido) });
         },
 
-        /// Puts such a text in the place of what is there, and begins anew; throws where it is none.
+        /// Puts such a text in the place of what is there, and begins anew; throws where it is none. Where the browser does
+        /// not keep it, that is told and the page begins anew with what it had.
         async repon(texto) {
             const { numora, archivos: otros } = JSON.parse(texto);
             const nombres = Object.keys(otros ?? {});
@@ -150,8 +155,9 @@ function creaGuardado(modulo, queja) {
                 FS.unlink(ruta);
             for (const [ruta, bytes] of leidos)
                 escribe(ruta, bytes);
-            localStorage.removeItem(ultimo);
-            await sincroniza(false);
+            quejado = false;
+            if (await sincroniza(false))
+                olvidaUltimo();
             location.reload();
         },
     };
