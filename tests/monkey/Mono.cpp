@@ -18,6 +18,10 @@
 #include <algorithm>
 #include <ctime>
 
+#if defined(Q_OS_WIN)
+#include <windows.h>
+#endif
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -58,7 +62,14 @@ bool esPulsable(const QAbstractButton *boton)
 
 double segundosDeProcesador()
 {
+#if defined(Q_OS_WIN) // where std::clock tells the time of day
+    FILETIME principio, fin, nucleo, propio;
+    ::GetProcessTimes(::GetCurrentProcess(), &principio, &fin, &nucleo, &propio);
+    constexpr double porSegundo = 1e7;
+    return (nucleo.dwLowDateTime + propio.dwLowDateTime) / porSegundo;
+#else
     return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+#endif
 }
 
 } // namespace
