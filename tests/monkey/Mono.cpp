@@ -3,6 +3,7 @@
 
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
+#include "tests/Procesador.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -16,11 +17,6 @@
 #include <QTabBar>
 #include <QTest>
 #include <algorithm>
-#include <ctime>
-
-#if defined(Q_OS_WIN)
-#include <windows.h>
-#endif
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -58,18 +54,6 @@ const QStringList &textos()
 bool esPulsable(const QAbstractButton *boton)
 {
     return boton->isEnabled() && !boton->objectName().startsWith(u"qt_"_s);
-}
-
-double segundosDeProcesador()
-{
-#if defined(Q_OS_WIN) // where std::clock tells the time of day
-    FILETIME principio, fin, nucleo, propio;
-    ::GetProcessTimes(::GetCurrentProcess(), &principio, &fin, &nucleo, &propio);
-    constexpr double porSegundo = 1e7;
-    return (nucleo.dwLowDateTime + propio.dwLowDateTime) / porSegundo;
-#else
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-#endif
 }
 
 } // namespace

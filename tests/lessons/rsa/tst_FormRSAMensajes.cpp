@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(linea(u"txtAsunto"_s)->text(), u"Cita"_s);
         QCOMPARE(mensaje()->toPlainText(), QString());
         QTest::keyClick(rejillaDeMensajes(), Qt::Key_Return);
-        QCOMPARE(mensaje()->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
+        QTRY_COMPARE(mensaje()->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
 
         pulsa(u"enviar"_s);
         const auto caja = Entorno::grabadora().unico();
