@@ -14,7 +14,7 @@ registro=$(mktemp)
 trap 'rm -f "$registro"; kill "$compania" 2>/dev/null || true' EXIT
 packaging/windows/wine.sh rundll32 user32.dll,MessageBeep </dev/null >/dev/null 2>&1
 resultado=0
-ctest --test-dir build/windows/programa --no-tests=error --output-on-failure "$@" | tee "$registro" || resultado=1
+ctest --test-dir build/windows/programa --no-tests=error --output-on-failure --parallel "$(nproc)" "$@" | tee "$registro" || resultado=1
 echo "Not run under Wine:"
 grep -v '^#' "$lista"
 printf 'under Wine: %s; not run there: %d\n' \
