@@ -4,30 +4,46 @@
 #include "shell/look/Dibujante.h"
 
 #include <QGuiApplication>
+#include <QHash>
 #include <QPixmapCache>
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// The picture of that key, drawn by `dibuja` where it has not been drawn lately: lists and buttons
+/// ask for theirs each time they are painted.
+template <typename Dibuja>
+QPixmap guardada(const QString &clave, Dibuja dibuja)
+{
+    QPixmap imagen;
+    if (QPixmapCache::find(clave, &imagen))
+        return imagen;
+    imagen = QPixmap::fromImage(dibuja());
+    QPixmapCache::insert(clave, imagen);
+    return imagen;
+}
+
+} // namespace
+
 QIcon Icono(const QString &nombre)
 {
-    return Dibujante::icono(nombre);
+    static QHash<QString, QIcon> iconos;
+    const auto hallado = iconos.constFind(nombre);
+    return hallado != iconos.cend() ? *hallado : *iconos.insert(nombre, Dibujante::icono(nombre));
 }
 
 QPixmap Imagen(const QString &nombre, int alto, qreal escala)
 {
-    return QPixmap::fromImage(Dibujante::imagen(nombre, alto, escala));
+    return guardada(u"%1@%2@%3"_s.arg(nombre).arg(alto).arg(escala),
+                    [&] { return Dibujante::imagen(nombre, alto, escala); });
 }
 
 QPixmap ImagenDeArchivo(const QString &ruta, qreal escala, bool oscura)
 {
     // Drawing the figures is the better part of opening a page.
-    const QString clave = u"%1@%2%3"_s.arg(ruta).arg(escala).arg(oscura ? u" oscura"_s : QString());
-    QPixmap imagen;
-    if (QPixmapCache::find(clave, &imagen))
-        return imagen;
-    imagen = QPixmap::fromImage(Dibujante::figura(ruta, escala, oscura));
-    QPixmapCache::insert(clave, imagen);
-    return imagen;
+    return guardada(u"%1@%2%3"_s.arg(ruta).arg(escala).arg(oscura ? u" oscura"_s : QString()),
+                    [&] { return Dibujante::figura(ruta, escala, oscura); });
 }
 
 QCursor Cursor(const QString &nombre, QPoint puntoActivo)

@@ -104,7 +104,11 @@ Tarea<> FormPrimosCriba::BtnCriba_Click()
         co_return;
     marcha.termina();
     muestraPrimos(std::move(lista), billete.detenida());
-    m_pasos->pon(pasosDeCriba(limite));
+    // The list and the steps would together keep a click waiting.
+    const auto turno = m_boton->turno();
+    co_await billete.cederYa();
+    if (turno == m_boton->turno())
+        m_pasos->pon(pasosDeCriba(limite));
 }
 
 void FormPrimosCriba::ponEnMarcha()

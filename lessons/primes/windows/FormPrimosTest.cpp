@@ -6,6 +6,7 @@
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/run/Aparte.h"
+#include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
@@ -28,16 +29,17 @@ constexpr std::int32_t BitsDelAlAzar = 1'800;
 
 } // namespace
 
-/// What tells that a call of the number service is going on, during which nothing is painted where
-/// the window does not answer: the hourglass and, where it may take more than two seconds, a line.
-/// Both stand on screen before the call begins.
+/// What tells that a call of the number service is going on: the hourglass and, where it may take
+/// more than two seconds, a line. Where nothing is painted meanwhile, both stand on screen before
+/// the call begins; where the window answers, there is a button that stops it.
 class FormPrimosTest::Reloj
 {
 public:
-    Reloj(FormPrimosTest *panel, bool larga) : m_panel(panel)
+    Reloj(FormPrimosTest *panel, bool larga)
+        : m_panel(panel), m_marcha(panel->m_corrida->empieza(panel->m_tareas.billete()))
     {
-        panel->m_enMarcha = true;
         panel->m_leccion->setCursor(Qt::WaitCursor);
+        panel->ui->cmdDetener->setVisible(Aparte::responde());
         if (!larga)
             return;
         panel->ui->lblEspera->setText(
@@ -50,16 +52,26 @@ public:
     }
     ~Reloj()
     {
-        m_panel->m_enMarcha = false;
-        m_panel->ui->lblEspera->clear();
+        if (m_marcha.vigente())
+            m_panel->quitaEspera();
     }
     Reloj(const Reloj &) = delete;
     Reloj &operator=(const Reloj &) = delete;
 
-    void quitaElReloj() { m_panel->m_leccion->unsetCursor(); }
+    const Billete &billete() const { return m_marcha.billete(); }
+
+    /// The call has returned: whether anybody still waits for it.
+    bool vuelve()
+    {
+        if (billete().detenida())
+            return false;
+        m_panel->m_leccion->unsetCursor();
+        return true;
+    }
 
 private:
     FormPrimosTest *m_panel;
+    BotonDeCorrida::Marcha m_marcha;
 };
 
 FormPrimosTest::FormPrimosTest(QWidget *leccion)
@@ -77,6 +89,9 @@ FormPrimosTest::FormPrimosTest(QWidget *leccion)
     Aspecto::destaca(ui->lblTest);
     Aspecto::destaca(ui->LabelPrimo);
     new LineasSegunTexto(ui->txtNúmero, 6, 14);
+    m_corrida =
+        new BotonDeCorrida(ui->cmdDetener, BotonDeCorrida::detener(), BotonDeCorrida::detener());
+    ui->cmdDetener->hide();
 
     conecta(ui->txtNúmero, &CampoLargo::textoCambiado, this, &FormPrimosTest::txtNumero_Change);
     conecta(ui->txtNúmero, &CampoLargo::returnPressed, this,
@@ -87,6 +102,8 @@ FormPrimosTest::FormPrimosTest(QWidget *leccion)
     conecta(ui->txtNumBits, &QLineEdit::returnPressed, this,
             [this] { ui->cmdNumBits->animateClick(); });
     conecta(ui->cmdNumBits, &QPushButton::clicked, this, &FormPrimosTest::cmdNumBits_Click);
+    conecta(ui->cmdDetener, &QPushButton::clicked, this, [this] { m_corrida->detiene(); });
+    conecta(m_corrida, &BotonDeCorrida::detenida, this, &FormPrimosTest::detenida);
     preparaPasos();
 }
 
@@ -137,16 +154,15 @@ void FormPrimosTest::txtNumero_Change()
 
 Tarea<> FormPrimosTest::cmdEsPrimo_Click()
 {
-    if (m_enMarcha)
+    if (m_corrida->enMarcha())
         co_return;
     const QString numero = ui->txtNúmero->text();
     const std::int32_t bits = NumeroDeBits(numero);
     {
         Reloj reloj(this, bits >= BitsDelTest);
-        const bool primo = co_await Aparte::esPrimo(numero, m_tareas.billete());
-        reloj.quitaElReloj();
+        const bool primo = co_await Aparte::esPrimo(numero, reloj.billete());
         // Another number may have been typed meanwhile.
-        if (ui->txtNúmero->text() != numero)
+        if (!reloj.vuelve() || ui->txtNúmero->text() != numero)
             co_return;
         SetSemaforo(primo);
     }
@@ -156,13 +172,12 @@ Tarea<> FormPrimosTest::cmdEsPrimo_Click()
 
 Tarea<> FormPrimosTest::cmdSigPrimo_Click()
 {
-    if (m_enMarcha)
+    if (m_corrida->enMarcha())
         co_return;
     const QString numero = ui->txtNúmero->text();
     Reloj reloj(this, NumeroDeBits(numero) >= BitsDelSiguiente);
-    const QString primo = co_await Aparte::primoSiguiente(numero, m_tareas.billete());
-    reloj.quitaElReloj();
-    if (ui->txtNúmero->text() != numero)
+    const QString primo = co_await Aparte::primoSiguiente(numero, reloj.billete());
+    if (!reloj.vuelve() || ui->txtNúmero->text() != numero)
         co_return;
     if (muestraPrimo(primo)) {
         const std::int32_t bits = NumeroDeBits(primo);
@@ -178,7 +193,7 @@ void FormPrimosTest::txtNumBits_Change()
 
 Tarea<> FormPrimosTest::cmdNumBits_Click()
 {
-    if (m_enMarcha)
+    if (m_corrida->enMarcha())
         co_return;
     const QString resultado = Evalua(ui->txtNumBits->text(), MaximoDeBits);
     if (!EsNumerico(resultado)) {
@@ -192,8 +207,24 @@ Tarea<> FormPrimosTest::cmdNumBits_Click()
         ui->txtNumBits->setFocus();
         co_return;
     }
-    const QString primo = co_await Aparte::primoAleatorio(bits, m_tareas.billete());
-    if (muestraPrimo(primo))
+    const QString primo = co_await Aparte::primoAleatorio(bits, reloj.billete());
+    if (reloj.vuelve() && muestraPrimo(primo))
         anota(primo, true, bits);
-    reloj.quitaElReloj();
+}
+
+/// At once, though what computes may take a moment to end.
+void FormPrimosTest::detenida()
+{
+    m_leccion->unsetCursor();
+    quitaEspera();
+    muestraNeutro(ui->LabelPrimo, Traduce(u"Detenida."_s));
+}
+
+void FormPrimosTest::quitaEspera()
+{
+    ui->lblEspera->clear();
+    // Who stops by the keyboard does not lose it.
+    if (ui->cmdDetener->hasFocus())
+        ui->txtNúmero->setFocus();
+    ui->cmdDetener->hide();
 }

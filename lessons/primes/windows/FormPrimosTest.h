@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <memory>
 
+class BotonDeCorrida;
 class PanelDePasos;
 
 namespace Ui {
@@ -40,6 +41,8 @@ private:
     Tarea<> cmdSigPrimo_Click();
     void txtNumBits_Change();
     Tarea<> cmdNumBits_Click();
+    void detenida();
+    void quitaEspera();
 
     void preparaPasos();
     void anota(const QString &numero, bool primo, int bits);
@@ -50,10 +53,10 @@ private:
 
     std::unique_ptr<Ui::FormPrimosTest> ui;
     QWidget *m_leccion;
+    BotonDeCorrida *m_corrida;
     PanelDePasos *m_pasos;
     ModeloFilas m_historial;
     QString m_probado; ///< the number of the verdict in sight; empty once the field has changed
     bool m_esPrimo = false;
-    bool m_enMarcha = false; ///< a call of the number service goes on
     TareasDeVentana m_tareas;
 };

@@ -68,59 +68,52 @@ module.exports = async (prueba) => {
         await prueba.navegador.visita(direccion);
         igual(await pide("sigue", "rsa/env-rec"), "");
     });
+    /// Expressions of the page: a message put into somebody's folder; what stands there, "name: contents" a line.
+    const pon = (quien, nombre, texto) => `await (async () => {
+            const suya = await raiz.getDirectoryHandle("${quien}", { create: true });
+            const salida = await (await suya.getFileHandle("${nombre}", { create: true })).createWritable();
+            await salida.write("${texto}");
+            await salida.close();
+        })();`;
+    const alla = () => prueba.navegador.evalua(`(async () => {
+        const suya = await raiz.getDirectoryHandle("estudiante"), hay = [];
+        for await (const [nombre, asa] of suya.entries())
+            hay.push(\`\${nombre}: \${await (await asa.getFile()).text()}\`);
+        return hay.sort();
+    })()`);
+    const aqui = () => prueba.navegador.evalua(`numora.FS.readdir("${buzon}/estudiante")
+        .filter((uno) => uno.endsWith(".msg")).map((uno) => numora.FS.readFile("${buzon}/estudiante/" + uno, { encoding: "utf8" }))`);
+    const deja = (nombre, texto) => `numora.FS.writeFile("${buzon}/estudiante/${nombre}", "${texto}");`;
+    const une = `await numora.buzon.une(raiz, ${JSON.stringify(buzon)});`;
+    const haz = (...ordenes) => prueba.navegador.evalua(`(async () => { ${ordenes.join("\n")} })()`);
+    const cuantas = (lista, texto) => lista.filter((uno) => uno.endsWith(texto)).length;
+
     // The browser's own private folder has the same methods as one that is granted; a script can grant none.
-    await comprueba("mailbox", "joined with a folder, both ways", async () => {
-        await prueba.navegador.evalua(`(async () => {
-            window.raiz = await (await navigator.storage.getDirectory()).getDirectoryHandle("curso", { create: true });
-            const ana = await raiz.getDirectoryHandle("ana", { create: true });
-            const salida = await (await ana.getFileHandle("RSA1.msg", { create: true })).createWritable();
-            await salida.write("eva\\r\\nPrueba\\r\\n1\\r\\n");
-            await salida.close();
-            await numora.buzon.une(raiz, ${JSON.stringify(buzon)});
-        })()`);
+    await comprueba("mailbox", "joined with a folder, both ways, as often as one joins it", async () => {
+        await haz(`window.raiz = await (await navigator.storage.getDirectory()).getDirectoryHandle("curso", { create: true });`,
+            pon("ana", "RSA1.msg", "eva\\r\\nPrueba\\r\\n1\\r\\n"), une);
         igual(await prueba.navegador.evalua(`numora.FS.readFile("${buzon}/ana/RSA1.msg", { encoding: "utf8" })`), "eva\r\nPrueba\r\n1\r\n");
-        const alla = () => prueba.navegador.evalua(`(async () => {
-            const suya = await raiz.getDirectoryHandle("estudiante"), nombres = [];
-            for await (const nombre of suya.keys())
-                nombres.push(nombre);
-            return nombres.sort().join();
-        })()`);
-        igual(await alla(), "Clave.RSA,RSA1.msg,RSA2.msg");
-        await prueba.navegador.evalua(`numora.FS.writeFile("${buzon}/estudiante/RSA3.msg", "a\\r\\nb\\r\\n")`);
-        await hasta(async () => (await alla()).endsWith("RSA3.msg"), "the third message", 10000);
+        const antes = await aqui();
+        const distintos = new Set(antes).size;
+        igual((await alla()).length, distintos + 1);
+        for (const texto of antes)
+            igual(cuantas(await alla(), texto), 1);
+        await haz(deja("RSA3.msg", "a\\r\\nb\\r\\n"));
+        await hasta(async () => cuantas(await alla(), ": a\r\nb\r\n") === 1, "the third message", 10000);
+        await haz(une);
+        igual((await alla()).length, distintos + 2);
+        igual((await aqui()).length, antes.length + 1);
     });
-    await comprueba("mailbox", "another's message that comes at the last moment is not replaced", async () => {
-        const leida = (nombre) => prueba.navegador.evalua(`(async () => {
-            const suya = await raiz.getDirectoryHandle("estudiante");
-            return (await (await suya.getFileHandle("${nombre}")).getFile()).text();
-        })()`);
-        // A folder in which it is not listed yet.
-        await prueba.navegador.evalua(`(async () => {
-            const suya = await raiz.getDirectoryHandle("estudiante");
-            const salida = await (await suya.getFileHandle("RSA4.msg", { create: true })).createWritable();
-            await salida.write("eva\\r\\najeno\\r\\n");
-            await salida.close();
-            numora.FS.writeFile("${buzon}/estudiante/RSA4.msg", "a\\r\\npropio\\r\\n");
-            await numora.buzon.une({
-                entries: () => raiz.entries(),
-                getDirectoryHandle: async (...cual) => {
-                    const real = await raiz.getDirectoryHandle(...cual);
-                    return {
-                        async *entries() {
-                            for await (const una of real.entries()) {
-                                if (una[0] !== "RSA4.msg")
-                                    yield una;
-                            }
-                        },
-                        getFileHandle: (...otra) => real.getFileHandle(...otra),
-                    };
-                },
-            }, ${JSON.stringify(buzon)});
-        })()`);
-        igual(await leida("RSA4.msg"), "eva\r\najeno\r\n");
-        await prueba.navegador.evalua(`numora.buzon.une(raiz, ${JSON.stringify(buzon)})`);
-        igual(await leida("RSA4.msg"), "eva\r\najeno\r\n");
-        igual(await leida("RSA5.msg"), "a\r\npropio\r\n");
+    await comprueba("mailbox", "two messages of one number at one moment are both kept, there and here", async () => {
+        await haz(pon("estudiante", "RSA4.msg", "eva\\r\\najeno\\r\\n"), deja("RSA4.msg", "a\\r\\npropio\\r\\n"), une);
+        for (const texto of ["eva\r\najeno\r\n", "a\r\npropio\r\n"]) {
+            igual(cuantas(await alla(), `: ${texto}`), 1);
+            igual(cuantas(await aqui(), texto), 1);
+        }
+        // What another one has begun to write is no message yet.
+        const antes = (await aqui()).length;
+        await haz(pon("estudiante", "RSA6.msg", ""), une);
+        igual((await aqui()).length, antes);
     });
     await comprueba("mailbox", "a folder that goes away is told", async () => {
         await prueba.navegador.evalua(`(async () => {

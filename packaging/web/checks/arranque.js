@@ -68,10 +68,12 @@ module.exports = async (prueba) => {
         await prueba.navegador.evalua('location.hash = "#euclides/nada"');
         await hasta(async () => (await prueba.navegador.pide("contesta", "OK")).includes("nada"), "the sentence");
     });
-    await comprueba("second tab", "says that there is a first", async () => {
+    await comprueba("second tab", "says that there is a first, and opens when that one is closed", async () => {
         const otra = await prueba.navegador.otraPestana(direccion);
         await hasta(async () => /ya está abierto/.test(await otra.evalua('document.querySelector("[role=alert]")?.textContent')),
             "the sentence");
+        await prueba.navegador.navega("about:blank");
+        await hasta(() => otra.evalua("Boolean(window.numora?.lista())"), "the program in the second tab");
         await otra.manda("Page.close");
     });
 };

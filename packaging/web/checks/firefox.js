@@ -3,25 +3,23 @@
 // without a helper. Ends with one line, as the groups of check.js do.
 "use strict";
 
-const { spawn } = require("node:child_process");
 const fs = require("node:fs");
 const os = require("node:os");
 const path = require("node:path");
 const WebSocket = require("ws");
-const { espera, hasta } = require("./navegador.js");
+const { hasta } = require("./navegador.js");
+const { Proceso } = require("./proceso.js");
 const { sirve } = require("./servidor.js");
 
 const [carpeta, retrato] = process.argv.slice(2);
 
-async function conecta(puerto) {
-    for (let vez = 0; ; ++vez) {
-        const enchufe = new WebSocket(`ws://127.0.0.1:${puerto}/session`, { maxPayload: 1 << 28 });
-        const abierto = await new Promise((listo) => enchufe.on("open", () => listo(true)).on("error", () => listo(false)));
-        if (abierto)
-            return enchufe;
-        if (vez > 300)
-            throw new Error("Firefox does not answer");
-        await espera(200);
+/// Where the browser says that it listens.
+function puertoDe(perfil) {
+    const nota = path.join(perfil, "WebDriverBiDiServer.json");
+    try {
+        return JSON.parse(fs.readFileSync(nota, "utf8")).ws_port;
+    } catch { /* not written yet, or not wholly */
+        return 0;
     }
 }
 
@@ -30,11 +28,11 @@ class Zorro {
         const zorro = new Zorro();
         zorro.perfil = fs.mkdtempSync(path.join(os.tmpdir(), "numora-zorro-"));
         fs.writeFileSync(path.join(zorro.perfil, "user.js"), 'user_pref("webgl.force-enabled", true);\nuser_pref("gfx.webrender.software", true);\nuser_pref("webgl.out-of-process", false);\n');
-        const puerto = 20000 + process.pid % 20000;
-        zorro.proceso = spawn("firefox-esr", ["--no-remote", "--profile", zorro.perfil,
-            `--remote-debugging-port=${puerto}`, "--width=1366", "--height=768", "about:blank"],
-            { stdio: "ignore", env: { ...process.env, LIBGL_ALWAYS_SOFTWARE: "1" } });
-        zorro.enchufe = await conecta(puerto);
+        zorro.proceso = new Proceso("firefox-esr", ["--no-remote", "--profile", zorro.perfil, "--remote-debugging-port=0",
+            "--width=1366", "--height=768", "about:blank"], zorro.perfil, { ...process.env, LIBGL_ALWAYS_SOFTWARE: "1" });
+        const puerto = await hasta(() => puertoDe(zorro.perfil), "Firefox's port");
+        zorro.enchufe = new WebSocket(`ws://127.0.0.1:${puerto}/session`, { maxPayload: 1 << 28 });
+        await new Promise((listo, mal) => zorro.enchufe.on("open", listo).on("error", mal));
         zorro.esperan = new Map();
         zorro.quejas = [];
         zorro.enchufe.on("message", (texto) => zorro.oye(JSON.parse(texto)));
@@ -111,10 +109,8 @@ async function todo() {
     if (falta)
         console.log(`    Firefox: WRONG: ${falta}`);
     console.log(`Firefox ${falta ? "FAILED" : "ok"}`);
-    zorro.proceso.kill();
+    await zorro.proceso.cierra();
     servidor.close();
-    await espera(1000);
-    fs.rmSync(zorro.perfil, { recursive: true, force: true, maxRetries: 5 });
     return !falta;
 }
 

@@ -2,11 +2,11 @@
 // Chromium without a window, spoken to over its debugging protocol (ws, of Debian's node-ws).
 "use strict";
 
-const { spawn } = require("node:child_process");
 const fs = require("node:fs");
 const os = require("node:os");
 const path = require("node:path");
 const WebSocket = require("ws");
+const { Proceso } = require("./proceso.js");
 
 const espera = (ms) => new Promise((listo) => setTimeout(listo, ms));
 
@@ -23,23 +23,26 @@ async function hasta(prueba, que, plazo = 60000) {
     }
 }
 
+const paginasDe = (puerto) => fetch(`http://127.0.0.1:${puerto}/json`).then((respuesta) => respuesta.json()).catch(() => []);
+
 class Navegador {
     /// `ancho` × `alto` is the size of the page. `carpeta` holds what a browser before it has kept.
     static async abre(ancho = 1366, alto = 768, carpeta = fs.mkdtempSync(path.join(os.tmpdir(), "numora-web-"))) {
         const navegador = new Navegador();
         Object.assign(navegador, { carpeta, bajados: path.join(carpeta, "bajados") });
-        fs.rmSync(path.join(carpeta, "DevToolsActivePort"), { force: true });
+        const nota = path.join(carpeta, "DevToolsActivePort");
+        fs.rmSync(nota, { force: true });
         // Qt wants WebGL, which software has to draw here.
-        navegador.proceso = spawn("chromium", ["--headless=new", "--no-sandbox", "--disable-dev-shm-usage",
+        navegador.proceso = new Proceso("chromium", ["--headless=new", "--no-sandbox", "--disable-dev-shm-usage",
             "--use-angle=swiftshader", "--enable-unsafe-swiftshader", "--ignore-gpu-blocklist",
-            "--remote-debugging-port=0", `--user-data-dir=${navegador.carpeta}`, `--window-size=${ancho},${alto}`,
-            "about:blank"], { stdio: "ignore" });
-        const nota = path.join(navegador.carpeta, "DevToolsActivePort");
-        const [puerto] = await hasta(() => fs.existsSync(nota) && fs.readFileSync(nota, "utf8").split("\n"),
-            "the browser's debugging port");
-        const paginas = await (await hasta(() => fetch(`http://127.0.0.1:${puerto}/json`).catch(() => null),
-            "the browser's pages")).json();
-        await navegador.conecta(paginas.find((pagina) => pagina.type === "page").webSocketDebuggerUrl);
+            "--remote-debugging-port=0", `--user-data-dir=${carpeta}`, `--window-size=${ancho},${alto}`, "about:blank"],
+            carpeta);
+        // The port stands there whole when the second line does.
+        const [puerto] = await hasta(() => fs.existsSync(nota) && /^[0-9]+\n\S/.test(fs.readFileSync(nota, "utf8"))
+            && fs.readFileSync(nota, "utf8").split("\n"), "the browser's debugging port");
+        const pagina = await hasta(async () => (await paginasDe(puerto)).find(({ type }) => type === "page"),
+            "the browser's page");
+        await navegador.conecta(pagina.webSocketDebuggerUrl);
         await navegador.manda("Emulation.setDeviceMetricsOverride",
             { width: ancho, height: alto, deviceScaleFactor: 1, mobile: false });
         await navegador.manda("Emulation.setFocusEmulationEnabled", { enabled: true });
@@ -54,14 +57,20 @@ class Navegador {
         this.esperan = new Map();
         this.quejas = [];
         this.enchufe.on("message", (texto) => this.oye(JSON.parse(texto)));
+        this.enchufe.on("close", () => {
+            for (const { mal } of this.esperan.values())
+                mal(new Error("the browser has gone"));
+            this.esperan.clear();
+        });
         return new Promise((listo, mal) => this.enchufe.on("open", listo).on("error", mal)).then(() =>
             Promise.all(["Page", "Runtime", "Log", "Network"].map((parte) => this.manda(`${parte}.enable`))));
     }
 
     oye(mensaje) {
         if (mensaje.id) {
-            const { listo, mal } = this.esperan.get(mensaje.id);
-            this.esperan.delete(mensaje.id);
+            const { listo, mal } = this.esperan.get(mensaje.id) ?? {};
+            if (!this.esperan.delete(mensaje.id))
+                return undefined;
             return mensaje.error ? mal(new Error(mensaje.error.message)) : listo(mensaje.result);
         }
         const datos = mensaje.params;
@@ -77,6 +86,8 @@ class Navegador {
 
     manda(method, params = {}) {
         const id = ++this.turno;
+        if (this.enchufe.readyState !== WebSocket.OPEN)
+            return Promise.reject(new Error("the browser has gone"));
         this.enchufe.send(JSON.stringify({ id, method, params }));
         return new Promise((listo, mal) => this.esperan.set(id, { listo, mal }));
     }
@@ -94,18 +105,41 @@ class Navegador {
         return this.evalua(`window.numora.${nombre}(${argumentos.map((uno) => JSON.stringify(uno)).join(", ")})`);
     }
 
+    async navega(url) {
+        const { errorText } = await this.manda("Page.navigate", { url });
+        if (errorText)
+            throw new Error(`${url}: ${errorText}`);
+    }
+
+    /// What the page says of its loading, for whom it waits in vain.
+    async dicho() {
+        const texto = this.evalua('`${location.href}: ${document.getElementById("estado")?.textContent}`');
+        return Promise.race([texto, espera(5000).then(() => "nothing, it does not answer")]).catch((error) => error.message);
+    }
+
     /// Opens an address and waits until the program's main window has been painted; how long that took, in ms.
-    async visita(direccion) {
-        await this.manda("Page.navigate", { url: "about:blank" });
-        await this.manda("Page.navigate", { url: direccion });
+    async visita(direccion, plazo = 120000) {
+        await this.navega("about:blank");
+        await this.navega(direccion);
         const pintada = `new Promise((listo) => {
             const mira = () => window.numora && window.numora.lista()
                 ? requestAnimationFrame(() => requestAnimationFrame(() => listo(performance.now())))
                 : setTimeout(mira, 5);
-            mira();
+            location.protocol === "about:" ? listo(0) : mira();
         })`;
-        const tarde = espera(120000).then(() => { throw new Error(`no program at ${direccion}`); });
-        return Math.round(await Promise.race([this.evalua(pintada), tarde]));
+        // A page that goes away takes the question with it: it is asked again, of the one that has come.
+        const hecha = async (limite) => {
+            for (let hora = 0; Date.now() < limite; await espera(20)) {
+                hora = await this.evalua(pintada).catch(() => 0);
+                if (hora)
+                    return Math.round(hora);
+            }
+            return 0;
+        };
+        const tiempo = await Promise.race([hecha(Date.now() + plazo), espera(plazo).then(() => 0)]);
+        if (!tiempo)
+            throw new Error(`no program within ${plazo / 1000} s, the page says ${await this.dicho()}`);
+        return tiempo;
     }
 
     /// Until the next event of that name.
@@ -157,28 +191,15 @@ class Navegador {
         return otra;
     }
 
-    /// Lets this browser go before whatever else the machine does, where that is allowed: for what is measured in time.
+    /// Lets this browser go before whatever else the machine does.
     adelanta() {
-        const padres = new Map();
-        for (const pid of fs.readdirSync("/proc").filter((uno) => /^[0-9]+$/.test(uno))) {
-            try {
-                padres.set(Number(pid), Number(/\) . ([0-9]+)/.exec(fs.readFileSync(`/proc/${pid}/stat`, "utf8"))[1]));
-            } catch { /* it has ended */ }
-        }
-        const esMio = (pid) => pid === this.proceso.pid || (padres.has(pid) && esMio(padres.get(pid)));
-        for (const pid of [...padres.keys()].filter(esMio)) {
-            try {
-                for (const hilo of fs.readdirSync(`/proc/${pid}/task`))
-                    os.setPriority(Number(hilo), -15);
-            } catch { /* it has ended, or it is not allowed */ }
-        }
+        this.proceso.adelanta();
     }
 
     /// Without a word of warning to the page.
     mata() {
         this.enchufe.close();
-        this.proceso.kill("SIGKILL");
-        return espera(1000);
+        return this.proceso.mata();
     }
 
     /// A browser that has what this one has kept, which is gone.
@@ -193,8 +214,7 @@ class Navegador {
 
     cierra() {
         this.enchufe.close();
-        this.proceso.kill();
-        return espera(500).then(() => fs.rmSync(this.carpeta, { recursive: true, force: true, maxRetries: 5 }));
+        return this.proceso.cierra();
     }
 }
 

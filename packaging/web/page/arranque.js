@@ -5,6 +5,7 @@
 (() => {
     // How many bytes come, put here by the build: a server that compresses does not tell.
     const bytes = { "numora.wasm": 0, "numora.data": 0 };
+    const esperaALaOtra = 2000;
 
     const consulta = new URLSearchParams(location.search);
     const idioma = consulta.get("i") === "English" ? 1 : 0;
@@ -15,8 +16,8 @@
         llega: ["Se carga el programa: %1 de %2 MB", "Loading the program: %1 of %2 MB"],
         datos: ["Se recupera lo guardado…", "Bringing back what was kept…"],
         abre: ["Se abre el programa…", "Opening the program…"],
-        otra: ["Numora ya está abierto en otra pestaña. Ciérrela y vuelva a cargar esta página.",
-            "Numora is open in another tab. Close it and load this page again."],
+        otra: ["Numora ya está abierto en otra pestaña. En cuanto la cierre, se abrirá aquí.",
+            "Numora is open in another tab. As soon as you close that one, it opens here."],
         red: ["No se ha podido cargar el programa. Compruebe la conexión y vuelva a intentarlo.",
             "The program could not be loaded. Check the connection and try again."],
         fallo: ["El programa se ha detenido por un fallo. Vuelva a cargar la página; lo guardado sigue ahí.",
@@ -148,13 +149,16 @@
         });
     }
 
-    /// One tab at a time: two would overwrite what the other one keeps.
+    /// One tab at a time: two would overwrite what the other one keeps. The page before this one, of a reload, may still
+    /// be about to go.
     function soloUna(hace) {
         if (!navigator.locks)
             return hace();
-        return navigator.locks.request("numora", { ifAvailable: true }, async (cerrojo) => {
-            if (!cerrojo)
-                return falla("otra");
+        const tarde = setTimeout(() => falla("otra"), esperaALaOtra);
+        return navigator.locks.request("numora", async () => {
+            clearTimeout(tarde);
+            avance.hidden = false;
+            estado.setAttribute("role", "status");
             await hace();
             return new Promise(() => {});
         });

@@ -11,9 +11,9 @@ function creaBuzon(modulo) {
     const interesa = (nombre) => esMensaje(nombre) || nombre.toUpperCase() === "CLAVE.RSA";
     const mayorArchivo = 1 << 26;
 
-    const existe = (ruta) => FS.analyzePath(ruta).exists;
     const nombres = (ruta) => FS.readdir(ruta).filter((uno) => uno !== "." && uno !== "..");
     const iguales = (a, b) => a.length === b.length && a.every((uno, i) => uno === b[i]);
+    const horaDe = (ruta) => FS.stat(ruta).mtime.getTime();
 
     /// The files of a folder that concern the mailbox, by their names.
     async function archivosDe(carpeta) {
@@ -32,61 +32,67 @@ function creaBuzon(modulo) {
         await salida.close();
     }
 
-    /// The first number that neither side has.
-    function nombreLibre(ocupados) {
+    /// The first number that no message has here.
+    function nombreLibre(ruta) {
+        const ocupados = new Set(nombres(ruta).map((uno) => uno.toUpperCase()));
         for (let numero = 1; ; ++numero) {
             const nombre = `RSA${numero.toString(16).toUpperCase()}.msg`;
-            if (!ocupados.has(nombre))
+            if (!ocupados.has(nombre.toUpperCase()))
                 return nombre;
         }
     }
 
-    /// Nobody can claim a name here as long as it is not there: it is looked for at the last moment.
-    async function estaAlli(carpeta, nombre) {
-        try {
-            await carpeta.getFileHandle(nombre);
-            return true;
-        } catch (error) {
-            if (error.name === "NotFoundError")
-                return false;
-            throw error;
-        }
+    /// A page cannot claim a name before it writes. So a message takes a number made of its contents: whoever takes the same
+    /// one at the same moment writes the same message. What counts from 1 upward, as the program does, never comes so far.
+    async function nombreDe(bytes) {
+        const huella = new Uint8Array(await crypto.subtle.digest("SHA-256", bytes)).subarray(0, 7);
+        const cifras = [...huella].map((uno) => uno.toString(16).padStart(2, "0")).join("").toUpperCase();
+        return `RSA1${cifras}.msg`;
     }
 
-    let carpeta, propia, conocidos, ocupado = false, fallos = 0;
+    let union, ocupado = false;
 
-    async function trae(usuario, ellos) {
-        for (const [nombre, asa] of ellos) {
+    const mensajesDe = (ruta) => nombres(ruta).filter(esMensaje).map((nombre) => ({ nombre, bytes: FS.readFile(`${ruta}/${nombre}`) }));
+
+    async function trae({ propia, vistos, llevados }, usuario, suya) {
+        const ruta = `${propia}/${usuario}`;
+        let aqui;
+        for (const [nombre, asa] of await archivosDe(suya)) {
             const archivo = await asa.getFile(), clave = `${usuario}/${nombre}`;
             const senal = `${archivo.size} ${archivo.lastModified}`;
-            if (conocidos.get(clave) === senal || archivo.size > mayorArchivo)
+            // An empty one is about to be written.
+            if (vistos.get(clave) === senal || archivo.size === 0 || archivo.size > mayorArchivo)
                 continue;
-            const bytes = new Uint8Array(await archivo.arrayBuffer()), ruta = `${propia}/${clave}`;
-            // A message of ours that nobody has fetched yet keeps its place under another number.
-            if (esMensaje(nombre) && existe(ruta) && !conocidos.has(clave) && !iguales(FS.readFile(ruta), bytes))
-                FS.rename(ruta, `${propia}/${usuario}/${nombreLibre(new Set([...ellos.keys(), ...nombres(`${propia}/${usuario}`)]))}`);
-            FS.writeFile(ruta, bytes);
-            conocidos.set(clave, senal);
-            conocidos.set(`${clave}|aqui`, FS.stat(ruta).mtime.getTime());
+            const bytes = new Uint8Array(await archivo.arrayBuffer());
+            aqui ??= mensajesDe(ruta);
+            // It may be here already under another number, and another one under its number.
+            let sitio = esMensaje(nombre) && aqui.find((uno) => iguales(uno.bytes, bytes))?.nombre;
+            if (!sitio) {
+                sitio = aqui.some((uno) => uno.nombre.toUpperCase() === nombre.toUpperCase()) ? nombreLibre(ruta) : nombre;
+                FS.writeFile(`${ruta}/${sitio}`, bytes);
+                aqui.push({ nombre: sitio, bytes });
+            }
+            llevados.set(`${usuario}/${sitio}`, horaDe(`${ruta}/${sitio}`));
+            vistos.set(clave, senal);
         }
     }
 
-    async function lleva(usuario, suya) {
+    async function lleva({ propia, vistos, llevados }, usuario, suya) {
         for (const nombre of nombres(`${propia}/${usuario}`).filter(interesa)) {
-            const clave = `${usuario}/${nombre}`, hora = FS.stat(`${propia}/${clave}`).mtime.getTime();
-            if (conocidos.get(`${clave}|aqui`) === hora)
+            const clave = `${usuario}/${nombre}`, hora = horaDe(`${propia}/${clave}`);
+            if (llevados.get(clave) === hora)
                 continue;
-            // Another's that has come since the folder was listed: at the next look ours gets another number.
-            if (esMensaje(nombre) && !conocidos.has(clave) && await estaAlli(suya, nombre))
-                continue;
-            await escribe(suya, nombre, FS.readFile(`${propia}/${clave}`));
-            const archivo = await (await suya.getFileHandle(nombre)).getFile();
-            conocidos.set(clave, `${archivo.size} ${archivo.lastModified}`);
-            conocidos.set(`${clave}|aqui`, hora);
+            const bytes = FS.readFile(`${propia}/${clave}`);
+            const alli = esMensaje(nombre) ? await nombreDe(bytes) : nombre;
+            await escribe(suya, alli, bytes);
+            const archivo = await (await suya.getFileHandle(alli)).getFile();
+            vistos.set(`${usuario}/${alli}`, `${archivo.size} ${archivo.lastModified}`);
+            llevados.set(clave, hora);
         }
     }
 
-    async function mira() {
+    async function mira(una) {
+        const { carpeta, propia } = una;
         const usuarios = new Set(nombres(propia).filter((uno) => FS.isDir(FS.stat(`${propia}/${uno}`).mode)));
         for await (const [nombre, asa] of carpeta.entries()) {
             if (asa.kind === "directory" && !nombre.startsWith("."))
@@ -95,9 +101,8 @@ function creaBuzon(modulo) {
         for (const usuario of usuarios) {
             FS.mkdirTree(`${propia}/${usuario}`);
             const suya = await carpeta.getDirectoryHandle(usuario, { create: true });
-            const ellos = await archivosDe(suya);
-            await trae(usuario, ellos);
-            await lleva(usuario, suya);
+            await trae(una, usuario, suya);
+            await lleva(una, usuario, suya);
         }
     }
 
@@ -105,12 +110,13 @@ function creaBuzon(modulo) {
         if (ocupado)
             return;
         ocupado = true;
+        const una = union;
         try {
-            await mira();
-            fallos = 0;
+            await mira(una);
+            una.fallos = 0;
         } catch (error) {
             console.warn(error);
-            if (++fallos === masFallos) {
+            if (++una.fallos === masFallos && una === union) {
                 clearInterval(buzon.ronda);
                 modulo.buzonUnido("");
             }
@@ -136,8 +142,9 @@ function creaBuzon(modulo) {
         /// Joins a folder that is granted already.
         async une(otra, ruta) {
             clearInterval(buzon.ronda);
-            [carpeta, propia, conocidos, fallos] = [otra, ruta, new Map(), 0];
-            await mira();
+            // Of what is there, how it looked when it was read; of what is here, when it was written.
+            union = { carpeta: otra, propia: ruta, vistos: new Map(), llevados: new Map(), fallos: 0 };
+            await mira(union);
             buzon.ronda = setInterval(vuelveAMirar, entreMiradas);
         },
     };

@@ -122,7 +122,10 @@ Tarea<> FormRecursion3Ackermann::corre(Ack::Llamada llamada, std::int32_t corte)
     if (!marcha.vigente())
         co_return;
     muestraFin(llamada, valor);
-    Q_EMIT hayPasos(pasosDeAck(llamada, corte));
+    // The table and the steps would together keep a click waiting.
+    co_await billete.cederYa();
+    if (marcha.vigente())
+        Q_EMIT hayPasos(pasosDeAck(llamada, corte));
 }
 
 void FormRecursion3Ackermann::ponEnMarcha()
