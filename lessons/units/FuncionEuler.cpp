@@ -21,7 +21,7 @@ QString producto(const QStringList &factores)
 /// "p^(k-1)·(p - 1)" as it is written by hand.
 QString formulaDe(const FuncionEuler::Factor &factor)
 {
-    const QString menosUno = u"(%1 − 1)"_s.arg(factor.primo);
+    QString menosUno = u"(%1 − 1)"_s.arg(factor.primo);
     if (factor.exponente == u"1"_s)
         return menosUno;
     const int k = factor.exponente.toInt() - 1;

@@ -211,7 +211,7 @@ QString AlmacenDeProgreso::enUnaTransaccion(const std::function<bool()> &accion)
         return motivo();
     if (accion() && ejecuta(u"COMMIT"_s))
         return {};
-    const QString porque = motivo();
+    QString porque = motivo();
     const int codigo = m_codigo;
     ejecuta(u"ROLLBACK"_s);
     m_codigo = codigo;

@@ -16,7 +16,7 @@ public:
 
     /// The longest file that is read, in bytes: a profile is a few kilobytes, so what is longer is
     /// not one.
-    static constexpr qint64 TamanoMaximo = 4 * 1024 * 1024;
+    static constexpr qint64 TamanoMaximo = qint64{4} * 1024 * 1024;
 
     Perfil();
     ~Perfil();

@@ -31,8 +31,8 @@ QStringList divisoresDe(const QString &n)
     QStringList primos;
     const qulonglong pequeno = n.size() < 6 ? n.toULongLong() : 0;
     for (const QString &primo : basesPrimas()) {
-        const int p = primo.toInt();
-        if (p > MayorDivisor || (pequeno > 0 && static_cast<qulonglong>(p * p) > pequeno))
+        const qulonglong p = primo.toULongLong();
+        if (p > MayorDivisor || (pequeno > 0 && p * p > pequeno))
             break;
         primos << primo;
     }

@@ -21,7 +21,7 @@ namespace ArchivoMensaje {
 
 /// The longest file that is written or read, in bytes, and the most blocks in it: 100 000
 /// characters for a key of 2000 bits.
-inline constexpr qint64 MaximoDeBytes = 64 * 1024 * 1024;
+inline constexpr qint64 MaximoDeBytes = qint64{64} * 1024 * 1024;
 inline constexpr qsizetype MaximoDeBloques = 1'000'000;
 
 /// The first two lines of a message take no more bytes than this.
