@@ -33,10 +33,6 @@ if(NUMORA_SANITIZE_THREADS)
     target_compile_options(numora_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
     target_link_options(numora_options INTERFACE -fsanitize=thread)
 endif()
-if(NUMORA_FUZZ)
-    # Counts the edges that an input reaches, which is what guides the fuzzer.
-    target_compile_options(numora_options INTERFACE -fsanitize=fuzzer-no-link)
-endif()
 
 # The same for code that uses Qt, without Qt's silent conversions.
 add_library(numora_qt_options INTERFACE)

@@ -1,14 +1,17 @@
 # numora_test(NAME SOURCES... [LIBS libs...]) builds a Qt Test program and hands it to CTest.
-# Tests run without a display, in a fixed locale, and may take a minute (five under sanitizers).
+# Tests run without a display, in a fixed locale, and may take a minute (five under sanitizers, twenty under Wine).
 # Those of windows have the label "windows"; all others are built by the target logic_tests.
 add_custom_target(logic_tests)
 # Before a path of this machine that a test is compiled with: Wine has this machine's root under a letter.
 set(NUMORA_ROOT "")
 set(NUMORA_TEST_OUTPUT "")
+set(NUMORA_TEST_TIMEOUT 300)
 if(WIN32 AND CMAKE_CROSSCOMPILING)
     set(NUMORA_ROOT "Z:")
     # Plain text would go to the system's debugger.
     set(NUMORA_TEST_OUTPUT -tap)
+    # Beside other builds that take most of the machine.
+    set(NUMORA_TEST_TIMEOUT 1200)
 endif()
 function(numora_test NAME)
     cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
@@ -38,6 +41,6 @@ function(numora_test NAME)
     set_tests_properties(${NAME} PROPERTIES
         # Wine may call a crash a good end.
         FAIL_REGULAR_EXPRESSION "wine: Unhandled"
-        TIMEOUT 300
+        TIMEOUT ${NUMORA_TEST_TIMEOUT}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0;TSAN_OPTIONS=ignore_noninstrumented_modules=1")
 endfunction()

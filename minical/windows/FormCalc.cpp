@@ -149,6 +149,9 @@ void FormCalc::preparaBarra()
     m_barra->setObjectName(u"Toolbar"_s);
     m_barra->setWindowTitle(Traduce(u"Órdenes de la hoja"_s));
     m_barra->setIconSize({24, 24});
+    // Qt's own, for what does not fit.
+    if (auto *mas = m_barra->findChild<QToolButton *>(u"qt_toolbar_ext_button"_s))
+        mas->setAccessibleName(Traduce(u"Más órdenes"_s));
     static_cast<QBoxLayout *>(layout())->insertWidget(0, m_barra);
 
     preparaPrecision();

@@ -2,6 +2,7 @@
 #include "practice/store/AlmacenDeProgreso.h"
 
 #include "shell/core/ModGlobal.h"
+#include "shell/core/system/Disco.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -84,8 +85,10 @@ AlmacenDeProgreso::Apertura AlmacenDeProgreso::abre()
     QFile archivo(ruta());
     // Made before SQLite makes it, so that it is private from its first byte on; the journals take
     // over its permissions.
-    if (!archivo.exists() && archivo.open(QIODevice::NewOnly | QIODevice::WriteOnly))
+    if (!archivo.exists() && archivo.open(QIODevice::NewOnly | QIODevice::WriteOnly)) {
+        soloParaSuDuena(archivo);
         archivo.close();
+    }
     archivo.setPermissions(soloDueno);
     m_base = QSqlDatabase::addDatabase(u"QSQLITE"_s, m_conexion);
     m_base.setDatabaseName(ruta());

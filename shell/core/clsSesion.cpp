@@ -9,7 +9,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,13 +52,6 @@ void clsSesión::ponCarpeta(const QString &carpeta)
 QString clsSesión::carpetaDeAjustes() const
 {
     return QFileInfo(m_almacen.fileName()).absolutePath();
-}
-
-QString clsSesión::carpetaDeDatos() const
-{
-    return m_carpetaDeDatos.isEmpty()
-               ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
-               : m_carpetaDeDatos;
 }
 
 QString clsSesión::DptoURL() const

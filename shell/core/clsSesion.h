@@ -25,11 +25,6 @@ public:
     /// The folder of the user's settings file.
     QString carpetaDeAjustes() const;
 
-    /// The folder for what the program keeps for the user, which need not exist yet.
-    QString carpetaDeDatos() const;
-    /// Another one, for a program that is to leave no trace.
-    void ponCarpetaDeDatos(const QString &carpeta) { m_carpetaDeDatos = carpeta; }
-
     QString DptoURL() const;
     QString TarvoURL() const;
 
@@ -59,7 +54,6 @@ private:
     mutable QSettings m_almacen;
     QString m_carpetaPrograma;
     QString m_carpeta;
-    QString m_carpetaDeDatos;
 };
 
 /// The one session of the process, created at its first use.

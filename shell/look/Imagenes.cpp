@@ -29,6 +29,8 @@ QPixmap guardada(const QString &clave, Dibuja dibuja)
 QIcon Icono(const QString &nombre)
 {
     static QHash<QString, QIcon> iconos;
+    if (iconos.isEmpty())
+        qAddPostRoutine([] { iconos.clear(); }); // pixmaps do not outlive the application
     const auto hallado = iconos.constFind(nombre);
     return hallado != iconos.cend() ? *hallado : *iconos.insert(nombre, Dibujante::icono(nombre));
 }

@@ -112,6 +112,9 @@ private Q_SLOTS:
         write(folder.filePath(u"estilo.css"_s), u"/* .nada { */\n.caja { color: red; }"_s);
         write(folder.filePath(u"otra.html"_s), u"<html><p id=\"b\">x</p></html>"_s);
         write(folder.filePath(u"f/f.svg"_s), svg(QString()));
+        if (QByteArray(QTest::currentDataTag()).startsWith("letter case") &&
+            QFile::exists(folder.filePath(u"OTRA.html"_s)))
+            QSKIP("names have no letter case here");
         const QString file = text.startsWith(u"<svg") ? u"esta.svg"_s : u"esta.html"_s;
         write(folder.filePath(file), text);
 

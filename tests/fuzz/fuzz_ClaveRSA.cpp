@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
@@ -29,7 +30,7 @@ void start()
     static char name[] = "fuzz_ClaveRSA";
     static char *argv[] = {name, nullptr};
     static const QCoreApplication application(argc, argv);
-    qputenv("XDG_CONFIG_HOME", workingFolder().path().toLocal8Bit());
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, workingFolder().path());
     Sesión().ponCarpeta(workingFolder().path());
 }
 

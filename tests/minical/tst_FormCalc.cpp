@@ -56,6 +56,14 @@ private Q_SLOTS:
         QVERIFY(!boton->icon().isNull());
     }
 
+    void loQueNoCabeEnLaBarraSeAnuncia()
+    {
+        m->ventana()->resize(320, 400);
+        const auto *mas = control<QToolButton>(m->ventana(), u"qt_toolbar_ext_button"_s);
+        QTRY_VERIFY(mas->isVisible());
+        QCOMPARE(mas->accessibleName(), u"Más órdenes"_s);
+    }
+
     void borrarYDeshacer()
     {
         m->entra(u"A1", u"5"_s);

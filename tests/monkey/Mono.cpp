@@ -3,6 +3,7 @@
 
 #include "shell/frame/BotonDeCorrida.h"
 #include "shell/frame/FormLeccion.h"
+#include "tests/Procesador.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -16,7 +17,6 @@
 #include <QTabBar>
 #include <QTest>
 #include <algorithm>
-#include <ctime>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -54,11 +54,6 @@ const QStringList &textos()
 bool esPulsable(const QAbstractButton *boton)
 {
     return boton->isEnabled() && !boton->objectName().startsWith(u"qt_"_s);
-}
-
-double segundosDeProcesador()
-{
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 } // namespace

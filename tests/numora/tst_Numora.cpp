@@ -88,6 +88,9 @@ private Q_SLOTS:
     void arrancaConAjustesDanados()
     {
         ponAjustes({"[Programa]\nPrecisi%F3n=mucha\nVentana=@Variant(\0\xff\n[[[\n", 52});
+#if defined(Q_OS_WIN) // where a program is asked to go through its windows
+        m_entorno.insert(u"QT_QPA_PLATFORM"_s, u"windows"_s);
+#endif
         arranca({});
         QVERIFY(!m_programa.waitForFinished(3000));
         m_programa.terminate();
@@ -135,11 +138,7 @@ private:
         QFile archivo(m_ajustes);
         QVERIFY(archivo.open(QIODevice::WriteOnly));
         archivo.write(contenido);
-#if defined(Q_OS_WIN) // where a program is asked to go through its windows
-        m_entorno.insert(u"QT_QPA_PLATFORM"_s, u"windows"_s);
-#else
         m_entorno.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-#endif
         m_entorno.insert(u"XDG_CONFIG_HOME"_s, m_carpeta->path());
     }
 

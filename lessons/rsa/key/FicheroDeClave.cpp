@@ -2,6 +2,7 @@
 #include "lessons/rsa/key/FicheroDeClave.h"
 
 #include "bignum/gateway/ErrorEjecucion.h"
+#include "shell/core/CarpetaDeDatos.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Perfil.h"
 #include "shell/core/Rutas.h"
@@ -10,18 +11,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 using namespace Qt::Literals::StringLiterals;
 
 const QString FicheroClavePublica = u"Clave.RSA"_s;
 
 namespace {
-
-QString carpetaDeDatos()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Numora"_s;
-}
 
 /// A file is replaced by one that is made beside it, so that the folder has to be writable.
 bool seEscribeEn(const QString &carpeta)

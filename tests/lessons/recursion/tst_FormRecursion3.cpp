@@ -355,7 +355,7 @@ private:
     void corre(const QString &nombre)
     {
         boton(nombre)->click();
-        QTRY_COMPARE(boton(nombre)->toolTip(), u"Calcular"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(boton(nombre)->toolTip(), u"Calcular"_s, 60'000);
         QVERIFY(!timerAck()->isActive());
     }
 

@@ -29,6 +29,7 @@ public:
         entorno.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         entorno.insert(u"QT_PLUGIN_PATH"_s, QStringLiteral(CARPETA_DEL_PILOTO));
         entorno.insert(u"QT_QPA_GENERIC_PLUGINS"_s, u"piloto"_s);
+        entorno.insert(u"PILOTO_AJUSTES"_s, carpeta.filePath(u"ajustes"_s));
         entorno.insert(u"PILOTO_GUION"_s, carpeta.filePath(u"guion"_s));
         m_proceso.setProcessEnvironment(entorno);
         m_proceso.start(QStringLiteral(PROGRAMA), QStringList());
@@ -41,7 +42,9 @@ public:
             m_proceso.kill();
             m_proceso.waitForFinished();
         }
-        const QString notas = QString::fromUtf8(m_proceso.readAllStandardOutput()).trimmed();
+        const QString notas = QString::fromUtf8(m_proceso.readAllStandardOutput())
+                                  .trimmed()
+                                  .replace(u"\r\n"_s, u"\n"_s);
         if (m_proceso.exitStatus() == QProcess::NormalExit && m_proceso.exitCode() == 0)
             return notas;
         return u"%1: %2 %3"_s.arg(m_proceso.exitCode())

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/Tabla.h"
 #include "tests/lessons/rsa/support/VentanaRSA.h"
+#include "tests/shell/support/Permisos.h"
 
 /// The mailbox: publishing, sending, receiving.
 class TestFormRSAMensajes : public QObject, private VentanaRSA
@@ -72,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(linea(u"txtAsunto"_s)->text(), u"Cita"_s);
         QCOMPARE(mensaje()->toPlainText(), QString());
         QTest::keyClick(rejillaDeMensajes(), Qt::Key_Return);
-        QCOMPARE(mensaje()->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
+        QTRY_COMPARE(mensaje()->toPlainText(), u"¿A las 5?\nSí: 3 €"_s);
 
         pulsa(u"enviar"_s);
         const auto caja = Entorno::grabadora().unico();
@@ -98,8 +99,13 @@ private Q_SLOTS:
 
     void soloSuDuenoLoLee()
     {
-        m_yo->escribe(u"<i>ana/Clave.RSA"_s, "[RSA]\r\nq=67591\r\ns=5\r\n");
-        m_yo->escribe(u"<i>ana/RSA1.msg"_s, "luis\r\nhola\r\n57666\r\n43715\r\n");
+#if defined(Q_OS_WIN) // where no name has the signs of a tag
+        const QString ana = u"&lt;ana"_s;
+#else
+        const QString ana = u"<i>ana"_s;
+#endif
+        m_yo->escribe(ana + u"/Clave.RSA"_s, "[RSA]\r\nq=67591\r\ns=5\r\n");
+        m_yo->escribe(ana + u"/RSA1.msg"_s, "luis\r\nhola\r\n57666\r\n43715\r\n");
         preparaBuzon(u"269"_s, u"271"_s, u"7"_s);
         eligeFila(0);
         QCOMPARE(control<QLabel>(m_ventana.get(), u"LabelTexto"_s)->textFormat(), Qt::PlainText);
@@ -164,8 +170,7 @@ private Q_SLOTS:
         for (const QString &usuario : {u"ana"_s, u"eva"_s})
             eligeUsuario(usuario);
         const QString copia = m_yo->ficheroPrivado() + u".propia"_s;
-        QCOMPARE(QFileInfo(copia).permissions() & (QFile::ReadGroup | QFile::ReadOther),
-                 QFile::Permissions());
+        QVERIFY(esSoloDeSuDuena(copia));
         const QByteArray ajena = m_yo->clavePrivada();
         QVERIFY(ajena.contains("q(1)=\r\n"));
         QVERIFY(QFile::copy(copia, copia + u".aparte"_s));

@@ -88,6 +88,10 @@ Entorno::Entorno(int argc, char *argv[])
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+#if defined(Q_OS_WIN) // where nobody tells Qt without a display what these names stand for
+    QFont::insertSubstitution(u"Sans Serif"_s, u"DejaVu Sans"_s);
+    QFont::insertSubstitution(u"monospace"_s, u"DejaVu Sans Mono"_s);
+#endif
     aplicacion = std::make_unique<QApplication>(argumentos, argv);
     presentaPrograma(u"1.5.40"_s);
     QDir::setCurrent(carpetaDeTrabajo());

@@ -66,7 +66,12 @@ bool soloParaSuDuena(QFileDevice &archivo)
     if (::SetEntriesInAclW(1, &entrada, nullptr, &lista) != ERROR_SUCCESS)
         return false;
     const std::unique_ptr<ACL, HLOCAL(WINAPI *)(HLOCAL)> suya(lista, ::LocalFree);
-    return ::SetNamedSecurityInfoW(ruta.data(), SE_FILE_OBJECT,
-                                   DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
-                                   nullptr, nullptr, lista, nullptr) == ERROR_SUCCESS;
+    SECURITY_DESCRIPTOR permisos = {};
+    // Not by SetNamedSecurityInfo: Wine's adds what the folder hands down whatever it is told.
+    return ::InitializeSecurityDescriptor(&permisos, SECURITY_DESCRIPTOR_REVISION) &&
+           ::SetSecurityDescriptorDacl(&permisos, TRUE, lista, FALSE) &&
+           ::SetSecurityDescriptorControl(&permisos, SE_DACL_PROTECTED, SE_DACL_PROTECTED) &&
+           ::SetFileSecurityW(ruta.data(),
+                              DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
+                              &permisos);
 }

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QScopedValueRollback>
+#include <QSettings>
 #include <QTabBar>
 #include <QTest>
 #include <QTextStream>
@@ -137,7 +138,10 @@ bool Piloto::da(const QString &orden, const QString &control, const QString &res
     return true;
 }
 
+/// Made with the application, before anybody has asked for the settings.
 QObject *PilotoPlugin::create(const QString &, const QString &)
 {
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                       qEnvironmentVariable("PILOTO_AJUSTES"));
     return new Piloto(qEnvironmentVariable("PILOTO_GUION"));
 }

@@ -8,8 +8,9 @@
 
 /// Sits at the controls of a program as a student would: clicks and keys, found by object name. Qt
 /// loads it into the program as it is given away (QT_QPA_GENERIC_PLUGINS), which knows nothing of
-/// it. A script (file PILOTO_GUION) has a step a line; a step waits for its control to be there,
-/// visible and enabled:
+/// it. The settings are those below the folder PILOTO_AJUSTES, on systems too where an account has
+/// only one such folder. A script (file PILOTO_GUION) has a step a line; a step waits for its
+/// control to be there, visible and enabled:
 ///
 ///     pulsa BUTTON | escribe FIELD TEXT | tema CAPTION | fila VIEW ROW
 ///     espera CONTROL TEXT     until the text of the control begins so
