@@ -155,12 +155,14 @@
         if (!navigator.locks)
             return hace();
         const tarde = setTimeout(() => falla("otra"), esperaALaOtra);
-        return navigator.locks.request("numora", async () => {
+        return navigator.locks.request("numora", () => {
             clearTimeout(tarde);
             avance.hidden = false;
             estado.setAttribute("role", "status");
-            await hace();
-            return new Promise(() => {});
+            hace();
+            // A browser may keep a page that one has left, and its lock with it: the next one must not wait for that.
+            addEventListener("pageshow", ({ persisted }) => persisted && location.reload());
+            return new Promise((suelta) => addEventListener("pagehide", suelta));
         });
     }
 
