@@ -85,9 +85,9 @@ std::int32_t GrupoUnidades::representante(std::int64_t a) const
     return static_cast<std::int32_t>((a % m_n + m_n) % m_n);
 }
 
-Potencias GrupoUnidades::potencias(std::int32_t a) const
+PotenciasDeElemento GrupoUnidades::potencias(std::int32_t a) const
 {
-    Potencias resultado;
+    PotenciasDeElemento resultado;
     QList<int> lugar(m_n, -1);
     std::int32_t potencia = 1 % m_n;
     while (lugar[potencia] < 0) {

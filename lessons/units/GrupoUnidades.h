@@ -13,7 +13,7 @@ struct Unidad
 };
 
 /// The powers of an element of Z_n until they repeat.
-struct Potencias
+struct PotenciasDeElemento
 {
     QList<std::int32_t> valores; ///< a^0, a^1, … without repetition
     int vuelta = 0;              ///< where the next power falls: 0 for a unit
@@ -47,7 +47,7 @@ public:
     /// The element of 0..n-1 that is congruent to `a`.
     std::int32_t representante(std::int64_t a) const;
 
-    Potencias potencias(std::int32_t a) const;
+    PotenciasDeElemento potencias(std::int32_t a) const;
 
 private:
     std::int32_t m_n;

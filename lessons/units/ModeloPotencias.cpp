@@ -6,7 +6,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-void ModeloPotencias::pon(const Potencias &potencias)
+void ModeloPotencias::pon(const PotenciasDeElemento &potencias)
 {
     beginResetModel();
     m_potencias = potencias;

@@ -17,7 +17,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     /// Without powers the grid is empty.
-    void pon(const Potencias &potencias);
+    void pon(const PotenciasDeElemento &potencias);
 
     int rowCount(const QModelIndex &padre = {}) const override;
     int columnCount(const QModelIndex &padre = {}) const override;
@@ -25,5 +25,5 @@ public:
     QVariant headerData(int seccion, Qt::Orientation orientacion, int rol) const override;
 
 private:
-    Potencias m_potencias;
+    PotenciasDeElemento m_potencias;
 };

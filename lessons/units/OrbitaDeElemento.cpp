@@ -19,7 +19,7 @@ constexpr qreal Radio = 50; ///< of the circle, in units of the drawing
 class Rueda
 {
 public:
-    explicit Rueda(const Potencias &potencias)
+    explicit Rueda(const PotenciasDeElemento &potencias)
         : m_cola(potencias.vuelta),
           m_vuelta(potencias.valores.size() - potencias.vuelta),
           m_punto(
@@ -56,7 +56,7 @@ private:
     qreal m_punto;
 };
 
-QString descripcion(const Potencias &potencias)
+QString descripcion(const PotenciasDeElemento &potencias)
 {
     const qsizetype vuelta = potencias.valores.size() - potencias.vuelta;
     return potencias.vuelta == 0
@@ -68,7 +68,7 @@ QString descripcion(const Potencias &potencias)
 
 } // namespace
 
-Lamina orbitaDeElemento(const Potencias &potencias, qsizetype hasta)
+Lamina orbitaDeElemento(const PotenciasDeElemento &potencias, qsizetype hasta)
 {
     const qsizetype todas = potencias.valores.size();
     if (todas > MasPotencias)

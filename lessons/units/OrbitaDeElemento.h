@@ -7,4 +7,4 @@
 /// The powers of an element on a circle, with the arrows from each to the next up to the one of
 /// exponent `hasta`. What never comes back stands in a tail in front of it. Of more than 60 powers
 /// only the points are drawn, of more than 400 nothing.
-Lamina orbitaDeElemento(const Potencias &potencias, qsizetype hasta);
+Lamina orbitaDeElemento(const PotenciasDeElemento &potencias, qsizetype hasta);

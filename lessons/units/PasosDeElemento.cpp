@@ -22,7 +22,8 @@ QString cifras(qint64 n)
 }
 
 /// The power of exponent k, or in the last step that which repeats.
-Paso potencia(const GrupoUnidades &grupo, const Potencias &potencias, std::int32_t a, qsizetype k)
+Paso potencia(const GrupoUnidades &grupo, const PotenciasDeElemento &potencias, std::int32_t a,
+              qsizetype k)
 {
     const qsizetype todas = potencias.valores.size();
     const bool ultima = k == todas;
@@ -45,7 +46,7 @@ Paso potencia(const GrupoUnidades &grupo, const Potencias &potencias, std::int32
 /// Of many powers the first ones and the one that repeats.
 Pasos orbita(const GrupoUnidades &grupo, std::int32_t a)
 {
-    const Potencias potencias = grupo.potencias(a);
+    const PotenciasDeElemento potencias = grupo.potencias(a);
     const qsizetype todas = potencias.valores.size();
     return Pasos(std::min(todas, MasPasos) + 1, [grupo, potencias, a, todas](qsizetype i) {
         return potencia(grupo, potencias, a, i == MasPasos ? todas : i);

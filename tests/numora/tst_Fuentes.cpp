@@ -83,6 +83,27 @@ private Q_SLOTS:
         }
     }
 
+    /// To the linker two of one name are one: one's destructor takes the other's apart.
+    void cadaTipoSeLlamaDeOtroModo()
+    {
+        static const QRegularExpression tipo(
+            u"^(?:class|struct|enum class) (\\w+)(?: final)?(?: :[^;{]*)?\\s*\\{"_s,
+            QRegularExpression::MultilineOption);
+        QHash<QString, QString> donde;
+        for (const QString &fuente : m_fuentes) {
+            if (!fuente.endsWith(u".h"_s) || fuente.contains(u"/system/windows/"_s))
+                continue; // where each system has its own of what another has
+            const QString texto = contenido(fuente);
+            for (const auto &hallado : tipo.globalMatch(texto)) {
+                QString &otra = donde[hallado.captured(1)];
+                QVERIFY2(otra.isEmpty(),
+                         qPrintable(hallado.captured(1) + u": "_s + otra + u", "_s + fuente));
+                otra = fuente;
+            }
+        }
+        QVERIFY(donde.size() > 300);
+    }
+
 private:
     static QString raiz() { return QStringLiteral(FUENTES) + u'/'; }
     static QString contenido(const QString &fuente)

@@ -73,7 +73,7 @@ private Q_SLOTS:
     void potencias()
     {
         const auto [n, a, valores, vuelta] = estaFila<int, int, QString, int>();
-        const Potencias potencias = GrupoUnidades(n).potencias(a);
+        const PotenciasDeElemento potencias = GrupoUnidades(n).potencias(a);
         QStringList halladas;
         for (const std::int32_t potencia : potencias.valores)
             halladas << QString::number(potencia);

@@ -61,8 +61,8 @@ private Q_SLOTS:
     /// One point a power, and an arrow from each that has been left.
     void laOrbita()
     {
-        const Potencias vuelve = GrupoUnidades(14).potencias(3),
-                        cola = GrupoUnidades(12).potencias(2);
+        const PotenciasDeElemento vuelve = GrupoUnidades(14).potencias(3),
+                                  cola = GrupoUnidades(12).potencias(2);
         QCOMPARE(dibujo(orbitaDeElemento(vuelve, 6)), u"6 points, 6 arrows, 1 here"_s);
         QCOMPARE(dibujo(orbitaDeElemento(vuelve, 2)), u"6 points, 2 arrows, 1 here"_s);
         QCOMPARE(dibujo(orbitaDeElemento(cola, 4)), u"4 points, 4 arrows, 1 here"_s);
