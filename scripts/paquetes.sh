@@ -12,7 +12,7 @@ PAQUETES_PACKAGE=(dpkg-dev file lintian appstream desktop-file-utils mandoc xvfb
 PAQUETES_WINDOWS=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 fonts-wine fonts-dejavu-core nsis python3 unzip librsvg2-bin pngquant icoutils make m4 tcl dpkg-dev
     xvfb openbox xdotool imagemagick)
 PAQUETES_BARE=(librsvg2-bin pngquant)
-PAQUETES_FUZZ=(clang-14 libclang-rt-14-dev)
+PAQUETES_FUZZ=(clang-14 libclang-rt-14-dev lld-14)
 PAQUETES_WEB=(emscripten dpkg-dev make m4 tcl librsvg2-bin pngquant nodejs node-ws chromium python3)
 PAQUETES_BENCH=(libbenchmark-dev libpari-dev pari-gp)
 

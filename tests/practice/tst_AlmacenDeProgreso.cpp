@@ -56,11 +56,10 @@ private Q_SLOTS:
         AlmacenDeProgreso almacen(datos());
         qint64 id = 0;
         almacen.anota(hechoDe(u"a.b"_s), id);
-#if defined(Q_OS_WIN) // where SQLite leaves its journals to what the folder grants
-        const QStringList suyos{AlmacenDeProgreso::nombreDeArchivo()};
-#else
-        const QStringList suyos = QDir(datos()).entryList(QDir::Files);
-#endif
+        // On Windows SQLite leaves its journals to what the folder grants.
+        const QStringList suyos = QSysInfo::kernelType() == u"winnt"_s
+                                      ? QStringList{AlmacenDeProgreso::nombreDeArchivo()}
+                                      : QDir(datos()).entryList(QDir::Files);
         for (const QString &archivo : suyos)
             QVERIFY2(esSoloDeSuDuena(datos() + u'/' + archivo), qPrintable(archivo));
         QCOMPARE(almacen.borraTodo(), QString());
@@ -206,14 +205,8 @@ private:
         }
     };
 
-    QString datos() const
-    {
-        return m_carpeta->filePath(u"datos"_s);
-    }
-    QString ruta() const
-    {
-        return datos() + u'/' + AlmacenDeProgreso::nombreDeArchivo();
-    }
+    QString datos() const { return m_carpeta->filePath(u"datos"_s); }
+    QString ruta() const { return datos() + u'/' + AlmacenDeProgreso::nombreDeArchivo(); }
 
     static Hecho hechoDe(const QString &clave)
     {
@@ -235,10 +228,7 @@ private:
         for (const QString &orden : ordenes)
             QVERIFY2(QSqlQuery(directa->base).exec(orden), qPrintable(orden));
     }
-    int uno(const QString &pregunta) const
-    {
-        return uno(pregunta, true).toInt();
-    }
+    int uno(const QString &pregunta) const { return uno(pregunta, true).toInt(); }
     QString uno(const QString &pregunta, bool) const
     {
         const auto directa = conexion();

@@ -88,7 +88,7 @@ Tarea<> FormPrimosCriba::BtnCriba_Click()
     const std::int32_t limite = cota->aEntero32();
     const bool propia = ui->optTipoCriba_0->isChecked();
     ponEnMarcha();
-    auto marcha = m_boton->empieza(m_tareas.billete());
+    const auto marcha = m_boton->empieza(m_tareas.billete());
     const Billete billete = marcha.billete();
     co_await billete.cederYa();
     const auto avance = [&](int porcentaje) {
@@ -102,12 +102,10 @@ Tarea<> FormPrimosCriba::BtnCriba_Click()
         lista = co_await listaPrimos(limite, billete, avance);
     if (!marcha.vigente())
         co_return;
-    marcha.termina();
     muestraPrimos(std::move(lista), billete.detenida());
     // The list and the steps would together keep a click waiting.
-    const auto turno = m_boton->turno();
     co_await billete.cederYa();
-    if (turno == m_boton->turno())
+    if (marcha.vigente())
         m_pasos->pon(pasosDeCriba(limite));
 }
 
