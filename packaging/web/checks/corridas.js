@@ -12,7 +12,7 @@ module.exports = async (prueba) => {
         { type, key: "Shift", code: "ShiftLeft", windowsVirtualKeyCode: 16 });
 
     /// The longest that a key waits for the page, in ms, while something goes on: Shift, which does nothing, is pressed and
-    /// released all the time, each time as soon as the page has heard the last one.
+    /// released every few milliseconds, whether the page has heard the last one or not.
     async function mientras(hace) {
         await prueba.navegador.evalua(`(() => {
             window.esperas = [];
@@ -22,9 +22,11 @@ module.exports = async (prueba) => {
         })()`);
         const antes = Date.now();
         let acabado = false;
+        const oidas = [];
         const teclas = (async () => {
-            for (let abajo = false; !acabado || abajo; await prueba.espera(4))
-                await tecla((abajo = !abajo) ? "keyDown" : "keyUp");
+            for (let abajo = false; !acabado || abajo; await prueba.espera(6))
+                oidas.push(tecla((abajo = !abajo) ? "keyDown" : "keyUp"));
+            await Promise.all(oidas);
         })();
         try {
             await hace();
@@ -33,7 +35,7 @@ module.exports = async (prueba) => {
             await teclas;
         }
         const [cuantas, mayor] = await prueba.navegador.evalua("[esperas.length, Math.max(...esperas)]");
-        if (cuantas < (Date.now() - antes) / 250)
+        if (cuantas < (Date.now() - antes) / 40)
             throw new Error(`only ${cuantas} keys were heard`);
         return Math.round(mayor);
     }

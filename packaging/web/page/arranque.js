@@ -155,16 +155,29 @@
         if (!navigator.locks)
             return hace();
         const tarde = setTimeout(() => falla("otra"), esperaALaOtra);
-        return navigator.locks.request("numora", async () => {
+        return navigator.locks.request("numora", () => {
             clearTimeout(tarde);
             avance.hidden = false;
             estado.setAttribute("role", "status");
-            await hace();
-            return new Promise(() => {});
+            hace();
+            // A browser may keep a page that one has left, and its lock with it: the next one must not wait for that.
+            addEventListener("pageshow", ({ persisted }) => persisted && location.reload());
+            return new Promise((suelta) => addEventListener("pagehide", suelta));
         });
     }
 
+    /// A browser may keep a page that one has left, asleep, to come back to it: with the database that it was about to open,
+    /// for which all later ones then wait. A message wakes no page; a browser that has to deliver one to such a page drops it.
+    function despideALasDormidas() {
+        if (!window.BroadcastChannel)
+            return;
+        const canal = new BroadcastChannel("numora");
+        canal.onmessage = () => {};
+        canal.postMessage("llega otra");
+    }
+
     preparaPagina();
+    despideALasDormidas();
     if ("serviceWorker" in navigator)
         navigator.serviceWorker.register("servicio.js").catch((error) => console.warn(error));
     soloUna(() => cargaGuion("numora.js").then(arranca).catch((error) => falla("red", error)));
