@@ -26,6 +26,7 @@ remite() {
     orden "$1" rsa_remitente
     for ((vuelta = 1; vuelta <= vueltas; vuelta++)); do
         dichos=$lugar/enviados-$1$2v$vuelta
+        : >"$dichos" # counted before the sender may have begun
         "${palabras[@]}" ana "$1$2v$vuelta" 60 claves >"$dichos" 2>>"$lugar/errores" &
         proceso=$!
         if [ "$vuelta" -lt "$vueltas" ]; then
