@@ -44,27 +44,23 @@ QString FuncionEuler::Factor::potencia() const
     return exponente == u"1"_s ? primo : primo + u'^' + exponente;
 }
 
-FuncionEuler::FuncionEuler(const QString &n) : m_n(n)
+FuncionEuler::FuncionEuler(const QString &n) : FuncionEuler(n, Descompone(n)) {}
+
+FuncionEuler::FuncionEuler(const QString &n, const Descomposicion &factores) : m_n(n)
 {
-    // k different primes have a product of at least 2k - 1 bits.
-    const qsizetype cuantos = NumeroDeBits(n) / 2 + 1;
-    QStringList primos(cuantos), exponentes(cuantos);
-    const bool completa = Factoriza(n, primos, exponentes) != 0;
     QStringList valores;
     QStringList compuestos;
-    for (qsizetype i = 0; i < cuantos && !primos[i].isEmpty(); ++i) {
-        Factor factor{primos[i], exponentes[i], {}};
-        if (!completa && !EsPrimo(primos[i])) {
+    for (const Descomposicion::Parte &parte : factores.partes) {
+        const Factor factor{parte.base, parte.exponente, parte.fi};
+        if (factor.fi.isEmpty()) {
             compuestos << factor.potencia();
             continue;
         }
-        // Of a prime power the service finds it at once.
-        factor.fi = FiEuler(producto(QStringList{primos[i] + u'^' + exponentes[i]}));
         valores << factor.fi;
         m_factores << factor;
     }
     m_compuesto = compuestos.join(Por);
-    if (completa)
+    if (factores.completa)
         m_valor = producto(valores);
 }
 

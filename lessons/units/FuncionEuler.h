@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "bignum/gateway/Descomposicion.h"
+
 #include <QList>
 #include <QString>
 
@@ -23,6 +25,8 @@ public:
     /// Factors n ≥ 1, given by its decimal digits. A number of hundreds of digits without small
     /// factors keeps the caller waiting up to two minutes.
     explicit FuncionEuler(const QString &n);
+    /// Of an n that is factored already.
+    FuncionEuler(const QString &n, const Descomposicion &factores);
 
     /// Empty where the factors of n could not be found.
     const QString &valor() const { return m_valor; }

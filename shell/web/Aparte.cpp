@@ -21,8 +21,8 @@ constexpr qsizetype CifrasDePrimoEnSeguida = 40;
 constexpr qsizetype CifrasDeFactoresEnSeguida = 16;
 
 // The worker (apart.js) is sent the name of an operation and its datum. It answers by lines of
-// fields that tabulators part: "factor" and the fields of a BignumFactor as often as one is found,
-// at the end "end" and the result.
+// fields that tabulators part: "factor" and the fields of a factor as often as one is found, at the
+// end "end" and the result.
 
 // Without arrows, which clang-format would break.
 EM_JS(void, empiezaTrabajador, (int numero, const char *orden, const char *dato), {
@@ -161,6 +161,29 @@ Tarea<FinDeFactores> Aparte::buscaFactores(QString n, RecibeFactor recibe, Bille
             co_return FinDeFactores::Detenido;
     }
     co_return fin.isEmpty() ? FinDeFactores::Detenido : FinDeFactores(fin.toInt());
+}
+
+Tarea<Descomposicion> Aparte::descompone(QString n, Billete billete)
+{
+    if (n.size() <= CifrasDeFactoresEnSeguida)
+        co_return Descompone(n);
+    Llamada llamada(u"split"_s, n, billete);
+    co_await llamada.acabada();
+    Descomposicion resultado;
+    resultado.completa = llamada.resultado() == u"1";
+    for (const QStringList &linea : llamada.lineas()) {
+        if (linea.first() == u"factor")
+            resultado.partes << Descomposicion::Parte{linea.value(1), linea.value(2),
+                                                      linea.value(3)};
+    }
+    co_return resultado;
+}
+
+Tarea<QString> Aparte::fiEuler(QString n, Billete billete)
+{
+    if (n.size() <= CifrasDeFactoresEnSeguida)
+        co_return FiEuler(n);
+    co_return co_await pide(u"totient"_s, n, billete);
 }
 
 Tarea<bool> Aparte::esPrimo(QString n, Billete billete)

@@ -118,19 +118,50 @@ bool ClsRSA::faltanDatos() const
     return m_q[1].isEmpty() || m_q[2].isEmpty() || m_s.isEmpty();
 }
 
+bool ClsRSA::cabe() const
+{
+    return m_q[1].size() + m_q[2].size() <= MaximoDeCifras && m_s.size() <= MaximoDeCifras;
+}
+
 /// Refuses numbers that no key file could hold, before hours go into the test of a prime.
 void ClsRSA::compruebaTamano() const
 {
-    if (m_q[1].size() + m_q[2].size() <= MaximoDeCifras && m_s.size() <= MaximoDeCifras)
+    if (cabe())
         return;
     throw ErrorEjecucion(
         ErrorEjecucion::Desbordamiento,
         Traduce(u"Los números de una clave tienen como mucho %1 cifras."_s).arg(MaximoDeCifras));
 }
 
+QStringList ClsRSA::porProbar() const
+{
+    QStringList numeros;
+    for (const int i : {1, 2}) {
+        if (!faltanDatos() && cabe() && !m_probados.contains(q(i)))
+            numeros << q(i);
+    }
+    return numeros;
+}
+
+void ClsRSA::sabe(const QString &numero, bool primo) const
+{
+    constexpr qsizetype cuantos = 4;
+    if (m_probados.size() >= cuantos)
+        m_probados.clear();
+    m_probados[numero] = primo;
+}
+
+/// Each number is tested once: a key is validated with every message.
+bool ClsRSA::esPrimo(const QString &numero) const
+{
+    if (!m_probados.contains(numero))
+        sabe(numero, EsPrimo(numero));
+    return m_probados.value(numero);
+}
+
 QString ClsRSA::objecionAPrimo(int i) const
 {
-    if (!EsPrimo(q(i)))
+    if (!esPrimo(q(i)))
         return u"q(%1)"_s.arg(i) + Traduce(u" debe ser primo."_s);
     // The largest number that r characters can give.
     const QString cota = u"255"_s.repeated(std::max<int>(m_r, 0));

@@ -4,6 +4,7 @@
 #include "lessons/rsa/key/Cifrado.h"
 #include "lessons/rsa/key/FicheroDeClave.h"
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -81,6 +82,11 @@ public:
     /// nothing, or while one of them is missing. Changes nothing.
     QString Objecion() const;
 
+    /// The numbers that Valida would test for being prime, and nobody has tested yet.
+    QStringList porProbar() const;
+    /// What is known of one of them: it is not tested again.
+    void sabe(const QString &numero, bool primo) const;
+
     /// The path of the private key file: the working folder and the login name, or the user's data
     /// folder where the working folder cannot be written.
     QString FicheroClavePrivada() const;
@@ -107,12 +113,15 @@ Q_SIGNALS:
 
 private:
     bool faltanDatos() const;
+    bool cabe() const;
     void compruebaTamano() const;
+    bool esPrimo(const QString &numero) const;
     QString objecionAPrimo(int i) const;
     QString objecionATamano(std::int32_t bits) const;
     void rechaza(const QString &mensaje);
 
     clsSesión &m_sesion;
+    mutable QHash<QString, bool> m_probados; ///< of the numbers tested last, which are prime
     FicheroDeClave m_fichero;
     std::array<QString, 3> m_q;
     QString m_fiQ, m_s, m_t, m_errores;

@@ -5,6 +5,7 @@
 #include "lessons/rsa/steps/RaicesEnteras.h"
 #include "shell/core/Formatos.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/run/Aparte.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -14,8 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// Divisors are tried up to the first bound, and fewer where a division costs more; numbers of up
-/// to so many digits are then left to the service, which splits them in some 15 ms: it does not
-/// yield.
+/// to so many digits are then left to the service, which splits them in some 15 ms and does not
+/// yield where it does not run apart.
 constexpr std::int64_t MayorDivisor = 20'000'000;
 constexpr std::int64_t MasOperaciones = 400'000'000;
 constexpr qsizetype CifrasDelServicio = 40;
@@ -98,17 +99,18 @@ Paso divididos(std::int64_t hasta, const Victima &v)
 }
 
 /// The primes of a short q by the service; empty where it finds none.
-QStringList delServicio(const QString &q)
+Tarea<QStringList> delServicio(QString q, Billete billete)
 {
     QStringList primos;
-    BuscaFactores(q, [&primos](const FactorHallado &factor) {
+    const RecibeFactor recibe = [&primos](const FactorHallado &factor) {
         if (factor.primo)
             primos.append(QStringList(static_cast<qsizetype>(factor.exponente), factor.base));
         return true;
-    });
+    };
+    co_await Aparte::buscaFactores(q, recibe, billete);
     std::sort(primos.begin(), primos.end(),
               [](const QString &a, const QString &b) { return EnteroLargo(a) < EnteroLargo(b); });
-    return primos;
+    co_return primos;
 }
 
 ResultadoDeAtaque dividido(const Victima &v, const QString &p, const QString &otro)
@@ -173,7 +175,9 @@ Tarea<ResultadoDeAtaque> porFactorizacion(Victima v, Billete billete)
     const Paso divisiones = divididos(tanteo.hasta, v);
     if (v.q.size() > CifrasDelServicio)
         co_return abandonado(v, divisiones);
-    const QStringList primos = delServicio(v.q);
+    const QStringList primos = co_await delServicio(v.q, billete);
+    if (billete.detenida())
+        co_return detenido();
     if (primos.size() != 2)
         co_return abandonado(v, divisiones);
     co_return descompuesto(v, divisiones, primos);

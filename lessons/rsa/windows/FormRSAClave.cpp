@@ -8,6 +8,7 @@
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
 #include "shell/core/Rutas.h"
+#include "shell/core/run/Aparte.h"
 #include "shell/frame/Interlocutor.h"
 #include "shell/frame/Relleno.h"
 #include "shell/frame/Veredicto.h"
@@ -27,8 +28,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// While a number is typed, numbers up to this size are tested at each key; the test of larger ones
-/// would be felt in the fingers.
+/// would be felt in the fingers. In a browser, which reckons ten times slower, the smaller ones.
 constexpr qsizetype CifrasAlVuelo = 700;
+constexpr qsizetype CifrasAlVueloAparte = 150;
 
 /// What the key's number of characters can hold.
 constexpr double MayorR = std::numeric_limits<std::int16_t>::max();
@@ -216,16 +218,38 @@ void FormRSAClave::avisaDeEspera()
 
 bool FormRSAClave::esLarga() const
 {
-    return std::max({ui->txtQ_1->text().size(), ui->txtQ_2->text().size(),
-                     ui->txtS->text().size()}) > CifrasAlVuelo;
+    return std::max(
+               {ui->txtQ_1->text().size(), ui->txtQ_2->text().size(), ui->txtS->text().size()}) >
+           (Aparte::responde() ? CifrasAlVueloAparte : CifrasAlVuelo);
 }
 
-void FormRSAClave::valida()
+/// Tests the primes of the key where the window answers meanwhile; the validation then knows of
+/// them. Where that cannot be done, it tests them itself.
+Tarea<> FormRSAClave::pruebaAparte()
+{
+    if (!Aparte::responde())
+        co_return;
+    const QStringList numeros = m_clave->porProbar();
+    try {
+        for (const QString &numero : numeros) {
+            const bool primo = co_await Aparte::esPrimo(numero, m_tareas.billete());
+            m_clave->sabe(numero, primo);
+        }
+    } catch (const ErrorEjecucion &error) {
+        qWarning("%s", qPrintable(error.texto()));
+    }
+}
+
+Tarea<> FormRSAClave::valida()
 {
     if (esLarga()) {
         setCursor(Qt::WaitCursor);
         avisaDeEspera();
     }
+    const int turno = ++m_turno;
+    co_await pruebaAparte();
+    if (turno != m_turno)
+        co_return;
     const auto alFinal = qScopeGuard([this] {
         unsetCursor();
         muestraDerivados();
@@ -241,7 +265,7 @@ void FormRSAClave::txtQ_Return(int i)
     m_clave->ponq(i, txtQ(i)->text());
     ui->txtFiQ->setText({});
     ui->txtT->setText({});
-    valida();
+    m_tareas.lanza(valida());
 }
 
 void FormRSAClave::txtQ_Validate(int i)
@@ -254,7 +278,7 @@ void FormRSAClave::txtQ_Validate(int i)
 void FormRSAClave::txtS_Return()
 {
     m_clave->pons(ui->txtS->text());
-    valida();
+    m_tareas.lanza(valida());
 }
 
 void FormRSAClave::txtS_Validate()
@@ -271,7 +295,7 @@ void FormRSAClave::txtR_Change()
         return muestraObjecion();
     m_clave->ponr(aEntero16(NumVal(ui->txtR->text())));
     muestraObjecion();
-    valida();
+    m_tareas.lanza(valida());
 }
 
 void FormRSAClave::ChkNumBits_Click()

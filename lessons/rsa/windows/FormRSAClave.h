@@ -44,7 +44,6 @@ Q_SIGNALS:
     /// because it could not be saved.
     void validada();
 
-protected:
 private:
     CampoLargo *txtQ(int i) const;
     enum class Estado { Neutro, Bien, Mal };
@@ -57,7 +56,8 @@ private:
     bool muestraLaClave() const;
     void actualizaPasos();
     bool esLarga() const;
-    void valida();
+    Tarea<> valida();
+    Tarea<> pruebaAparte();
 
     void txtQ_Validate(int i);
     void txtQ_Return(int i);
@@ -78,5 +78,6 @@ private:
     QString m_textoDeEstado;
     bool m_publicada = false;  ///< what is shown is that the key was published
     bool m_rPendiente = false; ///< of what is in the field, the key knows nothing yet
+    int m_turno = 0;           ///< of the last validation: one that comes back later shows nothing
     TareasDeVentana m_tareas{this};
 };

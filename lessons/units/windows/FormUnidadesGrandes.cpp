@@ -8,17 +8,15 @@
 #include "lessons/units/PasosDeUnidades.h"
 #include "shell/core/Lectura.h"
 #include "shell/core/ModGlobal.h"
+#include "shell/core/run/Aparte.h"
 #include "shell/core/steps/PasosDeInverso.h"
 #include "shell/core/steps/PasosDePotencia.h"
-#include "shell/frame/Evento.h"
 #include "shell/frame/Veredicto.h"
 #include "shell/look/Aspecto.h"
 #include "shell/look/Imagenes.h"
 #include "shell/look/Textos.h"
 #include "shell/steps/PanelDePasos.h"
 #include "ui_FormUnidadesGrandes.h"
-
-#include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -42,12 +40,19 @@ FormUnidadesGrandes::FormUnidadesGrandes(QWidget *leccion)
     ui->cmdEjemplo->setIcon(Icono(u"DADO"_s));
     for (QLabel *rotulo : {ui->lblMcd, ui->lblFi})
         Aspecto::destaca(rotulo, 1.1);
+    m_corrida =
+        new BotonDeCorrida(ui->cmdDetener, BotonDeCorrida::detener(), BotonDeCorrida::detener());
+    m_corrida->ponEspera(m_leccion);
+    ui->cmdDetener->hide();
     txtGrande_Change();
 
     conecta(ui->cmdInverso, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdInverso_Click);
     conecta(ui->cmdFi, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdFi_Click);
     conecta(ui->cmdFactores, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdFactores_Click);
     conecta(ui->cmdEjemplo, &QPushButton::clicked, this, &FormUnidadesGrandes::cmdEjemplo_Click);
+    conecta(ui->cmdDetener, &QPushButton::clicked, this, [this] { m_corrida->detiene(); });
+    conecta(m_corrida, &BotonDeCorrida::detenida, this, &FormUnidadesGrandes::detenida);
+    conecta(m_corrida, &BotonDeCorrida::terminada, this, &FormUnidadesGrandes::quitaDetener);
     for (const CampoLargo *campo : {ui->txtNGrande, ui->txtAGrande}) {
         conecta(campo, &CampoLargo::textoCambiado, this, &FormUnidadesGrandes::txtGrande_Change);
         conecta(campo, &CampoLargo::returnPressed, this,
@@ -57,9 +62,10 @@ FormUnidadesGrandes::FormUnidadesGrandes(QWidget *leccion)
 
 FormUnidadesGrandes::~FormUnidadesGrandes() = default;
 
-/// Results belong to the numbers that they were calculated from.
+/// Results belong to the numbers that they were calculated from, and so does a run.
 void FormUnidadesGrandes::txtGrande_Change()
 {
+    m_corrida->detiene();
     muestraNeutro(ui->lblMcd, Traduce(u"Escriba a y n y pulse «Inverso»."_s));
     muestraNeutro(ui->lblFi, Traduce(u"Escriba n y pulse «Función de Euler» o «Paso a paso»."_s));
     ui->txtInverso->setText({});
@@ -115,26 +121,48 @@ void FormUnidadesGrandes::cmdInverso_Click()
     ui->txtInverso->setText(resultado.inverso);
 }
 
-void FormUnidadesGrandes::anunciaEspera()
+/// The hourglass and a line, which stand on screen before a call begins that lets nothing be
+/// painted; where the window answers meanwhile, a button that stops it.
+BotonDeCorrida::Marcha FormUnidadesGrandes::empiezaEspera()
 {
     muestraNeutro(ui->lblFi, Traduce(u"Buscando los factores de n… (puede tardar dos minutos)"_s));
     ui->lblFi->repaint();
-    m_leccion->setCursor(Qt::WaitCursor);
+    ui->cmdDetener->setVisible(Aparte::responde());
+    return m_corrida->empieza(m_tareas.billete());
 }
 
-void FormUnidadesGrandes::cmdFi_Click()
+/// At once, though what computes may take a moment to end.
+void FormUnidadesGrandes::detenida()
 {
+    quitaDetener();
+    muestraNeutro(ui->lblFi, Traduce(u"Detenida."_s));
+}
+
+void FormUnidadesGrandes::quitaDetener()
+{
+    // Who stops by the keyboard does not lose it.
+    if (ui->cmdDetener->hasFocus())
+        ui->txtNGrande->setFocus();
+    ui->cmdDetener->hide();
+}
+
+Tarea<> FormUnidadesGrandes::cmdFi_Click()
+{
+    if (m_corrida->enMarcha())
+        co_return;
     ui->txtFi->clear();
     m_fi.clear();
     const auto n = modulo(ui->lblFi);
     if (!n)
-        return;
-    anunciaEspera();
-    const auto cursor = qScopeGuard([this] { m_leccion->unsetCursor(); });
-    const auto fi = sinError(FiEuler(*n));
+        co_return;
+    const auto marcha = empiezaEspera();
+    const QString valor = co_await Aparte::fiEuler(*n, marcha.billete());
+    if (marcha.billete().detenida())
+        co_return;
+    const auto fi = sinError(valor);
     if (!fi) {
         muestraNeutro(ui->lblFi, Traduce(u"La biblioteca no encuentra todos los factores de n."_s));
-        return;
+        co_return;
     }
     m_fi = *fi;
     m_pasos->pon(pasosDeEuler(*n, *fi));
@@ -142,20 +170,24 @@ void FormUnidadesGrandes::cmdFi_Click()
     muestraFi(*n, *fi, Traduce(u"φ(n), según la biblioteca."_s));
 }
 
-void FormUnidadesGrandes::cmdFactores_Click()
+Tarea<> FormUnidadesGrandes::cmdFactores_Click()
 {
+    if (m_corrida->enMarcha())
+        co_return;
     ui->txtFi->clear();
     const auto n = modulo(ui->lblFi);
     if (!n)
-        return;
-    anunciaEspera();
-    const auto cursor = qScopeGuard([this] { m_leccion->unsetCursor(); });
-    const FuncionEuler euler(*n);
+        co_return;
+    const auto marcha = empiezaEspera();
+    const Descomposicion factores = co_await Aparte::descompone(*n, marcha.billete());
+    if (marcha.billete().detenida())
+        co_return;
+    const FuncionEuler euler(*n, factores);
     m_pasos->pon(Pasos::seguidos({pasosDeFi(euler, *n), pasosDeEuler(*n, euler.valor())}));
     ui->txtFi->setPlainText(euler.pasos());
     if (euler.valor().isEmpty()) {
         muestraNeutro(ui->lblFi, Traduce(u"No se conocen todos los factores de n."_s));
-        return;
+        co_return;
     }
     muestraFi(*n, euler.valor(),
               euler.valor() == m_fi
@@ -183,9 +215,11 @@ void FormUnidadesGrandes::muestraFi(const QString &n, const QString &fi, const Q
             : rotulo);
 }
 
-void FormUnidadesGrandes::cmdEjemplo_Click()
+Tarea<> FormUnidadesGrandes::cmdEjemplo_Click()
 {
+    const auto bits = static_cast<std::int16_t>(AleatorioEntre(300, 600));
+    const QString primo = co_await Aparte::primoAleatorio(bits, m_tareas.billete());
     ui->txtNGrande->setText(moduloFacil(CifrasDelEjemplo));
-    ui->txtAGrande->setText(PrimoAleatorio(static_cast<std::int16_t>(AleatorioEntre(300, 600))));
+    ui->txtAGrande->setText(primo);
     cmdInverso_Click();
 }

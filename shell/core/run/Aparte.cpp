@@ -13,6 +13,16 @@ Tarea<FinDeFactores> Aparte::buscaFactores(QString n, RecibeFactor recibe, Bille
     co_return BuscaFactores(n, recibe);
 }
 
+Tarea<Descomposicion> Aparte::descompone(QString n, Billete)
+{
+    co_return Descompone(n);
+}
+
+Tarea<QString> Aparte::fiEuler(QString n, Billete)
+{
+    co_return FiEuler(n);
+}
+
 Tarea<bool> Aparte::esPrimo(QString n, Billete)
 {
     co_return EsPrimo(n);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "bignum/gateway/Descomposicion.h"
 #include "bignum/gateway/FactoresHallados.h"
 #include "shell/core/run/Billete.h"
 #include "shell/core/run/Tarea.h"
@@ -16,7 +17,9 @@ bool responde();
 /// As BuscaFactores. A stopped run gives what was found by then, and `Detenido`.
 Tarea<FinDeFactores> buscaFactores(QString n, RecibeFactor recibe, Billete billete);
 
-// As the functions of ModBignum; what a stopped run gives means nothing.
+// As Descompone and the functions of ModBignum; what a stopped run gives means nothing.
+Tarea<Descomposicion> descompone(QString n, Billete billete);
+Tarea<QString> fiEuler(QString n, Billete billete);
 Tarea<bool> esPrimo(QString n, Billete billete);
 Tarea<QString> primoSiguiente(QString n, Billete billete);
 Tarea<QString> primoAleatorio(std::int16_t bits, Billete billete);

@@ -3,6 +3,7 @@
 // What runs in the worker of a browser (packaging/web/page/apart.js): the operations of the
 // program's own gateway that may last, told to the page by lines (shell/web/Aparte.cpp).
 
+#include "bignum/gateway/Descomposicion.h"
 #include "bignum/gateway/FactoresHallados.h"
 #include "bignum/gateway/ModBignum.h"
 
@@ -35,10 +36,22 @@ bool entrega(const FactorHallado &f)
     return true;
 }
 
+QString descompuesto(const QString &n)
+{
+    const Descomposicion factores = Descompone(n);
+    for (const Descomposicion::Parte &parte : factores.partes)
+        di({u"factor"_s, parte.base, parte.exponente, parte.fi});
+    return factores.completa ? u"1"_s : u"0"_s;
+}
+
 QString resultado(const QString &orden, const QString &dato)
 {
     if (orden == u"factors")
         return QString::number(static_cast<int>(BuscaFactores(dato, entrega)));
+    if (orden == u"split")
+        return descompuesto(dato);
+    if (orden == u"totient")
+        return FiEuler(dato);
     if (orden == u"isprime")
         return EsPrimo(dato) ? u"1"_s : u"0"_s;
     if (orden == u"nextprime")
