@@ -101,23 +101,42 @@ module.exports = async (prueba) => {
         igual(await pide("pulsa", "cmdSigPrimo"), true);
         await hasta(async () => comparable(await pide("lee", "txtNúmero")) === String(10n ** 300n + 331n), "10^300+331");
     });
-    // The second is a prime, of which nothing is known before the end.
-    for (const [boton, larga] of [["cmdSigPrimo", String(10n ** 3000n)], ["cmdEsPrimo", String(2n ** 19937n - 1n)]]) {
+    // Of the prime nothing is known before the end, and of the product of two long ones, neither.
+    const producto = String((10n ** 44n + 31n) * (10n ** 45n + 9n));
+    for (const [tema, campo, boton, rotulo, larga] of [
+        ["primos/test", "txtNúmero", "cmdSigPrimo", "LabelPrimo", String(10n ** 3000n)],
+        ["primos/test", "txtNúmero", "cmdEsPrimo", "LabelPrimo", String(2n ** 19937n - 1n)],
+        ["unidades/grandes", "txtNGrande", "cmdFi", "lblFi", producto],
+        ["unidades/grandes", "txtNGrande", "cmdFactores", "lblFi", producto]]) {
         await comprueba("worker", `${boton} is ended by the button that stops it`, async () => {
-            igual(await pide("sigue", "primos/test"), "");
-            igual(await pide("escribe", "txtNúmero", larga), true);
+            igual(await pide("sigue", tema), "");
+            igual(await pide("escribe", campo, larga), true);
             igual(await pide("pulsa", boton), true);
             await hasta(async () => await apartes() === 1, "the worker");
             igual(await pide("enMarcha"), true);
             const mayor = await espera(async () => await apartes() === 1);
             igual(await pide("pulsa", "cmdDetener"), true);
-            igual(await pide("lee", "LabelPrimo"), "Detenida.");
+            igual(await pide("lee", rotulo), "Detenida.");
             await hasta(async () => await apartes() === 0, "the worker's end", 2000);
             igual(await pide("enMarcha"), false);
-            igual(await pide("lee", "txtNúmero"), larga);
+            igual(await pide("lee", campo), larga);
             return sirve(mayor);
         });
     }
+    await comprueba("worker", "Euler's function from the factors", async () => {
+        igual(await pide("sigue", `unidades/grandes?txtNGrande=${2n ** 67n - 1n}`), "");
+        igual(await pide("pulsa", "cmdFactores"), true);
+        await hasta(async () => comparable(await pide("lee", "txtFi")).endsWith(String(193707720n * 761838257286n)), "φ(2^67-1)");
+    });
+    await comprueba("worker", "tests the primes of a long key", async () => {
+        igual(await pide("sigue", "rsa/clave"), "");
+        for (const [campo, valor] of [["txtQ_1", 2n ** 3217n - 1n], ["txtQ_2", 2n ** 4253n - 1n], ["txtS", 65537n]])
+            igual(await pide("entra", campo, String(valor)), true);
+        await hasta(async () => await apartes() === 1, "the worker");
+        const mayor = await espera(async () => await apartes() === 1);
+        await hasta(async () => await pide("lee", "lblEstado") === "Clave OK", "the verdict", 120000);
+        return sirve(mayor);
+    });
     for (const [como, acaba] of [["its button", () => pide("deten")], ["the end of its window", () => pide("cierraLeccion")]]) {
         await comprueba("worker", `is ended by ${como}`, async () => {
             igual(await pide("sigue", `primos/factorizacion?OptAlgoritmo_2=1&TxtN=${largo}`), "");

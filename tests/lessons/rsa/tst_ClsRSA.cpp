@@ -90,6 +90,19 @@ private Q_SLOTS:
         QVERIFY(esSoloDeSuDuena(m_yo->ficheroPrivado()));
     }
 
+    /// What has been tested elsewhere is believed, and what has been tested here is kept.
+    void unPrimoSePruebaUnaVez()
+    {
+        pon(u"257 265 5 1 0"_s);
+        QCOMPARE(m_clave->porProbar(), (QStringList{u"257"_s, u"265"_s}));
+        m_clave->sabe(u"265"_s, true);
+        QCOMPARE(m_clave->porProbar(), QStringList{u"257"_s});
+        QCOMPARE(m_clave->Objecion(), QString());
+        QCOMPARE(m_clave->porProbar(), QStringList());
+        m_clave->ponq(1, QString(ClsRSA::MaximoDeCifras, u'1'));
+        QCOMPARE(m_clave->porProbar(), QStringList()); // too long for a key: refused untested
+    }
+
     void recupera_data()
     {
         QTest::addColumn<QByteArray>("fichero");
