@@ -225,14 +225,16 @@ bool FormRSAClave::esLarga() const
 
 /// Tests the primes of the key where the window answers meanwhile; the validation then knows of
 /// them. Where that cannot be done, it tests them itself.
-Tarea<> FormRSAClave::pruebaAparte()
+Tarea<> FormRSAClave::pruebaAparte(Billete billete)
 {
     if (!Aparte::responde())
         co_return;
     const QStringList numeros = m_clave->porProbar();
     try {
         for (const QString &numero : numeros) {
-            const bool primo = co_await Aparte::esPrimo(numero, m_tareas.billete());
+            const bool primo = co_await Aparte::esPrimo(numero, billete);
+            if (billete.detenida())
+                co_return;
             m_clave->sabe(numero, primo);
         }
     } catch (const ErrorEjecucion &error) {
@@ -246,9 +248,11 @@ Tarea<> FormRSAClave::valida()
         setCursor(Qt::WaitCursor);
         avisaDeEspera();
     }
-    const int turno = ++m_turno;
-    co_await pruebaAparte();
-    if (turno != m_turno)
+    // Of the numbers that stood there before nobody wants to know any more.
+    m_tareas.detener();
+    const Billete billete = m_tareas.billete();
+    co_await pruebaAparte(billete);
+    if (billete.detenida())
         co_return;
     const auto alFinal = qScopeGuard([this] {
         unsetCursor();

@@ -57,7 +57,7 @@ private:
     void actualizaPasos();
     bool esLarga() const;
     Tarea<> valida();
-    Tarea<> pruebaAparte();
+    Tarea<> pruebaAparte(Billete billete);
 
     void txtQ_Validate(int i);
     void txtQ_Return(int i);
@@ -78,6 +78,5 @@ private:
     QString m_textoDeEstado;
     bool m_publicada = false;  ///< what is shown is that the key was published
     bool m_rPendiente = false; ///< of what is in the field, the key knows nothing yet
-    int m_turno = 0;           ///< of the last validation: one that comes back later shows nothing
     TareasDeVentana m_tareas{this};
 };

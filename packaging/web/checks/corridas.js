@@ -134,7 +134,7 @@ module.exports = async (prueba) => {
             igual(await pide("entra", campo, String(valor)), true);
         await hasta(async () => await apartes() === 1, "the worker");
         const mayor = await espera(async () => await apartes() === 1);
-        await hasta(async () => await pide("lee", "lblEstado") === "Clave OK", "the verdict", 120000);
+        await hasta(async () => await pide("lee", "lblEstado") === "✓ Clave OK", "the verdict", 120000);
         return sirve(mayor);
     });
     for (const [como, acaba] of [["its button", () => pide("deten")], ["the end of its window", () => pide("cierraLeccion")]]) {
